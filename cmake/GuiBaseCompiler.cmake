@@ -1,0 +1,28 @@
+# SPDX-License-Identifier: MIT
+# Language level, warnings and sanitizers, gathered in one target that every target of the project
+# links privately: what is switched on here never reaches the users of the installed libraries.
+
+if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    find_program(GUIBASE_CCACHE ccache)
+    if(GUIBASE_CCACHE)
+        set(CMAKE_CXX_COMPILER_LAUNCHER "${GUIBASE_CCACHE}")
+    endif()
+endif()
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+if(GUIBASE_SANITIZE)
+    set(guibase_sanitizers address,undefined)
+    add_compile_options(-fsanitize=${guibase_sanitizers} -fno-sanitize-recover=undefined
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${guibase_sanitizers})
+endif()
+
+add_library(guibase_build_settings INTERFACE)
+target_compile_definitions(guibase_build_settings INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH)
+target_compile_options(guibase_build_settings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    $<$<BOOL:${GUIBASE_WARNINGS_AS_ERRORS}>:-Werror>)

@@ -1,0 +1,67 @@
+# SPDX-License-Identifier: MIT
+# Every library of the project is made by guibase_add_library(), so that all of them have an alias,
+# a generated export header, hidden visibility, a version and an installation rule.
+
+include(GenerateExportHeader)
+include(CMakePackageConfigHelpers)
+
+set(GUIBASE_INSTALL_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}/GuiBase")
+set(GUIBASE_INSTALL_CMAKEDIR "${CMAKE_INSTALL_LIBDIR}/cmake/GuiBase")
+
+# guibase_add_library(<name>
+#     HEADERS <public headers>   relative to the calling folder; installed
+#     SOURCES <sources and private headers>
+#     LINKS <public dependencies>
+#     PRIVATE_LINKS <private dependencies>)
+#
+# The public include path is the parent of the calling folder: <folder/header.h>. The export header
+# is <folder/folder_export.h> with the macro FOLDER_EXPORT.
+function(guibase_add_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;SOURCES;LINKS;PRIVATE_LINKS")
+    if(arg_UNPARSED_ARGUMENTS)
+        message(FATAL_ERROR "guibase_add_library(${name}): unknown words ${arg_UNPARSED_ARGUMENTS}")
+    endif()
+    cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
+    cmake_path(GET CMAKE_CURRENT_SOURCE_DIR PARENT_PATH base_dir)
+    set(generated_dir "${CMAKE_CURRENT_BINARY_DIR}/generated")
+
+    add_library(${name} SHARED ${arg_SOURCES})
+    add_library(GuiBase::${name} ALIAS ${name})
+    generate_export_header(${name}
+        BASE_NAME ${folder}
+        EXPORT_FILE_NAME "${generated_dir}/${folder}/${folder}_export.h")
+    target_sources(${name}
+        PUBLIC FILE_SET HEADERS BASE_DIRS "${base_dir}" FILES ${arg_HEADERS}
+        PUBLIC FILE_SET generated_headers TYPE HEADERS BASE_DIRS "${generated_dir}"
+               FILES "${generated_dir}/${folder}/${folder}_export.h")
+    target_include_directories(${name} INTERFACE
+        "$<INSTALL_INTERFACE:${GUIBASE_INSTALL_INCLUDEDIR}>")
+    target_link_libraries(${name}
+        PUBLIC ${arg_LINKS}
+        PRIVATE ${arg_PRIVATE_LINKS} $<BUILD_INTERFACE:guibase_build_settings>)
+    target_compile_features(${name} PUBLIC cxx_std_20)
+    set_target_properties(${name} PROPERTIES
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR})
+    install(TARGETS ${name} EXPORT GuiBaseTargets
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+        FILE_SET HEADERS DESTINATION "${GUIBASE_INSTALL_INCLUDEDIR}"
+        FILE_SET generated_headers DESTINATION "${GUIBASE_INSTALL_INCLUDEDIR}")
+endfunction()
+
+# Installs what find_package(GuiBase) reads.
+function(guibase_install_package)
+    install(EXPORT GuiBaseTargets NAMESPACE GuiBase:: DESTINATION "${GUIBASE_INSTALL_CMAKEDIR}")
+    configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/GuiBaseConfig.cmake.in"
+        "${PROJECT_BINARY_DIR}/GuiBaseConfig.cmake"
+        INSTALL_DESTINATION "${GUIBASE_INSTALL_CMAKEDIR}")
+    write_basic_package_version_file("${PROJECT_BINARY_DIR}/GuiBaseConfigVersion.cmake"
+        COMPATIBILITY SameMinorVersion)
+    install(FILES "${PROJECT_BINARY_DIR}/GuiBaseConfig.cmake"
+                  "${PROJECT_BINARY_DIR}/GuiBaseConfigVersion.cmake"
+        DESTINATION "${GUIBASE_INSTALL_CMAKEDIR}")
+endfunction()

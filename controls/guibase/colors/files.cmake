@@ -1,0 +1,3 @@
+# SPDX-License-Identifier: MIT
+set(colors_headers)
+set(colors_sources)

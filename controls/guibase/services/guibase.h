@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/guibase_export.h>
+#include <guibase/services/unitprefix.h>
+
+#include <trovappstartup/savecomponentif.h>
+#include <valueframework/persistant.h>
+
+#include <QFileDialog>
+#include <QObject>
+#include <QPixmap>
+#include <QString>
+
+#include <memory>
+
+class GuiBasePrivate;
+class ICfg;
+class QAction;
+class QApplication;
+class QComboBox;
+class QDockWidget;
+class QMainWindow;
+class QMenu;
+class QWidget;
+class SortListView;
+class Splitter;
+class ValueSelection;
+
+/// The services that all windows of an application share: display settings, style, help menu,
+/// splash, hot keys, and window layouts that come back after a restart.
+///
+/// One object per process, made by the first Instance() and destroyed at process exit; everything
+/// that needs the application object is let go when the application is about to quit. GUI thread
+/// only. The class is a façade: each duty is done by a class of its own in this folder.
+class GUIBASE_EXPORT GuiBase : public QObject,
+                               public PersistantOwner,
+                               public SaveComponentIf,
+                               public IAbstractTerminationTarget
+{
+    Q_OBJECT
+public:
+    static GuiBase& Instance();
+
+    // --- Creation and wiring -------------------------------------------------------------------
+
+    /// Prepares the application: style, style sheet, native dialogs, fonts, language, message
+    /// dialog, colours and the stored settings, in this order. Not owned; null forgets it.
+    void SetApplication(QApplication* application);
+    QApplication* GetApplication() const;
+    /// Makes the widget the main one: its layout is kept under the name "main", and the application
+    /// quits when it is destroyed. Calls SetApplication(qApp) if that was not done. Not owned; null
+    /// leaves no main widget.
+    void SetMainWidget(QWidget* widget);
+    QWidget* GetMainWidget() const;
+
+    // --- Settings ------------------------------------------------------------------------------
+
+    /// "Hz", "kHz", "MHz" (at start), "GHz" with the values 1 to 4. Owned by this object.
+    ValueSelection* GetFrequencyUnit();
+    /// A suffix outside Hz to GHz changes nothing.
+    void SetFrequencyUnit(UnitPrefix::ESuffix suffix);
+    /// The smallest step that frequencies are shown with; BaseUnit or Kilo are meaningful. At start
+    /// from the configuration ("GuiBase/FrequencyResolution"), else BaseUnit.
+    UnitPrefix::ESuffix GetFrequencyResolution();
+    void SetFrequencyResolution(UnitPrefix::ESuffix resolution);
+    /// The eight position formats, values as CoordFormat. Owned by this object.
+    ValueSelection* GetPositionFormat();
+    /// "Time in UTC" = 0 and "Local Time" = 1 (at start). Owned by this object.
+    ValueSelection* GetTimeZone();
+    /// Trov::DateTime::UTC_TimeZone or Trov::DateTime::Local_TimeZone.
+    qint64 GetTimeZoneValue() const;
+    /// The time (microseconds since 1970-01-01 00:00 UTC) in the chosen zone; the format is that of
+    /// Trov::DateTime::toString().
+    QString TimeString(quint64& time, QString format);
+
+    /// A number that the application gives a meaning; 1 at start. Only stored and returned.
+    void SetDisplayMode(int mode);
+    int GetDisplayMode();
+    /// Whether frequency displays keep trailing zeros down to the resolution; false at start.
+    void SetShowFrequencyInHz(bool show);
+    int GetShowFrequencyInHz() const;
+    const QString& GetFontFamily() const;
+    void SetFontFamily(const QString& family);
+    const QString& GetWFontFamily() const;
+    void SetWFontFamily(const QString& family);
+    /// The options that every file dialog of the application must be opened with.
+    QFlags<QFileDialog::Option> UseNativeDialogs();
+    /// False, with nothing changed, when the directory does not exist.
+    bool SetDefaultDataDirectory(const QString& directory);
+    const QString& GetDefaultDataDirectory() const;
+
+    // --- Style ---------------------------------------------------------------------------------
+
+    QComboBox* GetStyleComboBox(QWidget* parent);
+    /// Loads the style sheet that `cfg`, or else the application's and then the administrator's
+    /// configuration, names under "StyleSheet". Without a file the sheet stays as it is.
+    void loadStyleSheet(ICfg* cfg);
+
+    // --- Help ----------------------------------------------------------------------------------
+
+    /// Makes the Help menu: manual (F1), keyboard (Ctrl+F1) and, when the receiver has `infoSlot`,
+    /// info (Ctrl+Q). Slots are given as SLOT() makes them; null slots and receivers leave their
+    /// entries out, see the entries' comments in helpmenu.cpp. The menu belongs to `parent`.
+    QMenu* CreateHelpMenu(QWidget* parent, const QString& helpFile, QObject* infoReceiver,
+                          const char* infoSlot, QWidget* messageParent, const char* manualSlot);
+    QMenu* GetHelpMenu() const;
+    void SetHelpMenu(QMenu* menu);
+
+    // --- Window layouts ------------------------------------------------------------------------
+
+    void RegisterPersistentWidget(QWidget* widget, const QString& name);
+    void UnregisterPersistentWidget(QWidget* widget);
+    QAction* CreateResetWidgetViewAction(QObject* parent);
+    QAction* CreateResetFactoryViewAction(QObject* parent);
+    void setMode(long mode);
+    void storeFactoryDefaultWidgets(long mode);
+    void ApplyColumnWidth4(const QString& name, SortListView* list);
+    void StoreColumnWidth4(const QString& name, SortListView* list);
+    void StoreColumnSizes2Cfg();
+    void ApplySplitterSizes4(const QString& key, Splitter* splitter);
+    void StoreSplitterSizes4(const QString& key, Splitter* splitter);
+    void StoreSplitterSizes2Cfg();
+
+    // --- Hot keys ------------------------------------------------------------------------------
+
+    /// Registers a hot key; the receiver's slotHotKey(int) is called with the id that is returned.
+    /// `onPress` chooses the press of the key, else its release counts. The receiver is not owned.
+    int AddHotKey(Qt::Key key, int modifiers, QObject* receiver, const QString& comment,
+                  const QString& scope, bool onPress, bool listed);
+    /// Enters the action's shortcut and text in the hot-key overview, under the scope.
+    void ShowHotKeyFrom(QAction* action, const QString& scope);
+    void ExecHotKeysDialog(QWidget* parent);
+    bool handleHotKeyEvent(QObject* object, QEvent* event);
+
+    // --- Other ---------------------------------------------------------------------------------
+
+    /// Asks the editor that has the focus, through endEdit(), to commit what was typed.
+    void ForceFinishEditing();
+    bool isDialogVisible();
+    /// The name of the signal type with this letter, 'a' to 'q' in either case.
+    QString GetSignalType(char letter);
+    /// Wraps the widget in a framed dock and adds it to the window. The dock belongs to the window.
+    static QDockWidget* AddAsDockWidget(QWidget* widget, const QString& title,
+                                        QMainWindow* mainWindow, Qt::DockWidgetArea area);
+    /// Announces that the colours of the application have changed.
+    void emit_signalColorsChanged();
+
+    static QString trUtf8(const char* text, const char* comment = nullptr);
+    static QString trUtf8(const char* text, const char* comment, int count);
+
+    // --- Called by the toolkit and the platform libraries ----------------------------------------
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void ApplyPersistantBeforeWrite() override;
+    void ApplyPersistantAfterRead() override;
+    void Save() override;
+    void Load() override;
+    void CommitData() override;
+    void aboutToTerminate() override;
+
+Q_SIGNALS:
+    void signalColorsChanged();
+    void signalHotKey(int id);
+    void hotkey_ESC_pressed();
+    void signalResetToProgramStart();
+    void signalResetToFactoryDefault();
+    void endEdit(QWidget* widget);
+
+public Q_SLOTS:
+    void ShowSplash(QString text, uint seconds);
+    void ShowSplash(QString text);
+    void ShowSplash(QPixmap picture, uint seconds);
+    void ShowSplash(QPixmap picture);
+    void ShowSplash(uint seconds);
+    void ShowSplash();
+    void HideSplash();
+    void HideSplashAtOnce();
+    void BusySplash();
+    void Write2Splash(QString text);
+
+private Q_SLOTS:
+    void SlotMainWidgetDestroyed(QObject* object);
+
+public Q_SLOTS:
+    bool RestoreWidgetSize();
+    bool RestoreFactoryWidgetSize();
+    void StoreWidgetSize();
+    void SavePersistant();
+    void slotStyleChanged(int index);
+    void slotRereadTimeZoneOffset();
+    void slotHelpContents();
+    void slotShowHotKeysInMenu();
+
+private:
+    GuiBase();
+    ~GuiBase() override;
+
+    std::unique_ptr<GuiBasePrivate> d;
+};

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <trovappstartup/icfg.h>
+#include <trovappstartup/trovappstartup_export.h>
+
+#include <QString>
+
+class SaveComponentIf;
+
+/// The two sections of a configuration.
+enum CfgView : int {
+    LayoutView = 1,   ///< Where things stand on this user's screens: columns, splitters.
+    SettingsView = 2, ///< What the user or the administrator has chosen.
+};
+
+/// The configuration centre: one configuration per application and user, one per application set by
+/// the administrator, and the components that are saved with them.
+///
+/// Each configuration is a readable JSON file named "<application name>.json": the application's in
+/// the user's configuration folder (or the folder given to SetConfigDir), the administrator's in the
+/// system's (or SetAdminConfigDir). Files are read on first use. A file that cannot be read as
+/// configuration is renamed to "<name>.damaged-<time>" and reported, and the application starts with
+/// defaults. Several processes may use one configuration: storing locks it, reads it again, applies
+/// what this process changed, and replaces the file in one step; so the last writer of a value wins
+/// and no other value is lost.
+///
+/// Changes are stored by Store(), by TrovApplication at termination, and by themselves a short while
+/// after the last change as long as an event loop runs (SetAutoStoreDelay).
+///
+/// GUI thread only. Usable without an application object, also after it is gone.
+class TROVAPPSTARTUP_EXPORT CfgCenter
+{
+public:
+    /// Name of the application; the default is QCoreApplication's, or "application" when that is
+    /// empty. Path separators in a name are replaced by '_'. Setting another name or folder stores
+    /// the current configuration first; the configurations are then read anew.
+    static QString GetAppName();
+    static void SetAppName(const QString& name);
+    /// Folder of the application configuration; made on the first store. Empty: the platform's.
+    static void SetConfigDir(const QString& folder);
+    static QString GetConfigDir();
+    static void SetAdminConfigDir(const QString& folder);
+
+    /// The place for the view (a CfgView; any other number gets a section of its own). Owned by the
+    /// centre; stays valid until SetAppName, SetConfigDir or the end of the process.
+    static ICfg* GetAppCfg(int view);
+    static ICfg* GetAdminCfg(int view);
+
+    /// Full path of the application configuration's file.
+    static QString GetAppCfgFileName();
+
+    /// Stores both configurations if they have changed; false when one of them failed.
+    static bool Store();
+    /// Delay in milliseconds of the store after a change; negative switches it off. Default 2000.
+    static void SetAutoStoreDelay(int milliseconds);
+
+    /// Components are not owned; registering twice counts once; unregistering an unknown one does
+    /// nothing. Components may register and unregister while being called.
+    static void RegisterSaveComponent(SaveComponentIf* component);
+    static void UnregisterSaveComponent(SaveComponentIf* component);
+    /// Calls Save() of every component, then Store().
+    static bool SaveAll();
+    /// Calls CommitData() of every component, then Store(): the desktop session is about to end.
+    static bool CommitAll();
+    /// Drops what is in memory, reads the files again and calls Load() of every component. Changes
+    /// that were not stored are stored first.
+    static void LoadAll();
+
+    CfgCenter() = delete;
+};

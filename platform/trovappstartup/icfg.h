@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <trovappstartup/trovappstartup_export.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+/// A place in a configuration: named values, and sub-configurations that are such places themselves.
+///
+/// A read never fails: a value that is missing or of another kind gives the default (numbers and
+/// booleans are also read from their texts). What is written is seen by every reader of the process
+/// at once and reaches the disk with the configuration's next store. An ICfg does not own what it
+/// shows; releasing it loses nothing. Keys and names are any non-empty texts; operations with an
+/// empty one do nothing.
+class TROVAPPSTARTUP_EXPORT ICfg
+{
+public:
+    virtual ~ICfg();
+
+    virtual QString GetString(const QString& key, const QString& defaultValue = {}) const = 0;
+    virtual int GetInt(const QString& key, int defaultValue = 0) const = 0;
+    virtual bool GetBool(const QString& key, bool defaultValue = false) const = 0;
+
+    virtual void SetString(const QString& key, const QString& value) = 0;
+    virtual void SetInt(const QString& key, int value) = 0;
+    virtual void SetBool(const QString& key, bool value) = 0;
+
+    virtual bool Contains(const QString& key) const = 0;
+    virtual void Remove(const QString& key) = 0;
+    /// The keys of the values here, without those of sub-configurations, sorted.
+    virtual QStringList GetKeys() const = 0;
+
+    virtual bool HasSubCfg(const QString& name) const = 0;
+    /// Opens the sub-configuration; it comes into being with its first value. Null for an empty name.
+    virtual std::unique_ptr<ICfg> OpenSubCfg(const QString& name) = 0;
+    virtual QStringList GetSubCfgNames() const = 0;
+    virtual void RemoveSubCfg(const QString& name) = 0;
+
+    /// Writes the whole configuration that this place belongs to to the disk. False when that
+    /// failed: the file on the disk is then the old one, whole, and the changes are kept for the
+    /// next try.
+    virtual bool Store() = 0;
+};

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <trovappstartup/trovappstartup_export.h>
+
+#include <QObject>
+#include <QPixmap>
+#include <QString>
+
+#include <memory>
+
+class TrovApplicationPrivate;
+
+/// The start-up object of an application: shows the splash screen and ends the application in good
+/// order. Made in main() after the QApplication, as a local object; one per process.
+///
+/// Termination runs once, whichever comes first: the event loop ends (QCoreApplication::aboutToQuit),
+/// the desktop session ends and the application quits, SIGTERM, SIGINT or SIGHUP arrives (it then
+/// quits through the event loop), Terminate() is called, or this object is destroyed. It calls
+/// CfgCenter::SaveAll(), then aboutToTerminate() of every termination target, then CfgCenter::Store().
+class TROVAPPSTARTUP_EXPORT TrovApplication : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TrovApplication(QObject* parent = nullptr);
+    ~TrovApplication() override;
+
+    /// The object, or null before its construction and after its destruction.
+    static TrovApplication* m_pThis;
+
+    /// Shows the splash screen: the picture, or a plain panel with the application's name and
+    /// version when the picture is null. The show time starts now.
+    void ShowSplash(const QPixmap& picture = {});
+    /// Shows `text` at the bottom of the splash screen; nothing without one.
+    void Write2Splash(const QString& text);
+    /// Shows that the program is at work until the next text, and lets the splash screen repaint.
+    void SplashBusy();
+    /// Takes the splash screen away; nothing without one.
+    void HideSplash();
+    bool IsSplashVisible() const;
+    bool IsSplashBusy() const;
+    QString GetSplashText() const;
+    /// When the splash screen was last shown, in seconds since 1970-01-01 00:00 UTC; 0 if never.
+    qint64 SplashShowTime() const;
+
+    /// Runs the termination unless it has run already.
+    void Terminate();
+    bool IsTerminated() const;
+
+private:
+    std::unique_ptr<TrovApplicationPrivate> d;
+};

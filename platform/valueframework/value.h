@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <valueframework/valuebase.h>
+
+#include <limits>
+#include <utility>
+
+/// A value of any kind that a QVariant can hold and convert, such as bool and QString.
+template <typename T>
+class Value : public ValueBase
+{
+public:
+    explicit Value(const QString& name, T value = {})
+        : ValueBase(name)
+        , m_value(std::move(value))
+    {}
+
+    const T& GetValue() const { return m_value; }
+
+    /// Sets and tells the observers, unless the value is the same.
+    void SetValue(const T& value)
+    {
+        if (m_value == value)
+            return;
+        aboutToChange();
+        m_value = value;
+        Notify(ChangeCode::CurrentValue);
+    }
+
+    QVariant GetVariant() const override { return QVariant::fromValue(m_value); }
+    bool SetVariant(const QVariant& value) override
+    {
+        QVariant converted = value;
+        if (!converted.convert(QMetaType::fromType<T>()))
+            return false;
+        SetValue(converted.template value<T>());
+        return true;
+    }
+
+private:
+    T m_value;
+};
+
+/// The side of a numeric value that does not depend on its type.
+class VALUEFRAMEWORK_EXPORT IValueNumeric
+{
+public:
+    virtual ~IValueNumeric();
+
+    /// The observable that tells of changes of this value.
+    virtual Observable* GetObservable() = 0;
+    virtual double GetAsDouble() const = 0;
+    /// Rounds for integer values; clamps into the range; NaN is ignored.
+    virtual void SetAsDouble(double value) = 0;
+    virtual double GetMinimumAsDouble() const = 0;
+    virtual double GetMaximumAsDouble() const = 0;
+};
+
+/// A number with a range; int and double are provided.
+template <typename T>
+class VALUEFRAMEWORK_EXPORT ValueNumeric : public ValueBase, public IValueNumeric
+{
+public:
+    explicit ValueNumeric(const QString& name, T value = {},
+                          T minimum = std::numeric_limits<T>::lowest(),
+                          T maximum = std::numeric_limits<T>::max());
+    ~ValueNumeric() override;
+
+    T GetValue() const;
+    T GetMinimum() const;
+    T GetMaximum() const;
+    /// Clamps into the range and tells the observers, unless the value is the same. NaN is ignored.
+    void SetValue(T value);
+    /// Limits in the wrong order are swapped. Tells ChangeCode::Range, then a clamped value.
+    void SetRange(T minimum, T maximum);
+
+    Observable* GetObservable() override;
+    double GetAsDouble() const override;
+    void SetAsDouble(double value) override;
+    double GetMinimumAsDouble() const override;
+    double GetMaximumAsDouble() const override;
+
+    QVariant GetVariant() const override;
+    bool SetVariant(const QVariant& value) override;
+
+private:
+    T m_value;
+    T m_minimum;
+    T m_maximum;
+};
+
+extern template class ValueNumeric<int>;
+extern template class ValueNumeric<double>;

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <valueframework/observable.h>
+
+#include <QString>
+#include <QVariant>
+
+/// A named observable value. A value that is in the value tree has a path; see Tree.
+class VALUEFRAMEWORK_EXPORT ValueBase : public Observable
+{
+public:
+    explicit ValueBase(const QString& name);
+    /// Leaves the value tree.
+    ~ValueBase() override;
+
+    const QString& GetName() const;
+    /// The path in the value tree ("receiver/frequency"), or the name for a value outside it.
+    QString GetPathName() const;
+
+    /// The value as text-convertible variant, for persistence and undo; SetVariant() refuses, with
+    /// false and no change, what does not fit the kind of value.
+    virtual QVariant GetVariant() const = 0;
+    virtual bool SetVariant(const QVariant& value) = 0;
+
+protected:
+    /// To be called by the setters right before the value changes; feeds undo recordings.
+    void aboutToChange();
+
+private:
+    friend class Tree;
+    QString m_name;
+    QString m_path;
+};

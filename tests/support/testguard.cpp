@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "support/testguard.h"
+
+#include <trovappstartup/cfgcenter.h>
+
+#include <QApplication>
+#include <QLocale>
+#include <QRegularExpression>
+#include <QTest>
+#include <QWidget>
+
+TestGuard::TestGuard()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    QLocale::setDefault(QLocale::c());
+    CfgCenter::SetAutoStoreDelay(-1);
+    CfgCenter::SetConfigDir(m_configDir.filePath(QStringLiteral("config")));
+    CfgCenter::SetAdminConfigDir(m_configDir.filePath(QStringLiteral("admin")));
+}
+
+TestGuard::~TestGuard()
+{
+    finish();
+    QLocale::setDefault(QLocale::c());
+}
+
+QString TestGuard::configDir() const
+{
+    return m_configDir.filePath(QStringLiteral("config"));
+}
+
+QString TestGuard::finish()
+{
+    QStringList left;
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr) {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (QWidget* window : windows) {
+            // Closed pop-ups and combo lists are the toolkit's own top-level widgets.
+            if (!window->isVisible() || window->parentWidget() != nullptr)
+                continue;
+            left << QStringLiteral("%1 \"%2\"").arg(
+                QString::fromLatin1(window->metaObject()->className()), window->objectName());
+            delete window;
+        }
+    }
+    return left.join(QStringLiteral(", "));
+}
