@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "recording.h"
+
+#include <limits>
+#include <span>
+#include <vector>
+
+namespace bandmonitor {
+
+/// Lowest and highest level of some bins, in dB. By default it holds no level.
+struct LevelRange
+{
+    float minimum = std::numeric_limits<float>::infinity();
+    float maximum = -std::numeric_limits<float>::infinity();
+
+    bool isEmpty() const { return !(minimum <= maximum); }
+    void add(float level) // noLevel changes nothing: it compares false with everything
+    {
+        minimum = level < minimum ? level : minimum;
+        maximum = level > maximum ? level : maximum;
+    }
+    void add(const LevelRange& other)
+    {
+        minimum = other.minimum < minimum ? other.minimum : minimum;
+        maximum = other.maximum > maximum ? other.maximum : maximum;
+    }
+    bool operator==(const LevelRange&) const = default;
+};
+
+/// The frequencies that a row of pixels shows: column `c` of `n` covers `(highHz - lowHz) / n`
+/// from `lowHz + c * (highHz - lowHz) / n` on.
+struct ColumnView
+{
+    double lowHz = 0;
+    double highHz = 0;
+
+    bool operator==(const ColumnView&) const = default;
+};
+
+/// Puts into each column the lowest and highest level of the bins that touch it; columns without
+/// any become empty. Exact. The time follows the bins in view plus, per hop in view, the columns
+/// that it touches. An empty or reversed view, or one that is not finite, empties all columns.
+void reduceToColumns(const Sweep& sweep, const ColumnView& view, std::span<LevelRange> columns);
+
+/// Reduces one sweep to columns again and again, in a time that follows the number of columns
+/// and not that of the bins: it keeps lowest and highest levels of blocks of 8, 32, 128, ... bins.
+/// Build it once for each new sweep; it takes a third of the memory of the sweep's levels, and
+/// refers to the levels, which must outlive it (those of a Recording do, as long as that lives).
+class LevelPyramid
+{
+public:
+    LevelPyramid();
+    explicit LevelPyramid(const Sweep& sweep);
+
+    /// As reduceToColumns(), but a column may also take in bins up to a quarter of a column
+    /// beside it. No level is ever lost.
+    void reduce(const ColumnView& view, std::span<LevelRange> columns) const;
+    /// The range of the whole sweep.
+    LevelRange levels() const { return m_levels; }
+
+private:
+    struct Hop
+    {
+        Segment segment;
+        std::vector<std::vector<LevelRange>> blocks; ///< blocks[k] of 8 * 4^k bins
+    };
+
+    std::vector<Hop> m_hops;
+    LevelRange m_levels;
+};
+
+} // namespace bandmonitor

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "recording.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+#include <set>
+#include <string_view>
+#include <vector>
+
+namespace bandmonitor {
+
+/// Why a line of a recording was skipped.
+enum class LineFault {
+    BadTime,       ///< date or time missing, impossible, or before 1970
+    BadFrequency,  ///< low, high or step missing, not 0 <= low < high <= 10 THz, step below 1 mHz
+    BadSamples,    ///< the number of samples is missing or no number
+    BadLevel,      ///< a field among the levels is no number
+    NoLevels,      ///< the line ends before the first level
+    CountMismatch, ///< the number of levels does not fit (high - low) / step
+    TooLong,       ///< the line is longer than RecordingParser::maximumLineBytes
+    RecordingFull  ///< the recording holds as many levels as it may
+};
+
+/// A line that was skipped.
+struct SkippedLine
+{
+    qint64 number = 0; ///< from 1
+    LineFault fault = LineFault::BadTime;
+};
+
+/// Reads the text of a band-scan recording in pieces cut anywhere, and appends its sweeps to a
+/// Recording.
+///
+/// A line is one hop: `date, time, Hz low, Hz high, Hz step, samples, dB, dB, ...`, such as
+/// `2018-11-18, 12:48:15, 80150000, 80250000, 781.25, 12480, -28.02, -27.81`. Adjoining hops with
+/// the same time stamp make one sweep, until a hop starts at a frequency that the sweep already
+/// has: stamps often have whole seconds only, and then the next sweep begins.
+///
+/// - Date and time have no zone in the text; they are read as UTC. Seconds may have a fraction,
+///   of which six digits count.
+/// - Blanks around fields, CR before the line's end, a comma after the last field, a byte order
+///   mark and empty lines do no harm.
+/// - `nan` and `inf` with either sign, and levels beyond +-1000 dB, are bins without a level.
+/// - Receivers round the step to two decimals: up to what that explains, the number of levels
+///   counts, and the step is worked out from it. One level more than fits is a repetition of the
+///   last bin, and is dropped.
+/// - Every other line is skipped, counted and kept in mind for the report; a sweep keeps its good
+///   hops. Nothing but memory for the levels that the text really holds is ever reserved.
+class RecordingParser
+{
+public:
+    static constexpr std::size_t maximumLineBytes = std::size_t{64} << 20;
+    static constexpr std::size_t defaultMaximumLevels = std::size_t{512} << 20;
+    /// How many skipped lines are kept with number and reason.
+    static constexpr std::size_t keptSkippedLines = 10;
+
+    /// Appends to `recording`, which must not be null.
+    explicit RecordingParser(std::shared_ptr<Recording> recording);
+    ~RecordingParser();
+    Q_DISABLE_COPY_MOVE(RecordingParser)
+
+    /// Reads the next bytes. A sweep reaches the recording when the first line of the next one,
+    /// or finish(), shows that it is complete.
+    void feed(std::string_view bytes);
+    /// Reads what is left as the last line, and completes the last sweep. Afterwards feed() would
+    /// begin with a new line.
+    void finish();
+
+    /// Lines of the text so far, empty ones included.
+    qint64 lineCount() const { return m_lineCount; }
+    /// All lines that were skipped.
+    qint64 skippedCount() const { return m_skippedCount; }
+    /// The first skipped lines.
+    const std::vector<SkippedLine>& skippedLines() const { return m_skippedLines; }
+    /// True once a line was skipped because the recording holds the most levels that it may;
+    /// reading on is of no use then.
+    bool isFull() const { return m_full; }
+    /// The most levels that the recording may hold; 512 Mi (2 GiB of memory) by default.
+    void setMaximumLevels(std::size_t levels) { m_maximumLevels = levels; }
+
+    /// The skipped lines as a text for the user, one a line; empty without any.
+    QString report() const;
+
+private:
+    struct Hop
+    {
+        quint64 timeUs = 0;
+        double lowHz = 0;
+        double highHz = 0;
+        double stepHz = 0;
+        quint64 samples = 0;
+    };
+    struct PendingSegment
+    {
+        double startHz = 0;
+        double stepHz = 0;
+        quint64 samples = 0;
+        std::size_t offset = 0;
+        std::size_t count = 0;
+    };
+
+    void readLine(std::string_view line);
+    void skipLine(LineFault fault);
+    void addHop(const Hop& hop, std::size_t offset, std::size_t count);
+    bool startsNewSweep(quint64 timeUs, double startHz);
+    void closeSweep();
+
+    std::shared_ptr<Recording> m_recording;
+    QByteArray m_partialLine;
+    bool m_skippingLongLine = false;
+    bool m_full = false;
+    qint64 m_lineCount = 0;
+    qint64 m_skippedCount = 0;
+    std::vector<SkippedLine> m_skippedLines;
+    std::size_t m_maximumLevels = defaultMaximumLevels;
+
+    quint64 m_sweepTimeUs = 0;
+    std::vector<float> m_levels;
+    std::size_t m_levelsUsed = 0;
+    std::vector<PendingSegment> m_pending;
+    std::set<double> m_starts; ///< of the pending hops, once one came out of order
+    std::vector<Segment> m_segments;
+};
+
+} // namespace bandmonitor

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "recording.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+namespace bandmonitor {
+
+/// Walks through a recording, by hand or in the time of its own stamps. The recording may grow
+/// meanwhile.
+class Replay : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr double minimumSpeed = 0.1;
+    static constexpr double maximumSpeed = 1000;
+    /// A clock in microseconds that never runs backward.
+    using Clock = std::function<qint64()>;
+
+    explicit Replay(QObject* parent = nullptr);
+    ~Replay() override;
+
+    /// Pauses, and goes to the first sweep of `recording`, which may be null or still empty.
+    void setRecording(std::shared_ptr<const Recording> recording);
+    std::shared_ptr<const Recording> recording() const { return m_recording; }
+
+    /// Index of the current sweep; -1 without any.
+    qsizetype position() const { return m_position; }
+    /// The current sweep; empty without any.
+    Sweep sweep() const;
+    qsizetype count() const;
+    bool isPlaying() const { return m_playing; }
+    double speed() const { return m_speed; }
+
+    /// Sweeps whose stamp is not after the one before follow after `gap` of recorded time;
+    /// 100 ms by default, 1 ms at least.
+    void setEqualStampGap(std::chrono::microseconds gap);
+    /// The longest gap that is kept, in recorded time: a longer pause of the receiver is cut to
+    /// it; 10 s by default.
+    void setMaximumGap(std::chrono::microseconds gap);
+    /// How often the clock is looked at while playing; 16 ms by default.
+    void setTickInterval(std::chrono::milliseconds interval);
+    /// Takes time from `clock`; an empty one means the system's steady clock again.
+    void setClock(Clock clock);
+
+public Q_SLOTS:
+    /// Plays on from the current sweep, or from the first one when at the last. Without any sweep
+    /// nothing happens.
+    void play();
+    void pause();
+    /// play() or pause().
+    void toggle();
+    /// Pauses and goes to the next or previous sweep; at the end, or the beginning, it stays.
+    void stepForward();
+    void stepBackward();
+    /// Goes to `index`, cut to what there is; playing goes on.
+    void jump(qsizetype index);
+    /// Recorded time per real time, cut to 0.1 to 1000; 1 by default. Ignores what is no number.
+    void setSpeed(double factor);
+
+Q_SIGNALS:
+    /// The current sweep is another one. When playing fast several sweeps can be passed at once:
+    /// those from `previous + 1` to `position` were played. After jump() and setRecording()
+    /// `previous` is -1: nothing was played.
+    void positionChanged(qsizetype position, qsizetype previous);
+    void playingChanged(bool playing);
+    void speedChanged(double factor);
+    /// Playing came to the last sweep; playing has stopped.
+    void endReached();
+
+private:
+    void setPlaying(bool playing);
+    void moveTo(qsizetype position, qsizetype previous);
+    void tick();
+    qint64 gapAfter(qsizetype position) const;
+
+    std::shared_ptr<const Recording> m_recording;
+    Clock m_clock;
+    QTimer m_timer;
+    qsizetype m_position = -1;
+    bool m_playing = false;
+    double m_speed = 1;
+    qint64 m_equalStampGapUs = 100'000;
+    qint64 m_maximumGapUs = 10'000'000;
+    qint64 m_lastTickUs = 0;
+    double m_playedUs = 0; ///< recorded time since the current sweep
+};
+
+} // namespace bandmonitor
