@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "ratio.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+
+namespace {
+
+constexpr int repetitions = 15;
+constexpr double secondsPerRepetition = 0.02;
+
+std::string sideName(const std::string& pair, const char* side)
+{
+    return pair + "/" + side;
+}
+
+/// The times of the repetitions in nanoseconds, by benchmark.
+class Collector : public benchmark::BenchmarkReporter
+{
+public:
+    explicit Collector(const std::function<bool(const std::string&)>& usesWallClock)
+        : m_usesWallClock(usesWallClock)
+    {}
+
+    bool ReportContext(const Context&) override { return true; }
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        for (const Run& run : runs) {
+            if (run.run_type != Run::RT_Iteration)
+                continue;
+            const std::string& name = run.run_name.function_name;
+            std::vector<double>& times = m_times[name];
+            if (run.iterations == 0) // The body gave up.
+                continue;
+            times.push_back(m_usesWallClock(name) ? run.GetAdjustedRealTime()
+                                                  : run.GetAdjustedCPUTime());
+        }
+    }
+
+    bool wasRun(const std::string& name) const { return m_times.contains(name); }
+    /// 0 without any time.
+    double median(const std::string& name) const
+    {
+        const auto found = m_times.find(name);
+        if (found == m_times.end() || found->second.empty())
+            return 0;
+        std::vector<double> times = found->second;
+        const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+        std::nth_element(times.begin(), middle, times.end());
+        return *middle;
+    }
+
+private:
+    std::function<bool(const std::string&)> m_usesWallClock;
+    std::map<std::string, std::vector<double>> m_times;
+};
+
+} // namespace
+
+void RatioRun::compare(const std::string& name, double limit, const Body& ours, const Body& theirs,
+                       Clock clock)
+{
+    m_pairs.push_back({name, limit, clock});
+    for (const auto& [side, body] : {std::pair("ours", &ours), std::pair("theirs", &theirs)}) {
+        auto* registered = benchmark::RegisterBenchmark(sideName(name, side).c_str(), *body);
+        registered->Repetitions(repetitions)
+            ->MinTime(secondsPerRepetition)
+            ->Unit(benchmark::kNanosecond);
+        if (clock == Clock::Wall)
+            registered->UseRealTime();
+    }
+}
+
+int RatioRun::run(int argc, char** argv)
+{
+    std::string interleaving = "--benchmark_enable_random_interleaving=true";
+    std::vector<char*> arguments(argv, argv + argc);
+    arguments.insert(arguments.begin() + std::min(argc, 1), interleaving.data());
+    int count = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
+        return 1;
+
+    Collector collector([this](const std::string& name) {
+        return std::any_of(m_pairs.begin(), m_pairs.end(), [&name](const Pair& pair) {
+            return pair.clock == Clock::Wall && name.starts_with(pair.name + "/");
+        });
+    });
+    benchmark::RunSpecifiedBenchmarks(&collector);
+    benchmark::Shutdown();
+
+    bool passed = true;
+    for (const Pair& pair : m_pairs) {
+        const std::string ours = sideName(pair.name, "ours");
+        const std::string theirs = sideName(pair.name, "theirs");
+        if (collector.wasRun(ours) || collector.wasRun(theirs))
+            passed = report(pair, collector.median(ours), collector.median(theirs)) && passed;
+    }
+    return passed ? 0 : 1;
+}
+
+bool RatioRun::report(const Pair& pair, double ours, double theirs)
+{
+    const bool measured = ours > 0 && theirs > 0;
+    const double ratio = measured ? ours / theirs : 0;
+    const bool good = measured && ratio <= pair.limit;
+    const char* remark = good ? "" : measured ? "  EXCEEDED" : "  NOT MEASURED";
+    std::printf("%s: ours %.1f ns, theirs %.1f ns, ratio %.3f, limit %.3f%s\n", pair.name.c_str(),
+                ours, theirs, ratio, pair.limit, remark);
+    return good;
+}

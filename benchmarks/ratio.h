@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// Compares pairs of ways to do the same thing, "ours" and "theirs", in one run.
+///
+/// Each side is an ordinary Google Benchmark body (`for (auto _ : state) ...`). All sides are
+/// repeated in a random order, so that a slow phase of the machine hits both alike, and the medians
+/// of the repetitions are compared. The library's command line options work as usual.
+class RatioRun
+{
+public:
+    using Body = std::function<void(benchmark::State&)>;
+    enum class Clock {
+        Cpu,  ///< Time of this process only; for plain computations.
+        Wall, ///< Time that passed; for bodies that wait or set the time themselves.
+    };
+
+    /// `limit` is the largest allowed ratio ours / theirs. Names must differ from one another.
+    void compare(const std::string& name, double limit, const Body& ours, const Body& theirs,
+                 Clock clock = Clock::Cpu);
+    /// Measures, prints "name: ours ns, theirs ns, ratio, limit" for each pair, and returns the
+    /// exit code for main(): 1 when a limit was exceeded or a side could not be measured, else 0.
+    /// Pairs that --benchmark_filter leaves out do not count.
+    int run(int argc, char** argv);
+
+private:
+    struct Pair
+    {
+        std::string name;
+        double limit;
+        Clock clock;
+    };
+
+    /// Prints the line; whether both times (0 = missing) are there and within the limit.
+    static bool report(const Pair& pair, double ours, double theirs);
+
+    std::vector<Pair> m_pairs;
+};
