@@ -5,16 +5,17 @@
 
 #include <QString>
 
-/// The ways to write a geographic position. The values are stored in configurations.
+/// The ways to write a geographic position, with one position in each of them. The values are
+/// stored in configurations.
 enum class CoordFormat : int {
     DegreesMinutesSeconds = 0, ///< N 48°08'14.3" E 011°34'31.0"
-    DegreesMinutes = 1,        ///< N 48°08.238' E 011°34.517'
+    DegreesMinutes = 1,        ///< N 48°08.239' E 011°34.517'
     Degrees = 2,               ///< N 48.13731° E 011.57528°
     SignedDegrees = 3,         ///< 48.13731 11.57528
-    Utm = 4,                   ///< 32U 691608 5334765
-    Mgrs = 5,                  ///< 32U PU 91608 34765
+    Utm = 4,                   ///< 32U 691587 5334769
+    Mgrs = 5,                  ///< 32U PU 91587 34769
     MaidenheadLocator = 6,     ///< JN58SD
-    Georef = 7,                ///< NKLN34510823
+    Georef = 7,                ///< NKMD34510823
 };
 
 inline constexpr int coordFormatCount = 8;

@@ -28,7 +28,8 @@ public:
 
     /// The time as a QDateTime in the zone, cut to milliseconds.
     QDateTime toQDateTime(qint64 zone) const;
-    /// Microseconds since the epoch; 0 for an invalid time and for times before the epoch.
+    /// Microseconds since the epoch; 0 for an invalid time and for times before the epoch, the
+    /// largest count for times beyond it.
     static quint64 fromQDateTime(const QDateTime& time);
 
     /// The time written with a format as QDateTime::toString() takes it, in which "uuu" outside

@@ -35,8 +35,9 @@ public:
     /// Writes "module(line): text" when the mask holds a bit of `bits`.
     static void Trace(quint32 bits, const char* module, int line, const QString& text);
 
-    /// Appends every trace to `fileName` too; an empty name stops that. False, with nothing
-    /// changed, when the file cannot be opened for appending.
+    /// Appends every trace to `fileName` too, as one UTF-8 line with the UTC time in front, written
+    /// at once; an empty name stops that. False, with nothing changed, when the file cannot be
+    /// opened for appending.
     static bool SetTraceFile(const QString& fileName);
 
     /// Reports the broken condition as a trace (bit TraceAssertions). The program goes on.
@@ -44,7 +45,8 @@ public:
 
     /// The dialog that shows messages to the user; null until one is set.
     static IMessageDlg* GetMessageDlg();
-    /// Takes the dialog over and deletes the former one; null leaves no dialog.
+    /// Takes the dialog over and deletes the former one; null leaves no dialog. The last dialog is
+    /// not deleted at the end of the process, when the application object is long gone.
     static void SetMessageDlg(std::unique_ptr<IMessageDlg> dialog);
 
     ErrorHandler() = delete;

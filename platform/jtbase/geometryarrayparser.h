@@ -10,10 +10,10 @@
 
 /// Texts of whole numbers as layouts store them: rows ended by ';', numbers in a row parted by ','.
 ///
-/// "120,0,0;80,1,1;" holds two rows of three numbers. Empty rows are skipped; blanks around a number
-/// are ignored. Texts come from files, so nothing in them is trusted: a number that is no decimal
-/// int, a row longer than `maximumNumbersPerRow` or more rows than `maximumRows` refuse the whole
-/// text.
+/// "120,0,0;80,1,1;" holds two rows of three numbers. Empty rows are skipped; blanks around a
+/// number are ignored. Texts come from files, so nothing in them is trusted: a number that is no
+/// decimal int, a row longer than `maximumNumbersPerRow` or more rows than `maximumRows` refuse the
+/// whole text.
 class JTBASE_EXPORT GeometryArrayParser
 {
 public:

@@ -1,1 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "imessagedlg.h"
+
+IMessageSuppressionStore::~IMessageSuppressionStore() = default;
+
+IMessageDlg::~IMessageDlg() = default;

@@ -20,7 +20,8 @@ public:
 enum class MessageSeverity { Information, Warning, Critical };
 
 /// One message to the user. A message with an empty key is always shown.
-struct UserMessage {
+struct UserMessage
+{
     MessageSeverity severity = MessageSeverity::Information;
     QString title;
     QString text;
@@ -29,7 +30,8 @@ struct UserMessage {
 };
 
 /// What a message dialog is set up with; carried over when one dialog replaces another.
-struct MessageDlgSettings {
+struct MessageDlgSettings
+{
     QString applicationName;                              ///< Falls back to the application's.
     IMessageSuppressionStore* suppressionStore = nullptr; ///< Not owned; null: nothing remembered.
 };

@@ -23,8 +23,8 @@ public:
     /// Replaces the object; null brings the built-in one back.
     static void Set(std::unique_ptr<TrovOS> os);
 
-    /// Opens the file with the program that the desktop associates with it, without waiting for
-    /// it. Returns firstSuccessCode or more on success, fileNotFound when there is no such file,
-    /// noAssociation when no program could be started.
+    /// Opens the file (not a folder) with the program that the desktop associates with it, without
+    /// waiting for it. Returns firstSuccessCode or more on success, fileNotFound when there is no
+    /// such file, noAssociation when no program could be started or there is no GUI application.
     virtual int OpenFile(const QString& fileName);
 };

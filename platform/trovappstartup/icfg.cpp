@@ -1,1 +1,4 @@
 // SPDX-License-Identifier: MIT
+#include "icfg.h"
+
+ICfg::~ICfg() = default;

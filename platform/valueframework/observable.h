@@ -11,12 +11,12 @@ class Observable;
 using TChangeCode = int;
 
 namespace ChangeCode {
-inline constexpr TChangeCode State = 2;         ///< Observable::GetState() has changed.
-inline constexpr TChangeCode CurrentValue = 3;  ///< The value, or the current item.
-inline constexpr TChangeCode Range = 4;         ///< Limits, or the whole item list.
-inline constexpr TChangeCode Items = 7;         ///< Several items of a selection.
-inline constexpr TChangeCode ItemInserted = 8;  ///< One item came.
-inline constexpr TChangeCode ItemRemoved = 9;   ///< One item went.
+inline constexpr TChangeCode State = 2;        ///< Observable::GetState() has changed.
+inline constexpr TChangeCode CurrentValue = 3; ///< The value, or the current item.
+inline constexpr TChangeCode Range = 4;        ///< Limits, or the whole item list.
+inline constexpr TChangeCode Items = 7;        ///< Several items of a selection.
+inline constexpr TChangeCode ItemInserted = 8; ///< One item came.
+inline constexpr TChangeCode ItemRemoved = 9;  ///< One item went.
 } // namespace ChangeCode
 
 /// Gets told of changes. The destructor detaches from everything that is still observed.
@@ -38,8 +38,8 @@ private:
 /// Something whose changes can be observed.
 ///
 /// Observers are called in the order of attachment. While a change is being told, observers may
-/// attach, detach and be destroyed, and the observable itself may be destroyed: one that is detached
-/// is not called any more, one that is attached is called from the next change on.
+/// attach, detach and be destroyed, and the observable itself may be destroyed: one that is
+/// detached is not called any more, one that is attached is called from the next change on.
 class VALUEFRAMEWORK_EXPORT Observable
 {
 public:
@@ -55,7 +55,7 @@ public:
     /// Tells the observers the state Gone with ChangeCode::State, then lets go of them.
     virtual ~Observable();
 
-    /// Attaching twice counts once; null is ignored.
+    /// Attaching twice counts once; null is ignored, and so is everyone once the state is Gone.
     void Attach(IObserver* observer);
     void Detach(IObserver* observer);
     int GetObserverCount() const;
@@ -64,15 +64,20 @@ public:
     /// Enabled or Disabled; tells the observers when it changes.
     void SetState(State state);
 
-    void Notify(TChangeCode code);
+    /// False when the observable was destroyed meanwhile: the caller must not touch it any more.
+    bool Notify(TChangeCode code);
+
+protected:
+    /// Makes the state Gone and tells the observers, once. A derived class that observers may want
+    /// to read for the last time calls this first in its destructor, while it is still whole.
+    void announceGone();
 
 private:
-    void announceGone();
-    void forget(IObserver* observer);
+    bool forget(IObserver* observer);
 
     friend class IObserver;
     std::vector<IObserver*> m_observers;
     State m_state = Enabled;
-    int m_notifyDepth = 0;
-    bool* m_destroyedFlag = nullptr;
+    bool m_hasHoles = false;         // observers that left during a notification are null
+    bool* m_destroyedFlag = nullptr; // of the innermost running notification
 };

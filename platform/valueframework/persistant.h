@@ -46,7 +46,8 @@ enum class SelectionStorage : int { ByKey = 0, ByValue = 1 };
 /// A named record of the application configuration (settings view), with registered members.
 ///
 /// The members are variables and values of the owner, which must outlive the record. A record is a
-/// sub-configuration with the record's name; with a sub-key, a sub-configuration of that.
+/// sub-configuration with the record's name; with a sub-key, a sub-configuration of that. A null
+/// member is refused and reported.
 class VALUEFRAMEWORK_EXPORT Persistant
 {
 public:

@@ -8,13 +8,14 @@
 
 /// A value of any kind that a QVariant can hold and convert, such as bool and QString.
 template <typename T>
-class Value : public ValueBase
+class VALUEFRAMEWORK_EXPORT Value : public ValueBase
 {
 public:
     explicit Value(const QString& name, T value = {})
         : ValueBase(name)
         , m_value(std::move(value))
     {}
+    ~Value() override { leave(); }
 
     const T& GetValue() const { return m_value; }
 
@@ -32,7 +33,7 @@ public:
     bool SetVariant(const QVariant& value) override
     {
         QVariant converted = value;
-        if (!converted.convert(QMetaType::fromType<T>()))
+        if (!convertVariant(converted, QMetaType::fromType<T>()))
             return false;
         SetValue(converted.template value<T>());
         return true;
@@ -41,6 +42,9 @@ public:
 private:
     T m_value;
 };
+
+extern template class Value<bool>;
+extern template class Value<QString>;
 
 /// The side of a numeric value that does not depend on its type.
 class VALUEFRAMEWORK_EXPORT IValueNumeric
@@ -62,6 +66,8 @@ template <typename T>
 class VALUEFRAMEWORK_EXPORT ValueNumeric : public ValueBase, public IValueNumeric
 {
 public:
+    /// Limits in the wrong order are swapped, the value is clamped; what is NaN counts as not
+    /// given.
     explicit ValueNumeric(const QString& name, T value = {},
                           T minimum = std::numeric_limits<T>::lowest(),
                           T maximum = std::numeric_limits<T>::max());
@@ -72,7 +78,8 @@ public:
     T GetMaximum() const;
     /// Clamps into the range and tells the observers, unless the value is the same. NaN is ignored.
     void SetValue(T value);
-    /// Limits in the wrong order are swapped. Tells ChangeCode::Range, then a clamped value.
+    /// Limits in the wrong order are swapped; NaN is ignored, with both limits. Tells
+    /// ChangeCode::Range, then ChangeCode::CurrentValue when the value had to be clamped.
     void SetRange(T minimum, T maximum);
 
     Observable* GetObservable() override;
@@ -82,6 +89,7 @@ public:
     double GetMaximumAsDouble() const override;
 
     QVariant GetVariant() const override;
+    /// Takes every finite number and its text, as SetAsDouble() does.
     bool SetVariant(const QVariant& value) override;
 
 private:

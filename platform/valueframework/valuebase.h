@@ -3,6 +3,7 @@
 
 #include <valueframework/observable.h>
 
+#include <QMetaType>
 #include <QString>
 #include <QVariant>
 
@@ -24,8 +25,16 @@ public:
     virtual bool SetVariant(const QVariant& value) = 0;
 
 protected:
+    /// To be called first by the destructors of the concrete values: leaves the value tree and
+    /// tells the observers that the value is gone, while it is whole and still knows its path.
+    void leave();
+
     /// To be called by the setters right before the value changes; feeds undo recordings.
     void aboutToChange();
+
+    /// Converts as QVariant does, but refuses nulls, and texts other than "true", "false", "1" and
+    /// "0" for a bool.
+    static bool convertVariant(QVariant& value, QMetaType type);
 
 private:
     friend class Tree;

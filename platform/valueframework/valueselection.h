@@ -3,7 +3,6 @@
 
 #include <valueframework/valuebase.h>
 
-#include <memory>
 #include <vector>
 
 /// One choice of a ValueSelection.
@@ -39,15 +38,19 @@ public:
 
     /// Appends the item; the first one becomes current.
     void AddItem(const SelectionItem& item);
+    /// An index out of range counts as the nearest one; the current item stays current.
     void InsertItem(int index, const SelectionItem& item);
     /// Removing the current item makes its successor current, or the new last one.
+    /// False for an index out of range.
     bool RemoveItem(int index);
-    /// Replaces all items; the item with the current one's key stays current, else the first.
+    /// Replaces all items; the item with the current one's key stays current, else the first. Tells
+    /// ChangeCode::Range, then ChangeCode::CurrentValue when the current item is not the same.
     void SetItems(const std::vector<SelectionItem>& items);
 
     int GetCount() const;
     /// Null out of range. Valid until the items change.
     const SelectionItem* GetItem(int index) const;
+    /// The index of the first such item, or -1. Values and names are compared exactly.
     int FindByValue(double value) const;
     int FindByKey(int key) const;
     int FindByName(const QString& name) const;
@@ -57,16 +60,19 @@ public:
     /// The current item's value, or 0 without one.
     double GetValue() const;
 
+    /// Setting what the current item has already changes nothing and returns true, also when an
+    /// earlier item has it too.
     bool SetCurrentIndex(int index);
     bool SetValue(double value);
     bool SetKey(int key);
 
-    /// The current item's key. SetVariant() takes a key.
+    /// The current item's key, invalid without one. SetVariant() takes a key.
     QVariant GetVariant() const override;
     bool SetVariant(const QVariant& value) override;
 
 private:
-    void changeItems(TChangeCode code, std::vector<SelectionItem> items, int current);
+    bool isIndex(int index) const;
+    void tellItems(TChangeCode code, bool currentChanged);
 
     std::vector<SelectionItem> m_items;
     int m_current = -1;

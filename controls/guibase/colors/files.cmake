@@ -1,3 +1,24 @@
 # SPDX-License-Identifier: MIT
-set(colors_headers)
-set(colors_sources)
+set(colors_headers
+    colordefinition.h
+    colordefinitionset.h
+    colors.h
+    colorset.h
+    colorsetcodec.h
+    colorslotgroups.h
+    icolorbase.h
+    ihaspropertypage.h)
+set(colors_sources
+    colorcatalogue_p.h
+    colordefinition.cpp
+    colordefinitionset.cpp
+    colors.cpp
+    colorset.cpp
+    colorsetcodec.cpp
+    colorseteditor.cpp
+    colorseteditor_p.h
+    colorsetfactory_p.h
+    colorsetfile.cpp
+    colorsetfile_p.h
+    icolorbase.cpp
+    ihaspropertypage.cpp)

@@ -3,4 +3,31 @@ set(services_headers
     guibase.h
     unitprefix.h)
 set(services_sources
-    guibase.cpp)
+    applicationcolors.cpp
+    applicationcolors_p.h
+    applicationsetup.cpp
+    applicationsetup_p.h
+    displaysettings.cpp
+    displaysettings_p.h
+    guibase.cpp
+    helpmenu.cpp
+    helpmenu_p.h
+    hotkeyoverview.cpp
+    hotkeyoverview_p.h
+    hotkeyregistry.cpp
+    hotkeyregistry_p.h
+    persistentwidget.cpp
+    persistentwidget_p.h
+    persistentwidgetregistry.cpp
+    persistentwidgetregistry_p.h
+    signaltypenames.cpp
+    signaltypenames_p.h
+    splashforwarder.cpp
+    splashforwarder_p.h
+    styleloader.cpp
+    styleloader_p.h
+    tracing_p.h
+    widgetgeometry.cpp
+    widgetgeometry_p.h
+    windowhelpers.cpp
+    windowhelpers_p.h)

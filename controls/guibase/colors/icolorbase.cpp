@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/colors/icolorbase.h>
+
+IColorBase::~IColorBase() = default;

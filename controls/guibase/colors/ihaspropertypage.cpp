@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/colors/ihaspropertypage.h>
+
+IHasPropertyPage::~IHasPropertyPage() = default;

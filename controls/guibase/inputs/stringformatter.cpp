@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "stringformatter.h"
+
+IStringFormatter::~IStringFormatter() = default;

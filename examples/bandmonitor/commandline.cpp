@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "commandline.h"
+
+#include <jtbase/numberhelpers.h>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace bandmonitor {
+
+namespace {
+
+constexpr double slowestReplay = 0.1;
+constexpr double fastestReplay = 100;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("bandmonitor::CommandLine", text);
+}
+
+CommandLine failure(const QString& reason)
+{
+    CommandLine result;
+    result.action = CommandLine::Fail;
+    result.text = QStringLiteral("bandmonitor: %1\n").arg(reason.simplified());
+    return result;
+}
+
+CommandLine printed(const QString& text)
+{
+    CommandLine result;
+    result.action = CommandLine::PrintText;
+    result.text = text;
+    return result;
+}
+
+/// What is wrong with the file, or nothing.
+QString fileProblem(const QString& name)
+{
+    const QFileInfo file(name);
+    if (!file.exists())
+        return tr("There is no file \"%1\".").arg(name);
+    if (file.isDir())
+        return tr("\"%1\" is a folder, not a recording.").arg(name);
+    if (!file.isReadable())
+        return tr("The file \"%1\" may not be read.").arg(name);
+    return {};
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        tr("Shows and replays recordings of a band: spectrum, waterfall and hold maximum."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption config(QStringLiteral("config"),
+                                    tr("Keep the settings in the folder DIR."),
+                                    QStringLiteral("DIR"));
+    const QCommandLineOption shots(
+        QStringLiteral("shots"), tr("Write pictures of the windows into the folder DIR and end."),
+        QStringLiteral("DIR"));
+    const QCommandLineOption replay(
+        QStringLiteral("replay"),
+        tr("Replay FACTOR times as fast as recorded, 0.1 to 100; the default is 1."),
+        QStringLiteral("FACTOR"));
+    parser.addOptions({config, shots, replay});
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 tr("The recording to open; without it, the built-in sample."),
+                                 QStringLiteral("[FILE]"));
+
+    if (!parser.parse(arguments))
+        return failure(parser.errorText());
+    if (parser.isSet(help))
+        return printed(parser.helpText());
+    if (parser.isSet(version))
+        return printed(QStringLiteral("bandmonitor %1\n").arg(QCoreApplication::applicationVersion()));
+
+    CommandLine result;
+    for (const auto& [option, folder] : {std::pair{&config, &result.configFolder},
+                                         std::pair{&shots, &result.shotsFolder}}) {
+        if (!parser.isSet(*option))
+            continue;
+        *folder = parser.value(*option);
+        if (folder->isEmpty() || (QFileInfo::exists(*folder) && !QFileInfo(*folder).isDir()))
+            return failure(tr("\"%1\" is not a folder.").arg(*folder));
+    }
+    if (parser.isSet(replay)) {
+        bool ok = false;
+        result.replayFactor = NumberHelpers::parse<double>(parser.value(replay), &ok);
+        if (!ok || !(result.replayFactor >= slowestReplay && result.replayFactor <= fastestReplay))
+            return failure(tr("The replay factor must be a number from 0.1 to 100, not \"%1\".")
+                               .arg(parser.value(replay)));
+    }
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1)
+        return failure(tr("Only one recording can be opened, but %1 were given.").arg(files.size()));
+    if (!files.isEmpty()) {
+        result.file = files.first();
+        if (const QString problem = fileProblem(result.file); !problem.isEmpty())
+            return failure(problem);
+    }
+    return result;
+}
+
+} // namespace bandmonitor

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace bandmonitor {
+
+/// What the user asked for on the command line.
+struct CommandLine {
+    enum Action {
+        Run,
+        PrintText, ///< Print `text` on the standard output and end well: help and version.
+        Fail,      ///< Print `text`, one line, on the standard error and end with status 1.
+    };
+
+    Action action = Run;
+    QString text;
+    QString file;            ///< Empty: the built-in sample.
+    QString configFolder;    ///< Empty: the platform's.
+    QString shotsFolder;     ///< Empty: no pictures, a normal run.
+    double replayFactor = 1; ///< 0.1 to 100.
+};
+
+/// Reads the arguments; the first one is the program. Needs no application object.
+CommandLine parseCommandLine(const QStringList& arguments);
+
+} // namespace bandmonitor

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "panes/axes.h"
+
+#include "panes/frequencytext.h"
+#include "panes/frequencyview.h"
+#include "panes/panecolors.h"
+
+#include <QPainter>
+
+namespace bandmonitor {
+
+namespace {
+constexpr int tickLength = 5;
+constexpr int labelMargin = 3;
+constexpr int gapBetweenLabels = 14;
+} // namespace
+
+FrequencyAxis::FrequencyAxis(const FrequencyView* view, const FrequencyText* text, int indent,
+                             QWidget* parent)
+    : QWidget(parent)
+    , m_view(view)
+    , m_text(text)
+    , m_indent(indent)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(view, &FrequencyView::rangeChanged, this, qOverload<>(&QWidget::update));
+}
+
+FrequencyAxis::~FrequencyAxis() = default;
+
+std::vector<AxisTick> FrequencyAxis::ticks(int pixels) const
+{
+    const QFontMetrics metrics = fontMetrics();
+    return layoutTicks(
+        m_view->range(pixels), m_text->resolution(), gapBetweenLabels, 0,
+        [this](double hertz) { return m_text->label(hertz); },
+        [&metrics](const QString& label) { return metrics.horizontalAdvance(label); });
+}
+
+QSize FrequencyAxis::sizeHint() const
+{
+    return {m_indent * 4, fontMetrics().height() + tickLength + 2 * labelMargin};
+}
+
+void FrequencyAxis::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    QLinearGradient background(0, 0, 0, height());
+    background.setColorAt(0, paneColor(PaneSlot::FrequencyAxisHigh));
+    background.setColorAt(1, paneColor(PaneSlot::FrequencyAxisLow));
+    painter.fillRect(rect(), background);
+    painter.setPen(paneColor(PaneSlot::FrequencyAxisText));
+    painter.drawText(QRect(0, tickLength, m_indent - 2 * labelMargin, height() - tickLength),
+                     Qt::AlignRight | Qt::AlignVCenter, m_text->unit());
+    for (const AxisTick& tick : ticks(width() - m_indent)) {
+        const int x = m_indent + static_cast<int>(tick.position);
+        painter.drawLine(x, 0, x, tickLength - 1);
+        const int extent = fontMetrics().horizontalAdvance(tick.label);
+        painter.drawText(QRect(x - extent / 2 - 1, tickLength, extent + 2, height() - tickLength),
+                         Qt::AlignCenter | Qt::TextDontClip, tick.label);
+    }
+}
+
+SideAxis::SideAxis(const QString& caption, Ticks ticks, QWidget* parent)
+    : QWidget(parent)
+    , m_caption(caption)
+    , m_ticks(std::move(ticks))
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+}
+
+SideAxis::~SideAxis() = default;
+
+int SideAxis::preferredWidth(const QWidget& widget)
+{
+    return widget.fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + tickLength +
+           3 * labelMargin;
+}
+
+QSize SideAxis::sizeHint() const
+{
+    return {preferredWidth(*this), 4 * fontMetrics().height()};
+}
+
+void SideAxis::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), paneColor(PaneSlot::LevelAxisBackground));
+    painter.setPen(paneColor(PaneSlot::LevelAxisText));
+    const int textHeight = fontMetrics().height();
+    const int textWidth = width() - tickLength - 2 * labelMargin;
+    const int captionBottom = m_caption.isEmpty() ? 0 : textHeight + labelMargin;
+    painter.drawText(QRect(labelMargin, 1, textWidth, textHeight), Qt::AlignLeft, m_caption);
+    for (const AxisTick& tick : m_ticks(height())) {
+        const int y = height() - 1 - static_cast<int>(tick.position);
+        painter.drawLine(width() - tickLength, y, width() - 1, y);
+        const QRect place(labelMargin, y - textHeight / 2, textWidth, textHeight);
+        if (place.top() >= captionBottom && place.bottom() < height())
+            painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, tick.label);
+    }
+}
+
+} // namespace bandmonitor

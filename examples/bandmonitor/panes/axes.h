@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "panes/axisticks.h"
+
+#include <QWidget>
+
+#include <functional>
+
+namespace bandmonitor {
+
+class FrequencyText;
+class FrequencyView;
+
+/// The frequencies below the spectrum and above the waterfall. Labels stand below their ticks; the
+/// unit stands at the left, below the level axis, so that it never meets a label.
+class FrequencyAxis : public QWidget
+{
+    Q_OBJECT
+public:
+    /// `view` and `text` must outlive the axis. The scale begins `indent` pixels from the left.
+    FrequencyAxis(const FrequencyView* view, const FrequencyText* text, int indent,
+                  QWidget* parent);
+    ~FrequencyAxis() override;
+
+    /// The ticks of the visible range on `pixels` pixels; for the grid of the panes too.
+    std::vector<AxisTick> ticks(int pixels) const;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    const FrequencyView* m_view;
+    const FrequencyText* m_text;
+    int m_indent;
+};
+
+/// The scale at the left of a pane, from its bottom to its top: levels, or the times of sweeps. Its
+/// owner tells the ticks.
+class SideAxis : public QWidget
+{
+    Q_OBJECT
+public:
+    using Ticks = std::function<std::vector<AxisTick>(int pixels)>;
+
+    /// `caption` stands in the upper corner; may be empty.
+    SideAxis(const QString& caption, Ticks ticks, QWidget* parent);
+    ~SideAxis() override;
+
+    /// Wide enough for a time of day and for levels.
+    static int preferredWidth(const QWidget& widget);
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_caption;
+    Ticks m_ticks;
+};
+
+} // namespace bandmonitor

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/colors/icolorbase.h>
+
+#include <QColor>
+
+#include <array>
+
+namespace bandmonitor {
+
+/// The slots of the application's colour set that the panes draw with.
+namespace PaneSlot {
+inline constexpr auto BackgroundLow = IColorBase::DrawPaneBackgroundLow;
+inline constexpr auto BackgroundHigh = IColorBase::DrawPaneBackgroundHigh;
+inline constexpr auto Grid = IColorBase::DrawPaneGrid;
+inline constexpr auto Curve = IColorBase::DrawPaneMainCurve;
+inline constexpr auto Hold = IColorBase::DrawPaneMainCurveMaximumShadow;
+inline constexpr auto ReadOut = IColorBase::DrawPaneResultPanelText;
+inline constexpr auto Cursor = IColorBase::MarkerMain;
+inline constexpr auto Pin = IColorBase::MarkerMeasurement;
+inline constexpr auto Peak = IColorBase::DrawPaneMaximumPoints;
+inline constexpr auto FrequencyAxisHigh = IColorBase::FrequencyAxisBackgroundHigh;
+inline constexpr auto FrequencyAxisLow = IColorBase::FrequencyAxisBackgroundLow;
+inline constexpr auto FrequencyAxisText = IColorBase::FrequencyAxisText;
+inline constexpr auto LevelAxisText = IColorBase::YAxisText;
+inline constexpr auto LevelAxisBackground = IColorBase::YAxisBackground;
+} // namespace PaneSlot
+
+/// The colour that the slot has now. Ask again after GuiBase::signalColorsChanged().
+QColor paneColor(IColorBase::ECOLOR slot);
+
+/// The colours of the levels from the lowest to the highest one.
+using ColorRamp = std::array<QRgb, 256>;
+
+/// A ramp through the colours of the draw pane: from its background over the hold and the main
+/// curve to the colour of maximum points, from the darkest to the brightest of them.
+ColorRamp waterfallRamp();
+
+} // namespace bandmonitor

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "selectionactions.h"
+
+#include <valueframework/valueselection.h>
+
+#include <QAction>
+#include <QMenu>
+
+namespace bandmonitor {
+
+SelectionActions::SelectionActions(ValueSelection* selection, QMenu* menu)
+    : QActionGroup(menu)
+    , m_selection(selection)
+    , m_menu(menu)
+{
+    setExclusive(true);
+    connect(this, &QActionGroup::triggered, this, [this](QAction* action) {
+        if (m_selection != nullptr)
+            m_selection->SetKey(action->data().toInt());
+    });
+    m_selection->Attach(this);
+    fill();
+}
+
+SelectionActions::~SelectionActions()
+{
+    if (m_selection != nullptr)
+        m_selection->Detach(this);
+}
+
+void SelectionActions::Update(Observable*, TChangeCode code)
+{
+    if (code == ChangeCode::State && m_selection->GetState() == Observable::Gone) {
+        m_selection = nullptr;
+        return;
+    }
+    if (code == ChangeCode::Items || code == ChangeCode::Range ||
+        code == ChangeCode::ItemInserted || code == ChangeCode::ItemRemoved)
+        fill();
+    if (code == ChangeCode::CurrentValue) {
+        checkCurrent();
+        Q_EMIT currentChanged();
+    }
+}
+
+void SelectionActions::fill()
+{
+    const QList<QAction*> old = actions();
+    qDeleteAll(old);
+    for (int index = 0; index < m_selection->GetCount(); ++index) {
+        const SelectionItem* item = m_selection->GetItem(index);
+        // The digits are the mnemonics, because the names of the items have none.
+        QAction* action = m_menu->addAction(QStringLiteral("&%1  %2").arg(index + 1).arg(item->GetName()));
+        action->setCheckable(true);
+        action->setData(item->GetKey());
+        action->setEnabled(!item->IsDisabled());
+        addAction(action);
+    }
+    checkCurrent();
+}
+
+void SelectionActions::checkCurrent()
+{
+    const SelectionItem* current = m_selection->GetCurrentItem();
+    const QList<QAction*> all = actions();
+    for (QAction* action : all)
+        action->setChecked(current != nullptr && action->data().toInt() == current->GetKey());
+}
+
+} // namespace bandmonitor
