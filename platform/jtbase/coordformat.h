@@ -25,5 +25,6 @@ JTBASE_EXPORT QString getTranslatedCoordFormatName(CoordFormat format);
 
 /// Writes a WGS 84 position. Latitude -90 to 90 and longitude -180 to 180 in degrees, north and
 /// east positive; a position outside, NaN, or one that the format cannot express (UTM and MGRS end
-/// at 80° S and 84° N) gives an empty text.
+/// at 80° S and 84° N) gives an empty text. Angles and UTM metres are rounded; MGRS, locator and
+/// GEOREF name the square in which the position lies. The three count 180° E as 180° W, like UTM.
 JTBASE_EXPORT QString formatPosition(double latitude, double longitude, CoordFormat format);
