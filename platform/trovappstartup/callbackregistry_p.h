@@ -6,7 +6,8 @@
 
 /// Objects to be called one after another in the order of their registration. They may be added and
 /// removed at any time, also by the calls; one that was removed is not called any more.
-template <typename T> class CallbackRegistry
+template <typename T>
+class CallbackRegistry
 {
 public:
     enum class Added {
@@ -26,13 +27,15 @@ public:
         std::erase_if(m_entries, [object](const Entry& entry) { return entry.object == object; });
     }
 
-    template <typename Function> void callEach(Added added, Function function)
+    template <typename Function>
+    void callEach(Added added, Function function)
     {
         const unsigned long long end = m_lastNumber;
         unsigned long long done = 0;
         for (;;) {
-            const auto next = std::find_if(m_entries.begin(), m_entries.end(),
-                                           [done](const Entry& entry) { return entry.number > done; });
+            const auto next =
+                std::find_if(m_entries.begin(), m_entries.end(),
+                             [done](const Entry& entry) { return entry.number > done; });
             if (next == m_entries.end() || (added == Added::Skip && next->number > end))
                 return;
             done = next->number;
@@ -42,7 +45,8 @@ public:
 
 private:
     /// Numbers grow with every registration and are never used again.
-    struct Entry {
+    struct Entry
+    {
         unsigned long long number;
         T* object;
     };

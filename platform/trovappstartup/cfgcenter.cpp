@@ -1,1 +1,291 @@
 // SPDX-License-Identifier: MIT
+#include "cfgcenter.h"
+
+#include "callbackregistry_p.h"
+#include "cfgstore_p.h"
+#include "savecomponentif.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+
+namespace {
+
+QString sectionName(int view)
+{
+    switch (view) {
+    case LayoutView:
+        return QStringLiteral("layout");
+    case SettingsView:
+        return QStringLiteral("settings");
+    default:
+        return QStringLiteral("view%1").arg(view);
+    }
+}
+
+QString withoutSeparators(QString name)
+{
+    for (QChar& character : name) {
+        if (character == u'/' || character == u'\\' || character.isNull())
+            character = u'_';
+    }
+    return name;
+}
+
+/// A configuration and its views, which stay as long as the process.
+class CfgViews
+{
+public:
+    CfgViews(std::function<QString()> fileName, std::function<void()> changed)
+        : m_store(std::move(fileName), std::move(changed))
+    {}
+
+    CfgStore& store() { return m_store; }
+    ICfg* view(int number)
+    {
+        std::unique_ptr<CfgPlace>& place = m_places[number];
+        if (!place)
+            place = std::make_unique<CfgPlace>(m_store, QStringList(sectionName(number)));
+        return place.get();
+    }
+
+private:
+    CfgStore m_store;
+    std::map<int, std::unique_ptr<CfgPlace>> m_places;
+};
+
+class Center
+{
+public:
+    /// Never destroyed: components with static storage come here when the process ends.
+    static Center& instance();
+
+    QString fileIn(const QString& folder) const;
+    void scheduleStore();
+    void stopTimer();
+    bool store(int lockMilliseconds);
+    void callComponents(void (SaveComponentIf::*operation)());
+    /// Stores what is there, then lets `change` alter the name or folder of the configurations.
+    template <typename Change>
+    void relocate(Change change);
+
+    QString name;
+    QString configDir;
+    QString adminConfigDir;
+    int autoStoreDelay = 2000;
+    CallbackRegistry<SaveComponentIf> components;
+    CfgViews application;
+    CfgViews admin;
+
+private:
+    Center();
+    void startTimer(int milliseconds);
+    void storeByTimer();
+    static void releaseApplication();
+
+    /// Lives only as long as the application object.
+    std::unique_ptr<QTimer> m_timer;
+    QElapsedTimer m_firstChange;
+};
+
+Center::Center()
+    : application([this] { return fileIn(CfgCenter::GetConfigDir()); }, [this] { scheduleStore(); })
+    , admin(
+          [this] {
+              if (!adminConfigDir.isEmpty())
+                  return fileIn(adminConfigDir);
+              const QStringList folders =
+                  QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
+              return fileIn(folders.value(folders.size() - 1));
+          },
+          [this] { scheduleStore(); })
+{}
+
+Center& Center::instance()
+{
+    static auto* const center = new Center;
+    return *center;
+}
+
+QString Center::fileIn(const QString& folder) const
+{
+    return folder + u'/' + CfgCenter::GetAppName() + QStringLiteral(".json");
+}
+
+// Waits until nothing has changed for the delay, but not longer than some delays in all: a value
+// that changes all the time must reach the disk too.
+void Center::scheduleStore()
+{
+    constexpr qint64 maximumDelays = 5;
+    if (autoStoreDelay < 0 || QCoreApplication::instance() == nullptr)
+        return;
+    if (!m_timer || !m_timer->isActive())
+        m_firstChange.start();
+    const qint64 left = maximumDelays * autoStoreDelay - m_firstChange.elapsed();
+    startTimer(static_cast<int>(std::clamp<qint64>(left, 0, autoStoreDelay)));
+}
+
+void Center::startTimer(int milliseconds)
+{
+    if (!m_timer) {
+        m_timer = std::make_unique<QTimer>();
+        m_timer->setSingleShot(true);
+        QObject::connect(m_timer.get(), &QTimer::timeout, m_timer.get(),
+                         [this] { storeByTimer(); });
+        qAddPostRoutine(&Center::releaseApplication);
+    }
+    m_timer->start(milliseconds);
+}
+
+void Center::stopTimer()
+{
+    if (m_timer)
+        m_timer->stop();
+}
+
+void Center::storeByTimer()
+{
+    constexpr int shortLockMilliseconds = 100;
+    constexpr int retryDelays = 10;
+    if (!store(shortLockMilliseconds) && m_timer && !m_timer->isActive())
+        m_timer->start(retryDelays * std::max(autoStoreDelay, 100));
+}
+
+void Center::releaseApplication()
+{
+    Center& center = instance();
+    const bool isPending = center.m_timer && center.m_timer->isActive();
+    center.m_timer.reset();
+    if (isPending)
+        center.store(CfgPlace::lockMilliseconds);
+}
+
+bool Center::store(int lockMilliseconds)
+{
+    const bool applicationStored = application.store().store(lockMilliseconds);
+    const bool adminStored = admin.store().store(lockMilliseconds);
+    if (applicationStored && adminStored)
+        stopTimer();
+    return applicationStored && adminStored;
+}
+
+void Center::callComponents(void (SaveComponentIf::*operation)())
+{
+    components.callEach(CallbackRegistry<SaveComponentIf>::Added::Skip,
+                        [operation](SaveComponentIf& component) { (component.*operation)(); });
+}
+
+template <typename Change>
+void Center::relocate(Change change)
+{
+    store(CfgPlace::lockMilliseconds);
+    change();
+    application.store().reset();
+    admin.store().reset();
+}
+
+} // namespace
+
+QString CfgCenter::GetAppName()
+{
+    QString name = Center::instance().name;
+    if (name.isEmpty())
+        name = withoutSeparators(QCoreApplication::applicationName());
+    return name.isEmpty() ? QStringLiteral("application") : name;
+}
+
+void CfgCenter::SetAppName(const QString& name)
+{
+    Center& center = Center::instance();
+    const QString cleanName = withoutSeparators(name);
+    if (cleanName != center.name)
+        center.relocate([&] { center.name = cleanName; });
+}
+
+void CfgCenter::SetConfigDir(const QString& folder)
+{
+    Center& center = Center::instance();
+    if (folder != center.configDir)
+        center.relocate([&] { center.configDir = folder; });
+}
+
+QString CfgCenter::GetConfigDir()
+{
+    const QString folder = Center::instance().configDir;
+    return folder.isEmpty()
+               ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+               : folder;
+}
+
+void CfgCenter::SetAdminConfigDir(const QString& folder)
+{
+    Center& center = Center::instance();
+    if (folder != center.adminConfigDir)
+        center.relocate([&] { center.adminConfigDir = folder; });
+}
+
+ICfg* CfgCenter::GetAppCfg(int view)
+{
+    return Center::instance().application.view(view);
+}
+
+ICfg* CfgCenter::GetAdminCfg(int view)
+{
+    return Center::instance().admin.view(view);
+}
+
+QString CfgCenter::GetAppCfgFileName()
+{
+    return Center::instance().application.store().fileName();
+}
+
+bool CfgCenter::Store()
+{
+    return Center::instance().store(CfgPlace::lockMilliseconds);
+}
+
+void CfgCenter::SetAutoStoreDelay(int milliseconds)
+{
+    Center& center = Center::instance();
+    center.autoStoreDelay = milliseconds;
+    if (milliseconds < 0)
+        center.stopTimer();
+    else if (center.application.store().isChanged() || center.admin.store().isChanged())
+        center.scheduleStore();
+}
+
+void CfgCenter::RegisterSaveComponent(SaveComponentIf* component)
+{
+    Center::instance().components.add(component);
+}
+
+void CfgCenter::UnregisterSaveComponent(SaveComponentIf* component)
+{
+    Center::instance().components.remove(component);
+}
+
+bool CfgCenter::SaveAll()
+{
+    Center::instance().callComponents(&SaveComponentIf::Save);
+    return Store();
+}
+
+bool CfgCenter::CommitAll()
+{
+    Center::instance().callComponents(&SaveComponentIf::CommitData);
+    return Store();
+}
+
+void CfgCenter::LoadAll()
+{
+    Center& center = Center::instance();
+    center.store(CfgPlace::lockMilliseconds);
+    center.application.store().reload();
+    center.admin.store().reload();
+    center.callComponents(&SaveComponentIf::Load);
+}

@@ -18,15 +18,15 @@ enum CfgView : int {
 /// the administrator, and the components that are saved with them.
 ///
 /// Each configuration is a readable JSON file named "<application name>.json": the application's in
-/// the user's configuration folder (or the folder given to SetConfigDir), the administrator's in the
-/// system's (or SetAdminConfigDir). Files are read on first use. A file that cannot be read as
-/// configuration is renamed to "<name>.damaged-<time>" and reported, and the application starts with
-/// defaults. Several processes may use one configuration: storing locks it, reads it again, applies
-/// what this process changed, and replaces the file in one step; so the last writer of a value wins
-/// and no other value is lost.
+/// the user's configuration folder (or the folder given to SetConfigDir), the administrator's in
+/// the system's (or SetAdminConfigDir). Files are read on first use. A file that cannot be read as
+/// configuration is renamed to "<name>.damaged-<time>" and reported, and the application starts
+/// with defaults. Several processes may use one configuration: storing locks it, reads it again,
+/// applies what this process changed, and replaces the file in one step; so the last writer of a
+/// value wins and no other value is lost.
 ///
-/// Changes are stored by Store(), by TrovApplication at termination, and by themselves a short while
-/// after the last change as long as an event loop runs (SetAutoStoreDelay).
+/// Changes are stored by Store(), by TrovApplication at termination, and by themselves a short
+/// while after the last change as long as an event loop runs (SetAutoStoreDelay).
 ///
 /// GUI thread only. Usable without an application object, also after it is gone.
 class TROVAPPSTARTUP_EXPORT CfgCenter

@@ -9,7 +9,8 @@
 
 namespace {
 
-template <typename Map> QStringList keysOf(const Map& map)
+template <typename Map>
+QStringList keysOf(const Map& map)
 {
     QStringList keys;
     keys.reserve(static_cast<qsizetype>(map.size()));
@@ -19,7 +20,8 @@ template <typename Map> QStringList keysOf(const Map& map)
 }
 
 /// The entry of that name; made when there is none.
-template <typename T> T& entryOf(std::map<QString, std::unique_ptr<T>>& map, const QString& name)
+template <typename T>
+T& entryOf(std::map<QString, std::unique_ptr<T>>& map, const QString& name)
 {
     std::unique_ptr<T>& entry = map[name];
     if (!entry)
@@ -29,14 +31,16 @@ template <typename T> T& entryOf(std::map<QString, std::unique_ptr<T>>& map, con
 
 } // namespace
 
-struct CfgDocument::Node {
+struct CfgDocument::Node
+{
     std::map<QString, QJsonValue> values;
     std::map<QString, std::unique_ptr<Node>> subs;
 };
 
 /// Changes of one node. Undefined values are removed keys. A cleared node was removed, with all
 /// below it, before the changes that stand here.
-struct CfgDocument::Changes {
+struct CfgDocument::Changes
+{
     bool cleared = false;
     std::map<QString, QJsonValue> values;
     std::map<QString, std::unique_ptr<Changes>> subs;
@@ -60,34 +64,46 @@ struct CfgDocument::Changes {
 CfgDocument::CfgDocument()
     : m_root(std::make_unique<Node>())
     , m_changes(std::make_unique<Changes>())
-{
-}
+{}
 
 CfgDocument::~CfgDocument() = default;
 CfgDocument::CfgDocument(CfgDocument&& other) noexcept = default;
 CfgDocument& CfgDocument::operator=(CfgDocument&& other) noexcept = default;
 
-bool CfgDocument::read(const QJsonObject& object, Node& node, qsizetype depth)
+bool CfgDocument::read(const QJsonObject& object, Node& node, qsizetype depth, QString* reason)
 {
-    if (depth > maximumDepth)
+    if (depth > maximumDepth) {
+        *reason = QStringLiteral("nested deeper than %1 levels").arg(maximumDepth);
         return false;
+    }
     for (auto member = object.begin(); member != object.end(); ++member) {
         const QJsonValue value = member.value();
-        if (member.key().isEmpty() && value.isObject()) {
-            const QJsonObject homonyms = value.toObject();
-            for (auto sub = homonyms.begin(); sub != homonyms.end(); ++sub) {
-                if (sub.value().isObject()
-                    && !read(sub.value().toObject(), entryOf(node.subs, sub.key()), depth + 1))
-                    return false;
-            }
-        } else if (value.isObject()) {
-            if (!read(value.toObject(), entryOf(node.subs, member.key()), depth + 1))
+        if (member.key().isEmpty()) {
+            if (!readHomonyms(value, node, depth, reason))
                 return false;
-        } else {
+        } else if (!value.isObject()) {
             node.values[member.key()] = value;
+        } else if (!read(value.toObject(), entryOf(node.subs, member.key()), depth + 1, reason)) {
+            return false;
         }
     }
     return true;
+}
+
+bool CfgDocument::readHomonyms(const QJsonValue& value, Node& node, qsizetype depth,
+                               QString* reason)
+{
+    const QJsonObject homonyms = value.toObject();
+    bool isGood = value.isObject() && !homonyms.contains(QString());
+    for (auto sub = homonyms.begin(); isGood && sub != homonyms.end(); ++sub) {
+        isGood = sub.value().isObject();
+        if (isGood &&
+            !read(sub.value().toObject(), entryOf(node.subs, sub.key()), depth + 1, reason))
+            return false;
+    }
+    if (!isGood)
+        *reason = QStringLiteral("values under an empty name");
+    return isGood;
 }
 
 std::optional<CfgDocument> CfgDocument::fromText(const QByteArray& text, QString* reason)
@@ -107,10 +123,8 @@ std::optional<CfgDocument> CfgDocument::fromText(const QByteArray& text, QString
         return std::nullopt;
     }
     CfgDocument document;
-    if (!read(json.object(), *document.m_root, 0)) {
-        *reason = QStringLiteral("nested deeper than %1 levels").arg(maximumDepth);
+    if (!read(json.object(), *document.m_root, 0, reason))
         return std::nullopt;
-    }
     return document;
 }
 
@@ -121,7 +135,7 @@ QJsonObject CfgDocument::write(const Node& node)
     for (const auto& [key, value] : node.values)
         object.insert(key, value);
     for (const auto& [name, sub] : node.subs) {
-        if (name.isEmpty() || node.values.contains(name))
+        if (node.values.contains(name))
             homonyms.insert(name, write(*sub));
         else
             object.insert(name, write(*sub));

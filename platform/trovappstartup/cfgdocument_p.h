@@ -56,7 +56,8 @@ private:
     struct Node;
     struct Changes;
 
-    static bool read(const QJsonObject& object, Node& node, qsizetype depth);
+    static bool read(const QJsonObject& object, Node& node, qsizetype depth, QString* reason);
+    static bool readHomonyms(const QJsonValue& value, Node& node, qsizetype depth, QString* reason);
     static QJsonObject write(const Node& node);
     static void apply(const Changes& changes, Node& node);
     const Node* find(const QStringList& path) const;

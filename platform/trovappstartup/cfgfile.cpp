@@ -12,8 +12,7 @@
 
 CfgFile::CfgFile(const QString& fileName)
     : m_fileName(fileName)
-{
-}
+{}
 
 CfgFile::Reading CfgFile::read() const
 {
@@ -82,8 +81,8 @@ QString CfgFile::setAside() const
 {
     constexpr int maximumTries = 100;
     const QString base =
-        m_fileName + QStringLiteral(".damaged-")
-        + QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
+        m_fileName + QStringLiteral(".damaged-") +
+        QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
     QString name = base;
     for (int number = 2; number < maximumTries; ++number) {
         const QFileInfo taken(name);

@@ -18,7 +18,8 @@ public:
         Damaged,    ///< There is something, but it cannot be a configuration, also not later.
         Unreadable, ///< It could not be read now; a later try may succeed.
     };
-    struct Reading {
+    struct Reading
+    {
         Content content = Content::Missing;
         QByteArray text;
         QString reason; ///< In words, when damaged or unreadable.

@@ -35,8 +35,7 @@ std::optional<CfgDocument> parsed(CfgFile::Reading& reading)
 CfgStore::CfgStore(std::function<QString()> fileName, std::function<void()> changed)
     : m_askFileName(std::move(fileName))
     , m_changed(std::move(changed))
-{
-}
+{}
 
 QString CfgStore::fileName() const
 {
@@ -45,14 +44,13 @@ QString CfgStore::fileName() const
 
 CfgDocument& CfgStore::document()
 {
-    if (!m_isLoaded && !m_isLoading)
+    if (!m_isLoaded)
         load();
     return m_document;
 }
 
 void CfgStore::load()
 {
-    m_isLoading = true;
     m_fileName = fileName();
     const CfgFile file(m_fileName);
     CfgFile::Reading reading = file.read();
@@ -64,11 +62,11 @@ void CfgStore::load()
         QString failure;
         const auto lock = file.lock(CfgPlace::lockMilliseconds, &failure);
         if (!lock || !merge(file, &failure, &reports)) {
-            reports << QStringLiteral("Configuration \"%1\" cannot be read (%2) and stays as it is: %3")
+            reports << QStringLiteral(
+                           "Configuration \"%1\" cannot be read (%2) and stays as it is: %3")
                            .arg(m_fileName, reading.reason, failure);
         }
     }
-    m_isLoading = false;
     m_isLoaded = true;
     report(reports);
 }
@@ -121,8 +119,8 @@ bool CfgStore::store(int lockMilliseconds)
     if (stored)
         m_document.clearChanges();
     else
-        reports << QStringLiteral("Configuration \"%1\" was not stored: %2")
-                       .arg(m_fileName, failure);
+        reports
+            << QStringLiteral("Configuration \"%1\" was not stored: %2").arg(m_fileName, failure);
     report(reports);
     return stored;
 }
@@ -143,8 +141,7 @@ void CfgStore::reset()
 CfgPlace::CfgPlace(CfgStore& store, const QStringList& path)
     : m_store(store)
     , m_path(path)
-{
-}
+{}
 
 CfgPlace::~CfgPlace() = default;
 

@@ -35,15 +35,13 @@ public:
 private:
     void load();
     bool merge(const CfgFile& file, QString* failure, QStringList* reports);
-    bool replace(const CfgFile& file, int lockMilliseconds, QString* failure,
-                 QStringList* reports);
+    bool replace(const CfgFile& file, int lockMilliseconds, QString* failure, QStringList* reports);
 
     std::function<QString()> m_askFileName;
     std::function<void()> m_changed;
     CfgDocument m_document;
     QString m_fileName;
     bool m_isLoaded = false;
-    bool m_isLoading = false;
 };
 
 /// A place in a configuration. The store must outlive it.

@@ -8,7 +8,8 @@
 
 #include <memory>
 
-/// A place in a configuration: named values, and sub-configurations that are such places themselves.
+/// A place in a configuration: named values, and sub-configurations that are such places
+/// themselves.
 ///
 /// A read never fails: a value that is missing or of another kind gives the default (numbers and
 /// booleans are also read from their texts). What is written is seen by every reader of the process
@@ -34,7 +35,8 @@ public:
     virtual QStringList GetKeys() const = 0;
 
     virtual bool HasSubCfg(const QString& name) const = 0;
-    /// Opens the sub-configuration; it comes into being with its first value. Null for an empty name.
+    /// Opens the sub-configuration; it comes into being with its first value. Null for an empty
+    /// name.
     virtual std::unique_ptr<ICfg> OpenSubCfg(const QString& name) = 0;
     virtual QStringList GetSubCfgNames() const = 0;
     virtual void RemoveSubCfg(const QString& name) = 0;

@@ -37,6 +37,8 @@ public:
     QStringList GetLoadedFiles() const;
 
 private:
+    friend class TranslationCenterPrivate;
+
     TranslationCenter();
     ~TranslationCenter();
 

@@ -14,10 +14,11 @@ class TrovApplicationPrivate;
 /// The start-up object of an application: shows the splash screen and ends the application in good
 /// order. Made in main() after the QApplication, as a local object; one per process.
 ///
-/// Termination runs once, whichever comes first: the event loop ends (QCoreApplication::aboutToQuit),
-/// the desktop session ends and the application quits, SIGTERM, SIGINT or SIGHUP arrives (it then
-/// quits through the event loop), Terminate() is called, or this object is destroyed. It calls
-/// CfgCenter::SaveAll(), then aboutToTerminate() of every termination target, then CfgCenter::Store().
+/// Termination runs once, whichever comes first: the event loop ends
+/// (QCoreApplication::aboutToQuit), the desktop session ends and the application quits, SIGTERM,
+/// SIGINT or SIGHUP arrives (it then quits through the event loop), Terminate() is called, or this
+/// object is destroyed. It calls CfgCenter::SaveAll(), then aboutToTerminate() of every termination
+/// target, then CfgCenter::Store().
 class TROVAPPSTARTUP_EXPORT TrovApplication : public QObject
 {
     Q_OBJECT
@@ -48,5 +49,8 @@ public:
     bool IsTerminated() const;
 
 private:
+    friend class TrovApplicationPrivate;
+    void quit();
+
     std::unique_ptr<TrovApplicationPrivate> d;
 };

@@ -15,7 +15,7 @@ struct ColorSlotRow
 
     int slot;         ///< The slot that the row edits, noSlot for a row that only tells something.
     const char* text; ///< Null: the row has the name of the slot's signal type.
-    const char* note; ///< What a row without slot tells, null for all others.
+    const char* note = nullptr; ///< What a row without slot tells, null for all others.
 };
 
 /// A group of rows of the colour editor.
@@ -31,207 +31,209 @@ struct ColorSlotGroup
 /// The rows of the colour editor; they fix what each slot of the colour set means.
 namespace ColorSlotGroups {
 
+using enum IColorBase::ECOLOR;
+
 // clang-format off
 inline constexpr ColorSlotRow axisRows[] = {
     {ColorSlotRow::noSlot, QT_TRANSLATE_NOOP("ColorsCtrl", "Background"),
      QT_TRANSLATE_NOOP("ColorsCtrl", "Fixed to System Background")},
-    {IColorBase::AxisText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text"), nullptr},
-    {IColorBase::AxisOutOfZoom, QT_TRANSLATE_NOOP("ColorsCtrl", "Out of Zoom"), nullptr},
+    {AxisText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text")},
+    {AxisOutOfZoom, QT_TRANSLATE_NOOP("ColorsCtrl", "Out of Zoom")},
 };
 
 inline constexpr ColorSlotRow frequencyAxisRows[] = {
-    {IColorBase::FrequencyAxisBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Hi"), nullptr},
-    {IColorBase::FrequencyAxisBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Lo"), nullptr},
-    {IColorBase::FrequencyAxisText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text"), nullptr},
+    {FrequencyAxisBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Hi")},
+    {FrequencyAxisBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Lo")},
+    {FrequencyAxisText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text")},
 };
 
 inline constexpr ColorSlotRow yAxisRows[] = {
-    {IColorBase::YAxisText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text"), nullptr},
-    {IColorBase::YAxisBackground, QT_TRANSLATE_NOOP("ColorsCtrl", "Background"), nullptr},
+    {YAxisText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text")},
+    {YAxisBackground, QT_TRANSLATE_NOOP("ColorsCtrl", "Background")},
 };
 
 inline constexpr ColorSlotRow drawPaneRows[] = {
-    {IColorBase::DrawPaneBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "Background (low)"), nullptr},
-    {IColorBase::DrawPaneBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "Background (high)"), nullptr},
-    {IColorBase::DrawPaneBackgroundInBandwidth, QT_TRANSLATE_NOOP("ColorsCtrl", "Background in Bandwidth"), nullptr},
-    {IColorBase::DrawPaneBackgroundInAudioBandwidth, QT_TRANSLATE_NOOP("ColorsCtrl", "Background in Audio Bandwidth"), nullptr},
-    {IColorBase::DrawPaneBackgroundInJob, QT_TRANSLATE_NOOP("ColorsCtrl", "Background in Job"), nullptr},
-    {IColorBase::DrawPaneBackgroundOutOfJob, QT_TRANSLATE_NOOP("ColorsCtrl", "Background out of Job"), nullptr},
-    {IColorBase::DrawPaneResultPanelText, QT_TRANSLATE_NOOP("ColorsCtrl", "Result Panel Text"), nullptr},
-    {IColorBase::DrawPaneMinimumPoints, QT_TRANSLATE_NOOP("ColorsCtrl", "Minimum Points"), nullptr},
-    {IColorBase::DrawPaneMaximumPoints, QT_TRANSLATE_NOOP("ColorsCtrl", "Maximum Points"), nullptr},
-    {IColorBase::DrawPaneMainCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Main Curve"), nullptr},
-    {IColorBase::DrawPaneMainCurveMaximumShadow, QT_TRANSLATE_NOOP("ColorsCtrl", "Main Curve Maximum Shadow"), nullptr},
-    {IColorBase::DrawPaneMainCurveFrozen, QT_TRANSLATE_NOOP("ColorsCtrl", "Main Curve - Frozen"), nullptr},
-    {IColorBase::DrawPaneMainCurveMaximumShadowFrozen, QT_TRANSLATE_NOOP("ColorsCtrl", "Main Curve Maximum Shadow - Frozen"), nullptr},
-    {IColorBase::DrawPaneSecondaryCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Secondary Curve"), nullptr},
-    {IColorBase::DrawPaneSecondaryCurveFrozen, QT_TRANSLATE_NOOP("ColorsCtrl", "Secondary Curve - Frozen"), nullptr},
-    {IColorBase::DrawPaneFilteredBackground, QT_TRANSLATE_NOOP("ColorsCtrl", "Filtered Background"), nullptr},
-    {IColorBase::DrawPaneBackgroundWithoutKFactors, QT_TRANSLATE_NOOP("ColorsCtrl", "Background, where no KFactors available"), nullptr},
-    {IColorBase::DrawPaneGrid, QT_TRANSLATE_NOOP("ColorsCtrl", "Grid"), nullptr},
+    {DrawPaneBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "Background (low)")},
+    {DrawPaneBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "Background (high)")},
+    {DrawPaneBackgroundInBandwidth, QT_TRANSLATE_NOOP("ColorsCtrl", "Background in Bandwidth")},
+    {DrawPaneBackgroundInAudioBandwidth, QT_TRANSLATE_NOOP("ColorsCtrl", "Background in Audio Bandwidth")},
+    {DrawPaneBackgroundInJob, QT_TRANSLATE_NOOP("ColorsCtrl", "Background in Job")},
+    {DrawPaneBackgroundOutOfJob, QT_TRANSLATE_NOOP("ColorsCtrl", "Background out of Job")},
+    {DrawPaneResultPanelText, QT_TRANSLATE_NOOP("ColorsCtrl", "Result Panel Text")},
+    {DrawPaneMinimumPoints, QT_TRANSLATE_NOOP("ColorsCtrl", "Minimum Points")},
+    {DrawPaneMaximumPoints, QT_TRANSLATE_NOOP("ColorsCtrl", "Maximum Points")},
+    {DrawPaneMainCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Main Curve")},
+    {DrawPaneMainCurveMaximumShadow, QT_TRANSLATE_NOOP("ColorsCtrl", "Main Curve Maximum Shadow")},
+    {DrawPaneMainCurveFrozen, QT_TRANSLATE_NOOP("ColorsCtrl", "Main Curve - Frozen")},
+    {DrawPaneMainCurveMaximumShadowFrozen, QT_TRANSLATE_NOOP("ColorsCtrl", "Main Curve Maximum Shadow - Frozen")},
+    {DrawPaneSecondaryCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Secondary Curve")},
+    {DrawPaneSecondaryCurveFrozen, QT_TRANSLATE_NOOP("ColorsCtrl", "Secondary Curve - Frozen")},
+    {DrawPaneFilteredBackground, QT_TRANSLATE_NOOP("ColorsCtrl", "Filtered Background")},
+    {DrawPaneBackgroundWithoutKFactors, QT_TRANSLATE_NOOP("ColorsCtrl", "Background, where no KFactors available")},
+    {DrawPaneGrid, QT_TRANSLATE_NOOP("ColorsCtrl", "Grid")},
 };
 
 inline constexpr ColorSlotRow barRows[] = {
-    {IColorBase::BarValue, QT_TRANSLATE_NOOP("ColorsCtrl", "Value"), nullptr},
-    {IColorBase::BarDisabled, QT_TRANSLATE_NOOP("ColorsCtrl", "Disabled"), nullptr},
+    {BarValue, QT_TRANSLATE_NOOP("ColorsCtrl", "Value")},
+    {BarDisabled, QT_TRANSLATE_NOOP("ColorsCtrl", "Disabled")},
     {ColorSlotRow::noSlot, QT_TRANSLATE_NOOP("ColorsCtrl", "Text"),
      QT_TRANSLATE_NOOP("ColorsCtrl", "Color is calculated from background to black or white")},
-    {IColorBase::BarOverload0, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 0"), nullptr},
-    {IColorBase::BarOverload1, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 1"), nullptr},
-    {IColorBase::BarOverload2, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 2"), nullptr},
-    {IColorBase::BarOverload3, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 3"), nullptr},
-    {IColorBase::BarOverload4, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 4"), nullptr},
-    {IColorBase::BarOverload5, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 5"), nullptr},
-    {IColorBase::BarOverload6, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 6"), nullptr},
-    {IColorBase::BarOverload7, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 7"), nullptr},
-    {IColorBase::BarOverload8, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 8"), nullptr},
-    {IColorBase::BarOverload9, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 9"), nullptr},
-    {IColorBase::BarHoldMaximum, QT_TRANSLATE_NOOP("ColorsCtrl", "Hold Maximum"), nullptr},
+    {BarOverload0, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 0")},
+    {BarOverload1, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 1")},
+    {BarOverload2, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 2")},
+    {BarOverload3, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 3")},
+    {BarOverload4, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 4")},
+    {BarOverload5, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 5")},
+    {BarOverload6, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 6")},
+    {BarOverload7, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 7")},
+    {BarOverload8, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 8")},
+    {BarOverload9, QT_TRANSLATE_NOOP("ColorsCtrl", "Overload 9")},
+    {BarHoldMaximum, QT_TRANSLATE_NOOP("ColorsCtrl", "Hold Maximum")},
 };
 
 inline constexpr ColorSlotRow markerRows[] = {
-    {IColorBase::MarkerAdditionalRed, QT_TRANSLATE_NOOP("ColorsCtrl", "Additional (Red)"), nullptr},
-    {IColorBase::MarkerAdditionalBlue, QT_TRANSLATE_NOOP("ColorsCtrl", "Additional (Blue)"), nullptr},
-    {IColorBase::MarkerAdditionalCyan, QT_TRANSLATE_NOOP("ColorsCtrl", "Additional (Cyan)"), nullptr},
-    {IColorBase::MarkerMain, QT_TRANSLATE_NOOP("ColorsCtrl", "Main (Frequency)"), nullptr},
-    {IColorBase::MarkerAdditionalFrequency, QT_TRANSLATE_NOOP("ColorsCtrl", "Additional Frequency"), nullptr},
-    {IColorBase::MarkerSecondary, QT_TRANSLATE_NOOP("ColorsCtrl", "Secondary (Threshold)"), nullptr},
-    {IColorBase::MarkerMeasurement, QT_TRANSLATE_NOOP("ColorsCtrl", "Measurement"), nullptr},
-    {IColorBase::MarkerMeasurementCentered, QT_TRANSLATE_NOOP("ColorsCtrl", "Measurement - Centered"), nullptr},
-    {IColorBase::MarkerGrayed, QT_TRANSLATE_NOOP("ColorsCtrl", "Grayed"), nullptr},
+    {MarkerAdditionalRed, QT_TRANSLATE_NOOP("ColorsCtrl", "Additional (Red)")},
+    {MarkerAdditionalBlue, QT_TRANSLATE_NOOP("ColorsCtrl", "Additional (Blue)")},
+    {MarkerAdditionalCyan, QT_TRANSLATE_NOOP("ColorsCtrl", "Additional (Cyan)")},
+    {MarkerMain, QT_TRANSLATE_NOOP("ColorsCtrl", "Main (Frequency)")},
+    {MarkerAdditionalFrequency, QT_TRANSLATE_NOOP("ColorsCtrl", "Additional Frequency")},
+    {MarkerSecondary, QT_TRANSLATE_NOOP("ColorsCtrl", "Secondary (Threshold)")},
+    {MarkerMeasurement, QT_TRANSLATE_NOOP("ColorsCtrl", "Measurement")},
+    {MarkerMeasurementCentered, QT_TRANSLATE_NOOP("ColorsCtrl", "Measurement - Centered")},
+    {MarkerGrayed, QT_TRANSLATE_NOOP("ColorsCtrl", "Grayed")},
 };
 
 inline constexpr ColorSlotRow captionRows[] = {
-    {IColorBase::CaptionBackgroundFocussed, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Focussed"), nullptr},
-    {IColorBase::CaptionTextFocussed, QT_TRANSLATE_NOOP("ColorsCtrl", "Focussed Text"), nullptr},
-    {IColorBase::CaptionBackgroundNotFocussed, QT_TRANSLATE_NOOP("ColorsCtrl", "Background not Focussed"), nullptr},
-    {IColorBase::CaptionTextNotFocussed, QT_TRANSLATE_NOOP("ColorsCtrl", "Not Focussed Text"), nullptr},
-    {IColorBase::CaptionTextHighlighted, QT_TRANSLATE_NOOP("ColorsCtrl", "Highlighted Focussed Text"), nullptr},
+    {CaptionBackgroundFocussed, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Focussed")},
+    {CaptionTextFocussed, QT_TRANSLATE_NOOP("ColorsCtrl", "Focussed Text")},
+    {CaptionBackgroundNotFocussed, QT_TRANSLATE_NOOP("ColorsCtrl", "Background not Focussed")},
+    {CaptionTextNotFocussed, QT_TRANSLATE_NOOP("ColorsCtrl", "Not Focussed Text")},
+    {CaptionTextHighlighted, QT_TRANSLATE_NOOP("ColorsCtrl", "Highlighted Focussed Text")},
 };
 
 inline constexpr ColorSlotRow signalTypeRows[] = {
-    {IColorBase::SignalTypeA, nullptr, nullptr},
-    {IColorBase::SignalTypeB, nullptr, nullptr},
-    {IColorBase::SignalTypeC, nullptr, nullptr},
-    {IColorBase::SignalTypeD, nullptr, nullptr},
-    {IColorBase::SignalTypeE, nullptr, nullptr},
-    {IColorBase::SignalTypeF, nullptr, nullptr},
-    {IColorBase::SignalTypeG, nullptr, nullptr},
-    {IColorBase::SignalTypeH, nullptr, nullptr},
-    {IColorBase::SignalTypeI, nullptr, nullptr},
-    {IColorBase::SignalTypeJ, nullptr, nullptr},
-    {IColorBase::SignalTypeK, nullptr, nullptr},
-    {IColorBase::SignalTypeL, nullptr, nullptr},
-    {IColorBase::SignalTypeM, nullptr, nullptr},
-    {IColorBase::SignalTypeN, nullptr, nullptr},
-    {IColorBase::SignalTypeO, nullptr, nullptr},
-    {IColorBase::SignalTypeP, nullptr, nullptr},
-    {IColorBase::SignalTypeQ, nullptr, nullptr},
+    {SignalTypeA, nullptr},
+    {SignalTypeB, nullptr},
+    {SignalTypeC, nullptr},
+    {SignalTypeD, nullptr},
+    {SignalTypeE, nullptr},
+    {SignalTypeF, nullptr},
+    {SignalTypeG, nullptr},
+    {SignalTypeH, nullptr},
+    {SignalTypeI, nullptr},
+    {SignalTypeJ, nullptr},
+    {SignalTypeK, nullptr},
+    {SignalTypeL, nullptr},
+    {SignalTypeM, nullptr},
+    {SignalTypeN, nullptr},
+    {SignalTypeO, nullptr},
+    {SignalTypeP, nullptr},
+    {SignalTypeQ, nullptr},
 };
 
 inline constexpr ColorSlotRow jobFrameRows[] = {
-    {IColorBase::JobFrameHighBorder, QT_TRANSLATE_NOOP("ColorsCtrl", "High Border"), nullptr},
-    {IColorBase::JobFrameLowBorder, QT_TRANSLATE_NOOP("ColorsCtrl", "Low Border"), nullptr},
-    {IColorBase::JobFrameInside, QT_TRANSLATE_NOOP("ColorsCtrl", "Inside"), nullptr},
+    {JobFrameHighBorder, QT_TRANSLATE_NOOP("ColorsCtrl", "High Border")},
+    {JobFrameLowBorder, QT_TRANSLATE_NOOP("ColorsCtrl", "Low Border")},
+    {JobFrameInside, QT_TRANSLATE_NOOP("ColorsCtrl", "Inside")},
 };
 
 inline constexpr ColorSlotRow frequencyBarRows[] = {
-    {IColorBase::FrequencyBarBackground, QT_TRANSLATE_NOOP("ColorsCtrl", "Background"), nullptr},
-    {IColorBase::FrequencyBarBackgroundHighlighted, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Highlighted"), nullptr},
-    {IColorBase::FrequencyBarInBandwidth, QT_TRANSLATE_NOOP("ColorsCtrl", "in Bandwidth"), nullptr},
-    {IColorBase::FrequencyBarText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text"), nullptr},
-    {IColorBase::FrequencyBarLocalSuppress, QT_TRANSLATE_NOOP("ColorsCtrl", "Local Suppress"), nullptr},
-    {IColorBase::FrequencyBarGlobalSuppress, QT_TRANSLATE_NOOP("ColorsCtrl", "Global Suppress"), nullptr},
+    {FrequencyBarBackground, QT_TRANSLATE_NOOP("ColorsCtrl", "Background")},
+    {FrequencyBarBackgroundHighlighted, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Highlighted")},
+    {FrequencyBarInBandwidth, QT_TRANSLATE_NOOP("ColorsCtrl", "in Bandwidth")},
+    {FrequencyBarText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text")},
+    {FrequencyBarLocalSuppress, QT_TRANSLATE_NOOP("ColorsCtrl", "Local Suppress")},
+    {FrequencyBarGlobalSuppress, QT_TRANSLATE_NOOP("ColorsCtrl", "Global Suppress")},
 };
 
 inline constexpr ColorSlotRow newFrequencyBarRows[] = {
-    {IColorBase::NewFrequencyBarBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Hi"), nullptr},
-    {IColorBase::NewFrequencyBarBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Lo"), nullptr},
-    {IColorBase::NewFrequencyBarBackgroundInBandwidth, QT_TRANSLATE_NOOP("ColorsCtrl", "Background in Bandwidth"), nullptr},
-    {IColorBase::NewFrequencyBarText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text"), nullptr},
+    {NewFrequencyBarBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Hi")},
+    {NewFrequencyBarBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "Background Lo")},
+    {NewFrequencyBarBackgroundInBandwidth, QT_TRANSLATE_NOOP("ColorsCtrl", "Background in Bandwidth")},
+    {NewFrequencyBarText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text")},
 };
 
 inline constexpr ColorSlotRow bitStreamRows[] = {
-    {IColorBase::BitStreamBit0, QT_TRANSLATE_NOOP("ColorsCtrl", "Bit 0"), nullptr},
-    {IColorBase::BitStreamBit1, QT_TRANSLATE_NOOP("ColorsCtrl", "Bit 1"), nullptr},
-    {IColorBase::BitStreamBelowThreshold, QT_TRANSLATE_NOOP("ColorsCtrl", "Below Threshold"), nullptr},
-    {IColorBase::BitStreamText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text"), nullptr},
-    {IColorBase::BitStreamBackground, QT_TRANSLATE_NOOP("ColorsCtrl", "Background"), nullptr},
+    {BitStreamBit0, QT_TRANSLATE_NOOP("ColorsCtrl", "Bit 0")},
+    {BitStreamBit1, QT_TRANSLATE_NOOP("ColorsCtrl", "Bit 1")},
+    {BitStreamBelowThreshold, QT_TRANSLATE_NOOP("ColorsCtrl", "Below Threshold")},
+    {BitStreamText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text")},
+    {BitStreamBackground, QT_TRANSLATE_NOOP("ColorsCtrl", "Background")},
 };
 
 inline constexpr ColorSlotRow detectionRows[] = {
-    {IColorBase::DetectionBackground, QT_TRANSLATE_NOOP("ColorsCtrl", "Background"), nullptr},
-    {IColorBase::DetectionActivePen, QT_TRANSLATE_NOOP("ColorsCtrl", "Active Pen"), nullptr},
-    {IColorBase::DetectionActiveBrush, QT_TRANSLATE_NOOP("ColorsCtrl", "Active Brush"), nullptr},
-    {IColorBase::DetectionInactivePen, QT_TRANSLATE_NOOP("ColorsCtrl", "Inactive Pen"), nullptr},
-    {IColorBase::DetectionInactiveBrush, QT_TRANSLATE_NOOP("ColorsCtrl", "Inactive Brush"), nullptr},
-    {IColorBase::DetectionCurrentPen, QT_TRANSLATE_NOOP("ColorsCtrl", "Current Pen"), nullptr},
-    {IColorBase::DetectionCurrentActiveBrush, QT_TRANSLATE_NOOP("ColorsCtrl", "Current Active Brush"), nullptr},
-    {IColorBase::DetectionCurrentInactiveBrush, QT_TRANSLATE_NOOP("ColorsCtrl", "Current Inactive Brush"), nullptr},
+    {DetectionBackground, QT_TRANSLATE_NOOP("ColorsCtrl", "Background")},
+    {DetectionActivePen, QT_TRANSLATE_NOOP("ColorsCtrl", "Active Pen")},
+    {DetectionActiveBrush, QT_TRANSLATE_NOOP("ColorsCtrl", "Active Brush")},
+    {DetectionInactivePen, QT_TRANSLATE_NOOP("ColorsCtrl", "Inactive Pen")},
+    {DetectionInactiveBrush, QT_TRANSLATE_NOOP("ColorsCtrl", "Inactive Brush")},
+    {DetectionCurrentPen, QT_TRANSLATE_NOOP("ColorsCtrl", "Current Pen")},
+    {DetectionCurrentActiveBrush, QT_TRANSLATE_NOOP("ColorsCtrl", "Current Active Brush")},
+    {DetectionCurrentInactiveBrush, QT_TRANSLATE_NOOP("ColorsCtrl", "Current Inactive Brush")},
 };
 
 inline constexpr ColorSlotRow relativeBearingRows[] = {
-    {IColorBase::RelativeBearingStarboard, QT_TRANSLATE_NOOP("ColorsCtrl", "Starboard"), nullptr},
-    {IColorBase::RelativeBearingPortside, QT_TRANSLATE_NOOP("ColorsCtrl", "Portside"), nullptr},
-    {IColorBase::RelativeBearingZeroAnd180, QT_TRANSLATE_NOOP("ColorsCtrl", "0 and 180 deg"), nullptr},
-    {IColorBase::RelativeBearingText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text"), nullptr},
+    {RelativeBearingStarboard, QT_TRANSLATE_NOOP("ColorsCtrl", "Starboard")},
+    {RelativeBearingPortside, QT_TRANSLATE_NOOP("ColorsCtrl", "Portside")},
+    {RelativeBearingZeroAnd180, QT_TRANSLATE_NOOP("ColorsCtrl", "0 and 180 deg")},
+    {RelativeBearingText, QT_TRANSLATE_NOOP("ColorsCtrl", "Text")},
 };
 
 inline constexpr ColorSlotRow plannerRows[] = {
-    {IColorBase::PlannerPlanned, QT_TRANSLATE_NOOP("ColorsCtrl", "Planned"), nullptr},
-    {IColorBase::PlannerEditing, QT_TRANSLATE_NOOP("ColorsCtrl", "Editing"), nullptr},
-    {IColorBase::PlannerSubmitted, QT_TRANSLATE_NOOP("ColorsCtrl", "Submitted"), nullptr},
-    {IColorBase::PlannerAboutToStart, QT_TRANSLATE_NOOP("ColorsCtrl", "AboutToStart"), nullptr},
-    {IColorBase::PlannerRunning, QT_TRANSLATE_NOOP("ColorsCtrl", "Running"), nullptr},
-    {IColorBase::PlannerStopped, QT_TRANSLATE_NOOP("ColorsCtrl", "Stopped"), nullptr},
-    {IColorBase::PlannerDisabled, QT_TRANSLATE_NOOP("ColorsCtrl", "Disabled"), nullptr},
-    {IColorBase::PlannerFinished, QT_TRANSLATE_NOOP("ColorsCtrl", "Finished"), nullptr},
-    {IColorBase::PlannerAborted, QT_TRANSLATE_NOOP("ColorsCtrl", "Aborted"), nullptr},
-    {IColorBase::PlannerFailed, QT_TRANSLATE_NOOP("ColorsCtrl", "Failed"), nullptr},
-    {IColorBase::PlannerProduction, QT_TRANSLATE_NOOP("ColorsCtrl", "Production"), nullptr},
-    {IColorBase::PlannerTuner, QT_TRANSLATE_NOOP("ColorsCtrl", "Tuner"), nullptr},
-    {IColorBase::PlannerSearch, QT_TRANSLATE_NOOP("ColorsCtrl", "Search"), nullptr},
-    {IColorBase::PlannerSurveillance, QT_TRANSLATE_NOOP("ColorsCtrl", "Surveillance"), nullptr},
-    {IColorBase::PlannerPool, QT_TRANSLATE_NOOP("ColorsCtrl", "Pool"), nullptr},
-    {IColorBase::PlannerOther, QT_TRANSLATE_NOOP("ColorsCtrl", "Other"), nullptr},
-    {IColorBase::PlannerExciter, QT_TRANSLATE_NOOP("ColorsCtrl", "Exciter"), nullptr},
-    {IColorBase::PlannerAntenna, QT_TRANSLATE_NOOP("ColorsCtrl", "Antenna"), nullptr},
-    {IColorBase::PlannerSkornReceiver, QT_TRANSLATE_NOOP("ColorsCtrl", "Skorn Receiver"), nullptr},
+    {PlannerPlanned, QT_TRANSLATE_NOOP("ColorsCtrl", "Planned")},
+    {PlannerEditing, QT_TRANSLATE_NOOP("ColorsCtrl", "Editing")},
+    {PlannerSubmitted, QT_TRANSLATE_NOOP("ColorsCtrl", "Submitted")},
+    {PlannerAboutToStart, QT_TRANSLATE_NOOP("ColorsCtrl", "AboutToStart")},
+    {PlannerRunning, QT_TRANSLATE_NOOP("ColorsCtrl", "Running")},
+    {PlannerStopped, QT_TRANSLATE_NOOP("ColorsCtrl", "Stopped")},
+    {PlannerDisabled, QT_TRANSLATE_NOOP("ColorsCtrl", "Disabled")},
+    {PlannerFinished, QT_TRANSLATE_NOOP("ColorsCtrl", "Finished")},
+    {PlannerAborted, QT_TRANSLATE_NOOP("ColorsCtrl", "Aborted")},
+    {PlannerFailed, QT_TRANSLATE_NOOP("ColorsCtrl", "Failed")},
+    {PlannerProduction, QT_TRANSLATE_NOOP("ColorsCtrl", "Production")},
+    {PlannerTuner, QT_TRANSLATE_NOOP("ColorsCtrl", "Tuner")},
+    {PlannerSearch, QT_TRANSLATE_NOOP("ColorsCtrl", "Search")},
+    {PlannerSurveillance, QT_TRANSLATE_NOOP("ColorsCtrl", "Surveillance")},
+    {PlannerPool, QT_TRANSLATE_NOOP("ColorsCtrl", "Pool")},
+    {PlannerOther, QT_TRANSLATE_NOOP("ColorsCtrl", "Other")},
+    {PlannerExciter, QT_TRANSLATE_NOOP("ColorsCtrl", "Exciter")},
+    {PlannerAntenna, QT_TRANSLATE_NOOP("ColorsCtrl", "Antenna")},
+    {PlannerSkornReceiver, QT_TRANSLATE_NOOP("ColorsCtrl", "Skorn Receiver")},
 };
 
 inline constexpr ColorSlotRow trafficLightsRows[] = {
-    {IColorBase::TrafficLightStop, QT_TRANSLATE_NOOP("ColorsCtrl", "Stop"), nullptr},
-    {IColorBase::TrafficLightYield, QT_TRANSLATE_NOOP("ColorsCtrl", "Yield"), nullptr},
-    {IColorBase::TrafficLightGo, QT_TRANSLATE_NOOP("ColorsCtrl", "Go"), nullptr},
+    {TrafficLightStop, QT_TRANSLATE_NOOP("ColorsCtrl", "Stop")},
+    {TrafficLightYield, QT_TRANSLATE_NOOP("ColorsCtrl", "Yield")},
+    {TrafficLightGo, QT_TRANSLATE_NOOP("ColorsCtrl", "Go")},
 };
 
 inline constexpr ColorSlotRow drawPaneSpecialCurvesRows[] = {
-    {IColorBase::DrawPaneLimitLine, QT_TRANSLATE_NOOP("ColorsCtrl", "Limit Line"), nullptr},
-    {IColorBase::DrawPaneMinMaxHold, QT_TRANSLATE_NOOP("ColorsCtrl", "Min Max Hold"), nullptr},
-    {IColorBase::DrawPaneReferenceCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Reference Curve"), nullptr},
+    {DrawPaneLimitLine, QT_TRANSLATE_NOOP("ColorsCtrl", "Limit Line")},
+    {DrawPaneMinMaxHold, QT_TRANSLATE_NOOP("ColorsCtrl", "Min Max Hold")},
+    {DrawPaneReferenceCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Reference Curve")},
 };
 
 inline constexpr ColorSlotRow diagramRows[] = {
-    {IColorBase::TimeDiagramMainCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Time Diagram Main Curve"), nullptr},
-    {IColorBase::TimeDiagramSecondaryCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Time Diagram Secondary Curve"), nullptr},
-    {IColorBase::TimeDiagramBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "Time Diagram Background (high)"), nullptr},
-    {IColorBase::TimeDiagramBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "Time Diagram Background (low)"), nullptr},
-    {IColorBase::EyeDiagramCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Eye Diagram Curve"), nullptr},
-    {IColorBase::EyeDiagramBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "Eye Diagram Background (high)"), nullptr},
-    {IColorBase::EyeDiagramBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "Eye Diagram Background (low)"), nullptr},
-    {IColorBase::IQDiagramCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "IQ Diagram Curve"), nullptr},
-    {IColorBase::IQDiagramBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "IQ Diagram Background (high)"), nullptr},
-    {IColorBase::IQDiagramBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "IQ Diagram Background (low)"), nullptr},
+    {TimeDiagramMainCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Time Diagram Main Curve")},
+    {TimeDiagramSecondaryCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Time Diagram Secondary Curve")},
+    {TimeDiagramBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "Time Diagram Background (high)")},
+    {TimeDiagramBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "Time Diagram Background (low)")},
+    {EyeDiagramCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "Eye Diagram Curve")},
+    {EyeDiagramBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "Eye Diagram Background (high)")},
+    {EyeDiagramBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "Eye Diagram Background (low)")},
+    {IQDiagramCurve, QT_TRANSLATE_NOOP("ColorsCtrl", "IQ Diagram Curve")},
+    {IQDiagramBackgroundHigh, QT_TRANSLATE_NOOP("ColorsCtrl", "IQ Diagram Background (high)")},
+    {IQDiagramBackgroundLow, QT_TRANSLATE_NOOP("ColorsCtrl", "IQ Diagram Background (low)")},
 };
 
 inline constexpr ColorSlotRow productionResultRows[] = {
-    {IColorBase::ProductionResultRunning, QT_TRANSLATE_NOOP("ColorsCtrl", "Running"), nullptr},
-    {IColorBase::ProductionResultCentral, QT_TRANSLATE_NOOP("ColorsCtrl", "Central"), nullptr},
-    {IColorBase::ProductionResultInvalid, QT_TRANSLATE_NOOP("ColorsCtrl", "Invalid"), nullptr},
-    {IColorBase::ProductionResultIF, QT_TRANSLATE_NOOP("ColorsCtrl", "IF"), nullptr},
-    {IColorBase::ProductionResultRemote, QT_TRANSLATE_NOOP("ColorsCtrl", "Remote"), nullptr},
-    {IColorBase::ProductionResultLocal, QT_TRANSLATE_NOOP("ColorsCtrl", "Local"), nullptr},
-    {IColorBase::ProductionResultUnknown, QT_TRANSLATE_NOOP("ColorsCtrl", "Unknown"), nullptr},
+    {ProductionResultRunning, QT_TRANSLATE_NOOP("ColorsCtrl", "Running")},
+    {ProductionResultCentral, QT_TRANSLATE_NOOP("ColorsCtrl", "Central")},
+    {ProductionResultInvalid, QT_TRANSLATE_NOOP("ColorsCtrl", "Invalid")},
+    {ProductionResultIF, QT_TRANSLATE_NOOP("ColorsCtrl", "IF")},
+    {ProductionResultRemote, QT_TRANSLATE_NOOP("ColorsCtrl", "Remote")},
+    {ProductionResultLocal, QT_TRANSLATE_NOOP("ColorsCtrl", "Local")},
+    {ProductionResultUnknown, QT_TRANSLATE_NOOP("ColorsCtrl", "Unknown")},
 };
 
 inline constexpr std::array<ColorSlotGroup, 19> all{{

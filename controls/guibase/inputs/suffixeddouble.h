@@ -18,16 +18,16 @@ class ValueSelection;
 /// the editing of single digits. The unit shown follows GuiBase::GetFrequencyUnit() until another
 /// unit is connected, and the precision follows the resolution: one base unit, or one kilo unit.
 ///
-/// Units, factors and decimals stand in a table of five rows, one per ESuffix. All objects made with
-/// `ownsConverters` false share one table for the whole process: SetResolution(), SetStringSuffix()
-/// and SetFactor() of one of them are seen by all of them.
+/// Units, factors and decimals stand in a table of five rows, one per ESuffix. All objects made
+/// with `ownsConverters` false share one table for the whole process: SetResolution(),
+/// SetStringSuffix() and SetFactor() of one of them are seen by all of them.
 ///
 /// Operations with a parameter `v` store it first, in base units; the default NoValue leaves the
 /// stored quantity. Numbers are written and read with a decimal point, whatever the locale.
 ///
 /// Positions of digits are powers of ten in internal units; the operations count them from the
-/// lowest digit that can be edited at the shown unit and resolution (digit 0). Positions outside the
-/// digits are safe: they read as the null character, and setting them changes no digit.
+/// lowest digit that can be edited at the shown unit and resolution (digit 0). Positions outside
+/// the digits are safe: they read as the null character, and setting them changes no digit.
 ///
 /// Not copyable, because it observes the unit value. GUI thread only.
 class GUIBASE_EXPORT SuffixedDouble : public IObserver
@@ -105,8 +105,9 @@ public:
     /// units. Other Latin letters are ignored. A text that is no number gives 0.
     double GetValue(const QString& text) const;
     /// Stores what a person typed: a number, and perhaps a unit that a single letter is enough for:
-    /// k, m (mega), g or h (base unit; kilo at the resolution Kilo) in either case. Without a letter
-    /// the shown unit counts. A text that is no number stores 0; one that gives NoValue nothing.
+    /// k, m (mega), g or h (base unit; kilo at the resolution Kilo) in either case. Without a
+    /// letter the shown unit counts. A text that is no number stores 0; one that gives NoValue
+    /// nothing.
     void SetFrequencyString(const QString& text);
     /// The decimals of the shown unit.
     int GetDotPosition(double v = NoValue);
@@ -156,8 +157,9 @@ public:
     bool decrementIndex();
     /// Adds one at the digit `index`; -1 means the current one.
     void increment(int index);
-    /// Takes one off at the digit `index` (-1: the current one), or at the highest one below it that
-    /// leaves the quantity positive or zero; that one becomes current. Without one nothing changes.
+    /// Takes one off at the digit `index` (-1: the current one), or at the highest one below it
+    /// that leaves the quantity positive or zero; that one becomes current. Without one nothing
+    /// changes.
     void decrement(int index);
     /// The position of the digit in the text of GetString().
     int GetRealSelectPosition(int index);

@@ -1,1 +1,560 @@
 // SPDX-License-Identifier: MIT
+#include "guibase.h"
+
+#include "applicationcolors_p.h"
+#include "applicationsetup_p.h"
+#include "displaysettings_p.h"
+#include "helpmenu_p.h"
+#include "hotkeyoverview_p.h"
+#include "hotkeyregistry_p.h"
+#include "persistentwidgetregistry_p.h"
+#include "signaltypenames_p.h"
+#include "splashforwarder_p.h"
+#include "styleloader_p.h"
+#include "tracing_p.h"
+#include "windowhelpers_p.h"
+
+#include <trovappstartup/cfgcenter.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QPointer>
+
+class GuiBasePrivate
+{
+public:
+    explicit GuiBasePrivate(GuiBase& services);
+
+    DisplaySettings settings;
+    HelpMenu helpMenu;
+    HotKeyRegistry hotKeys;
+    PersistentWidgetRegistry persistentWidgets;
+    QString colorDefinitionFile;
+    QPointer<QApplication> application;
+    QPointer<QWidget> mainWidget;
+    /// Tells the main widget from others also while it is destroyed; never dereferenced.
+    const QObject* mainWidgetIdentity = nullptr;
+    QMetaObject::Connection mainWidgetConnection;
+    Persistant record;
+};
+
+GuiBasePrivate::GuiBasePrivate(GuiBase& services)
+    : helpMenu(services)
+    , record(QStringLiteral("GuiCentral"), &services)
+{
+    record.Add(&colorDefinitionFile, QStringLiteral("ColorDefinitionFile"));
+    record.Add(&settings.timeZone, QStringLiteral("TimeZone"),
+               static_cast<int>(SelectionStorage::ByValue));
+    record.Add(&settings.positionFormat, QStringLiteral("PositionFormat"),
+               static_cast<int>(SelectionStorage::ByKey));
+}
+
+// The constructor uses the configuration centre and registers with the start-up library, so that
+// what these keep for the process is made before, and destroyed after, the services.
+GuiBase::GuiBase()
+    : d(std::make_unique<GuiBasePrivate>(*this))
+{
+    CfgCenter::RegisterSaveComponent(this);
+}
+
+GuiBase::~GuiBase() = default;
+
+GuiBase& GuiBase::Instance()
+{
+    static GuiBase instance;
+    return instance;
+}
+
+// --- Creation and wiring -------------------------------------------------------------------------
+
+void GuiBase::SetApplication(QApplication* application)
+{
+    if (d->application && d->application != application)
+        d->application->removeEventFilter(this);
+    d->application = application;
+    if (application == nullptr)
+        return;
+    application->installEventFilter(this);
+    StyleLoader::applyStyle();
+    loadStyleSheet(nullptr);
+    d->settings.readConfiguration();
+    if (ApplicationSetup::installLanguage())
+        d->settings.translateItems();
+    ApplicationSetup::replaceMessageDialog();
+    if (d->record.Exists()) {
+        ApplicationColors::restoreFactoryColors();
+        Load();
+    }
+}
+
+QApplication* GuiBase::GetApplication() const
+{
+    return d->application;
+}
+
+void GuiBase::SetMainWidget(QWidget* widget)
+{
+    if (widget == d->mainWidgetIdentity)
+        return;
+    if (!d->application)
+        SetApplication(qobject_cast<QApplication*>(QCoreApplication::instance()));
+    if (d->mainWidgetIdentity != nullptr) {
+        disconnect(d->mainWidgetConnection);
+        d->persistentWidgets.unregisterWidget(d->mainWidgetIdentity);
+    }
+    d->mainWidget = widget;
+    d->mainWidgetIdentity = widget;
+    if (widget == nullptr)
+        return;
+    widget->setProperty("SKORN_AppName", CfgCenter::GetAppName());
+    d->mainWidgetConnection =
+        connect(widget, &QObject::destroyed, this, &GuiBase::SlotMainWidgetDestroyed);
+    RegisterPersistentWidget(widget, QStringLiteral("main"));
+}
+
+QWidget* GuiBase::GetMainWidget() const
+{
+    return d->mainWidget;
+}
+
+void GuiBase::SlotMainWidgetDestroyed(QObject* object)
+{
+    if (object == nullptr || object != d->mainWidgetIdentity)
+        return;
+    SetMainWidget(nullptr);
+    if (d->application)
+        QCoreApplication::quit();
+}
+
+// --- Settings ------------------------------------------------------------------------------------
+
+ValueSelection* GuiBase::GetFrequencyUnit()
+{
+    return &d->settings.frequencyUnit;
+}
+
+void GuiBase::SetFrequencyUnit(UnitPrefix::ESuffix suffix)
+{
+    d->settings.frequencyUnit.SetValue(suffix);
+}
+
+UnitPrefix::ESuffix GuiBase::GetFrequencyResolution()
+{
+    return d->settings.frequencyResolution;
+}
+
+void GuiBase::SetFrequencyResolution(UnitPrefix::ESuffix resolution)
+{
+    d->settings.frequencyResolution = resolution;
+}
+
+ValueSelection* GuiBase::GetPositionFormat()
+{
+    return &d->settings.positionFormat;
+}
+
+ValueSelection* GuiBase::GetTimeZone()
+{
+    return &d->settings.timeZone;
+}
+
+qint64 GuiBase::GetTimeZoneValue() const
+{
+    return d->settings.timeZoneValue();
+}
+
+QString GuiBase::TimeString(quint64& time, QString format)
+{
+    return d->settings.timeString(time, format);
+}
+
+void GuiBase::SetDisplayMode(int mode)
+{
+    d->settings.displayMode = mode;
+}
+
+int GuiBase::GetDisplayMode()
+{
+    return d->settings.displayMode;
+}
+
+void GuiBase::SetShowFrequencyInHz(bool show)
+{
+    d->settings.showFrequencyInHz = show;
+}
+
+int GuiBase::GetShowFrequencyInHz() const
+{
+    return d->settings.showFrequencyInHz ? 1 : 0;
+}
+
+const QString& GuiBase::GetFontFamily() const
+{
+    return d->settings.fontFamily;
+}
+
+void GuiBase::SetFontFamily(const QString& family)
+{
+    d->settings.fontFamily = family;
+}
+
+const QString& GuiBase::GetWFontFamily() const
+{
+    return d->settings.windowsFontFamily;
+}
+
+void GuiBase::SetWFontFamily(const QString& family)
+{
+    d->settings.windowsFontFamily = family;
+}
+
+QFlags<QFileDialog::Option> GuiBase::UseNativeDialogs()
+{
+    return d->settings.useNativeDialogs ? QFileDialog::Options()
+                                        : QFileDialog::Options(QFileDialog::DontUseNativeDialog);
+}
+
+bool GuiBase::SetDefaultDataDirectory(const QString& directory)
+{
+    return d->settings.setDefaultDataDirectory(directory);
+}
+
+const QString& GuiBase::GetDefaultDataDirectory() const
+{
+    return d->settings.defaultDataDirectory;
+}
+
+void GuiBase::slotRereadTimeZoneOffset()
+{
+    // Local time always follows the system's rules; no offset is kept that could be outdated.
+}
+
+// --- Style ---------------------------------------------------------------------------------------
+
+QComboBox* GuiBase::GetStyleComboBox(QWidget* parent)
+{
+    QComboBox* box = WindowHelpers::createStyleComboBox(parent);
+    connect(box, &QComboBox::activated, this, &GuiBase::slotStyleChanged);
+    return box;
+}
+
+void GuiBase::slotStyleChanged(int)
+{
+    // There is one style only, whatever was chosen.
+    StyleLoader::applyStyle();
+    loadStyleSheet(nullptr);
+}
+
+void GuiBase::loadStyleSheet(ICfg* cfg)
+{
+    if (d->application)
+        StyleLoader::loadStyleSheet(*d->application, cfg);
+}
+
+// --- Help ----------------------------------------------------------------------------------------
+
+QMenu* GuiBase::CreateHelpMenu(QWidget* parent, const QString& helpFile, QObject* infoReceiver,
+                               const char* infoSlot, QWidget* messageParent, const char* manualSlot)
+{
+    return d->helpMenu.create(
+        {parent, helpFile, infoReceiver, infoSlot, messageParent, manualSlot});
+}
+
+QMenu* GuiBase::GetHelpMenu() const
+{
+    return d->helpMenu.menu;
+}
+
+void GuiBase::SetHelpMenu(QMenu* menu)
+{
+    d->helpMenu.menu = menu;
+}
+
+void GuiBase::slotHelpContents()
+{
+    d->helpMenu.showManual();
+}
+
+void GuiBase::slotShowHotKeysInMenu()
+{
+    ExecHotKeysDialog(d->helpMenu.messageParent);
+}
+
+// --- Window layouts ------------------------------------------------------------------------------
+
+void GuiBase::RegisterPersistentWidget(QWidget* widget, const QString& name)
+{
+    d->persistentWidgets.registerWidget(widget, QStringLiteral("GuiBase_") + name);
+}
+
+void GuiBase::UnregisterPersistentWidget(QWidget* widget)
+{
+    d->persistentWidgets.unregisterWidget(widget);
+}
+
+QAction* GuiBase::CreateResetWidgetViewAction(QObject* parent)
+{
+    auto* action =
+        new QAction(tr("Reset View to Program Start", "Menu entry: Reset window view"), parent);
+    action->setStatusTip(action->text());
+    connect(action, &QAction::triggered, this, &GuiBase::RestoreWidgetSize);
+    return action;
+}
+
+QAction* GuiBase::CreateResetFactoryViewAction(QObject* parent)
+{
+    auto* action =
+        new QAction(tr("Reset View to Factory Default", "Menu entry: Reset window view"), parent);
+    action->setStatusTip(action->text());
+    connect(action, &QAction::triggered, this, &GuiBase::RestoreFactoryWidgetSize);
+    return action;
+}
+
+bool GuiBase::RestoreWidgetSize()
+{
+    if (!d->persistentWidgets.restoreProgramStart())
+        return false;
+    Q_EMIT signalResetToProgramStart();
+    return true;
+}
+
+bool GuiBase::RestoreFactoryWidgetSize()
+{
+    if (!d->persistentWidgets.restoreFactory())
+        return false;
+    Q_EMIT signalResetToFactoryDefault();
+    return true;
+}
+
+void GuiBase::StoreWidgetSize()
+{
+    if (!d->persistentWidgets.isRestoring())
+        d->persistentWidgets.write();
+}
+
+void GuiBase::SavePersistant()
+{
+    d->record.Write(QString());
+    d->persistentWidgets.write();
+    StoreColumnSizes2Cfg();
+    StoreSplitterSizes2Cfg();
+}
+
+void GuiBase::setMode(long)
+{
+    // A window's geometry is the same in all modes.
+    d->persistentWidgets.capture();
+}
+
+void GuiBase::storeFactoryDefaultWidgets(long)
+{
+    // The factory geometry is the one before the first record was applied, in all modes.
+}
+
+// Lists and splitters register their layouts themselves; without any there is nothing to keep.
+
+void GuiBase::ApplyColumnWidth4(const QString&, SortListView*) {}
+
+void GuiBase::StoreColumnWidth4(const QString&, SortListView*) {}
+
+void GuiBase::StoreColumnSizes2Cfg() {}
+
+void GuiBase::ApplySplitterSizes4(const QString&, Splitter*) {}
+
+void GuiBase::StoreSplitterSizes4(const QString&, Splitter*) {}
+
+void GuiBase::StoreSplitterSizes2Cfg() {}
+
+// --- Hot keys ------------------------------------------------------------------------------------
+
+int GuiBase::AddHotKey(Qt::Key key, int modifiers, QObject* receiver, const QString& comment,
+                       const QString& scope, bool onPress, bool listed)
+{
+    if (receiver != nullptr && !d->hotKeys.hasReceiver(receiver)) {
+        // By text: the receiver is of a type that is not known here.
+        if (receiver->metaObject()->indexOfMethod("slotHotKey(int)") >= 0) {
+            connect(this, SIGNAL(signalHotKey(int)), receiver, SLOT(slotHotKey(int)),
+                    Qt::QueuedConnection);
+        } else {
+            GUIBASE_TRACE(QStringLiteral("GuiBase::AddHotKey(): '%1' has no slot 'slotHotKey(int)'")
+                              .arg(QString::fromLatin1(receiver->metaObject()->className())));
+        }
+    }
+    HotKey hotKey;
+    hotKey.key = key;
+    hotKey.modifiers = modifiers;
+    hotKey.receiver = receiver;
+    hotKey.comment = comment;
+    hotKey.scope = scope;
+    hotKey.onPress = onPress;
+    hotKey.listed = listed;
+    return d->hotKeys.add(hotKey);
+}
+
+void GuiBase::ShowHotKeyFrom(QAction* action, const QString& scope)
+{
+    if (action != nullptr)
+        d->hotKeys.addAction(*action, scope);
+}
+
+void GuiBase::ExecHotKeysDialog(QWidget* parent)
+{
+    HotKeyOverview::exec(d->hotKeys.shownHotKeys(), parent);
+}
+
+bool GuiBase::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
+        return false;
+    if (d->hotKeys.isRepeatedDelivery(object, *static_cast<QKeyEvent*>(event)))
+        return false;
+    return handleHotKeyEvent(object, event);
+}
+
+bool GuiBase::handleHotKeyEvent(QObject*, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
+        return false;
+    // Handlers may run an event loop; keys that arrive meanwhile fire nothing.
+    if (!d->hotKeys.mutex.tryLock())
+        return false;
+    const QKeyEvent& keyEvent = *static_cast<QKeyEvent*>(event);
+    const int key = keyEvent.key();
+    if (event->type() == QEvent::KeyPress && key == Qt::Key_Escape &&
+        keyEvent.modifiers() == Qt::NoModifier) {
+        Q_EMIT hotkey_ESC_pressed();
+    }
+    const QList<int> ids = d->hotKeys.matches(keyEvent);
+    for (const int id : ids)
+        Q_EMIT signalHotKey(id);
+    d->hotKeys.mutex.unlock();
+    return !ids.isEmpty() && (key == Qt::Key_F10 || key == Qt::Key_F12);
+}
+
+// --- Other ---------------------------------------------------------------------------------------
+
+void GuiBase::ForceFinishEditing()
+{
+    if (QWidget* focusWidget = QApplication::focusWidget())
+        Q_EMIT endEdit(focusWidget);
+}
+
+bool GuiBase::isDialogVisible()
+{
+    return WindowHelpers::isDialogVisible();
+}
+
+QString GuiBase::GetSignalType(char letter)
+{
+    ApplicationColors::ensure();
+    return signalTypeName(letter);
+}
+
+QDockWidget* GuiBase::AddAsDockWidget(QWidget* widget, const QString& title,
+                                      QMainWindow* mainWindow, Qt::DockWidgetArea area)
+{
+    return WindowHelpers::addAsDockWidget(widget, title, mainWindow, area);
+}
+
+void GuiBase::emit_signalColorsChanged()
+{
+    Q_EMIT signalColorsChanged();
+}
+
+QString GuiBase::trUtf8(const char* text, const char* comment)
+{
+    return tr(text, comment);
+}
+
+QString GuiBase::trUtf8(const char* text, const char* comment, int count)
+{
+    return tr(text, comment, count);
+}
+
+// --- Splash --------------------------------------------------------------------------------------
+
+void GuiBase::ShowSplash(QString, uint)
+{
+    SplashForwarder::traceDeprecatedShow();
+}
+
+void GuiBase::ShowSplash(QString)
+{
+    SplashForwarder::traceDeprecatedShow();
+}
+
+void GuiBase::ShowSplash(QPixmap, uint)
+{
+    SplashForwarder::traceDeprecatedShow();
+}
+
+void GuiBase::ShowSplash(QPixmap)
+{
+    SplashForwarder::traceDeprecatedShow();
+}
+
+void GuiBase::ShowSplash(uint)
+{
+    SplashForwarder::traceDeprecatedShow();
+}
+
+void GuiBase::ShowSplash()
+{
+    SplashForwarder::traceDeprecatedShow();
+}
+
+void GuiBase::HideSplash()
+{
+    SplashForwarder::hide();
+}
+
+void GuiBase::HideSplashAtOnce()
+{
+    SplashForwarder::hideAtOnce();
+}
+
+void GuiBase::BusySplash()
+{
+    SplashForwarder::showBusy();
+}
+
+void GuiBase::Write2Splash(QString text)
+{
+    SplashForwarder::write(text);
+}
+
+// --- Configuration and termination ---------------------------------------------------------------
+
+void GuiBase::ApplyPersistantBeforeWrite()
+{
+    d->colorDefinitionFile = ApplicationColors::activeName();
+}
+
+void GuiBase::ApplyPersistantAfterRead()
+{
+    d->colorDefinitionFile = ApplicationColors::load(d->colorDefinitionFile);
+}
+
+void GuiBase::Load()
+{
+    d->record.Read(QString());
+}
+
+void GuiBase::Save()
+{
+    StoreColumnSizes2Cfg();
+}
+
+void GuiBase::CommitData()
+{
+    Save();
+}
+
+void GuiBase::aboutToTerminate()
+{
+    CfgCenter::UnregisterSaveComponent(this);
+    SavePersistant();
+    d->persistentWidgets.clear();
+}

@@ -83,14 +83,16 @@ void HelpMenu::addManualEntry(const Request& request)
     QObject* receiver = request.manualSlot != nullptr ? request.receiver : &m_services;
     if (receiver == nullptr)
         return;
-    const char* text = request.manualSlot != nullptr ? request.manualSlot : SLOT(slotHelpContents());
+    const char* text =
+        request.manualSlot != nullptr ? request.manualSlot : SLOT(slotHelpContents());
     const QByteArray signature = slotSignature(text);
     const QMetaMethod slot = findEntrySlot(*receiver, signature);
     if (!slot.isValid()) {
         traceMissingSlot(*receiver, signature);
         return;
     }
-    addEntry(GuiBase::tr("&Manual...", "Help menu entry, shows manual"), Qt::Key_F1, receiver, slot);
+    addEntry(GuiBase::tr("&Manual...", "Help menu entry, shows manual"), Qt::Key_F1, receiver,
+             slot);
 }
 
 void HelpMenu::addKeyboardEntry()

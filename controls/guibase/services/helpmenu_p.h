@@ -18,7 +18,8 @@ public:
     explicit HelpMenu(GuiBase& services);
 
     /// What the application wants to have in its menu; see GuiBase::CreateHelpMenu().
-    struct Request {
+    struct Request
+    {
         QWidget* parent = nullptr;
         QString helpFile;
         QObject* receiver = nullptr;

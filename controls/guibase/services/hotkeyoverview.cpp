@@ -25,8 +25,12 @@ QStringList rowOf(const HotKey& hotKey)
         const bool held = (hotKey.modifiers & static_cast<int>(modifier)) != 0;
         return held ? QStringLiteral("X") : QStringLiteral(" ");
     };
-    return {HotKeyOverview::keyName(hotKey.key), mark(Qt::ShiftModifier), mark(Qt::AltModifier),
-            mark(Qt::ControlModifier),           hotKey.scope,            hotKey.comment};
+    return {HotKeyOverview::keyName(hotKey.key),
+            mark(Qt::ShiftModifier),
+            mark(Qt::AltModifier),
+            mark(Qt::ControlModifier),
+            hotKey.scope,
+            hotKey.comment};
 }
 
 } // namespace
@@ -63,8 +67,7 @@ void HotKeyOverview::exec(const QList<HotKey>& hotKeys, QWidget* parent)
         return;
     }
     // On the heap, and deleted by itself: the parent may die while the dialog is open.
-    auto* dialog =
-        new QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
+    auto* dialog = new QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(GuiBase::tr("Keyboard - Hotkeys Overview"));
     dialog->setMinimumWidth(minimumDialogWidth);

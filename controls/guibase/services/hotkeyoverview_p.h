@@ -14,7 +14,8 @@ namespace HotKeyOverview {
 QString keyName(Qt::Key key);
 /// A list with one row for each hot key; belongs to the parent.
 QWidget* createList(const QList<HotKey>& hotKeys, QWidget* parent);
-/// Shows the modal overview dialog, or tells that there are no hot keys, and waits until it is closed.
+/// Shows the modal overview dialog, or tells that there are no hot keys, and waits until it is
+/// closed.
 void exec(const QList<HotKey>& hotKeys, QWidget* parent);
 
 } // namespace HotKeyOverview

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "hotkeyregistry_p.h"
 
+#include <QAction>
 #include <QKeyEvent>
+#include <QRegularExpression>
 #include <QWidget>
 #include <QWindow>
 
@@ -13,8 +15,9 @@ namespace {
 bool matchesModifiers(const HotKey& hotKey, Qt::KeyboardModifiers pressed)
 {
     // Where on the keyboard a key sits counts only for a hot key that asks for it.
-    const int positional = (Qt::KeypadModifier | Qt::GroupSwitchModifier).toInt();
-    return (pressed.toInt() & ~(positional & ~hotKey.modifiers)) == hotKey.modifiers;
+    const auto wanted = Qt::KeyboardModifiers::fromInt(static_cast<unsigned>(hotKey.modifiers));
+    const Qt::KeyboardModifiers positional = Qt::KeypadModifier | Qt::GroupSwitchModifier;
+    return (pressed & ~(positional & ~wanted)) == wanted;
 }
 
 bool matchesAction(const HotKey& hotKey, const QKeyEvent& event)
@@ -26,16 +29,16 @@ bool matchesAction(const HotKey& hotKey, const QKeyEvent& event)
 
 bool showsTheSame(const HotKey& left, const HotKey& right)
 {
-    return left.key == right.key && left.modifiers == right.modifiers
-        && left.comment == right.comment && left.scope == right.scope;
+    return left.key == right.key && left.modifiers == right.modifiers &&
+           left.comment == right.comment && left.scope == right.scope;
 }
 
 bool isWidgetAround(const QObject* outer, const QObject* inner)
 {
     const auto* outerWidget = qobject_cast<const QWidget*>(outer);
     const auto* innerWidget = qobject_cast<const QWidget*>(inner);
-    return outerWidget != nullptr && innerWidget != nullptr && outerWidget != innerWidget
-        && outerWidget->isAncestorOf(innerWidget);
+    return outerWidget != nullptr && innerWidget != nullptr && outerWidget != innerWidget &&
+           outerWidget->isAncestorOf(innerWidget);
 }
 
 } // namespace
@@ -45,6 +48,21 @@ int HotKeyRegistry::add(HotKey hotKey)
     hotKey.id = static_cast<int>(m_hotKeys.size()) + 1;
     m_hotKeys.append(std::move(hotKey));
     return m_hotKeys.constLast().id;
+}
+
+void HotKeyRegistry::addAction(const QAction& action, const QString& scope)
+{
+    if (action.shortcut().isEmpty())
+        return;
+    static const QRegularExpression mnemonicMark(QStringLiteral("&(.)"));
+    const QKeyCombination combination = action.shortcut()[0];
+    HotKey hotKey;
+    hotKey.key = combination.key();
+    hotKey.modifiers = static_cast<int>(combination.keyboardModifiers().toInt());
+    hotKey.comment = action.text().replace(mnemonicMark, QStringLiteral("\\1"));
+    hotKey.scope = scope;
+    hotKey.shownOnly = true;
+    add(hotKey);
 }
 
 bool HotKeyRegistry::hasReceiver(const QObject* receiver) const
@@ -78,8 +96,8 @@ QList<int> HotKeyRegistry::matches(const QKeyEvent& event) const
 {
     QList<int> ids;
     for (const HotKey& hotKey : m_hotKeys) {
-        if (hotKey.enabled && !hotKey.shownOnly && hotKey.key == event.key()
-            && matchesModifiers(hotKey, event.modifiers()) && matchesAction(hotKey, event)) {
+        if (hotKey.enabled && !hotKey.shownOnly && hotKey.key == event.key() &&
+            matchesModifiers(hotKey, event.modifiers()) && matchesAction(hotKey, event)) {
             ids.append(hotKey.id);
         }
     }

@@ -11,7 +11,8 @@ class QAction;
 class QKeyEvent;
 
 /// One line of the hot-key registry.
-struct HotKey {
+struct HotKey
+{
     Qt::Key key = Qt::Key_unknown;
     int modifiers = 0; ///< Qt::KeyboardModifiers.
     QPointer<QObject> receiver;
@@ -31,6 +32,8 @@ class HotKeyRegistry
 public:
     /// `hotKey.id` is given here and returned.
     int add(HotKey hotKey);
+    /// Enters the action's first shortcut and its text, only to be shown; nothing without shortcut.
+    void addAction(const QAction& action, const QString& scope);
     bool hasReceiver(const QObject* receiver) const;
     const QList<HotKey>& hotKeys() const;
     /// The hot keys that the overview shows: each combination with the same texts once.
@@ -46,7 +49,8 @@ public:
     QMutex mutex;
 
 private:
-    struct Delivery {
+    struct Delivery
+    {
         const QKeyEvent* event = nullptr;
         quint64 timestamp = 0;
         int type = 0;

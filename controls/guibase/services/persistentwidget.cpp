@@ -12,7 +12,6 @@ PersistentWidget::PersistentWidget(QWidget* widget, const QString& recordName)
     , m_record(cleanedName(recordName), this)
 {
     m_record.Add(&m_geometryText, QStringLiteral("Geometry"));
-    m_record.Read(QString());
 }
 
 PersistentWidget::~PersistentWidget() = default;
@@ -34,6 +33,11 @@ QWidget* PersistentWidget::widget() const
 bool PersistentWidget::watches(const QObject* object) const
 {
     return m_identity == object;
+}
+
+void PersistentWidget::read()
+{
+    m_record.Read(QString());
 }
 
 void PersistentWidget::write()

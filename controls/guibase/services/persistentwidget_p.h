@@ -11,13 +11,12 @@
 
 /// Keeps the window geometry of one widget from run to run, in a configuration record of its own.
 ///
-/// The widget is not owned. What it looked like last is remembered with every change, so that it can
-/// be written also after the widget is gone.
+/// The widget is not owned. What it looked like last is remembered with every change, so that it
+/// can be written also after the widget is gone.
 class PersistentWidget : public QObject, public PersistantOwner
 {
     Q_OBJECT
 public:
-    /// Reads the record, applies it to the widget and shows the widget.
     PersistentWidget(QWidget* widget, const QString& recordName);
     ~PersistentWidget() override;
 
@@ -28,6 +27,8 @@ public:
     QWidget* widget() const;
     /// Tells this widget from others also while, and after, it is destroyed.
     bool watches(const QObject* object) const;
+    /// Reads the record, applies it to the widget and shows the widget.
+    void read();
     void write();
     void restoreProgramStart();
     void restoreFactory();

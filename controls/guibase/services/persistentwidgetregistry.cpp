@@ -13,13 +13,16 @@ PersistentWidgetRegistry::~PersistentWidgetRegistry() = default;
 
 void PersistentWidgetRegistry::registerWidget(QWidget* widget, const QString& recordName)
 {
-    const bool known = std::any_of(m_widgets.cbegin(), m_widgets.cend(), [widget](const auto& entry) {
-        return entry->watches(widget);
-    });
+    const bool known = std::any_of(m_widgets.cbegin(), m_widgets.cend(),
+                                   [widget](const auto& entry) { return entry->watches(widget); });
     if (widget == nullptr || known)
         return;
-    connect(widget, &QObject::destroyed, this, &PersistentWidgetRegistry::handleDestroyed);
-    m_widgets.push_back(std::make_shared<PersistentWidget>(widget, recordName));
+    connect(widget, &QObject::destroyed, this, &PersistentWidgetRegistry::handleDestroyed,
+            Qt::UniqueConnection);
+    // Entered before it is read: reading shows the widget, whose handlers may come back here.
+    const auto entry = std::make_shared<PersistentWidget>(widget, recordName);
+    m_widgets.push_back(entry);
+    entry->read();
 }
 
 void PersistentWidgetRegistry::unregisterWidget(const QObject* widget)

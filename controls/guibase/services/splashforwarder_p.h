@@ -3,8 +3,8 @@
 
 #include <QString>
 
-/// Hands requests for the splash screen on to the start-up object, which owns it. Without a start-up
-/// object nothing happens.
+/// Hands requests for the splash screen on to the start-up object, which owns it. Without a
+/// start-up object nothing happens.
 namespace SplashForwarder {
 
 /// Showing is the start-up object's own affair; the request is only traced.

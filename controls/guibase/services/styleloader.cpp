@@ -61,7 +61,7 @@ void StyleLoader::loadStyleSheet(QApplication& application, const ICfg* cfg)
         GUIBASE_TRACE(QStringLiteral("Style sheet '%1' cannot be opened").arg(path));
         return;
     }
-    // The toolkit cuts off "file:///" and opens the rest as a path, without decoding it. So the path
-    // follows as it is; a proper URL of an absolute Unix path would lose its leading slash.
+    // The toolkit cuts off "file:///" and opens the rest as a path, without decoding it. So the
+    // path follows as it is; a proper URL of an absolute Unix path would lose its leading slash.
     application.setStyleSheet(QStringLiteral("file:///") + path);
 }

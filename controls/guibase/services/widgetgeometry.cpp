@@ -33,16 +33,16 @@ bool isGeometry(const QByteArray& bytes)
     QRect frame;
     QRect normal;
     stream >> magic >> major >> minor >> frame >> normal;
-    return stream.status() == QDataStream::Ok && magic == magicNumber && major >= 1
-        && major <= std::size(sizeOfVersion) && bytes.size() == sizeOfVersion[major - 1]
-        && isPlausible(frame) && isPlausible(normal);
+    return stream.status() == QDataStream::Ok && magic == magicNumber && major >= 1 &&
+           major <= std::size(sizeOfVersion) && bytes.size() == sizeOfVersion[major - 1] &&
+           isPlausible(frame) && isPlausible(normal);
 }
 
 bool isHexadecimal(const QByteArray& digits)
 {
     return digits.size() % 2 == 0 && std::all_of(digits.cbegin(), digits.cend(), [](char digit) {
-        return std::isxdigit(static_cast<unsigned char>(digit)) != 0;
-    });
+               return std::isxdigit(static_cast<unsigned char>(digit)) != 0;
+           });
 }
 
 } // namespace

@@ -1,33 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "levelrange.h"
 #include "recording.h"
 
-#include <limits>
 #include <span>
 #include <vector>
 
 namespace bandmonitor {
-
-/// Lowest and highest level of some bins, in dB. By default it holds no level.
-struct LevelRange
-{
-    float minimum = std::numeric_limits<float>::infinity();
-    float maximum = -std::numeric_limits<float>::infinity();
-
-    bool isEmpty() const { return !(minimum <= maximum); }
-    void add(float level) // noLevel changes nothing: it compares false with everything
-    {
-        minimum = level < minimum ? level : minimum;
-        maximum = level > maximum ? level : maximum;
-    }
-    void add(const LevelRange& other)
-    {
-        minimum = other.minimum < minimum ? other.minimum : minimum;
-        maximum = other.maximum > maximum ? other.maximum : maximum;
-    }
-    bool operator==(const LevelRange&) const = default;
-};
 
 /// The frequencies that a row of pixels shows: column `c` of `n` covers `(highHz - lowHz) / n`
 /// from `lowHz + c * (highHz - lowHz) / n` on.

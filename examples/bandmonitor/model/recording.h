@@ -2,6 +2,7 @@
 #pragma once
 
 #include "chunkedarray.h"
+#include "levelrange.h"
 
 #include <QtGlobal>
 
@@ -87,8 +88,7 @@ private:
     std::vector<Segment> m_scratch;
     double m_lowHz = 0;
     double m_highHz = 0;
-    float m_minimum = std::numeric_limits<float>::infinity();
-    float m_maximum = -std::numeric_limits<float>::infinity();
+    LevelRange m_range;
     std::size_t m_largestBinCount = 0;
 };
 

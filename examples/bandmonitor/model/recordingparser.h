@@ -7,11 +7,14 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <set>
 #include <string_view>
 #include <vector>
 
 namespace bandmonitor {
+
+class RecordingFields;
 
 /// Why a line of a recording was skipped.
 enum class LineFault {
@@ -49,7 +52,7 @@ struct SkippedLine
 ///   counts, and the step is worked out from it. One level more than fits is a repetition of the
 ///   last bin, and is dropped.
 /// - Every other line is skipped, counted and kept in mind for the report; a sweep keeps its good
-///   hops. Nothing but memory for the levels that the text really holds is ever reserved.
+///   hops. Memory follows the length of the text, whatever the numbers in it say.
 class RecordingParser
 {
 public:
@@ -88,24 +91,17 @@ public:
 private:
     struct Hop
     {
-        quint64 timeUs = 0;
-        double lowHz = 0;
-        double highHz = 0;
-        double stepHz = 0;
-        quint64 samples = 0;
-    };
-    struct PendingSegment
-    {
         double startHz = 0;
         double stepHz = 0;
         quint64 samples = 0;
-        std::size_t offset = 0;
+        std::size_t offset = 0; ///< of its first level in m_levels
         std::size_t count = 0;
     };
 
     void readLine(std::string_view line);
+    std::optional<std::size_t> readLevels(RecordingFields& fields, std::size_t bytes);
     void skipLine(LineFault fault);
-    void addHop(const Hop& hop, std::size_t offset, std::size_t count);
+    void addHop(quint64 timeUs, Hop hop);
     bool startsNewSweep(quint64 timeUs, double startHz);
     void closeSweep();
 
@@ -121,8 +117,8 @@ private:
     quint64 m_sweepTimeUs = 0;
     std::vector<float> m_levels;
     std::size_t m_levelsUsed = 0;
-    std::vector<PendingSegment> m_pending;
-    std::set<double> m_starts; ///< of the pending hops, once one came out of order
+    std::vector<Hop> m_hops;
+    std::set<double> m_starts; ///< of m_hops, once one came out of order
     std::vector<Segment> m_segments;
 };
 

@@ -40,19 +40,20 @@ private:
     struct Station
     {
         double centre = 0; ///< of the band, from 0 to 1
-        double levelDb = 0;
-        double width = 0; ///< of the band
+        double width = 0;  ///< of the band
+        double power = 0;
+        double modulation = 0.5; ///< in the current sweep, 0 to 1
     };
 
     double uniform();
     double noiseDb();
-    double signalPower(double place, double hopperPlace, double drifterPlace) const;
+    double stationPower(const Station& station, double place) const;
+    double level(double place, double hopper, double drifter);
 
     SampleSettings m_settings;
     int m_sweep = 0;
     quint64 m_random = 0;
     std::vector<Station> m_stations;
-    std::vector<double> m_modulation; ///< of each station in this sweep, 0 to 1
 };
 
 /// Path of the sample recording that is built into the application; RecordingLoader reads it.

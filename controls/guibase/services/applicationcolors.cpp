@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "applicationcolors_p.h"
+
+#include <guibase/colors/colorset.h>
+
+void ApplicationColors::ensure()
+{
+    ColorSet::Instance();
+}
+
+void ApplicationColors::restoreFactoryColors()
+{
+    ColorSet::Instance().slotRestoreFactoryColors();
+}
+
+QString ApplicationColors::load(const QString& fileName)
+{
+    if (!fileName.isEmpty())
+        ColorSet::Instance().Load(nullptr, fileName);
+    return activeName();
+}
+
+QString ApplicationColors::activeName()
+{
+    return ColorSet::Instance().GetName();
+}

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "panes/bandview.h"
+
+#include "panes/axes.h"
+#include "panes/spectrumpane.h"
+#include "panes/waterfallpane.h"
+
+#include <guibase/services/guibase.h>
+
+#include <QGridLayout>
+
+#include <cmath>
+
+namespace bandmonitor {
+
+namespace {
+constexpr double levelStep = 10; // the level axis begins and ends at multiples of it, in dB
+constexpr double levelMargin = 3;
+} // namespace
+
+BandView::BandView(QWidget* parent)
+    : QWidget(parent)
+{
+    const int indent = SideAxis::preferredWidth(*this);
+    m_frequencyAxis = new FrequencyAxis(&m_view, &m_text, indent, this);
+    m_spectrum = new SpectrumPane(
+        &m_view, &m_text, [this](int pixels) { return m_frequencyAxis->ticks(pixels); }, this);
+    m_waterfall = new WaterfallPane(&m_view, this);
+    m_levelAxis = new SideAxis(
+        tr("dB"), [this](int pixels) { return m_spectrum->levelTicks(pixels); }, this);
+    m_timeAxis = new SideAxis(
+        QString(),
+        [this](int pixels) {
+            return m_waterfall->timeTicks(pixels, [](quint64 timeUs) {
+                return GuiBase::Instance().TimeString(timeUs, QStringLiteral("hh:mm:ss"));
+            });
+        },
+        this);
+    buildLayout();
+    setFocusProxy(m_spectrum);
+    connect(&GuiBase::Instance(), &GuiBase::signalColorsChanged, this, &BandView::refreshColors);
+}
+
+BandView::~BandView() = default;
+
+void BandView::buildLayout()
+{
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(0);
+    grid->addWidget(m_levelAxis, 0, 0);
+    grid->addWidget(m_spectrum, 0, 1);
+    grid->addWidget(m_frequencyAxis, 1, 0, 1, 2);
+    grid->addWidget(m_timeAxis, 2, 0);
+    grid->addWidget(m_waterfall, 2, 1);
+    grid->setRowStretch(0, 5);
+    grid->setRowStretch(2, 4);
+    grid->setColumnStretch(1, 1);
+    setTabOrder(m_spectrum, m_waterfall);
+}
+
+void BandView::setRecording(std::shared_ptr<const Recording> recording)
+{
+    m_recording = std::move(recording);
+    m_position = -1;
+    m_hold.clear();
+    // The panes must let go of the former recording's levels before it may go.
+    m_spectrum->setSweep({}, nullptr);
+    m_spectrum->setHold({}, nullptr);
+    m_waterfall->setRecording(m_recording);
+    if (m_recording && !m_recording->isEmpty()) {
+        const Sweep first = m_recording->sweep(0);
+        m_view.setBand(m_recording->lowHz(), m_recording->highHz(),
+                       first.segments.empty() ? 1 : first.segments.front().stepHz);
+        fitLevels();
+    }
+    refreshTexts();
+}
+
+void BandView::fitLevels()
+{
+    const double low = static_cast<double>(m_recording->minimumLevel().value_or(-120));
+    const double high = static_cast<double>(m_recording->maximumLevel().value_or(0));
+    m_spectrum->setLevelRange(std::floor((low - levelMargin) / levelStep) * levelStep,
+                              std::ceil((high + levelMargin) / levelStep) * levelStep);
+    m_waterfall->setLevelRange(low, high);
+    m_levelAxis->update();
+}
+
+void BandView::showSweep(qsizetype position, qsizetype previous)
+{
+    if (!m_recording || position < 0 || position >= m_recording->count())
+        return;
+    m_position = position;
+    const Sweep sweep = m_recording->sweep(position);
+    const auto pyramid = std::make_shared<const LevelPyramid>(sweep);
+    m_spectrum->setSweep(sweep, pyramid);
+    m_waterfall->setPosition(position, pyramid);
+    const qsizetype first = previous < 0 || previous >= position ? position : previous + 1;
+    for (qsizetype held = first; held <= position; ++held)
+        m_hold.add(m_recording->sweep(held));
+    m_spectrum->setHold(m_hold.sweep(), std::make_shared<const LevelPyramid>(m_hold.sweep()));
+    m_timeAxis->update();
+}
+
+void BandView::setHoldVisible(bool visible)
+{
+    m_spectrum->setHoldVisible(visible);
+}
+
+void BandView::resetHold()
+{
+    m_hold.clear();
+    if (m_recording && m_position >= 0)
+        m_hold.add(m_recording->sweep(m_position));
+    m_spectrum->setHold(m_hold.sweep(), std::make_shared<const LevelPyramid>(m_hold.sweep()));
+}
+
+void BandView::refreshTexts()
+{
+    m_text.refresh();
+    m_spectrum->refreshTexts();
+    m_frequencyAxis->update();
+    m_timeAxis->update();
+}
+
+void BandView::refreshColors()
+{
+    m_waterfall->refreshColors();
+    update();
+    const QList<QWidget*> children = findChildren<QWidget*>();
+    for (QWidget* child : children)
+        child->update();
+}
+
+} // namespace bandmonitor

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/holdmaximum.h"
+#include "model/recording.h"
+#include "panes/frequencytext.h"
+#include "panes/frequencyview.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace bandmonitor {
+
+class FrequencyAxis;
+class SideAxis;
+class SpectrumPane;
+class WaterfallPane;
+
+/// The spectrum with its axes and, below it, the waterfall of the same frequencies.
+class BandView : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit BandView(QWidget* parent = nullptr);
+    ~BandView() override;
+
+    FrequencyView& view() { return m_view; }
+    SpectrumPane& spectrum() { return *m_spectrum; }
+    WaterfallPane& waterfall() { return *m_waterfall; }
+
+    /// Shows the whole band of the recording; null for none. The hold maximum starts anew.
+    void setRecording(std::shared_ptr<const Recording> recording);
+    /// Makes the sweep at `position` the current one. The hold maximum takes in the sweeps after
+    /// `previous`, or only the current one when `previous` is -1 or comes later.
+    void showSweep(qsizetype position, qsizetype previous);
+    qsizetype position() const { return m_position; }
+
+    void setHoldVisible(bool visible);
+    /// The hold maximum starts anew from the current sweep.
+    void resetHold();
+
+public Q_SLOTS:
+    /// Unit, resolution, time zone or format have changed.
+    void refreshTexts();
+    void refreshColors();
+
+private:
+    void buildLayout();
+    void fitLevels();
+
+    FrequencyView m_view;
+    FrequencyText m_text;
+    HoldMaximum m_hold;
+    std::shared_ptr<const Recording> m_recording;
+    qsizetype m_position = -1;
+    SideAxis* m_levelAxis = nullptr;
+    SpectrumPane* m_spectrum = nullptr;
+    FrequencyAxis* m_frequencyAxis = nullptr;
+    SideAxis* m_timeAxis = nullptr;
+    WaterfallPane* m_waterfall = nullptr;
+};
+
+} // namespace bandmonitor

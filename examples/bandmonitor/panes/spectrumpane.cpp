@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+#include "panes/spectrumpane.h"
+
+#include "panes/frequencytext.h"
+#include "panes/frequencyview.h"
+#include "panes/panecolors.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <cmath>
+
+namespace bandmonitor {
+
+namespace {
+constexpr double smallestLevelRange = 10;
+constexpr int readOutMargin = 6;
+constexpr int gapBetweenLevels = 10;
+} // namespace
+
+SpectrumPane::SpectrumPane(FrequencyView* view, const FrequencyText* text,
+                           GridTicks frequencyTicks, QWidget* parent)
+    : BandPane(view, parent)
+    , m_text(text)
+    , m_frequencyTicks(std::move(frequencyTicks))
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAccessibleName(tr("Spectrum"));
+    connect(view, &FrequencyView::rangeChanged, this, &SpectrumPane::reduceAll);
+}
+
+SpectrumPane::~SpectrumPane() = default;
+
+void SpectrumPane::setSweep(const Sweep& sweep, std::shared_ptr<const LevelPyramid> pyramid)
+{
+    setTrace(m_curve, sweep, std::move(pyramid));
+}
+
+void SpectrumPane::setHold(const Sweep& hold, std::shared_ptr<const LevelPyramid> pyramid)
+{
+    setTrace(m_hold, hold, std::move(pyramid));
+}
+
+void SpectrumPane::setTrace(Trace& trace, const Sweep& sweep,
+                            std::shared_ptr<const LevelPyramid> pyramid)
+{
+    trace.sweep = sweep;
+    trace.pyramid = std::move(pyramid);
+    reduce(trace);
+    update();
+}
+
+void SpectrumPane::setHoldVisible(bool visible)
+{
+    if (m_holdVisible == visible)
+        return;
+    m_holdVisible = visible;
+    update();
+}
+
+void SpectrumPane::setLevelRange(double low, double high)
+{
+    if (!std::isfinite(low) || !std::isfinite(high))
+        return;
+    m_lowLevel = low;
+    m_highLevel = std::max(high, low + smallestLevelRange);
+    update();
+}
+
+std::vector<AxisTick> SpectrumPane::levelTicks(int pixels) const
+{
+    const int textHeight = fontMetrics().height();
+    return layoutTicks({m_lowLevel, m_highLevel, pixels}, 1, gapBetweenLevels, textHeight,
+                       [](double level) { return QString::number(level, 'f', 0); },
+                       [textHeight](const QString&) { return textHeight; });
+}
+
+void SpectrumPane::refreshTexts()
+{
+    update();
+}
+
+void SpectrumPane::reduce(Trace& trace) const
+{
+    trace.columns.assign(static_cast<size_t>(std::max(width(), 0)), LevelRange());
+    if (trace.pyramid)
+        trace.pyramid->reduce({view().low(), view().high()}, trace.columns);
+}
+
+void SpectrumPane::reduceAll()
+{
+    reduce(m_curve);
+    reduce(m_hold);
+    update();
+}
+
+void SpectrumPane::resizeEvent(QResizeEvent* event)
+{
+    BandPane::resizeEvent(event);
+    reduceAll();
+}
+
+int SpectrumPane::yOf(double level) const
+{
+    const double position = AxisRange{m_lowLevel, m_highLevel, height()}.positionOf(level);
+    return height() - 1 - static_cast<int>(std::clamp(position, -1.0, height() + 1.0));
+}
+
+void SpectrumPane::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    const QRect dirty = event->rect();
+    QLinearGradient background(0, 0, 0, height());
+    background.setColorAt(0, paneColor(PaneSlot::BackgroundHigh));
+    background.setColorAt(1, paneColor(PaneSlot::BackgroundLow));
+    painter.fillRect(dirty, background);
+    paintGrid(painter, dirty);
+    // One column more at both sides, for the lines that join the columns.
+    const int first = std::max(dirty.left() - 1, 0);
+    const int last = std::min(dirty.right() + 1, static_cast<int>(m_curve.columns.size()) - 1);
+    if (m_holdVisible)
+        paintHold(painter, first, last);
+    paintCurve(painter, first, last);
+    paintOverlay(painter);
+    paintPinNumbers(painter);
+    paintReadOut(painter);
+}
+
+void SpectrumPane::paintGrid(QPainter& painter, const QRect& dirty) const
+{
+    painter.setPen(QPen(paneColor(PaneSlot::Grid), 1, Qt::DotLine));
+    for (const AxisTick& tick : levelTicks(height())) {
+        const int y = height() - 1 - static_cast<int>(tick.position);
+        painter.drawLine(0, y, width() - 1, y);
+    }
+    for (const AxisTick& tick : m_frequencyTicks(width())) {
+        const int x = static_cast<int>(tick.position);
+        if (x >= dirty.left() && x <= dirty.right())
+            painter.drawLine(x, 0, x, height() - 1);
+    }
+}
+
+void SpectrumPane::paintHold(QPainter& painter, int first, int last) const
+{
+    QColor color = paneColor(PaneSlot::Hold);
+    painter.setPen(color);
+    QList<QLine> lines;
+    lines.reserve(last - first + 1);
+    const LevelRange* before = nullptr;
+    for (int x = first; x <= last; ++x) {
+        const LevelRange& column = m_hold.columns[static_cast<size_t>(x)];
+        if (column.isEmpty()) {
+            before = nullptr;
+            continue;
+        }
+        const int from = yOf(before != nullptr ? before->maximum : column.maximum);
+        lines.append(QLine(x, from, x, yOf(column.maximum)));
+        before = &column;
+    }
+    painter.drawLines(lines);
+}
+
+void SpectrumPane::paintCurve(QPainter& painter, int first, int last) const
+{
+    painter.setPen(paneColor(PaneSlot::Curve));
+    QList<QLine> lines;
+    lines.reserve(last - first + 1);
+    const LevelRange* before = nullptr;
+    for (int x = first; x <= last; ++x) {
+        const LevelRange& column = m_curve.columns[static_cast<size_t>(x)];
+        if (column.isEmpty()) {
+            before = nullptr;
+            continue;
+        }
+        float top = column.maximum;
+        float bottom = column.minimum;
+        if (before != nullptr) { // reaches to the neighbour, so that the curve has no holes
+            top = std::max(top, before->minimum);
+            bottom = std::min(bottom, before->maximum);
+        }
+        lines.append(QLine(x, yOf(bottom), x, yOf(top)));
+        before = &column;
+    }
+    painter.drawLines(lines);
+}
+
+void SpectrumPane::paintPinNumbers(QPainter& painter) const
+{
+    painter.setPen(paneColor(PaneSlot::Pin));
+    int number = 0;
+    for (const double pin : view().pins()) {
+        const int x = static_cast<int>(positionOf(pin));
+        painter.drawText(x + 3, height() - 5, QString::number(++number));
+    }
+}
+
+QString SpectrumPane::readOutLine(const QString& title, double hertz) const
+{
+    const auto levelText = [](std::optional<float> level) {
+        return level ? QStringLiteral("%1 dB").arg(static_cast<double>(*level), 0, 'f', 1)
+                     : QStringLiteral("– dB");
+    };
+    QString line = QStringLiteral("%1  %2  %3").arg(title, m_text->full(hertz),
+                                                    levelText(m_curve.sweep.levelAt(hertz)));
+    if (m_holdVisible && !m_hold.sweep.isEmpty())
+        line += tr("  (hold %1)").arg(levelText(m_hold.sweep.levelAt(hertz)));
+    return line;
+}
+
+QStringList SpectrumPane::readOut() const
+{
+    QStringList lines{readOutLine(tr("Cursor"), view().cursor())};
+    for (const double pin : view().pins())
+        lines << readOutLine(tr("Pin %1").arg(lines.size()), pin);
+    return lines;
+}
+
+QRect SpectrumPane::readOutRect() const
+{
+    int textWidth = 0;
+    const QStringList lines = readOut();
+    for (const QString& line : lines)
+        textWidth = std::max(textWidth, fontMetrics().horizontalAdvance(line));
+    const int boxWidth = textWidth + 2 * readOutMargin;
+    const int boxHeight = static_cast<int>(lines.size()) * fontMetrics().height() + readOutMargin;
+    return {width() - boxWidth - readOutMargin, readOutMargin, boxWidth, boxHeight};
+}
+
+void SpectrumPane::paintReadOut(QPainter& painter) const
+{
+    QColor box = paneColor(PaneSlot::BackgroundLow);
+    box.setAlphaF(0.75F);
+    const QRect place = readOutRect();
+    painter.fillRect(place, box);
+    painter.setPen(paneColor(PaneSlot::ReadOut));
+    painter.drawText(place.adjusted(readOutMargin, readOutMargin / 2, 0, 0),
+                     Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip,
+                     readOut().join(QLatin1Char('\n')));
+}
+
+void SpectrumPane::updateAround(double hertz)
+{
+    BandPane::updateAround(hertz);
+    updateReadOut();
+}
+
+void SpectrumPane::updateReadOut()
+{
+    const QRect place = readOutRect();
+    update(place.united(m_paintedReadOut));
+    m_paintedReadOut = place;
+}
+
+} // namespace bandmonitor

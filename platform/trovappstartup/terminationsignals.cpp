@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "terminationsignals_p.h"
+
+#include <jtbase/errorhandler.h>
+
+#include <QtGlobal>
+
+#ifdef Q_OS_UNIX
+
+#include <QSocketNotifier>
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr char module[] = "trovappstartup/terminationsignals";
+constexpr std::array<int, 3> signalNumbers{SIGTERM, SIGINT, SIGHUP};
+
+/// Where the handler writes; -1 without an object.
+std::atomic<int> writeEnd{-1};
+static_assert(std::atomic<int>::is_always_lock_free, "a signal handler uses it");
+/// Bit i: the handler is installed for signalNumbers[i].
+std::atomic<unsigned> installed{0};
+
+extern "C" void handleTerminationSignal(int)
+{
+    const int savedError = errno;
+    const unsigned mine = installed.exchange(0);
+    for (std::size_t i = 0; i < signalNumbers.size(); ++i) {
+        if ((mine & (1U << i)) != 0)
+            ::signal(signalNumbers[i], SIG_DFL);
+    }
+    const int descriptor = writeEnd.load();
+    const char byte = 1;
+    if (descriptor >= 0 && ::write(descriptor, &byte, 1) < 0) {
+        // The pair is full: the request is under way already.
+    }
+    errno = savedError;
+}
+
+bool prepareDescriptor(int descriptor)
+{
+    return ::fcntl(descriptor, F_SETFD, FD_CLOEXEC) == 0 &&
+           ::fcntl(descriptor, F_SETFL, O_NONBLOCK) == 0;
+}
+
+} // namespace
+
+class TerminationSignalsPrivate
+{
+public:
+    ~TerminationSignalsPrivate()
+    {
+        for (std::size_t i = 0; i < signalNumbers.size(); ++i) {
+            if (replaced[i])
+                ::sigaction(signalNumbers[i], &former[i], nullptr);
+        }
+        installed = 0;
+        writeEnd = -1;
+        notifier.reset();
+        for (const int descriptor : descriptors) {
+            if (descriptor >= 0)
+                ::close(descriptor);
+        }
+    }
+
+    void install()
+    {
+        struct sigaction action = {};
+        action.sa_handler = &handleTerminationSignal;
+        action.sa_flags = SA_RESTART;
+        ::sigemptyset(&action.sa_mask);
+        for (const int number : signalNumbers)
+            ::sigaddset(&action.sa_mask, number);
+        for (std::size_t i = 0; i < signalNumbers.size(); ++i) {
+            if (::sigaction(signalNumbers[i], nullptr, &former[i]) != 0 ||
+                former[i].sa_handler == SIG_IGN)
+                continue;
+            installed |= 1U << i;
+            replaced[i] = ::sigaction(signalNumbers[i], &action, nullptr) == 0;
+        }
+    }
+
+    std::array<int, 2> descriptors{-1, -1};
+    std::array<struct sigaction, signalNumbers.size()> former{};
+    std::array<bool, signalNumbers.size()> replaced{};
+    std::unique_ptr<QSocketNotifier> notifier;
+};
+
+TerminationSignals::TerminationSignals()
+    : d(std::make_unique<TerminationSignalsPrivate>())
+{
+    if (!TROV_ASSERT(writeEnd < 0, module))
+        return;
+    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, d->descriptors.data()) != 0 ||
+        !prepareDescriptor(d->descriptors[0]) || !prepareDescriptor(d->descriptors[1])) {
+        ErrorHandler::Trace(ErrorHandler::TracePlatform, module, __LINE__,
+                            QStringLiteral("Termination signals cannot be watched"));
+        return;
+    }
+    d->notifier = std::make_unique<QSocketNotifier>(d->descriptors[0], QSocketNotifier::Read);
+    connect(d->notifier.get(), &QSocketNotifier::activated, this, [this] {
+        char byte = 0;
+        while (::read(d->descriptors[0], &byte, 1) > 0) {
+        }
+        Q_EMIT requested();
+    });
+    writeEnd = d->descriptors[1];
+    d->install();
+}
+
+#else
+
+class TerminationSignalsPrivate
+{};
+
+TerminationSignals::TerminationSignals() = default;
+
+#endif
+
+TerminationSignals::~TerminationSignals() = default;

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+class TerminationSignalsPrivate;
+
+/// Brings the system's requests to end the process (SIGTERM, SIGINT, SIGHUP) into the event loop.
+///
+/// The first request is announced by requested(); the next one ends the process at once. Signals
+/// that were ignored when the object was made stay ignored. One object at a time; needs the
+/// application object. The destructor brings the former handling back. Does nothing on systems
+/// without these signals.
+class TerminationSignals : public QObject
+{
+    Q_OBJECT
+public:
+    TerminationSignals();
+    ~TerminationSignals() override;
+
+Q_SIGNALS:
+    void requested();
+
+private:
+    std::unique_ptr<TerminationSignalsPrivate> d;
+};
