@@ -29,7 +29,8 @@ struct PaletteColor
 inline constexpr std::array systemColors{
     SystemColor{QT_TRANSLATE_NOOP("Colors", "System::Background"), QPalette::Window, 0xffefefefU},
     SystemColor{QT_TRANSLATE_NOOP("Colors", "System::Text"), QPalette::WindowText, 0xff000000U},
-    SystemColor{QT_TRANSLATE_NOOP("Colors", "System::CaptionText"), QPalette::HighlightedText, 0xffffffffU},
+    SystemColor{QT_TRANSLATE_NOOP("Colors", "System::CaptionText"),
+                QPalette::HighlightedText, 0xffffffffU},
     SystemColor{QT_TRANSLATE_NOOP("Colors", "System::Caption"), QPalette::Highlight, 0xff2a6099U},
     SystemColor{QT_TRANSLATE_NOOP("Colors", "System::Light"), QPalette::Light, 0xffffffffU},
     SystemColor{QT_TRANSLATE_NOOP("Colors", "System::Dark"), QPalette::Dark, 0xff9f9f9fU},
