@@ -43,7 +43,8 @@ public:
     static void SetAdminConfigDir(const QString& folder);
 
     /// The place for the view (a CfgView; any other number gets a section of its own). Owned by the
-    /// centre; stays valid until SetAppName, SetConfigDir or the end of the process.
+    /// centre; stays valid until the end of the process, and after SetAppName or SetConfigDir shows
+    /// the configuration that is then read.
     static ICfg* GetAppCfg(int view);
     static ICfg* GetAdminCfg(int view);
 
