@@ -48,7 +48,7 @@ void writeUnitTexts(ConverterSet* rows, const QString& unit)
         return; // All rows are always written together.
     constexpr std::array<QStringView, rowCount> prefixes{u"", u"", u"k", u"M", u"G"};
     for (std::size_t i = 1; i < rowCount; ++i) {
-        rows[i].pureSuffix = prefixes[i] + unit;
+        rows[i].pureSuffix = prefixes[i].toString() + unit;
         rows[i].suffix = u' ' + rows[i].pureSuffix;
     }
 }
@@ -83,17 +83,30 @@ void chopTrailingZeros(QString& text, qsizetype limit)
     text.truncate(size);
 }
 
+/// `number` is not empty and does not begin with a blank; a unit can end with one.
+QString withUnit(QString number, const QString& suffix)
+{
+    number.append(suffix);
+    if (number.back().isSpace())
+        number = number.trimmed();
+    return number;
+}
+
 /// One bit for each ASCII letter that occurs.
 class LetterSet
 {
 public:
-    constexpr explicit LetterSet(QStringView text)
+    explicit LetterSet(QStringView text)
     {
         for (const QChar character : text)
             m_bits |= bit(character.unicode());
     }
-    constexpr bool contains(char16_t letter) const { return (m_bits & bit(letter)) != 0; }
-    constexpr bool containsAny(LetterSet other) const { return (m_bits & other.m_bits) != 0; }
+    bool contains(char16_t letter) const { return (m_bits & bit(letter)) != 0; }
+    /// `letter` is small.
+    bool containsEitherCase(char16_t letter) const
+    {
+        return (m_bits & (bit(letter) | bit(letter ^ 0x20))) != 0;
+    }
 
     static constexpr bool isLetter(char16_t character)
     {
@@ -296,13 +309,13 @@ void SuffixedDouble::SetFrequencyString(const QString& text)
 SuffixedDouble::ESuffix SuffixedDouble::typedSuffix(QStringView text) const
 {
     const LetterSet letters(text);
-    if (letters.containsAny(LetterSet(u"kK")))
+    if (letters.containsEitherCase(u'k'))
         return Kilo;
-    if (letters.containsAny(LetterSet(u"mM")))
+    if (letters.containsEitherCase(u'm'))
         return Mega;
-    if (letters.containsAny(LetterSet(u"gG")))
+    if (letters.containsEitherCase(u'g'))
         return Giga;
-    return letters.containsAny(LetterSet(u"hH")) ? coarsened(BaseUnit) : m_currentSuffix;
+    return letters.containsEitherCase(u'h') ? coarsened(BaseUnit) : m_currentSuffix;
 }
 
 /// Reads `text` + `appended`. A unit of the table that is spelled out gives internal units, the
@@ -359,7 +372,7 @@ QString SuffixedDouble::GetStringNoSuffix(double v)
 
 QString SuffixedDouble::GetString(double v)
 {
-    return GetStringNoSuffix(v).append(currentRow().suffix).trimmed();
+    return withUnit(GetStringNoSuffix(v), currentRow().suffix);
 }
 
 QString SuffixedDouble::GetShortStringNoSuffix(double v)
@@ -370,7 +383,7 @@ QString SuffixedDouble::GetShortStringNoSuffix(double v)
 
 QString SuffixedDouble::GetShortString(double v)
 {
-    return GetShortStringNoSuffix(v).append(u' ').append(currentRow().suffix).trimmed();
+    return withUnit(GetShortStringNoSuffix(v).append(u' '), currentRow().suffix);
 }
 
 QString SuffixedDouble::GetExtraStringNoSuffix(double v)
@@ -384,7 +397,7 @@ QString SuffixedDouble::GetExtraStringNoSuffix(double v)
 
 QString SuffixedDouble::GetExtraString(double v)
 {
-    return GetExtraStringNoSuffix(v).append(currentRow().suffix).trimmed();
+    return withUnit(GetExtraStringNoSuffix(v), currentRow().suffix);
 }
 
 QString SuffixedDouble::GetSignificantStringNoSuffix(double v)
@@ -395,7 +408,7 @@ QString SuffixedDouble::GetSignificantStringNoSuffix(double v)
 
 QString SuffixedDouble::GetSignificantString(double v)
 {
-    return GetSignificantStringNoSuffix(v).append(currentRow().suffix).trimmed();
+    return withUnit(GetSignificantStringNoSuffix(v), currentRow().suffix);
 }
 
 QString SuffixedDouble::GetShortestString(double v)
