@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: MIT
+#include <valueframework/tree.h>
+#include <valueframework/value.h>
+
+#include "support/randombytes.h"
+
+#include <QTest>
+
+#include <array>
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace {
+
+class Probe : public IObserver
+{
+public:
+    using Reaction = std::function<void(Probe*, Observable*, TChangeCode)>;
+
+    explicit Probe(Reaction reaction)
+        : m_reaction(std::move(reaction))
+    {}
+    void Update(Observable* observable, TChangeCode code) override
+    {
+        const Reaction reaction = m_reaction; // the reaction may destroy this object
+        reaction(this, observable, code);
+    }
+
+private:
+    Reaction m_reaction;
+};
+
+/// Observers that do at random, while they are told of a change, everything that is allowed, and a
+/// model of who has to be told of what.
+class World
+{
+public:
+    World()
+    {
+        for (auto& observable : m_observables)
+            observable = std::make_unique<Observable>();
+        for (auto& probe : m_probes)
+            probe = makeProbe();
+    }
+
+    void act()
+    {
+        const auto o = pick(m_observables.size());
+        const auto p = pick(m_probes.size());
+        const bool mayNest = m_frames.size() < 4;
+        switch (m_random.below(12)) {
+        case 0:
+            if (mayNest && m_observables[o])
+                destroyObservable(o);
+            break;
+        case 1:
+            for (auto& attached : m_attached)
+                attached.erase(m_probes[p].get());
+            std::exchange(m_probes[p], makeProbe()).reset();
+            break;
+        case 2:
+        case 3:
+            if (m_observables[o]) {
+                m_observables[o]->Detach(m_probes[p].get());
+                m_attached[o].erase(m_probes[p].get());
+            }
+            break;
+        case 4:
+        case 5:
+        case 6:
+            if (mayNest && m_observables[o])
+                notify(o);
+            break;
+        default:
+            if (m_observables[o]) {
+                m_observables[o]->Attach(m_probes[p].get());
+                m_attached[o].try_emplace(m_probes[p].get(), ++m_clock);
+            }
+        }
+    }
+
+    QStringList faults;
+    int calls = 0;
+
+private:
+    struct Frame
+    {
+        std::size_t target;
+        int serial;
+        std::set<Probe*> called;
+    };
+
+    std::size_t pick(std::size_t size)
+    {
+        return static_cast<std::size_t>(m_random.below(static_cast<int>(size)));
+    }
+
+    std::unique_ptr<Probe> makeProbe()
+    {
+        return std::make_unique<Probe>([this](Probe* probe, Observable* observable, TChangeCode) {
+            ++calls;
+            Frame& frame = *m_frames.back();
+            const auto entry = m_attached[frame.target].find(probe);
+            if (entry == m_attached[frame.target].end())
+                faults << QStringLiteral("called without being attached");
+            else if (entry->second > frame.serial)
+                faults << QStringLiteral("called for a change before the attachment");
+            if (!frame.called.insert(probe).second)
+                faults << QStringLiteral("called twice");
+            if (observable->GetState() == Observable::Gone && m_random.below(2) == 0) {
+                observable->Detach(probe);
+                m_attached[frame.target].erase(probe);
+            }
+            act();
+        });
+    }
+
+    void run(std::size_t target, const std::function<void()>& change)
+    {
+        Frame frame{target, ++m_clock, {}};
+        const int generation = m_generations[target];
+        m_frames.push_back(&frame);
+        change();
+        m_frames.pop_back();
+        if (generation != m_generations[target])
+            return; // destroyed by an observer
+        for (const auto& [probe, since] : m_attached[target]) {
+            if (since < frame.serial && !frame.called.contains(probe))
+                faults << QStringLiteral("not called");
+        }
+    }
+
+    void notify(std::size_t o)
+    {
+        run(o, [this, o, generation = m_generations[o]] {
+            const bool lives = m_observables[o]->Notify(ChangeCode::CurrentValue);
+            if (lives != (generation == m_generations[o]))
+                faults << QStringLiteral("wrong word about the end of the observable");
+        });
+    }
+
+    void destroyObservable(std::size_t o)
+    {
+        std::unique_ptr<Observable> dying = std::move(m_observables[o]);
+        run(o, [&] { dying.reset(); });
+        m_attached[o].clear();
+        ++m_generations[o];
+        m_observables[o] = std::make_unique<Observable>();
+    }
+
+    RandomBytes m_random{"observers"};
+    int m_clock = 0;
+    std::array<std::unique_ptr<Observable>, 3> m_observables;
+    std::array<int, 3> m_generations{};
+    std::array<std::unique_ptr<Probe>, 6> m_probes;
+    std::array<std::map<Probe*, int>, 3> m_attached; // with the time of the attachment
+    std::vector<Frame*> m_frames;
+};
+
+} // namespace
+
+class TestObservable : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void survivesWhateverObserversDo();
+    void attachments();
+    void goneValueIsStillWhole();
+};
+
+void TestObservable::survivesWhateverObserversDo()
+{
+    World world;
+    for (int i = RandomBytes::rounds(20000); i > 0 && world.faults.isEmpty(); --i)
+        world.act();
+    QCOMPARE(world.faults, QStringList());
+    QVERIFY(world.calls > 1000);
+}
+
+void TestObservable::attachments()
+{
+    Observable observable;
+    QString log;
+    Probe a([&](Probe*, Observable*, TChangeCode) { log += QLatin1Char('a'); });
+    Probe b([&](Probe*, Observable*, TChangeCode) { log += QLatin1Char('b'); });
+    for (Probe* probe : {&b, &a, &b})
+        observable.Attach(probe);
+    QCOMPARE(observable.GetObserverCount(), 2);
+    observable.SetState(Observable::Disabled);
+    observable.SetState(Observable::Disabled);
+    observable.SetState(Observable::Gone);
+    QCOMPARE(log, QStringLiteral("ba"));
+    QCOMPARE(observable.GetState(), Observable::Disabled);
+    {
+        Probe copy(a);
+        copy = b;
+        QCOMPARE(observable.GetObserverCount(), 2);
+        observable.Attach(&copy);
+    }
+    QCOMPARE(observable.GetObserverCount(), 2);
+}
+
+void TestObservable::goneValueIsStillWhole()
+{
+    QStringList log;
+    auto value = std::make_unique<Value<QString>>(QStringLiteral("name"), QStringLiteral("text"));
+    Value<bool> successor(QStringLiteral("name"));
+    QVERIFY(Tree::Instance().Add(QStringLiteral("base"), value.get()));
+    Probe late([&](Probe*, Observable*, TChangeCode) { log << QStringLiteral("late"); });
+    Probe probe([&](Probe*, Observable* observable, TChangeCode code) {
+        QVERIFY(code == ChangeCode::State && observable->GetState() == Observable::Gone);
+        auto* gone = dynamic_cast<ValueBase*>(observable);
+        log << gone->GetPathName() << gone->GetVariant().toString();
+        observable->Attach(&late);
+        // The place is free already, and the dying value cannot come back.
+        QCOMPARE(Tree::Instance().Find(gone->GetPathName()), nullptr);
+        QVERIFY(!Tree::Instance().Add(QStringLiteral("other"), gone));
+        QVERIFY(Tree::Instance().Add(QStringLiteral("base"), &successor));
+    });
+    value->Attach(&probe);
+    value.reset();
+    QCOMPARE(log, QStringList({QStringLiteral("base/name"), QStringLiteral("text")}));
+    QCOMPARE(Tree::Instance().Find(QStringLiteral("base/name")), &successor);
+}
+
+QTEST_GUILESS_MAIN(TestObservable)
+#include "tst_observable.moc"
