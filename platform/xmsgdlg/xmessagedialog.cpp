@@ -26,7 +26,8 @@ Q_LOGGING_CATEGORY(messageCategory, "trov.message", QtInfoMsg)
 
 constexpr int maximumTitleLength = 200;
 constexpr int detailsColumns = 60;
-constexpr int detailsRows = 12;
+constexpr int detailsLines = 12;
+constexpr int detailsRow = 3; // of the layout
 
 struct Texts
 {
@@ -128,10 +129,9 @@ MessageDialog::MessageDialog(const UserMessage& message, const QString& applicat
     QPlainTextEdit* detailsEdit = details.isEmpty() ? nullptr : makeDetails(details);
     layout->addWidget(makeButtons(message, detailsEdit), 2, 0, 1, 2);
     if (detailsEdit != nullptr)
-        layout->addWidget(detailsEdit, 3, 0, 1, 2);
+        layout->addWidget(detailsEdit, detailsRow, 0, 1, 2);
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(0, 1);
-    layout->setRowStretch(3, 2);
 }
 
 QWidget* MessageDialog::makeText(const QString& text)
@@ -161,7 +161,7 @@ QPlainTextEdit* MessageDialog::makeDetails(const QString& details)
     edit->setPlainText(details);
     const QFontMetrics metrics(edit->font());
     edit->setMinimumSize(metrics.averageCharWidth() * detailsColumns,
-                         metrics.lineSpacing() * detailsRows);
+                         metrics.lineSpacing() * detailsLines);
     edit->hide();
     return edit;
 }
@@ -188,6 +188,9 @@ QDialogButtonBox* MessageDialog::makeButtons(const UserMessage& message, QPlainT
         show->setCheckable(true);
         connect(show, &QPushButton::toggled, this, [this, details](bool visible) {
             details->setVisible(visible);
+            // A hidden row that stretches would still take its share.
+            if (auto* grid = qobject_cast<QGridLayout*>(layout()))
+                grid->setRowStretch(detailsRow, visible ? 2 : 0);
             adjustSize();
         });
     }
