@@ -27,10 +27,13 @@ bool isPlus(char32_t c)
     return c == U'+' || c == U'\uFF0B';
 }
 
-/// Marks that set the direction of writing; some locales put them in front of signs.
-bool isDirectionMark(char32_t c)
+/// Drops the marks that set the direction of writing; some locales put them around signs.
+QStringView withoutLeadingMarks(QStringView text)
 {
-    return c == U'\u200E' || c == U'\u200F' || c == U'\u061C';
+    const auto isMark = [](QChar c) { return c == u'\u200E' || c == u'\u200F' || c == u'\u061C'; };
+    while (!text.isEmpty() && isMark(text.front()))
+        text = text.sliced(1);
+    return text;
 }
 
 bool isBlankSeparator(char32_t c)
@@ -61,7 +64,8 @@ qsizetype unitCount(char32_t c)
 struct GroupSizes
 {
     int last = 0;  ///< Between the last separator and the end of the integer.
-    int other = 0; ///< In the groups before; the first one may be shorter.
+    int other = 0; ///< In the groups before.
+    int first = 0; ///< At most in the first one; some locales part no single digit from it.
 };
 
 /// How a locale writes numbers; a null locale stands for the C locale without group separators.
@@ -107,7 +111,9 @@ void Notation::measureGroups(QLocale locale)
         groupSeparator = 0;
         return;
     }
-    groups = {digitCount(parts.last()), digitCount(parts.at(parts.size() - 2))};
+    const int other = digitCount(parts.at(parts.size() - 2));
+    // With 16 digits a single one is left over in front, whether the groups hold two or three.
+    groups = {digitCount(parts.last()), other, std::max(other, digitCount(parts.first()))};
 }
 
 /// Checks while reading that group separators stand where they belong.
@@ -118,7 +124,7 @@ public:
     /// At a group separator; false when it cannot stand here.
     bool separator(GroupSizes sizes)
     {
-        const bool fits = m_separated ? m_run == sizes.other : m_run >= 1 && m_run <= sizes.other;
+        const bool fits = m_separated ? m_run == sizes.other : m_run >= 1 && m_run <= sizes.first;
         m_separated = true;
         m_run = 0;
         return fits;
@@ -168,15 +174,13 @@ private:
 
 char Scanner::takeSign()
 {
-    QStringView text = m_rest;
-    while (!text.isEmpty() && isDirectionMark(firstCodePoint(text)))
-        text = text.sliced(1);
+    QStringView text = withoutLeadingMarks(m_rest);
     if (text.isEmpty())
         return '\0';
     const char32_t c = firstCodePoint(text);
     if (!isMinus(c) && !isPlus(c))
         return '\0';
-    m_rest = text.sliced(1);
+    m_rest = withoutLeadingMarks(text.sliced(1));
     return isMinus(c) ? '-' : '+';
 }
 
@@ -441,7 +445,7 @@ char asciiMeaning(char16_t c)
 /// as a point. Returns the new end, or null when a separator is misplaced.
 char* withoutGroups(char* begin, char* end)
 {
-    constexpr GroupSizes threes{3, 3};
+    constexpr GroupSizes threes{3, 3, 3};
     char* const exponent = std::find(begin, end, 'e');
     char* const first = std::find_if(begin, exponent, isSeparator);
     if (first == exponent)

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "support/testguard.h"
+
+#include <jtbase/errorhandler.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+#include <thread>
+#include <vector>
+
+namespace {
+
+QStringList linesOf(const QString& fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+class CountedDlg : public IMessageDlg
+{
+public:
+    explicit CountedDlg(int* alive)
+        : m_alive(alive)
+    {
+        ++*m_alive;
+    }
+    ~CountedDlg() override { --*m_alive; }
+    MessageDlgSettings GetSettings() const override { return {}; }
+    void SetSettings(const MessageDlgSettings&) override {}
+    bool Show(const UserMessage&, QWidget*) override { return true; }
+
+private:
+    int* m_alive;
+};
+
+/// Traces when everything else is gone: static objects made earlier die later.
+struct TraceAtExit
+{
+    ~TraceAtExit() { ErrorHandler::Trace(ErrorHandler::TraceAssertions, "exit", 1, QString()); }
+} traceAtExit;
+
+} // namespace
+
+class ErrorHandlerTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_guard = std::make_unique<TestGuard>();
+        ErrorHandler::SetTraceFlags(ErrorHandler::defaultTraceFlags);
+    }
+    void cleanup()
+    {
+        ErrorHandler::SetTraceFile(QString());
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+    void maskGatesTraces()
+    {
+        QFile::remove(traceFile());
+        QVERIFY(ErrorHandler::SetTraceFile(traceFile()));
+        ErrorHandler::Trace(ErrorHandler::TraceGuiBase, "module", 1, QStringLiteral("hidden"));
+        QVERIFY(!ErrorHandler::IsTraceEnabled(ErrorHandler::TraceGuiBase));
+        ErrorHandler::SetTraceFlags(ErrorHandler::TraceGuiBase);
+        QVERIFY(ErrorHandler::IsTraceEnabled(ErrorHandler::TraceGuiBase | 0x80));
+        QTest::ignoreMessage(QtInfoMsg, "a/module(7): two \"lines\"\nof %1 text");
+        ErrorHandler::Trace(ErrorHandler::TraceGuiBase, "a/module", 7,
+                            QStringLiteral("two \"lines\"\nof %1 text"));
+        // Read while the file is still open: every line is written at once.
+        const QStringList lines = linesOf(traceFile());
+        QCOMPARE(lines.size(), 1);
+        const QRegularExpression line(QStringLiteral(
+            "^\\d{4}-\\d\\d-\\d\\dT[\\d:.]{12}Z a/module\\(7\\): two \"lines\" of %1 text$"));
+        QVERIFY2(line.match(lines.first()).hasMatch(), qPrintable(lines.first()));
+    }
+    void fileKeepsWhatItHeld()
+    {
+        QFile::remove(traceFile());
+        const auto trace = [] {
+            ErrorHandler::Trace(ErrorHandler::TracePlatform, "m", 1, QString());
+        };
+        QVERIFY(ErrorHandler::SetTraceFile(traceFile()));
+        trace();
+        QVERIFY(ErrorHandler::SetTraceFile(traceFile()));
+        trace();
+        QVERIFY(!ErrorHandler::SetTraceFile(m_dir.filePath(QStringLiteral("none/trace.log"))));
+        trace();
+        QVERIFY(ErrorHandler::SetTraceFile(QString()));
+        trace();
+        QCOMPARE(linesOf(traceFile()).size(), 3);
+    }
+    void threadsDoNotMixLines()
+    {
+        constexpr int threadCount = 4;
+        constexpr int traceCount = 200;
+        QFile::remove(traceFile());
+        QVERIFY(ErrorHandler::SetTraceFile(traceFile()));
+        const QtMessageHandler former =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+        {
+            std::vector<std::jthread> threads;
+            for (int thread = 0; thread < threadCount; ++thread) {
+                threads.emplace_back([] {
+                    for (int i = 0; i < traceCount; ++i)
+                        ErrorHandler::Trace(ErrorHandler::TracePlatform, "m", 1,
+                                            QStringLiteral("x"));
+                });
+            }
+        }
+        qInstallMessageHandler(former);
+        const QStringList lines = linesOf(traceFile());
+        QCOMPARE(lines.size(), threadCount * traceCount);
+        for (const QString& line : lines)
+            QVERIFY(line.endsWith(QStringLiteral("Z m(1): x")));
+    }
+    void assertionIsReported()
+    {
+        const bool holds = false;
+        QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral(
+                                            "^unit\\(\\d+\\): assertion failed: holds$")));
+        QVERIFY(!TROV_ASSERT(holds, "unit"));
+        QVERIFY(TROV_ASSERT(!holds, "unit"));
+    }
+    void dialogIsOwned()
+    {
+        int alive = 0;
+        QVERIFY(ErrorHandler::GetMessageDlg() == nullptr);
+        ErrorHandler::SetMessageDlg(std::make_unique<CountedDlg>(&alive));
+        ErrorHandler::SetMessageDlg(std::make_unique<CountedDlg>(&alive));
+        QCOMPARE(alive, 1);
+        QVERIFY(ErrorHandler::GetMessageDlg() != nullptr);
+        ErrorHandler::SetMessageDlg(nullptr);
+        QCOMPARE(alive, 0);
+        QVERIFY(ErrorHandler::GetMessageDlg() == nullptr);
+    }
+
+private:
+    QString traceFile() const { return m_dir.filePath(QStringLiteral("trace.log")); }
+
+    QTemporaryDir m_dir;
+    std::unique_ptr<TestGuard> m_guard;
+};
+
+QTEST_GUILESS_MAIN(ErrorHandlerTest)
+#include "tst_errorhandler.moc"

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "support/testguard.h"
+
+#include <jtbase/qobjecthelpers.h>
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QTest>
+
+#include <memory>
+
+using QObjectHelpers::EventFilter;
+using QObjectHelpers::SignalHandler;
+
+namespace {
+
+class Receiver : public QObject
+{
+public:
+    using QObject::QObject;
+    int received = 0;
+
+protected:
+    void customEvent(QEvent*) override { ++received; }
+};
+
+void send(QObject* receiver)
+{
+    QEvent event(QEvent::User);
+    QCoreApplication::sendEvent(receiver, &event);
+}
+
+} // namespace
+
+class QObjectHelpersTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { m_guard = std::make_unique<TestGuard>(); }
+    void cleanup()
+    {
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+    void filterConsumesOrPasses()
+    {
+        Receiver receiver;
+        bool consume = true;
+        QPointer<EventFilter> filter =
+            new EventFilter(&receiver, [&](QObject* watched, QEvent* event) {
+                return watched == &receiver && event->type() == QEvent::User && consume;
+            });
+        QCOMPARE(filter->parent(), &receiver);
+        send(&receiver);
+        QCOMPARE(receiver.received, 0);
+        consume = false;
+        send(&receiver);
+        QCOMPARE(receiver.received, 1);
+        consume = true;
+        delete filter;
+        send(&receiver);
+        QCOMPARE(receiver.received, 2);
+        new EventFilter(&receiver, {});
+        send(&receiver);
+        QCOMPARE(receiver.received, 3);
+    }
+    void filterHandlerMayDeleteFilter()
+    {
+        Receiver receiver;
+        QPointer<EventFilter> filter;
+        int calls = 0;
+        filter = new EventFilter(&receiver, [&filter, &calls, kept = QString(50, u'x')](auto...) {
+            delete filter;
+            calls += static_cast<int>(kept.size());
+            return false;
+        });
+        send(&receiver);
+        send(&receiver);
+        QCOMPARE(calls, 50);
+        QCOMPARE(receiver.received, 2);
+    }
+    void filterHandlerMayDeleteWatched()
+    {
+        const QPointer<Receiver> receiver = new Receiver;
+        new EventFilter(receiver, [](QObject* watched, QEvent* event) {
+            if (event->type() == QEvent::User)
+                delete watched;
+            return false;
+        });
+        send(receiver);
+        QVERIFY(receiver.isNull());
+    }
+    void signalHandlerCalls()
+    {
+        QObject sender;
+        int calls = 0;
+        const SignalHandler handler(&sender, SIGNAL(objectNameChanged(QString)),
+                                    [&calls] { ++calls; });
+        QVERIFY(handler.isConnected());
+        sender.setObjectName(QStringLiteral("a"));
+        QCOMPARE(calls, 1);
+    }
+    void signalHandlerMayDeleteSender()
+    {
+        const QPointer<QObject> sender = new QObject;
+        QString text;
+        new SignalHandler(sender, SIGNAL(objectNameChanged(QString)),
+                          [&sender, &text, kept = QString(50, u'x')] {
+                              sender->disconnect();
+                              sender->deleteLater();
+                              delete sender->findChild<SignalHandler*>();
+                              text = kept;
+                          });
+        sender->setObjectName(QStringLiteral("a"));
+        QCOMPARE(text.size(), 50);
+        QTRY_VERIFY(sender.isNull());
+    }
+    void missingSignals()
+    {
+        QObject sender;
+        const char* texts[] = {SIGNAL(noSuchSignal()),
+                               SLOT(deleteLater()),
+                               "objectNameChanged(QString)",
+                               "2",
+                               "",
+                               nullptr};
+        for (const char* text : texts)
+            QVERIFY(!SignalHandler(&sender, text, [] {}).isConnected());
+        QVERIFY(!SignalHandler(nullptr, SIGNAL(destroyed()), [] {}).isConnected());
+    }
+
+private:
+    std::unique_ptr<TestGuard> m_guard;
+};
+
+QTEST_GUILESS_MAIN(QObjectHelpersTest)
+#include "tst_qobjecthelpers.moc"

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "support/testguard.h"
+
+#include <jtbase/qtimerhelpers.h>
+
+#include <QEventLoop>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+
+#include <memory>
+
+using QTimerHelpers::singleShot;
+
+class QTimerHelpersTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { m_guard = std::make_unique<TestGuard>(); }
+    void cleanup()
+    {
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+    void callsOnceAndGoes()
+    {
+        int calls = 0;
+        const QPointer<QTimer> timer = singleShot(-5, this, [&calls] { ++calls; });
+        QCOMPARE(timer->parent(), this);
+        QCOMPARE(calls, 0);
+        QTRY_VERIFY(timer.isNull());
+        QCOMPARE(calls, 1);
+    }
+    void cancelledCallsDoNotCome()
+    {
+        int calls = 0;
+        const auto count = [&calls] { ++calls; };
+        auto context = std::make_unique<QObject>();
+        singleShot(0, context.get(), count);
+        context.reset();
+        delete singleShot(0, this, count);
+        const std::unique_ptr<QTimer> stopped(singleShot(0, this, count));
+        stopped->stop();
+        QVERIFY(singleShot(0, nullptr, count) == nullptr);
+        QVERIFY(singleShot(0, this, {}) == nullptr);
+        bool later = false;
+        singleShot(1, this, [&later] { later = true; });
+        QTRY_VERIFY(later);
+        QCOMPARE(calls, 0);
+    }
+    void stepMayDeleteItsContext()
+    {
+        QPointer<QObject> context = new QObject;
+        QString text;
+        singleShot(0, context, [&context, &text, kept = QString(100, QLatin1Char('x'))] {
+            delete context;
+            text = kept; // what the step holds must still be there
+        });
+        QTRY_COMPARE(text.size(), 100);
+        QVERIFY(context.isNull());
+    }
+    void stepMayRunAnEventLoop()
+    {
+        int calls = 0;
+        singleShot(0, this, [this, &calls] {
+            ++calls;
+            QEventLoop loop;
+            singleShot(1, this, [&loop] { loop.quit(); });
+            loop.exec();
+        });
+        QTRY_VERIFY(findChildren<QTimer*>().isEmpty());
+        QCOMPARE(calls, 1);
+    }
+
+private:
+    std::unique_ptr<TestGuard> m_guard;
+};
+
+QTEST_GUILESS_MAIN(QTimerHelpersTest)
+#include "tst_qtimerhelpers.moc"
