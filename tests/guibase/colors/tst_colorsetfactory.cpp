@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/colors/colors.h>
+#include <guibase/colors/colorset.h>
+#include <guibase/colors/colorslotgroups.h>
+
+#include "support/testguard.h"
+
+#include <QTest>
+
+#include <cmath>
+#include <memory>
+#include <vector>
+
+using enum IColorBase::ECOLOR;
+using Slots = std::vector<IColorBase::ECOLOR>;
+
+namespace {
+
+double linear(int component)
+{
+    const double part = component / 255.0;
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+/// Relative luminance, 0 to 1, as in the Web Content Accessibility Guidelines 2.1.
+double luminance(IColorBase::ECOLOR slot)
+{
+    const QColor color = ColorSet::Instance().GetColor(slot);
+    return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) +
+           0.0722 * linear(color.blue());
+}
+
+double contrast(IColorBase::ECOLOR one, IColorBase::ECOLOR other)
+{
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+/// Distance of two colours in the space CIE 1976 L*a*b* (white point D65).
+double distance(const QColor& one, const QColor& other)
+{
+    const auto lab = [](const QColor& color) {
+        const double r = linear(color.red()), g = linear(color.green()), b = linear(color.blue());
+        const auto f = [](double t) {
+            return t > 216.0 / 24389 ? std::cbrt(t) : (24389.0 / 27 * t + 16) / 116;
+        };
+        const double x = f((0.4124 * r + 0.3576 * g + 0.1805 * b) / 0.9505);
+        const double y = f(0.2126 * r + 0.7152 * g + 0.0722 * b);
+        const double z = f((0.0193 * r + 0.1192 * g + 0.9505 * b) / 1.089);
+        return std::array{116 * y - 16, 500 * (x - y), 200 * (y - z)};
+    };
+    const auto a = lab(one), b = lab(other);
+    return std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]);
+}
+
+Slots range(IColorBase::ECOLOR first, IColorBase::ECOLOR last)
+{
+    Slots slotsOfRange;
+    for (int slot = first; slot <= last; ++slot)
+        slotsOfRange.push_back(static_cast<IColorBase::ECOLOR>(slot));
+    return slotsOfRange;
+}
+
+constexpr double readable = 4.5; // text
+constexpr double visible = 3;    // curves, points and marks
+
+struct Screen
+{
+    const char* name;
+    double minimum;
+    Slots foregrounds;
+    Slots backgrounds;
+};
+
+// The highlights in bandwidth and in job are fixed in mid-tones on which no bright curve could
+// reach the minimum; they mark the background and are no screens of their own.
+const std::vector<Screen>& screens()
+{
+    const Slots pane{DrawPaneBackgroundLow, DrawPaneBackgroundHigh};
+    // clang-format off
+    static const std::vector<Screen> all{
+        {"axis", readable, {AxisText}, {Slot66}},
+        {"axis out of zoom", visible, {AxisOutOfZoom}, {Slot66}},
+        {"frequency axis", readable, {FrequencyAxisText}, range(FrequencyAxisBackgroundHigh, FrequencyAxisBackgroundLow)},
+        {"y axis", readable, {YAxisText}, {YAxisBackground}},
+        {"result panel", readable, {DrawPaneResultPanelText}, pane},
+        {"result panel, filtered", readable, {DrawPaneResultPanelText}, {DrawPaneFilteredBackground}},
+        {"curves", visible, range(DrawPaneMinimumPoints, DrawPaneSecondaryCurve), pane},
+        {"curves, no factors", visible, range(DrawPaneMinimumPoints, DrawPaneSecondaryCurve), {DrawPaneBackgroundWithoutKFactors}},
+        {"curves, filtered", visible, range(DrawPaneMainCurve, DrawPaneSecondaryCurve), {DrawPaneFilteredBackground, DrawPaneBackgroundInAudioBandwidth}},
+        {"frozen curves", visible, range(DrawPaneMainCurveFrozen, DrawPaneSecondaryCurveFrozen), pane},
+        {"special curves", visible, range(DrawPaneLimitLine, DrawPaneReferenceCurve), pane},
+        {"job frame", visible, {JobFrameHighBorder, JobFrameLowBorder}, pane},
+        {"markers", visible, range(MarkerAdditionalRed, MarkerGrayed), pane},
+        {"more markers", visible, {MarkerMeasurementCentered, MarkerAdditionalFrequency}, pane},
+        {"signal types", visible, range(SignalTypeA, SignalTypeQ), pane},
+        {"caption with focus", readable, {CaptionTextFocussed, CaptionTextHighlighted}, {CaptionBackgroundFocussed}},
+        {"caption", readable, {CaptionTextNotFocussed}, {CaptionBackgroundNotFocussed}},
+        {"frequency bar", readable, {FrequencyBarText}, range(FrequencyBarBackground, FrequencyBarInBandwidth)},
+        {"suppressed", readable, {FrequencyBarText}, {FrequencyBarLocalSuppress, FrequencyBarGlobalSuppress}},
+        {"new frequency bar", readable, {NewFrequencyBarText}, range(NewFrequencyBarBackgroundHigh, NewFrequencyBarBackgroundInBandwidth)},
+        {"bit stream", readable, {BitStreamText}, {BitStreamBackground, BitStreamBit0, BitStreamBit1, BitStreamBelowThreshold}},
+        {"detection", visible, {DetectionActivePen, DetectionInactivePen, DetectionCurrentPen}, {DetectionBackground}},
+        {"relative bearing", readable, {RelativeBearingText}, range(RelativeBearingStarboard, RelativeBearingZeroAnd180)},
+        {"planner", readable, {AxisText}, range(PlannerPlanned, PlannerSkornReceiver)},
+        {"time diagram", visible, range(TimeDiagramMainCurve, TimeDiagramSecondaryCurve), range(TimeDiagramBackgroundHigh, TimeDiagramBackgroundLow)},
+        {"eye diagram", visible, {EyeDiagramCurve}, {EyeDiagramBackgroundHigh, EyeDiagramBackgroundLow}},
+        {"iq diagram", visible, {IQDiagramCurve}, {IQDiagramBackgroundHigh, IQDiagramBackgroundLow}},
+    };
+    // clang-format on
+    return all;
+}
+
+} // namespace
+
+class tst_ColorSetFactory : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { m_guard = std::make_unique<TestGuard>(); }
+    void cleanup()
+    {
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+    void everyEditorRowHasAColor();
+    void keepsTheFixedAssignments();
+    void contrastSuffices_data();
+    void contrastSuffices();
+    void frozenCurvesAreDimmer();
+    void alternativesDiffer_data();
+    void alternativesDiffer();
+
+private:
+    std::unique_ptr<TestGuard> m_guard;
+};
+
+void tst_ColorSetFactory::everyEditorRowHasAColor()
+{
+    std::array<int, IColorBase::slotCount> rows{};
+    for (const ColorSlotGroup& group : ColorSlotGroups::all) {
+        for (const ColorSlotRow& row : group.rows) {
+            QCOMPARE(row.slot == ColorSlotRow::noSlot, row.note != nullptr);
+            if (row.note)
+                continue;
+            ++rows.at(static_cast<std::size_t>(row.slot));
+            const auto slot = static_cast<IColorBase::ECOLOR>(row.slot);
+            QVERIFY2(ColorSet::Instance().GetColorDefinition(slot), group.heading);
+        }
+    }
+    const std::vector<int> without{0, 9, 15, 18, 66, 75, 76, 122, 123};
+    for (int slot = 0; slot < IColorBase::slotCount; ++slot) {
+        const bool hasNone = std::find(without.begin(), without.end(), slot) != without.end();
+        QCOMPARE(rows.at(static_cast<std::size_t>(slot)), hasNone ? 0 : 1);
+    }
+    const auto shown = [](quint32 mask) {
+        return std::count_if(ColorSlotGroups::all.begin(), ColorSlotGroups::all.end(),
+                             [mask](const ColorSlotGroup& group) { return group.isShown(mask); });
+    };
+    QCOMPARE(shown(0), 1);
+    QCOMPARE(shown(1), 9);
+    QCOMPARE(shown(0x200), 1);
+    QCOMPARE(shown(0xfff), 19);
+}
+
+void tst_ColorSetFactory::keepsTheFixedAssignments()
+{
+    const std::pair<int, int> fixed[] = {{1, 1},    {2, 1007},  {3, 1000},   {4, 1036},
+                                         {5, 1018}, {6, 1007},  {7, 5},      {8, 1014},
+                                         {9, 1015}, {10, 1015}, {120, 1040}, {121, 1041}};
+    for (const auto& [slot, id] : fixed) {
+        const auto* definition =
+            ColorSet::Instance().GetColorDefinition(static_cast<IColorBase::ECOLOR>(slot));
+        QVERIFY(definition);
+        QCOMPARE(definition->GetId(), id);
+    }
+}
+
+void tst_ColorSetFactory::contrastSuffices_data()
+{
+    QTest::addColumn<int>("foreground");
+    QTest::addColumn<int>("background");
+    QTest::addColumn<double>("minimum");
+    for (const Screen& screen : screens()) {
+        for (const int foreground : screen.foregrounds) {
+            for (const int background : screen.backgrounds)
+                QTest::addRow("%s %d on %d", screen.name, foreground, background)
+                    << foreground << background << screen.minimum;
+        }
+    }
+}
+
+void tst_ColorSetFactory::contrastSuffices()
+{
+    QFETCH(int, foreground);
+    QFETCH(int, background);
+    QFETCH(double, minimum);
+    const double found = contrast(static_cast<IColorBase::ECOLOR>(foreground),
+                                  static_cast<IColorBase::ECOLOR>(background));
+    QVERIFY2(found >= minimum, qPrintable(QString::number(found)));
+}
+
+void tst_ColorSetFactory::frozenCurvesAreDimmer()
+{
+    QVERIFY(luminance(DrawPaneMainCurveFrozen) < luminance(DrawPaneMainCurve));
+    QVERIFY(luminance(DrawPaneSecondaryCurveFrozen) < luminance(DrawPaneSecondaryCurve));
+    QVERIFY(luminance(DrawPaneMainCurveMaximumShadowFrozen) <
+            luminance(DrawPaneMainCurveMaximumShadow));
+}
+
+void tst_ColorSetFactory::alternativesDiffer_data()
+{
+    QTest::addColumn<Slots>("alternatives");
+    QTest::addColumn<double>("minimum");
+    QTest::newRow("signal types") << range(SignalTypeA, SignalTypeQ) << 20.0;
+    QTest::newRow("planner states") << range(PlannerPlanned, PlannerFailed) << 20.0;
+    QTest::newRow("planner types") << range(PlannerProduction, PlannerSkornReceiver) << 15.0;
+    QTest::newRow("traffic lights") << range(TrafficLightStop, TrafficLightGo) << 60.0;
+    QTest::newRow("production results")
+        << range(ProductionResultRunning, ProductionResultUnknown) << 20.0;
+    QTest::newRow("markers") << range(MarkerAdditionalRed, MarkerGrayed) << 20.0;
+    QTest::newRow("curves") << range(DrawPaneMinimumPoints, DrawPaneSecondaryCurve) << 20.0;
+    QTest::newRow("overload steps") << range(BarOverload0, BarOverload9) << 8.0;
+}
+
+void tst_ColorSetFactory::alternativesDiffer()
+{
+    QFETCH(Slots, alternatives);
+    QFETCH(double, minimum);
+    for (auto one = alternatives.begin(); one != alternatives.end(); ++one) {
+        for (auto other = one + 1; other != alternatives.end(); ++other) {
+            const double found = distance(ColorSet::Instance().GetColor(*one),
+                                          ColorSet::Instance().GetColor(*other));
+            const QString text = QStringLiteral("%1 and %2: %3").arg(*one).arg(*other).arg(found);
+            QVERIFY2(found >= minimum, qPrintable(text));
+        }
+    }
+}
+
+QTEST_MAIN(tst_ColorSetFactory)
+#include "tst_colorsetfactory.moc"
