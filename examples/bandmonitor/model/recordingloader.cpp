@@ -30,6 +30,7 @@ public:
     void slice();
     bool readPieces();
     void end();
+    void release();
     void fail(const QString& text);
     QString shownPath() const { return QDir::toNativeSeparators(path); }
 
@@ -114,26 +115,30 @@ bool RecordingLoader::Private::readPieces()
 void RecordingLoader::Private::end()
 {
     parser->finish();
-    skippedCount = parser->skippedCount();
-    report = parser->report();
     if (recording->isEmpty()) {
-        const QStringList lines = report.split(QLatin1Char('\n'));
+        const QStringList lines = parser->report().split(QLatin1Char('\n'));
         const QString text = tr("%1 holds no sweep of a band scan.").arg(shownPath());
         return fail(lines.size() > 1 ? text + QLatin1Char(' ') + lines.at(1) : text);
     }
+    release();
     state = State::Idle;
-    file.close();
-    parser.reset();
-    buffer.clear();
     Q_EMIT q->finished();
+}
+
+/// Lets go of all that only loading needs, and keeps what the parser has to tell.
+void RecordingLoader::Private::release()
+{
+    skippedCount = parser->skippedCount();
+    report = parser->report();
+    parser.reset();
+    file.close();
+    buffer.clear();
 }
 
 void RecordingLoader::Private::fail(const QString& text)
 {
+    release();
     state = State::Idle;
-    file.close();
-    parser.reset();
-    buffer.clear();
     Q_EMIT q->failed(text);
 }
 
@@ -167,9 +172,7 @@ void RecordingLoader::cancel()
     if (!isLoading())
         return;
     d->state = Private::State::Cancelled;
-    d->file.close();
-    d->parser.reset();
-    d->buffer.clear();
+    d->release();
     d->timer.start();
 }
 

@@ -233,7 +233,7 @@ QString RecordingParser::report() const
                      .arg(translated(faultTexts[static_cast<std::size_t>(line.fault)]));
     }
     if (m_skippedCount > static_cast<qint64>(m_skippedLines.size()))
-        lines << translated(QT_TRANSLATE_NOOP("bandmonitor::RecordingParser", "..."));
+        lines << QStringLiteral("...");
     return lines.join(QLatin1Char('\n'));
 }
 
