@@ -77,10 +77,6 @@ struct Notation
     char32_t decimalPoint = U'.';
     char32_t groupSeparator = 0; ///< 0: not accepted.
     QString exponent;
-    GroupSizes groups;
-
-private:
-    void measureGroups(QLocale locale);
 };
 
 Notation::Notation(const QLocale* locale)
@@ -96,24 +92,22 @@ Notation::Notation(const QLocale* locale)
     if (locale->numberOptions().testFlag(QLocale::RejectGroupSeparator))
         return;
     groupSeparator = codePoint(locale->groupSeparator());
-    measureGroups(*locale);
 }
 
-void Notation::measureGroups(QLocale locale)
+/// The sizes as the locale writes a long number; all 0 when it does not separate groups at all.
+GroupSizes measuredGroups(QLocale locale)
 {
     locale.setNumberOptions(QLocale::DefaultNumberOptions);
     const QString sample = locale.toString(Q_INT64_C(1111111111111111));
     const QStringList parts = sample.split(locale.groupSeparator());
-    const auto digitCount = [this](const QString& part) {
-        return static_cast<int>(part.size() / unitCount(zero));
+    if (parts.size() < 3)
+        return {};
+    const auto digitCount = [&sample](const QString& part) {
+        return static_cast<int>(part.size() / unitCount(firstCodePoint(sample)));
     };
-    if (parts.size() < 3) {
-        groupSeparator = 0;
-        return;
-    }
     const int other = digitCount(parts.at(parts.size() - 2));
     // With 16 digits a single one is left over in front, whether the groups hold two or three.
-    groups = {digitCount(parts.last()), other, std::max(other, digitCount(parts.first()))};
+    return {digitCount(parts.last()), other, std::max(other, digitCount(parts.first()))};
 }
 
 /// Checks while reading that group separators stand where they belong.
@@ -148,11 +142,12 @@ public:
     {}
 
     bool atEnd() const { return m_rest.isEmpty(); }
-    const Notation& notation()
+    /// To be asked after takeGroupSeparator() took one.
+    GroupSizes groupSizes()
     {
-        if (!m_notation)
-            m_notation.emplace(m_locale);
-        return *m_notation;
+        if (!m_groupSizes)
+            m_groupSizes = measuredGroups(*m_locale);
+        return *m_groupSizes;
     }
 
     /// Takes a sign if there is one: '-' or '+', or a null character.
@@ -164,12 +159,19 @@ public:
     bool takeExponent();
 
 private:
+    const Notation& notation()
+    {
+        if (!m_notation)
+            m_notation.emplace(m_locale);
+        return *m_notation;
+    }
     int otherDigitValue(char32_t c);
     void drop(qsizetype count) { m_rest = m_rest.sliced(count); }
 
     QStringView m_rest;
     const QLocale* m_locale;
     std::optional<Notation> m_notation;
+    std::optional<GroupSizes> m_groupSizes;
 };
 
 char Scanner::takeSign()
@@ -282,7 +284,7 @@ std::optional<SignedMagnitude> readInteger(Scanner& scanner, int base, const Int
         if (value < 0) {
             // Locales group decimal digits only.
             if (base != 10 || !scanner.takeGroupSeparator() ||
-                !groups.separator(scanner.notation().groups))
+                !groups.separator(scanner.groupSizes()))
                 return std::nullopt;
             continue;
         }
@@ -293,7 +295,7 @@ std::optional<SignedMagnitude> readInteger(Scanner& scanner, int base, const Int
         groups.digit();
         anyDigit = true;
     }
-    if (!anyDigit || (groups.isSeparated() && !groups.end(scanner.notation().groups)))
+    if (!anyDigit || (groups.isSeparated() && !groups.end(scanner.groupSizes())))
         return std::nullopt;
     return number;
 }
@@ -347,11 +349,11 @@ bool takeGroupedDigits(Scanner& scanner, AsciiNumber& number)
             groups.digit();
         } else if (!scanner.takeGroupSeparator()) {
             break;
-        } else if (!groups.separator(scanner.notation().groups)) {
+        } else if (!groups.separator(scanner.groupSizes())) {
             return false;
         }
     }
-    return !groups.isSeparated() || groups.end(scanner.notation().groups);
+    return !groups.isSeparated() || groups.end(scanner.groupSizes());
 }
 
 template <std::same_as<double> T>
