@@ -55,19 +55,22 @@ CommandLine parseCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         tr("Shows and replays recordings of a band: spectrum, waterfall and hold maximum."));
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
+    // The parser's own help option brings a second one with it, for options that are not offered.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  tr("Print this text and end."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
+                                     tr("Print the version and end."));
     const QCommandLineOption config(QStringLiteral("config"),
                                     tr("Keep the settings in the folder DIR."),
                                     QStringLiteral("DIR"));
-    const QCommandLineOption shots(
-        QStringLiteral("shots"), tr("Write pictures of the windows into the folder DIR and end."),
-        QStringLiteral("DIR"));
+    const QCommandLineOption shots(QStringLiteral("shots"),
+                                   tr("Write pictures of the windows into the folder DIR and end."),
+                                   QStringLiteral("DIR"));
     const QCommandLineOption replay(
         QStringLiteral("replay"),
-        tr("Replay FACTOR times as fast as recorded, 0.1 to 100; the default is 1."),
+        tr("Start to replay at once, FACTOR (0.1 to 100) times as fast as recorded."),
         QStringLiteral("FACTOR"));
-    parser.addOptions({config, shots, replay});
+    parser.addOptions({help, version, config, shots, replay});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  tr("The recording to open; without it, the built-in sample."),
                                  QStringLiteral("[FILE]"));
@@ -77,11 +80,12 @@ CommandLine parseCommandLine(const QStringList& arguments)
     if (parser.isSet(help))
         return printed(parser.helpText());
     if (parser.isSet(version))
-        return printed(QStringLiteral("bandmonitor %1\n").arg(QCoreApplication::applicationVersion()));
+        return printed(
+            QStringLiteral("bandmonitor %1\n").arg(QCoreApplication::applicationVersion()));
 
     CommandLine result;
-    for (const auto& [option, folder] : {std::pair{&config, &result.configFolder},
-                                         std::pair{&shots, &result.shotsFolder}}) {
+    for (const auto& [option, folder] :
+         {std::pair{&config, &result.configFolder}, std::pair{&shots, &result.shotsFolder}}) {
         if (!parser.isSet(*option))
             continue;
         *folder = parser.value(*option);
@@ -90,14 +94,16 @@ CommandLine parseCommandLine(const QStringList& arguments)
     }
     if (parser.isSet(replay)) {
         bool ok = false;
-        result.replayFactor = NumberHelpers::parse<double>(parser.value(replay), &ok);
-        if (!ok || !(result.replayFactor >= slowestReplay && result.replayFactor <= fastestReplay))
+        const double factor = NumberHelpers::parse<double>(parser.value(replay), &ok);
+        if (!ok || !(factor >= slowestReplay && factor <= fastestReplay))
             return failure(tr("The replay factor must be a number from 0.1 to 100, not \"%1\".")
                                .arg(parser.value(replay)));
+        result.replayFactor = factor;
     }
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1)
-        return failure(tr("Only one recording can be opened, but %1 were given.").arg(files.size()));
+        return failure(
+            tr("Only one recording can be opened, but %1 were given.").arg(files.size()));
     if (!files.isEmpty()) {
         result.file = files.first();
         if (const QString problem = fileProblem(result.file); !problem.isEmpty())

@@ -4,10 +4,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace bandmonitor {
 
 /// What the user asked for on the command line.
-struct CommandLine {
+struct CommandLine
+{
     enum Action {
         Run,
         PrintText, ///< Print `text` on the standard output and end well: help and version.
@@ -16,10 +19,10 @@ struct CommandLine {
 
     Action action = Run;
     QString text;
-    QString file;            ///< Empty: the built-in sample.
-    QString configFolder;    ///< Empty: the platform's.
-    QString shotsFolder;     ///< Empty: no pictures, a normal run.
-    double replayFactor = 1; ///< 0.1 to 100.
+    QString file;                       ///< Empty: the built-in sample.
+    QString configFolder;               ///< Empty: the platform's.
+    QString shotsFolder;                ///< Empty: no pictures, a normal run.
+    std::optional<double> replayFactor; ///< 0.1 to 100; without it the replay waits.
 };
 
 /// Reads the arguments; the first one is the program. Needs no application object.

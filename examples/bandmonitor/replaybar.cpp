@@ -21,12 +21,13 @@ namespace bandmonitor {
 ReplayBar::ReplayBar(Replay* replay, QWidget* parent)
     : QWidget(parent)
     , m_replay(replay)
-    , m_first(addAction(tr("&First sweep"), QStyle::SP_MediaSkipBackward,
-                        QKeySequence(Qt::CTRL | Qt::Key_Home)))
-    , m_back(addAction(tr("Step &back"), QStyle::SP_MediaSeekBackward, QKeySequence(Qt::Key_Comma)))
-    , m_play(addAction(tr("&Play"), QStyle::SP_MediaPlay, QKeySequence(Qt::Key_Space)))
-    , m_forward(
-          addAction(tr("Step f&orward"), QStyle::SP_MediaSeekForward, QKeySequence(Qt::Key_Period)))
+    , m_first(makeAction(tr("&First sweep"), QStyle::SP_MediaSkipBackward,
+                         QKeySequence(Qt::CTRL | Qt::Key_Home)))
+    , m_back(
+          makeAction(tr("Step &back"), QStyle::SP_MediaSeekBackward, QKeySequence(Qt::Key_Comma)))
+    , m_play(makeAction(tr("&Play"), QStyle::SP_MediaPlay, QKeySequence(Qt::Key_Space)))
+    , m_forward(makeAction(tr("Step f&orward"), QStyle::SP_MediaSeekForward,
+                           QKeySequence(Qt::Key_Period)))
     , m_slider(new QSlider(Qt::Horizontal, this))
     , m_speed(new QDoubleSpinBox(this))
     , m_time(new QLabel(this))
@@ -46,7 +47,7 @@ ReplayBar::ReplayBar(Replay* replay, QWidget* parent)
 
 ReplayBar::~ReplayBar() = default;
 
-QAction* ReplayBar::addAction(const QString& text, int standardIcon, const QKeySequence& key)
+QAction* ReplayBar::makeAction(const QString& text, int standardIcon, const QKeySequence& key)
 {
     const auto pixmap = static_cast<QStyle::StandardPixmap>(standardIcon);
     auto* action = new QAction(style()->standardIcon(pixmap), text, this);

@@ -12,8 +12,8 @@ namespace bandmonitor {
 
 class Replay;
 
-/// The controls of a replay in one line: play and pause, steps, speed, position and time. It follows
-/// the replay whoever changes it.
+/// The controls of a replay in one line: play and pause, steps, speed, position and time. It
+/// follows the replay whoever changes it.
 class ReplayBar : public QWidget
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public Q_SLOTS:
     void refresh();
 
 private:
-    QAction* addAction(const QString& text, int standardIcon, const QKeySequence& key);
+    QAction* makeAction(const QString& text, int standardIcon, const QKeySequence& key);
     void buildLayout();
     void showPlaying(bool playing);
     void showPosition();

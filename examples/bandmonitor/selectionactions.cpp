@@ -28,9 +28,9 @@ SelectionActions::~SelectionActions()
         m_selection->Detach(this);
 }
 
-void SelectionActions::Update(Observable*, TChangeCode code)
+void SelectionActions::Update(Observable* observable, TChangeCode code)
 {
-    if (code == ChangeCode::State && m_selection->GetState() == Observable::Gone) {
+    if (code == ChangeCode::State && observable->GetState() == Observable::Gone) {
         m_selection = nullptr;
         return;
     }
@@ -50,7 +50,8 @@ void SelectionActions::fill()
     for (int index = 0; index < m_selection->GetCount(); ++index) {
         const SelectionItem* item = m_selection->GetItem(index);
         // The digits are the mnemonics, because the names of the items have none.
-        QAction* action = m_menu->addAction(QStringLiteral("&%1  %2").arg(index + 1).arg(item->GetName()));
+        QAction* action =
+            m_menu->addAction(QStringLiteral("&%1  %2").arg(index + 1).arg(item->GetName()));
         action->setCheckable(true);
         action->setData(item->GetKey());
         action->setEnabled(!item->IsDisabled());

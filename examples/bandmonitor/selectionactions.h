@@ -10,8 +10,8 @@ class ValueSelection;
 
 namespace bandmonitor {
 
-/// A sub-menu with one exclusive action per item of a selection, bound both ways: choosing an action
-/// sets the selection, and a selection that is set elsewhere checks its action.
+/// A sub-menu with one exclusive action per item of a selection, bound both ways: choosing an
+/// action sets the selection, and a selection that is set elsewhere checks its action.
 class SelectionActions : public QActionGroup, private IObserver
 {
     Q_OBJECT

@@ -8,8 +8,10 @@
 
 namespace bandmonitor {
 
-/// A part of an axis and the pixels it is drawn on. Value `low` lies at pixel 0, `high` at `pixels`.
-struct AxisRange {
+/// A part of an axis and the pixels it is drawn on. Value `low` lies at pixel 0, `high` at
+/// `pixels`.
+struct AxisRange
+{
     double low = 0;
     double high = 0;
     int pixels = 0;
@@ -21,7 +23,8 @@ struct AxisRange {
 };
 
 /// One labelled tick of an axis.
-struct AxisTick {
+struct AxisTick
+{
     double value = 0;
     double position = 0; ///< Pixels from the low end of the axis.
     QString label;
@@ -33,8 +36,8 @@ double niceStep(double minimum);
 
 /// Ticks at multiples of a 1-2-5 step. The step is the smallest one that is at least
 /// `smallestStep`, and whose labels all fit: `extentOf` tells the pixels that a label takes along
-/// the axis, and `gap` pixels stay free between two of them. Labels that would stick out of the axis
-/// by more than `overhang` pixels are left out, with their ticks. Empty for an invalid range.
+/// the axis, and `gap` pixels stay free between two of them. Labels that would stick out of the
+/// axis by more than `overhang` pixels are left out, with their ticks. Empty for an invalid range.
 std::vector<AxisTick> layoutTicks(const AxisRange& range, double smallestStep, int gap,
                                   int overhang, const std::function<QString(double)>& labelOf,
                                   const std::function<int(const QString&)>& extentOf);

@@ -94,10 +94,10 @@ void BandPane::keyPressEvent(QKeyEvent* event)
     if (event->modifiers().testFlag(Qt::ShiftModifier))
         m_view->pan(direction * panShare * (m_view->high() - m_view->low()));
     else
-        m_view->stepCursor(
-            event->modifiers().testFlag(Qt::ControlModifier) ? direction * fastCursorPixels
-                                                              : direction,
-            width());
+        m_view->stepCursor(event->modifiers().testFlag(Qt::ControlModifier)
+                               ? direction * fastCursorPixels
+                               : direction,
+                           width());
 }
 
 void BandPane::mousePressEvent(QMouseEvent* event)

@@ -14,9 +14,9 @@ class FrequencyView;
 /// keys into zoom, cursor and pins of the view, and draws the cursor and the pins on top.
 ///
 /// Mouse: moving sets the cursor, a click sets or removes a pin, dragging moves the view, dragging
-/// with the right button zooms to the part dragged over, the middle button shows the whole band, the
-/// wheel zooms. Keys: left and right move the cursor (with Control ten times as far, with Shift the
-/// view). All other keys are left to the window.
+/// with the right button zooms to the part dragged over, the middle button shows the whole band,
+/// the wheel zooms. Keys: left and right move the cursor (with Control ten times as far, with Shift
+/// the view). All other keys are left to the window.
 class BandPane : public QWidget
 {
     Q_OBJECT

@@ -116,8 +116,8 @@ void FrequencyView::addPin(double hertz)
 
 bool FrequencyView::removePinNear(double hertz, double reach)
 {
-    const auto nearest = std::ranges::min_element(
-        m_pins, {}, [hertz](double pin) { return std::abs(pin - hertz); });
+    const auto nearest =
+        std::ranges::min_element(m_pins, {}, [hertz](double pin) { return std::abs(pin - hertz); });
     if (nearest == m_pins.end() || std::abs(*nearest - hertz) > reach)
         return false;
     m_pins.erase(nearest);

@@ -7,7 +7,6 @@
 
 #include <QPaintEvent>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <cmath>
 
@@ -17,10 +16,11 @@ namespace {
 constexpr double smallestLevelRange = 10;
 constexpr int readOutMargin = 6;
 constexpr int gapBetweenLevels = 10;
+constexpr float holdShadowOpacity = 0.25F;
 } // namespace
 
-SpectrumPane::SpectrumPane(FrequencyView* view, const FrequencyText* text,
-                           GridTicks frequencyTicks, QWidget* parent)
+SpectrumPane::SpectrumPane(FrequencyView* view, const FrequencyText* text, GridTicks frequencyTicks,
+                           QWidget* parent)
     : BandPane(view, parent)
     , m_text(text)
     , m_frequencyTicks(std::move(frequencyTicks))
@@ -71,9 +71,10 @@ void SpectrumPane::setLevelRange(double low, double high)
 std::vector<AxisTick> SpectrumPane::levelTicks(int pixels) const
 {
     const int textHeight = fontMetrics().height();
-    return layoutTicks({m_lowLevel, m_highLevel, pixels}, 1, gapBetweenLevels, textHeight,
-                       [](double level) { return QString::number(level, 'f', 0); },
-                       [textHeight](const QString&) { return textHeight; });
+    return layoutTicks(
+        {m_lowLevel, m_highLevel, pixels}, 1, gapBetweenLevels, textHeight,
+        [](double level) { return QString::number(level, 'f', 0); },
+        [textHeight](const QString&) { return textHeight; });
 }
 
 void SpectrumPane::refreshTexts()
@@ -143,10 +144,10 @@ void SpectrumPane::paintGrid(QPainter& painter, const QRect& dirty) const
 
 void SpectrumPane::paintHold(QPainter& painter, int first, int last) const
 {
-    QColor color = paneColor(PaneSlot::Hold);
-    painter.setPen(color);
     QList<QLine> lines;
+    QList<QLine> shadow;
     lines.reserve(last - first + 1);
+    shadow.reserve(last - first + 1);
     const LevelRange* before = nullptr;
     for (int x = first; x <= last; ++x) {
         const LevelRange& column = m_hold.columns[static_cast<size_t>(x)];
@@ -154,11 +155,17 @@ void SpectrumPane::paintHold(QPainter& painter, int first, int last) const
             before = nullptr;
             continue;
         }
-        const int from = yOf(before != nullptr ? before->maximum : column.maximum);
-        lines.append(QLine(x, from, x, yOf(column.maximum)));
+        const int top = yOf(column.maximum);
+        lines.append(QLine(x, yOf(before != nullptr ? before->maximum : column.maximum), x, top));
+        shadow.append(QLine(x, top, x, height()));
         before = &column;
     }
+    QColor color = paneColor(PaneSlot::Hold);
+    painter.setPen(color);
     painter.drawLines(lines);
+    color.setAlphaF(holdShadowOpacity);
+    painter.setPen(color);
+    painter.drawLines(shadow);
 }
 
 void SpectrumPane::paintCurve(QPainter& painter, int first, int last) const
@@ -201,8 +208,8 @@ QString SpectrumPane::readOutLine(const QString& title, double hertz) const
         return level ? QStringLiteral("%1 dB").arg(static_cast<double>(*level), 0, 'f', 1)
                      : QStringLiteral("– dB");
     };
-    QString line = QStringLiteral("%1  %2  %3").arg(title, m_text->full(hertz),
-                                                    levelText(m_curve.sweep.levelAt(hertz)));
+    QString line = QStringLiteral("%1  %2  %3")
+                       .arg(title, m_text->full(hertz), levelText(m_curve.sweep.levelAt(hertz)));
     if (m_holdVisible && !m_hold.sweep.isEmpty())
         line += tr("  (hold %1)").arg(levelText(m_hold.sweep.levelAt(hertz)));
     return line;

@@ -17,8 +17,8 @@ class FrequencyText;
 /// Shows one sweep as a curve: each column of pixels a line from the lowest to the highest level of
 /// its bins, over the hold maximum, with grid and read-outs.
 ///
-/// Levels are reduced to columns when a sweep comes or the view changes; painting follows the pixels
-/// to be painted, whatever the number of bins.
+/// Levels are reduced to columns when a sweep comes or the view changes; painting follows the
+/// pixels to be painted, whatever the number of bins.
 class SpectrumPane : public BandPane
 {
     Q_OBJECT
@@ -59,7 +59,8 @@ protected:
     void updateAround(double hertz) override;
 
 private:
-    struct Trace {
+    struct Trace
+    {
         Sweep sweep;
         std::shared_ptr<const LevelPyramid> pyramid;
         std::vector<LevelRange> columns;

@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow.h"
+
+#include "manual.h"
+#include "panes/bandview.h"
+#include "replaybar.h"
+#include "selectionactions.h"
+#include "settings.h"
+
+#include <guibase/colors/colorset.h>
+#include <guibase/services/guibase.h>
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace bandmonitor {
+
+namespace {
+constexpr double zoomPerKey = 1.5;
+} // namespace
+
+void MainWindow::buildMenus()
+{
+    buildFileMenu();
+    buildViewMenu();
+    buildReplayMenu();
+    buildColorsMenu();
+    buildHelpMenu();
+}
+
+QAction* MainWindow::addEntry(QMenu* menu, QAction* action, bool paneKey)
+{
+    menu->addAction(action);
+    if (paneKey) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        m_bandView->addAction(action);
+    }
+    if (!action->shortcut().isEmpty())
+        GuiBase::Instance().ShowHotKeyFrom(action,
+                                           paneKey ? tr("Spectrum and waterfall") : tr("Window"));
+    return action;
+}
+
+QAction* MainWindow::addEntry(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
+                              bool paneKey)
+{
+    auto* action = new QAction(text, this);
+    action->setShortcuts(keys);
+    return addEntry(menu, action, paneKey);
+}
+
+void MainWindow::addSelectionMenu(QMenu* menu, const QString& title, ValueSelection* selection,
+                                  void (MainWindow::*changed)())
+{
+    auto* actions = new SelectionActions(selection, menu->addMenu(title));
+    connect(actions, &SelectionActions::currentChanged, this, changed);
+}
+
+void MainWindow::buildFileMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    connect(addEntry(menu, tr("&Open…"), {QKeySequence(QKeySequence::Open)}, false),
+            &QAction::triggered, this, &MainWindow::chooseFile);
+    menu->addSeparator();
+    // Control+Q belongs to the info dialog of the family's help menu.
+    connect(addEntry(menu, tr("&Quit"), {QKeySequence(Qt::CTRL | Qt::Key_W)}, false),
+            &QAction::triggered, this, &QWidget::close);
+}
+
+void MainWindow::buildViewMenu()
+{
+    GuiBase& services = GuiBase::Instance();
+    QMenu* menu = menuBar()->addMenu(tr("&View"));
+    addSelectionMenu(menu, tr("Frequency &unit"), services.GetFrequencyUnit(),
+                     &MainWindow::frequencyUnitChanged);
+    addSelectionMenu(menu, tr("Frequency &resolution"), &m_resolution,
+                     &MainWindow::frequencyResolutionChanged);
+    addSelectionMenu(menu, tr("Position &format"), services.GetPositionFormat(),
+                     &MainWindow::updatePosition);
+    addSelectionMenu(menu, tr("Time &zone"), services.GetTimeZone(), &MainWindow::timeZoneChanged);
+    menu->addSeparator();
+
+    FrequencyView* view = &m_bandView->view();
+    connect(addEntry(menu, tr("Zoom &in"), {Qt::Key_Plus, Qt::Key_Equal}, true),
+            &QAction::triggered, view, [view] { view->zoomAtCursor(zoomPerKey); });
+    connect(addEntry(menu, tr("Zoom &out"), {Qt::Key_Minus}, true), &QAction::triggered, view,
+            [view] { view->zoomAtCursor(1 / zoomPerKey); });
+    connect(addEntry(menu, tr("Whole &band"), {Qt::Key_Home}, true), &QAction::triggered, view,
+            &FrequencyView::showAll);
+    menu->addSeparator();
+    QAction* hold = addEntry(menu, tr("&Hold maximum"), {Qt::Key_H}, true);
+    hold->setCheckable(true);
+    hold->setChecked(Settings::isHoldVisible());
+    connect(hold, &QAction::toggled, this, [this](bool visible) {
+        Settings::setHoldVisible(visible);
+        m_bandView->setHoldVisible(visible);
+    });
+    connect(addEntry(menu, tr("R&eset hold"), {Qt::Key_R}, true), &QAction::triggered, m_bandView,
+            &BandView::resetHold);
+    menu->addSeparator();
+    connect(addEntry(menu, tr("Set &pin at the cursor"), {Qt::Key_P}, true), &QAction::triggered,
+            view, [view] { view->addPin(view->cursor()); });
+    connect(addEntry(menu, tr("Remove &all pins"), {QKeySequence(Qt::SHIFT | Qt::Key_P)}, true),
+            &QAction::triggered, view, &FrequencyView::clearPins);
+    menu->addSeparator();
+    menu->addAction(services.CreateResetWidgetViewAction(this));
+    menu->addAction(services.CreateResetFactoryViewAction(this));
+}
+
+void MainWindow::buildReplayMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Replay"));
+    addEntry(menu, m_replayBar->playAction(), true);
+    addEntry(menu, m_replayBar->backAction(), true);
+    addEntry(menu, m_replayBar->forwardAction(), true);
+    addEntry(menu, m_replayBar->firstAction(), true);
+}
+
+void MainWindow::buildColorsMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Colours"));
+    connect(addEntry(menu, tr("&Load…"), {}, false), &QAction::triggered, this,
+            &MainWindow::loadColors);
+    connect(addEntry(menu, tr("&Save as…"), {}, false), &QAction::triggered, this,
+            &MainWindow::saveColors);
+    menu->addSeparator();
+    connect(addEntry(menu, tr("&Factory"), {}, false), &QAction::triggered, this,
+            &MainWindow::restoreFactoryColors);
+}
+
+void MainWindow::buildHelpMenu()
+{
+    menuBar()->addMenu(GuiBase::Instance().CreateHelpMenu(this, manualFile(), this,
+                                                          SLOT(showInfo()), this, nullptr));
+}
+
+void MainWindow::chooseFile()
+{
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Open recording"), Settings::lastFolder(),
+                                     tr("Recordings (*.csv *.txt);;All files (*)"), nullptr,
+                                     GuiBase::Instance().UseNativeDialogs());
+    if (path.isEmpty())
+        return;
+    Settings::setLastFolder(QFileInfo(path).absolutePath());
+    open(path);
+}
+
+void MainWindow::loadColors()
+{
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Load colours"), Settings::lastFolder(), tr("Colour sets (*.cst);;All files (*)"),
+        nullptr, GuiBase::Instance().UseNativeDialogs());
+    if (!path.isEmpty())
+        ColorSet::Instance().Load(this, path);
+}
+
+void MainWindow::saveColors()
+{
+    QString path = QFileDialog::getSaveFileName(this, tr("Save colours"), Settings::lastFolder(),
+                                                tr("Colour sets (*.cst)"), nullptr,
+                                                GuiBase::Instance().UseNativeDialogs());
+    if (path.isEmpty())
+        return;
+    if (QFileInfo(path).suffix().isEmpty())
+        path += QStringLiteral(".cst");
+    ColorSet::Instance().Save(this, path);
+}
+
+void MainWindow::restoreFactoryColors()
+{
+    ColorSet::Instance().slotRestoreFactoryColors();
+    GuiBase::Instance().emit_signalColorsChanged();
+}
+
+} // namespace bandmonitor

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/recordingloader.h"
+#include "model/replay.h"
+
+#include <valueframework/observable.h>
+#include <valueframework/valueselection.h>
+
+#include <QMainWindow>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace bandmonitor {
+
+class BandView;
+class ReplayBar;
+
+/// The main window: panes, replay bar, menus and status bar around one recording.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+public:
+    /// What a recording that cannot be opened leads to.
+    enum class OnFailure {
+        ShowMessage, ///< A message box; the former recording stays.
+        Tell,        ///< Only openFailed(), for the start of the program.
+    };
+
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Begins to load the recording; recordingOpened(), openFailed() or nothing (cancelled) follows
+    /// from the event loop. Until then the former recording stays.
+    void open(const QString& path, OnFailure onFailure = OnFailure::ShowMessage);
+    bool isLoading() const { return m_loader.isLoading(); }
+
+    Replay& replay() { return m_replay; }
+    BandView& bandView() { return *m_bandView; }
+    /// What the user can choose; "1 Hz" and "1 kHz".
+    ValueSelection& frequencyResolution() { return m_resolution; }
+
+Q_SIGNALS:
+    void recordingOpened();
+    void openFailed(const QString& text);
+
+public Q_SLOTS:
+    void showInfo();
+    void cancelLoading();
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    // mainmenus.cpp
+    void buildMenus();
+    void buildFileMenu();
+    void buildViewMenu();
+    void buildReplayMenu();
+    void buildColorsMenu();
+    void buildHelpMenu();
+    void addSelectionMenu(QMenu* menu, const QString& title, ValueSelection* selection,
+                          void (MainWindow::*changed)());
+    /// Adds the action to the menu; with `paneKey` its shortcut works in the panes only, so that
+    /// single keys stay usable in the other controls.
+    QAction* addEntry(QMenu* menu, QAction* action, bool paneKey);
+    QAction* addEntry(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
+                      bool paneKey);
+
+    void buildStatusBar();
+    void connectLoader();
+    void restoreSettings();
+    void takeOverRecording();
+    void reportSkippedLines();
+    void showMessage(const QString& title, const QString& text, const QString& details);
+    void setLoadingShown(bool shown);
+    void showSweep(qsizetype position, qsizetype previous);
+    void updateTitle();
+    void updatePosition();
+
+    void chooseFile();
+    void loadColors();
+    void saveColors();
+    void restoreFactoryColors();
+    void frequencyUnitChanged();
+    void frequencyResolutionChanged();
+    void timeZoneChanged();
+
+    ValueSelection m_resolution;
+    RecordingLoader m_loader;
+    OnFailure m_onFailure = OnFailure::ShowMessage;
+    Replay m_replay;
+    QString m_fileName;
+    BandView* m_bandView;
+    ReplayBar* m_replayBar;
+    QLabel* m_report = nullptr;
+    QLabel* m_receiver = nullptr;
+    QProgressBar* m_progress = nullptr;
+    QPushButton* m_cancel = nullptr;
+};
+
+} // namespace bandmonitor

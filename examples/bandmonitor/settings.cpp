@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "settings.h"
+
+#include <jtbase/numberhelpers.h>
+#include <trovappstartup/cfgcenter.h>
+
+#include <cmath>
+#include <limits>
+
+namespace bandmonitor::Settings {
+
+namespace {
+
+std::unique_ptr<ICfg> section()
+{
+    return CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(QStringLiteral("Bandmonitor"));
+}
+
+UnitPrefix::ESuffix readUnit(const QString& key, UnitPrefix::ESuffix standard,
+                             UnitPrefix::ESuffix largest)
+{
+    const int value = section()->GetInt(key, standard);
+    return value >= UnitPrefix::BaseUnit && value <= largest
+               ? static_cast<UnitPrefix::ESuffix>(value)
+               : standard;
+}
+
+double readDegrees(const QString& key, const QString& standard)
+{
+    bool ok = false;
+    const QString text = CfgCenter::GetAppCfg(SettingsView)->GetString(key, standard);
+    const double degrees = Trov::toDoubleEx(text, &ok);
+    return ok ? degrees : std::numeric_limits<double>::quiet_NaN();
+}
+
+} // namespace
+
+UnitPrefix::ESuffix frequencyUnit()
+{
+    return readUnit(QStringLiteral("FrequencyUnit"), UnitPrefix::Mega, UnitPrefix::Giga);
+}
+
+void setFrequencyUnit(UnitPrefix::ESuffix unit)
+{
+    section()->SetInt(QStringLiteral("FrequencyUnit"), unit);
+}
+
+UnitPrefix::ESuffix frequencyResolution()
+{
+    return readUnit(QStringLiteral("FrequencyResolution"), UnitPrefix::BaseUnit, UnitPrefix::Kilo);
+}
+
+void setFrequencyResolution(UnitPrefix::ESuffix resolution)
+{
+    section()->SetInt(QStringLiteral("FrequencyResolution"), resolution);
+}
+
+bool isHoldVisible()
+{
+    return section()->GetBool(QStringLiteral("HoldMaximum"), true);
+}
+
+void setHoldVisible(bool visible)
+{
+    section()->SetBool(QStringLiteral("HoldMaximum"), visible);
+}
+
+QString lastFolder()
+{
+    return section()->GetString(QStringLiteral("LastFolder"));
+}
+
+void setLastFolder(const QString& folder)
+{
+    section()->SetString(QStringLiteral("LastFolder"), folder);
+}
+
+Position receiverPosition()
+{
+    return {readDegrees(QStringLiteral("ReceiverLatitude"), QStringLiteral("48.13731")),
+            readDegrees(QStringLiteral("ReceiverLongitude"), QStringLiteral("11.57528"))};
+}
+
+} // namespace bandmonitor::Settings

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/services/unitprefix.h>
+
+#include <QString>
+
+namespace bandmonitor {
+
+/// What the application itself keeps in its configuration; written at once, stored with the rest.
+/// Zone, position format, colours and window layout are kept by the services.
+namespace Settings {
+
+UnitPrefix::ESuffix frequencyUnit();
+void setFrequencyUnit(UnitPrefix::ESuffix unit);
+UnitPrefix::ESuffix frequencyResolution();
+void setFrequencyResolution(UnitPrefix::ESuffix resolution);
+bool isHoldVisible();
+void setHoldVisible(bool visible);
+/// The folder of the file that was opened last; empty at first.
+QString lastFolder();
+void setLastFolder(const QString& folder);
+
+/// The position of the receiver in degrees; NaN where the configuration has no number.
+struct Position
+{
+    double latitude = 0;
+    double longitude = 0;
+};
+Position receiverPosition();
+
+} // namespace Settings
+
+} // namespace bandmonitor

@@ -1,0 +1,249 @@
+// SPDX-License-Identifier: MIT
+#include "shots.h"
+
+#include "mainwindow.h"
+#include "panes/bandview.h"
+#include "panes/panecolors.h"
+
+#include <guibase/colors/colorset.h>
+#include <guibase/services/guibase.h>
+#include <jtbase/coordformat.h>
+#include <trovappstartup/cfgcenter.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QEventLoop>
+#include <QFile>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPainter>
+#include <QTimer>
+
+#include <limits>
+
+namespace bandmonitor {
+
+namespace {
+
+constexpr int shownSweeps = 90;
+constexpr int dialogPollMs = 20;
+
+struct SlotColor
+{
+    IColorBase::ECOLOR slot;
+    const char* color; ///< One of the catalogue.
+};
+
+// Dark curves on white, as for printing.
+constexpr SlotColor paperColors[] = {
+    {PaneSlot::BackgroundLow, "#fffffe"},
+    {PaneSlot::BackgroundHigh, "#fffffe"},
+    {PaneSlot::Grid, "#cccccc"},
+    {PaneSlot::Curve, "#280099"},
+    {PaneSlot::Hold, "#99ccff"},
+    {PaneSlot::Peak, "#dc2300"},
+    {PaneSlot::ReadOut, "#000"},
+    {PaneSlot::Cursor, "#dc2300"},
+    {PaneSlot::Pin, "#355e00"},
+    {PaneSlot::FrequencyAxisHigh, "#e6e6e6"},
+    {PaneSlot::FrequencyAxisLow, "#cccccc"},
+    {PaneSlot::FrequencyAxisText, "#000"},
+    {PaneSlot::LevelAxisText, "#000"},
+    {PaneSlot::LevelAxisBackground, "#e6e6e6"},
+};
+
+/// The frequency of the highest level from `low` to `high`, in hertz.
+double strongest(const Sweep& sweep, double low, double high)
+{
+    double result = low;
+    float highest = -std::numeric_limits<float>::infinity();
+    for (const Segment& segment : sweep.segments) {
+        for (size_t bin = 0; bin < segment.levels.size(); ++bin) {
+            const double hertz =
+                segment.startHz + (static_cast<double>(bin) + 0.5) * segment.stepHz;
+            if (hertz < low || hertz > high || !(segment.levels[bin] > highest))
+                continue;
+            highest = segment.levels[bin];
+            result = hertz;
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+ShotEnvironment::ShotEnvironment(const QString& folder, const QString& configFolder)
+    : m_ownSettings(QDir(folder).absoluteFilePath(QStringLiteral("settings-of-pictures")))
+    , m_hasOwnSettings(configFolder.isEmpty())
+{
+    qputenv("TZ", "CET-1");
+    if (m_hasOwnSettings)
+        m_ownSettings.removeRecursively(); // left by a run that was killed
+    CfgCenter::SetConfigDir(m_hasOwnSettings ? m_ownSettings.path() : configFolder);
+}
+
+ShotEnvironment::~ShotEnvironment()
+{
+    if (m_hasOwnSettings)
+        m_ownSettings.removeRecursively();
+}
+
+ShotSeries::ShotSeries(MainWindow& window, const QString& folder)
+    : m_window(window)
+    , m_folder(folder)
+{}
+
+bool ShotSeries::run()
+{
+    if (!m_folder.mkpath(QStringLiteral(".")))
+        m_failure = m_folder.path();
+    takeMain();
+    takeZoom();
+    takeMenus();
+    takeDialog(QStringLiteral("info.png"), "showInfo", &m_window);
+    takeDialog(QStringLiteral("keyboard.png"), "slotShowHotKeysInMenu", &GuiBase::Instance());
+    takeUnits();
+    takeColors();
+    takeMessage();
+    return m_failure.isEmpty();
+}
+
+void ShotSeries::takeMain()
+{
+    Replay& replay = m_window.replay();
+    for (int sweep = 1; sweep < shownSweeps; ++sweep)
+        replay.stepForward();
+    FrequencyView& view = m_window.bandView().view();
+    const double middle = (view.low() + view.high()) / 2;
+    view.addPin(strongest(replay.sweep(), view.low(), middle));
+    view.setCursor(strongest(replay.sweep(), middle, view.high()));
+    write(QStringLiteral("main.png"));
+}
+
+void ShotSeries::takeZoom()
+{
+    m_window.bandView().view().zoomAtCursor(8);
+    write(QStringLiteral("zoom.png"));
+    m_window.bandView().view().showAll();
+}
+
+void ShotSeries::takeMenus()
+{
+    const QList<QAction*> entries = m_window.menuBar()->actions();
+    int number = 0;
+    for (const QAction* entry : entries) {
+        QMenu* menu = entry->menu();
+        if (menu == nullptr)
+            continue;
+        const QRect bar = m_window.menuBar()->actionGeometry(const_cast<QAction*>(entry));
+        menu->popup(m_window.menuBar()->mapToGlobal(bar.bottomLeft()));
+        const QAction* first = menu->actions().value(0);
+        if (first != nullptr && first->menu() != nullptr)
+            first->menu()->popup(menu->mapToGlobal(menu->rect().topRight()));
+        write(QStringLiteral("menu-%1.png").arg(++number));
+        if (first != nullptr && first->menu() != nullptr)
+            first->menu()->close();
+        menu->close();
+    }
+}
+
+void ShotSeries::takeDialog(const QString& name, const char* slot, QObject* receiver)
+{
+    writeWhenDialogOpens(name);
+    QMetaObject::invokeMethod(receiver, slot, Qt::DirectConnection);
+}
+
+void ShotSeries::takeUnits()
+{
+    GuiBase& services = GuiBase::Instance();
+    services.SetFrequencyUnit(UnitPrefix::Kilo);
+    m_window.frequencyResolution().SetValue(UnitPrefix::Kilo);
+    services.GetTimeZone()->SetValue(0);
+    services.GetPositionFormat()->SetValue(static_cast<int>(CoordFormat::Utm));
+    write(QStringLiteral("units.png"));
+}
+
+void ShotSeries::takeColors()
+{
+    const QString file = m_folder.filePath(QStringLiteral("paper.cst"));
+    ColorSet& colors = ColorSet::Instance();
+    for (const SlotColor& entry : paperColors)
+        colors.SetColor(entry.slot, QColor(QLatin1String(entry.color)), false);
+    colors.Save(&m_window, file);
+    colors.slotRestoreFactoryColors();
+    colors.Load(&m_window, file);
+    write(QStringLiteral("colors.png"));
+    QFile::remove(file); // and so the next start must not look for it
+    colors.slotRestoreFactoryColors();
+    GuiBase::Instance().emit_signalColorsChanged();
+}
+
+void ShotSeries::takeMessage()
+{
+    QFile file(m_folder.filePath(QStringLiteral("notes.csv")));
+    if (!file.open(QIODevice::WriteOnly) || file.write("not a recording\n") < 0) {
+        m_failure = file.fileName();
+        return;
+    }
+    file.close();
+    writeWhenDialogOpens(QStringLiteral("message.png"));
+    QEventLoop untilFailed;
+    QObject::connect(&m_window, &MainWindow::openFailed, &untilFailed, &QEventLoop::quit,
+                     Qt::QueuedConnection);
+    m_window.open(file.fileName());
+    untilFailed.exec();
+    file.remove();
+}
+
+void ShotSeries::writeWhenDialogOpens(const QString& name)
+{
+    QTimer::singleShot(dialogPollMs, &m_window, [this, name] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) {
+            const QWidgetList windows = QApplication::topLevelWidgets();
+            for (QWidget* window : windows)
+                dialog = window->isVisible() && dialog == nullptr ? qobject_cast<QDialog*>(window)
+                                                                  : dialog;
+        }
+        if (dialog == nullptr) {
+            writeWhenDialogOpens(name);
+            return;
+        }
+        write(name);
+        dialog->reject();
+    });
+}
+
+QPixmap ShotSeries::picture() const
+{
+    QPixmap result = m_window.grab();
+    QPainter painter(&result);
+    const QPoint origin = m_window.mapToGlobal(QPoint(0, 0));
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (window == &m_window || !window->isVisible() ||
+            !(qobject_cast<QMenu*>(window) || qobject_cast<QDialog*>(window)))
+            continue;
+        // Kept inside the picture; a window manager would keep it on the screen as well.
+        const QPoint place = window->mapToGlobal(QPoint(0, 0)) - origin;
+        const QPoint limit(std::max(m_window.width() - window->width(), 0),
+                           std::max(m_window.height() - window->height(), 0));
+        const QRect shown(
+            QPoint(std::clamp(place.x(), 0, limit.x()), std::clamp(place.y(), 0, limit.y())),
+            window->size());
+        painter.drawPixmap(shown.topLeft(), window->grab());
+        painter.setPen(window->palette().color(QPalette::Shadow)); // there is no window frame
+        painter.drawRect(shown.adjusted(-1, -1, 0, 0));
+    }
+    return result;
+}
+
+void ShotSeries::write(const QString& name)
+{
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (!picture().save(m_folder.filePath(name)) && m_failure.isEmpty())
+        m_failure = m_folder.filePath(name);
+}
+
+} // namespace bandmonitor
