@@ -70,9 +70,8 @@ public:
     void stopTimer();
     bool store(int lockMilliseconds);
     void callComponents(void (SaveComponentIf::*operation)());
-    /// Stores what is there, then lets `change` alter the name or folder of the configurations.
-    template <typename Change>
-    void relocate(Change change);
+    /// Stores what is there and forgets it: its name or folder is about to change.
+    void leave(CfgViews& views) const;
 
     QString name;
     QString configDir;
@@ -180,13 +179,10 @@ void Center::callComponents(void (SaveComponentIf::*operation)())
                         [operation](SaveComponentIf& component) { (component.*operation)(); });
 }
 
-template <typename Change>
-void Center::relocate(Change change)
+void Center::leave(CfgViews& views) const
 {
-    store(CfgPlace::lockMilliseconds);
-    change();
-    application.store().reset();
-    admin.store().reset();
+    views.store().store(CfgPlace::lockMilliseconds);
+    views.store().reset();
 }
 
 } // namespace
@@ -203,15 +199,20 @@ void CfgCenter::SetAppName(const QString& name)
 {
     Center& center = Center::instance();
     const QString cleanName = withoutSeparators(name);
-    if (cleanName != center.name)
-        center.relocate([&] { center.name = cleanName; });
+    if (cleanName == center.name)
+        return;
+    center.leave(center.application);
+    center.leave(center.admin);
+    center.name = cleanName;
 }
 
 void CfgCenter::SetConfigDir(const QString& folder)
 {
     Center& center = Center::instance();
-    if (folder != center.configDir)
-        center.relocate([&] { center.configDir = folder; });
+    if (folder == center.configDir)
+        return;
+    center.leave(center.application);
+    center.configDir = folder;
 }
 
 QString CfgCenter::GetConfigDir()
@@ -225,8 +226,10 @@ QString CfgCenter::GetConfigDir()
 void CfgCenter::SetAdminConfigDir(const QString& folder)
 {
     Center& center = Center::instance();
-    if (folder != center.adminConfigDir)
-        center.relocate([&] { center.adminConfigDir = folder; });
+    if (folder == center.adminConfigDir)
+        return;
+    center.leave(center.admin);
+    center.adminConfigDir = folder;
 }
 
 ICfg* CfgCenter::GetAppCfg(int view)

@@ -34,7 +34,7 @@ class TROVAPPSTARTUP_EXPORT CfgCenter
 public:
     /// Name of the application; the default is QCoreApplication's, or "application" when that is
     /// empty. Path separators in a name are replaced by '_'. Setting another name or folder stores
-    /// the current configuration first; the configurations are then read anew.
+    /// the current configuration first (a failure is traced); the other one is then read.
     static QString GetAppName();
     static void SetAppName(const QString& name);
     /// Folder of the application configuration; made on the first store. Empty: the platform's.

@@ -35,6 +35,22 @@ struct CfgDocument::Node
 {
     std::map<QString, QJsonValue> values;
     std::map<QString, std::unique_ptr<Node>> subs;
+
+    bool isEmpty() const { return values.empty() && subs.empty(); }
+    void removeEmptySubs()
+    {
+        std::erase_if(subs, [](const auto& entry) { return entry.second->isEmpty(); });
+    }
+    /// Removes those that are empty on the way along the path.
+    void removeEmptySubs(const QStringList& path, qsizetype level = 0)
+    {
+        const auto sub = level < path.size() ? subs.find(path.at(level)) : subs.end();
+        if (sub == subs.end())
+            return;
+        sub->second->removeEmptySubs(path, level + 1);
+        if (sub->second->isEmpty())
+            subs.erase(sub);
+    }
 };
 
 /// Changes of one node. Undefined values are removed keys. A cleared node was removed, with all
@@ -46,19 +62,6 @@ struct CfgDocument::Changes
     std::map<QString, std::unique_ptr<Changes>> subs;
 
     bool isEmpty() const { return !cleared && values.empty() && subs.empty(); }
-    /// Whether applying them makes the node when it is missing.
-    bool makesNode() const
-    {
-        for (const auto& entry : values) {
-            if (!entry.second.isUndefined())
-                return true;
-        }
-        for (const auto& entry : subs) {
-            if (entry.second->makesNode())
-                return true;
-        }
-        return false;
-    }
 };
 
 CfgDocument::CfgDocument()
@@ -87,6 +90,7 @@ bool CfgDocument::read(const QJsonObject& object, Node& node, qsizetype depth, Q
             return false;
         }
     }
+    node.removeEmptySubs();
     return true;
 }
 
@@ -204,6 +208,7 @@ bool CfgDocument::setValue(const QStringList& path, const QString& key, const QJ
     else
         node->values[key] = value;
     changes->values[key] = value;
+    m_root->removeEmptySubs(path);
     return true;
 }
 
@@ -218,6 +223,7 @@ bool CfgDocument::removeSub(const QStringList& path)
         changes = &entryOf(changes->subs, path.at(level));
     }
     node->subs.erase(path.last());
+    m_root->removeEmptySubs(path);
     Changes& removed = entryOf(changes->subs, path.last());
     removed = Changes();
     removed.cleared = true;
@@ -245,9 +251,9 @@ void CfgDocument::apply(const Changes& changes, Node& node)
     for (const auto& [name, sub] : changes.subs) {
         if (sub->cleared)
             node.subs.erase(name);
-        if (node.subs.contains(name) || sub->makesNode())
-            apply(*sub, entryOf(node.subs, name));
+        apply(*sub, entryOf(node.subs, name));
     }
+    node.removeEmptySubs();
 }
 
 void CfgDocument::rebase(CfgDocument&& other)

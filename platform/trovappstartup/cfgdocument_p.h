@@ -17,7 +17,8 @@ class QJsonObject;
 ///
 /// As text it is a JSON object: a value is a member, a sub-configuration is a member object. A
 /// sub-configuration whose name is also that of a value stands in the object under the empty name,
-/// which no value can have. Values that ICfg cannot read (null, arrays) are kept as they are.
+/// which no value can have. A sub-configuration is there as long as there is a value in it or below
+/// it. Values that ICfg cannot read (null, arrays) are kept as they are.
 class CfgDocument
 {
 public:

@@ -4,11 +4,13 @@
 #include "cfgdocument_p.h"
 
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QSaveFile>
+#include <QThread>
 
 CfgFile::CfgFile(const QString& fileName)
     : m_fileName(fileName)
@@ -49,8 +51,16 @@ std::unique_ptr<QLockFile> CfgFile::lock(int milliseconds, QString* reason) cons
     }
     auto lock = std::make_unique<QLockFile>(m_fileName + QStringLiteral(".lock"));
     lock->setStaleLockTime(staleMilliseconds);
-    if (lock->tryLock(milliseconds))
-        return lock;
+    // Waiting in tryLock() doubles its pauses up to seconds, and starves among busy processes.
+    constexpr unsigned long pauseMilliseconds = 3;
+    const QDeadlineTimer deadline(milliseconds);
+    for (;;) {
+        if (lock->tryLock(0))
+            return lock;
+        if (lock->error() != QLockFile::LockFailedError || deadline.hasExpired())
+            break;
+        QThread::msleep(pauseMilliseconds);
+    }
     *reason = lock->error() == QLockFile::LockFailedError
                   ? QStringLiteral("another process has it locked")
                   : QStringLiteral("its lock file cannot be made");

@@ -35,8 +35,8 @@ public:
     virtual QStringList GetKeys() const = 0;
 
     virtual bool HasSubCfg(const QString& name) const = 0;
-    /// Opens the sub-configuration; it comes into being with its first value. Null for an empty name,
-    /// and 200 levels deep.
+    /// Opens the sub-configuration; it is there as long as there is a value in it or
+    /// below it. Null for an empty name, and 200 levels deep.
     virtual std::unique_ptr<ICfg> OpenSubCfg(const QString& name) = 0;
     virtual QStringList GetSubCfgNames() const = 0;
     virtual void RemoveSubCfg(const QString& name) = 0;

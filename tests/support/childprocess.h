@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+/// A helper program under test, with its output and its signals. Every wait is bounded, and the
+/// destructor leaves no process behind.
+class ChildProcess
+{
+public:
+    /// Starts the program with the test's own environment.
+    ChildProcess(const QString& program, const QStringList& arguments);
+    ~ChildProcess();
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    /// Waits until the program has written the line to its standard output.
+    bool waitForLine(const QByteArray& line);
+    /// Sends a signal; false when the program does not run any more.
+    bool send(int signalNumber);
+    /// Waits for the end. Returns the exit code, or minus the number of the signal that ended it,
+    /// or neverEnded.
+    int waitForEnd();
+
+    static constexpr int neverEnded = 1000;
+
+    /// What it has written to both outputs until now.
+    QByteArray output() const { return m_output; }
+
+private:
+    void readOutput();
+
+    QProcess m_process;
+    QByteArray m_output;
+};
