@@ -123,6 +123,7 @@ void GuiBase::SlotMainWidgetDestroyed(QObject* object)
 {
     if (object == nullptr || object != d->mainWidgetIdentity)
         return;
+    d->persistentWidgets.dropDestroyed(object);
     SetMainWidget(nullptr);
     if (d->application)
         QCoreApplication::quit();

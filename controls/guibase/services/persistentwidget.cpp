@@ -45,6 +45,12 @@ void PersistentWidget::write()
     m_record.Write(QString());
 }
 
+void PersistentWidget::writeLast()
+{
+    m_widget.clear();
+    write();
+}
+
 void PersistentWidget::capture()
 {
     if (m_widget && !m_widget->isMinimized())

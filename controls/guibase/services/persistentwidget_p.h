@@ -30,6 +30,8 @@ public:
     /// Reads the record, applies it to the widget and shows the widget.
     void read();
     void write();
+    /// Forgets the widget, which is no more than half there, and writes how it looked last.
+    void writeLast();
     void restoreProgramStart();
     void restoreFactory();
     void capture();

@@ -17,7 +17,7 @@ void PersistentWidgetRegistry::registerWidget(QWidget* widget, const QString& re
                                    [widget](const auto& entry) { return entry->watches(widget); });
     if (widget == nullptr || known)
         return;
-    connect(widget, &QObject::destroyed, this, &PersistentWidgetRegistry::handleDestroyed,
+    connect(widget, &QObject::destroyed, this, &PersistentWidgetRegistry::dropDestroyed,
             Qt::UniqueConnection);
     // Entered before it is read: reading shows the widget, whose handlers may come back here.
     const auto entry = std::make_shared<PersistentWidget>(widget, recordName);
@@ -34,18 +34,18 @@ void PersistentWidgetRegistry::unregisterWidget(const QObject* widget)
     });
 }
 
-void PersistentWidgetRegistry::clear()
-{
-    m_widgets.clear();
-}
-
-void PersistentWidgetRegistry::handleDestroyed(const QObject* widget)
+void PersistentWidgetRegistry::dropDestroyed(const QObject* widget)
 {
     for (const auto& entry : m_widgets) {
         if (entry->watches(widget))
-            entry->write();
+            entry->writeLast();
     }
     unregisterWidget(widget);
+}
+
+void PersistentWidgetRegistry::clear()
+{
+    m_widgets.clear();
 }
 
 void PersistentWidgetRegistry::forEachWidget(void (PersistentWidget::*operation)())

@@ -24,6 +24,9 @@ public:
     void registerWidget(QWidget* widget, const QString& recordName);
     /// Also drops what watches a widget that is gone.
     void unregisterWidget(const QObject* widget);
+    /// Writes how the widget looked last and drops it. To be called, once or more, when the widget
+    /// tells that it is destroyed.
+    void dropDestroyed(const QObject* widget);
     void clear();
 
     /// Captures the layout of every widget.
@@ -35,7 +38,6 @@ public:
     bool isRestoring() const;
 
 private:
-    void handleDestroyed(const QObject* widget);
     /// Calls the operation for every widget, also when an application's handler registers or
     /// unregisters widgets meanwhile.
     void forEachWidget(void (PersistentWidget::*operation)());
