@@ -379,8 +379,10 @@ int GuiBase::AddHotKey(Qt::Key key, int modifiers, QObject* receiver, const QStr
             connect(this, SIGNAL(signalHotKey(int)), receiver, SLOT(slotHotKey(int)),
                     Qt::QueuedConnection);
         } else {
-            GUIBASE_TRACE(QStringLiteral("GuiBase::AddHotKey(): '%1' has no slot 'slotHotKey(int)'")
-                              .arg(QString::fromLatin1(receiver->metaObject()->className())));
+            ErrorHandler::Trace(
+                ErrorHandler::TraceGuiBase, Tracing::module, __LINE__,
+                QStringLiteral("GuiBase::AddHotKey(): '%1' has no slot 'slotHotKey(int)'")
+                    .arg(QString::fromLatin1(receiver->metaObject()->className())));
         }
     }
     HotKey hotKey;

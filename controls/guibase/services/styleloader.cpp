@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "styleloader_p.h"
 
-#include "tracing_p.h"
-
+#include <jtbase/errorhandler.h>
 #include <trovappstartup/cfgcenter.h>
 
 #include <QApplication>
@@ -58,7 +57,8 @@ void StyleLoader::loadStyleSheet(QApplication& application, const ICfg* cfg)
     if (path.isEmpty())
         return;
     if (!QFile(path).open(QIODevice::ReadOnly)) {
-        GUIBASE_TRACE(QStringLiteral("Style sheet '%1' cannot be opened").arg(path));
+        ErrorHandler::Trace(ErrorHandler::TraceGuiBase, "controls/guibase/styleloader", __LINE__,
+                            QStringLiteral("Style sheet '%1' cannot be opened").arg(path));
         return;
     }
     // The toolkit cuts off "file:///" and opens the rest as a path, without decoding it. So the
