@@ -231,7 +231,10 @@ QRect SpectrumPane::readOutRect() const
         textWidth = std::max(textWidth, fontMetrics().horizontalAdvance(line));
     const int boxWidth = textWidth + 2 * readOutMargin;
     const int boxHeight = static_cast<int>(lines.size()) * fontMetrics().height() + readOutMargin;
-    return {width() - boxWidth - readOutMargin, readOutMargin, boxWidth, boxHeight};
+    // At the right, unless the cursor is there.
+    const int right = width() - boxWidth - readOutMargin;
+    const bool cursorAtRight = positionOf(view().cursor()) >= right - readOutMargin;
+    return {cursorAtRight ? readOutMargin : right, readOutMargin, boxWidth, boxHeight};
 }
 
 void SpectrumPane::paintReadOut(QPainter& painter) const

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+// The whole application in a process of its own, worked by the words on its command line:
+//   bandmonitorprocess FOLDER change quit|wait    changes every setting, then ends or waits
+//   bandmonitorprocess FOLDER tell                prints the settings that it started with
+#include "mainwindow.h"
+#include "settings.h"
+
+#include <guibase/colors/colorset.h>
+#include <guibase/services/guibase.h>
+#include <trovappstartup/cfgcenter.h>
+#include <trovappstartup/trovapplication.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QTimer>
+
+#include <cstdio>
+
+using namespace bandmonitor;
+
+namespace {
+
+void say(const QString& text)
+{
+    std::puts(text.toUtf8().constData());
+    std::fflush(stdout);
+}
+
+QString settings(const MainWindow& window)
+{
+    GuiBase& services = GuiBase::Instance();
+    return QStringLiteral("unit %1 resolution %2 zone %3 format %4 hold %5 grid %6 size %7x%8")
+        .arg(services.GetFrequencyUnit()->GetValue())
+        .arg(services.GetFrequencyResolution())
+        .arg(services.GetTimeZoneValue())
+        .arg(services.GetPositionFormat()->GetValue())
+        .arg(Settings::isHoldVisible())
+        .arg(ColorSet::Instance().GetColor(IColorBase::DrawPaneGrid).name())
+        .arg(window.width())
+        .arg(window.height());
+}
+
+void changeAll(MainWindow& window, const QString& folder)
+{
+    GuiBase& services = GuiBase::Instance();
+    services.SetFrequencyUnit(UnitPrefix::Giga);
+    window.frequencyResolution().SetValue(UnitPrefix::Kilo);
+    services.GetTimeZone()->SetValue(0);
+    services.GetPositionFormat()->SetValue(6);
+    const QList<QAction*> actions = window.findChildren<QAction*>();
+    for (QAction* action : actions) {
+        if (action->text() == QLatin1String("&Hold maximum"))
+            action->setChecked(false);
+    }
+    ColorSet::Instance().SetColor(IColorBase::DrawPaneGrid, QColor(Qt::magenta), true);
+    ColorSet::Instance().Save(nullptr, folder + QStringLiteral("/own.cst"));
+    window.resize(777, 555);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    const QStringList words = QApplication::arguments();
+    CfgCenter::SetAppName(QStringLiteral("bandmonitor"));
+    CfgCenter::SetConfigDir(words.value(1));
+    CfgCenter::SetAutoStoreDelay(-1); // only the end of the process may store
+    TrovApplication startUp;
+    GuiBase::Instance().SetApplication(&application);
+    MainWindow window;
+    GuiBase::Instance().SetMainWidget(&window);
+    window.show();
+    QTimer::singleShot(0, &window, [&] {
+        if (words.value(2) == QLatin1String("change"))
+            changeAll(window, words.value(1));
+        say(settings(window));
+        if (words.value(3) != QLatin1String("wait"))
+            window.close();
+    });
+    return QApplication::exec();
+}

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "panes/bandview.h"
+#include "panes/spectrumpane.h"
+#include "panes/waterfallpane.h"
+#include "support/testguard.h"
+
+#include <guibase/colors/colorset.h>
+#include <guibase/services/guibase.h>
+
+#include <QTest>
+
+#include <optional>
+
+using namespace bandmonitor;
+
+namespace {
+
+constexpr double bandLow = 100e6;
+constexpr double binHz = 1e3;
+constexpr int bins = 1000;
+constexpr int sweeps = 40;
+
+/// Noise at -100 dB and one line at -20 dB, which moves up by one bin with each sweep.
+std::shared_ptr<const Recording> movingLine()
+{
+    auto recording = std::make_shared<Recording>();
+    for (int sweep = 0; sweep < sweeps; ++sweep) {
+        std::vector<float> levels(bins, -100.0F);
+        levels[static_cast<size_t>(500 + sweep)] = -20.0F;
+        const Segment segment{bandLow, binHz, 1, levels};
+        recording->append(static_cast<quint64>(sweep) * 1'000'000, {&segment, 1});
+    }
+    return recording;
+}
+
+double centreOfBin(int bin)
+{
+    return bandLow + (bin + 0.5) * binHz;
+}
+
+} // namespace
+
+class tst_Panes : public QObject
+{
+    Q_OBJECT
+    std::optional<TestGuard> m_guard;
+    std::unique_ptr<BandView> m_pane;
+
+    FrequencyView& view() { return m_pane->view(); }
+    int spectrumX(double hertz) { return int(m_pane->spectrum().positionOf(hertz)); }
+    QRgb waterfallPixel(double hertz, int line)
+    {
+        const WaterfallPane& pane = m_pane->waterfall();
+        const QImage image = m_pane->waterfall().grab().toImage();
+        return image.pixel(int(pane.positionOf(hertz)), line * WaterfallPane::linePixels);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_guard.emplace();
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
+        m_pane = std::make_unique<BandView>();
+        m_pane->resize(1100, 500);
+        m_pane->setRecording(movingLine());
+        m_pane->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_pane.get()));
+        for (int sweep = 0; sweep < sweeps; ++sweep)
+            m_pane->showSweep(sweep, sweep - 1);
+        view().setCursor(bandLow);
+    }
+
+    void cleanup()
+    {
+        m_pane.reset();
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+
+    void readOutFollowsMouseAndKeys()
+    {
+        SpectrumPane& pane = m_pane->spectrum();
+        const double line = centreOfBin(500 + sweeps - 1);
+        view().zoom(12, line); // several pixels for each bin
+        QTest::mouseMove(&pane, QPoint(spectrumX(line), 50));
+        QVERIFY(pane.readOut().first().contains(QLatin1String("-20.0 dB")));
+        QVERIFY(pane.readOut().first().contains(QLatin1String(" MHz")));
+        const double before = view().cursor();
+        QTest::keyClick(&pane, Qt::Key_Right, Qt::ControlModifier);
+        QVERIFY(view().cursor() > before);
+        QVERIFY(pane.readOut().first().contains(QLatin1String("-100.0 dB")));
+        // The line of an earlier sweep is in the hold maximum only.
+        view().setCursor(centreOfBin(510));
+        QVERIFY(pane.readOut().first().contains(QLatin1String("-100.0 dB")));
+        QVERIFY(pane.readOut().first().contains(QLatin1String("hold -20.0 dB")));
+        m_pane->resetHold();
+        QVERIFY(!pane.readOut().first().contains(QLatin1String("-20.0 dB")));
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
+        QVERIFY(pane.readOut().first().contains(QLatin1String(" kHz")));
+    }
+
+    void clicksSetAndRemovePins()
+    {
+        SpectrumPane& pane = m_pane->spectrum();
+        QTest::mouseClick(&pane, Qt::LeftButton, {}, QPoint(300, 50));
+        QTest::mouseClick(&m_pane->waterfall(), Qt::LeftButton, {}, QPoint(600, 50));
+        QCOMPARE(view().pins().size(), 2u);
+        QCOMPARE(pane.readOut().size(), 3);
+        QTest::mouseClick(&pane, Qt::LeftButton, {}, QPoint(300 + BandPane::pinReach - 1, 50));
+        QCOMPARE(view().pins().size(), 1u);
+        QVERIFY(std::abs(pane.positionOf(view().pins().front()) - 600) < 1);
+        // A drag moves the view and sets no pin.
+        view().zoom(4, centreOfBin(500));
+        const double low = view().low();
+        QTest::mousePress(&pane, Qt::LeftButton, {}, QPoint(300, 50));
+        QTest::mouseMove(&pane, QPoint(400, 50));
+        QTest::mouseRelease(&pane, Qt::LeftButton, {}, QPoint(400, 50));
+        QVERIFY(view().low() < low);
+        QCOMPARE(view().pins().size(), 1u);
+    }
+
+    void viewStaysInTheBand()
+    {
+        const double span = view().bandHigh() - view().bandLow();
+        view().zoom(1e9, bandLow);
+        QVERIFY(view().high() - view().low() >= binHz);
+        QCOMPARE(view().low(), bandLow);
+        view().pan(-1e9);
+        QCOMPARE(view().low(), bandLow);
+        view().pan(1e12);
+        QCOMPARE(view().high(), view().bandHigh());
+        view().stepCursor(-100000, 10);
+        QVERIFY(view().cursor() >= view().low() && view().cursor() <= view().high());
+        view().zoom(std::nan(""), 0);
+        view().setVisible(view().bandHigh() + 1, view().bandHigh() + 2);
+        QVERIFY(view().high() <= view().bandHigh());
+        view().zoom(1e-9, bandLow);
+        QVERIFY(view().showsAll());
+        QCOMPARE(view().high() - view().low(), span);
+        QTest::mousePress(&m_pane->spectrum(), Qt::RightButton, {}, QPoint(200, 50));
+        QTest::mouseMove(&m_pane->spectrum(), QPoint(100, 50));
+        QTest::mouseRelease(&m_pane->spectrum(), Qt::RightButton, {}, QPoint(100, 50));
+        QVERIFY(view().high() - view().low() < span / 2);
+    }
+
+    void waterfallShowsTheSweepsUpToTheCurrentOne()
+    {
+        WaterfallPane& pane = m_pane->waterfall();
+        const QRgb loud = pane.colorOf(-20);
+        const auto lineAtTop = [&](int newest) {
+            view().setVisible(centreOfBin(470), centreOfBin(560));
+            for (int line = 0; line < 20; ++line) {
+                QCOMPARE(waterfallPixel(centreOfBin(500 + newest - line), line), loud);
+                QVERIFY(waterfallPixel(centreOfBin(505 + newest - line), line) != loud);
+            }
+        };
+        lineAtTop(sweeps - 1);
+        QCOMPARE(pane.sweepAt(0), sweeps - 1);
+        QCOMPARE(pane.sweepAt(sweeps * WaterfallPane::linePixels), -1);
+        m_pane->showSweep(25, -1);
+        lineAtTop(25);
+        m_pane->showSweep(24, -1);
+        lineAtTop(24);
+        m_pane->showSweep(30, 24);
+        lineAtTop(30);
+        // Resizing keeps what was shown; a pane lower than its history wraps around.
+        m_pane->resize(800, 200);
+        lineAtTop(30);
+        for (int sweep = 31; sweep < sweeps; ++sweep)
+            m_pane->showSweep(sweep, sweep - 1);
+        lineAtTop(sweeps - 1);
+        m_pane->resize(1200, 600);
+        lineAtTop(sweeps - 1);
+    }
+
+    void coloursAreTakenAnew()
+    {
+        const QRgb before = m_pane->waterfall().colorOf(-100);
+        ColorSet& colors = ColorSet::Instance();
+        colors.SetColor(IColorBase::DrawPaneBackgroundLow, QColor(Qt::blue), true);
+        QVERIFY(m_pane->waterfall().colorOf(-100) != before);
+        QCOMPARE(waterfallPixel(centreOfBin(10), 3), QColor(Qt::blue).rgb());
+        m_pane->setHoldVisible(false);
+        const QImage spectrum = m_pane->spectrum().grab().toImage();
+        QVERIFY(spectrum.pixelColor(20, spectrum.height() - 3).blue() > 240); // end of a gradient
+        colors.slotRestoreFactoryColors();
+        GuiBase::Instance().emit_signalColorsChanged();
+        QCOMPARE(m_pane->waterfall().colorOf(-100), before);
+    }
+};
+
+QTEST_MAIN(tst_Panes)
+#include "tst_panes.moc"
