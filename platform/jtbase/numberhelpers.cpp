@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <concepts>
 #include <limits>
 #include <optional>
@@ -321,14 +320,8 @@ std::optional<double> fromAscii(const char* begin, const char* end)
 {
     double value = 0.0;
     const std::from_chars_result result = std::from_chars(begin, end, value);
-    if (result.ec != std::errc() || result.ptr != end || !std::isfinite(value))
+    if (result.ec != std::errc() || result.ptr != end)
         return std::nullopt;
-    if (value == 0.0) {
-        for (const char* c = begin; c != end && *c != 'e'; ++c) {
-            if (*c >= '1' && *c <= '9')
-                return std::nullopt;
-        }
-    }
     return value;
 }
 

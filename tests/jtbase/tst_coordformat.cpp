@@ -57,6 +57,8 @@ private Q_SLOTS:
         row(48.2, 11.5, MaidenheadLocator, QStringLiteral("JN58SE"));
         row(90, 180, MaidenheadLocator, QStringLiteral("AR09AX"));
         row(38.286108, -76.4291704, Georef, QStringLiteral("GJPJ34241716"));
+        // On borders that binary fractions miss by a hair: 179° 54' W, 89° 57' S.
+        row(-89.95, -179.9, Georef, QStringLiteral("AAAA06000300"));
         row(-90, -180, Georef, QStringLiteral("AAAA00000000"));
         row(90.01, 0, SignedDegrees, QString());
         row(0, -180.01, Degrees, QString());

@@ -99,7 +99,7 @@ private Q_SLOTS:
     void threadsDoNotMixLines()
     {
         constexpr int threadCount = 4;
-        constexpr int traceCount = 200;
+        constexpr int traceCount = 2000;
         QFile::remove(traceFile());
         QVERIFY(ErrorHandler::SetTraceFile(traceFile()));
         const QtMessageHandler former =
