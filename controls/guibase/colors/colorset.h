@@ -77,8 +77,9 @@ public:
     /// opened; "**" therefore always asks. A name that the user types is put in lower case, but for
     /// its folders, and gets the extension ".cst". When the user gives up nothing is written, the
     /// set stays dirty and a given name stays the current one; Backup() and Restore() help. A file
-    /// that cannot be written is reported, and keeps what it held. The file holds the 600 bytes of
-    /// the assignment and nothing else afterwards, even if it was longer before.
+    /// that cannot be written is reported, and keeps what it held unless its folder admits no
+    /// second file to write to first. The file holds the 600 bytes of the assignment and nothing
+    /// else afterwards, even if it was longer before.
     void Save(QWidget* parent, const QString& name);
 
     /// Reads the file `name` and announces the change of colours. Nothing happens when it is the
