@@ -65,8 +65,6 @@ private Q_SLOTS:
     void cleanup();
     void signalTypes_data();
     void signalTypes();
-    void frequencyUnit_data();
-    void frequencyUnit();
     void timeString_data();
     void timeString();
     void dataDirectory_data();
@@ -142,24 +140,6 @@ void TestGuiBase::signalTypes()
 {
     QFETCH(char, letter);
     QTEST(m_services->GetSignalType(letter), "name");
-}
-
-void TestGuiBase::frequencyUnit_data()
-{
-    QTest::addColumn<int>("suffix");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("Hz") << 1 << QStringLiteral("Hz");
-    QTest::newRow("GHz") << 4 << QStringLiteral("GHz");
-    QTest::newRow("none changes nothing") << 0 << QStringLiteral("kHz");
-    QTest::newRow("out of range changes nothing") << 7 << QStringLiteral("kHz");
-}
-
-void TestGuiBase::frequencyUnit()
-{
-    QFETCH(int, suffix);
-    m_services->SetFrequencyUnit(UnitPrefix::Kilo);
-    m_services->SetFrequencyUnit(static_cast<UnitPrefix::ESuffix>(suffix));
-    QTEST(m_services->GetFrequencyUnit()->GetCurrentItem()->GetName(), "name");
 }
 
 void TestGuiBase::timeString_data()
