@@ -76,7 +76,7 @@ bool CfgFile::replace(const QByteArray& text, QString* reason) const
     }
     // On a full disk the last bytes fail in flush(), which commit() does not look at.
     if (file.write(text) != text.size() || !file.flush()) {
-        *reason = file.errorString();
+        *reason = QStringLiteral("not all of it could be written (%1)").arg(file.errorString());
         file.cancelWriting();
         return false;
     }

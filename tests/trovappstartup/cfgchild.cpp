@@ -96,7 +96,7 @@ int storeOnFullDisk()
     std::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{8192, 8192};
     ::setrlimit(RLIMIT_FSIZE, &limit);
-    settings()->SetString(QStringLiteral("text"), QString(100000, u'x'));
+    settings()->SetString(QStringLiteral("text"), QString(10000, u'x'));
     const bool isTooLargeStored = CfgCenter::Store();
     settings()->SetString(QStringLiteral("text"), QStringLiteral("small"));
     return !isTooLargeStored && CfgCenter::Store() ? 0 : 1;

@@ -61,7 +61,6 @@ private Q_SLOTS:
     void refusesWhatIsNoConfiguration_data();
     void refusesWhatIsNoConfiguration();
     void keepsWhatItCannotInterpret();
-    void writesEqualTreesAsEqualTexts();
     void changesMakeTheSameTreeAgain();
     void changesOfTwoProcessesMeet();
     void survivesAnyBytes();
@@ -102,14 +101,6 @@ void TestCfgDocument::keepsWhatItCannotInterpret()
     QCOMPARE(document.toText().simplified(),
              QByteArray("{ \"big\": 9007199254740993, \"list\": [ 1, { \"x\": null } ], "
                         "\"none\": null, \"real\": 0.1, \"s\": { \"k\": true } }"));
-}
-
-void TestCfgDocument::writesEqualTreesAsEqualTexts()
-{
-    const QByteArray text = documentOf("{\"b\": 1, \"a\": {\"d\": 2, \"c\": 3}}").toText();
-    QCOMPARE(text, documentOf("{\"a\": {\"c\": 3, \"d\": 2}, \"b\": 1}").toText());
-    QVERIFY(text.indexOf("\"a\"") < text.indexOf("\"b\""));
-    QCOMPARE(text.count('\n'), 7);
 }
 
 // Whatever was done to a document, its changes applied to what it was read from give the document.
