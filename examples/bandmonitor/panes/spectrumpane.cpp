@@ -145,27 +145,29 @@ void SpectrumPane::paintGrid(QPainter& painter, const QRect& dirty) const
 void SpectrumPane::paintHold(QPainter& painter, int first, int last) const
 {
     QList<QLine> lines;
-    QList<QLine> shadow;
     lines.reserve(last - first + 1);
-    shadow.reserve(last - first + 1);
+    // One polygon for the whole shadow: a translucent line for each column would take ten times as
+    // long, because every one of them is blended by itself.
+    QPolygon shadow{QPoint(first, height())};
+    shadow.reserve(2 * (last - first + 2));
     const LevelRange* before = nullptr;
     for (int x = first; x <= last; ++x) {
         const LevelRange& column = m_hold.columns[static_cast<size_t>(x)];
-        if (column.isEmpty()) {
-            before = nullptr;
-            continue;
-        }
-        const int top = yOf(column.maximum);
-        lines.append(QLine(x, yOf(before != nullptr ? before->maximum : column.maximum), x, top));
-        shadow.append(QLine(x, top, x, height()));
-        before = &column;
+        const int top = column.isEmpty() ? height() : yOf(column.maximum);
+        shadow << QPoint(x, top) << QPoint(x + 1, top);
+        if (!column.isEmpty())
+            lines.append(
+                QLine(x, yOf(before != nullptr ? before->maximum : column.maximum), x, top));
+        before = column.isEmpty() ? nullptr : &column;
     }
+    shadow << QPoint(last + 1, height());
     QColor color = paneColor(PaneSlot::Hold);
     painter.setPen(color);
     painter.drawLines(lines);
     color.setAlphaF(holdShadowOpacity);
-    painter.setPen(color);
-    painter.drawLines(shadow);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawPolygon(shadow);
 }
 
 void SpectrumPane::paintCurve(QPainter& painter, int first, int last) const
