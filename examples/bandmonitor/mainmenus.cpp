@@ -159,14 +159,12 @@ void MainWindow::loadColors()
 
 void MainWindow::saveColors()
 {
-    QString path = QFileDialog::getSaveFileName(this, tr("Save colours"), Settings::lastFolder(),
-                                                tr("Colour sets (*.cst)"), nullptr,
-                                                GuiBase::Instance().UseNativeDialogs());
-    if (path.isEmpty())
-        return;
-    if (QFileInfo(path).suffix().isEmpty())
-        path += QStringLiteral(".cst");
-    ColorSet::Instance().Save(this, path);
+    QFileDialog dialog(this, tr("Save colours"), Settings::lastFolder(), tr("Colour sets (*.cst)"));
+    dialog.setOptions(GuiBase::Instance().UseNativeDialogs());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("cst")); // before it asks about an existing file
+    if (dialog.exec() == QDialog::Accepted)
+        ColorSet::Instance().Save(this, dialog.selectedFiles().constFirst());
 }
 
 void MainWindow::restoreFactoryColors()

@@ -165,6 +165,10 @@ void WaterfallPane::paintEvent(QPaintEvent*)
     }
     painter.fillRect(0, lines * linePixels, width(), height() - lines * linePixels,
                      QColor(m_ramp.front()));
+    if (m_position == 0 && m_recording && m_recording->count() > 1) {
+        painter.setPen(paneColor(PaneSlot::ReadOut));
+        painter.drawText(rect(), Qt::AlignCenter, tr("Press Space to replay the recording"));
+    }
     paintOverlay(painter);
 }
 
