@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/guibase_export.h>
+
+#include <QHeaderView>
+#include <QList>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QTreeWidget>
+
+#include <memory>
+#include <vector>
+
+class ISortCallback;
+class ListSorter;
+class QAction;
+class QMenu;
+class SortListViewItem;
+
+/// A flat or shallow list of SortListViewItems that sorts its rows by compare functions and sort
+/// keys, lets the user hide columns, and keeps its column widths under a name.
+///
+/// A view that may sort (AllowSort()) sorts when it is shown, when a header section is clicked and
+/// when it is told to; a hidden view never reorders its rows. Selection, current item, expanded and
+/// hidden rows and the scroll position stay, and rows that compare as equal keep their order, in both
+/// directions. Rows that are not SortListViewItems sort as in any QTreeWidget.
+///
+/// Decisions: rows that are appended to a shown list which the view has sorted go to their places
+/// together, in the next pass of the event loop, or a little later when sorting takes long. A row
+/// that is put anywhere else (on top, after another row, with SortListViewItem::moveItem()) stays
+/// there, and so do rows appended after it, until the list is sorted again. Nothing is put in place
+/// while a sort callback is set.
+///
+/// Keys: Ctrl+Alt+H opens the column menu, when that is switched on; Alt+Left and Alt+Right choose
+/// the current column, Alt+Shift+Left and Alt+Shift+Right move it, Alt+Shift+Up and Alt+Shift+Down
+/// sort by it in ascending and descending order.
+///
+/// Operations on columns that do not exist, and on null items or items of other views, do nothing
+/// and return null, false or an empty value.
+class GUIBASE_EXPORT SortListView : public QTreeWidget
+{
+    Q_OBJECT
+public:
+    /// Returns a value below, equal to or above 0. Called with the texts of the two rows in reverse
+    /// order: below 0 means that the row of the second text goes in front of that of the first.
+    using CompareFunction = int (*)(const QString&, const QString&);
+
+    explicit SortListView(QWidget* parent = nullptr, const char* name = nullptr);
+    ~SortListView() override;
+
+    // --- Columns -------------------------------------------------------------------------------
+
+    /// Returns the new number of columns.
+    int addColumn(const QString& text);
+    int columns() const;
+    QString columnText(int column) const;
+    void setColumnText(int column, const QString& text);
+    /// Qt::Alignment flags for items made from now on; columns before it that have none yet get the
+    /// same.
+    void setColumnAlignment(unsigned column, int alignment);
+    /// Qt::AlignLeft where none was set.
+    int columnAlignment(int column) const;
+    void applyAlignment(QTreeWidgetItem* item) const;
+    void setColumnWidthMode(int column, QHeaderView::ResizeMode mode);
+
+    /// Stores the widths under this name when a column is hidden, at saveColumnStatus() and at the
+    /// end, and applies the stored ones now. Empty at start: nothing is stored.
+    void SetColumnWidthPersistantName(const QString& name);
+    void saveColumnStatus();
+    /// Whether a right click on the header offers to hide and show the columns; off at start.
+    void setColumnSelectionMenu(bool on);
+
+    // --- Sorting -------------------------------------------------------------------------------
+
+    /// Room for the compare functions of `count` columns; new entries are null.
+    void SetCompareFunctionLength(int count);
+    /// Null: the texts are compared as they are. Ignored for a column without room.
+    void SetCompareFunction(int column, CompareFunction function);
+    bool HasSortFunction(int column) const;
+    /// How the texts of two rows compare; 0 while the view is hidden, must not sort or has a sort
+    /// callback.
+    int SortFunction(int column, const QString& a, const QString& b) const;
+    /// Not owned; must outlive the view or be set back to null.
+    void SetSortCallback(ISortCallback* callback);
+    void AllowSort(bool allow);
+    /// A column that does not exist (-1): the rows stay as they are.
+    void setSorting(int column, Qt::SortOrder order);
+    void setSorting(int column, bool ascending);
+    Qt::SortOrder GetColumnSortingOrder() const;
+    void sort();
+    void sortByColumn(int column, Qt::SortOrder order);
+
+    /// Texts without regard to case.
+    static int _compStandardString(const QString& x, const QString& y);
+    /// Numbers as QString::toDouble() reads them; a text that is none equals all others.
+    static int _compStandardNumeric(const QString& x, const QString& y);
+    /// The numbers in front of the first blank.
+    static int _compNumericWithSuffix(const QString& x, const QString& y);
+
+    // --- The older navigation interface ----------------------------------------------------------
+
+    SortListViewItem* currentItem() const;
+    SortListViewItem* selectedItem() const;
+    /// The first row; nextChild() then walks through the others, to null at the end.
+    SortListViewItem* firstChild();
+    SortListViewItem* nextChild();
+    int childCount() const;
+    SortListViewItem* findItem(const QString& text, int column,
+                               Qt::CaseSensitivity caseSensitivity = Qt::CaseSensitive) const;
+    /// Takes the item, with its children, out of the view; it belongs to the caller then.
+    void takeItem(QTreeWidgetItem* item);
+    bool isSelected(const QTreeWidgetItem* item) const;
+    void setSelected(QTreeWidgetItem* item, bool selected);
+    void setShowSortIndicator(bool show);
+    /// True: several rows can be selected, each on its own; false: one.
+    void setMultiSelection(bool multi);
+    void ensureItemVisible(const QTreeWidgetItem* item);
+    QRect itemRect(const QTreeWidgetItem* item) const;
+    using QTreeWidget::height;
+    int height(const QTreeWidgetItem* item) const;
+
+    /// What slotContextMenuRequested() shows; not owned. None at start.
+    void setContextMenu(QMenu* menu);
+    QMenu* contextMenu() const;
+
+Q_SIGNALS:
+    /// `item` is null beside the rows, `pos` global and `col` -1 beside the columns.
+    void contextMenuRequested(SortListViewItem* item, QPoint pos, int col);
+    /// Exactly one item is selected now.
+    void selectionChanged(SortListViewItem* item);
+    void doubleClicked(SortListViewItem* item);
+    /// The row was activated; null when it is no SortListViewItem.
+    void clicked(SortListViewItem* item);
+    /// For applications to emit; the view itself does not.
+    void returnPressed(SortListViewItem* item);
+
+public Q_SLOTS:
+    virtual void slotContextMenuRequested(SortListViewItem* item, QPoint pos, int col);
+    /// `pos` in coordinates of the header's viewport.
+    virtual void slotHeaderContextMenuRequested(QPoint pos);
+    virtual void slotHeaderClicked(int column);
+    virtual void slotSelectionChanged();
+    virtual void slotDoubleClicked(QTreeWidgetItem* item, int column);
+    virtual void slotClicked(QTreeWidgetItem* item, int column);
+    virtual void slotExpanded(QTreeWidgetItem* item);
+    virtual void slotCollapsed(QTreeWidgetItem* item);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void rowsInserted(const QModelIndex& parent, int first, int last) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+private:
+    friend class ListSorter;
+    friend class SortListViewItem;
+
+    bool hasColumn(int column) const;
+    bool hasItem(const QTreeWidgetItem* item) const;
+    /// Whether the items compare at all at present.
+    bool maySort() const;
+    CompareFunction compareFunction(int column) const;
+    void connectSignals();
+    bool handleColumnKey(int key, Qt::KeyboardModifiers modifiers);
+    void moveColumn(int column, int step);
+    void chooseColumn(int step);
+    void updateColumnActions();
+
+    std::vector<CompareFunction> m_compareFunctions;
+    QMenu* m_headerMenu;
+    bool m_allowSort = true;
+    bool m_hasColumnMenu = false;
+    ISortCallback* m_sortCallback = nullptr;
+    int m_sortColumn = 0;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    QString m_persistantName;
+    QStringList m_labels;
+    std::vector<int> m_alignments;
+    QList<QAction*> m_columnActions;
+    QPointer<QMenu> m_contextMenu;
+    int m_childCursor = 0;
+    std::unique_ptr<ListSorter> m_sorter;
+};
