@@ -29,13 +29,18 @@ FrequencyAxis::FrequencyAxis(const FrequencyView* view, const FrequencyText* tex
 
 FrequencyAxis::~FrequencyAxis() = default;
 
-std::vector<AxisTick> FrequencyAxis::ticks(int pixels) const
+const std::vector<AxisTick>& FrequencyAxis::ticks(int pixels) const
 {
+    TicksKey key{m_view->range(pixels), m_text->unit(), m_text->resolution(), font()};
+    if (key == m_ticksKey)
+        return m_ticks;
+    m_ticksKey = std::move(key);
     const QFontMetrics metrics = fontMetrics();
-    return layoutTicks(
-        m_view->range(pixels), m_text->resolution(), gapBetweenLabels, 0,
+    m_ticks = layoutTicks(
+        m_ticksKey.range, m_ticksKey.resolution, gapBetweenLabels, 0,
         [this](double hertz) { return m_text->label(hertz); },
         [&metrics](const QString& label) { return metrics.horizontalAdvance(label); });
+    return m_ticks;
 }
 
 QSize FrequencyAxis::sizeHint() const

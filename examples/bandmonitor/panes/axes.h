@@ -24,7 +24,7 @@ public:
     ~FrequencyAxis() override;
 
     /// The ticks of the visible range on `pixels` pixels; for the grid of the panes too.
-    std::vector<AxisTick> ticks(int pixels) const;
+    const std::vector<AxisTick>& ticks(int pixels) const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -33,8 +33,21 @@ protected:
 
 private:
     const FrequencyView* m_view;
+    /// What the ticks were worked out for: the axis and the panes ask with every painting.
+    struct TicksKey
+    {
+        AxisRange range;
+        QString unit;
+        double resolution = 0;
+        QFont font;
+
+        bool operator==(const TicksKey&) const = default;
+    };
+
     const FrequencyText* m_text;
     int m_indent;
+    mutable TicksKey m_ticksKey;
+    mutable std::vector<AxisTick> m_ticks;
 };
 
 /// The scale at the left of a pane, from its bottom to its top: levels, or the times of sweeps. Its

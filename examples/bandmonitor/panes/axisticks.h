@@ -20,6 +20,7 @@ struct AxisRange
     bool isValid() const;
     double positionOf(double value) const;
     double valueAt(double position) const;
+    bool operator==(const AxisRange&) const = default;
 };
 
 /// One labelled tick of an axis.
