@@ -48,6 +48,24 @@ QString fileProblem(const QString& name)
     return {};
 }
 
+/// Nothing for a text that is no number in the range.
+std::optional<double> replayFactorOf(const QString& text)
+{
+    bool ok = false;
+    const double factor = NumberHelpers::parse<double>(text, &ok);
+    return ok && factor >= slowestReplay && factor <= fastestReplay ? std::optional(factor)
+                                                                    : std::nullopt;
+}
+
+/// Takes the positional arguments over; what is wrong with them, or nothing.
+QString takeFile(const QStringList& files, QString& file)
+{
+    if (files.size() > 1)
+        return tr("Only one recording can be opened, but %1 were given.").arg(files.size());
+    file = files.value(0);
+    return file.isEmpty() ? QString() : fileProblem(file);
+}
+
 } // namespace
 
 CommandLine parseCommandLine(const QStringList& arguments)
@@ -93,22 +111,14 @@ CommandLine parseCommandLine(const QStringList& arguments)
             return failure(tr("\"%1\" is not a folder.").arg(*folder));
     }
     if (parser.isSet(replay)) {
-        bool ok = false;
-        const double factor = NumberHelpers::parse<double>(parser.value(replay), &ok);
-        if (!ok || !(factor >= slowestReplay && factor <= fastestReplay))
+        result.replayFactor = replayFactorOf(parser.value(replay));
+        if (!result.replayFactor)
             return failure(tr("The replay factor must be a number from 0.1 to 100, not \"%1\".")
                                .arg(parser.value(replay)));
-        result.replayFactor = factor;
     }
-    const QStringList files = parser.positionalArguments();
-    if (files.size() > 1)
-        return failure(
-            tr("Only one recording can be opened, but %1 were given.").arg(files.size()));
-    if (!files.isEmpty()) {
-        result.file = files.first();
-        if (const QString problem = fileProblem(result.file); !problem.isEmpty())
-            return failure(problem);
-    }
+    if (const QString problem = takeFile(parser.positionalArguments(), result.file);
+        !problem.isEmpty())
+        return failure(problem);
     return result;
 }
 
