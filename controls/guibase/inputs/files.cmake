@@ -1,9 +1,32 @@
 # SPDX-License-Identifier: MIT
 set(inputs_headers
+    displayaffix.h
+    displayformatlist.h
+    displayformatswitch.h
     frequencytoaxisstring.h
+    integralnumberdisplayformat.h
+    numberdisplayformatbase.h
+    qdatetimedisplayformat.h
+    realnumberdisplayformat.h
+    refusalmark.h
     stringformatter.h
-    suffixeddouble.h)
+    suffixeddouble.h
+    typedinput.h
+    valuedisplayformatbase.h)
 set(inputs_sources
+    displayaffix.cpp
+    displayformatlist.cpp
     frequencytoaxisstring.cpp
+    integralnumberdisplayformat.cpp
+    numberdisplayformatbase.cpp
+    numbertext.cpp
+    numbertext_p.h
+    qdatetimedisplayformat.cpp
+    realnumberdisplayformat.cpp
+    refusalmark.cpp
     stringformatter.cpp
-    suffixeddouble.cpp)
+    suffixeddouble.cpp
+    typedinput.cpp
+    typednumber.cpp
+    typednumber_p.h
+    valuedisplayformatbase.cpp)

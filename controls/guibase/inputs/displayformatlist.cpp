@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "displayformatlist.h"
+
+#include "integralnumberdisplayformat.h"
+#include "qdatetimedisplayformat.h"
+#include "realnumberdisplayformat.h"
+
+#include <jtbase/errorhandler.h>
+
+#include <exception>
+#include <type_traits>
+
+namespace {
+
+template <typename T>
+std::unique_ptr<ValueDisplayFormatBase<T>> makeDefaultFormat()
+{
+    if constexpr (std::is_same_v<T, QDateTime>)
+        return std::make_unique<QDateTimeDisplayFormat>();
+    else if constexpr (std::is_integral_v<T>)
+        return std::make_unique<IntegralNumberDisplayFormat<T>>();
+    else
+        return std::make_unique<RealNumberDisplayFormat<T>>();
+}
+
+/// Runs a step that calls the application's converters; `fallback` when one throws.
+template <typename Step, typename Result>
+Result guarded(const Step& step, const Result& fallback)
+{
+    constexpr const char* module = "controls/guibase/inputs/displayformatlist";
+    try {
+        return step();
+    } catch (const std::exception& exception) {
+        ErrorHandler::Trace(ErrorHandler::TraceGuiBase, module, __LINE__,
+                            QStringLiteral("A value converter has thrown: %1")
+                                .arg(QString::fromLocal8Bit(exception.what())));
+    } catch (...) {
+        ErrorHandler::Trace(ErrorHandler::TraceGuiBase, module, __LINE__,
+                            QStringLiteral("A value converter has thrown."));
+    }
+    return fallback;
+}
+
+} // namespace
+
+template <typename T>
+DisplayFormatList<T>::DisplayFormatList()
+    : m_default(makeDefaultFormat<T>())
+{}
+
+template <typename T>
+DisplayFormatList<T>::~DisplayFormatList() = default;
+
+template <typename T>
+void DisplayFormatList<T>::add(std::unique_ptr<Format> format)
+{
+    if (format != nullptr)
+        m_formats.push_back(std::move(format));
+}
+
+template <typename T>
+typename DisplayFormatList<T>::Format* DisplayFormatList<T>::at(int index) const
+{
+    return index >= 0 && index < count() ? m_formats[static_cast<std::size_t>(index)].get()
+                                         : nullptr;
+}
+
+template <typename T>
+typename DisplayFormatList<T>::Format* DisplayFormatList<T>::current(int index) const
+{
+    Format* format = at(index);
+    return format != nullptr ? format : m_default.get();
+}
+
+template <typename T>
+typename DisplayFormatList<T>::Pairs DisplayFormatList<T>::trialOrder(int currentIndex) const
+{
+    Pairs pairs;
+    if (count() == 0 || (count() > 1 && currentIndex < 0))
+        pairs.append({m_default.get(), -1});
+    for (int index = 0; index < count(); ++index)
+        pairs.append({at(index), index});
+    if (currentIndex >= 1 && currentIndex < count())
+        std::swap(pairs[0], pairs[currentIndex]);
+    return pairs;
+}
+
+template <typename T>
+typename DisplayFormatList<T>::Reading
+DisplayFormatList<T>::read(const QString& text, int currentIndex, const T& currentValue) const
+{
+    const Pairs pairs = trialOrder(currentIndex);
+    for (const auto& [format, index] : pairs) {
+        bool ok = false;
+        const T value = guarded([&] { return format->valueFromFullText(text, &ok); }, T());
+        if (ok)
+            return {value, index, Reading::Read};
+    }
+    Reading reading{currentValue, currentIndex, Reading::Unreadable};
+    qsizetype longest = -1;
+    for (const auto& [format, index] : pairs) {
+        const DisplayAffix::Match match = format->suffixMatch(text);
+        if (match && match.length > longest) {
+            longest = match.length;
+            reading.index = index;
+            reading.outcome = Reading::SuffixOnly;
+        }
+    }
+    return reading;
+}
+
+template <typename T>
+QString DisplayFormatList<T>::write(const T& value, int currentIndex) const
+{
+    const Format* format = current(currentIndex);
+    return guarded([&] { return format->fullTextFromValue(value); }, QString());
+}
+
+template <typename T>
+QString DisplayFormatList<T>::refusalReason(const QString& text, int currentIndex) const
+{
+    const Format* format = current(currentIndex);
+    const auto range = format->bareRange(text);
+    return format->refusalReason(text.mid(range.start, range.end - range.start));
+}
+
+#define INSTANTIATE(T) template class DisplayFormatList<T>;
+GUIBASE_FOR_EACH_INPUT_TYPE(INSTANTIATE)
+#undef INSTANTIATE

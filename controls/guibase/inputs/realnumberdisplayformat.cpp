@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "realnumberdisplayformat.h"
+
+#include "numbertext_p.h"
+#include "typednumber_p.h"
+
+#include <jtbase/numberhelpers.h>
+
+#include <optional>
+
+namespace {
+
+/// A point is the decimal sign of the C locale; where people use another one it may be meant to
+/// part thousands.
+bool isDoubtfulPoint(const QString& text, QChar decimalPoint)
+{
+    return decimalPoint != u'.' && text.contains(u'.') &&
+           TypedNumber::isAmbiguous(text, decimalPoint);
+}
+
+std::optional<double> readReal(const QString& text, const QLocale& locale, bool useLocale,
+                               QChar decimalPoint)
+{
+    // With a locale the point may part groups.
+    if (decimalPoint == u'.' || !text.contains(u'.')) {
+        if (const std::optional<double> value = TypedNumber::readPlain<double>(text))
+            return value;
+    }
+    bool ok = false;
+    double value = useLocale ? NumberHelpers::parse<double>(text, locale, &ok)
+                             : NumberHelpers::parse<double>(text, &ok);
+    if (ok && (useLocale || !isDoubtfulPoint(text, decimalPoint)))
+        return value;
+    // What is written in the locale can be read in any case.
+    value = NumberHelpers::parse<double>(text, locale, &ok);
+    if (ok)
+        return value;
+    TypedNumber::Ascii ascii;
+    if (TypedNumber::normalize(text, decimalPoint, ascii) != TypedNumber::Outcome::Number)
+        return std::nullopt;
+    return TypedNumber::realFromAscii(ascii);
+}
+
+} // namespace
+
+template <typename T>
+RealNumberDisplayFormat<T>::RealNumberDisplayFormat() = default;
+
+template <typename T>
+RealNumberDisplayFormat<T>::~RealNumberDisplayFormat() = default;
+
+template <typename T>
+std::unique_ptr<ValueDisplayFormatBase<T>> RealNumberDisplayFormat<T>::clone() const
+{
+    return std::make_unique<RealNumberDisplayFormat<T>>(*this);
+}
+
+template <typename T>
+T RealNumberDisplayFormat<T>::valueFromText(const QString& text, bool* ok) const
+{
+    const std::optional<double> value =
+        readReal(text, this->locale(), this->useLocale(), this->notation().decimalPoint);
+    if (ok != nullptr)
+        *ok = value.has_value();
+    return value.value_or(0.0);
+}
+
+template <typename T>
+QString RealNumberDisplayFormat<T>::textFromValue(T value) const
+{
+    return NumberText::ofReal(value, this->locale(), this->notation(), this->format(),
+                              this->precision(), this->showPlus());
+}
+
+template <typename T>
+QString RealNumberDisplayFormat<T>::refusalReason(const QString& text) const
+{
+    return TypedNumber::refusalReason(text, this->notation().decimalPoint);
+}
+
+template class RealNumberDisplayFormat<double>;

@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "typedinput.h"
+
+TypedInput::~TypedInput() = default;

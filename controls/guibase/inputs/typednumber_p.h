@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringView>
+#include <QVarLengthArray>
+
+#include <concepts>
+#include <optional>
+
+/// Numbers as people type and paste them: what can be read in one way only is read.
+namespace TypedNumber {
+
+enum class Outcome {
+    Number,
+    NotANumber,
+    Ambiguous, ///< The only separator may be the decimal one or part thousands.
+};
+
+using Ascii = QVarLengthArray<char, 128>;
+
+/// Writes the decimal number to `ascii` in C notation: '-', digits, '.', 'e', without groups. It
+/// need not be a number in all points: digits may be missing. A single separator that is
+/// `decimalPoint` is the decimal one.
+Outcome normalize(QStringView text, QChar decimalPoint, Ascii& ascii);
+
+/// Whether a text that the C locale reads would be ambiguous where `decimalPoint` is the decimal
+/// sign.
+bool isAmbiguous(QStringView text, QChar decimalPoint);
+
+/// The number in a text that consists of ASCII digits of the base, with a sign and blanks around
+/// it: what any locale reads, and fast. Nothing does not mean that the text is no number.
+template <typename T>
+std::optional<T> readPlain(QStringView text, int base = 10);
+
+/// The number in C notation, or nothing.
+template <std::integral T>
+std::optional<T> fromAscii(const Ascii& ascii);
+std::optional<double> realFromAscii(const Ascii& ascii);
+
+/// Tells the user why the text is no number.
+QString refusalReason(QStringView text, QChar decimalPoint);
+
+} // namespace TypedNumber
