@@ -1,0 +1,298 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindowhelpers.h"
+
+#include "updatesblocker_p.h"
+
+#include <QApplication>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QPointer>
+#include <QSet>
+#include <QTabBar>
+#include <QToolBar>
+
+#include <array>
+#include <utility>
+#include <vector>
+
+namespace QMainWindowHelpers {
+
+namespace {
+
+template <class Child>
+QList<Child*> childrenOfWindow(const QMainWindow& mainWindow,
+                               const std::function<bool(const Child&)>& filter, int maxCount)
+{
+    QList<Child*> accepted;
+    for (QObject* child : mainWindow.children()) {
+        if (maxCount == 0)
+            break;
+        auto* candidate = qobject_cast<Child*>(child);
+        if (candidate == nullptr || !filter(*candidate))
+            continue;
+        accepted << candidate;
+        --maxCount;
+    }
+    return accepted;
+}
+
+/// The dock of the current tab. The toolkit notes each tab's dock in the tab's data; the title is
+/// what remains for tab bars that somebody else has filled.
+QDockWidget* currentDockOf(const QTabBar& tabBar, const QMainWindow& mainWindow)
+{
+    const int index = tabBar.currentIndex();
+    if (index < 0)
+        return nullptr;
+    const auto noted = tabBar.tabData(index).value<quintptr>();
+    const QList<QDockWidget*> docks = dockWidgets(
+        mainWindow,
+        [noted](const QDockWidget& dock) { return reinterpret_cast<quintptr>(&dock) == noted; }, 1);
+    return docks.isEmpty() ? findDockWidgetByWindowTitle(mainWindow, tabBar.tabText(index))
+                           : docks.first();
+}
+
+bool isWindowOrAny(const QMainWindow* window, const QMainWindow* wanted)
+{
+    return window != nullptr && (wanted == nullptr || window == wanted);
+}
+
+/// The docks that share a tab bar with a non-floating dock of the area.
+QSet<QDockWidget*> tabbedDocks(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
+{
+    QSet<QDockWidget*> tabbed;
+    const QList<QDockWidget*> docks = dockWidgets(mainWindow, area, false);
+    for (QDockWidget* dock : docks) {
+        if (tabbed.contains(dock))
+            continue; // its whole group is in already
+        const QList<QDockWidget*> partners = mainWindow.tabifiedDockWidgets(dock);
+        if (!partners.isEmpty())
+            tabbed.insert(dock);
+        for (QDockWidget* partner : partners)
+            tabbed.insert(partner);
+    }
+    return tabbed;
+}
+
+template <class Area>
+QList<Area> listAreas(QFlags<Area> areas, const std::array<Area, 4>& order)
+{
+    QList<Area> single;
+    for (const Area area : order) {
+        if (areas.testFlag(area))
+            single << area;
+    }
+    return single;
+}
+
+/// The sizes that bound a widget, put back at the end of the widget's squeezing.
+class SizeBounds
+{
+public:
+    explicit SizeBounds(QWidget& widget)
+        : m_widget(&widget)
+        , m_minimum(widget.minimumSize())
+        , m_maximum(widget.maximumSize())
+    {}
+    ~SizeBounds() { restore(); }
+    SizeBounds(SizeBounds&& other) noexcept
+        : m_widget(std::exchange(other.m_widget, nullptr))
+        , m_minimum(other.m_minimum)
+        , m_maximum(other.m_maximum)
+    {}
+    SizeBounds(const SizeBounds&) = delete;
+    SizeBounds& operator=(const SizeBounds&) = delete;
+    SizeBounds& operator=(SizeBounds&&) = delete;
+
+    void restore()
+    {
+        if (m_widget) {
+            m_widget->setMinimumSize(m_minimum);
+            m_widget->setMaximumSize(m_maximum);
+        }
+        m_widget = nullptr;
+    }
+
+private:
+    QPointer<QWidget> m_widget;
+    QSize m_minimum;
+    QSize m_maximum;
+};
+
+/// Bounds the dock so that the layout can only give it this size.
+void squeeze(QDockWidget& dock, const QSize& size)
+{
+    const QSize wanted = size.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    if (wanted.width() > 0) {
+        if (dock.width() >= wanted.width())
+            dock.setMaximumWidth(wanted.width());
+        else
+            dock.setMinimumWidth(wanted.width());
+    }
+    if (wanted.height() > 0) {
+        if (dock.height() >= wanted.height())
+            dock.setMaximumHeight(wanted.height());
+        else
+            dock.setMinimumHeight(wanted.height());
+    }
+}
+
+void settleLayout()
+{
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                    QEventLoop::ExcludeSocketNotifiers);
+}
+
+} // namespace
+
+QList<QDockWidget*> dockWidgets(const QMainWindow& mainWindow,
+                                const std::function<bool(const QDockWidget&)>& filter, int maxCount)
+{
+    return childrenOfWindow<QDockWidget>(mainWindow, filter, maxCount);
+}
+
+QList<QToolBar*> toolBars(const QMainWindow& mainWindow,
+                          const std::function<bool(const QToolBar&)>& filter, int maxCount)
+{
+    return childrenOfWindow<QToolBar>(mainWindow, filter, maxCount);
+}
+
+QList<QDockWidget*> dockWidgets(const QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas,
+                                bool includeFloating)
+{
+    const auto filter = [&](const QDockWidget& dock) {
+        // The toolkit takes the dock as mutable but only looks it up.
+        return (includeFloating || !dock.isFloating()) &&
+               areas.testAnyFlags(mainWindow.dockWidgetArea(const_cast<QDockWidget*>(&dock)));
+    };
+    return dockWidgets(mainWindow, filter, -1);
+}
+
+QList<QToolBar*> toolBars(const QMainWindow& mainWindow, QFlags<Qt::ToolBarArea> areas,
+                          bool includeFloating)
+{
+    const auto filter = [&](const QToolBar& toolBar) {
+        return (includeFloating || !toolBar.isFloating()) &&
+               areas.testAnyFlags(mainWindow.toolBarArea(&toolBar));
+    };
+    return toolBars(mainWindow, filter, -1);
+}
+
+QDockWidget* findDockWidgetByWindowTitle(const QMainWindow& mainWindow, const QString& title)
+{
+    const QList<QDockWidget*> docks = dockWidgets(
+        mainWindow, [&title](const QDockWidget& dock) { return dock.windowTitle() == title; }, 1);
+    return docks.isEmpty() ? nullptr : docks.first();
+}
+
+QDockWidget* findParentDockWidget(const QWidget& widget, const QMainWindow* mainWindow)
+{
+    if (const auto* tabBar = qobject_cast<const QTabBar*>(&widget)) {
+        const auto* window = qobject_cast<const QMainWindow*>(tabBar->parentWidget());
+        if (isWindowOrAny(window, mainWindow))
+            return currentDockOf(*tabBar, *window);
+    }
+    for (const QWidget* ancestor = &widget; ancestor != nullptr;
+         ancestor = ancestor->parentWidget()) {
+        const auto* dock = qobject_cast<const QDockWidget*>(ancestor);
+        if (dock != nullptr &&
+            isWindowOrAny(qobject_cast<const QMainWindow*>(dock->parentWidget()), mainWindow))
+            return const_cast<QDockWidget*>(dock);
+    }
+    return nullptr;
+}
+
+QList<QTabBar*> tabBarsInDockWidgetArea(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
+{
+    QSet<QString> titles;
+    const QSet<QDockWidget*> docks = tabbedDocks(mainWindow, area);
+    for (const QDockWidget* dock : docks)
+        titles.insert(dock->windowTitle());
+    if (titles.isEmpty())
+        return {};
+    const auto hasTitle = [&titles](const QTabBar& tabBar) {
+        for (int i = 0; i < tabBar.count(); ++i) {
+            if (titles.contains(tabBar.tabText(i)))
+                return true;
+        }
+        return false;
+    };
+    return childrenOfWindow<QTabBar>(mainWindow, hasTitle, -1);
+}
+
+QRect dockWidgetAreaGeometry(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
+{
+    QRect united;
+    const QList<QDockWidget*> docks = dockWidgets(mainWindow, area, false);
+    for (const QDockWidget* dock : docks) {
+        const QRect frame = dock->frameGeometry();
+        if (dock->isVisible() && frame.left() >= 0 && frame.top() >= 0)
+            united |= frame;
+    }
+    const QList<QTabBar*> tabBars = tabBarsInDockWidgetArea(mainWindow, area);
+    for (const QTabBar* tabBar : tabBars)
+        united |= tabBar->frameGeometry();
+    return united;
+}
+
+QList<QMainWindow*> topLevelMainWindows()
+{
+    QList<QMainWindow*> windows;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget* widget : widgets) {
+        if (auto* window = qobject_cast<QMainWindow*>(widget))
+            windows << window;
+    }
+    return windows;
+}
+
+void setDockWidgetSize(QMainWindow& mainWindow, QDockWidget& dock, const QSize& size)
+{
+    setDockWidgetSizes(mainWindow, {{&dock, size}});
+}
+
+void setDockWidgetSize(QMainWindow& mainWindow, QDockWidget& dock, int width, int height)
+{
+    setDockWidgetSize(mainWindow, dock, QSize(width, height));
+}
+
+void setDockWidgetSizes(QMainWindow& mainWindow, const QList<QPair<QDockWidget*, QSize>>& sizes)
+{
+    const QPointer<QMainWindow> window(&mainWindow);
+    const UpdatesBlocker blocker(mainWindow);
+    const QRect geometry = mainWindow.geometry();
+    {
+        SizeBounds windowBounds(mainWindow);
+        {
+            std::vector<SizeBounds> dockBounds;
+            dockBounds.reserve(static_cast<size_t>(sizes.size()));
+            for (const auto& [dock, size] : sizes) {
+                if (dock != nullptr)
+                    dockBounds.emplace_back(*dock);
+            }
+            mainWindow.setFixedSize(mainWindow.size());
+            for (const auto& [dock, size] : sizes) {
+                if (dock != nullptr)
+                    squeeze(*dock, size);
+            }
+            settleLayout();
+        }
+        settleLayout();
+        if (window)
+            window->setGeometry(geometry);
+    }
+    settleLayout();
+}
+
+QList<Qt::DockWidgetArea> listDockWidgetAreas(QFlags<Qt::DockWidgetArea> areas)
+{
+    return listAreas<Qt::DockWidgetArea>(areas, {Qt::LeftDockWidgetArea, Qt::RightDockWidgetArea,
+                                                 Qt::TopDockWidgetArea, Qt::BottomDockWidgetArea});
+}
+
+QList<Qt::ToolBarArea> listToolBarAreas(QFlags<Qt::ToolBarArea> areas)
+{
+    return listAreas<Qt::ToolBarArea>(areas, {Qt::LeftToolBarArea, Qt::RightToolBarArea,
+                                              Qt::TopToolBarArea, Qt::BottomToolBarArea});
+}
+
+} // namespace QMainWindowHelpers

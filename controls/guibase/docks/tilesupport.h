@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/guibase_export.h>
+
+#include <QMap>
+#include <QObject>
+
+#include <memory>
+
+class QAction;
+class QMainWindow;
+
+namespace QMainWindowHelpers {
+
+template <class Support>
+class DockAreaSupportPrivate;
+
+/// Lays all visible docks of one dock area out as a grid, in title order row by row, and offers an
+/// action per area for it. Possible with two docks or more whose minimum sizes fit the area in a
+/// grid of at most 10 rows and 10 columns; the grid with the fewest rows is taken.
+class GUIBASE_EXPORT TileSupport : public QObject
+{
+    Q_OBJECT
+public:
+    /// The support of this main window; made for `areas` when there is none yet. It belongs to the
+    /// main window. An existing support is returned as it is, whatever its areas.
+    static TileSupport* install(QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas);
+    /// The support of this main window, or null.
+    static TileSupport* get(const QMainWindow& mainWindow);
+    ~TileSupport() override;
+
+    /// The operation on any main window. False, with nothing changed, when it is not possible, and
+    /// while the docks of this window are being rearranged already.
+    static bool isTileDockWidgetsPossible(const QMainWindow& mainWindow, Qt::DockWidgetArea area);
+    static bool tileDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetArea area);
+
+    bool isTileDockWidgetsPossible(Qt::DockWidgetArea area) const;
+    /// The action for one of the supported areas, shown while the operation is possible there. For
+    /// any other area it is an action that is never shown and does nothing.
+    QAction& tileDockWidgetsAction(Qt::DockWidgetArea area) const;
+    /// Null while the main window is being destroyed.
+    QMainWindow* mainWindow() const;
+    /// The supported areas.
+    QFlags<Qt::DockWidgetArea> dockWidgetAreas();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// The current answers; sent whenever the docks may have changed, also with the same answer.
+    void isTileDockWidgetsPossibleChanged(Qt::DockWidgetArea area, bool possible);
+    void isTileDockWidgetsPossibleInLeftDockWidgetAreaChanged(bool possible);
+    void isTileDockWidgetsPossibleInRightDockWidgetAreaChanged(bool possible);
+    void isTileDockWidgetsPossibleInTopDockWidgetAreaChanged(bool possible);
+    void isTileDockWidgetsPossibleInBottomDockWidgetAreaChanged(bool possible);
+    /// The operation was done by this support.
+    void dockWidgetsTiled(Qt::DockWidgetArea area);
+    void dockWidgetsTiled();
+
+public Q_SLOTS:
+    /// Rearranges the docks of a supported area; the active dock stays active and in front. False,
+    /// with nothing changed, for other areas and when it is not possible.
+    bool tileDockWidgets(Qt::DockWidgetArea area);
+    bool tileDockWidgetsInLeftDockWidgetArea();
+    bool tileDockWidgetsInRightDockWidgetArea();
+    bool tileDockWidgetsInTopDockWidgetArea();
+    bool tileDockWidgetsInBottomDockWidgetArea();
+    void onMainWindowDestroyed();
+
+protected:
+    void emitIsTileDockWidgetsPossibleSignals(QFlags<Qt::DockWidgetArea> areas);
+
+private:
+    friend class DockAreaSupportPrivate<TileSupport>;
+    TileSupport(QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas);
+    QMap<Qt::DockWidgetArea, QAction*>
+    createDockWidgetAreaActionMap(QFlags<Qt::DockWidgetArea> areas, QObject* parent);
+
+    std::unique_ptr<DockAreaSupportPrivate<TileSupport>> d;
+};
+
+} // namespace QMainWindowHelpers

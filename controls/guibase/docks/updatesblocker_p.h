@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+/// Switches the updates of a widget off, and at the end of its life to what they were before. The
+/// widget may die meanwhile.
+class UpdatesBlocker
+{
+public:
+    explicit UpdatesBlocker(QWidget& widget)
+        : m_widget(&widget)
+        , m_wasEnabled(widget.updatesEnabled())
+    {
+        widget.setUpdatesEnabled(false);
+    }
+    ~UpdatesBlocker()
+    {
+        if (m_widget)
+            m_widget->setUpdatesEnabled(m_wasEnabled);
+    }
+    Q_DISABLE_COPY_MOVE(UpdatesBlocker)
+
+private:
+    QPointer<QWidget> m_widget;
+    bool m_wasEnabled;
+};
