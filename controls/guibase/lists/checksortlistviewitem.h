@@ -23,11 +23,10 @@ public:
                           const QString& text5 = {}, const QString& text6 = {},
                           const QString& text7 = {}, const QString& text8 = {},
                           bool insertOnTop = false);
-    CheckSortListViewItem(QTreeWidgetItem* parent, const QString& text1,
-                          const QString& text2 = {}, const QString& text3 = {},
-                          const QString& text4 = {}, const QString& text5 = {},
-                          const QString& text6 = {}, const QString& text7 = {},
-                          const QString& text8 = {});
+    CheckSortListViewItem(QTreeWidgetItem* parent, const QString& text1, const QString& text2 = {},
+                          const QString& text3 = {}, const QString& text4 = {},
+                          const QString& text5 = {}, const QString& text6 = {},
+                          const QString& text7 = {}, const QString& text8 = {});
     CheckSortListViewItem(QTreeWidget* tree, QTreeWidgetItem* after, const QString& text1 = {},
                           const QString& text2 = {}, const QString& text3 = {},
                           const QString& text4 = {}, const QString& text5 = {},

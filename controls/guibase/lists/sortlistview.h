@@ -24,8 +24,8 @@ class SortListViewItem;
 ///
 /// A view that may sort (AllowSort()) sorts when it is shown, when a header section is clicked and
 /// when it is told to; a hidden view never reorders its rows. Selection, current item, expanded and
-/// hidden rows and the scroll position stay, and rows that compare as equal keep their order, in both
-/// directions. Rows that are not SortListViewItems sort as in any QTreeWidget.
+/// hidden rows and the scroll position stay, and rows that compare as equal keep their order, in
+/// both directions. Rows that are not SortListViewItems sort as in any QTreeWidget.
 ///
 /// Decisions: rows that are appended to a shown list which the view has sorted go to their places
 /// together, in the next pass of the event loop, or a little later when sorting takes long. A row
@@ -57,8 +57,8 @@ public:
     int columns() const;
     QString columnText(int column) const;
     void setColumnText(int column, const QString& text);
-    /// Qt::Alignment flags for items made from now on; columns before it that have none yet get the
-    /// same.
+    /// Qt::Alignment flags for items made from now on, column 0 to 4095; columns before it that
+    /// have none yet get the same.
     void setColumnAlignment(unsigned column, int alignment);
     /// Qt::AlignLeft where none was set.
     int columnAlignment(int column) const;
@@ -152,7 +152,8 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void rowsInserted(const QModelIndex& parent, int first, int last) override;
-    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
 
 private:
     friend class ListSorter;

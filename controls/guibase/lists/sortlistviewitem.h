@@ -14,12 +14,12 @@ class SortListView;
 
 /// A row of a SortListView: texts, and optionally keys that it is sorted by in their place.
 ///
-/// Works in a plain QTreeWidget as well. Rows belong to their tree as all QTreeWidgetItems do; a null
-/// tree or parent makes a row that belongs to the caller.
+/// Works in a plain QTreeWidget as well. Rows belong to their tree as all QTreeWidgetItems do; a
+/// null tree or parent makes a row that belongs to the caller.
 ///
 /// The constructors put the texts into the columns from 0 on, up to the first null QString behind
-/// column 0; an empty text that is not null is a text. A row behind `after` goes first when `after` is
-/// null or stands elsewhere.
+/// column 0; an empty text that is not null is a text. A row behind `after` goes first when `after`
+/// is null or stands elsewhere.
 class GUIBASE_EXPORT SortListViewItem : public QTreeWidgetItem
 {
 public:
@@ -83,7 +83,8 @@ public:
     /// the pointer is good, and its content the same, until the next call for this row.
     const QPixmap* pixmap(int column) const;
 
-    // --- The older navigation interface ------------------------------------------------------------
+    // --- The older navigation interface
+    // ------------------------------------------------------------
 
     /// Takes the row out of its tree and puts it, as a top-level row, at the index that `after` had
     /// before that. Nothing happens when `after` is no other top-level row of the same tree.

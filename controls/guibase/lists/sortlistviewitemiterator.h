@@ -5,7 +5,8 @@
 
 #include <QTreeWidgetItemIterator>
 
-/// Walks over the rows of a tree and yields them as SortListViewItems. Tree and item must not be null.
+/// Walks over the rows of a tree and yields them as SortListViewItems. Tree and item must not be
+/// null.
 class SortListViewItemIterator : public QTreeWidgetItemIterator
 {
 public:

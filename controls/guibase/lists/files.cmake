@@ -1,0 +1,24 @@
+# SPDX-License-Identifier: MIT
+set(lists_headers
+    checksortlistviewitem.h
+    isortcallback.h
+    iupdatemenu.h
+    qheaderviewcolumnhandler.h
+    resortpopupmenu.h
+    sortlistview.h
+    sortlistviewitem.h
+    sortlistviewitemiterator.h
+    sortrowtable.h)
+set(lists_sources
+    checksortlistviewitem.cpp
+    headerstate.cpp
+    headerstate_p.h
+    listsorter.cpp
+    listsorter_p.h
+    qheaderviewcolumnhandler.cpp
+    resortpopupmenu.cpp
+    sortkeys.cpp
+    sortkeys_p.h
+    sortlistview.cpp
+    sortlistviewitem.cpp
+    sortrowtable.cpp)

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "qheaderviewcolumnhandler.h"
+
+#include "headerstate_p.h"
+
+#include <jtbase/errorhandler.h>
+#include <trovappstartup/cfgcenter.h>
+
+#include <QAbstractItemModel>
+#include <QHeaderView>
+#include <QMenu>
+
+namespace {
+
+constexpr qsizetype maximumTextLength = 1 << 20;
+
+/// The bytes of a stored text; empty for a text that is no base64.
+QByteArray fromStoredText(const QString& text)
+{
+    if (text.size() > maximumTextLength)
+        return {};
+    const auto decoded =
+        QByteArray::fromBase64Encoding(text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+    return decoded ? *decoded : QByteArray();
+}
+
+} // namespace
+
+namespace guiHelper {
+
+QHeaderViewColumnHandler::QHeaderViewColumnHandler(const QString& name, QHeaderView* header)
+    : QObject(header)
+    , m_header(header)
+{
+    setObjectName(name);
+    if (header == nullptr)
+        return;
+    header->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header, &QWidget::customContextMenuRequested, this,
+            &QHeaderViewColumnHandler::sl_contextMenu);
+}
+
+QHeaderViewColumnHandler::~QHeaderViewColumnHandler() = default;
+
+QString QHeaderViewColumnHandler::key(const char* suffix) const
+{
+    return QStringLiteral("QHeaderViewColumnSettings_") + objectName() + QLatin1String(suffix);
+}
+
+void QHeaderViewColumnHandler::saveColumnStatus()
+{
+    if (!m_header)
+        return;
+    ICfg* const cfg = CfgCenter::GetAppCfg(SettingsView);
+    cfg->SetString(key("_GEOM"), QString::fromLatin1(m_header->saveGeometry().toBase64()));
+    cfg->SetString(key("_STATE"), QString::fromLatin1(m_header->saveState().toBase64()));
+    cfg->Store();
+}
+
+void QHeaderViewColumnHandler::restoreColumnStatus()
+{
+    if (!m_header)
+        return;
+    const ICfg* const cfg = CfgCenter::GetAppCfg(SettingsView);
+    const QByteArray geometry = fromStoredText(cfg->GetString(key("_GEOM")));
+    if (!geometry.isEmpty())
+        m_header->restoreGeometry(geometry);
+    const QString stateText = cfg->GetString(key("_STATE"));
+    if (stateText.isEmpty())
+        return;
+    const QByteArray state = fromStoredText(stateText);
+    if (HeaderState::isValid(state))
+        m_header->restoreState(state);
+    else
+        ErrorHandler::Trace(
+            ErrorHandler::TraceGuiBase, "controls/guibase/qheaderviewcolumnhandler", __LINE__,
+            QStringLiteral("The stored state of header \"%1\" is damaged; the header "
+                           "stays as it is.")
+                .arg(objectName()));
+}
+
+void QHeaderViewColumnHandler::sl_contextMenu(QPoint position)
+{
+    if (!m_header || m_header->model() == nullptr)
+        return;
+    QMenu menu;
+    const int visible = m_header->count() - m_header->hiddenSectionCount();
+    for (int section = 0; section < m_header->count(); ++section) {
+        const QVariant title = m_header->model()->headerData(section, m_header->orientation());
+        QAction* const action = menu.addAction(title.toString());
+        action->setCheckable(true);
+        action->setChecked(!m_header->isSectionHidden(section));
+        action->setEnabled(visible != 1 || m_header->isSectionHidden(section));
+    }
+    QAction* showAll = nullptr;
+    if (m_header->hiddenSectionCount() > 0) {
+        menu.addSeparator();
+        showAll = menu.addAction(tr("Show All"));
+    }
+    const QPointer<QHeaderViewColumnHandler> self(this);
+    QAction* const chosen = menu.exec(m_header->mapToGlobal(position));
+    if (chosen == nullptr || !self || !m_header)
+        return;
+    if (chosen == showAll) {
+        for (int section = 0; section < m_header->count(); ++section)
+            m_header->showSection(section);
+        return;
+    }
+    const int section = static_cast<int>(menu.actions().indexOf(chosen));
+    m_header->setSectionHidden(section, !m_header->isSectionHidden(section));
+}
+
+} // namespace guiHelper

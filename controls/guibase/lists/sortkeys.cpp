@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+#include "sortkeys_p.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+struct NumberAt
+{
+    double number;
+    quint32 row;
+};
+
+/// A text with its first characters as one number.
+struct TextAt
+{
+    quint64 prefix;
+    quint32 row;
+};
+
+constexpr qsizetype prefixLength = 4;
+
+qsizetype commonPrefixLength(const std::vector<QString>& texts)
+{
+    const QString& first = texts.front();
+    qsizetype length = first.size();
+    for (const QString& text : texts) {
+        const auto end = first.begin() + std::min(length, text.size());
+        length = std::mismatch(first.begin(), end, text.begin()).first - first.begin();
+    }
+    return length;
+}
+
+/// Characters `from` and following; the prefixes of two texts are ordered as the texts are, unless
+/// they are equal. Nothing where this cannot be said: characters of two code units have no case of
+/// their own in each unit.
+std::optional<quint64> prefixOf(const QString& text, qsizetype from, bool ignoreCase)
+{
+    quint64 prefix = 0;
+    for (qsizetype i = from; i < from + prefixLength; ++i) {
+        const QChar unit = i < text.size() ? text.at(i) : QChar(0);
+        if (ignoreCase && unit.isSurrogate())
+            return std::nullopt;
+        prefix = prefix << 16 | (ignoreCase ? unit.toCaseFolded() : unit).unicode();
+    }
+    return prefix;
+}
+
+std::vector<TextAt> withPrefixes(const std::vector<QString>& texts, bool ignoreCase)
+{
+    std::vector<TextAt> rows(texts.size());
+    const qsizetype from = commonPrefixLength(texts);
+    bool usable = true;
+    for (quint32 row = 0; row < rows.size(); ++row) {
+        const std::optional<quint64> prefix = prefixOf(texts[row], from, ignoreCase);
+        usable = usable && prefix;
+        rows[row] = {prefix.value_or(0), row};
+    }
+    if (!usable) {
+        for (TextAt& row : rows)
+            row.prefix = 0;
+    }
+    return rows;
+}
+
+/// The places of the rows among the sorted ones; rows that are equal have the same one.
+template <typename Row, typename Less>
+std::vector<quint32> sortedRanks(std::vector<Row> rows, Less less)
+{
+    std::sort(rows.begin(), rows.end(), less);
+    std::vector<quint32> ranks(rows.size());
+    quint32 rank = 0;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (i > 0 && less(rows[i - 1], rows[i]))
+            ++rank;
+        ranks[rows[i].row] = rank;
+    }
+    return ranks;
+}
+
+} // namespace
+
+SortKeys::SortKeys(SortListView::CompareFunction function)
+    : m_function(function)
+    , m_rule(ruleOf(function))
+{}
+
+SortKeys::Rule SortKeys::ruleOf(SortListView::CompareFunction function)
+{
+    if (function == nullptr)
+        return Rule::Text;
+    if (function == &SortListView::_compStandardString)
+        return Rule::TextIgnoringCase;
+    if (function == &SortListView::_compStandardNumeric)
+        return Rule::Number;
+    if (function == &SortListView::_compNumericWithSuffix)
+        return Rule::NumberWithSuffix;
+    return Rule::Function;
+}
+
+bool SortKeys::isNumeric() const
+{
+    return m_rule == Rule::Number || m_rule == Rule::NumberWithSuffix;
+}
+
+void SortKeys::append(Values& values, const QString& text) const
+{
+    if (!isNumeric()) {
+        values.texts.push_back(text);
+        return;
+    }
+    QStringView part(text);
+    if (m_rule == Rule::NumberWithSuffix) {
+        const qsizetype blank = part.indexOf(u' ');
+        if (blank >= 0)
+            part = part.first(blank);
+    }
+    bool isNumber = false;
+    const double number = part.toDouble(&isNumber);
+    values.numbers.push_back(isNumber ? number : std::numeric_limits<double>::quiet_NaN());
+}
+
+void SortKeys::add(const QString& text, const QString& sortKey)
+{
+    append(m_texts, text);
+    ++m_count;
+    if (sortKey.isEmpty() && m_keyCount == 0)
+        return;
+    while (m_hasKey.size() + 1 < m_count) {
+        append(m_keys, QString());
+        m_hasKey.push_back(0);
+    }
+    append(m_keys, sortKey);
+    m_hasKey.push_back(sortKey.isEmpty() ? 0 : 1);
+    if (!sortKey.isEmpty())
+        ++m_keyCount;
+}
+
+bool SortKeys::isLess(quint32 a, quint32 b) const
+{
+    const bool haveKeys = m_keyCount > 0 && m_hasKey[a] != 0 && m_hasKey[b] != 0;
+    return isLess(haveKeys ? m_keys : m_texts, a, b);
+}
+
+bool SortKeys::isLess(const Values& values, quint32 a, quint32 b) const
+{
+    switch (m_rule) {
+    case Rule::Text:
+        return values.texts[a].compare(values.texts[b]) < 0;
+    case Rule::TextIgnoringCase:
+        return values.texts[a].compare(values.texts[b], Qt::CaseInsensitive) < 0;
+    case Rule::Number:
+    case Rule::NumberWithSuffix:
+        return values.numbers[a] < values.numbers[b];
+    case Rule::Function:
+        break;
+    }
+    return m_function(values.texts[b], values.texts[a]) < 0;
+}
+
+std::optional<std::vector<quint32>> SortKeys::ranks() const
+{
+    const bool allHaveKeys = m_keyCount == m_count;
+    if (m_rule == Rule::Function || m_count == 0 || (m_keyCount > 0 && !allHaveKeys))
+        return std::nullopt;
+    const Values& values = allHaveKeys ? m_keys : m_texts;
+    if (!isNumeric()) {
+        return sortedRanks(withPrefixes(values.texts, m_rule == Rule::TextIgnoringCase),
+                           [&](const TextAt& a, const TextAt& b) {
+                               return a.prefix != b.prefix ? a.prefix < b.prefix
+                                                           : isLess(values, a.row, b.row);
+                           });
+    }
+    std::vector<NumberAt> rows(m_count);
+    for (quint32 row = 0; row < m_count; ++row) {
+        if (std::isnan(values.numbers[row]))
+            return std::nullopt;
+        rows[row] = {values.numbers[row], row};
+    }
+    return sortedRanks(std::move(rows),
+                       [](const NumberAt& a, const NumberAt& b) { return a.number < b.number; });
+}

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/guibase_export.h>
+
+#include <QList>
+#include <QPair>
+#include <QString>
+#include <QTableWidget>
+
+/// A sortable table with two columns of texts, frequency and level, that the user fills row by row.
+///
+/// Texts that are numbers (with a point or a comma, a unit behind a blank may follow) sort as
+/// numbers, before all other texts.
+///
+/// Decisions: the keys Insert and Delete add and delete rows, unless a cell is being edited. Copy
+/// puts the selected cells on the clipboard, columns parted by tabs. Paste adds a row for every
+/// line of the clipboard's text and never overwrites one; a single value goes into the current
+/// cell. The delete question offers Yes, No, Yes to All and No to All; rows are asked for from the
+/// top down.
+class GUIBASE_EXPORT SortRowTable : public QTableWidget
+{
+    Q_OBJECT
+public:
+    /// At most this many lines of the clipboard are taken at once.
+    static constexpr int maximumPastedRows = 100'000;
+
+    explicit SortRowTable(QWidget* parent = nullptr, const char* name = nullptr);
+    SortRowTable(int rows, int columns, QWidget* parent = nullptr, const char* name = nullptr);
+    ~SortRowTable() override;
+
+    /// The lines of a text with up to two values each, parted by a tab, a semicolon or, where there
+    /// is neither, blanks. Lines without a value are left out.
+    static QList<QPair<QString, QString>> parseRows(const QString& text);
+
+    /// Appends rows in one step, sorted once.
+    void addRows(const QList<QPair<QString, QString>>& rows);
+    /// The selected cells as text, in the order in which they are shown.
+    QString selectionAsText() const;
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+public Q_SLOTS:
+    void slotNew();
+    void slotDelete();
+    void slotClearAll();
+    void slotCopy();
+    void slotPaste();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void init(const char* name);
+    QTableWidgetItem* appendRow(const QString& frequency, const QString& level);
+    QList<int> rowsToDelete() const;
+};
