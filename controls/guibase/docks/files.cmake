@@ -1,7 +1,28 @@
 # SPDX-License-Identifier: MIT
 set(docks_headers
-    mainwindowhelpers.h)
+    activedockwidgetsupport.h
+    mainwindowhelpers.h
+    maximizeminimizesupport.h
+    tabifysupport.h
+    tilesupport.h)
 set(docks_sources
+    activedockkeeper_p.h
+    activedockwidgetsupport.cpp
+    applicationdockevents.cpp
+    applicationdockevents_p.h
     attachedhelper_p.h
+    dockareasupport_p.h
+    dockarrangement.cpp
+    dockarrangement_p.h
+    dockchildren.cpp
+    dockchildren_p.h
+    dockicons.cpp
+    dockicons_p.h
     mainwindowhelpers.cpp
+    maximizeminimizesupport.cpp
+    survivalcheck_p.h
+    tabifysupport.cpp
+    tilegrid.cpp
+    tilegrid_p.h
+    tilesupport.cpp
     updatesblocker_p.h)

@@ -15,6 +15,7 @@ struct TileGrid
     QList<int> columnWidths;
     QList<int> rowHeights;
 
+    static qint64 sum(const QList<int>& sizes);
     int columns() const { return static_cast<int>(columnWidths.size()); }
     int rows() const { return static_cast<int>(rowHeights.size()); }
     bool operator==(const TileGrid&) const = default;

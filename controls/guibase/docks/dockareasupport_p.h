@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "activedockkeeper_p.h"
+#include "attachedhelper_p.h"
+#include "dockarrangement_p.h"
+#include "dockchildren_p.h"
+#include "dockicons_p.h"
+#include "mainwindowhelpers.h"
+#include "survivalcheck_p.h"
+
+#include <jtbase/qtimerhelpers.h>
+
+#include <QAction>
+#include <QDockWidget>
+#include <QEvent>
+#include <QMainWindow>
+#include <QMap>
+#include <QPointer>
+#include <QTimer>
+
+#include <array>
+
+namespace QMainWindowHelpers {
+
+/// What distinguishes one support that rearranges the docks of an area from another.
+template <class Support>
+struct DockAreaOperation
+{
+    struct Area
+    {
+        Qt::DockWidgetArea area;
+        DockIcon icon;
+        const char* actionText;
+        bool (Support::*perform)();
+        void (Support::*possibleChanged)(bool);
+    };
+
+    const char* property;
+    const char* actionName;
+    bool (*isPossible)(const QMainWindow&, Qt::DockWidgetArea);
+    bool (*perform)(QMainWindow&, Qt::DockWidgetArea);
+    void (Support::*possibleChanged)(Qt::DockWidgetArea, bool);
+    void (Support::*performedInArea)(Qt::DockWidgetArea);
+    void (Support::*performed)();
+    /// In the order left, right, top, bottom.
+    std::array<Area, 4> areas;
+};
+
+/// The body of the supports that rearrange the docks of an area.
+template <class Support>
+class DockAreaSupportPrivate
+{
+public:
+    using Operation = DockAreaOperation<Support>;
+
+    static Support* install(QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas,
+                            const char* property)
+    {
+        if (Support* existing = AttachedHelpers::get<Support>(mainWindow, property))
+            return existing;
+        return new Support(mainWindow, areas);
+    }
+
+    DockAreaSupportPrivate(Support& support, QMainWindow& mainWindow,
+                           QFlags<Qt::DockWidgetArea> areas, const Operation& operation)
+        : q(support)
+        , m_operation(operation)
+        , m_areas(areas)
+        , m_attachment(mainWindow, operation.property, support)
+        , m_children(
+              mainWindow, [this](QDockWidget& dock) { watch(dock); },
+              [this](const QObject*, QDockWidget* dock) {
+                  if (dock != nullptr)
+                      dock->removeEventFilter(&q);
+              },
+              nullptr)
+    {}
+
+    /// The second half of the construction, when the support is complete.
+    void start(QMainWindow& mainWindow, const QMap<Qt::DockWidgetArea, QAction*>& actions)
+    {
+        m_actions = actions;
+        QObject::connect(&mainWindow, &QObject::destroyed, &q, &Support::onMainWindowDestroyed);
+        mainWindow.installEventFilter(&q);
+        const auto any = [](const QDockWidget&) { return true; };
+        const QList<QDockWidget*> docks = dockWidgets(mainWindow, any, -1);
+        for (QDockWidget* dock : docks)
+            dock->installEventFilter(&q);
+        announce(m_areas);
+    }
+
+    QFlags<Qt::DockWidgetArea> areas() const { return m_areas; }
+
+    QMap<Qt::DockWidgetArea, QAction*> createActions(QFlags<Qt::DockWidgetArea> areas,
+                                                     QObject* parent)
+    {
+        QMap<Qt::DockWidgetArea, QAction*> actions;
+        for (const auto& row : m_operation.areas) {
+            if (!areas.testFlag(row.area))
+                continue;
+            auto* action = new QAction(makeDockIcon(row.icon), Support::tr(row.actionText), parent);
+            action->setObjectName(QString::fromLatin1(m_operation.actionName).arg(int(row.area)));
+            QObject::connect(action, &QAction::triggered, &q, row.perform);
+            QObject::connect(&q, row.possibleChanged, action, &QAction::setVisible);
+            actions.insert(row.area, action);
+        }
+        return actions;
+    }
+
+    QAction& action(Qt::DockWidgetArea area)
+    {
+        if (QAction* action = m_actions.value(area))
+            return *action;
+        if (m_noAction == nullptr) {
+            m_noAction = new QAction(&q);
+            m_noAction->setVisible(false);
+        }
+        return *m_noAction;
+    }
+
+    bool perform(Qt::DockWidgetArea area)
+    {
+        QMainWindow* mainWindow = q.mainWindow();
+        if (mainWindow == nullptr || !m_areas.testFlag(area))
+            return false;
+        const QPointer<Support> alive(&q);
+        {
+            ActiveDockKeeper keeper(*mainWindow);
+            if (!m_operation.perform(*mainWindow, area))
+                return false;
+            keeper.bringToFront();
+        }
+        if (alive)
+            Q_EMIT(q.*m_operation.performedInArea)(area);
+        if (alive)
+            Q_EMIT(q.*m_operation.performed)();
+        return true;
+    }
+
+    void announce(QFlags<Qt::DockWidgetArea> areas)
+    {
+        const QPointer<Support> alive(&q);
+        for (const auto& row : m_operation.areas) {
+            if (!areas.testFlag(row.area) || q.mainWindow() == nullptr)
+                continue;
+            const int announcement = ++m_announcements;
+            bool possible = m_operation.isPossible(*q.mainWindow(), row.area);
+            Q_EMIT(q.*m_operation.possibleChanged)(row.area, possible);
+            if (!alive || q.mainWindow() == nullptr)
+                return;
+            // A receiver may have changed the layout, which has been announced already.
+            if (announcement != m_announcements)
+                possible = m_operation.isPossible(*q.mainWindow(), row.area);
+            Q_EMIT(q.*row.possibleChanged)(possible);
+            if (!alive)
+                return;
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event)
+    {
+        switch (event->type()) {
+        case QEvent::Resize:
+        case QEvent::Show:
+        case QEvent::Hide:
+        case QEvent::ChildAdded:
+        case QEvent::ChildPolished:
+        case QEvent::ChildRemoved:
+            break;
+        default:
+            return false;
+        }
+        const SurvivalCheck receiver(watched);
+        handle(watched, *event);
+        return receiver.hasDied();
+    }
+
+private:
+    void handle(QObject* watched, const QEvent& event)
+    {
+        const QPointer<Support> alive(&q);
+        if (watched == q.parent())
+            m_children.handle(event);
+        if (!alive || event.type() == QEvent::ChildPolished)
+            return;
+        if (event.type() == QEvent::Hide)
+            announceLater();
+        else
+            announceNow();
+    }
+
+    void watch(QDockWidget& dock)
+    {
+        dock.installEventFilter(&q);
+        announceNow();
+    }
+
+    void announceNow()
+    {
+        const QMainWindow* mainWindow = q.mainWindow();
+        if (mainWindow != nullptr && DockArrangement::Rearrangement::isUnderWay(*mainWindow))
+            announceLater();
+        else
+            announce(m_areas);
+    }
+
+    void announceLater()
+    {
+        if (!m_announcement)
+            m_announcement = QTimerHelpers::singleShot(0, &q, [this] {
+                m_announcement = nullptr;
+                announceNow();
+            });
+    }
+
+    Support& q;
+    const Operation& m_operation;
+    QFlags<Qt::DockWidgetArea> m_areas;
+    AttachedHelpers::Attachment m_attachment;
+    DockChildren m_children;
+    QMap<Qt::DockWidgetArea, QAction*> m_actions;
+    QAction* m_noAction = nullptr;
+    QPointer<QTimer> m_announcement;
+    int m_announcements = 0;
+};
+
+} // namespace QMainWindowHelpers

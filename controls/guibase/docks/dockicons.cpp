@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "dockicons_p.h"
+
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+/// A square of 16 x 16 units on which pictures are drawn with edges on whole pixels, so that they
+/// are crisp in every size.
+class IconCanvas
+{
+public:
+    static constexpr int units = 16;
+
+    IconCanvas(QPainter& painter, const QSize& size, const QColor& color)
+        : m_painter(painter)
+        , m_unit(std::min(size.width(), size.height()) / qreal(units))
+        , m_origin((size.width() - m_unit * units) / 2, (size.height() - m_unit * units) / 2)
+        , m_color(color)
+    {}
+
+    void fill(qreal x, qreal y, qreal width, qreal height)
+    {
+        m_painter.fillRect(pixels(x, y, width, height), m_color);
+    }
+
+    /// The outline of the rectangle, one unit wide, within it.
+    void frame(qreal x, qreal y, qreal width, qreal height)
+    {
+        const QRect outer = pixels(x, y, width, height);
+        const int line = std::max(1, qRound(m_unit));
+        const QRect inner = outer.adjusted(line, line, -line, -line);
+        m_painter.save();
+        m_painter.setClipRegion(QRegion(outer) - inner);
+        m_painter.fillRect(outer, m_color);
+        m_painter.restore();
+    }
+
+private:
+    QRect pixels(qreal x, qreal y, qreal width, qreal height) const
+    {
+        const auto snap = [this](qreal origin, qreal at) { return qRound(origin + at * m_unit); };
+        const QPoint topLeft(snap(m_origin.x(), x), snap(m_origin.y(), y));
+        const QPoint end(snap(m_origin.x(), x + width), snap(m_origin.y(), y + height));
+        return QRect(topLeft,
+                     QSize(std::max(1, end.x() - topLeft.x()), std::max(1, end.y() - topLeft.y())));
+    }
+
+    QPainter& m_painter;
+    qreal m_unit;
+    QPointF m_origin;
+    QColor m_color;
+};
+
+/// Where the docks of an area lie in the picture of a window.
+constexpr QRect leftSide(3, 3, 6, 10);
+constexpr QRect rightSide(7, 3, 6, 10);
+constexpr QRect topSide(3, 3, 10, 6);
+constexpr QRect bottomSide(3, 7, 10, 6);
+
+/// A window with a stack of tabs on one side.
+void drawTabs(IconCanvas& canvas, const QRect& side)
+{
+    canvas.frame(1, 1, 14, 14);
+    const int tab = side.width() / 2 - 1;
+    canvas.fill(side.x(), side.y(), tab, 2);
+    canvas.fill(side.x() + tab + 1, side.y(), tab, 1);
+    canvas.fill(side.x(), side.y() + 2, side.width(), side.height() - 2);
+}
+
+/// A window with four tiles on one side.
+void drawTiles(IconCanvas& canvas, const QRect& side)
+{
+    canvas.frame(1, 1, 14, 14);
+    const qreal width = (side.width() - 1) / 2.0;
+    const qreal height = (side.height() - 1) / 2.0;
+    for (int tile = 0; tile < 4; ++tile)
+        canvas.fill(side.x() + tile % 2 * (width + 1), side.y() + tile / 2 * (height + 1), width,
+                    height);
+}
+
+struct Picture
+{
+    DockIcon kind;
+    void (*draw)(IconCanvas& canvas);
+};
+
+/// One row for each kind, in the order of the enumerators.
+constexpr std::array pictures{
+    Picture{DockIcon::TabifyLeft, [](IconCanvas& canvas) { drawTabs(canvas, leftSide); }},
+    Picture{DockIcon::TabifyRight, [](IconCanvas& canvas) { drawTabs(canvas, rightSide); }},
+    Picture{DockIcon::TabifyTop, [](IconCanvas& canvas) { drawTabs(canvas, topSide); }},
+    Picture{DockIcon::TabifyBottom, [](IconCanvas& canvas) { drawTabs(canvas, bottomSide); }},
+    Picture{DockIcon::TileLeft, [](IconCanvas& canvas) { drawTiles(canvas, leftSide); }},
+    Picture{DockIcon::TileRight, [](IconCanvas& canvas) { drawTiles(canvas, rightSide); }},
+    Picture{DockIcon::TileTop, [](IconCanvas& canvas) { drawTiles(canvas, topSide); }},
+    Picture{DockIcon::TileBottom, [](IconCanvas& canvas) { drawTiles(canvas, bottomSide); }},
+};
+
+constexpr bool inEnumeratorOrder()
+{
+    for (std::size_t i = 0; i < pictures.size(); ++i) {
+        if (pictures[i].kind != static_cast<DockIcon>(i))
+            return false;
+    }
+    return true;
+}
+static_assert(inEnumeratorOrder());
+
+QColor inkOf(QIcon::Mode mode)
+{
+    const QPalette palette = QGuiApplication::palette();
+    if (mode == QIcon::Selected)
+        return palette.color(QPalette::Active, QPalette::HighlightedText);
+    return palette.color(mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active,
+                         QPalette::ButtonText);
+}
+
+class DockIconEngine : public QIconEngine
+{
+public:
+    DockIconEngine(DockIcon off, DockIcon on)
+        : m_off(off)
+        , m_on(on)
+    {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const qreal ratio = painter->device()->devicePixelRatioF();
+        QPixmap picture = pixmap((QSizeF(rect.size()) * ratio).toSize(), mode, state);
+        picture.setDevicePixelRatio(ratio);
+        painter->drawPixmap(rect.topLeft(), picture);
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        if (size.isEmpty())
+            return {};
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        IconCanvas canvas(painter, size, inkOf(mode));
+        pictures[static_cast<std::size_t>(state == QIcon::On ? m_on : m_off)].draw(canvas);
+        return picture;
+    }
+
+    QIconEngine* clone() const override { return new DockIconEngine(m_off, m_on); }
+    QString key() const override { return QStringLiteral("DockIcon"); }
+    bool isNull() override { return false; }
+
+private:
+    DockIcon m_off;
+    DockIcon m_on;
+};
+
+} // namespace
+
+QIcon makeDockIcon(DockIcon kind)
+{
+    return makeDockIcon(kind, kind);
+}
+
+QIcon makeDockIcon(DockIcon off, DockIcon on)
+{
+    return QIcon(new DockIconEngine(off, on));
+}

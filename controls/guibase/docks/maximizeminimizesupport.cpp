@@ -1,0 +1,410 @@
+// SPDX-License-Identifier: MIT
+#include "maximizeminimizesupport.h"
+
+#include "attachedhelper_p.h"
+#include "updatesblocker_p.h"
+
+#include <jtbase/qtimerhelpers.h>
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QDockWidget>
+#include <QEvent>
+#include <QStyle>
+#include <QTimer>
+
+#include <array>
+#include <utility>
+
+namespace QDockWidgetHelpers {
+
+namespace {
+
+using State = MaximizeMinimizeSupport_DockWidgetState;
+using Support = MaximizeMinimizeSupport;
+
+constexpr const char* propertyName = "QDockWidgetHelpers_MaximizeMinimizeSupport_instance";
+constexpr const char* translationContext = "QDockWidgetHelpers::DockWidgetState";
+constexpr std::array stateNames{
+    QT_TRANSLATE_NOOP("QDockWidgetHelpers::DockWidgetState", "Normal"),
+    QT_TRANSLATE_NOOP("QDockWidgetHelpers::DockWidgetState", "Maximized"),
+    QT_TRANSLATE_NOOP("QDockWidgetHelpers::DockWidgetState", "Minimized"),
+};
+
+bool hasName(State::Type state)
+{
+    return static_cast<unsigned>(state) < stateNames.size();
+}
+
+/// One of the three things that can be done with a floating dock.
+struct Operation
+{
+    const char* actionName;
+    const char* toolTip;
+    QStyle::StandardPixmap icon;
+    bool (Support::*perform)();
+    bool (Support::*isPossible)() const;
+    void (Support::*possibleChanged)(bool);
+};
+
+/// In the order of the signals: maximize, minimize, restore.
+constexpr std::array operations{
+    Operation{"maximizeDockWidget",
+              QT_TRANSLATE_NOOP("QDockWidgetHelpers::MaximizeMinimizeSupport", "Maximize"),
+              QStyle::SP_TitleBarMaxButton, &Support::maximizeDockWidget,
+              &Support::isMaximizeDockWidgetPossible,
+              &Support::isMaximizeDockWidgetPossibleChanged},
+    Operation{"minimizeDockWidget",
+              QT_TRANSLATE_NOOP("QDockWidgetHelpers::MaximizeMinimizeSupport", "Minimize"),
+              QStyle::SP_TitleBarMinButton, &Support::minimizeDockWidget,
+              &Support::isMinimizeDockWidgetPossible,
+              &Support::isMinimizeDockWidgetPossibleChanged},
+    Operation{"restoreDockWidget",
+              QT_TRANSLATE_NOOP("QDockWidgetHelpers::MaximizeMinimizeSupport", "Restore"),
+              QStyle::SP_TitleBarNormalButton, &Support::restoreDockWidget,
+              &Support::isRestoreDockWidgetPossible, &Support::isRestoreDockWidgetPossibleChanged},
+};
+
+} // namespace
+
+const QList<State::Type>& State::values()
+{
+    static const QList<Type> all{Normal, Maximized, Minimized};
+    return all;
+}
+
+QString State::toString(Type state)
+{
+    return hasName(state) ? QString::fromLatin1(stateNames[state]) : QString();
+}
+
+QString State::toDisplayString(Type state)
+{
+    return hasName(state) ? QCoreApplication::translate(translationContext, stateNames[state])
+                          : QString();
+}
+
+State::Type State::fromString(const QString& text, bool* ok)
+{
+    const QString beginning = text.trimmed();
+    for (const Type state : values()) {
+        if (!beginning.isEmpty() && toString(state).startsWith(beginning, Qt::CaseInsensitive)) {
+            if (ok != nullptr)
+                *ok = true;
+            return state;
+        }
+    }
+    if (ok != nullptr)
+        *ok = false;
+    return values().first();
+}
+
+struct MaximizeMinimizeSupportPrivate
+{
+    MaximizeMinimizeSupportPrivate(Support& support, QDockWidget& dock)
+        : q(support)
+        , attachment(dock, propertyName, support)
+        , normalGeometry(dock.geometry())
+        , state(Support::dockWidgetState(dock))
+    {}
+
+    void createActions(QDockWidget& dock);
+    bool changeTo(State::Type newState, bool (*operation)(QDockWidget&));
+    void announceLater(bool reapplyState);
+    void reapply(QDockWidget& dock);
+    void announcePossible(size_t operation);
+
+    Support& q;
+    AttachedHelpers::Attachment attachment;
+    QRect normalGeometry;
+    State::Type state;
+    std::array<QAction*, operations.size()> actions{};
+    /// What the receivers of the signals were told last.
+    std::array<bool, operations.size()> announced{};
+    QPointer<QTimer> announcement;
+    bool reapplyBeforeAnnouncement = false;
+};
+
+namespace {
+
+/// Signals at the end of its life what changed in its course, or everything. The support may die
+/// in one of the signals.
+class Notifier
+{
+public:
+    enum Mode {
+        ChangesOnly,
+        All,
+    };
+
+    Notifier(MaximizeMinimizeSupportPrivate& d, Mode mode)
+        : m_alive(&d.q)
+        , m_d(d)
+        , m_mode(mode)
+        , m_possible(possible())
+        , m_state(d.state)
+    {}
+    ~Notifier()
+    {
+        for (size_t i = 0; i < operations.size() && m_alive; ++i) {
+            if (m_mode == All || possible()[i] != m_possible[i])
+                m_d.announcePossible(i);
+        }
+        if (m_alive && (m_mode == All || m_d.state != m_state))
+            Q_EMIT m_alive->dockWidgetStateChanged(m_d.state);
+    }
+    Q_DISABLE_COPY_MOVE(Notifier)
+
+private:
+    std::array<bool, operations.size()> possible() const
+    {
+        std::array<bool, operations.size()> flags{};
+        for (size_t i = 0; i < flags.size(); ++i)
+            flags[i] = (m_alive->*operations[i].isPossible)();
+        return flags;
+    }
+
+    QPointer<Support> m_alive;
+    MaximizeMinimizeSupportPrivate& m_d;
+    Mode m_mode;
+    std::array<bool, operations.size()> m_possible;
+    State::Type m_state;
+};
+
+} // namespace
+
+void MaximizeMinimizeSupportPrivate::createActions(QDockWidget& dock)
+{
+    for (size_t i = 0; i < operations.size(); ++i) {
+        const Operation& operation = operations[i];
+        auto* action = new QAction(&q);
+        action->setObjectName(QString::fromLatin1(operation.actionName));
+        action->setToolTip(Support::tr(operation.toolTip));
+        action->setIcon(dock.style()->standardIcon(operation.icon, nullptr, &dock));
+        QObject::connect(action, &QAction::triggered, &q, operation.perform);
+        QObject::connect(&q, operation.possibleChanged, action, &QAction::setVisible);
+        QObject::connect(&q, operation.possibleChanged, action, &QAction::setEnabled);
+        actions[i] = action;
+    }
+}
+
+bool MaximizeMinimizeSupportPrivate::changeTo(State::Type newState, bool (*operation)(QDockWidget&))
+{
+    QDockWidget* dock = q.dockWidget();
+    if (dock == nullptr)
+        return false;
+    const QPointer<Support> alive(&q);
+    const Notifier notifier(*this, Notifier::ChangesOnly);
+    const QRect geometry = dock->geometry();
+    if (!operation(*dock))
+        return false;
+    if (alive) {
+        state = newState;
+        if (newState == State::Normal)
+            dock->setGeometry(normalGeometry);
+        else
+            normalGeometry = geometry;
+    }
+    return true;
+}
+
+void MaximizeMinimizeSupportPrivate::announceLater(bool reapplyState)
+{
+    for (QAction* action : actions)
+        action->setVisible(false);
+    reapplyBeforeAnnouncement = reapplyBeforeAnnouncement || reapplyState;
+    if (announcement)
+        return;
+    announcement = QTimerHelpers::singleShot(0, &q, [this] {
+        announcement = nullptr;
+        if (std::exchange(reapplyBeforeAnnouncement, false))
+            q.onFloatingStateChanged();
+        else
+            const Notifier notifier(*this, Notifier::All);
+    });
+}
+
+void MaximizeMinimizeSupportPrivate::reapply(QDockWidget& dock)
+{
+    const QPointer<Support> alive(&q);
+    const UpdatesBlocker blocker(dock);
+    const QRect kept = normalGeometry;
+    switch (state) {
+    case State::Normal:
+        q.restoreDockWidget();
+        break;
+    case State::Maximized:
+        q.maximizeDockWidget();
+        break;
+    case State::Minimized:
+        q.minimizeDockWidget();
+        break;
+    }
+    if (alive)
+        normalGeometry = kept;
+}
+
+void MaximizeMinimizeSupportPrivate::announcePossible(size_t operation)
+{
+    announced[operation] = (q.*operations[operation].isPossible)();
+    Q_EMIT(q.*operations[operation].possibleChanged)(announced[operation]);
+}
+
+MaximizeMinimizeSupport* MaximizeMinimizeSupport::get(const QDockWidget& dock)
+{
+    return AttachedHelpers::get<MaximizeMinimizeSupport>(dock, propertyName);
+}
+
+MaximizeMinimizeSupport* MaximizeMinimizeSupport::install(QDockWidget& dock)
+{
+    MaximizeMinimizeSupport* existing = get(dock);
+    return existing != nullptr ? existing : new MaximizeMinimizeSupport(dock);
+}
+
+MaximizeMinimizeSupport::MaximizeMinimizeSupport(QDockWidget& dock)
+    : QObject(&dock)
+    , d(std::make_unique<MaximizeMinimizeSupportPrivate>(*this, dock))
+{
+    d->createActions(dock);
+    connect(&dock, &QObject::destroyed, this, &MaximizeMinimizeSupport::onDockWidgetDestroyed);
+    connect(&dock, &QDockWidget::dockLocationChanged, this,
+            &MaximizeMinimizeSupport::onDockLocationChanged);
+    dock.installEventFilter(this);
+    onFloatingStateChanged();
+}
+
+MaximizeMinimizeSupport::~MaximizeMinimizeSupport() = default;
+
+QDockWidget* MaximizeMinimizeSupport::dockWidget() const
+{
+    return qobject_cast<QDockWidget*>(parent());
+}
+
+QAction& MaximizeMinimizeSupport::maximizeDockWidgetAction() const
+{
+    return *d->actions[0];
+}
+
+QAction& MaximizeMinimizeSupport::minimizeDockWidgetAction() const
+{
+    return *d->actions[1];
+}
+
+QAction& MaximizeMinimizeSupport::restoreDockWidgetAction() const
+{
+    return *d->actions[2];
+}
+
+State::Type MaximizeMinimizeSupport::dockWidgetState()
+{
+    return d->state;
+}
+
+bool MaximizeMinimizeSupport::isMaximizeDockWidgetPossible() const
+{
+    return dockWidget() != nullptr && isMaximizeDockWidgetPossible(*dockWidget());
+}
+
+bool MaximizeMinimizeSupport::isMinimizeDockWidgetPossible() const
+{
+    return dockWidget() != nullptr && isMinimizeDockWidgetPossible(*dockWidget());
+}
+
+bool MaximizeMinimizeSupport::isRestoreDockWidgetPossible() const
+{
+    return dockWidget() != nullptr && isRestoreDockWidgetPossible(*dockWidget());
+}
+
+State::Type MaximizeMinimizeSupport::dockWidgetState(const QDockWidget& dock)
+{
+    if (dock.isMinimized())
+        return State::Minimized;
+    return dock.isMaximized() ? State::Maximized : State::Normal;
+}
+
+bool MaximizeMinimizeSupport::isMaximizeDockWidgetPossible(const QDockWidget& dock)
+{
+    return dock.isFloating() && !dock.isMaximized();
+}
+
+bool MaximizeMinimizeSupport::isMinimizeDockWidgetPossible(const QDockWidget& dock)
+{
+    return dock.isFloating() && !dock.isMinimized();
+}
+
+bool MaximizeMinimizeSupport::isRestoreDockWidgetPossible(const QDockWidget& dock)
+{
+    return dock.isFloating() && (dock.isMinimized() || dock.isMaximized());
+}
+
+bool MaximizeMinimizeSupport::maximizeDockWidget(QDockWidget& dock)
+{
+    if (!isMaximizeDockWidgetPossible(dock))
+        return false;
+    dock.showMaximized();
+    return true;
+}
+
+bool MaximizeMinimizeSupport::minimizeDockWidget(QDockWidget& dock)
+{
+    if (!isMinimizeDockWidgetPossible(dock))
+        return false;
+    dock.showMinimized();
+    return true;
+}
+
+bool MaximizeMinimizeSupport::restoreDockWidget(QDockWidget& dock)
+{
+    if (!isRestoreDockWidgetPossible(dock))
+        return false;
+    dock.showNormal();
+    return true;
+}
+
+bool MaximizeMinimizeSupport::maximizeDockWidget()
+{
+    return d->changeTo(State::Maximized, &MaximizeMinimizeSupport::maximizeDockWidget);
+}
+
+bool MaximizeMinimizeSupport::minimizeDockWidget()
+{
+    return d->changeTo(State::Minimized, &MaximizeMinimizeSupport::minimizeDockWidget);
+}
+
+bool MaximizeMinimizeSupport::restoreDockWidget()
+{
+    return d->changeTo(State::Normal, &MaximizeMinimizeSupport::restoreDockWidget);
+}
+
+bool MaximizeMinimizeSupport::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != parent())
+        return false;
+    // A spontaneous event is the window manager's doing, which the support leaves as it is.
+    if (event->type() == QEvent::Show)
+        d->announceLater(!event->spontaneous());
+    return false;
+}
+
+void MaximizeMinimizeSupport::onFloatingStateChanged()
+{
+    QDockWidget* dock = dockWidget();
+    if (dock == nullptr)
+        return;
+    const Notifier notifier(*d, Notifier::All);
+    // Showing a dock that was hidden again meanwhile would be wrong; its next show event comes.
+    if (dock->isFloating() && dock->isVisible())
+        d->reapply(*dock);
+}
+
+void MaximizeMinimizeSupport::onDockLocationChanged(Qt::DockWidgetArea)
+{
+    d->announceLater(true);
+}
+
+void MaximizeMinimizeSupport::onDockWidgetDestroyed()
+{
+    disconnect();
+}
+
+} // namespace QDockWidgetHelpers

@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: MIT
+#include "tilesupport.h"
+
+#include "dockareasupport_p.h"
+#include "tilegrid_p.h"
+#include "updatesblocker_p.h"
+
+#include <QCoreApplication>
+#include <QStyle>
+
+namespace QMainWindowHelpers {
+
+namespace {
+
+constexpr const char* propertyName = "QMainWindowHelpers_TileSupport_instance";
+
+const DockAreaOperation<TileSupport>& operation()
+{
+    using Support = TileSupport;
+    static constexpr DockAreaOperation<Support> table{
+        propertyName,
+        "tileDockWidgetArea_%1",
+        &Support::isTileDockWidgetsPossible,
+        &Support::tileDockWidgets,
+        &Support::isTileDockWidgetsPossibleChanged,
+        &Support::dockWidgetsTiled,
+        &Support::dockWidgetsTiled,
+        {{
+            {Qt::LeftDockWidgetArea, DockIcon::TileLeft,
+             QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks on the left"),
+             &Support::tileDockWidgetsInLeftDockWidgetArea,
+             &Support::isTileDockWidgetsPossibleInLeftDockWidgetAreaChanged},
+            {Qt::RightDockWidgetArea, DockIcon::TileRight,
+             QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks on the right"),
+             &Support::tileDockWidgetsInRightDockWidgetArea,
+             &Support::isTileDockWidgetsPossibleInRightDockWidgetAreaChanged},
+            {Qt::TopDockWidgetArea, DockIcon::TileTop,
+             QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks at the top"),
+             &Support::tileDockWidgetsInTopDockWidgetArea,
+             &Support::isTileDockWidgetsPossibleInTopDockWidgetAreaChanged},
+            {Qt::BottomDockWidgetArea, DockIcon::TileBottom,
+             QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks at the bottom"),
+             &Support::tileDockWidgetsInBottomDockWidgetArea,
+             &Support::isTileDockWidgetsPossibleInBottomDockWidgetAreaChanged},
+        }},
+    };
+    return table;
+}
+
+using GuardedDocks = QList<QPointer<QDockWidget>>;
+
+/// The docks of an area in title order, with the grid that fits them.
+struct Tiling
+{
+    QList<QDockWidget*> docks;
+    QSize available;
+    std::optional<TileGrid> grid;
+};
+
+Tiling tilingOf(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
+{
+    Tiling tiling{DockArrangement::candidates(mainWindow, area), {}, {}};
+    if (tiling.docks.size() < 2)
+        return tiling;
+    DockArrangement::sortByTitle(tiling.docks);
+    tiling.available = dockWidgetAreaGeometry(mainWindow, area).size();
+    QList<QSize> minimumSizes;
+    for (const QDockWidget* dock : std::as_const(tiling.docks))
+        minimumSizes << dock->minimumSize();
+    tiling.grid = fitTileGrid(minimumSizes, tiling.available);
+    return tiling;
+}
+
+void split(QMainWindow& mainWindow, QDockWidget* after, QDockWidget* dock,
+           Qt::Orientation direction)
+{
+    if (after != nullptr && dock != nullptr)
+        mainWindow.splitDockWidget(after, dock, direction);
+}
+
+/// Takes the docks out of the layout and puts them back as a grid. Receivers of the toolkit's
+/// signals may delete any of them, and the window, meanwhile.
+void layOut(const QPointer<QMainWindow>& window, Qt::DockWidgetArea area, const GuardedDocks& docks,
+            int columns)
+{
+    for (const QPointer<QDockWidget>& dock : docks) {
+        if (window && dock)
+            window->removeDockWidget(dock);
+    }
+    if (window && docks.first())
+        window->addDockWidget(area, docks.first());
+    for (int i = 1; i < docks.size() && window; ++i) {
+        if (i < columns)
+            split(*window, docks[i - 1], docks[i], Qt::Horizontal);
+        else
+            split(*window, docks[i - columns], docks[i], Qt::Vertical);
+    }
+    for (const QPointer<QDockWidget>& dock : docks) {
+        if (window && dock)
+            dock->show();
+    }
+}
+
+} // namespace
+
+TileSupport* TileSupport::install(QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas)
+{
+    return DockAreaSupportPrivate<TileSupport>::install(mainWindow, areas, propertyName);
+}
+
+TileSupport* TileSupport::get(const QMainWindow& mainWindow)
+{
+    return AttachedHelpers::get<TileSupport>(mainWindow, propertyName);
+}
+
+TileSupport::TileSupport(QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas)
+    : QObject(&mainWindow)
+    , d(std::make_unique<DockAreaSupportPrivate<TileSupport>>(*this, mainWindow, areas,
+                                                              operation()))
+{
+    d->start(mainWindow, createDockWidgetAreaActionMap(areas, this));
+}
+
+TileSupport::~TileSupport() = default;
+
+bool TileSupport::isTileDockWidgetsPossible(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
+{
+    return tilingOf(mainWindow, area).grid.has_value();
+}
+
+bool TileSupport::tileDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetArea area)
+{
+    if (DockArrangement::Rearrangement::isUnderWay(mainWindow))
+        return false;
+    const Tiling tiling = tilingOf(mainWindow, area);
+    if (!tiling.grid)
+        return false;
+    const QPointer<QMainWindow> window(&mainWindow);
+    const DockArrangement::Rearrangement rearrangement(mainWindow);
+    const UpdatesBlocker blocker(mainWindow);
+    const GuardedDocks docks(tiling.docks.begin(), tiling.docks.end());
+    const int columns = tiling.grid->columns();
+    layOut(window, area, docks, columns);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                    QEventLoop::ExcludeSocketNotifiers);
+    if (!window)
+        return true;
+    const QList<int> widths =
+        spreadSurplus(tiling.grid->columnWidths,
+                      tiling.available.width() - TileGrid::sum(tiling.grid->columnWidths));
+    const QList<int> heights =
+        spreadSurplus(tiling.grid->rowHeights,
+                      tiling.available.height() - TileGrid::sum(tiling.grid->rowHeights));
+    QList<QPair<QDockWidget*, QSize>> sizes;
+    for (int i = 0; i < docks.size(); ++i)
+        sizes << qMakePair(docks[i].data(), QSize(widths[i % columns], heights[i / columns]));
+    setDockWidgetSizes(mainWindow, sizes);
+    return true;
+}
+
+bool TileSupport::isTileDockWidgetsPossible(Qt::DockWidgetArea area) const
+{
+    const QMainWindow* window = mainWindow();
+    return window != nullptr && isTileDockWidgetsPossible(*window, area);
+}
+
+QAction& TileSupport::tileDockWidgetsAction(Qt::DockWidgetArea area) const
+{
+    return d->action(area);
+}
+
+QMainWindow* TileSupport::mainWindow() const
+{
+    return qobject_cast<QMainWindow*>(parent());
+}
+
+QFlags<Qt::DockWidgetArea> TileSupport::dockWidgetAreas()
+{
+    return d->areas();
+}
+
+bool TileSupport::eventFilter(QObject* watched, QEvent* event)
+{
+    return d->eventFilter(watched, event);
+}
+
+bool TileSupport::tileDockWidgets(Qt::DockWidgetArea area)
+{
+    return d->perform(area);
+}
+
+bool TileSupport::tileDockWidgetsInLeftDockWidgetArea()
+{
+    return tileDockWidgets(Qt::LeftDockWidgetArea);
+}
+
+bool TileSupport::tileDockWidgetsInRightDockWidgetArea()
+{
+    return tileDockWidgets(Qt::RightDockWidgetArea);
+}
+
+bool TileSupport::tileDockWidgetsInTopDockWidgetArea()
+{
+    return tileDockWidgets(Qt::TopDockWidgetArea);
+}
+
+bool TileSupport::tileDockWidgetsInBottomDockWidgetArea()
+{
+    return tileDockWidgets(Qt::BottomDockWidgetArea);
+}
+
+void TileSupport::onMainWindowDestroyed()
+{
+    disconnect();
+}
+
+void TileSupport::emitIsTileDockWidgetsPossibleSignals(QFlags<Qt::DockWidgetArea> areas)
+{
+    d->announce(areas);
+}
+
+QMap<Qt::DockWidgetArea, QAction*>
+TileSupport::createDockWidgetAreaActionMap(QFlags<Qt::DockWidgetArea> areas, QObject* parent)
+{
+    return d->createActions(areas, parent);
+}
+
+} // namespace QMainWindowHelpers
