@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "recording.h"
+
+#include <span>
+#include <vector>
+
+namespace bandmonitor {
+
+/// A signal that stands out of the noise of one sweep. Frequencies in hertz, levels in dB.
+struct Signal
+{
+    double centreHz = 0; ///< Where its power has its centre of gravity.
+    double lowHz = 0;    ///< The occupied band: from the start of its first bin
+    double highHz = 0;   ///< to the end of its last one.
+    double peakDb = 0;   ///< The highest level of its bins.
+    double floorDb = 0;  ///< The noise that it was found in.
+    double stepHz = 1;   ///< Width of a bin.
+
+    double bandwidthHz() const { return highHz - lowHz; }
+    bool operator==(const Signal&) const = default;
+};
+
+/// Finds the signals of a sweep, in a time that follows its bins.
+///
+/// The noise is worked out for each hop from its 10th and 30th percentile, as if it were normally
+/// distributed in dB: so up to two thirds of a hop may be occupied. A hop with few bins, or with a
+/// floor high above that of the whole sweep (a single signal fills it), takes the sweep's noise.
+///
+/// A signal begins where a bin is `openDeviations` standard deviations above the floor, or the mean
+/// of `smoothedBins` bins is that far beyond its own, smaller, deviation: thus narrow carriers and
+/// wide, weak bands are found alike. It reaches as far as bins, or means, stay `closeDeviations`
+/// above the floor; up to `joinBins` bins between two parts belong to the signal, also at the seam
+/// of two hops. The occupied band ends at the outermost bins that are at most `bandwidthDb` below
+/// the peak.
+class SignalDetector
+{
+public:
+    static constexpr double openDeviations = 5;
+    static constexpr double closeDeviations = 2.5;
+    static constexpr int smoothedBins = 9;
+    static constexpr int joinBins = 3;
+    static constexpr double bandwidthDb = 26;
+    /// Recordings without noise get this deviation.
+    static constexpr double smallestDeviationDb = 0.2;
+    /// A sweep with more signals keeps the strongest ones.
+    static constexpr std::size_t maximumSignals = 500;
+
+    /// In order of the lower ends. Valid until the next call.
+    std::span<const Signal> detect(const Sweep& sweep);
+
+private:
+    struct Noise
+    {
+        double floorDb = 0;
+        double deviationDb = smallestDeviationDb;
+    };
+    struct Found
+    {
+        Signal signal;
+        double power = 0;
+    };
+
+    Noise noiseOfScratch();
+    void appendLevels(std::span<const float> levels);
+    void smooth(std::span<const float> levels, const Noise& noise);
+    void detectIn(const Segment& segment, const Noise& noise);
+    void addFound(const Segment& segment, std::size_t first, std::size_t last, const Noise& noise);
+    void joinAll();
+
+    std::vector<float> m_scratch;
+    std::vector<float> m_means; ///< In deviations above the floor.
+    std::vector<Found> m_found;
+    std::vector<Signal> m_signals;
+};
+
+} // namespace bandmonitor

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "signaltracker.h"
+
+#include <memory>
+
+namespace bandmonitor {
+
+/// Detects and follows the signals of a recording while it is replayed.
+class SignalWatch
+{
+public:
+    /// Begins anew; null for none.
+    void setRecording(std::shared_ptr<const Recording> recording);
+    /// Takes in the sweeps after `previous` up to `position`, or only that one when `previous` is
+    /// -1 or not before it. Begins anew when `position` is not behind the last one.
+    void showSweep(qsizetype position, qsizetype previous);
+
+    std::span<const SignalTrack> tracks() const { return m_tracker.tracks(); }
+    /// Null when there is no such track (any more).
+    const SignalTrack* track(std::uint32_t id) const;
+    /// The strongest of the signals that came up in the last showSweep() and are there now; null
+    /// without one, and right after a beginning, when all signals are new.
+    const SignalTrack* newcomer() const;
+
+private:
+    std::shared_ptr<const Recording> m_recording;
+    SignalDetector m_detector;
+    SignalTracker m_tracker;
+    qsizetype m_position = -1;
+    std::uint32_t m_lastKnownId = 0;
+    bool m_begins = true;
+};
+
+} // namespace bandmonitor
