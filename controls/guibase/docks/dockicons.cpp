@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
+#include <QPolygonF>
 
 #include <algorithm>
 #include <array>
@@ -40,6 +41,20 @@ public:
         m_painter.save();
         m_painter.setClipRegion(QRegion(outer) - inner);
         m_painter.fillRect(outer, m_color);
+        m_painter.restore();
+    }
+
+    /// A polygon with smooth edges.
+    void fill(const QList<QPointF>& corners)
+    {
+        QPolygonF polygon;
+        for (const QPointF& corner : corners)
+            polygon << m_origin + corner * m_unit;
+        m_painter.save();
+        m_painter.setRenderHint(QPainter::Antialiasing);
+        m_painter.setPen(Qt::NoPen);
+        m_painter.setBrush(m_color);
+        m_painter.drawPolygon(polygon);
         m_painter.restore();
     }
 
@@ -86,6 +101,59 @@ void drawTiles(IconCanvas& canvas, const QRect& side)
                     height);
 }
 
+/// A pin that sticks in the window, or lies: the dock stays, or it does not.
+void drawPin(IconCanvas& canvas, bool upright)
+{
+    const auto part = [&](qreal x, qreal y, qreal width, qreal height) {
+        if (upright)
+            canvas.fill(x, y, width, height);
+        else
+            canvas.fill(y, x, height, width);
+    };
+    part(5, 2, 6, 1);
+    part(5, 3, 1, 5);
+    part(9, 3, 2, 5);
+    part(3, 8, 10, 1);
+    part(7.5, 9, 1, 5);
+}
+
+/// A mouse pointer that opens a dock at the edge.
+void drawPointerAtEdge(IconCanvas& canvas)
+{
+    canvas.fill(1, 1, 2, 14);
+    canvas.fill({{5, 3}, {5, 13}, {7.5, 10.8}, {9, 14}, {10.8, 13.2}, {9.3, 10}, {12.5, 10}});
+}
+
+/// A window above another one.
+void drawFloat(IconCanvas& canvas)
+{
+    canvas.frame(6, 2, 8, 8);
+    canvas.fill(6, 2, 8, 2);
+    canvas.fill(2, 6, 3, 1);
+    canvas.fill(2, 6, 1, 8);
+    canvas.fill(2, 13, 8, 1);
+    canvas.fill(9, 11, 1, 3);
+}
+
+/// A part of a window.
+void drawDock(IconCanvas& canvas)
+{
+    canvas.frame(2, 2, 12, 12);
+    canvas.fill(2, 2, 5, 12);
+}
+
+void drawCross(IconCanvas& canvas)
+{
+    canvas.fill({{3, 4.4}, {4.4, 3}, {13, 11.6}, {11.6, 13}});
+    canvas.fill({{13, 4.4}, {11.6, 3}, {3, 11.6}, {4.4, 13}});
+}
+
+void drawMore(IconCanvas& canvas)
+{
+    for (const qreal x : {2.0, 8.0})
+        canvas.fill({{x, 4}, {x + 1.4, 3}, {x + 6, 8}, {x + 1.4, 13}, {x, 12}, {x + 3.6, 8}});
+}
+
 struct Picture
 {
     DockIcon kind;
@@ -102,6 +170,13 @@ constexpr std::array pictures{
     Picture{DockIcon::TileRight, [](IconCanvas& canvas) { drawTiles(canvas, rightSide); }},
     Picture{DockIcon::TileTop, [](IconCanvas& canvas) { drawTiles(canvas, topSide); }},
     Picture{DockIcon::TileBottom, [](IconCanvas& canvas) { drawTiles(canvas, bottomSide); }},
+    Picture{DockIcon::AutoHideDisabled, [](IconCanvas& canvas) { drawPin(canvas, true); }},
+    Picture{DockIcon::AutoHideEnabled, [](IconCanvas& canvas) { drawPin(canvas, false); }},
+    Picture{DockIcon::PopupOnHover, drawPointerAtEdge},
+    Picture{DockIcon::Float, drawFloat},
+    Picture{DockIcon::Dock, drawDock},
+    Picture{DockIcon::Close, drawCross},
+    Picture{DockIcon::More, drawMore},
 };
 
 constexpr bool inEnumeratorOrder()

@@ -14,6 +14,13 @@ enum class DockIcon {
     TileRight,
     TileTop,
     TileBottom,
+    AutoHideDisabled,
+    AutoHideEnabled,
+    PopupOnHover,
+    Float,
+    Dock,
+    Close,
+    More,
 };
 
 /// An icon that is drawn when it is needed, in the size that is needed and in the text colour of

@@ -1,6 +1,11 @@
 # SPDX-License-Identifier: MIT
 set(docks_headers
     activedockwidgetsupport.h
+    autohidesupport.h
+    dockwidgetconfigurator.h
+    dockwidgethelpers.h
+    enhanceddockwidgettitlebar.h
+    mainwindowconfigurator.h
     mainwindowhelpers.h
     maximizeminimizesupport.h
     tabifysupport.h
@@ -11,6 +16,13 @@ set(docks_sources
     applicationdockevents.cpp
     applicationdockevents_p.h
     attachedhelper_p.h
+    autohidebutton.cpp
+    autohidebutton_p.h
+    autohidestate.cpp
+    autohidestate_p.h
+    autohidesupport.cpp
+    autohidesupport_p.h
+    autohidesupportevents.cpp
     dockareasupport_p.h
     dockarrangement.cpp
     dockarrangement_p.h
@@ -18,6 +30,11 @@ set(docks_sources
     dockchildren_p.h
     dockicons.cpp
     dockicons_p.h
+    docktitle_p.h
+    dockwidgetconfigurator.cpp
+    dockwidgethelpers.cpp
+    enhanceddockwidgettitlebar.cpp
+    mainwindowconfigurator.cpp
     mainwindowhelpers.cpp
     maximizeminimizesupport.cpp
     survivalcheck_p.h
@@ -25,4 +42,5 @@ set(docks_sources
     tilegrid.cpp
     tilegrid_p.h
     tilesupport.cpp
-    updatesblocker_p.h)
+    updatesblocker_p.h
+    windowidentity_p.h)

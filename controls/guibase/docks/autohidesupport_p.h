@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "attachedhelper_p.h"
+#include "autohidestate_p.h"
+#include "autohidesupport.h"
+#include "dockchildren_p.h"
+
+#include <QBasicTimer>
+#include <QDockWidget>
+#include <QHash>
+#include <QMainWindow>
+#include <QPointer>
+#include <QToolBar>
+
+#include <map>
+
+namespace QMainWindowHelpers {
+
+struct AutoHideSupportPrivate
+{
+    /// A dock of the main window, kept under its address, which is good for comparing only.
+    struct Entry
+    {
+        QPointer<QDockWidget> dock;
+        QMap<Qt::ToolBarArea, QAction*> proxies;
+        QPointer<QAction> autoHideAction; ///< The one that is connected.
+        QString name;                     ///< The object name when the dock entered the mode.
+        bool hiddenByMode = false;
+    };
+
+    AutoHideSupportPrivate(AutoHideSupport& support, QMainWindow& served,
+                           QFlags<Qt::ToolBarArea> givenAreas);
+
+    Entry* entryOf(const QObject* dock);
+    bool isOn(const QDockWidget& dock) const { return autoHideDocks.contains(&dock); }
+
+    /// Makes buttons for the dock and watches it; does nothing for a dock that is registered.
+    void registerDock(QDockWidget& dock);
+    /// `dock` is null when the dock is being destroyed.
+    void unregisterDock(const QObject* key, QDockWidget* dock);
+    void addButtons(QDockWidget& dock, Entry& entry);
+    void connectAutoHideAction(QDockWidget& dock);
+    /// Texts and icons of the buttons.
+    void followDock(const QDockWidget& dock);
+
+    /// The area itself, or the other side when only that has a tool bar; else NoToolBarArea.
+    Qt::ToolBarArea usableArea(Qt::ToolBarArea wanted) const;
+    Qt::ToolBarArea shownArea(const QDockWidget& dock) const;
+    void enable(QDockWidget& dock, Qt::ToolBarArea area);
+    /// Also moves the button of a dock that is in the mode already.
+    void restore(QDockWidget& dock, Qt::ToolBarArea area);
+    void setActionChecked(const QDockWidget& dock, bool checked);
+
+    /// Hides the dock unless something of its own is open.
+    void hideDock(QDockWidget& dock);
+    void hideOther(QDockWidget* pending, const QDockWidget& dock);
+    void dockShown(QDockWidget& dock);
+    void showByKey(QDockWidget& dock);
+    void dismissByKey(QDockWidget& dock);
+
+    AutoHideState state() const;
+    void apply(const AutoHideState& state);
+    /// Applies what is remembered of a dock that has come.
+    void applyRemembered(QDockWidget& dock);
+    void store() const;
+
+    AutoHideSupport& q;
+    QMainWindow& mainWindow;
+    const QFlags<Qt::ToolBarArea> areas;
+    AutoHideSupport::SelectToolBarAreaFn selectArea;
+    QAction* popupOnHover = nullptr;
+    QMap<Qt::ToolBarArea, QPointer<QToolBar>> toolBars;
+    QList<const QDockWidget*> autoHideDocks;
+    bool syncWithFloating = true;
+    bool allowNonFloating = false;
+    int delay = 500;
+    QBasicTimer hideTimer;
+    QPointer<QDockWidget> pending;
+    bool waitsForOpenWindow = false; ///< The hiding was put off for something that was open.
+
+    std::map<const QObject*, Entry> entries;
+    /// The saved sides of docks that are not there.
+    QMap<QString, Qt::ToolBarArea> remembered;
+    QString storageName;
+    bool isApplying = false; ///< Nothing is stored meanwhile.
+    AttachedHelpers::Attachment attachment;
+    DockChildren children;
+};
+
+} // namespace QMainWindowHelpers

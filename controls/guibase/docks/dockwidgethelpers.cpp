@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "dockwidgethelpers.h"
+
+#include "dockwidgetconfigurator.h"
+#include "enhanceddockwidgettitlebar.h"
+#include "updatesblocker_p.h"
+
+#include <QAction>
+#include <QDockWidget>
+
+namespace QDockWidgetHelpers {
+
+QDockWidget* makeDockWidgetFrom(QWidget& widget)
+{
+    if (auto* dock = qobject_cast<QDockWidget*>(&widget))
+        return dock;
+    const QString objectName = widget.objectName().isNull()
+                                   ? QString()
+                                   : widget.objectName() + QStringLiteral("_outerDockWidget");
+    const Qt::WindowFlags windowFlags = widget.windowFlags();
+    const UpdatesBlocker blocker(widget);
+    auto* dock = new QDockWidget(widget.parentWidget());
+    widget.setParent(dock);
+    dock->setWidget(&widget);
+    QList<QAction*> noActions;
+    DockWidgetConfigurator()
+        .withFocusPolicy(widget.focusPolicy())
+        .withWindowFlags(windowFlags)
+        .withStyleSheet(widget.styleSheet())
+        .configure(*dock, noActions, objectName, widget.windowTitle(), widget.windowIcon(),
+                   widget.windowIconText());
+    return dock;
+}
+
+void addActionToTitleBar(QDockWidget& dockWidget, QAction& action, int index)
+{
+    auto* titleBar = qobject_cast<EnhancedDockWidgetTitleBar*>(dockWidget.titleBarWidget());
+    if (titleBar == nullptr) {
+        QWidget* former = dockWidget.titleBarWidget();
+        titleBar = new EnhancedDockWidgetTitleBar(dockWidget);
+        dockWidget.setTitleBarWidget(titleBar);
+        if (former != nullptr)
+            former->hide();
+    }
+    titleBar->addTitleBarAction(action, index);
+}
+
+} // namespace QDockWidgetHelpers

@@ -1,0 +1,455 @@
+// SPDX-License-Identifier: MIT
+#include "enhanceddockwidgettitlebar.h"
+
+#include "dockicons_p.h"
+#include "docktitle_p.h"
+
+#include <QAction>
+#include <QActionEvent>
+#include <QDockWidget>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QPointer>
+#include <QStyleOptionDockWidget>
+#include <QStylePainter>
+#include <QToolButton>
+#include <QToolTip>
+
+#include <algorithm>
+#include <map>
+
+namespace {
+
+/// The room that the title keeps while actions move into the menu, in average characters.
+constexpr int keptTitleCharacters = 6;
+constexpr int activeMarkWidth = 3;
+
+bool isNavigationKey(int key)
+{
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up ||
+           key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_End;
+}
+
+/// A flat button that leaves the arrow keys to the bar.
+class TitleBarButton : public QToolButton
+{
+public:
+    explicit TitleBarButton(QWidget* bar)
+        : QToolButton(bar)
+    {
+        setAutoRaise(true);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    static int extent(const QWidget& widget)
+    {
+        const QStyle& style = *widget.style();
+        return style.pixelMetric(QStyle::PM_SmallIconSize, nullptr, &widget) +
+               2 * style.pixelMetric(QStyle::PM_DockWidgetTitleBarButtonMargin, nullptr, &widget);
+    }
+
+    void setTexts(const QString& name)
+    {
+        setToolTip(name);
+        setAccessibleName(name);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (isNavigationKey(event->key()))
+            event->ignore();
+        else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            click();
+        else
+            QToolButton::keyPressEvent(event);
+    }
+};
+
+/// What the action is called where there is no picture; tool tips may be rich text.
+QString nameOf(const QAction& action)
+{
+    return action.toolTip().isEmpty() ? action.objectName() : action.toolTip();
+}
+
+} // namespace
+
+/// Everything is laid out along a line from the title's beginning to the close button, and put on
+/// the bar by place().
+class EnhancedDockWidgetTitleBar::Private
+{
+public:
+    Private(EnhancedDockWidgetTitleBar& owner, QDockWidget& served);
+
+    bool isVertical() const;
+    int length() const { return isVertical() ? bar.height() : bar.width(); }
+    int thickness() const { return isVertical() ? bar.width() : bar.height(); }
+    int margin() const;
+    int iconExtent() const;
+    /// The room that bar and dock need; all actions as buttons, or all in the menu.
+    QSize neededSize(bool minimal) const;
+    /// From the line to the bar: turned on vertical bars, mirrored for right-to-left.
+    QRect place(const QRect& onLine) const;
+
+    /// Follows the dock's title, icon, features and state.
+    void followDock();
+    void arrange();
+    /// The actions that have to be seen, and the float and close buttons that the dock allows.
+    QList<QAction*> visibleActions() const;
+    int fixedButtonCount() const;
+    TitleBarButton& buttonFor(QAction& action);
+    void removeButton(QAction* action);
+    void fillMenu();
+    /// Keeps exactly one button in the tab order.
+    void updateTabStop(QWidget* preferred);
+
+    EnhancedDockWidgetTitleBar& bar;
+    QPointer<QDockWidget> dock;
+    std::map<QAction*, TitleBarButton*> buttons;
+    TitleBarButton* const menuButton;
+    TitleBarButton* const floatButton;
+    TitleBarButton* const closeButton;
+    QMenu* const menu;
+    QList<QAction*> actionsInMenu;
+    QList<TitleBarButton*> shownButtons; ///< In the order of the line.
+    QString title;
+    QString elidedTitle;
+    QRect titleOnLine;
+    bool active = false;
+};
+
+EnhancedDockWidgetTitleBar::Private::Private(EnhancedDockWidgetTitleBar& owner, QDockWidget& served)
+    : bar(owner)
+    , dock(&served)
+    , menuButton(new TitleBarButton(&owner))
+    , floatButton(new TitleBarButton(&owner))
+    , closeButton(new TitleBarButton(&owner))
+    , menu(new QMenu(&owner))
+{
+    menuButton->setObjectName(QStringLiteral("menuButton"));
+    menuButton->setMenu(menu);
+    menuButton->setPopupMode(QToolButton::InstantPopup);
+    floatButton->setObjectName(QStringLiteral("floatButton"));
+    closeButton->setObjectName(QStringLiteral("closeButton"));
+    menuButton->hide();
+}
+
+bool EnhancedDockWidgetTitleBar::Private::isVertical() const
+{
+    return dock && dock->features().testFlag(QDockWidget::DockWidgetVerticalTitleBar);
+}
+
+int EnhancedDockWidgetTitleBar::Private::margin() const
+{
+    return bar.style()->pixelMetric(QStyle::PM_DockWidgetTitleMargin, nullptr, &bar);
+}
+
+int EnhancedDockWidgetTitleBar::Private::iconExtent() const
+{
+    // A window without an icon of its own would show that of its parents.
+    if (!dock || !dock->testAttribute(Qt::WA_SetWindowIcon) || dock->windowIcon().isNull())
+        return 0;
+    return bar.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &bar);
+}
+
+QSize EnhancedDockWidgetTitleBar::Private::neededSize(bool minimal) const
+{
+    const QFontMetrics metrics = bar.fontMetrics();
+    const int button = TitleBarButton::extent(bar);
+    const auto actions = static_cast<int>(visibleActions().size());
+    const int icon = iconExtent() > 0 ? iconExtent() + margin() : 0;
+    const int text = minimal ? 0 : metrics.horizontalAdvance(title) + margin();
+    const int along = 2 * margin() + activeMarkWidth + icon + text +
+                      button * (fixedButtonCount() + (minimal ? std::min(actions, 1) : actions));
+    const int across = std::max(button + 2, metrics.height() + 2 * margin());
+    return isVertical() ? QSize(across, along) : QSize(along, across);
+}
+
+QRect EnhancedDockWidgetTitleBar::Private::place(const QRect& onLine) const
+{
+    if (isVertical())
+        return {onLine.y(), bar.height() - onLine.x() - onLine.width(), onLine.height(),
+                onLine.width()};
+    return QStyle::visualRect(bar.layoutDirection(), bar.rect(), onLine);
+}
+
+void EnhancedDockWidgetTitleBar::Private::followDock()
+{
+    if (!dock)
+        return;
+    title = shownDockTitle(*dock);
+    const bool floating = dock->isFloating();
+    floatButton->setIcon(makeDockIcon(floating ? DockIcon::Dock : DockIcon::Float));
+    floatButton->setTexts(floating ? tr("Dock", "Tool tip: put a window back into the main window")
+                                   : tr("Float", "Tool tip: make a dock a window of its own"));
+    closeButton->setIcon(makeDockIcon(DockIcon::Close));
+    closeButton->setTexts(tr("Close"));
+    menuButton->setIcon(makeDockIcon(DockIcon::More));
+    menuButton->setTexts(tr("More"));
+    bar.updateGeometry();
+    arrange();
+}
+
+QList<QAction*> EnhancedDockWidgetTitleBar::Private::visibleActions() const
+{
+    QList<QAction*> visible = bar.actions();
+    visible.removeIf([](const QAction* action) { return !action->isVisible(); });
+    return visible;
+}
+
+int EnhancedDockWidgetTitleBar::Private::fixedButtonCount() const
+{
+    const QDockWidget::DockWidgetFeatures features =
+        dock ? dock->features() : QDockWidget::NoDockWidgetFeatures;
+    return int(features.testFlag(QDockWidget::DockWidgetFloatable)) +
+           int(features.testFlag(QDockWidget::DockWidgetClosable));
+}
+
+TitleBarButton& EnhancedDockWidgetTitleBar::Private::buttonFor(QAction& action)
+{
+    TitleBarButton*& button = buttons[&action];
+    if (button == nullptr) {
+        button = new TitleBarButton(&bar);
+        button->setDefaultAction(&action);
+        button->setAccessibleName(nameOf(action));
+    }
+    return *button;
+}
+
+void EnhancedDockWidgetTitleBar::Private::removeButton(QAction* action)
+{
+    const auto found = buttons.find(action);
+    if (found == buttons.end())
+        return;
+    // It may be the click on this button that removes it.
+    TitleBarButton* button = found->second;
+    buttons.erase(found);
+    shownButtons.removeOne(button);
+    button->hide();
+    button->deleteLater();
+}
+
+void EnhancedDockWidgetTitleBar::Private::arrange()
+{
+    const int button = TitleBarButton::extent(bar);
+    const QList<QAction*> actions = visibleActions();
+    const int icon = iconExtent() > 0 ? iconExtent() + margin() : 0;
+    const int begin = margin() + activeMarkWidth + icon;
+    const int end = length() - margin();
+    const int kept = std::min(bar.fontMetrics().horizontalAdvance(title),
+                              keptTitleCharacters * bar.fontMetrics().averageCharWidth());
+    const int room = std::max(0, (end - begin - kept) / button - fixedButtonCount());
+    const bool needsMenu = actions.size() > room;
+    const qsizetype asButtons = needsMenu ? std::max(0, room - 1) : actions.size();
+    actionsInMenu = actions.mid(asButtons);
+
+    shownButtons.clear();
+    for (QAction* action : actions.first(asButtons))
+        shownButtons << &buttonFor(*action);
+    if (needsMenu)
+        shownButtons << menuButton;
+    if (dock && dock->features().testFlag(QDockWidget::DockWidgetFloatable))
+        shownButtons << floatButton;
+    if (dock && dock->features().testFlag(QDockWidget::DockWidgetClosable))
+        shownButtons << closeButton;
+
+    const auto used = static_cast<int>(shownButtons.size()) * button;
+    titleOnLine = QRect(begin, 0, std::max(0, end - used - margin() - begin), thickness());
+    elidedTitle = bar.fontMetrics().elidedText(title, Qt::ElideRight, titleOnLine.width());
+    QRect next(end - used, (thickness() - button) / 2, button, button);
+    for (TitleBarButton* shown : std::as_const(shownButtons)) {
+        shown->setGeometry(place(next));
+        next.translate(button, 0);
+    }
+    const auto children = bar.findChildren<QToolButton*>(Qt::FindDirectChildrenOnly);
+    for (QToolButton* child : children)
+        child->setVisible(shownButtons.contains(child));
+    updateTabStop(nullptr);
+    bar.update();
+}
+
+void EnhancedDockWidgetTitleBar::Private::fillMenu()
+{
+    menu->clear();
+    for (QAction* action : std::as_const(actionsInMenu)) {
+        if (!action->text().isEmpty()) {
+            menu->addAction(action);
+            continue;
+        }
+        QAction* named =
+            menu->addAction(action->icon(), nameOf(*action), action, &QAction::trigger);
+        named->setEnabled(action->isEnabled());
+    }
+}
+
+void EnhancedDockWidgetTitleBar::Private::updateTabStop(QWidget* preferred)
+{
+    const auto isStop = [](const QWidget* button) {
+        return button->focusPolicy() == Qt::TabFocus && button->isEnabled();
+    };
+    const auto canFocus = [](const QWidget* button) { return button->isEnabled(); };
+    auto stop = std::find(shownButtons.cbegin(), shownButtons.cend(), preferred);
+    if (stop == shownButtons.cend())
+        stop = std::find_if(shownButtons.cbegin(), shownButtons.cend(), isStop);
+    if (stop == shownButtons.cend())
+        stop = std::find_if(shownButtons.cbegin(), shownButtons.cend(), canFocus);
+    for (auto button = shownButtons.cbegin(); button != shownButtons.cend(); ++button)
+        (*button)->setFocusPolicy(button == stop ? Qt::TabFocus : Qt::NoFocus);
+}
+
+EnhancedDockWidgetTitleBar::EnhancedDockWidgetTitleBar(QDockWidget& dockWidget)
+    : QWidget(&dockWidget)
+    , d(std::make_unique<Private>(*this, dockWidget))
+{
+    connect(d->floatButton, &QToolButton::clicked, &dockWidget,
+            [&dockWidget] { dockWidget.setFloating(!dockWidget.isFloating()); });
+    connect(d->closeButton, &QToolButton::clicked, &dockWidget, &QWidget::close);
+    connect(d->menu, &QMenu::aboutToShow, this, [this] { d->fillMenu(); });
+    connect(&dockWidget, &QDockWidget::topLevelChanged, this, [this] { d->followDock(); });
+    connect(&dockWidget, &QDockWidget::featuresChanged, this, [this] { d->followDock(); });
+    dockWidget.installEventFilter(this);
+    d->followDock();
+}
+
+EnhancedDockWidgetTitleBar::~EnhancedDockWidgetTitleBar() = default;
+
+QDockWidget* EnhancedDockWidgetTitleBar::dockWidget() const
+{
+    return d->dock;
+}
+
+void EnhancedDockWidgetTitleBar::addTitleBarAction(QAction& action, int index)
+{
+    QList<QAction*> others = actions();
+    others.removeOne(&action);
+    insertAction(index < 0 ? nullptr : others.value(index, nullptr), &action);
+}
+
+bool EnhancedDockWidgetTitleBar::isActive() const
+{
+    return d->active;
+}
+
+void EnhancedDockWidgetTitleBar::setActive(bool active)
+{
+    d->active = active;
+    update();
+}
+
+QSize EnhancedDockWidgetTitleBar::sizeHint() const
+{
+    return d->neededSize(false);
+}
+
+QSize EnhancedDockWidgetTitleBar::minimumSizeHint() const
+{
+    return d->neededSize(true);
+}
+
+bool EnhancedDockWidgetTitleBar::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    if (watched == d->dock && (type == QEvent::WindowTitleChange ||
+                               type == QEvent::WindowIconChange || type == QEvent::ModifiedChange))
+        d->followDock();
+    return QWidget::eventFilter(watched, event);
+}
+
+bool EnhancedDockWidgetTitleBar::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && d->elidedTitle != d->title) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        if (d->place(d->titleOnLine).contains(help->pos())) {
+            const QString text = QStringLiteral("<qt>%1</qt>").arg(d->title.toHtmlEscaped());
+            QToolTip::showText(help->globalPos(), text, this, d->place(d->titleOnLine));
+            return true;
+        }
+    }
+    return QWidget::event(event);
+}
+
+void EnhancedDockWidgetTitleBar::actionEvent(QActionEvent* event)
+{
+    if (event->type() == QEvent::ActionRemoved) {
+        d->removeButton(event->action());
+    } else if (event->type() == QEvent::ActionChanged) {
+        const auto button = d->buttons.find(event->action());
+        if (button != d->buttons.end())
+            button->second->setAccessibleName(nameOf(*event->action()));
+    }
+    updateGeometry();
+    d->arrange();
+}
+
+void EnhancedDockWidgetTitleBar::changeEvent(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::LanguageChange:
+    case QEvent::LayoutDirectionChange:
+        d->followDock();
+        break;
+    default:
+        break;
+    }
+    QWidget::changeEvent(event);
+}
+
+void EnhancedDockWidgetTitleBar::keyPressEvent(QKeyEvent* event)
+{
+    QList<TitleBarButton*> reachable = d->shownButtons;
+    reachable.removeIf([](const TitleBarButton* button) { return !button->isEnabled(); });
+    const auto current = static_cast<int>(reachable.indexOf(focusWidget()));
+    if (!isNavigationKey(event->key()) || current < 0) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    const auto last = static_cast<int>(reachable.size()) - 1;
+    const bool leftIsNext = !d->isVertical() && isRightToLeft();
+    int next = current;
+    if (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)
+        next = event->key() == Qt::Key_Home ? 0 : last;
+    else if (event->key() == Qt::Key_Up ||
+             event->key() == (leftIsNext ? Qt::Key_Left : Qt::Key_Right))
+        next = std::min(current + 1, last);
+    else
+        next = std::max(current - 1, 0);
+    d->updateTabStop(reachable.at(next));
+    reachable.at(next)->setFocus(Qt::TabFocusReason);
+}
+
+void EnhancedDockWidgetTitleBar::paintEvent(QPaintEvent*)
+{
+    QStylePainter painter(this);
+    QStyleOptionDockWidget option;
+    option.initFrom(this);
+    option.movable = d->dock && d->dock->features().testFlag(QDockWidget::DockWidgetMovable);
+    option.verticalTitleBar = d->isVertical();
+    painter.drawControl(QStyle::CE_DockWidgetTitle, option);
+
+    const QRect mark = d->place(QRect(0, 1, activeMarkWidth, d->thickness() - 2));
+    if (d->active)
+        painter.fillRect(mark, palette().highlight());
+    if (const int icon = d->iconExtent(); icon > 0) {
+        const QRect onLine(d->margin() + activeMarkWidth, (d->thickness() - icon) / 2, icon, icon);
+        d->dock->windowIcon().paint(&painter, d->place(onLine));
+    }
+    QRect textRect = d->place(d->titleOnLine);
+    if (d->isVertical()) {
+        painter.translate(0, height());
+        painter.rotate(-90);
+        textRect = d->titleOnLine;
+    }
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(textRect, int(Qt::AlignVCenter) | Qt::AlignLeading | Qt::TextSingleLine,
+                     d->elidedTitle);
+}
+
+void EnhancedDockWidgetTitleBar::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    d->arrange();
+}
