@@ -23,6 +23,14 @@ std::unique_ptr<ValueDisplayFormatBase<T>> makeDefaultFormat()
         return std::make_unique<RealNumberDisplayFormat<T>>();
 }
 
+template <typename T>
+std::optional<T> readText(const ValueDisplayFormatBase<T>& format, const QString& text)
+{
+    bool ok = false;
+    T value = format.valueFromFullText(text, &ok);
+    return ok ? std::optional<T>(std::move(value)) : std::nullopt;
+}
+
 /// Runs a step that calls the application's converters; `fallback` when one throws.
 template <typename Step, typename Result>
 Result guarded(const Step& step, const Result& fallback)
@@ -91,10 +99,9 @@ DisplayFormatList<T>::read(const QString& text, int currentIndex, const T& curre
 {
     const Pairs pairs = trialOrder(currentIndex);
     for (const auto& [format, index] : pairs) {
-        bool ok = false;
-        const T value = guarded([&] { return format->valueFromFullText(text, &ok); }, T());
-        if (ok)
-            return {value, index, Reading::Read};
+        const auto step = [&, tried = format] { return readText(*tried, text); };
+        if (const std::optional<T> value = guarded(step, std::optional<T>()))
+            return {*value, index, Reading::Read};
     }
     Reading reading{currentValue, currentIndex, Reading::Unreadable};
     qsizetype longest = -1;
@@ -107,6 +114,13 @@ DisplayFormatList<T>::read(const QString& text, int currentIndex, const T& curre
         }
     }
     return reading;
+}
+
+template <typename T>
+std::optional<T> DisplayFormatList<T>::readWith(int index, const QString& text) const
+{
+    const Format& format = *current(index);
+    return guarded([&] { return readText(format, text); }, std::optional<T>());
 }
 
 template <typename T>

@@ -5,6 +5,7 @@
 
 #include <QVarLengthArray>
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -62,6 +63,8 @@ public:
     /// The first format in the trial order that reads the text gives value and index. Without one,
     /// the longest suffix (the first among equals) gives the index.
     Reading read(const QString& text, int currentIndex, const T& currentValue) const;
+    /// What this one format reads; the default one for an index out of range.
+    std::optional<T> readWith(int index, const QString& text) const;
     /// The text in the current format; empty when its converter throws.
     QString write(const T& value, int currentIndex) const;
     /// Tells the user why no format reads this text.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QtGlobal>
+#include <QObject>
 
 /// Which format an input shows its value in, and which one the user typed last.
 ///

@@ -1,32 +1,60 @@
 # SPDX-License-Identifier: MIT
 set(inputs_headers
+    abstractspinbox.h
     displayaffix.h
     displayformatlist.h
     displayformatswitch.h
+    frequencydisplayformat.h
+    frequencyspinbox.h
     frequencytoaxisstring.h
     integralnumberdisplayformat.h
     numberdisplayformatbase.h
+    numberspinboxbase.h
     qdatetimedisplayformat.h
+    qdatetimespinbox.h
     realnumberdisplayformat.h
     refusalmark.h
+    spinboxbase.h
+    spinboxes.h
+    spinboxmacros.h
     stringformatter.h
     suffixeddouble.h
     typedinput.h
     valuedisplayformatbase.h)
 set(inputs_sources
+    abstractspinbox.cpp
+    accessibleinput.cpp
+    accessibleinput_p.h
+    datetimesections.cpp
+    datetimesections_p.h
+    digitatcursor.cpp
+    digitatcursor_p.h
     displayaffix.cpp
     displayformatlist.cpp
+    frequencydisplayformat.cpp
+    frequencyspinbox.cpp
     frequencytoaxisstring.cpp
     integralnumberdisplayformat.cpp
     numberdisplayformatbase.cpp
+    numberspinboxbase.cpp
     numbertext.cpp
     numbertext_p.h
     qdatetimedisplayformat.cpp
+    qdatetimespinbox.cpp
     realnumberdisplayformat.cpp
     refusalmark.cpp
+    selectionfollower.cpp
+    selectionfollower_p.h
+    spinboxbase.cpp
+    spinboxes.cpp
+    steparithmetic_p.h
     stringformatter.cpp
     suffixeddouble.cpp
     typedinput.cpp
+    typedinputvariant_p.h
     typednumber.cpp
     typednumber_p.h
     valuedisplayformatbase.cpp)
+# The typed classes take Q_OBJECT from macros.
+list(APPEND CMAKE_AUTOMOC_MACRO_NAMES GUIBASE_NUMBER_SPIN_BOX GUIBASE_SPIN_BOX_MEMBERS)
+set_source_files_properties("${CMAKE_CURRENT_LIST_DIR}/spinboxmacros.h" PROPERTIES SKIP_AUTOMOC ON)

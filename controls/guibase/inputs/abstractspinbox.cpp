@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "abstractspinbox.h"
+
+#include "accessibleinput_p.h"
+
+#include <QAccessible>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionSpinBox>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace SpinBoxes {
+
+AbstractSpinBox::AbstractSpinBox(QWidget* parent)
+    : QAbstractSpinBox(parent)
+    , m_formatSwitch(*this)
+    , m_mark(*this)
+{
+    AccessibleInput::install();
+    // The wheel would give the focus, and then change the value.
+    setFocusPolicy(Qt::StrongFocus);
+    QLineEdit* edit = lineEdit();
+    edit->setValidator(nullptr);
+    connect(edit, &QLineEdit::editingFinished, this, &AbstractSpinBox::interpret);
+    connect(edit, &QLineEdit::textEdited, this, &AbstractSpinBox::clearMarkIfReadable);
+    QTimer::singleShot(0, this, &AbstractSpinBox::updateEdit);
+}
+
+AbstractSpinBox::~AbstractSpinBox() = default;
+
+void AbstractSpinBox::setAutoSwitchDisplayFormat(bool automatic)
+{
+    m_formatSwitch.setAutomatic(automatic);
+}
+
+void AbstractSpinBox::setCurrentDisplayFormatIndex(int index)
+{
+    m_formatSwitch.setCurrent(index);
+}
+
+void AbstractSpinBox::setLastUsedDisplayFormatIndex(int index)
+{
+    m_formatSwitch.setLastUsed(index);
+}
+
+int AbstractSpinBox::selectCurrentDisplayFormatIndex() const
+{
+    return lastUsedDisplayFormatIndex();
+}
+
+QLineEdit* AbstractSpinBox::inputLineEdit() const
+{
+    return lineEdit();
+}
+
+void AbstractSpinBox::updateEdit()
+{
+    m_shownText = textValue();
+    QLineEdit* edit = lineEdit();
+    if (edit->text() != m_shownText) {
+        const QSignalBlocker blocker(edit);
+        const bool wasSelected = edit->hasSelectedText();
+        const int cursor = edit->cursorPosition();
+        const bool wasAtEnd = cursor == edit->text().size();
+        edit->setText(m_shownText);
+        if (wasSelected)
+            edit->selectAll();
+        else if (!wasAtEnd && hasFocus())
+            edit->setCursorPosition(cursor);
+    }
+    updateButtons();
+}
+
+void AbstractSpinBox::updateButtons()
+{
+    const StepEnabled steps = stepEnabled();
+    if (steps == m_shownSteps)
+        return;
+    m_shownSteps = steps;
+    QStyleOptionSpinBox option;
+    initStyleOption(&option);
+    for (const auto button : {QStyle::SC_SpinBoxUp, QStyle::SC_SpinBoxDown})
+        update(style()->subControlRect(QStyle::CC_SpinBox, &option, button, this));
+}
+
+bool AbstractSpinBox::isTextChanged() const
+{
+    return lineEdit()->text() != m_shownText;
+}
+
+void AbstractSpinBox::interpretIfTextChanged()
+{
+    if (isTextChanged())
+        interpret();
+}
+
+void AbstractSpinBox::clearMarkIfReadable(const QString& text)
+{
+    if (m_mark.isShown() && isReadable(text))
+        m_mark.clear();
+}
+
+void AbstractSpinBox::tellAccessibleValue()
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleValueChangeEvent event(this, inputQuantity(Quantity::Value));
+    QAccessible::updateAccessibility(&event);
+}
+
+QSize AbstractSpinBox::sizeFor(const QSize& lineEditSize) const
+{
+    constexpr int roomForCursor = 2;
+    int width = 0;
+    for (const QString& sample : sizeSamples())
+        width = std::max(width, fontMetrics().horizontalAdvance(sample));
+    QStyleOptionSpinBox option;
+    initStyleOption(&option);
+    const QSize content(width + roomForCursor, lineEditSize.height());
+    return style()->sizeFromContents(QStyle::CT_SpinBox, &option, content, this);
+}
+
+QSize AbstractSpinBox::sizeHint() const
+{
+    ensurePolished();
+    return sizeFor(lineEdit()->sizeHint());
+}
+
+QSize AbstractSpinBox::minimumSizeHint() const
+{
+    ensurePolished();
+    return sizeFor(lineEdit()->minimumSizeHint());
+}
+
+void AbstractSpinBox::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        interpret();
+        selectAll();
+        event->ignore();
+        Q_EMIT editingFinished();
+        return;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        if (event->modifiers().testFlag(Qt::ControlModifier)) {
+            if (!isReadOnly())
+                stepAtCursor(event->key() == Qt::Key_Up ? 1 : -1);
+            event->accept();
+            return;
+        }
+        [[fallthrough]];
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        // Whether a step is possible depends on the value that was typed.
+        interpretIfTextChanged();
+        break;
+    default:
+        break;
+    }
+    QAbstractSpinBox::keyPressEvent(event);
+}
+
+void AbstractSpinBox::focusInEvent(QFocusEvent* event)
+{
+    QTimer::singleShot(0, this, &AbstractSpinBox::selectAll);
+    QAbstractSpinBox::focusInEvent(event);
+}
+
+void AbstractSpinBox::wheelEvent(QWheelEvent* event)
+{
+    if (!hasFocus()) {
+        event->ignore();
+        return;
+    }
+    interpretIfTextChanged();
+    QAbstractSpinBox::wheelEvent(event);
+}
+
+void AbstractSpinBox::paintEvent(QPaintEvent* event)
+{
+    QAbstractSpinBox::paintEvent(event);
+    m_mark.paint();
+}
+
+} // namespace SpinBoxes

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "frequencyspinbox.h"
+
+#include "frequencydisplayformat.h"
+#include "selectionfollower_p.h"
+
+#include <guibase/services/guibase.h>
+
+namespace SpinBoxes {
+
+FrequencySpinBox::FrequencySpinBox(QWidget* parent)
+    : Int64SpinBox(parent)
+{
+    using enum UnitPrefix::ESuffix;
+    for (const UnitPrefix::ESuffix unit : {BaseUnit, Kilo, Mega, Giga})
+        addDisplayFormat(std::make_unique<FrequencyDisplayFormat>(unit));
+    setRange(0, defaultMaximum);
+    setSingleStep(defaultStep);
+    setFollowingFrequencyUnit(true);
+}
+
+FrequencySpinBox::~FrequencySpinBox() = default;
+
+void FrequencySpinBox::setFollowingFrequencyUnit(bool follow)
+{
+    m_follower.reset();
+    if (!follow)
+        return;
+    m_follower = std::make_unique<SelectionFollower>(GuiBase::Instance().GetFrequencyUnit(),
+                                                     [this] { adoptFrequencyUnit(); });
+    adoptFrequencyUnit();
+}
+
+void FrequencySpinBox::adoptFrequencyUnit()
+{
+    const double unit = GuiBase::Instance().GetFrequencyUnit()->GetValue();
+    setCurrentDisplayFormatIndex(static_cast<int>(unit) - UnitPrefix::BaseUnit);
+}
+
+} // namespace SpinBoxes

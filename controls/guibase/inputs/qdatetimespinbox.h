@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/inputs/spinboxbase.h>
+#include <guibase/inputs/spinboxmacros.h>
+
+#include <memory>
+
+class SelectionFollower;
+
+namespace SpinBoxes {
+
+/// Enters a point in time, shown in the time zone that the application has chosen
+/// (GuiBase::GetTimeZone()).
+///
+/// A typed text without a zone is taken for that zone, one with a zone for its own. Steps change
+/// the section (year, minute, ...) at the cursor, in the chosen zone.
+class GUIBASE_EXPORT QDateTimeSpinBox : public SpinBoxBase<QDateTime>
+{
+    GUIBASE_SPIN_BOX_MEMBERS(SpinBoxBase<QDateTime>, QDateTime)
+public:
+    explicit QDateTimeSpinBox(QWidget* parent = nullptr);
+    ~QDateTimeSpinBox() override;
+
+    void stepBy(int steps) override;
+
+protected:
+    Reading readText(const QString& text) const override;
+    QString textFromValue(QDateTime value) const override;
+    void stepAtCursor(int steps) override;
+
+private:
+    static QDateTime inChosenZone(const QDateTime& time);
+
+    std::unique_ptr<SelectionFollower> m_follower;
+};
+
+} // namespace SpinBoxes

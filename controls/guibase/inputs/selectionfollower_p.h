@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <valueframework/valueselection.h>
+
+#include <functional>
+
+/// Calls an operation whenever another item of a selection becomes current, until the selection or
+/// the follower dies.
+class SelectionFollower : public IObserver
+{
+public:
+    SelectionFollower(ValueSelection* selection, std::function<void()> operation);
+    ~SelectionFollower() override;
+    SelectionFollower(const SelectionFollower&) = delete;
+    SelectionFollower& operator=(const SelectionFollower&) = delete;
+
+    void Update(Observable* observable, TChangeCode code) override;
+
+private:
+    std::function<void()> m_operation;
+};

@@ -1,0 +1,346 @@
+// SPDX-License-Identifier: MIT
+#include "spinboxbase.h"
+
+#include "typedinputvariant_p.h"
+
+#include <QCoreApplication>
+#include <QLineEdit>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <type_traits>
+
+namespace {
+
+/// The width of a field is that of at most so many characters.
+constexpr qsizetype longestNumberSample = 18;
+constexpr qsizetype longestDateSample = 48;
+
+template <typename T>
+bool isValue(const T& value)
+{
+    if constexpr (std::is_same_v<T, QDateTime>)
+        return value.isValid();
+    else if constexpr (std::is_same_v<T, double>)
+        return !std::isnan(value);
+    else
+        return true;
+}
+
+/// Infinite bounds would let infinity in.
+template <typename T>
+T finiteBound(T bound)
+{
+    if constexpr (std::is_same_v<T, double>)
+        return std::clamp(bound, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max());
+    else
+        return bound;
+}
+
+template <typename T>
+T initialValue()
+{
+    if constexpr (std::is_same_v<T, QDateTime>)
+        return QDateTime::fromMSecsSinceEpoch(0, Qt::UTC);
+    else
+        return T(0);
+}
+
+} // namespace
+
+namespace SpinBoxes {
+
+template <typename T>
+SpinBoxBase<T>::SpinBoxBase(QWidget* parent)
+    : AbstractSpinBox(parent)
+    , m_value(initialValue<T>())
+    , m_minimum(minimumLimit())
+    , m_maximum(maximumLimit())
+{}
+
+template <typename T>
+SpinBoxBase<T>::~SpinBoxBase() = default;
+
+template <typename T>
+T SpinBoxBase<T>::minimumLimit()
+{
+    if constexpr (std::is_same_v<T, QDateTime>)
+        return QDateTime(QDate(1752, 9, 15), QTime(0, 0), Qt::UTC);
+    else
+        return std::numeric_limits<T>::lowest();
+}
+
+template <typename T>
+T SpinBoxBase<T>::maximumLimit()
+{
+    if constexpr (std::is_same_v<T, QDateTime>)
+        return QDateTime(QDate(9999, 12, 30), QTime(23, 59, 59, 999), Qt::UTC);
+    else
+        return std::numeric_limits<T>::max();
+}
+
+template <typename T>
+T SpinBoxBase<T>::normalized(T value) const
+{
+    return m_normalize ? normalizeValueToMultipleOfStep(value) : value;
+}
+
+template <typename T>
+T SpinBoxBase<T>::normalizeValueToMultipleOfStep(T value) const
+{
+    return value;
+}
+
+template <typename T>
+void SpinBoxBase<T>::setValue(T value)
+{
+    if (!isValue(value))
+        return;
+    value = normalized(value);
+    if (value == m_value)
+        return;
+    if (!isInRange(value)) {
+        if (correctionMode() == QAbstractSpinBox::CorrectToPreviousValue)
+            return;
+        value = value < m_minimum ? m_minimum : m_maximum;
+        if (value == m_value)
+            return;
+    }
+    m_value = value;
+    refusalMark().clear();
+    switchDisplayFormatIfAutomatic();
+    updateEdit();
+    tellAccessibleValue();
+    valueChanged(value);
+}
+
+template <typename T>
+void SpinBoxBase<T>::moveToBound(const T& bound)
+{
+    m_value = bound;
+    refusalMark().clear();
+    updateEdit();
+    tellAccessibleValue();
+    valueChanged(bound);
+}
+
+template <typename T>
+void SpinBoxBase<T>::setRange(T first, T second)
+{
+    if (!isValue(first) || !isValue(second))
+        return;
+    first = finiteBound(first);
+    second = finiteBound(second);
+    if (second < first)
+        std::swap(first, second);
+    const bool minimumIsNew = first != m_minimum;
+    const bool maximumIsNew = second != m_maximum;
+    if (!minimumIsNew && !maximumIsNew)
+        return;
+    m_minimum = first;
+    m_maximum = second;
+    updateGeometry();
+    updateButtons();
+    if (minimumIsNew) {
+        if (m_value < m_minimum)
+            moveToBound(m_minimum);
+        minimumChanged(m_minimum);
+    }
+    if (maximumIsNew) {
+        if (m_maximum < m_value)
+            moveToBound(m_maximum);
+        maximumChanged(m_maximum);
+    }
+    rangeChanged(m_minimum, m_maximum);
+}
+
+template <typename T>
+void SpinBoxBase<T>::setNormalizeValueToMultipleOfStep(bool normalize)
+{
+    if (normalize == m_normalize)
+        return;
+    m_normalize = normalize;
+    if (normalize)
+        setValue(m_value);
+}
+
+template <typename T>
+void SpinBoxBase<T>::addDisplayFormat(std::unique_ptr<ValueDisplayFormatBase<T>> format)
+{
+    m_formats.add(std::move(format));
+    // The current index may have named this format before it was there.
+    if (currentDisplayFormatIndex() == countDisplayFormats() - 1)
+        updateEdit();
+}
+
+template <typename T>
+ValueDisplayFormatBase<T>* SpinBoxBase<T>::currentDisplayFormat() const
+{
+    return m_formats.current(currentDisplayFormatIndex());
+}
+
+template <typename T>
+int SpinBoxBase<T>::displayFormatIndexByTextSample(const QString& sample, bool* ok) const
+{
+    const Reading reading = readText(sample);
+    if (ok != nullptr)
+        *ok = reading.isKnown();
+    return reading.index;
+}
+
+template <typename T>
+typename SpinBoxBase<T>::Reading SpinBoxBase<T>::readText(const QString& text) const
+{
+    return m_formats.read(text, currentDisplayFormatIndex(), m_value);
+}
+
+template <typename T>
+QString SpinBoxBase<T>::textFromValue(T value) const
+{
+    return m_formats.write(value, currentDisplayFormatIndex());
+}
+
+template <typename T>
+T SpinBoxBase<T>::valueFromText(const QString& text, bool& ok, int& index) const
+{
+    const Reading reading = readText(text);
+    ok = reading.isKnown();
+    index = reading.index;
+    return reading.value;
+}
+
+template <typename T>
+T SpinBoxBase<T>::validateAndInterpret(QString& text, int&, QValidator::State& state,
+                                       int& index) const
+{
+    bool ok = false;
+    const T value = valueFromText(text, ok, index);
+    state = ok && isInRange(value) ? QValidator::Acceptable : QValidator::Invalid;
+    return value;
+}
+
+template <typename T>
+typename DisplayFormatList<T>::Pairs SpinBoxBase<T>::buildDisplayFormatIndexPairs() const
+{
+    return m_formats.trialOrder(currentDisplayFormatIndex());
+}
+
+template <typename T>
+QValidator::State SpinBoxBase<T>::validate(QString& text, int& position) const
+{
+    QValidator::State state = QValidator::Invalid;
+    int index = currentDisplayFormatIndex();
+    validateAndInterpret(text, position, state, index);
+    return state;
+}
+
+template <typename T>
+bool SpinBoxBase<T>::isReadable(const QString& text) const
+{
+    return refusalOf(text, readText(text)).isEmpty();
+}
+
+template <typename T>
+QAbstractSpinBox::StepEnabled SpinBoxBase<T>::stepEnabled() const
+{
+    if (isReadOnly())
+        return StepNone;
+    if (wrapping())
+        return StepUpEnabled | StepDownEnabled;
+    StepEnabled steps = StepNone;
+    steps.setFlag(StepUpEnabled, m_value < m_maximum);
+    steps.setFlag(StepDownEnabled, m_minimum < m_value);
+    return steps;
+}
+
+template <typename T>
+void SpinBoxBase<T>::stepBeyondLimit(bool up)
+{
+    if (correctionMode() == QAbstractSpinBox::CorrectToNearestValue)
+        setValue(up ? m_maximum : m_minimum);
+}
+
+template <typename T>
+QString SpinBoxBase<T>::refusalOf(const QString& text, const Reading& reading) const
+{
+    const int index = reading.index;
+    if (reading.outcome == Reading::Read) {
+        if (correctionMode() != QAbstractSpinBox::CorrectToPreviousValue ||
+            isInRange(normalized(reading.value)))
+            return {};
+        return QCoreApplication::translate("SpinBox", "Enter a value from %1 to %2.")
+            .arg(textFromValue(m_minimum), textFromValue(m_maximum));
+    }
+    if (reading.outcome == Reading::SuffixOnly) {
+        // A unit alone is a way to change the unit.
+        const auto range = m_formats.current(index)->bareRange(text);
+        if (range.start == range.end)
+            return {};
+    }
+    return m_formats.refusalReason(text, index);
+}
+
+template <typename T>
+void SpinBoxBase<T>::interpret()
+{
+    const bool wasChanged = isTextChanged();
+    QString text = lineEdit()->displayText();
+    Reading reading = readText(text);
+    if (!reading.isKnown() || !isInRange(reading.value)) {
+        QString corrected = text;
+        fixup(corrected);
+        if (corrected != text) {
+            text = corrected;
+            reading = readText(text);
+        }
+    }
+    const QString refusal = wasChanged ? refusalOf(text, reading) : QString();
+    if (wasChanged) {
+        refusalMark().clear();
+        setValue(reading.value);
+    }
+    setLastUsedDisplayFormatIndex(reading.index);
+    updateEdit();
+    refusalMark().show(refusal);
+}
+
+template <typename T>
+QStringList SpinBoxBase<T>::sizeSamples() const
+{
+    const qsizetype longest =
+        std::is_same_v<T, QDateTime> ? longestDateSample : longestNumberSample;
+    return {textFromValue(m_minimum).left(longest), textFromValue(m_maximum).left(longest)};
+}
+
+template <typename T>
+QVariant SpinBoxBase<T>::inputQuantity(Quantity quantity) const
+{
+    switch (quantity) {
+    case Quantity::Value:
+        return TypedInputVariant::toVariant(m_value);
+    case Quantity::Minimum:
+        return TypedInputVariant::toVariant(m_minimum);
+    case Quantity::Maximum:
+        return TypedInputVariant::toVariant(m_maximum);
+    case Quantity::SingleStep:
+        break;
+    }
+    return {};
+}
+
+template <typename T>
+bool SpinBoxBase<T>::setInputValue(const QVariant& value)
+{
+    const std::optional<T> typed = TypedInputVariant::fromVariant<T>(value);
+    if (!typed || isReadOnly() || !isEnabled())
+        return false;
+    setValue(*typed);
+    return true;
+}
+
+#define INSTANTIATE(T) template class SpinBoxBase<T>;
+GUIBASE_FOR_EACH_INPUT_TYPE(INSTANTIATE)
+#undef INSTANTIATE
+
+} // namespace SpinBoxes

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// What every typed spin box declares: meta-object, properties, signals and slots under the name
+/// `Type`. The signals implement the operations of `Base`. Beside `Type`, a class that inherits
+/// from `Base` needs no more than its constructor and destructor.
+#define GUIBASE_SPIN_BOX_MEMBERS(Base, Type)                                                       \
+    Q_OBJECT                                                                                       \
+    Q_PROPERTY(Type value READ value WRITE setValue NOTIFY valueChanged USER true)                 \
+    Q_PROPERTY(Type minimum READ minimum WRITE setMinimum NOTIFY minimumChanged)                   \
+    Q_PROPERTY(Type maximum READ maximum WRITE setMaximum NOTIFY maximumChanged)                   \
+public:                                                                                            \
+    using Base::setRange;                                                                          \
+Q_SIGNALS:                                                                                         \
+    void valueChanged(Type value) override;                                                        \
+    void minimumChanged(Type minimum) override;                                                    \
+    void maximumChanged(Type maximum) override;                                                    \
+    void rangeChanged(Type minimum, Type maximum) override;                                        \
+public Q_SLOTS:                                                                                    \
+    void setValue(Type value) override                                                             \
+    {                                                                                              \
+        Base::setValue(value);                                                                     \
+    }                                                                                              \
+    void setMinimum(Type minimum)                                                                  \
+    {                                                                                              \
+        Base::setMinimum(minimum);                                                                 \
+    }                                                                                              \
+    void setMaximum(Type maximum)                                                                  \
+    {                                                                                              \
+        Base::setMaximum(maximum);                                                                 \
+    }                                                                                              \
+    void setRange(Type first, Type second)                                                         \
+    {                                                                                              \
+        Base::setRange(first, second);                                                             \
+    }
+
+/// The declaration of a spin box for one type of numbers.
+#define GUIBASE_NUMBER_SPIN_BOX(Class, Type)                                                       \
+    class GUIBASE_EXPORT Class : public NumberSpinBoxBase<Type>                                    \
+    {                                                                                              \
+        GUIBASE_SPIN_BOX_MEMBERS(NumberSpinBoxBase<Type>, Type)                                    \
+    public:                                                                                        \
+        Q_PROPERTY(Type singleStep READ singleStep WRITE setSingleStep NOTIFY singleStepChanged)   \
+        explicit Class(QWidget* parent = nullptr);                                                 \
+        ~Class() override;                                                                         \
+    Q_SIGNALS:                                                                                     \
+        void singleStepChanged(Type step) override;                                                \
+    public Q_SLOTS:                                                                                \
+        void setSingleStep(Type step) { NumberSpinBoxBase<Type>::setSingleStep(step); }            \
+    };
+
+/// Calls `MACRO(name part, type name)` for the number types, under the names that meta-objects
+/// show.
+#define GUIBASE_FOR_EACH_NUMBER_INPUT(MACRO)                                                       \
+    MACRO(Int8, qint8)                                                                             \
+    MACRO(UInt8, quint8)                                                                           \
+    MACRO(Int16, qint16)                                                                           \
+    MACRO(UInt16, quint16)                                                                         \
+    MACRO(Int32, int)                                                                              \
+    MACRO(UInt32, quint32)                                                                         \
+    MACRO(Int64, qint64)                                                                           \
+    MACRO(UInt64, quint64)                                                                         \
+    MACRO(Double, double)
