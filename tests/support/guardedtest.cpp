@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
+
+#include "support/testguard.h"
+
+#include <QTest>
+
+GuardedTest::GuardedTest() = default;
+GuardedTest::~GuardedTest() = default;
+
+QString GuardedTest::configDir() const
+{
+    return m_guard->configDir();
+}
+
+void GuardedTest::init()
+{
+    m_guard = std::make_unique<TestGuard>();
+    prepare();
+}
+
+void GuardedTest::cleanup()
+{
+    tidy();
+    const QString left = m_guard->finish();
+    m_guard.reset();
+    QCOMPARE(left, QString());
+}

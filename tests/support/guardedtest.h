@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+class TestGuard;
+
+/// The base of test classes: each test function, and each row of one, runs within a TestGuard of
+/// its own, and fails when it leaves a window open. A class that needs more around its functions
+/// overrides prepare() and tidy() instead of having init() and cleanup().
+class GuardedTest : public QObject
+{
+    Q_OBJECT
+public:
+    GuardedTest();
+    ~GuardedTest() override;
+
+protected:
+    /// Runs before each test function, within its guard.
+    virtual void prepare() {}
+    /// Runs behind each test function, within its guard.
+    virtual void tidy() {}
+    QString configDir() const;
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+private:
+    std::unique_ptr<TestGuard> m_guard;
+};
