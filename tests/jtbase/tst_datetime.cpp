@@ -1,63 +1,44 @@
 // SPDX-License-Identifier: MIT
-#include "support/testguard.h"
+#include "support/guardedtest.h"
+#include "support/testrows.h"
 
 #include <jtbase/datetime.h>
 
 #include <QTest>
 
 #include <limits>
-#include <memory>
 
 using Trov::DateTime;
 
-class DateTimeTest : public QObject
+class DateTimeTest : public GuardedTest
 {
     Q_OBJECT
+    using Formats = TestRows<quint64, QString, qint64, QString>;
+
 private Q_SLOTS:
     void initTestCase() { qputenv("TZ", "XYZ-05:30"); }
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
-    {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
     void formats_data()
     {
-        QTest::addColumn<quint64>("microseconds");
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<qint64>("zone");
-        QTest::addColumn<QString>("expected");
         constexpr quint64 time = 1'234'567'890'123'045;
         constexpr quint64 year10000 = 253'402'300'800'000'000;
         const qint64 utc = DateTime::UTC_TimeZone;
         const qint64 local = DateTime::Local_TimeZone;
-        QTest::newRow("default") << time << QString() << utc
-                                 << QStringLiteral("2009-02-13 23:31:30.123");
-        QTest::newRow("local") << time << QString() << local
-                               << QStringLiteral("2009-02-14 05:01:30.123");
-        QTest::newRow("unknown zone")
-            << time << QStringLiteral("hh") << qint64(7) << QStringLiteral("23");
-        QTest::newRow("microseconds")
-            << time << QStringLiteral("ss.zzzuuu") << utc << QStringLiteral("30.123045");
-        QTest::newRow("quoted") << time << QStringLiteral("'uuu' uuu 'it''s uuu'uuuu") << utc
-                                << QStringLiteral("uuu 045 it's uuu045u");
-        QTest::newRow("open quote")
-            << time << QStringLiteral("uuu'uuu") << utc << QStringLiteral("045uuu");
-        QTest::newRow("epoch") << quint64(0) << QString() << utc
-                               << QStringLiteral("1970-01-01 00:00:00.000");
-        QTest::newRow("last") << year10000 - 1 << QStringLiteral("yyyy ss.zzzuuu") << utc
-                              << QStringLiteral("9999 59.999999");
-        QTest::newRow("later") << year10000 << QString() << utc << QString();
-        QTest::newRow("later in local time") << year10000 - 1 << QString() << local << QString();
-        QTest::newRow("end of count")
-            << std::numeric_limits<quint64>::max() << QString() << local << QString();
+        Formats row;
+        row("default", time, "", utc, "2009-02-13 23:31:30.123");
+        row("local", time, "", local, "2009-02-14 05:01:30.123");
+        row("unknown zone", time, "hh", 7, "23");
+        row("quoted", time, "'uuu' uuu 'it''s uuu'uuuu", utc, "uuu 045 it's uuu045u");
+        row("open quote", time, "uuu'uuu", utc, "045uuu");
+        row("epoch", 0, "", utc, "1970-01-01 00:00:00.000");
+        row("last", year10000 - 1, "yyyy ss.zzzuuu", utc, "9999 59.999999");
+        row("later", year10000, "", utc, "");
+        row("later in local time", year10000 - 1, "", local, "");
+        row("end of count", std::numeric_limits<quint64>::max(), "", local, "");
     }
     void formats()
     {
-        QFETCH(quint64, microseconds);
-        QFETCH(QString, format);
-        QFETCH(qint64, zone);
-        QTEST(DateTime(microseconds).toString(format, zone), "expected");
+        const auto& [microseconds, format, zone, expected] = Formats::fetch();
+        QCOMPARE(DateTime(microseconds).toString(format, zone), expected);
     }
     void conversion()
     {
@@ -71,9 +52,6 @@ private Q_SLOTS:
         QCOMPARE(DateTime::fromQDateTime(QDateTime::fromMSecsSinceEpoch(far, Qt::UTC)),
                  std::numeric_limits<quint64>::max());
     }
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
 };
 
 QTEST_GUILESS_MAIN(DateTimeTest)

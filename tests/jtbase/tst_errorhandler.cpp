@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "support/testguard.h"
+#include "support/files.h"
+#include "support/guardedtest.h"
 
 #include <jtbase/errorhandler.h>
 
@@ -16,10 +17,7 @@ namespace {
 
 QStringList linesOf(const QString& fileName)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return QString::fromUtf8(readFile(fileName)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
 class CountedDlg : public IMessageDlg
@@ -39,6 +37,12 @@ private:
     int* m_alive;
 };
 
+void trace(int count)
+{
+    for (; count > 0; --count)
+        ErrorHandler::Trace(ErrorHandler::TracePlatform, "m", 1, QStringLiteral("x"));
+}
+
 /// Traces when everything else is gone: static objects made earlier die later.
 struct TraceAtExit
 {
@@ -47,24 +51,12 @@ struct TraceAtExit
 
 } // namespace
 
-class ErrorHandlerTest : public QObject
+class ErrorHandlerTest : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_guard = std::make_unique<TestGuard>();
-        ErrorHandler::SetTraceFlags(ErrorHandler::defaultTraceFlags);
-    }
-    void cleanup()
-    {
-        ErrorHandler::SetTraceFile(QString());
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
     void maskGatesTraces()
     {
-        QFile::remove(traceFile());
         QVERIFY(ErrorHandler::SetTraceFile(traceFile()));
         ErrorHandler::Trace(ErrorHandler::TraceGuiBase, "module", 1, QStringLiteral("hidden"));
         QVERIFY(!ErrorHandler::IsTraceEnabled(ErrorHandler::TraceGuiBase));
@@ -82,56 +74,42 @@ private Q_SLOTS:
     }
     void fileKeepsWhatItHeld()
     {
-        QFile::remove(traceFile());
-        const auto trace = [] {
-            ErrorHandler::Trace(ErrorHandler::TracePlatform, "m", 1, QString());
-        };
         QVERIFY(ErrorHandler::SetTraceFile(traceFile()));
-        trace();
+        trace(1);
         QVERIFY(ErrorHandler::SetTraceFile(traceFile()));
-        trace();
+        trace(1);
         QVERIFY(!ErrorHandler::SetTraceFile(m_dir.filePath(QStringLiteral("none/trace.log"))));
-        trace();
+        trace(1);
         QVERIFY(ErrorHandler::SetTraceFile(QString()));
-        trace();
+        trace(1);
         QCOMPARE(linesOf(traceFile()).size(), 3);
     }
     void threadsDoNotMixLines()
     {
-        constexpr int threadCount = 4;
-        constexpr int traceCount = 2000;
-        QFile::remove(traceFile());
         QVERIFY(ErrorHandler::SetTraceFile(traceFile()));
         const QtMessageHandler former =
             qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
         {
             std::vector<std::jthread> threads;
-            for (int thread = 0; thread < threadCount; ++thread) {
-                threads.emplace_back([] {
-                    for (int i = 0; i < traceCount; ++i)
-                        ErrorHandler::Trace(ErrorHandler::TracePlatform, "m", 1,
-                                            QStringLiteral("x"));
-                });
-            }
+            for (int thread = 0; thread < 4; ++thread)
+                threads.emplace_back([] { trace(2000); });
         }
         qInstallMessageHandler(former);
         const QStringList lines = linesOf(traceFile());
-        QCOMPARE(lines.size(), threadCount * traceCount);
+        QCOMPARE(lines.size(), 4 * 2000);
         for (const QString& line : lines)
             QVERIFY(line.endsWith(QStringLiteral("Z m(1): x")));
     }
     void assertionIsReported()
     {
         const bool holds = false;
-        QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral(
-                                            "^unit\\(\\d+\\): assertion failed: holds$")));
+        expectTrace("^unit\\(\\d+\\): assertion failed: holds$");
         QVERIFY(!TROV_ASSERT(holds, "unit"));
         QVERIFY(TROV_ASSERT(!holds, "unit"));
     }
     void dialogIsOwned()
     {
         int alive = 0;
-        QVERIFY(ErrorHandler::GetMessageDlg() == nullptr);
         ErrorHandler::SetMessageDlg(std::make_unique<CountedDlg>(&alive));
         ErrorHandler::SetMessageDlg(std::make_unique<CountedDlg>(&alive));
         QCOMPARE(alive, 1);
@@ -142,10 +120,15 @@ private Q_SLOTS:
     }
 
 private:
+    void prepare() override
+    {
+        QFile::remove(traceFile());
+        ErrorHandler::SetTraceFlags(ErrorHandler::defaultTraceFlags);
+    }
+    void tidy() override { ErrorHandler::SetTraceFile(QString()); }
     QString traceFile() const { return m_dir.filePath(QStringLiteral("trace.log")); }
 
     QTemporaryDir m_dir;
-    std::unique_ptr<TestGuard> m_guard;
 };
 
 QTEST_GUILESS_MAIN(ErrorHandlerTest)

@@ -1,49 +1,35 @@
 // SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testguard.h"
 
 #include <jtbase/geometryarrayparser.h>
 
 #include <QTest>
 
 #include <limits>
-#include <memory>
 
 using Rows = QList<QList<int>>;
 
-class GeometryArrayParserTest : public QObject
+class GeometryArrayParserTest : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
-    {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-    void rows_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<std::optional<Rows>>("expected");
-        const auto row = [](const char* text, const std::optional<Rows>& expected) {
-            QTest::addRow("<%s>", text) << QString::fromLatin1(text) << expected;
-        };
-        row("", Rows{});
-        row("120,0,0;80,1,1;", Rows{{120, 0, 0}, {80, 1, 1}});
-        row(" ;; -5 , 6 ; 7", Rows{{-5, 6}, {7}});
-        row("2147483647,-2147483648;", Rows{{2147483647, std::numeric_limits<int>::min()}});
-        for (const char* broken :
-             {"2147483648;", "1,,2;", "1,;", ",;", "1.5;", "0x5;", "1 2;", "a;"})
-            row(broken, std::nullopt);
-    }
     void rows()
     {
-        QFETCH(QString, text);
-        QFETCH(std::optional<Rows>, expected);
-        const std::optional<Rows> rows = GeometryArrayParser::parseRows(text);
-        QCOMPARE(rows, expected);
-        if (rows)
+        const std::pair<const char*, std::optional<Rows>> texts[] = {
+            {"", Rows{}},
+            {"120,0,0;80,1,1;", Rows{{120, 0, 0}, {80, 1, 1}}},
+            {" ;; -5 , 6 ; 7", Rows{{-5, 6}, {7}}},
+            {"2147483647,-2147483648;", Rows{{2147483647, std::numeric_limits<int>::min()}}},
+        };
+        for (const auto& [text, expected] : texts) {
+            const auto rows = GeometryArrayParser::parseRows(QString::fromLatin1(text));
+            QCOMPARE(rows, expected);
             QCOMPARE(GeometryArrayParser::parseRows(GeometryArrayParser::formatRows(*rows)), rows);
+        }
+        for (const char* broken :
+             {"2147483648;", "1,,2;", "1,;", ",;", "1.5;", "0x5;", "1 2;", "a;"})
+            QVERIFY2(!GeometryArrayParser::parseRows(QString::fromLatin1(broken)), broken);
     }
     void limits()
     {
@@ -78,9 +64,6 @@ private Q_SLOTS:
             QCOMPARE(GeometryArrayParser::parseRows(GeometryArrayParser::formatRows(*rows)), rows);
         }
     }
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
 };
 
 QTEST_GUILESS_MAIN(GeometryArrayParserTest)

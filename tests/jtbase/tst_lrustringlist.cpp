@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "support/testguard.h"
+#include "support/guardedtest.h"
 
 #include <jtbase/lrustringlist.h>
 
 #include <QTest>
-
-#include <memory>
 
 namespace {
 
@@ -16,16 +14,10 @@ QStringList letters(const char* text)
 
 } // namespace
 
-class LruStringListTest : public QObject
+class LruStringListTest : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
-    {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
     void keepsDistinctStringsInOrder()
     {
         LruStringList list(3);
@@ -52,9 +44,6 @@ private Q_SLOTS:
         QVERIFY(!list.Append(QStringLiteral("a")));
         QCOMPARE(list.GetCount(), 0);
     }
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
 };
 
 QTEST_GUILESS_MAIN(LruStringListTest)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testguard.h"
+#include "support/testrows.h"
 
 #include <jtbase/numberhelpers.h>
 
@@ -9,16 +10,15 @@
 
 #include <cmath>
 #include <limits>
-#include <memory>
 
 namespace {
 
 template <typename T>
-std::optional<T> read(const QString& text, const QLocale& locale)
+std::optional<double> read(const QString& text, const QLocale& locale)
 {
     bool ok = false;
     const T value = NumberHelpers::parse<T>(text, locale, &ok);
-    return ok ? std::optional<T>(value) : std::nullopt;
+    return ok ? std::optional(static_cast<double>(value)) : std::nullopt;
 }
 
 /// The text of a magnitude greater by one, by hand as no type holds all of them.
@@ -34,7 +34,7 @@ QString incremented(QString digits, int base)
 }
 
 template <typename T>
-void checkLimits()
+void checkLimitsOf()
 {
     constexpr T highest = std::numeric_limits<T>::max();
     constexpr T lowest = std::numeric_limits<T>::min();
@@ -56,6 +56,17 @@ void checkLimits()
     }
 }
 
+template <typename... Types>
+void checkLimits()
+{
+    (checkLimitsOf<Types>(), ...);
+}
+
+QStringList words(const char* text)
+{
+    return QString::fromLatin1(text).split(u'|');
+}
+
 QLocale grouping(const QString& name)
 {
     QLocale locale(name);
@@ -65,26 +76,17 @@ QLocale grouping(const QString& name)
 
 } // namespace
 
-class NumberHelpersTest : public QObject
+class NumberHelpersTest : public GuardedTest
 {
     Q_OBJECT
+    using Value = std::optional<double>;
+    using Texts = TestRows<QLocale, QString, Value, Value>;
+
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
+    void limitsOfIntegerTypes()
     {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-    void limitsOfEveryIntegerType()
-    {
-        checkLimits<signed char>();
-        checkLimits<unsigned char>();
-        checkLimits<short>();
-        checkLimits<unsigned short>();
-        checkLimits<int>();
-        checkLimits<unsigned int>();
-        checkLimits<qint64>();
-        checkLimits<quint64>();
+        checkLimits<signed char, unsigned char, short, unsigned short>();
+        checkLimits<int, unsigned int, qint64, quint64>();
     }
     void basesOutsideTheRange()
     {
@@ -100,60 +102,43 @@ private Q_SLOTS:
     }
     void texts_data()
     {
-        using Value = std::optional<double>;
-        QTest::addColumn<QLocale>("locale");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<Value>("integer");
-        QTest::addColumn<Value>("real");
-
-        const auto row = [](const char* locale, const QString& text, Value integer, Value real) {
-            QTest::addRow("%s %s", locale, qPrintable(text))
-                << grouping(QString::fromLatin1(locale)) << text << integer << real;
-        };
+        Texts row;
         const Value none;
-        const QString german = QStringLiteral("de_DE");
-        row("de_DE", QStringLiteral(" \u00A0-12\t"), -12, -12);
-        row("de_DE", QStringLiteral("\u22127"), -7, -7);
-        row("de_DE", QStringLiteral("\uFF0B\uFF11\uFF12"), 12, 12);
-        row("de_DE", QStringLiteral("1.234.567"), 1234567, 1234567);
-        row("de_DE", QStringLiteral("1.234,5"), none, 1234.5);
-        row("de_DE", QStringLiteral("-,5e+2"), none, -50);
-        row("de_DE", QStringLiteral("5,"), none, 5);
-        row("hi_IN", QStringLiteral("12,34,567"), 1234567, 1234567);
-        row("hi_IN", QStringLiteral("1,234,567"), none, none);
-        row("fr_FR", QStringLiteral("12 345,5"), none, 12345.5);
-        row("fr_FR", QStringLiteral("12\u202F345"), 12345, 12345);
-        row("fr_FR", QStringLiteral("12\u00A0345"), 12345, 12345);
-        row("fr_FR", QStringLiteral("12 34"), none, none);
-        row("de_CH", QStringLiteral("1'234"), 1234, 1234);
-        row("es_ES", QStringLiteral("1.234"), 1234, 1234);
-        row("ar_EG", QStringLiteral("\u0661\u066C\u0662\u0663\u0664"), 1234, 1234);
-        row("ar_EG", QStringLiteral("\u0661\u066B\u0665"), none, 1.5);
-        row("ar_EG", QStringLiteral("1.5"), none, 1.5);
-        const char* garbage[] = {"",        "-",      "+-5",       "--5", "- 5",    "5-",
-                                 "0x10",    "1 2",    "inf",       "nan", "1e",     "e5",
-                                 "1.23",    "1.2345", ".123",      "1.",  "1..234", "1.234.5",
-                                 "1,5,6",   "1e1,5",  "12345.678", ",",   "1e400",  "1e-400",
-                                 "1,2.345", "1,e5.0", "1.234.,5"};
-        for (const char* text : garbage)
-            row("de_DE", QString::fromLatin1(text), none, none);
-        QTest::newRow("surrogate alone")
-            << QLocale(german) << QString(QChar(0xD835)) << none << none;
-
-        QLocale strict = grouping(german);
+        const QLocale german = grouping(QStringLiteral("de_DE"));
+        const QLocale french = grouping(QStringLiteral("fr_FR"));
+        const QLocale hindi = grouping(QStringLiteral("hi_IN"));
+        const QLocale arabic = grouping(QStringLiteral("ar_EG"));
+        row.add(german, " \u00A0-12\t", -12, -12);
+        row.add(german, "\u22127", -7, -7);
+        row.add(german, "\uFF0B\uFF11\uFF12", 12, 12);
+        row.add(german, "1.234.567", 1234567, 1234567);
+        row.add(german, "1.234,5", none, 1234.5);
+        row.add(german, "-,5e+2", none, -50);
+        row.add(german, "5,", none, 5);
+        row.add(hindi, "12,34,567", 1234567, 1234567);
+        row.add(hindi, "1,234,567", none, none);
+        row.add(french, "12 345,5", none, 12345.5);
+        row.add(french, "12\u202F345", 12345, 12345);
+        row.add(french, "12\u00A0345", 12345, 12345);
+        row.add(french, "12 34", none, none);
+        row.add(grouping(QStringLiteral("de_CH")), "1'234", 1234, 1234);
+        row.add(grouping(QStringLiteral("es_ES")), "1.234", 1234, 1234);
+        row.add(arabic, "\u0661\u066C\u0662\u0663\u0664", 1234, 1234);
+        row.add(arabic, "\u0661\u066B\u0665", none, 1.5);
+        row.add(arabic, "1.5", none, 1.5);
+        row.add(german, QString(QChar(0xD835)), none, none);
+        for (const QString& text : words("|-|+-5|--5|- 5|5-|0x10|1 2|inf|nan|1e|e5|1.23|1.2345|"
+                                         ".123|1.|1..234|1.234.5|1,5,6|1e1,5|12345.678|,|1e400|"
+                                         "1e-400|1,2.345|1,e5.0|1.234.,5"))
+            row.add(german, text, none, none);
+        QLocale strict = german;
         strict.setNumberOptions(QLocale::RejectGroupSeparator);
-        QTest::newRow("group separators rejected")
-            << strict << QStringLiteral("1.234") << none << none;
+        row.add(strict, "1.234", none, none);
     }
     void texts()
     {
-        QFETCH(QLocale, locale);
-        QFETCH(QString, text);
-        QFETCH(std::optional<double>, integer);
-        QFETCH(std::optional<double>, real);
-        const std::optional<int> readInteger = read<int>(text, locale);
-        QCOMPARE(readInteger.has_value(), integer.has_value());
-        QCOMPARE(readInteger.value_or(0), static_cast<int>(integer.value_or(0)));
+        const auto& [locale, text, integer, real] = Texts::fetch();
+        QCOMPARE(read<int>(text, locale), integer);
         QCOMPARE(read<double>(text, locale), real);
     }
     void everyLocaleReadsWhatItWrites()
@@ -163,10 +148,9 @@ private Q_SLOTS:
         QVERIFY(locales.size() > 100);
         for (QLocale locale : locales) {
             locale.setNumberOptions(QLocale::DefaultNumberOptions);
-            for (qint64 value :
-                 {Q_INT64_C(0), Q_INT64_C(-4321), std::numeric_limits<qint64>::min()}) {
-                QVERIFY2(read<qint64>(locale.toString(value), locale) == value,
-                         qPrintable(locale.name() + locale.toString(value)));
+            for (qint64 value : {Q_INT64_C(-4321), std::numeric_limits<qint64>::min()}) {
+                const QString text = locale.toString(value);
+                QVERIFY2(NumberHelpers::parse<qint64>(text, locale) == value, qPrintable(text));
             }
             for (double value : {-0.5, 1234567.875, 1.25e-30}) {
                 for (char format : {'f', 'e'}) {
@@ -210,40 +194,33 @@ private Q_SLOTS:
             QCOMPARE(Trov::toDoubleEx(exact), value);
         }
     }
-    void decimalTexts_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<std::optional<double>>("expected");
-        const auto row = [](const QString& text, std::optional<double> expected) {
-            QTest::addRow("<%s>", qPrintable(text)) << text << expected;
-        };
-        row(QStringLiteral("  145.5 "), 145.5);
-        row(QStringLiteral("145,5"), 145.5);
-        row(QStringLiteral("1,234"), 1.234);
-        row(QStringLiteral("1,234.5"), 1234.5);
-        row(QStringLiteral("-1.234.567,25e-2"), -12345.6725);
-        row(QStringLiteral("1,234,567"), 1234567);
-        row(QStringLiteral("+.5E3"), 500);
-        row(QStringLiteral("\u2212\uFF15\uFF0C\uFF15"), -5.5);
-        row(QStringLiteral("4.9406564584124654e-324"), 4.9406564584124654e-324);
-        row(QStringLiteral("1.7976931348623157e308"), std::numeric_limits<double>::max());
-        row(QStringLiteral("0e-999999999999"), 0.0);
-        const char* garbage[] = {
-            "",      "x",       "+-1",  "1.2,3",  "1,23.4",    "1,,234",    "1,2345,678",
-            "1.e,5", "1e1.2.3", ",,",   "1,234,", "1,234.5,6", "inf",       "nan",
-            "1e999", "1e-999",  "12 5", "1-1",    "1,234-.5",  "-,234,567", "1e1,234,567"};
-        for (const char* text : garbage)
-            row(QString::fromLatin1(text), std::nullopt);
-    }
     void decimalTexts()
     {
-        QFETCH(QString, text);
-        QFETCH(std::optional<double>, expected);
+        const std::pair<const char*, double> texts[] = {
+            {"  145.5 ", 145.5},
+            {"145,5", 145.5},
+            {"1,234", 1.234},
+            {"1,234.5", 1234.5},
+            {"-1.234.567,25e-2", -12345.6725},
+            {"1,234,567", 1234567},
+            {"+.5E3", 500},
+            {"\u2212\uFF15\uFF0C\uFF15", -5.5},
+            {"4.9406564584124654e-324", 4.9406564584124654e-324},
+            {"1.7976931348623157e308", std::numeric_limits<double>::max()},
+            {"0e-999999999999", 0.0},
+        };
         bool ok = false;
-        const double value = Trov::toDoubleEx(text, &ok);
-        QCOMPARE(ok, expected.has_value());
-        QCOMPARE(value, expected.value_or(0.0));
-        QCOMPARE(Trov::toDoubleEx(text), value);
+        for (const auto& [text, expected] : texts) {
+            QCOMPARE(Trov::toDoubleEx(QString::fromUtf8(text), &ok), expected);
+            QVERIFY2(ok, text);
+        }
+        for (const QString& text : words("|x|+-1|1.2,3|1,23.4|1,,234|1,2345,678|1.e,5|1e1.2.3|,,|"
+                                         "1,234,|1,234.5,6|inf|nan|1e999|1e-999|12 5|1-1|1,234-.5|"
+                                         "-,234,567|1e1,234,567")) {
+            QCOMPARE(Trov::toDoubleEx(text, &ok), 0.0);
+            QVERIFY2(!ok, qPrintable(text));
+        }
+        QCOMPARE(Trov::toDoubleEx(QStringLiteral("1,5")), 1.5);
     }
     void hugeTexts()
     {
@@ -267,9 +244,6 @@ private Q_SLOTS:
             QVERIFY(!ok);
         }
     }
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
 };
 
 QTEST_GUILESS_MAIN(NumberHelpersTest)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/testguard.h"
+#include "support/guardedtest.h"
 
 #include <jtbase/qtimerhelpers.h>
 
@@ -12,16 +12,10 @@
 
 using QTimerHelpers::singleShot;
 
-class QTimerHelpersTest : public QObject
+class QTimerHelpersTest : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
-    {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
     void callsOnceAndGoes()
     {
         int calls = 0;
@@ -71,9 +65,6 @@ private Q_SLOTS:
         QTRY_VERIFY(findChildren<QTimer*>().isEmpty());
         QCOMPARE(calls, 1);
     }
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
 };
 
 QTEST_GUILESS_MAIN(QTimerHelpersTest)

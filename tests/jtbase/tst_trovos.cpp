@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/testguard.h"
+#include "support/guardedtest.h"
 
 #include <jtbase/trovos.h>
 
@@ -10,19 +10,13 @@
 
 #include <memory>
 
-class TrovOsTest : public QObject
+class TrovOsTest : public GuardedTest
 {
     Q_OBJECT
 public Q_SLOTS:
     void takeUrl(const QUrl& url) { m_opened.append(url); }
 
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
-    {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
     void opensFilesOnly()
     {
         QTemporaryFile file(QDir::tempPath() + QStringLiteral("/a #1 %20 XXXXXX.html"));
@@ -38,20 +32,8 @@ private Q_SLOTS:
             QtWarningMsg, QRegularExpression(QStringLiteral("does not support QPlatformServices")));
         QCOMPARE(TrovOS::Get()->OpenFile(file.fileName()), TrovOS::noAssociation);
     }
-    void canBeReplaced()
-    {
-        class OwnOs : public TrovOS
-        {
-            int OpenFile(const QString&) override { return 77; }
-        };
-        TrovOS::Set(std::make_unique<OwnOs>());
-        QCOMPARE(TrovOS::Get()->OpenFile(QString()), 77);
-        TrovOS::Set(nullptr);
-        QCOMPARE(TrovOS::Get()->OpenFile(QString()), TrovOS::fileNotFound);
-    }
 
 private:
-    std::unique_ptr<TestGuard> m_guard;
     QList<QUrl> m_opened;
 };
 
