@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/randombytes.h"
+#include "support/testrows.h"
 
 #include <trovappstartup/cfgdocument_p.h>
 
@@ -36,20 +37,15 @@ QStringList somePath(RandomBytes& random)
 void changeSomething(RandomBytes& random, CfgDocument& document)
 {
     const QStringList path = somePath(random);
-    switch (random.below(8)) {
-    case 0:
+    const int action = random.below(8);
+    if (action == 0)
         document.removeSub(path);
-        break;
-    case 1:
-    case 2:
+    else if (action < 3)
         document.setValue(path, someName(random), QJsonValue(QJsonValue::Undefined));
-        break;
-    case 3:
+    else if (action == 3)
         document.setValue(path, someName(random), QString::fromUtf8(random.bytes(8)));
-        break;
-    default:
+    else
         document.setValue(path, someName(random), random.below(100));
-    }
 }
 
 } // namespace
@@ -57,121 +53,111 @@ void changeSomething(RandomBytes& random, CfgDocument& document)
 class TestCfgDocument : public QObject
 {
     Q_OBJECT
+    using Texts = TestRows<QByteArray>;
+
 private Q_SLOTS:
-    void refusesWhatIsNoConfiguration_data();
-    void refusesWhatIsNoConfiguration();
-    void keepsWhatItCannotInterpret();
-    void changesMakeTheSameTreeAgain();
-    void changesOfTwoProcessesMeet();
-    void survivesAnyBytes();
-};
-
-void TestCfgDocument::refusesWhatIsNoConfiguration_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    const auto nested = [](const char* open, const char* close, int levels) {
-        return QByteArray(open).repeated(levels) + "{}" + QByteArray(close).repeated(levels);
-    };
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("array") << QByteArray("[1]");
-    QTest::newRow("cut") << QByteArray("{\"a\": {\"b\": 1}");
-    QTest::newRow("not UTF-8") << QByteArray("{\"a\": \"\xff\"}");
-    QTest::newRow("zeros") << QByteArray(4096, '\0');
-    QTest::newRow("deep") << nested("{\"a\":", "}", 201);
-    QTest::newRow("deeper than the parser goes") << nested("{\"a\":", "}", 100000);
-    QTest::newRow("deep array") << "{\"a\":" + nested("[", "]", 100000) + "}";
-    QTest::newRow("value under the empty name") << QByteArray("{\"\": 1}");
-    QTest::newRow("values under the empty name") << QByteArray("{\"\": {\"a\": 1}}");
-    QTest::newRow("huge") << "{\"a\":\"" + QByteArray(CfgDocument::maximumTextSize, 'x') + "\"}";
-}
-
-void TestCfgDocument::refusesWhatIsNoConfiguration()
-{
-    QFETCH(QByteArray, text);
-    QString reason;
-    QVERIFY(!CfgDocument::fromText(text, &reason));
-    QVERIFY(!reason.isEmpty());
-}
-
-void TestCfgDocument::keepsWhatItCannotInterpret()
-{
-    CfgDocument document = documentOf("{\"list\": [1, {\"x\": null}], \"none\": null, "
-                                      "\"big\": 9007199254740993, \"real\": 0.1, \"s\": {}}");
-    document.setValue({QStringLiteral("s")}, QStringLiteral("k"), true);
-    QCOMPARE(document.toText().simplified(),
-             QByteArray("{ \"big\": 9007199254740993, \"list\": [ 1, { \"x\": null } ], "
-                        "\"none\": null, \"real\": 0.1, \"s\": { \"k\": true } }"));
-}
-
-// Whatever was done to a document, its changes applied to what it was read from give the document.
-void TestCfgDocument::changesMakeTheSameTreeAgain()
-{
-    RandomBytes random("changesMakeTheSameTreeAgain");
-    for (int round = RandomBytes::rounds(2000); round > 0; --round) {
-        CfgDocument start;
-        for (int i = random.below(20); i > 0; --i)
-            changeSomething(random, start);
-        const QByteArray text = start.toText();
-        CfgDocument document = documentOf(text);
-        QCOMPARE(document.toText(), text);
-        for (int i = random.below(20); i > 0; --i)
-            changeSomething(random, document);
-        const QByteArray changed = document.toText();
-        QVERIFY(document.isChanged() || changed == text);
-        document.rebase(documentOf(text));
-        QCOMPARE(document.toText(), changed);
+    void refusesWhatIsNoConfiguration_data()
+    {
+        Texts row;
+        const auto nested = [](const char* open, const char* close, int levels) {
+            return QByteArray(open).repeated(levels) + "{}" + QByteArray(close).repeated(levels);
+        };
+        row("empty", "");
+        row("array", "[1]");
+        row("cut", "{\"a\": {\"b\": 1}");
+        row("not UTF-8", "{\"a\": \"\xff\"}");
+        row("zeros", QByteArray(4096, '\0'));
+        row("deep", nested("{\"a\":", "}", 201));
+        row("deeper than the parser goes", nested("{\"a\":", "}", 100000));
+        row("deep array", "{\"a\":" + nested("[", "]", 100000) + "}");
+        row("value under the empty name", "{\"\": 1}");
+        row("values under the empty name", "{\"\": {\"a\": 1}}");
+        row("huge", "{\"a\":\"" + QByteArray(CfgDocument::maximumTextSize, 'x') + "\"}");
     }
-}
-
-void TestCfgDocument::changesOfTwoProcessesMeet()
-{
-    const QString a = QStringLiteral("a");
-    const QString b = QStringLiteral("b");
-    const QString key = QStringLiteral("key");
-    const QByteArray text = "{\"a\": {\"key\": 1, \"old\": 1}, \"b\": {\"key\": 1}, \"c\": 1}";
-    CfgDocument mine = documentOf(text);
-    CfgDocument theirs = documentOf(text);
-    theirs.setValue({a}, QStringLiteral("theirs"), 2);
-    theirs.setValue({b}, key, 2);
-    theirs.setValue({}, QStringLiteral("c"), QJsonValue(QJsonValue::Undefined));
-    mine.removeSub({a});
-    mine.setValue({a}, key, 3);
-    mine.setValue({b}, key, 1); // no change, so theirs stays
-    mine.rebase(std::move(theirs));
-    QCOMPARE(mine.toText().simplified(),
-             QByteArray("{ \"a\": { \"key\": 3 }, \"b\": { \"key\": 2 } }"));
-}
-
-void TestCfgDocument::survivesAnyBytes()
-{
-    RandomBytes random("survivesAnyBytes");
-    CfgDocument seed;
-    for (int i = 0; i < 40; ++i)
-        changeSomething(random, seed);
-    const QByteArray good = seed.toText();
-    int read = 0;
-    const int rounds = RandomBytes::rounds(3000);
-    for (int round = 0; round < rounds; ++round) {
-        QByteArray text = round % 4 == 0 ? random.bytes(300) : good;
-        if (round % 4 == 1)
-            text = random.mutated(good);
-        for (int i = round % 4 - 1; i > 0; --i) {
-            static const QByteArray bytes = "{}[]\\\",: aun-.eE019";
-            text[random.below(static_cast<int>(text.size()))] =
-                bytes.at(random.below(static_cast<int>(bytes.size())));
-        }
+    void refusesWhatIsNoConfiguration()
+    {
         QString reason;
-        const auto document = CfgDocument::fromText(text, &reason);
-        QCOMPARE(reason.isEmpty(), document.has_value());
-        if (!document)
-            continue;
-        ++read;
-        const QByteArray written = document->toText();
-        QCOMPARE(documentOf(written).toText(), written);
+        QVERIFY(!CfgDocument::fromText(std::get<0>(Texts::fetch()), &reason));
+        QVERIFY(!reason.isEmpty());
     }
-    qInfo("%d of %d texts were configurations", read, rounds);
-    QVERIFY(read > 0 && read < rounds);
-}
+    void keepsWhatItCannotInterpret()
+    {
+        CfgDocument document = documentOf("{\"list\": [1, {\"x\": null}], \"none\": null, "
+                                          "\"big\": 9007199254740993, \"real\": 0.1, \"s\": {}}");
+        document.setValue({QStringLiteral("s")}, QStringLiteral("k"), true);
+        QCOMPARE(document.toText().simplified(),
+                 QByteArray("{ \"big\": 9007199254740993, \"list\": [ 1, { \"x\": null } ], "
+                            "\"none\": null, \"real\": 0.1, \"s\": { \"k\": true } }"));
+    }
+    // Whatever was done to a document, its changes applied to what it was read from give the
+    // document.
+    void changesMakeTheSameTreeAgain()
+    {
+        RandomBytes random("changesMakeTheSameTreeAgain");
+        for (int round = RandomBytes::rounds(2000); round > 0; --round) {
+            CfgDocument start;
+            for (int i = random.below(20); i > 0; --i)
+                changeSomething(random, start);
+            const QByteArray text = start.toText();
+            CfgDocument document = documentOf(text);
+            QCOMPARE(document.toText(), text);
+            for (int i = random.below(20); i > 0; --i)
+                changeSomething(random, document);
+            const QByteArray changed = document.toText();
+            QVERIFY(document.isChanged() || changed == text);
+            document.rebase(documentOf(text));
+            QCOMPARE(document.toText(), changed);
+        }
+    }
+    void changesOfTwoProcessesMeet()
+    {
+        const QString a = QStringLiteral("a");
+        const QString b = QStringLiteral("b");
+        const QString key = QStringLiteral("key");
+        const QByteArray text = "{\"a\": {\"key\": 1, \"old\": 1}, \"b\": {\"key\": 1}, \"c\": 1}";
+        CfgDocument mine = documentOf(text);
+        CfgDocument theirs = documentOf(text);
+        theirs.setValue({a}, QStringLiteral("theirs"), 2);
+        theirs.setValue({b}, key, 2);
+        theirs.setValue({}, QStringLiteral("c"), QJsonValue(QJsonValue::Undefined));
+        mine.removeSub({a});
+        mine.setValue({a}, key, 3);
+        mine.setValue({b}, key, 1); // no change, so theirs stays
+        mine.rebase(std::move(theirs));
+        QCOMPARE(mine.toText().simplified(),
+                 QByteArray("{ \"a\": { \"key\": 3 }, \"b\": { \"key\": 2 } }"));
+    }
+    void survivesAnyBytes()
+    {
+        RandomBytes random("survivesAnyBytes");
+        CfgDocument seed;
+        for (int i = 0; i < 40; ++i)
+            changeSomething(random, seed);
+        const QByteArray good = seed.toText();
+        int read = 0;
+        const int rounds = RandomBytes::rounds(3000);
+        for (int round = 0; round < rounds; ++round) {
+            QByteArray text = round % 4 == 0 ? random.bytes(300) : good;
+            if (round % 4 == 1)
+                text = random.mutated(good);
+            for (int i = round % 4 - 1; i > 0; --i) {
+                static const QByteArray bytes = "{}[]\\\",: aun-.eE019";
+                text[random.below(static_cast<int>(text.size()))] =
+                    bytes.at(random.below(static_cast<int>(bytes.size())));
+            }
+            QString reason;
+            const auto document = CfgDocument::fromText(text, &reason);
+            QCOMPARE(reason.isEmpty(), document.has_value());
+            if (!document)
+                continue;
+            ++read;
+            const QByteArray written = document->toText();
+            QCOMPARE(documentOf(written).toText(), written);
+        }
+        qInfo("%d of %d texts were configurations", read, rounds);
+        QVERIFY(read > 0 && read < rounds);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestCfgDocument)
 #include "tst_cfgdocument.moc"

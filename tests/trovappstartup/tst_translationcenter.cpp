@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "support/testguard.h"
+#include "support/files.h"
+#include "support/guardedtest.h"
+#include "support/testrows.h"
 
 #include <trovappstartup/cfgcenter.h>
 #include <trovappstartup/translationcenter.h>
 
 #include <QCoreApplication>
 #include <QDataStream>
-#include <QFile>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <memory>
 
 namespace {
 
@@ -20,14 +18,8 @@ namespace {
 /// table of hashes (of the source text, as in object files of the ELF format) that leads to it.
 QByteArray translationFile(const QString& translation)
 {
-    enum Tag : quint8 {
-        End = 1,
-        Translation = 3,
-        SourceText = 6,
-        Context = 7,
-        Hashes = 0x42,
-        Messages = 0x69
-    };
+    enum Tag : quint8 { End = 1, Translation = 3, SourceText = 6, Context = 7 };
+    enum Section : quint8 { Hashes = 0x42, Messages = 0x69 };
     const QByteArray source = "Hello";
     quint32 hash = 0;
     for (const char character : source) {
@@ -54,80 +46,53 @@ QByteArray translationFile(const QString& translation)
     return file;
 }
 
-QString hello()
-{
-    return QCoreApplication::translate("Test", "Hello");
-}
-
 } // namespace
 
-class TestTranslationCenter : public QObject
+class TestTranslationCenter : public GuardedTest
 {
     Q_OBJECT
+    using Languages = TestRows<QString, QString, QString, const char*>;
+
 private Q_SLOTS:
-    void init() { guard = std::make_unique<TestGuard>(); }
-    void cleanup()
+    void installsTheConfiguredLanguage_data()
     {
-        QCOMPARE(guard->finish(), QString());
-        guard.reset();
+        Languages row;
+        row.add("de", "Hallo", "de_DE", "");
+        row.add("de_AT", "Servus", "de_AT", "");
+        row.add("de-CH", "Hallo", "de_CH", "");
+        row.add("fr", "Hello", "fr_FR", "is no translation file");
+        row.add("it", "Hello", "it_IT", "");
+        row.add("../de", "Hello", "", "is no language");
+        row.add("", "Hello", "", "");
     }
-    void installsTheConfiguredLanguage_data();
-    void installsTheConfiguredLanguage();
+    /// The centre lives as long as the process: each row replaces what the row before installed.
+    void installsTheConfiguredLanguage()
+    {
+        const auto& [language, translation, localeName, trace] = Languages::fetch();
+        QTemporaryDir folder;
+        for (const auto& [name, bytes] :
+             {std::pair("own_de.qm", translationFile(QStringLiteral("Hallo"))),
+              std::pair("own_de_AT.qm", translationFile(QStringLiteral("Servus"))),
+              std::pair("own_fr.qm", QByteArray("no translations"))})
+            QVERIFY(writeFile(folder.filePath(QString::fromLatin1(name)), bytes));
+        TranslationCenter& center = TranslationCenter::Instance();
+        center.AddCatalogue(QStringLiteral("own"));
+        center.AddFolder(folder.path());
+        CfgCenter::GetAppCfg(SettingsView)->SetString(QStringLiteral("Language"), language);
+        CfgCenter::GetAppCfg(SettingsView)
+            ->SetString(QStringLiteral("Font"), QStringLiteral("Mono"));
+        if (*trace != 0)
+            expectTrace(trace);
 
-private:
-    std::unique_ptr<TestGuard> guard;
+        const int found = center.Init();
+        QCOMPARE(QCoreApplication::translate("Test", "Hello"), translation);
+        QCOMPARE(found, center.GetLoadedFiles().size());
+        QCOMPARE(QLocale().name(), localeName.isEmpty() ? QLocale::system().name() : localeName);
+        QCOMPARE(TranslationCenter::GetLanguageFromCfg(), language);
+        QCOMPARE(TranslationCenter::GetFontFromCfg(), QStringLiteral("Mono"));
+        QCOMPARE(TranslationCenter::GetWindowsFontFromCfg(), QString());
+    }
 };
-
-void TestTranslationCenter::installsTheConfiguredLanguage_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("translation");
-    QTest::addColumn<QString>("localeName");
-    QTest::addColumn<QString>("trace");
-    const auto row = [](const char* language, const char* translation, const char* localeName,
-                        const char* trace = "") {
-        QTest::newRow(language) << QString::fromLatin1(language) << QString::fromLatin1(translation)
-                                << QString::fromLatin1(localeName) << QString::fromLatin1(trace);
-    };
-    row("de", "Hallo", "de_DE");
-    row("de_AT", "Servus", "de_AT");
-    row("de-CH", "Hallo", "de_CH");
-    row("fr", "Hello", "fr_FR", "is no translation file");
-    row("it", "Hello", "it_IT");
-    row("../de", "Hello", "", "is no language");
-    row("", "Hello", "");
-}
-
-// The centre lives as long as the process: each row replaces what the row before it installed.
-void TestTranslationCenter::installsTheConfiguredLanguage()
-{
-    QFETCH(QString, language);
-    QFETCH(QString, localeName);
-    QFETCH(QString, trace);
-    QTemporaryDir folder;
-    for (const auto& [name, bytes] :
-         {std::pair(QStringLiteral("own_de.qm"), translationFile(QStringLiteral("Hallo"))),
-          std::pair(QStringLiteral("own_de_AT.qm"), translationFile(QStringLiteral("Servus"))),
-          std::pair(QStringLiteral("own_fr.qm"), QByteArray("no translations"))}) {
-        QFile file(folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-    TranslationCenter& center = TranslationCenter::Instance();
-    center.AddCatalogue(QStringLiteral("own"));
-    center.AddFolder(folder.path());
-    CfgCenter::GetAppCfg(SettingsView)->SetString(QStringLiteral("Language"), language);
-    CfgCenter::GetAppCfg(SettingsView)->SetString(QStringLiteral("Font"), QStringLiteral("Mono"));
-    if (!trace.isEmpty())
-        QTest::ignoreMessage(QtInfoMsg, QRegularExpression(trace));
-
-    const int found = center.Init();
-    QTEST(hello(), "translation");
-    QCOMPARE(found, center.GetLoadedFiles().size());
-    QCOMPARE(QLocale().name(), localeName.isEmpty() ? QLocale::system().name() : localeName);
-    QCOMPARE(TranslationCenter::GetLanguageFromCfg(), language);
-    QCOMPARE(TranslationCenter::GetFontFromCfg(), QStringLiteral("Mono"));
-    QCOMPARE(TranslationCenter::GetWindowsFontFromCfg(), QString());
-}
 
 QTEST_GUILESS_MAIN(TestTranslationCenter)
 #include "tst_translationcenter.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/testguard.h"
+#include "support/guardedtest.h"
 
 #include <trovappstartup/cfgcenter.h>
 #include <trovappstartup/savecomponentif.h>
@@ -64,138 +64,120 @@ auto handlerOf(int signalNumber)
 
 } // namespace
 
-class TestTrovApplication : public QObject
+class TestTrovApplication : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { guard = std::make_unique<TestGuard>(); }
-    void cleanup()
-    {
-        QCOMPARE(guard->finish(), QString());
-        guard.reset();
-    }
-    void showsTheSplashScreen();
-    void survivesHidingWhilePainting();
-    void terminatesOnceInOrder();
-    void storesWhatChangesAfterTheTermination();
-    void bringsSignalHandlingBack();
-
-private:
-    std::unique_ptr<TestGuard> guard;
-};
-
-void TestTrovApplication::showsTheSplashScreen()
-{
-    TrovApplication application;
-    QCOMPARE(TrovApplication::m_pThis, &application);
-    application.Write2Splash(QStringLiteral("nowhere"));
-    application.SplashBusy();
-    application.HideSplash();
-    QCOMPARE(application.SplashShowTime(), qint64(0));
-    QVERIFY(!application.IsSplashBusy());
-
-    const qint64 before = QDateTime::currentSecsSinceEpoch();
-    application.ShowSplash();
-    QVERIFY(application.IsSplashVisible());
-    QVERIFY(application.SplashShowTime() >= before);
-    QWidget* const splash = splashScreen();
-    const QImage plain = splash->grab().toImage();
-    application.Write2Splash(QStringLiteral("Loading"));
-    QCOMPARE(application.GetSplashText(), QStringLiteral("Loading"));
-    const QImage withText = splash->grab().toImage();
-    QVERIFY(withText != plain);
-    const int middle = plain.height() / 2;
-    QCOMPARE(withText.copy(0, 0, plain.width(), middle), plain.copy(0, 0, plain.width(), middle));
-    application.SplashBusy();
-    QVERIFY(application.IsSplashBusy());
-    const QImage busy = splash->grab().toImage();
-    QVERIFY(busy != withText);
-    application.SplashBusy();
-    QVERIFY(splash->grab().toImage() != busy);
-    application.Write2Splash(QStringLiteral("Loading"));
-    QVERIFY(!application.IsSplashBusy());
-    QCOMPARE(splash->grab().toImage(), withText);
-
-    QPixmap picture(64, 48);
-    picture.fill(Qt::red);
-    application.ShowSplash(picture);
-    QCOMPARE(splashScreen()->size(), picture.size());
-    application.HideSplash();
-    QVERIFY(!application.IsSplashVisible());
-    QVERIFY(splashScreen() == nullptr);
-    QCOMPARE(application.GetSplashText(), QString());
-}
-
-void TestTrovApplication::survivesHidingWhilePainting()
-{
-    TrovApplication application;
-    application.ShowSplash();
-    bool isHidden = false;
-    QTimer::singleShot(0, &application, [&] {
-        application.Write2Splash(QStringLiteral("inner"));
-        application.HideSplash();
-        isHidden = true;
-    });
-    for (int i = 0; i < 100 && !isHidden; ++i)
-        application.Write2Splash(QString::number(i));
-    QVERIFY(isHidden);
-    QVERIFY(splashScreen() == nullptr);
-}
-
-void TestTrovApplication::terminatesOnceInOrder()
-{
-    QString log;
-    auto application = std::make_unique<TrovApplication>();
-    application->ShowSplash();
-    Component component(&log);
-    std::unique_ptr<Target> victim;
-    std::unique_ptr<Target> latecomer;
-    const Target first([&] {
-        log += QStringLiteral("first ");
-        application->Terminate();
-        victim.reset();
-        latecomer = std::make_unique<Target>([&] { log += QStringLiteral("latecomer "); });
-    });
-    victim = std::make_unique<Target>([&] { log += QStringLiteral("victim "); });
-    const Target second([&] {
-        log += QStringLiteral("second ");
-        CfgCenter::GetAppCfg(SettingsView)->SetInt(QStringLiteral("key"), 1);
-    });
-    QTimer::singleShot(0, application.get(), [] { QCoreApplication::exit(3); });
-    QCOMPARE(QCoreApplication::exec(), 3);
-    QVERIFY(application->IsTerminated());
-    QVERIFY(!application->IsSplashVisible());
-    QCOMPARE(log, QStringLiteral("save first second latecomer "));
-    CfgCenter::LoadAll();
-    QCOMPARE(CfgCenter::GetAppCfg(SettingsView)->GetInt(QStringLiteral("key")), 1);
-    application->Terminate();
-    application.reset();
-    QCOMPARE(log, QStringLiteral("save first second latecomer "));
-    QVERIFY(TrovApplication::m_pThis == nullptr);
-}
-
-void TestTrovApplication::storesWhatChangesAfterTheTermination()
-{
+    void showsTheSplashScreen()
     {
         TrovApplication application;
-        application.Terminate();
-        CfgCenter::GetAppCfg(SettingsView)->SetInt(QStringLiteral("key"), 1);
-    }
-    QVERIFY(QFile::exists(CfgCenter::GetAppCfgFileName()));
-}
+        QCOMPARE(TrovApplication::m_pThis, &application);
+        application.Write2Splash(QStringLiteral("nowhere"));
+        application.SplashBusy();
+        application.HideSplash();
+        QCOMPARE(application.SplashShowTime(), qint64(0));
+        QVERIFY(!application.IsSplashBusy());
 
-void TestTrovApplication::bringsSignalHandlingBack()
-{
-    const auto former = handlerOf(SIGTERM);
-    std::signal(SIGHUP, SIG_IGN);
-    {
-        const TrovApplication application;
-        QVERIFY(handlerOf(SIGTERM) != former);
-        QVERIFY(handlerOf(SIGHUP) == SIG_IGN); // started so as to survive its terminal
+        const qint64 before = QDateTime::currentSecsSinceEpoch();
+        application.ShowSplash();
+        QVERIFY(application.IsSplashVisible());
+        QVERIFY(application.SplashShowTime() >= before);
+        QWidget* const splash = splashScreen();
+        const QImage plain = splash->grab().toImage();
+        application.Write2Splash(QStringLiteral("Loading"));
+        QCOMPARE(application.GetSplashText(), QStringLiteral("Loading"));
+        const QImage withText = splash->grab().toImage();
+        QVERIFY(withText != plain);
+        const int middle = plain.height() / 2;
+        QCOMPARE(withText.copy(0, 0, plain.width(), middle),
+                 plain.copy(0, 0, plain.width(), middle));
+        application.SplashBusy();
+        QVERIFY(application.IsSplashBusy());
+        const QImage busy = splash->grab().toImage();
+        QVERIFY(busy != withText);
+        application.SplashBusy();
+        QVERIFY(splash->grab().toImage() != busy);
+        application.Write2Splash(QStringLiteral("Loading"));
+        QVERIFY(!application.IsSplashBusy());
+        QCOMPARE(splash->grab().toImage(), withText);
+
+        QPixmap picture(64, 48);
+        picture.fill(Qt::red);
+        application.ShowSplash(picture);
+        QCOMPARE(splashScreen()->size(), picture.size());
+        application.HideSplash();
+        QVERIFY(!application.IsSplashVisible());
+        QVERIFY(splashScreen() == nullptr);
+        QCOMPARE(application.GetSplashText(), QString());
     }
-    QVERIFY(handlerOf(SIGTERM) == former);
-    std::signal(SIGHUP, SIG_DFL);
-}
+    void survivesHidingWhilePainting()
+    {
+        TrovApplication application;
+        application.ShowSplash();
+        bool isHidden = false;
+        QTimer::singleShot(0, &application, [&] {
+            application.Write2Splash(QStringLiteral("inner"));
+            application.HideSplash();
+            isHidden = true;
+        });
+        for (int i = 0; i < 100 && !isHidden; ++i)
+            application.Write2Splash(QString::number(i));
+        QVERIFY(isHidden);
+        QVERIFY(splashScreen() == nullptr);
+    }
+    void terminatesOnceInOrder()
+    {
+        QString log;
+        auto application = std::make_unique<TrovApplication>();
+        application->ShowSplash();
+        Component component(&log);
+        std::unique_ptr<Target> victim;
+        std::unique_ptr<Target> latecomer;
+        const Target first([&] {
+            log += QStringLiteral("first ");
+            application->Terminate();
+            victim.reset();
+            latecomer = std::make_unique<Target>([&] { log += QStringLiteral("latecomer "); });
+        });
+        victim = std::make_unique<Target>([&] { log += QStringLiteral("victim "); });
+        const Target second([&] {
+            log += QStringLiteral("second ");
+            CfgCenter::GetAppCfg(SettingsView)->SetInt(QStringLiteral("key"), 1);
+        });
+        QTimer::singleShot(0, application.get(), [] { QCoreApplication::exit(3); });
+        QCOMPARE(QCoreApplication::exec(), 3);
+        QVERIFY(application->IsTerminated());
+        QVERIFY(!application->IsSplashVisible());
+        QCOMPARE(log, QStringLiteral("save first second latecomer "));
+        CfgCenter::LoadAll();
+        QCOMPARE(CfgCenter::GetAppCfg(SettingsView)->GetInt(QStringLiteral("key")), 1);
+        application->Terminate();
+        application.reset();
+        QCOMPARE(log, QStringLiteral("save first second latecomer "));
+        QVERIFY(TrovApplication::m_pThis == nullptr);
+    }
+    void storesWhatChangesAfterTheTermination()
+    {
+        {
+            TrovApplication application;
+            application.Terminate();
+            CfgCenter::GetAppCfg(SettingsView)->SetInt(QStringLiteral("key"), 1);
+        }
+        QVERIFY(QFile::exists(CfgCenter::GetAppCfgFileName()));
+    }
+    void bringsSignalHandlingBack()
+    {
+        const auto former = handlerOf(SIGTERM);
+        std::signal(SIGHUP, SIG_IGN);
+        {
+            const TrovApplication application;
+            QVERIFY(handlerOf(SIGTERM) != former);
+            QVERIFY(handlerOf(SIGHUP) == SIG_IGN); // started so as to survive its terminal
+        }
+        QVERIFY(handlerOf(SIGTERM) == former);
+        std::signal(SIGHUP, SIG_DFL);
+    }
+};
 
 QTEST_MAIN(TestTrovApplication)
 #include "tst_trovapplication.moc"
