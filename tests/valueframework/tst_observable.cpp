@@ -52,34 +52,26 @@ public:
         const auto o = pick(m_observables.size());
         const auto p = pick(m_probes.size());
         const bool mayNest = m_frames.size() < 4;
-        switch (m_random.below(12)) {
-        case 0:
-            if (mayNest && m_observables[o])
-                destroyObservable(o);
-            break;
-        case 1:
+        const int action = m_random.below(12);
+        Probe* const probe = m_probes[p].get();
+        Observable* const observable = m_observables[o].get();
+        if (action == 1) {
             for (auto& attached : m_attached)
-                attached.erase(m_probes[p].get());
+                attached.erase(probe);
             std::exchange(m_probes[p], makeProbe()).reset();
-            break;
-        case 2:
-        case 3:
-            if (m_observables[o]) {
-                m_observables[o]->Detach(m_probes[p].get());
-                m_attached[o].erase(m_probes[p].get());
-            }
-            break;
-        case 4:
-        case 5:
-        case 6:
-            if (mayNest && m_observables[o])
-                notify(o);
-            break;
-        default:
-            if (m_observables[o]) {
-                m_observables[o]->Attach(m_probes[p].get());
-                m_attached[o].try_emplace(m_probes[p].get(), ++m_clock);
-            }
+        } else if (observable == nullptr) {
+            return;
+        } else if (action == 0) {
+            if (mayNest)
+                destroyObservable(o);
+        } else if (action < 4) {
+            observable->Detach(probe);
+            m_attached[o].erase(probe);
+        } else if (action > 6) {
+            observable->Attach(probe);
+            m_attached[o].try_emplace(probe, ++m_clock);
+        } else if (mayNest) {
+            notify(o);
         }
     }
 
@@ -168,65 +160,60 @@ class TestObservable : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void survivesWhateverObserversDo();
-    void attachments();
-    void goneValueIsStillWhole();
-};
-
-void TestObservable::survivesWhateverObserversDo()
-{
-    World world;
-    for (int i = RandomBytes::rounds(20000); i > 0 && world.faults.isEmpty(); --i)
-        world.act();
-    QCOMPARE(world.faults, QStringList());
-    QVERIFY(world.calls > 1000);
-}
-
-void TestObservable::attachments()
-{
-    Observable observable;
-    QString log;
-    Probe a([&](Probe*, Observable*, TChangeCode) { log += QLatin1Char('a'); });
-    Probe b([&](Probe*, Observable*, TChangeCode) { log += QLatin1Char('b'); });
-    for (Probe* probe : {&b, &a, &b})
-        observable.Attach(probe);
-    QCOMPARE(observable.GetObserverCount(), 2);
-    observable.SetState(Observable::Disabled);
-    observable.SetState(Observable::Disabled);
-    observable.SetState(Observable::Gone);
-    QCOMPARE(log, QStringLiteral("ba"));
-    QCOMPARE(observable.GetState(), Observable::Disabled);
+    void survivesWhateverObserversDo()
     {
-        Probe copy(a);
-        copy = b;
-        QCOMPARE(observable.GetObserverCount(), 2);
-        observable.Attach(&copy);
+        World world;
+        for (int i = RandomBytes::rounds(20000); i > 0 && world.faults.isEmpty(); --i)
+            world.act();
+        QCOMPARE(world.faults, QStringList());
+        QVERIFY(world.calls > 1000);
     }
-    QCOMPARE(observable.GetObserverCount(), 2);
-}
-
-void TestObservable::goneValueIsStillWhole()
-{
-    QStringList log;
-    auto value = std::make_unique<Value<QString>>(QStringLiteral("name"), QStringLiteral("text"));
-    Value<bool> successor(QStringLiteral("name"));
-    QVERIFY(Tree::Instance().Add(QStringLiteral("base"), value.get()));
-    Probe late([&](Probe*, Observable*, TChangeCode) { log << QStringLiteral("late"); });
-    Probe probe([&](Probe*, Observable* observable, TChangeCode code) {
-        QVERIFY(code == ChangeCode::State && observable->GetState() == Observable::Gone);
-        auto* gone = dynamic_cast<ValueBase*>(observable);
-        log << gone->GetPathName() << gone->GetVariant().toString();
-        observable->Attach(&late);
-        // The place is free already, and the dying value cannot come back.
-        QCOMPARE(Tree::Instance().Find(gone->GetPathName()), nullptr);
-        QVERIFY(!Tree::Instance().Add(QStringLiteral("other"), gone));
-        QVERIFY(Tree::Instance().Add(QStringLiteral("base"), &successor));
-    });
-    value->Attach(&probe);
-    value.reset();
-    QCOMPARE(log, QStringList({QStringLiteral("base/name"), QStringLiteral("text")}));
-    QCOMPARE(Tree::Instance().Find(QStringLiteral("base/name")), &successor);
-}
+    void attachments()
+    {
+        Observable observable;
+        QString log;
+        Probe a([&](Probe*, Observable*, TChangeCode) { log += QLatin1Char('a'); });
+        Probe b([&](Probe*, Observable*, TChangeCode) { log += QLatin1Char('b'); });
+        for (Probe* probe : {&b, &a, &b})
+            observable.Attach(probe);
+        QCOMPARE(observable.GetObserverCount(), 2);
+        observable.SetState(Observable::Disabled);
+        observable.SetState(Observable::Disabled);
+        observable.SetState(Observable::Gone);
+        QCOMPARE(log, QStringLiteral("ba"));
+        QCOMPARE(observable.GetState(), Observable::Disabled);
+        {
+            Probe copy(a);
+            copy = b;
+            QCOMPARE(observable.GetObserverCount(), 2);
+            observable.Attach(&copy);
+        }
+        QCOMPARE(observable.GetObserverCount(), 2);
+    }
+    void goneValueIsStillWhole()
+    {
+        QStringList log;
+        auto value =
+            std::make_unique<Value<QString>>(QStringLiteral("name"), QStringLiteral("text"));
+        Value<bool> successor(QStringLiteral("name"));
+        QVERIFY(Tree::Instance().Add(QStringLiteral("base"), value.get()));
+        Probe late([&](Probe*, Observable*, TChangeCode) { log << QStringLiteral("late"); });
+        Probe probe([&](Probe*, Observable* observable, TChangeCode code) {
+            QVERIFY(code == ChangeCode::State && observable->GetState() == Observable::Gone);
+            auto* gone = dynamic_cast<ValueBase*>(observable);
+            log << gone->GetPathName() << gone->GetVariant().toString();
+            observable->Attach(&late);
+            // The place is free already, and the dying value cannot come back.
+            QCOMPARE(Tree::Instance().Find(gone->GetPathName()), nullptr);
+            QVERIFY(!Tree::Instance().Add(QStringLiteral("other"), gone));
+            QVERIFY(Tree::Instance().Add(QStringLiteral("base"), &successor));
+        });
+        value->Attach(&probe);
+        value.reset();
+        QCOMPARE(log, QStringList({QStringLiteral("base/name"), QStringLiteral("text")}));
+        QCOMPARE(Tree::Instance().Find(QStringLiteral("base/name")), &successor);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestObservable)
 #include "tst_observable.moc"

@@ -4,11 +4,10 @@
 
 #include <trovappstartup/cfgcenter.h>
 
-#include "support/testguard.h"
+#include "support/guardedtest.h"
+#include "support/testrows.h"
 
 #include <QTest>
-
-#include <memory>
 
 namespace {
 
@@ -53,105 +52,84 @@ public:
 
 } // namespace
 
-class TestPersistant : public QObject
+class TestPersistant : public GuardedTest
 {
     Q_OBJECT
+    using Stored = TestRows<QVariantMap, QString>;
 
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
+    void roundTrip()
     {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-    void roundTrip();
-    void readsWhatIsStored_data();
-    void readsWhatIsStored();
-    void nullMembersAreRefused();
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
-};
-
-void TestPersistant::roundTrip()
-{
-    for (const QString& subKey : {QString(), QStringLiteral("sub")}) {
-        for (int index = 0; index < 3; ++index) {
-            Settings written;
-            written.text = QString::fromUtf8("\"\\/ \u00e4\u20ac\n") + subKey;
-            written.number = 21;
-            written.byKey.SetCurrentIndex(index);
-            written.byValue.SetCurrentIndex(2 - index);
-            written.record.Write(subKey);
-            CfgCenter::LoadAll();
-            Settings read;
-            QVERIFY(read.record.Exists());
-            read.record.Read(subKey);
-            QCOMPARE(read.shown, written.describe());
-            QCOMPARE(read.number, 42);
+        for (const QString& subKey : {QString(), QStringLiteral("sub")}) {
+            for (int index = 0; index < 3; ++index) {
+                Settings written;
+                written.text = QString::fromUtf8("\"\\/ \u00e4\u20ac\n") + subKey;
+                written.number = 21;
+                written.byKey.SetCurrentIndex(index);
+                written.byValue.SetCurrentIndex(2 - index);
+                written.record.Write(subKey);
+                CfgCenter::LoadAll();
+                Settings read;
+                QVERIFY(read.record.Exists());
+                read.record.Read(subKey);
+                QCOMPARE(read.shown, written.describe());
+                QCOMPARE(read.number, 42);
+            }
         }
+        Settings erased;
+        erased.record.Erase();
+        CfgCenter::LoadAll();
+        QVERIFY(!erased.record.Exists());
+        erased.record.Read(QStringLiteral("sub"));
+        QCOMPARE(erased.shown, QStringLiteral("default|1|7|1|1"));
     }
-    Settings erased;
-    erased.record.Erase();
-    CfgCenter::LoadAll();
-    QVERIFY(!erased.record.Exists());
-    erased.record.Read(QStringLiteral("sub"));
-    QCOMPARE(erased.shown, QStringLiteral("default|1|7|1|1"));
-}
-
-void TestPersistant::readsWhatIsStored_data()
-{
-    QTest::addColumn<QVariantMap>("stored");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* name, const QVariantMap& stored, const char* expected) {
-        QTest::newRow(name) << stored << QString::fromLatin1(expected);
-    };
-    const auto text = [](const char* characters) { return QString::fromLatin1(characters); };
-    const QString key = text("ByKey");
-    const QString value = text("ByValue");
-    row("one member", {{text("Number"), 3}}, "default|1|3|1|1");
-    row("other kinds",
-        {{text("Text"), false}, {text("Flag"), text("perhaps")}, {text("Number"), text("3x")}},
-        "default|1|7|1|1");
-    row("known items", {{key, 12}, {value, 0}}, "default|1|7|2|0");
-    row("items as texts", {{key, text("10")}, {value, text("1.0")}}, "default|1|7|0|2");
-    row("unknown items", {{key, 1}, {value, 12}}, "default|1|7|1|1");
-    row("garbage", {{key, text("eleven")}, {value, text("nan")}}, "default|1|7|1|1");
-    row("truth for items", {{key, true}, {value, true}}, "default|1|7|1|1");
-}
-
-void TestPersistant::readsWhatIsStored()
-{
-    QFETCH(QVariantMap, stored);
-    const auto cfg = CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(QStringLiteral("Record"));
-    for (auto it = stored.cbegin(); it != stored.cend(); ++it) {
-        if (it->typeId() == QMetaType::Int)
-            cfg->SetInt(it.key(), it->toInt());
-        else if (it->typeId() == QMetaType::Bool)
-            cfg->SetBool(it.key(), it->toBool());
-        else
-            cfg->SetString(it.key(), it->toString());
+    void readsWhatIsStored_data()
+    {
+        Stored row;
+        const auto text = [](const char* characters) { return QString::fromLatin1(characters); };
+        const QString key = text("ByKey"), value = text("ByValue"), number = text("Number");
+        row("one member", {{number, 3}}, "default|1|3|1|1");
+        row("other kinds",
+            {{text("Text"), false}, {text("Flag"), text("perhaps")}, {number, text("3x")}},
+            "default|1|7|1|1");
+        row("known items", {{key, 12}, {value, 0}}, "default|1|7|2|0");
+        row("items as texts", {{key, text("10")}, {value, text("1.0")}}, "default|1|7|0|2");
+        row("unknown items", {{key, 1}, {value, 12}}, "default|1|7|1|1");
+        row("garbage", {{key, text("eleven")}, {value, text("nan")}}, "default|1|7|1|1");
+        row("truth for items", {{key, true}, {value, true}}, "default|1|7|1|1");
     }
-    Settings settings;
-    settings.record.Read(QString());
-    QTEST(settings.shown, "expected");
-}
-
-void TestPersistant::nullMembersAreRefused()
-{
-    Persistant record(QStringLiteral("Record"));
-    record.Add(static_cast<QString*>(nullptr), QStringLiteral("a"));
-    record.Add(static_cast<bool*>(nullptr), QStringLiteral("b"), true);
-    record.Add(static_cast<int*>(nullptr), QStringLiteral("c"), 1);
-    record.Add(static_cast<ValueSelection*>(nullptr), QStringLiteral("d"), 1);
-    record.Add(nullptr);
-    record.Write(QString());
-    QVERIFY(!record.Exists());
-    Persistant nameless{QString()};
-    nameless.Read(QString());
-    nameless.Write(QString());
-    nameless.Erase();
-}
+    void readsWhatIsStored()
+    {
+        const auto& [stored, expected] = Stored::fetch();
+        const auto cfg = CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(QStringLiteral("Record"));
+        for (auto it = stored.cbegin(); it != stored.cend(); ++it) {
+            if (it->typeId() == QMetaType::Int)
+                cfg->SetInt(it.key(), it->toInt());
+            else if (it->typeId() == QMetaType::Bool)
+                cfg->SetBool(it.key(), it->toBool());
+            else
+                cfg->SetString(it.key(), it->toString());
+        }
+        Settings settings;
+        settings.record.Read(QString());
+        QCOMPARE(settings.shown, expected);
+    }
+    void nullMembersAreRefused()
+    {
+        Persistant record(QStringLiteral("Record"));
+        record.Add(static_cast<QString*>(nullptr), QStringLiteral("a"));
+        record.Add(static_cast<bool*>(nullptr), QStringLiteral("b"), true);
+        record.Add(static_cast<int*>(nullptr), QStringLiteral("c"), 1);
+        record.Add(static_cast<ValueSelection*>(nullptr), QStringLiteral("d"), 1);
+        record.Add(nullptr);
+        record.Write(QString());
+        QVERIFY(!record.Exists());
+        Persistant nameless{QString()};
+        nameless.Read(QString());
+        nameless.Write(QString());
+        nameless.Erase();
+    }
+};
 
 QTEST_GUILESS_MAIN(TestPersistant)
 #include "tst_persistant.moc"

@@ -45,127 +45,121 @@ class TestUndoRecording : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
-    void paths();
-    void randomWalk();
-    void valuesThatLeaveOrMove();
+    void cleanup()
+    {
+        m_undo.setLimit(100);
+        m_undo.clear();
+    }
+    void paths()
+    {
+        Tree& tree = Tree::Instance();
+        auto a = std::make_unique<Value<bool>>(QStringLiteral("a"));
+        Value<bool> other(QStringLiteral("a"));
+        Value<bool> nameless(QString{});
+        QVERIFY(tree.Add(QStringLiteral("/x//y/"), a.get()));
+        QCOMPARE(a->GetPathName(), QStringLiteral("x/y/a"));
+        QVERIFY(!tree.Add(QStringLiteral("x/y"), &other));
+        QVERIFY(!tree.Add(QStringLiteral("x"), &nameless) &&
+                !tree.Add(QStringLiteral("x"), nullptr));
+        QVERIFY(tree.Add(QStringLiteral("xy"), &other));
+        QCOMPARE(tree.GetPaths(QStringLiteral("x/")), QStringList{QStringLiteral("x/y/a")});
+        QVERIFY(!tree.Add(QStringLiteral("xy"), a.get()));
+        QCOMPARE(tree.Find(QStringLiteral("x/y/a/")), a.get());
+        QVERIFY(tree.Add(QString(), a.get()));
+        QCOMPARE(tree.GetPaths(), QStringList({QStringLiteral("a"), QStringLiteral("xy/a")}));
+        tree.Remove(&other);
+        QCOMPARE(other.GetPathName(), QStringLiteral("a"));
+        tree.Remove(&other); // must not take away the value at "a"
+        QCOMPARE(tree.Find(QStringLiteral("a")), a.get());
+        a.reset();
+        QCOMPARE(tree.GetPaths(), QStringList());
+    }
+    void randomWalk()
+    {
+        constexpr int limit = 8;
+        m_undo.setLimit(limit);
+        ValueNumeric<int> source(QStringLiteral("source"), 50, 0, 100);
+        ValueNumeric<int> limited(QStringLiteral("limited"), 10, 0, 50);
+        Value<QString> text(QStringLiteral("text"));
+        ValueSelection selection(QStringLiteral("selection"));
+        for (int i = 0; i < 3; ++i)
+            selection.AddItem(SelectionItem(QString::number(i), false, i));
+        UpperLimit coupling(source, limited);
+        const std::vector<ValueBase*> values{&source, &limited, &text, &selection};
+        for (ValueBase* value : values)
+            QVERIFY(Tree::Instance().Add(QStringLiteral("base/sub"), value));
+
+        const auto state = [&values] {
+            QVariantList list;
+            for (const ValueBase* value : values)
+                list << value->GetVariant();
+            return list;
+        };
+        std::deque<QVariantList> history{state()};
+        std::size_t present = 0;
+        RandomBytes random("undo");
+        for (int round = RandomBytes::rounds(3000); round > 0; --round) {
+            const int action = random.below(4);
+            if (action == 0) {
+                QCOMPARE(m_undo.undo(), present > 0);
+                present -= present > 0 ? 1 : 0;
+            } else if (action == 1) {
+                QCOMPARE(m_undo.redo(), present + 1 < history.size());
+                present += present + 1 < history.size() ? 1 : 0;
+            } else {
+                const Trigger outer(QStringLiteral("/base/"), QString::number(round));
+                for (int i = random.below(5); i > 0; --i) {
+                    values[static_cast<std::size_t>(random.below(4))]->SetVariant(
+                        random.below(100));
+                }
+            }
+            if (action > 1 && state() != history[present]) {
+                history.resize(present + 1);
+                history.push_back(state());
+                if (history.size() > limit + 1)
+                    history.pop_front();
+                present = history.size() - 1;
+                QCOMPARE(m_undo.undoText(), QString::number(round));
+            }
+            QCOMPARE(state(), history[present]);
+            QCOMPARE(m_undo.canUndo(), present > 0);
+            QCOMPARE(m_undo.canRedo(), present + 1 < history.size());
+        }
+    }
+    void valuesThatLeaveOrMove()
+    {
+        Tree& tree = Tree::Instance();
+        const QString base = QStringLiteral("base");
+        ValueNumeric<int> stays(QStringLiteral("stays"));
+        ValueNumeric<int> moves(QStringLiteral("moves"));
+        auto dies = std::make_unique<ValueNumeric<int>>(QStringLiteral("dies"));
+        auto diesLater = std::make_unique<ValueNumeric<int>>(QStringLiteral("diesLater"));
+        ValueNumeric<int> outside(QStringLiteral("baseless"));
+        for (ValueBase* value :
+             std::initializer_list<ValueBase*>{&stays, &moves, dies.get(), diesLater.get()}) {
+            QVERIFY(tree.Add(base, value));
+        }
+        QVERIFY(tree.Add(QString(), &outside));
+        QSignalSpy changed(&m_undo, &UndoRecording::changed);
+        {
+            const Trigger trigger(base, QStringLiteral("step"));
+            for (ValueNumeric<int>* value : {&stays, &moves, dies.get(), diesLater.get(), &outside})
+                value->SetValue(1);
+            QVERIFY(tree.Add(QStringLiteral("elsewhere"), &moves));
+            dies.reset();
+        }
+        diesLater.reset();
+        QCOMPARE(changed.count(), 1);
+        QVERIFY(m_undo.undo());
+        QCOMPARE(stays.GetValue(), 0);
+        QCOMPARE(moves.GetValue(), 0);
+        QCOMPARE(outside.GetValue(), 1);
+        QCOMPARE(m_undo.redoText(), QStringLiteral("step"));
+    }
 
 private:
     UndoRecording& m_undo = UndoRecording::Instance();
 };
-
-void TestUndoRecording::cleanup()
-{
-    m_undo.setLimit(100);
-    m_undo.clear();
-}
-
-void TestUndoRecording::paths()
-{
-    Tree& tree = Tree::Instance();
-    auto a = std::make_unique<Value<bool>>(QStringLiteral("a"));
-    Value<bool> other(QStringLiteral("a"));
-    Value<bool> nameless(QString{});
-    QVERIFY(tree.Add(QStringLiteral("/x//y/"), a.get()));
-    QCOMPARE(a->GetPathName(), QStringLiteral("x/y/a"));
-    QVERIFY(!tree.Add(QStringLiteral("x/y"), &other));
-    QVERIFY(!tree.Add(QStringLiteral("x"), &nameless) && !tree.Add(QStringLiteral("x"), nullptr));
-    QVERIFY(tree.Add(QStringLiteral("xy"), &other));
-    QCOMPARE(tree.GetPaths(QStringLiteral("x/")), QStringList{QStringLiteral("x/y/a")});
-    QVERIFY(!tree.Add(QStringLiteral("xy"), a.get()));
-    QCOMPARE(tree.Find(QStringLiteral("x/y/a/")), a.get());
-    QVERIFY(tree.Add(QString(), a.get()));
-    QCOMPARE(tree.GetPaths(), QStringList({QStringLiteral("a"), QStringLiteral("xy/a")}));
-    tree.Remove(&other);
-    QCOMPARE(other.GetPathName(), QStringLiteral("a"));
-    tree.Remove(&other); // must not take away the value at "a"
-    QCOMPARE(tree.Find(QStringLiteral("a")), a.get());
-    a.reset();
-    QCOMPARE(tree.GetPaths(), QStringList());
-}
-
-void TestUndoRecording::randomWalk()
-{
-    constexpr int limit = 8;
-    m_undo.setLimit(limit);
-    ValueNumeric<int> source(QStringLiteral("source"), 50, 0, 100);
-    ValueNumeric<int> limited(QStringLiteral("limited"), 10, 0, 50);
-    Value<QString> text(QStringLiteral("text"));
-    ValueSelection selection(QStringLiteral("selection"));
-    for (int i = 0; i < 3; ++i)
-        selection.AddItem(SelectionItem(QString::number(i), false, i));
-    UpperLimit coupling(source, limited);
-    const std::vector<ValueBase*> values{&source, &limited, &text, &selection};
-    for (ValueBase* value : values)
-        QVERIFY(Tree::Instance().Add(QStringLiteral("base/sub"), value));
-
-    const auto state = [&values] {
-        QVariantList list;
-        for (const ValueBase* value : values)
-            list << value->GetVariant();
-        return list;
-    };
-    std::deque<QVariantList> history{state()};
-    std::size_t present = 0;
-    RandomBytes random("undo");
-    for (int round = RandomBytes::rounds(3000); round > 0; --round) {
-        const int action = random.below(4);
-        if (action == 0) {
-            QCOMPARE(m_undo.undo(), present > 0);
-            present -= present > 0 ? 1 : 0;
-        } else if (action == 1) {
-            QCOMPARE(m_undo.redo(), present + 1 < history.size());
-            present += present + 1 < history.size() ? 1 : 0;
-        } else {
-            const Trigger outer(QStringLiteral("/base/"), QString::number(round));
-            for (int i = random.below(5); i > 0; --i) {
-                values[static_cast<std::size_t>(random.below(4))]->SetVariant(random.below(100));
-            }
-        }
-        if (action > 1 && state() != history[present]) {
-            history.resize(present + 1);
-            history.push_back(state());
-            if (history.size() > limit + 1)
-                history.pop_front();
-            present = history.size() - 1;
-            QCOMPARE(m_undo.undoText(), QString::number(round));
-        }
-        QCOMPARE(state(), history[present]);
-        QCOMPARE(m_undo.canUndo(), present > 0);
-        QCOMPARE(m_undo.canRedo(), present + 1 < history.size());
-    }
-}
-
-void TestUndoRecording::valuesThatLeaveOrMove()
-{
-    Tree& tree = Tree::Instance();
-    const QString base = QStringLiteral("base");
-    ValueNumeric<int> stays(QStringLiteral("stays"));
-    ValueNumeric<int> moves(QStringLiteral("moves"));
-    auto dies = std::make_unique<ValueNumeric<int>>(QStringLiteral("dies"));
-    auto diesLater = std::make_unique<ValueNumeric<int>>(QStringLiteral("diesLater"));
-    ValueNumeric<int> outside(QStringLiteral("baseless"));
-    for (ValueBase* value :
-         std::initializer_list<ValueBase*>{&stays, &moves, dies.get(), diesLater.get()}) {
-        QVERIFY(tree.Add(base, value));
-    }
-    QVERIFY(tree.Add(QString(), &outside));
-    QSignalSpy changed(&m_undo, &UndoRecording::changed);
-    {
-        const Trigger trigger(base, QStringLiteral("step"));
-        for (ValueNumeric<int>* value : {&stays, &moves, dies.get(), diesLater.get(), &outside})
-            value->SetValue(1);
-        QVERIFY(tree.Add(QStringLiteral("elsewhere"), &moves));
-        dies.reset();
-    }
-    diesLater.reset();
-    QCOMPARE(changed.count(), 1);
-    QVERIFY(m_undo.undo());
-    QCOMPARE(stays.GetValue(), 0);
-    QCOMPARE(moves.GetValue(), 0);
-    QCOMPARE(outside.GetValue(), 1);
-    QCOMPARE(m_undo.redoText(), QStringLiteral("step"));
-}
 
 QTEST_GUILESS_MAIN(TestUndoRecording)
 #include "tst_undorecording.moc"
