@@ -3,16 +3,18 @@
 #include <guibase/colors/colorset.h>
 #include <guibase/colors/colorslotgroups.h>
 
-#include "support/testguard.h"
+#include "support/guardedtest.h"
+#include "support/testrows.h"
 
 #include <QTest>
 
 #include <cmath>
-#include <memory>
+#include <set>
 #include <vector>
 
 using enum IColorBase::ECOLOR;
-using Slots = std::vector<IColorBase::ECOLOR>;
+using Slot = IColorBase::ECOLOR;
+using Slots = std::vector<Slot>;
 
 namespace {
 
@@ -23,14 +25,14 @@ double linear(int component)
 }
 
 /// Relative luminance, 0 to 1, as in the Web Content Accessibility Guidelines 2.1.
-double luminance(IColorBase::ECOLOR slot)
+double luminance(Slot slot)
 {
     const QColor color = ColorSet::Instance().GetColor(slot);
     return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) +
            0.0722 * linear(color.blue());
 }
 
-double contrast(IColorBase::ECOLOR one, IColorBase::ECOLOR other)
+double contrast(Slot one, Slot other)
 {
     const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
@@ -53,11 +55,11 @@ double distance(const QColor& one, const QColor& other)
     return std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]);
 }
 
-Slots range(IColorBase::ECOLOR first, IColorBase::ECOLOR last)
+Slots range(Slot first, Slot last)
 {
     Slots slotsOfRange;
     for (int slot = first; slot <= last; ++slot)
-        slotsOfRange.push_back(static_cast<IColorBase::ECOLOR>(slot));
+        slotsOfRange.push_back(static_cast<Slot>(slot));
     return slotsOfRange;
 }
 
@@ -113,129 +115,99 @@ const std::vector<Screen>& screens()
 
 } // namespace
 
-class tst_ColorSetFactory : public QObject
+class tst_ColorSetFactory : public GuardedTest
 {
     Q_OBJECT
+    using Alternatives = TestRows<Slots, double>;
+
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
+    void everyEditorRowHasAColor()
     {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
+        std::array<int, IColorBase::slotCount> rows{};
+        for (const ColorSlotGroup& group : ColorSlotGroups::all) {
+            for (const ColorSlotRow& row : group.rows) {
+                QCOMPARE(row.slot == ColorSlotRow::noSlot, row.note != nullptr);
+                if (row.note)
+                    continue;
+                ++rows.at(static_cast<std::size_t>(row.slot));
+                const auto slot = static_cast<Slot>(row.slot);
+                QVERIFY2(ColorSet::Instance().GetColorDefinition(slot), group.heading);
+            }
+        }
+        const std::set<std::size_t> without{0, 9, 15, 18, 66, 75, 76, 122, 123};
+        for (std::size_t slot = 0; slot < rows.size(); ++slot)
+            QCOMPARE(rows.at(slot), without.contains(slot) ? 0 : 1);
+        const auto shown = [](quint32 mask) {
+            return std::count_if(
+                ColorSlotGroups::all.begin(), ColorSlotGroups::all.end(),
+                [mask](const ColorSlotGroup& group) { return group.isShown(mask); });
+        };
+        for (const auto& [mask, count] : {std::pair(0U, 1), {1U, 9}, {0x200U, 1}, {0xfffU, 19}})
+            QCOMPARE(shown(mask), count);
     }
-    void everyEditorRowHasAColor();
-    void keepsTheFixedAssignments();
-    void contrastSuffices_data();
-    void contrastSuffices();
-    void frozenCurvesAreDimmer();
-    void alternativesDiffer_data();
-    void alternativesDiffer();
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
+    void keepsTheFixedAssignments()
+    {
+        const std::pair<int, int> fixed[] = {{1, 1},    {2, 1007},  {3, 1000},   {4, 1036},
+                                             {5, 1018}, {6, 1007},  {7, 5},      {8, 1014},
+                                             {9, 1015}, {10, 1015}, {120, 1040}, {121, 1041}};
+        for (const auto& [slot, id] : fixed) {
+            const auto* definition =
+                ColorSet::Instance().GetColorDefinition(static_cast<Slot>(slot));
+            QVERIFY(definition);
+            QCOMPARE(definition->GetId(), id);
+        }
+    }
+    void contrastSuffices()
+    {
+        QStringList faults;
+        for (const Screen& screen : screens()) {
+            for (const Slot foreground : screen.foregrounds) {
+                for (const Slot background : screen.backgrounds) {
+                    const double found = contrast(foreground, background);
+                    if (!(found >= screen.minimum))
+                        faults << QStringLiteral("%1: %2 on %3, %4")
+                                      .arg(QString::fromLatin1(screen.name))
+                                      .arg(foreground)
+                                      .arg(background)
+                                      .arg(found);
+                }
+            }
+        }
+        QCOMPARE(faults, QStringList());
+    }
+    void frozenCurvesAreDimmer()
+    {
+        QVERIFY(luminance(DrawPaneMainCurveFrozen) < luminance(DrawPaneMainCurve));
+        QVERIFY(luminance(DrawPaneSecondaryCurveFrozen) < luminance(DrawPaneSecondaryCurve));
+        QVERIFY(luminance(DrawPaneMainCurveMaximumShadowFrozen) <
+                luminance(DrawPaneMainCurveMaximumShadow));
+    }
+    void alternativesDiffer_data()
+    {
+        Alternatives row;
+        row("signal types", range(SignalTypeA, SignalTypeQ), 20);
+        row("planner states", range(PlannerPlanned, PlannerFailed), 20);
+        row("planner types", range(PlannerProduction, PlannerSkornReceiver), 15);
+        row("traffic lights", range(TrafficLightStop, TrafficLightGo), 60);
+        row("results", range(ProductionResultRunning, ProductionResultUnknown), 20);
+        row("markers", range(MarkerAdditionalRed, MarkerGrayed), 20);
+        row("curves", range(DrawPaneMinimumPoints, DrawPaneSecondaryCurve), 20);
+        row("overload steps", range(BarOverload0, BarOverload9), 8);
+    }
+    void alternativesDiffer()
+    {
+        const auto& [alternatives, minimum] = Alternatives::fetch();
+        for (auto one = alternatives.begin(); one != alternatives.end(); ++one) {
+            for (auto other = one + 1; other != alternatives.end(); ++other) {
+                const double found = distance(ColorSet::Instance().GetColor(*one),
+                                              ColorSet::Instance().GetColor(*other));
+                const QString text =
+                    QStringLiteral("%1 and %2: %3").arg(*one).arg(*other).arg(found);
+                QVERIFY2(found >= minimum, qPrintable(text));
+            }
+        }
+    }
 };
-
-void tst_ColorSetFactory::everyEditorRowHasAColor()
-{
-    std::array<int, IColorBase::slotCount> rows{};
-    for (const ColorSlotGroup& group : ColorSlotGroups::all) {
-        for (const ColorSlotRow& row : group.rows) {
-            QCOMPARE(row.slot == ColorSlotRow::noSlot, row.note != nullptr);
-            if (row.note)
-                continue;
-            ++rows.at(static_cast<std::size_t>(row.slot));
-            const auto slot = static_cast<IColorBase::ECOLOR>(row.slot);
-            QVERIFY2(ColorSet::Instance().GetColorDefinition(slot), group.heading);
-        }
-    }
-    const std::vector<int> without{0, 9, 15, 18, 66, 75, 76, 122, 123};
-    for (int slot = 0; slot < IColorBase::slotCount; ++slot) {
-        const bool hasNone = std::find(without.begin(), without.end(), slot) != without.end();
-        QCOMPARE(rows.at(static_cast<std::size_t>(slot)), hasNone ? 0 : 1);
-    }
-    const auto shown = [](quint32 mask) {
-        return std::count_if(ColorSlotGroups::all.begin(), ColorSlotGroups::all.end(),
-                             [mask](const ColorSlotGroup& group) { return group.isShown(mask); });
-    };
-    QCOMPARE(shown(0), 1);
-    QCOMPARE(shown(1), 9);
-    QCOMPARE(shown(0x200), 1);
-    QCOMPARE(shown(0xfff), 19);
-}
-
-void tst_ColorSetFactory::keepsTheFixedAssignments()
-{
-    const std::pair<int, int> fixed[] = {{1, 1},    {2, 1007},  {3, 1000},   {4, 1036},
-                                         {5, 1018}, {6, 1007},  {7, 5},      {8, 1014},
-                                         {9, 1015}, {10, 1015}, {120, 1040}, {121, 1041}};
-    for (const auto& [slot, id] : fixed) {
-        const auto* definition =
-            ColorSet::Instance().GetColorDefinition(static_cast<IColorBase::ECOLOR>(slot));
-        QVERIFY(definition);
-        QCOMPARE(definition->GetId(), id);
-    }
-}
-
-void tst_ColorSetFactory::contrastSuffices_data()
-{
-    QTest::addColumn<int>("foreground");
-    QTest::addColumn<int>("background");
-    QTest::addColumn<double>("minimum");
-    for (const Screen& screen : screens()) {
-        for (const int foreground : screen.foregrounds) {
-            for (const int background : screen.backgrounds)
-                QTest::addRow("%s %d on %d", screen.name, foreground, background)
-                    << foreground << background << screen.minimum;
-        }
-    }
-}
-
-void tst_ColorSetFactory::contrastSuffices()
-{
-    QFETCH(int, foreground);
-    QFETCH(int, background);
-    QFETCH(double, minimum);
-    const double found = contrast(static_cast<IColorBase::ECOLOR>(foreground),
-                                  static_cast<IColorBase::ECOLOR>(background));
-    QVERIFY2(found >= minimum, qPrintable(QString::number(found)));
-}
-
-void tst_ColorSetFactory::frozenCurvesAreDimmer()
-{
-    QVERIFY(luminance(DrawPaneMainCurveFrozen) < luminance(DrawPaneMainCurve));
-    QVERIFY(luminance(DrawPaneSecondaryCurveFrozen) < luminance(DrawPaneSecondaryCurve));
-    QVERIFY(luminance(DrawPaneMainCurveMaximumShadowFrozen) <
-            luminance(DrawPaneMainCurveMaximumShadow));
-}
-
-void tst_ColorSetFactory::alternativesDiffer_data()
-{
-    QTest::addColumn<Slots>("alternatives");
-    QTest::addColumn<double>("minimum");
-    QTest::newRow("signal types") << range(SignalTypeA, SignalTypeQ) << 20.0;
-    QTest::newRow("planner states") << range(PlannerPlanned, PlannerFailed) << 20.0;
-    QTest::newRow("planner types") << range(PlannerProduction, PlannerSkornReceiver) << 15.0;
-    QTest::newRow("traffic lights") << range(TrafficLightStop, TrafficLightGo) << 60.0;
-    QTest::newRow("production results")
-        << range(ProductionResultRunning, ProductionResultUnknown) << 20.0;
-    QTest::newRow("markers") << range(MarkerAdditionalRed, MarkerGrayed) << 20.0;
-    QTest::newRow("curves") << range(DrawPaneMinimumPoints, DrawPaneSecondaryCurve) << 20.0;
-    QTest::newRow("overload steps") << range(BarOverload0, BarOverload9) << 8.0;
-}
-
-void tst_ColorSetFactory::alternativesDiffer()
-{
-    QFETCH(Slots, alternatives);
-    QFETCH(double, minimum);
-    for (auto one = alternatives.begin(); one != alternatives.end(); ++one) {
-        for (auto other = one + 1; other != alternatives.end(); ++other) {
-            const double found = distance(ColorSet::Instance().GetColor(*one),
-                                          ColorSet::Instance().GetColor(*other));
-            const QString text = QStringLiteral("%1 and %2: %3").arg(*one).arg(*other).arg(found);
-            QVERIFY2(found >= minimum, qPrintable(text));
-        }
-    }
-}
 
 QTEST_MAIN(tst_ColorSetFactory)
 #include "tst_colorsetfactory.moc"
