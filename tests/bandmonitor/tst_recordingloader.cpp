@@ -2,7 +2,9 @@
 #include <model/recordingloader.h>
 #include <model/samplegenerator.h>
 
-#include "support/testguard.h"
+#include "support/files.h"
+#include "support/guardedtest.h"
+#include "support/testrows.h"
 
 #include <QFile>
 #include <QSignalSpy>
@@ -10,34 +12,107 @@
 
 using namespace bandmonitor;
 
-class TestRecordingLoader : public QObject
+class TestRecordingLoader : public GuardedTest
 {
     Q_OBJECT
+    using Failures = TestRows<QString, QByteArray, QString>;
 
 private Q_SLOTS:
-    void init()
+    void sample()
     {
-        m_guard = std::make_unique<TestGuard>();
+        QVERIFY(QFile(samplePath()).size() < 2'000'000);
+        QSignalSpy progress(m_loader.get(), &RecordingLoader::progress);
+        loadSlowly();
+        QVERIFY(m_loader->isLoading());
+        QTRY_COMPARE(m_finished->count(), 1);
+        QVERIFY(!m_loader->isLoading());
+        QCOMPARE(m_failed->count() + m_cancelled->count(), 0);
+        const auto recording = m_loader->recording();
+        QCOMPARE(recording->count(), 120);
+        QCOMPARE(recording->levelCount(), 120U * 3 * 400);
+        QCOMPARE(recording->lowHz(), 80e6);
+        QCOMPARE(recording->highHz(), 110e6);
+        QVERIFY(*recording->maximumLevel() > *recording->minimumLevel() + 20);
+        QCOMPARE(m_loader->report(), QString());
+        QVERIFY(progress.count() > 100);
+        qint64 last = 0;
+        for (const QList<QVariant>& arguments : progress) {
+            QVERIFY(arguments.at(0).toLongLong() >= last);
+            last = arguments.at(0).toLongLong();
+        }
+        QCOMPARE(last, progress.last().at(1).toLongLong());
+    }
+    void failures_data()
+    {
+        Failures row;
+        row("missing", "missing", {}, "%1 does not exist.");
+        row("folder", ".", {}, "%1 is a folder, not a recording.");
+        row("empty", "empty.csv", "", "%1 holds no sweep of a band scan.");
+        row("no recording", "letter.txt", "Dear reader,\n",
+            "%1 holds no sweep of a band scan. Line 1: no valid date and time.");
+    }
+    void failures()
+    {
+        const auto& [name, content, expected] = Failures::fetch();
+        const QTemporaryDir dir;
+        const QString path = dir.filePath(name);
+        QVERIFY(content.isNull() || writeFile(path, content));
+        m_loader->load(path);
+        QCOMPARE(m_failed->count(), 0); // never from within load()
+        QTRY_COMPARE(m_failed->count(), 1);
+        QCOMPARE(m_failed->at(0).at(0).toString(), expected.arg(path));
+        QCOMPARE(m_finished->count(), 0);
+        QVERIFY(!m_loader->isLoading());
+    }
+    void cancel()
+    {
+        m_loader->cancel(); // nothing to cancel
+        loadSlowly();
+        connect(m_loader.get(), &RecordingLoader::progress, this, [this](qint64 done) {
+            if (done >= 100 * 1024)
+                m_loader->cancel();
+        });
+        QTRY_COMPARE(m_cancelled->count(), 1);
+        QVERIFY(!m_loader->isLoading());
+        const qsizetype count = m_loader->recording()->count();
+        QVERIFY(count > 0 && count < 120);
+        QCoreApplication::processEvents();
+        QCOMPARE(m_finished->count() + m_failed->count(), 0);
+        QCOMPARE(m_loader->recording()->count(), count);
+    }
+    void loadFromSlot()
+    {
+        loadSlowly();
+        const auto given = m_loader->recording();
+        bool again = false;
+        connect(m_loader.get(), &RecordingLoader::progress, this, [&](qint64 done) {
+            if (done > 50'000 && !std::exchange(again, true))
+                m_loader->load(samplePath());
+        });
+        QTRY_COMPARE(m_finished->count(), 1);
+        QVERIFY(given->count() < 120);
+        QCOMPARE(m_loader->recording()->count(), 120);
+        QCOMPARE(m_cancelled->count(), 0);
+    }
+    void destroyedWhileLoading()
+    {
+        loadSlowly();
+        const auto recording = m_loader->recording();
+        connect(m_loader.get(), &RecordingLoader::progress, this, [this] { m_loader.reset(); });
+        QTRY_VERIFY(!m_loader);
+        QCoreApplication::processEvents();
+        QVERIFY(recording->count() < 120);
+    }
+
+private:
+    void prepare() override
+    {
         m_loader = std::make_unique<RecordingLoader>();
         m_finished = std::make_unique<QSignalSpy>(m_loader.get(), &RecordingLoader::finished);
         m_failed = std::make_unique<QSignalSpy>(m_loader.get(), &RecordingLoader::failed);
         m_cancelled = std::make_unique<QSignalSpy>(m_loader.get(), &RecordingLoader::cancelled);
     }
-    void cleanup()
-    {
-        m_loader.reset();
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-
-    void sample();
-    void failures_data();
-    void failures();
-    void cancel();
-    void loadFromSlot();
-    void destroyedWhileLoading();
-
-private:
+    void tidy() override { m_loader.reset(); }
     /// Makes every slice one small piece.
     void loadSlowly()
     {
@@ -46,117 +121,11 @@ private:
         m_loader->load(samplePath());
     }
 
-    std::unique_ptr<TestGuard> m_guard;
     std::unique_ptr<RecordingLoader> m_loader;
     std::unique_ptr<QSignalSpy> m_finished;
     std::unique_ptr<QSignalSpy> m_failed;
     std::unique_ptr<QSignalSpy> m_cancelled;
 };
-
-void TestRecordingLoader::sample()
-{
-    QVERIFY(QFile(samplePath()).size() < 2'000'000);
-    QSignalSpy progress(m_loader.get(), &RecordingLoader::progress);
-    loadSlowly();
-    QVERIFY(m_loader->isLoading());
-    QTRY_COMPARE(m_finished->count(), 1);
-    QVERIFY(!m_loader->isLoading());
-    QCOMPARE(m_failed->count() + m_cancelled->count(), 0);
-    const auto recording = m_loader->recording();
-    QCOMPARE(recording->count(), 120);
-    QCOMPARE(recording->levelCount(), 120U * 3 * 400);
-    QCOMPARE(recording->lowHz(), 80e6);
-    QCOMPARE(recording->highHz(), 110e6);
-    QVERIFY(*recording->maximumLevel() > *recording->minimumLevel() + 20);
-    QCOMPARE(m_loader->report(), QString());
-    QVERIFY(progress.count() > 100);
-    qint64 last = 0;
-    for (const QList<QVariant>& arguments : progress) {
-        QVERIFY(arguments.at(0).toLongLong() >= last);
-        last = arguments.at(0).toLongLong();
-    }
-    QCOMPARE(last, progress.last().at(1).toLongLong());
-}
-
-void TestRecordingLoader::failures_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("missing") << QStringLiteral("missing") << QByteArray()
-                             << QStringLiteral("%1 does not exist.");
-    QTest::newRow("folder") << QStringLiteral(".") << QByteArray()
-                            << QStringLiteral("%1 is a folder, not a recording.");
-    QTest::newRow("empty") << QStringLiteral("empty.csv") << QByteArray("")
-                           << QStringLiteral("%1 holds no sweep of a band scan.");
-    QTest::newRow("no recording")
-        << QStringLiteral("letter.txt") << QByteArray("Dear reader,\n")
-        << QStringLiteral("%1 holds no sweep of a band scan. Line 1: no valid date and time.");
-}
-
-void TestRecordingLoader::failures()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, content);
-    QFETCH(QString, expected);
-
-    const QTemporaryDir dir;
-    const QString path = dir.filePath(name);
-    if (!content.isNull()) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
-    }
-    m_loader->load(path);
-    QCOMPARE(m_failed->count(), 0); // never from within load()
-    QTRY_COMPARE(m_failed->count(), 1);
-    QCOMPARE(m_failed->at(0).at(0).toString(), expected.arg(path));
-    QCOMPARE(m_finished->count(), 0);
-    QVERIFY(!m_loader->isLoading());
-}
-
-void TestRecordingLoader::cancel()
-{
-    m_loader->cancel(); // nothing to cancel
-    loadSlowly();
-    connect(m_loader.get(), &RecordingLoader::progress, this, [this](qint64 done) {
-        if (done >= 100 * 1024)
-            m_loader->cancel();
-    });
-    QTRY_COMPARE(m_cancelled->count(), 1);
-    QVERIFY(!m_loader->isLoading());
-    const qsizetype count = m_loader->recording()->count();
-    QVERIFY(count > 0 && count < 120);
-    QCoreApplication::processEvents();
-    QCOMPARE(m_finished->count() + m_failed->count(), 0);
-    QCOMPARE(m_loader->recording()->count(), count);
-}
-
-void TestRecordingLoader::loadFromSlot()
-{
-    loadSlowly();
-    const auto given = m_loader->recording();
-    bool again = false;
-    connect(m_loader.get(), &RecordingLoader::progress, this, [&](qint64 done) {
-        if (done > 50'000 && !std::exchange(again, true))
-            m_loader->load(samplePath());
-    });
-    QTRY_COMPARE(m_finished->count(), 1);
-    QVERIFY(given->count() < 120);
-    QCOMPARE(m_loader->recording()->count(), 120);
-    QCOMPARE(m_cancelled->count(), 0);
-}
-
-void TestRecordingLoader::destroyedWhileLoading()
-{
-    loadSlowly();
-    const auto recording = m_loader->recording();
-    connect(m_loader.get(), &RecordingLoader::progress, this, [this] { m_loader.reset(); });
-    QTRY_VERIFY(!m_loader);
-    QCoreApplication::processEvents();
-    QVERIFY(recording->count() < 120);
-}
 
 QTEST_GUILESS_MAIN(TestRecordingLoader)
 #include "tst_recordingloader.moc"

@@ -3,347 +3,282 @@
 
 #include <model/samplegenerator.h>
 
+#include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testguard.h"
+#include "support/testrows.h"
 
 #include <QTest>
 
 #include <cmath>
+#include <map>
 
 using namespace bandmonitor;
 
-class TestRecordingParser : public QObject
+class TestRecordingParser : public GuardedTest
 {
     Q_OBJECT
-
-private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
-    {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-
-    void lines_data();
-    void lines();
-    void badLines_data();
-    void badLines();
-    void times();
-    void levels();
-    void sweepsFromHops_data();
-    void sweepsFromHops();
-    void reportNamesFirstLines();
-    void longestLine();
-    void limitOfLevels();
-    void wideGapsCostNothing();
-    void writtenSweepReadsBack();
-    void cutsDoNotMatter();
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
-};
-
-void TestRecordingParser::lines_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<int>("bins");
-    QTest::addColumn<double>("stepHz");
-
-    const QByteArray head = "2018-11-18, 12:48:15, ";
-    QTest::newRow("plain") << head + "100, 400, 100.00, 7, -1, -2, -3\n" << 3 << 100.0;
-    QTest::newRow("no line end") << head + "100, 400, 100.00, 7, -1, -2, -3" << 3 << 100.0;
-    QTest::newRow("CRLF") << head + "100, 400, 100.00, 7, -1, -2, -3\r\n\r\n" << 3 << 100.0;
-    QTest::newRow("blanks") << " \n\t " + head + "\t100 ,400,100.00 ,7,-1 ,-2\t, -3 \n"
-                            << 3 << 100.0;
-    QTest::newRow("comma at the end") << head + "100, 400, 100, 7, -1, -2, -3, \n" << 3 << 100.0;
-    QTest::newRow("byte order mark") << "\xEF\xBB\xBF" + head + "100, 400, 100, 7, 1, 2, 3\n"
-                                     << 3 << 100.0;
-    QTest::newRow("last bin repeated") << head + "100, 400, 100, 7, -1, -2, -3, -3\n" << 3 << 100.0;
-    QTest::newRow("one bin") << head + "100, 400, 300, 7, -1\n" << 1 << 300.0;
-    // 1000 / 4096 Hz is written as 0.24
-    QTest::newRow("rounded step") << head + "0, 1000, 0.24, 7" + QByteArray(", -1").repeated(4096)
-                                  << 4096 << 1000.0 / 4096;
-    QTest::newRow("exponent") << head + "1e6, 1.3e6, 1e5, 7e0, -1, -2, -3\n" << 3 << 1e5;
-}
-
-void TestRecordingParser::lines()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(int, bins);
-    QFETCH(double, stepHz);
-
-    ReadRecording reader;
-    reader.read(text.toStdString());
-    QCOMPARE(reader.parser.report(), QString());
-    QCOMPARE(reader.recording->count(), 1);
-    const Sweep sweep = reader.recording->sweep(0);
-    QCOMPARE(sweep.binCount, static_cast<std::size_t>(bins));
-    QCOMPARE(sweep.segments[0].stepHz, stepHz);
-    QCOMPARE(sweep.segments[0].samples, 7U);
-    QCOMPARE(reader.recording->levelCount(), static_cast<std::size_t>(bins));
-}
-
-void TestRecordingParser::badLines_data()
-{
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<LineFault>("fault");
-
-    const auto row = [](const char* line, LineFault fault) {
-        QTest::newRow(line) << QByteArray(line) << fault;
-    };
-    row("garbage", LineFault::BadTime);
-    row("date, time, low, high, step, samples, dB", LineFault::BadTime);
-    row("2018-02-30, 12:48:15, 100, 300, 100, 7, 1, 2", LineFault::BadTime);
-    row("1969-12-31, 23:59:59, 100, 300, 100, 7, 1, 2", LineFault::BadTime);
-    row("2018-11-18, 24:00:00, 100, 300, 100, 7, 1, 2", LineFault::BadTime);
-    row("2018-11-18", LineFault::BadTime);
-    row("2018-11-18, 12:48:15", LineFault::BadFrequency);
-    row("2018-11-18, 12:48:15, -100, 100, 100, 7, 1, 2", LineFault::BadFrequency);
-    row("2018-11-18, 12:48:15, 300, 100, 100, 7, 1, 2", LineFault::BadFrequency);
-    row("2018-11-18, 12:48:15, 100, 300, 0, 7, 1, 2", LineFault::BadFrequency);
-    row("2018-11-18, 12:48:15, 100, 300, -100, 7, 1, 2", LineFault::BadFrequency);
-    row("2018-11-18, 12:48:15, nan, 300, 100, 7, 1, 2", LineFault::BadFrequency);
-    row("2018-11-18, 12:48:15, 100, inf, 100, 7, 1, 2", LineFault::BadFrequency);
-    row("2018-11-18, 12:48:15, 0, 1e18, 1, 7, 1, 2", LineFault::BadFrequency);
-    row("2018-11-18, 12:48:15, 1x, 300, 100, 7, 1, 2", LineFault::BadFrequency);
-    row("2018-11-18, 12:48:15, 100, 300, 100, -7, 1, 2", LineFault::BadSamples);
-    row("2018-11-18, 12:48:15, 100, 300, 100", LineFault::BadSamples);
-    row("2018-11-18, 12:48:15, 100, 300, 100, 7", LineFault::NoLevels);
-    row("2018-11-18, 12:48:15, 100, 300, 100, 7, 1, x", LineFault::BadLevel);
-    row("2018-11-18, 12:48:15, 100, 300, 100, 7, 1, , 2", LineFault::BadLevel);
-    row("2018-11-18, 12:48:15, 100, 300, 100, 7, 1, -", LineFault::BadLevel);
-    row("2018-11-18, 12:48:15, 100, 300, 100, 7, 1 2", LineFault::BadLevel);
-    row("2018-11-18, 12:48:15, 100, 300, 100, 7, 1, +-2", LineFault::BadLevel);
-    row("2018-11-18, 12:48:15, 100, 300, 100, 7, 1", LineFault::CountMismatch);
-    row("2018-11-18, 12:48:15, 100, 300, 100, 7, 1, 2, 3, 4", LineFault::CountMismatch);
-    row("2018-11-18, 12:48:15, 0, 1e13, 0.001, 7, 1, 2", LineFault::CountMismatch);
-}
-
-void TestRecordingParser::badLines()
-{
-    QFETCH(QByteArray, line);
-    QFETCH(LineFault, fault);
-
-    ReadRecording reader;
-    reader.read("\n" + line.toStdString() + "\n2018-11-18, 12:48:15, 500, 700, 100, 7, 1, 2\n");
-    QCOMPARE(reader.parser.skippedCount(), 1);
-    QCOMPARE(reader.parser.skippedLines().at(0).number, 2);
-    QCOMPARE(reader.parser.skippedLines().at(0).fault, fault);
-    QCOMPARE(reader.recording->count(), 1);
-    QCOMPARE(reader.recording->sweep(0).lowHz, 500.0);
-}
-
-void TestRecordingParser::times()
-{
-    ReadRecording reader;
-    reader.read("1970-01-01, 00:00:00, 1, 2, 1, 1, 0\n"
-                "2018-11-18, 12:48:15, 1, 2, 1, 1, 0\n"
-                "2018-11-18, 12:48:15.0000419, 1, 2, 1, 1, 0\n"
-                "2000-02-29, 23:59:60.5, 1, 2, 1, 1, 0\n");
-    QCOMPARE(reader.recording->count(), 4);
-    QCOMPARE(reader.recording->sweep(0).timeUs, 0U);
-    QCOMPARE(reader.recording->sweep(1).timeUs, 1'542'545'295'000'000U);
-    QCOMPARE(reader.recording->sweep(2).timeUs, 1'542'545'295'000'041U);
-    QCOMPARE(reader.recording->sweep(3).timeUs, 951'868'800'500'000U);
-}
-
-void TestRecordingParser::levels()
-{
-    const std::vector<std::pair<const char*, float>> fields = {
-        {"-28.02", -28.02F},
-        {"0", 0.0F},
-        {".5", 0.5F},
-        {"-7.", -7.0F},
-        {"+3.25", 3.25F},
-        {"-1.5e1", -15.0F},
-        {"-123.456789012345678901234567890", -123.45679F},
-        {"0.00000000000000000000000012", 1.2e-25F},
-        {"1000", 1000.0F},
-        {"-1000.01", noLevel},
-        {"1e300", noLevel},
-        {"1e9999", noLevel},
-        {"99999999999999999999999999", noLevel},
-        {"nan", noLevel},
-        {"-nan", noLevel},
-        {"NaN", noLevel},
-        {"inf", noLevel},
-        {"-inf", noLevel},
-        {"-Infinity", noLevel},
-    };
-    std::string line = "2018-11-18, 12:48:15, 0, " + std::to_string(fields.size()) + ", 1, 7";
-    for (const auto& [text, value] : fields)
-        line += std::string(", ") + text;
-    ReadRecording reader;
-    reader.read(line);
-    QCOMPARE(reader.parser.report(), QString());
-    const Sweep sweep = reader.recording->sweep(0);
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        const float level = sweep.segments[0].levels[i];
-        QVERIFY2(level == fields[i].second || (std::isnan(level) && std::isnan(fields[i].second)),
-                 qPrintable(QStringLiteral("%1 read as %2")
-                                .arg(QString::fromLatin1(fields[i].first))
-                                .arg(static_cast<double>(level))));
-    }
-    QCOMPARE(reader.recording->maximumLevel(), std::optional(1000.0F));
-    QCOMPARE(reader.recording->minimumLevel(), std::optional(-123.45679F));
-}
-
-void TestRecordingParser::sweepsFromHops_data()
-{
-    QTest::addColumn<QList<std::pair<int, int>>>("hops"); // second, start
-    QTest::addColumn<QList<QList<int>>>("sweeps");        // starts
-
+    using Lines = TestRows<QByteArray, int, double>;
     using Hops = QList<std::pair<int, int>>;
     using Sweeps = QList<QList<int>>;
-    QTest::newRow("three hops a sweep")
-        << Hops{{1, 0}, {1, 10}, {1, 20}, {2, 0}, {2, 10}} << Sweeps{{0, 10, 20}, {0, 10}};
-    QTest::newRow("out of order") << Hops{{1, 20}, {1, 0}, {1, 10}} << Sweeps{{0, 10, 20}};
-    QTest::newRow("two sweeps a second")
-        << Hops{{1, 0}, {1, 10}, {1, 0}, {1, 10}} << Sweeps{{0, 10}, {0, 10}};
-    QTest::newRow("two a second, out of order")
-        << Hops{{1, 10}, {1, 0}, {1, 10}, {1, 0}, {1, 0}} << Sweeps{{0, 10}, {0, 10}, {0}};
-    QTest::newRow("overlapping") << Hops{{1, 0}, {1, 3}, {1, 1}} << Sweeps{{0, 1, 3}};
-    QTest::newRow("backward in time") << Hops{{5, 0}, {4, 0}, {5, 10}} << Sweeps{{0}, {0}, {10}};
-}
+    using HopRows = TestRows<Hops, Sweeps>;
 
-void TestRecordingParser::sweepsFromHops()
-{
-    using Hops = QList<std::pair<int, int>>;
-    QFETCH(Hops, hops);
-    QFETCH(QList<QList<int>>, sweeps);
-
-    QByteArray text;
-    for (const auto& [second, start] : hops) {
-        text += QStringLiteral("2018-11-18, 12:48:%1, %2, %3, 1, 1, %2, %2, %2, %2, %2\n")
-                    .arg(second, 2, 10, QLatin1Char('0'))
-                    .arg(start)
-                    .arg(start + 5)
-                    .toLatin1();
+private Q_SLOTS:
+    void lines_data()
+    {
+        Lines row; // text, bins, step in hertz
+        const QByteArray head = "2018-11-18, 12:48:15, ";
+        row("plain", head + "100, 400, 100.00, 7, -1, -2, -3\n", 3, 100);
+        row("no line end", head + "100, 400, 100.00, 7, -1, -2, -3", 3, 100);
+        row("CRLF", head + "100, 400, 100.00, 7, -1, -2, -3\r\n\r\n", 3, 100);
+        row("blanks", " \n\t " + head + "\t100 ,400,100.00 ,7,-1 ,-2\t, -3 \n", 3, 100);
+        row("comma at the end", head + "100, 400, 100, 7, -1, -2, -3, \n", 3, 100);
+        row("byte order mark", "\xEF\xBB\xBF" + head + "100, 400, 100, 7, 1, 2, 3\n", 3, 100);
+        row("last bin repeated", head + "100, 400, 100, 7, -1, -2, -3, -3\n", 3, 100);
+        row("one bin", head + "100, 400, 300, 7, -1\n", 1, 300);
+        row("exponent", head + "1e6, 1.3e6, 1e5, 7e0, -1, -2, -3\n", 3, 1e5);
+        // 1000 / 4096 Hz is written as 0.24
+        const QByteArray rounded = head + "0, 1000, 0.24, 7" + QByteArray(", -1").repeated(4096);
+        row("rounded step", rounded, 4096, 1000.0 / 4096);
     }
-    ReadRecording reader;
-    reader.read(text.toStdString());
-    QList<QList<int>> read;
-    for (qsizetype i = 0; i < reader.recording->count(); ++i) {
-        QList<int> starts;
-        for (const Segment& segment : reader.recording->sweep(i).segments) {
-            starts << static_cast<int>(segment.startHz);
-            QCOMPARE(segment.levels[4], static_cast<float>(segment.startHz));
+    void lines()
+    {
+        const auto& [text, bins, stepHz] = Lines::fetch();
+        ReadRecording reader;
+        reader.read(text.toStdString());
+        QCOMPARE(reader.parser.report(), QString());
+        QCOMPARE(reader.recording->count(), 1);
+        const Sweep sweep = reader.recording->sweep(0);
+        QCOMPARE(sweep.binCount, static_cast<std::size_t>(bins));
+        QCOMPARE(sweep.segments[0].stepHz, stepHz);
+        QCOMPARE(sweep.segments[0].samples, 7U);
+        QCOMPARE(reader.recording->levelCount(), static_cast<std::size_t>(bins));
+    }
+    void badLines()
+    {
+        std::map<LineFault, std::vector<std::string>> lines;
+        lines[LineFault::BadTime] = {"garbage",
+                                     "date, time, low, high, step, samples, dB",
+                                     "2018-11-18",
+                                     "2018-02-30, 12:48:15, 100, 300, 100, 7, 1, 2",
+                                     "1969-12-31, 23:59:59, 100, 300, 100, 7, 1, 2",
+                                     "2018-11-18, 24:00:00, 100, 300, 100, 7, 1, 2"};
+        const auto add = [&lines](LineFault fault, std::initializer_list<const char*> ends) {
+            for (const char* end : ends)
+                lines[fault].push_back(std::string("2018-11-18, 12:48:15") + end);
+        };
+        add(LineFault::BadFrequency,
+            {"", ", -100, 100, 100, 7, 1, 2", ", 300, 100, 100, 7, 1, 2", ", 100, 300, 0, 7, 1, 2",
+             ", 100, 300, -100, 7, 1, 2", ", nan, 300, 100, 7, 1, 2", ", 100, inf, 100, 7, 1, 2",
+             ", 0, 1e18, 1, 7, 1, 2", ", 1x, 300, 100, 7, 1, 2"});
+        add(LineFault::BadSamples, {", 100, 300, 100, -7, 1, 2", ", 100, 300, 100"});
+        add(LineFault::NoLevels, {", 100, 300, 100, 7"});
+        add(LineFault::BadLevel,
+            {", 100, 300, 100, 7, 1, x", ", 100, 300, 100, 7, 1, , 2", ", 100, 300, 100, 7, 1, -",
+             ", 100, 300, 100, 7, 1 2", ", 100, 300, 100, 7, 1, +-2"});
+        add(LineFault::CountMismatch, {", 100, 300, 100, 7, 1", ", 100, 300, 100, 7, 1, 2, 3, 4",
+                                       ", 0, 1e13, 0.001, 7, 1, 2"});
+        for (const auto& [fault, bad] : lines) {
+            for (const std::string& line : bad) {
+                ReadRecording reader;
+                reader.read("\n" + line + "\n2018-11-18, 12:48:15, 500, 700, 100, 7, 1, 2\n");
+                QCOMPARE(reader.parser.skippedCount(), 1);
+                QCOMPARE(reader.parser.skippedLines().at(0).number, 2);
+                QVERIFY2(reader.parser.skippedLines().at(0).fault == fault, line.c_str());
+                QCOMPARE(reader.recording->count(), 1);
+                QCOMPARE(reader.recording->sweep(0).lowHz, 500.0);
+            }
         }
-        read << starts;
     }
-    QCOMPARE(read, sweeps);
-}
-
-void TestRecordingParser::reportNamesFirstLines()
-{
-    ReadRecording reader;
-    reader.read("\nbad\n" + std::string(40, '\n') + "2018-11-18, 12:48:15, 0, 1, 0, 1, 0\n");
-    QCOMPARE(reader.parser.report(),
-             QStringLiteral("Skipped lines: 2.\nLine 2: no valid date and time.\n"
-                            "Line 43: no valid frequencies and step."));
-    for (int i = 0; i < 1000; ++i)
-        reader.parser.feed("x\n");
-    QCOMPARE(reader.parser.skippedCount(), 1002);
-    QCOMPARE(reader.parser.skippedLines().size(), RecordingParser::keptSkippedLines);
-    QVERIFY(reader.parser.report().endsWith(QStringLiteral("\n...")));
-}
-
-void TestRecordingParser::longestLine()
-{
-    ReadRecording reader;
-    const std::string piece(std::size_t{1} << 20, ' ');
-    for (std::size_t size = 0; size <= RecordingParser::maximumLineBytes; size += piece.size())
-        reader.parser.feed(piece);
-    reader.read("\n2018-11-18, 12:48:15, 0, 1, 1, 1, 0");
-    QCOMPARE(reader.parser.skippedCount(), 1);
-    QCOMPARE(reader.parser.skippedLines().at(0).fault, LineFault::TooLong);
-    QCOMPARE(reader.recording->count(), 1);
-}
-
-void TestRecordingParser::limitOfLevels()
-{
-    ReadRecording reader;
-    reader.parser.setMaximumLevels(5);
-    reader.read("2018-11-18, 12:48:15, 0, 2, 1, 1, 0, 0\n2018-11-18, 12:48:16, 0, 2, 1, 1, 0, 0\n"
-                "2018-11-18, 12:48:17, 0, 2, 1, 1, 0, 0\n");
-    QCOMPARE(reader.recording->levelCount(), 4U);
-    QVERIFY(reader.parser.isFull());
-}
-
-void TestRecordingParser::wideGapsCostNothing()
-{
-    ReadRecording reader;
-    std::string text;
-    // Downward, so that each hop comes out of order.
-    for (int hop = 20'000; hop > 0; --hop)
-        text += "2018-11-18, 12:48:15, " + std::to_string(hop * 1e8) + ", " +
-                std::to_string(hop * 1e8 + 1) + ", 1, 1, 5\n";
-    reader.read(text);
-    QCOMPARE(reader.recording->count(), 1);
-    const Sweep sweep = reader.recording->sweep(0);
-    QCOMPARE(sweep.highHz, 2e12 + 1);
-    QCOMPARE(sweep.levelAt(1e12), std::optional(5.0F));
-    QCOMPARE(sweep.levelAt(1e12 + 1), std::optional<float>());
-    QVERIFY(reader.recording->reservedBytes() < 4 * sweep.segments.size() * sizeof(Segment));
-}
-
-void TestRecordingParser::writtenSweepReadsBack()
-{
-    SampleSettings settings;
-    settings.sweeps = 3;
-    settings.lowHz = 88'000'012.5;
-    settings.stepHz = 1e6 / 3;
-    settings.sweepIntervalUs = 250'000;
-    const QByteArray text = SampleGenerator(settings).remaining();
-    QVERIFY(text.startsWith("2026-01-01, 00:00:00, 88000012.50, "));
-    QVERIFY(text.contains("2026-01-01, 00:00:00.250000, "));
-    ReadRecording reader;
-    reader.read(text.toStdString());
-    QCOMPARE(reader.parser.report(), QString());
-    QCOMPARE(reader.recording->count(), 3);
-    QCOMPARE(reader.recording->sweep(2).segments[0].stepHz, settings.stepHz);
-    QCOMPARE(reader.text().replace("\n\n", "\n"), text);
-
-    OwnedSegments odd;
-    odd.add(1, 0.5, {noLevel, 1e-20F, -28.5F, 100, -28.12345F});
-    ReadRecording oddReader;
-    oddReader.read(sweepText(odd.sweep()).toStdString());
-    QCOMPARE(oddReader.text(), sweepText(odd.sweep()) + '\n');
-    QCOMPARE(sweepText(odd.sweep()),
-             QByteArray("1970-01-01, 00:00:00, 1, 3.50, 0.50, 1, nan, 0.00000000000000000001, "
-                        "-28.50, 100.00, -28.12345\n"));
-}
-
-void TestRecordingParser::cutsDoNotMatter()
-{
-    RandomBytes random("recording");
-    SampleSettings settings;
-    settings.sweeps = 3;
-    settings.hops = 2;
-    settings.binsPerHop = 6;
-    const QByteArray good = SampleGenerator(settings).remaining() +
-                            "2026-01-01, 00:00:09, 5, 7, 1, 1, nan, -inf\r\n\n1e5, , -nan";
-    for (int round = RandomBytes::rounds(2000); round > 0; --round) {
-        const QByteArray text = random.below(20) == 0 ? random.bytes(300) : random.mutated(good);
-        ReadRecording whole;
-        whole.read(text.toStdString());
-        ReadRecording cut;
-        for (qsizetype at = 0; at < text.size();) {
-            const qsizetype size = std::min<qsizetype>(random.below(80), text.size() - at);
-            cut.parser.feed({text.constData() + at, static_cast<std::size_t>(size)});
-            at += size;
+    void times()
+    {
+        ReadRecording reader;
+        reader.read("1970-01-01, 00:00:00, 1, 2, 1, 1, 0\n"
+                    "2018-11-18, 12:48:15, 1, 2, 1, 1, 0\n"
+                    "2018-11-18, 12:48:15.0000419, 1, 2, 1, 1, 0\n"
+                    "2000-02-29, 23:59:60.5, 1, 2, 1, 1, 0\n");
+        QCOMPARE(reader.recording->count(), 4);
+        QCOMPARE(reader.recording->sweep(0).timeUs, 0U);
+        QCOMPARE(reader.recording->sweep(1).timeUs, 1'542'545'295'000'000U);
+        QCOMPARE(reader.recording->sweep(2).timeUs, 1'542'545'295'000'041U);
+        QCOMPARE(reader.recording->sweep(3).timeUs, 951'868'800'500'000U);
+    }
+    void levels()
+    {
+        std::vector<std::pair<const char*, float>> fields = {
+            {"-28.02", -28.02F},
+            {"0", 0.0F},
+            {".5", 0.5F},
+            {"-7.", -7.0F},
+            {"+3.25", 3.25F},
+            {"-1.5e1", -15.0F},
+            {"-123.456789012345678901234567890", -123.45679F},
+            {"0.00000000000000000000000012", 1.2e-25F},
+            {"1000", 1000.0F}};
+        for (const char* text : {"-1000.01", "1e300", "1e9999", "99999999999999999999999999", "nan",
+                                 "-nan", "NaN", "inf", "-inf", "-Infinity"})
+            fields.emplace_back(text, noLevel);
+        std::string line = "2018-11-18, 12:48:15, 0, " + std::to_string(fields.size()) + ", 1, 7";
+        for (const auto& [text, value] : fields)
+            line += std::string(", ") + text;
+        ReadRecording reader;
+        reader.read(line);
+        QCOMPARE(reader.parser.report(), QString());
+        const Sweep sweep = reader.recording->sweep(0);
+        for (std::size_t i = 0; i < fields.size(); ++i) {
+            const float level = sweep.segments[0].levels[i];
+            QVERIFY2(level == fields[i].second ||
+                         (std::isnan(level) && std::isnan(fields[i].second)),
+                     qPrintable(QStringLiteral("%1 read as %2")
+                                    .arg(QString::fromLatin1(fields[i].first))
+                                    .arg(static_cast<double>(level))));
         }
-        cut.parser.finish();
-        QCOMPARE(cut.text(), whole.text());
-        QCOMPARE(cut.parser.report(), whole.parser.report());
-        QCOMPARE(cut.parser.lineCount(), whole.parser.lineCount());
-        // What was understood can be written and understood again.
-        ReadRecording again;
-        again.read(whole.text().toStdString());
-        QCOMPARE(again.parser.report(), QString());
-        QCOMPARE(again.text(), whole.text());
+        QCOMPARE(reader.recording->maximumLevel(), std::optional(1000.0F));
+        QCOMPARE(reader.recording->minimumLevel(), std::optional(-123.45679F));
     }
-}
+    void sweepsFromHops_data()
+    {
+        HopRows row; // second and start of each hop; the starts in each sweep
+        row("three hops a sweep", {{1, 0}, {1, 10}, {1, 20}, {2, 0}, {2, 10}},
+            {{0, 10, 20}, {0, 10}});
+        row("out of order", {{1, 20}, {1, 0}, {1, 10}}, {{0, 10, 20}});
+        row("two a second", {{1, 0}, {1, 10}, {1, 0}, {1, 10}}, {{0, 10}, {0, 10}});
+        row("two, out of order", {{1, 10}, {1, 0}, {1, 10}, {1, 0}, {1, 0}},
+            {{0, 10}, {0, 10}, {0}});
+        row("overlapping", {{1, 0}, {1, 3}, {1, 1}}, {{0, 1, 3}});
+        row("backward in time", {{5, 0}, {4, 0}, {5, 10}}, {{0}, {0}, {10}});
+    }
+    void sweepsFromHops()
+    {
+        const auto& [hops, sweeps] = HopRows::fetch();
+        QByteArray text;
+        for (const auto& [second, start] : hops) {
+            text += QStringLiteral("2018-11-18, 12:48:%1, %2, %3, 1, 1, %2, %2, %2, %2, %2\n")
+                        .arg(second, 2, 10, QLatin1Char('0'))
+                        .arg(start)
+                        .arg(start + 5)
+                        .toLatin1();
+        }
+        ReadRecording reader;
+        reader.read(text.toStdString());
+        QList<QList<int>> read;
+        for (qsizetype i = 0; i < reader.recording->count(); ++i) {
+            QList<int> starts;
+            for (const Segment& segment : reader.recording->sweep(i).segments) {
+                starts << static_cast<int>(segment.startHz);
+                QCOMPARE(segment.levels[4], static_cast<float>(segment.startHz));
+            }
+            read << starts;
+        }
+        QCOMPARE(read, sweeps);
+    }
+    void reportNamesFirstLines()
+    {
+        ReadRecording reader;
+        reader.read("\nbad\n" + std::string(40, '\n') + "2018-11-18, 12:48:15, 0, 1, 0, 1, 0\n");
+        QCOMPARE(reader.parser.report(),
+                 QStringLiteral("Skipped lines: 2.\nLine 2: no valid date and time.\n"
+                                "Line 43: no valid frequencies and step."));
+        for (int i = 0; i < 1000; ++i)
+            reader.parser.feed("x\n");
+        QCOMPARE(reader.parser.skippedCount(), 1002);
+        QCOMPARE(reader.parser.skippedLines().size(), RecordingParser::keptSkippedLines);
+        QVERIFY(reader.parser.report().endsWith(QStringLiteral("\n...")));
+    }
+    void longestLine()
+    {
+        ReadRecording reader;
+        const std::string piece(std::size_t{1} << 20, ' ');
+        for (std::size_t size = 0; size <= RecordingParser::maximumLineBytes; size += piece.size())
+            reader.parser.feed(piece);
+        reader.read("\n2018-11-18, 12:48:15, 0, 1, 1, 1, 0");
+        QCOMPARE(reader.parser.skippedCount(), 1);
+        QCOMPARE(reader.parser.skippedLines().at(0).fault, LineFault::TooLong);
+        QCOMPARE(reader.recording->count(), 1);
+    }
+    void limitOfLevels()
+    {
+        ReadRecording reader;
+        reader.parser.setMaximumLevels(5);
+        reader.read(
+            "2018-11-18, 12:48:15, 0, 2, 1, 1, 0, 0\n2018-11-18, 12:48:16, 0, 2, 1, 1, 0, 0\n"
+            "2018-11-18, 12:48:17, 0, 2, 1, 1, 0, 0\n");
+        QCOMPARE(reader.recording->levelCount(), 4U);
+        QVERIFY(reader.parser.isFull());
+    }
+    void wideGapsCostNothing()
+    {
+        ReadRecording reader;
+        std::string text;
+        // Downward, so that each hop comes out of order.
+        for (int hop = 20'000; hop > 0; --hop)
+            text += "2018-11-18, 12:48:15, " + std::to_string(hop * 1e8) + ", " +
+                    std::to_string(hop * 1e8 + 1) + ", 1, 1, 5\n";
+        reader.read(text);
+        QCOMPARE(reader.recording->count(), 1);
+        const Sweep sweep = reader.recording->sweep(0);
+        QCOMPARE(sweep.highHz, 2e12 + 1);
+        QCOMPARE(sweep.levelAt(1e12), std::optional(5.0F));
+        QCOMPARE(sweep.levelAt(1e12 + 1), std::optional<float>());
+        QVERIFY(reader.recording->reservedBytes() < 4 * sweep.segments.size() * sizeof(Segment));
+    }
+    void writtenSweepReadsBack()
+    {
+        SampleSettings settings;
+        settings.sweeps = 3;
+        settings.lowHz = 88'000'012.5;
+        settings.stepHz = 1e6 / 3;
+        settings.sweepIntervalUs = 250'000;
+        const QByteArray text = SampleGenerator(settings).remaining();
+        QVERIFY(text.startsWith("2026-01-01, 00:00:00, 88000012.50, "));
+        QVERIFY(text.contains("2026-01-01, 00:00:00.250000, "));
+        ReadRecording reader;
+        reader.read(text.toStdString());
+        QCOMPARE(reader.parser.report(), QString());
+        QCOMPARE(reader.recording->count(), 3);
+        QCOMPARE(reader.recording->sweep(2).segments[0].stepHz, settings.stepHz);
+        QCOMPARE(reader.text().replace("\n\n", "\n"), text);
+
+        OwnedSegments odd;
+        odd.add(1, 0.5, {noLevel, 1e-20F, -28.5F, 100, -28.12345F});
+        ReadRecording oddReader;
+        oddReader.read(sweepText(odd.sweep()).toStdString());
+        QCOMPARE(oddReader.text(), sweepText(odd.sweep()) + '\n');
+        QCOMPARE(sweepText(odd.sweep()),
+                 QByteArray("1970-01-01, 00:00:00, 1, 3.50, 0.50, 1, nan, 0.00000000000000000001, "
+                            "-28.50, 100.00, -28.12345\n"));
+    }
+    void cutsDoNotMatter()
+    {
+        RandomBytes random("recording");
+        SampleSettings settings;
+        settings.sweeps = 3;
+        settings.hops = 2;
+        settings.binsPerHop = 6;
+        const QByteArray good = SampleGenerator(settings).remaining() +
+                                "2026-01-01, 00:00:09, 5, 7, 1, 1, nan, -inf\r\n\n1e5, , -nan";
+        for (int round = RandomBytes::rounds(2000); round > 0; --round) {
+            const QByteArray text =
+                random.below(20) == 0 ? random.bytes(300) : random.mutated(good);
+            ReadRecording whole;
+            whole.read(text.toStdString());
+            ReadRecording cut;
+            for (qsizetype at = 0; at < text.size();) {
+                const qsizetype size = std::min<qsizetype>(random.below(80), text.size() - at);
+                cut.parser.feed({text.constData() + at, static_cast<std::size_t>(size)});
+                at += size;
+            }
+            cut.parser.finish();
+            QCOMPARE(cut.text(), whole.text());
+            QCOMPARE(cut.parser.report(), whole.parser.report());
+            QCOMPARE(cut.parser.lineCount(), whole.parser.lineCount());
+            // What was understood can be written and understood again.
+            ReadRecording again;
+            again.read(whole.text().toStdString());
+            QCOMPARE(again.parser.report(), QString());
+            QCOMPARE(again.text(), whole.text());
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(TestRecordingParser)
 #include "tst_recordingparser.moc"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <model/replay.h>
 
-#include "support/testguard.h"
+#include "support/guardedtest.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -11,184 +11,154 @@
 using namespace bandmonitor;
 
 /// Time is set by the test; ticks come as fast as the event loop goes.
-class TestReplay : public QObject
+class TestReplay : public GuardedTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup()
+    void stepsAndJumps()
     {
-        m_replay.reset();
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
+        QSignalSpy moved(m_replay.get(), &Replay::positionChanged);
+        m_replay->stepBackward();
+        QCOMPARE(m_replay->position(), 0);
+        m_replay->stepForward();
+        QCOMPARE(m_replay->position(), 1);
+        m_replay->jump(99);
+        QCOMPARE(m_replay->position(), 5);
+        m_replay->stepForward();
+        m_replay->stepBackward();
+        QCOMPARE(m_replay->sweep().timeUs, 10'000'000U);
+        m_replay->jump(-5);
+        QCOMPARE(m_replay->position(), 0);
+        QCOMPARE(moved.count(), 4);
+        QCOMPARE(moved.at(0).at(1).toInt(), 0);
+        QCOMPARE(moved.at(1).at(1).toInt(), -1);
+        m_replay->play();
+        m_replay->stepForward();
+        QVERIFY(!m_replay->isPlaying());
+    }
+    void timeOfTheStamps()
+    {
+        m_replay->play();
+        const std::vector<std::pair<int, qsizetype>> expected = {
+            {999, 0}, {1, 1}, {99, 1}, {1, 2}, {100, 3}, {1999, 3}, {1, 4}, {9999, 4}, {1, 5}};
+        for (const auto& [milliseconds, position] : expected) {
+            pass(milliseconds);
+            QCOMPARE(m_replay->position(), position);
+        }
+    }
+    void fastPlayTellsAllSweeps()
+    {
+        QSignalSpy moved(m_replay.get(), &Replay::positionChanged);
+        m_replay->setSpeed(5000); // cut to 1000
+        QCOMPARE(m_replay->speed(), 1000.0);
+        m_replay->play();
+        pass(2);
+        QCOMPARE(moved.count(), 1);
+        QCOMPARE(moved.at(0).at(0).toInt(), 3);
+        QCOMPARE(moved.at(0).at(1).toInt(), 0);
+    }
+    void speedChangesKeepThePlace()
+    {
+        m_replay->play();
+        pass(500);
+        m_replay->setSpeed(0.0); // cut to 0.1
+        pass(4990);
+        QCOMPARE(m_replay->position(), 0);
+        pass(20);
+        QCOMPARE(m_replay->position(), 1);
+        m_replay->setSpeed(std::numeric_limits<double>::quiet_NaN());
+        QCOMPARE(m_replay->speed(), 0.1);
+    }
+    void stallIsNotCaughtUp()
+    {
+        m_replay->jump(3);
+        m_replay->play();
+        m_nowUs += 3'600'000'000;
+        const int looks = m_looks;
+        QTRY_VERIFY(m_looks > looks);
+        QCOMPARE(m_replay->position(), 3);
+        pass(1000);
+        QCOMPARE(m_replay->position(), 4);
+    }
+    void endAndStartAgain()
+    {
+        QSignalSpy ended(m_replay.get(), &Replay::endReached);
+        QSignalSpy playing(m_replay.get(), &Replay::playingChanged);
+        m_replay->setMaximumGap(std::chrono::milliseconds(100));
+        m_replay->play();
+        pass(500);
+        QCOMPARE(m_replay->position(), 5);
+        QCOMPARE(ended.count(), 1);
+        QCOMPARE(playing.count(), 2);
+        m_replay->toggle();
+        QVERIFY(m_replay->isPlaying());
+        QCOMPARE(m_replay->position(), 0);
+        m_replay->jump(5);
+        QTRY_VERIFY(!m_replay->isPlaying());
+        QCOMPARE(ended.count(), 2);
+    }
+    void withoutSweeps()
+    {
+        for (const auto& recording :
+             {std::shared_ptr<Recording>(), std::make_shared<Recording>()}) {
+            m_replay->setRecording(recording);
+            m_replay->play();
+            m_replay->stepForward();
+            m_replay->stepBackward();
+            m_replay->jump(3);
+            QCOMPARE(m_replay->position(), -1);
+            QVERIFY(!m_replay->isPlaying());
+            QVERIFY(m_replay->sweep().isEmpty());
+        }
+    }
+    void growingRecording()
+    {
+        const auto growing = std::make_shared<Recording>();
+        m_replay->setRecording(growing);
+        growing->append(1, m_recording->sweep(0).segments);
+        growing->append(2, m_recording->sweep(0).segments);
+        m_replay->play();
+        QCOMPARE(m_replay->position(), 0);
+        pass(1);
+        QCOMPARE(m_replay->position(), 1);
+        growing->append(3, m_recording->sweep(0).segments);
+        m_replay->stepForward();
+        QCOMPARE(m_replay->position(), 2);
     }
 
-    void stepsAndJumps();
-    void timeOfTheStamps();
-    void fastPlayTellsAllSweeps();
-    void speedChangesKeepThePlace();
-    void stallIsNotCaughtUp();
-    void endAndStartAgain();
-    void withoutSweeps();
-    void growingRecording();
-
 private:
+    void prepare() override
+    {
+        m_recording = std::make_shared<Recording>();
+        const std::array levels = {1.0F};
+        const std::array segments = {Segment{0, 1, 1, levels}};
+        // Gaps in seconds: 1, none, back, 2, 3600.
+        for (const quint64 second : {10U, 11U, 11U, 8U, 10U, 3610U})
+            m_recording->append(second * 1'000'000, segments);
+        m_replay = std::make_unique<Replay>();
+        m_replay->setTickInterval(std::chrono::milliseconds(0));
+        m_replay->setClock([this] { return ++m_looks, m_nowUs; });
+        m_replay->setRecording(m_recording);
+    }
+    void tidy() override { m_replay.reset(); }
     /// Lets `milliseconds` pass, in pieces that the replay takes for an unbroken run.
-    void pass(int milliseconds);
+    void pass(int milliseconds)
+    {
+        while (milliseconds > 0) {
+            const int piece = std::min(milliseconds, 500);
+            milliseconds -= piece;
+            m_nowUs += piece * 1000;
+            const int looks = m_looks;
+            QTRY_VERIFY(m_looks > looks || !m_replay->isPlaying());
+        }
+    }
 
-    std::unique_ptr<TestGuard> m_guard;
     std::shared_ptr<Recording> m_recording;
     std::unique_ptr<Replay> m_replay;
     qint64 m_nowUs = 0;
     int m_looks = 0;
 };
-
-void TestReplay::init()
-{
-    m_guard = std::make_unique<TestGuard>();
-    m_recording = std::make_shared<Recording>();
-    const std::array levels = {1.0F};
-    const std::array segments = {Segment{0, 1, 1, levels}};
-    // Gaps in seconds: 1, none, back, 2, 3600.
-    for (const quint64 second : {10U, 11U, 11U, 8U, 10U, 3610U})
-        m_recording->append(second * 1'000'000, segments);
-    m_replay = std::make_unique<Replay>();
-    m_replay->setTickInterval(std::chrono::milliseconds(0));
-    m_replay->setClock([this] {
-        ++m_looks;
-        return m_nowUs;
-    });
-    m_replay->setRecording(m_recording);
-}
-
-void TestReplay::pass(int milliseconds)
-{
-    while (milliseconds > 0) {
-        const int piece = std::min(milliseconds, 500);
-        milliseconds -= piece;
-        m_nowUs += piece * 1000;
-        const int looks = m_looks;
-        QTRY_VERIFY(m_looks > looks || !m_replay->isPlaying());
-    }
-}
-
-void TestReplay::stepsAndJumps()
-{
-    QSignalSpy moved(m_replay.get(), &Replay::positionChanged);
-    m_replay->stepBackward();
-    QCOMPARE(m_replay->position(), 0);
-    m_replay->stepForward();
-    QCOMPARE(m_replay->position(), 1);
-    m_replay->jump(99);
-    QCOMPARE(m_replay->position(), 5);
-    m_replay->stepForward();
-    m_replay->stepBackward();
-    QCOMPARE(m_replay->sweep().timeUs, 10'000'000U);
-    m_replay->jump(-5);
-    QCOMPARE(m_replay->position(), 0);
-    QCOMPARE(moved.count(), 4);
-    QCOMPARE(moved.at(0).at(1).toInt(), 0);
-    QCOMPARE(moved.at(1).at(1).toInt(), -1);
-    m_replay->play();
-    m_replay->stepForward();
-    QVERIFY(!m_replay->isPlaying());
-}
-
-void TestReplay::timeOfTheStamps()
-{
-    m_replay->play();
-    const std::vector<std::pair<int, qsizetype>> expected = {
-        {999, 0}, {1, 1}, {99, 1}, {1, 2}, {100, 3}, {1999, 3}, {1, 4}, {9999, 4}, {1, 5}};
-    for (const auto& [milliseconds, position] : expected) {
-        pass(milliseconds);
-        QCOMPARE(m_replay->position(), position);
-    }
-}
-
-void TestReplay::fastPlayTellsAllSweeps()
-{
-    QSignalSpy moved(m_replay.get(), &Replay::positionChanged);
-    m_replay->setSpeed(5000); // cut to 1000
-    QCOMPARE(m_replay->speed(), 1000.0);
-    m_replay->play();
-    pass(2);
-    QCOMPARE(moved.count(), 1);
-    QCOMPARE(moved.at(0).at(0).toInt(), 3);
-    QCOMPARE(moved.at(0).at(1).toInt(), 0);
-}
-
-void TestReplay::speedChangesKeepThePlace()
-{
-    m_replay->play();
-    pass(500);
-    m_replay->setSpeed(0.0); // cut to 0.1
-    pass(4990);
-    QCOMPARE(m_replay->position(), 0);
-    pass(20);
-    QCOMPARE(m_replay->position(), 1);
-    m_replay->setSpeed(std::numeric_limits<double>::quiet_NaN());
-    QCOMPARE(m_replay->speed(), 0.1);
-}
-
-void TestReplay::stallIsNotCaughtUp()
-{
-    m_replay->jump(3);
-    m_replay->play();
-    m_nowUs += 3'600'000'000;
-    const int looks = m_looks;
-    QTRY_VERIFY(m_looks > looks);
-    QCOMPARE(m_replay->position(), 3);
-    pass(1000);
-    QCOMPARE(m_replay->position(), 4);
-}
-
-void TestReplay::endAndStartAgain()
-{
-    QSignalSpy ended(m_replay.get(), &Replay::endReached);
-    QSignalSpy playing(m_replay.get(), &Replay::playingChanged);
-    m_replay->setMaximumGap(std::chrono::milliseconds(100));
-    m_replay->play();
-    pass(500);
-    QCOMPARE(m_replay->position(), 5);
-    QCOMPARE(ended.count(), 1);
-    QCOMPARE(playing.count(), 2);
-    m_replay->toggle();
-    QVERIFY(m_replay->isPlaying());
-    QCOMPARE(m_replay->position(), 0);
-    m_replay->jump(5);
-    QTRY_VERIFY(!m_replay->isPlaying());
-    QCOMPARE(ended.count(), 2);
-}
-
-void TestReplay::withoutSweeps()
-{
-    for (const auto& recording : {std::shared_ptr<Recording>(), std::make_shared<Recording>()}) {
-        m_replay->setRecording(recording);
-        m_replay->play();
-        m_replay->stepForward();
-        m_replay->stepBackward();
-        m_replay->jump(3);
-        QCOMPARE(m_replay->position(), -1);
-        QVERIFY(!m_replay->isPlaying());
-        QVERIFY(m_replay->sweep().isEmpty());
-    }
-}
-
-void TestReplay::growingRecording()
-{
-    const auto growing = std::make_shared<Recording>();
-    m_replay->setRecording(growing);
-    growing->append(1, m_recording->sweep(0).segments);
-    growing->append(2, m_recording->sweep(0).segments);
-    m_replay->play();
-    QCOMPARE(m_replay->position(), 0);
-    pass(1);
-    QCOMPARE(m_replay->position(), 1);
-    growing->append(3, m_recording->sweep(0).segments);
-    m_replay->stepForward();
-    QCOMPARE(m_replay->position(), 2);
-}
 
 QTEST_GUILESS_MAIN(TestReplay)
 #include "tst_replay.moc"

@@ -5,8 +5,9 @@
 #include <model/holdmaximum.h>
 #include <model/samplegenerator.h>
 
+#include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testguard.h"
+#include "support/testrows.h"
 
 #include <QTest>
 
@@ -16,195 +17,167 @@ using namespace bandmonitor;
 
 /// What is worked out from the levels of sweeps: columns of pixels, held maxima, the level at the
 /// cursor; and the memory that a recording takes for them.
-class TestSweeps : public QObject
+class TestSweeps : public GuardedTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
+    void levelAtCursor()
     {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-
-    void levelAtCursor();
-    void columns();
-    void columnsOfUselessViews();
-    void columnsMatchBruteForce();
-    void holdMaximum();
-    void holdMaximumIsBounded();
-    void memoryIsBounded_data();
-    void memoryIsBounded();
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
-};
-
-void TestSweeps::levelAtCursor()
-{
-    OwnedSegments segments;
-    segments.add(100, 10, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}); // to 200
-    segments.add(120, 5, {20, noLevel});                    // to 130
-    segments.add(300, 1, {30});
-    const Sweep sweep = segments.sweep();
-    const std::vector<std::pair<double, std::optional<float>>> expected = {
-        {99.99, {}}, {100, 1},  {109.99, 1}, {119.99, 2}, {120, 20}, {126, {}},
-        {131, 4},    {199, 10}, {200, {}},   {300.5, 30}, {301, {}}, {std::nan(""), {}},
-    };
-    for (const auto& [hz, level] : expected)
-        QVERIFY2(sweep.levelAt(hz) == level, qPrintable(QString::number(hz)));
-    QCOMPARE(Sweep().levelAt(0), std::optional<float>());
-}
-
-void TestSweeps::columns()
-{
-    OwnedSegments segments;
-    segments.add(0, 1, {5, 1, noLevel, noLevel, 7, 7, 3, 9});
-    segments.add(12, 4, {2}); // a gap from 8 to 12
-    std::vector<LevelRange> columns(4);
-    reduceToColumns(segments.sweep(), {0, 8}, columns);
-    QCOMPARE(columns[0], (LevelRange{1, 5}));
-    QVERIFY(columns[1].isEmpty());
-    QCOMPARE(columns[2], (LevelRange{7, 7}));
-    QCOMPARE(columns[3], (LevelRange{3, 9}));
-    reduceToColumns(segments.sweep(), {8, 16}, columns);
-    QVERIFY(columns[0].isEmpty() && columns[1].isEmpty());
-    QCOMPARE(columns[2], (LevelRange{2, 2})); // one bin over several columns
-    QCOMPARE(columns[3], (LevelRange{2, 2}));
-    reduceToColumns(segments.sweep(), {0.25, 0.75}, columns); // all within one bin
-    QCOMPARE(columns[3], (LevelRange{5, 5}));
-}
-
-void TestSweeps::columnsOfUselessViews()
-{
-    OwnedSegments segments;
-    segments.add(0, 1, std::vector<float>(1000, 5));
-    const LevelPyramid pyramid(segments.sweep());
-    const double infinity = std::numeric_limits<double>::infinity();
-    for (const ColumnView view : {ColumnView{0, 0}, ColumnView{8, 0}, ColumnView{0, infinity},
-                                  ColumnView{std::nan(""), 8}, ColumnView{-9e300, -8e300}}) {
-        std::vector<LevelRange> columns(4, LevelRange{1, 1});
-        reduceToColumns(segments.sweep(), view, columns);
-        QVERIFY(columns == std::vector<LevelRange>(4));
-        pyramid.reduce(view, columns);
-        QVERIFY(columns == std::vector<LevelRange>(4));
-    }
-    reduceToColumns(segments.sweep(), {0, 8}, {});
-    std::vector<LevelRange> columns(3);
-    pyramid.reduce({-1e18, 2e18}, columns); // all bins in a small part of one column
-    QCOMPARE(columns[1], (LevelRange{5, 5}));
-}
-
-void TestSweeps::columnsMatchBruteForce()
-{
-    RandomBytes random("columns");
-    for (int round = RandomBytes::rounds(300); round > 0; --round) {
         OwnedSegments segments;
-        double start = random.below(1000);
-        for (int hop = 1 + random.below(3); hop > 0; --hop) {
-            std::vector<float> levels(static_cast<std::size_t>(1 + random.below(3000)));
-            for (float& level : levels)
-                level = random.below(50) == 0 ? noLevel : static_cast<float>(random.below(9999));
-            const double step = 1 + random.below(4);
-            const double end = start + step * static_cast<double>(levels.size());
-            segments.add(start, step, std::move(levels));
-            start = std::max(start + 1, end + random.below(200) - 100);
-        }
+        segments.add(100, 10, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}); // to 200
+        segments.add(120, 5, {20, noLevel});                    // to 130
+        segments.add(300, 1, {30});
         const Sweep sweep = segments.sweep();
-        const double low = sweep.lowHz - 50 + random.below(2000);
-        const ColumnView view{low, low + 1 + random.below(12'000)};
-        std::vector<LevelRange> columns(static_cast<std::size_t>(1 + random.below(60)));
-        reduceToColumns(sweep, view, columns);
-        std::vector<LevelRange> fast(columns.size());
-        LevelPyramid(sweep).reduce(view, fast);
-
-        const double width = (view.highHz - view.lowHz) / static_cast<double>(columns.size());
-        for (std::size_t column = 0; column < columns.size(); ++column) {
-            const double columnLow = view.lowHz + static_cast<double>(column) * width;
-            LevelRange exact;
-            LevelRange widest;
-            for (const Segment& segment : sweep.segments) {
-                for (std::size_t i = 0; i < segment.levels.size(); ++i) {
-                    const double binLow = segment.startHz + segment.stepHz * static_cast<double>(i);
-                    const double above = binLow - (columnLow + width);
-                    const double below = columnLow - (binLow + segment.stepHz);
-                    if (above < -1e-5 && below < -1e-5)
-                        exact.add(segment.levels[i]);
-                    if (above < width / 4 && below < width / 4)
-                        widest.add(segment.levels[i]);
-                }
+        const std::vector<std::pair<double, std::optional<float>>> expected = {
+            {99.99, {}}, {100, 1},  {109.99, 1}, {119.99, 2}, {120, 20}, {126, {}},
+            {131, 4},    {199, 10}, {200, {}},   {300.5, 30}, {301, {}}, {std::nan(""), {}},
+        };
+        for (const auto& [hz, level] : expected)
+            QVERIFY2(sweep.levelAt(hz) == level, qPrintable(QString::number(hz)));
+        QCOMPARE(Sweep().levelAt(0), std::optional<float>());
+    }
+    void columns()
+    {
+        OwnedSegments segments;
+        segments.add(0, 1, {5, 1, noLevel, noLevel, 7, 7, 3, 9});
+        segments.add(12, 4, {2}); // a gap from 8 to 12
+        std::vector<LevelRange> columns(4);
+        reduceToColumns(segments.sweep(), {0, 8}, columns);
+        QCOMPARE(columns[0], (LevelRange{1, 5}));
+        QVERIFY(columns[1].isEmpty());
+        QCOMPARE(columns[2], (LevelRange{7, 7}));
+        QCOMPARE(columns[3], (LevelRange{3, 9}));
+        reduceToColumns(segments.sweep(), {8, 16}, columns);
+        QVERIFY(columns[0].isEmpty() && columns[1].isEmpty());
+        QCOMPARE(columns[2], (LevelRange{2, 2})); // one bin over several columns
+        QCOMPARE(columns[3], (LevelRange{2, 2}));
+        reduceToColumns(segments.sweep(), {0.25, 0.75}, columns); // all within one bin
+        QCOMPARE(columns[3], (LevelRange{5, 5}));
+    }
+    void columnsOfUselessViews()
+    {
+        OwnedSegments segments;
+        segments.add(0, 1, std::vector<float>(1000, 5));
+        const LevelPyramid pyramid(segments.sweep());
+        const double infinity = std::numeric_limits<double>::infinity();
+        for (const ColumnView view : {ColumnView{0, 0}, ColumnView{8, 0}, ColumnView{0, infinity},
+                                      ColumnView{std::nan(""), 8}, ColumnView{-9e300, -8e300}}) {
+            std::vector<LevelRange> columns(4, LevelRange{1, 1});
+            reduceToColumns(segments.sweep(), view, columns);
+            QVERIFY(columns == std::vector<LevelRange>(4));
+            pyramid.reduce(view, columns);
+            QVERIFY(columns == std::vector<LevelRange>(4));
+        }
+        reduceToColumns(segments.sweep(), {0, 8}, {});
+        std::vector<LevelRange> columns(3);
+        pyramid.reduce({-1e18, 2e18}, columns); // all bins in a small part of one column
+        QCOMPARE(columns[1], (LevelRange{5, 5}));
+    }
+    void columnsMatchBruteForce()
+    {
+        RandomBytes random("columns");
+        for (int round = RandomBytes::rounds(300); round > 0; --round) {
+            OwnedSegments segments;
+            double start = random.below(1000);
+            for (int hop = 1 + random.below(3); hop > 0; --hop) {
+                std::vector<float> levels(static_cast<std::size_t>(1 + random.below(3000)));
+                for (float& level : levels)
+                    level =
+                        random.below(50) == 0 ? noLevel : static_cast<float>(random.below(9999));
+                const double step = 1 + random.below(4);
+                const double end = start + step * static_cast<double>(levels.size());
+                segments.add(start, step, std::move(levels));
+                start = std::max(start + 1, end + random.below(200) - 100);
             }
-            QVERIFY(columns[column] == exact);
-            QVERIFY(fast[column].minimum <= exact.minimum &&
-                    fast[column].minimum >= widest.minimum);
-            QVERIFY(fast[column].maximum >= exact.maximum &&
-                    fast[column].maximum <= widest.maximum);
+            const Sweep sweep = segments.sweep();
+            const double low = sweep.lowHz - 50 + random.below(2000);
+            const ColumnView view{low, low + 1 + random.below(12'000)};
+            std::vector<LevelRange> columns(static_cast<std::size_t>(1 + random.below(60)));
+            reduceToColumns(sweep, view, columns);
+            std::vector<LevelRange> fast(columns.size());
+            LevelPyramid(sweep).reduce(view, fast);
+
+            const double width = (view.highHz - view.lowHz) / static_cast<double>(columns.size());
+            for (std::size_t column = 0; column < columns.size(); ++column) {
+                const double columnLow = view.lowHz + static_cast<double>(column) * width;
+                LevelRange exact;
+                LevelRange widest;
+                for (const Segment& segment : sweep.segments) {
+                    for (std::size_t i = 0; i < segment.levels.size(); ++i) {
+                        const double binLow =
+                            segment.startHz + segment.stepHz * static_cast<double>(i);
+                        const double above = binLow - (columnLow + width);
+                        const double below = columnLow - (binLow + segment.stepHz);
+                        if (above < -1e-5 && below < -1e-5)
+                            exact.add(segment.levels[i]);
+                        if (above < width / 4 && below < width / 4)
+                            widest.add(segment.levels[i]);
+                    }
+                }
+                QVERIFY(columns[column] == exact);
+                QVERIFY(fast[column].minimum <= exact.minimum &&
+                        fast[column].minimum >= widest.minimum);
+                QVERIFY(fast[column].maximum >= exact.maximum &&
+                        fast[column].maximum <= widest.maximum);
+            }
         }
     }
-}
-
-void TestSweeps::holdMaximum()
-{
-    HoldMaximum hold;
-    OwnedSegments first;
-    first.add(0, 1, {1, noLevel, 3, noLevel});
-    first.add(10, 1, {5});
-    OwnedSegments second;
-    second.add(0, 1, {0, 2, 4, noLevel});
-    second.add(5, 1, {6});
-    hold.add(first.sweep(1));
-    hold.add(second.sweep(2));
-    QCOMPARE(sweepText(hold.sweep()),
-             QByteArray("1970-01-01, 00:00:00.000002, 0, 4, 1.00, 1, 1.00, 2.00, 4.00, nan\n"
-                        "1970-01-01, 00:00:00.000002, 5, 6, 1.00, 1, 6.00\n"
-                        "1970-01-01, 00:00:00.000002, 10, 11, 1.00, 1, 5.00\n"));
-    QCOMPARE(sweepText(first.sweep(1)).count("nan"), 2); // its levels are its own
-    hold.clear();
-    QVERIFY(hold.isEmpty() && hold.sweep().isEmpty());
-}
-
-void TestSweeps::holdMaximumIsBounded()
-{
-    HoldMaximum hold;
-    for (std::size_t hop = 0; hop < HoldMaximum::maximumHops + 10; ++hop) {
+    void holdMaximum()
+    {
+        HoldMaximum hold;
+        OwnedSegments first;
+        first.add(0, 1, {1, noLevel, 3, noLevel});
+        first.add(10, 1, {5});
+        OwnedSegments second;
+        second.add(0, 1, {0, 2, 4, noLevel});
+        second.add(5, 1, {6});
+        hold.add(first.sweep(1));
+        hold.add(second.sweep(2));
+        QCOMPARE(sweepText(hold.sweep()),
+                 QByteArray("1970-01-01, 00:00:00.000002, 0, 4, 1.00, 1, 1.00, 2.00, 4.00, nan\n"
+                            "1970-01-01, 00:00:00.000002, 5, 6, 1.00, 1, 6.00\n"
+                            "1970-01-01, 00:00:00.000002, 10, 11, 1.00, 1, 5.00\n"));
+        QCOMPARE(sweepText(first.sweep(1)).count("nan"), 2); // its levels are its own
+        hold.clear();
+        QVERIFY(hold.isEmpty() && hold.sweep().isEmpty());
+    }
+    void holdMaximumIsBounded()
+    {
+        HoldMaximum hold;
+        for (std::size_t hop = 0; hop < HoldMaximum::maximumHops + 10; ++hop) {
+            OwnedSegments segments;
+            segments.add(static_cast<double>(hop), 1, {1});
+            hold.add(segments.sweep());
+        }
+        QCOMPARE(hold.sweep().segments.size(), HoldMaximum::maximumHops);
+    }
+    void memoryIsBounded_data()
+    {
+        TestRows<int, int> row;
+        row("small hops", 3, 400);
+        row("just over a quarter of a chunk", 1, 262'145);
+        row("odd sizes", 4, 33'333);
+    }
+    void memoryIsBounded()
+    {
+        const auto& [hops, bins] = TestRows<int, int>::fetch();
+        Recording recording;
         OwnedSegments segments;
-        segments.add(static_cast<double>(hop), 1, {1});
-        hold.add(segments.sweep());
+        for (int hop = 0; hop < hops; ++hop)
+            segments.add(hop * 1e6, 1, std::vector<float>(static_cast<std::size_t>(bins), -70));
+        const float* firstLevel = nullptr;
+        while (recording.levelCount() < 3'000'000) {
+            recording.append(1, segments.sweep().segments);
+            if (firstLevel == nullptr)
+                firstLevel = recording.sweep(0).segments[0].levels.data();
+            if (recording.levelCount() > 100'000)
+                QVERIFY(recording.reservedBytes() <= 2 * recording.levelCount() * sizeof(float));
+        }
+        QCOMPARE(recording.sweep(0).segments[0].levels.data(), firstLevel); // never moved
+        QVERIFY(recording.sweep(recording.count()).isEmpty());
     }
-    QCOMPARE(hold.sweep().segments.size(), HoldMaximum::maximumHops);
-}
-
-void TestSweeps::memoryIsBounded_data()
-{
-    QTest::addColumn<int>("hops");
-    QTest::addColumn<int>("bins");
-
-    QTest::newRow("small hops") << 3 << 400;
-    QTest::newRow("just over a quarter of a chunk") << 1 << 262'145;
-    QTest::newRow("odd sizes") << 4 << 33'333;
-}
-
-void TestSweeps::memoryIsBounded()
-{
-    QFETCH(int, hops);
-    QFETCH(int, bins);
-
-    Recording recording;
-    OwnedSegments segments;
-    for (int hop = 0; hop < hops; ++hop)
-        segments.add(hop * 1e6, 1, std::vector<float>(static_cast<std::size_t>(bins), -70));
-    const float* firstLevel = nullptr;
-    while (recording.levelCount() < 3'000'000) {
-        recording.append(1, segments.sweep().segments);
-        if (firstLevel == nullptr)
-            firstLevel = recording.sweep(0).segments[0].levels.data();
-        if (recording.levelCount() > 100'000)
-            QVERIFY(recording.reservedBytes() <= 2 * recording.levelCount() * sizeof(float));
-    }
-    QCOMPARE(recording.sweep(0).segments[0].levels.data(), firstLevel); // never moved
-    QVERIFY(recording.sweep(recording.count()).isEmpty());
-}
+};
 
 QTEST_GUILESS_MAIN(TestSweeps)
 #include "tst_sweeps.moc"
