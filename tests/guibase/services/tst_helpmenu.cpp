@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "messageboxcloser.h"
-#include "support/testguard.h"
+#include "support/files.h"
+#include "support/guardedtest.h"
+#include "support/modaldialogcloser.h"
+#include "support/testrows.h"
 
 #include <guibase/services/guibase.h>
 
@@ -49,213 +51,158 @@ private:
     QString& m_opened;
 };
 
-class TestHelpMenu : public QObject
+class TestHelpMenu : public GuardedTest
 {
     Q_OBJECT
+    using Entries = TestRows<bool, const char*, const char*, QString, QString>;
+    using Manuals = TestRows<QString, QString, QString, QString>;
+
 private Q_SLOTS:
-    void init()
+    void entries_data()
     {
-        m_guard = std::make_unique<TestGuard>();
-        m_services = &GuiBase::Instance();
+        // Whether there is a receiver, its info and manual slots; shortcuts, and the missing slot.
+        Entries row;
+        const char* info = SLOT(showInfo());
+        const QString all = QStringLiteral("F1 Ctrl+F1 Ctrl+Q");
+        const QString noInfo = QStringLiteral("F1 Ctrl+F1");
+        row("all", true, info, nullptr, all, "-");
+        row("not normalized", true, "1 showInfo( )", nullptr, all, "-");
+        row("own manual", true, info, SLOT(showManual(bool)), all, "-");
+        row("no receiver", false, info, nullptr, noInfo, "-");
+        row("manual without receiver", false, nullptr, info, "Ctrl+F1", "-");
+        row("manual not there", true, info, SLOT(noSlot()), "Ctrl+F1 Ctrl+Q", "noSlot()");
+        row("info not there", true, SLOT(noSlot()), nullptr, noInfo, "noSlot()");
+        row("null", true, nullptr, nullptr, noInfo, "");
+        row("empty", true, "", nullptr, noInfo, "");
+        row("digit only", true, "1", nullptr, noInfo, "");
+        row("garbage", true, "1)<(,,*&\xff", nullptr, noInfo, ")<(");
+        row("signal", true, SIGNAL(changed()), nullptr, noInfo, "changed()");
+        row("other arguments", true, SLOT(showPage(int)), nullptr, noInfo, "showPage(int)");
+    }
+    void entries()
+    {
+        const auto& [withReceiver, infoSlot, manualSlot, expected, missing] = Entries::fetch();
+        QWidget parent;
+        InfoReceiver receiver;
+        const QMenu* menu = m_services->CreateHelpMenu(
+            &parent, QString(), withReceiver ? &receiver : nullptr, infoSlot, nullptr, manualSlot);
+        QCOMPARE(menu->title(), QStringLiteral("&Help"));
+        QStringList shortcuts;
+        const QList<QAction*> actions = menu->actions();
+        for (const QAction* action : actions)
+            shortcuts << action->shortcut().toString();
+        QCOMPARE(shortcuts.join(u' '), expected);
+        const QString traces = takeTraces();
+        QCOMPARE(traces.count(u'\n'), missing == QLatin1String("-") ? 0 : 1);
+        QVERIFY2(
+            traces.isEmpty() ||
+                traces.contains(
+                    QStringLiteral(
+                        "controls/guibase/guibase(1699): GuiBase::CreateHelpMenu(): 'InfoReceiver' has no slot '") +
+                    missing),
+            qPrintable(traces));
+    }
+    void entriesCallTheirSlots()
+    {
+        QWidget parent;
+        InfoReceiver receiver;
+        const QList<QAction*> actions =
+            m_services
+                ->CreateHelpMenu(&parent, QString(), &receiver, SLOT(showInfo()), nullptr,
+                                 SLOT(showManual(bool)))
+                ->actions();
+        for (const int index : {0, 2})
+            actions.at(index)->trigger();
+        QCOMPARE(receiver.manuals, 1);
+        QCOMPARE(receiver.infos, 1);
+        QCOMPARE(actions.at(2)->statusTip(), QStringLiteral("Show info dialog"));
+
+        const ModalDialogCloser closer([](const QDialog& dialog) {
+            QCOMPARE(dialog.windowTitle(), QStringLiteral("Keyboard - Hotkeys Overview"));
+        });
+        actions.at(1)->trigger();
+        QVERIFY(closer.hasSeenDialog());
+    }
+    void menuDiesWithItsParent()
+    {
+        auto parent = std::make_unique<QWidget>();
+        auto messageParent = std::make_unique<QWidget>();
+        m_services->CreateHelpMenu(parent.get(), QString(), nullptr, nullptr, messageParent.get(),
+                                   nullptr);
+        QVERIFY(m_services->GetHelpMenu() != nullptr);
+        parent.reset();
+        messageParent.reset();
+        QCOMPARE(m_services->GetHelpMenu(), nullptr);
+        const ModalDialogCloser closer(
+            [](const QDialog& dialog) { QCOMPARE(dialog.parentWidget(), nullptr); });
+        m_services->slotHelpContents();
+        QVERIFY(closer.hasSeenDialog());
+    }
+    void manual_data()
+    {
+        const QString notThere = QStringLiteral("Helpfile not yet available.");
+        const QString path = QCoreApplication::applicationFilePath();
+        const QString program = QFileInfo(path).fileName();
+        // Given, configured, opened, warning. First what gives none, as a given file stays.
+        Manuals row;
+        row("nothing", "", "", "", "Helpfile not configured.");
+        row("configured, not there", "", "missing.pdf", "missing.pdf", notThere);
+        row("beside the program", "", program, path, "");
+        row("given, not there", "missing.pdf", program, "missing.pdf", notThere);
+        row("given", QDir::tempPath(), "missing.pdf", QDir::tempPath(), "");
+    }
+    void manual()
+    {
+        const auto& [given, configured, opened, warning] = Manuals::fetch();
+        const QString formerFolder = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(m_folder.path()));
+        QString asked;
+        TrovOS::Set(std::make_unique<RecordingOs>(asked));
+        CfgCenter::GetAppCfg(SettingsView)->SetString(QStringLiteral("HelpFile"), configured);
+        QWidget parent;
+        m_services->CreateHelpMenu(&parent, given, nullptr, nullptr, nullptr, nullptr);
+        const ModalDialogCloser closer([&, text = warning](const QDialog& dialog) {
+            const auto& box = dynamic_cast<const QMessageBox&>(dialog);
+            QCOMPARE(box.text(), text);
+            QCOMPARE(box.windowTitle(), QStringLiteral("Warning"));
+            QCOMPARE(box.standardButtons(), QMessageBox::Ok);
+            QCOMPARE(box.parentWidget(), &parent);
+        });
+        m_services->slotHelpContents();
+        QCOMPARE(closer.hasSeenDialog(), !warning.isEmpty());
+        QCOMPARE(asked, opened);
+        QVERIFY(QDir::setCurrent(formerFolder));
+    }
+    void deprecatedSplash()
+    {
+        m_services->ShowSplash(3U);
+        m_services->ShowSplash(QPixmap());
+        const QString traces = takeTraces();
+        QCOMPARE(traces.count(QStringLiteral(
+                     "controls/guibase/guibase(1043): GuiBase::ShowSplash(...) is deprecated!\n")),
+                 2);
+    }
+
+private:
+    QString traceFileName() const { return m_folder.filePath(QStringLiteral("trace.txt")); }
+    void prepare() override
+    {
+        QFile::remove(traceFileName());
         QVERIFY(ErrorHandler::SetTraceFile(traceFileName()));
         ErrorHandler::SetTraceFlags(ErrorHandler::TraceGuiBase);
     }
-    void cleanup()
+    void tidy() override
     {
         ErrorHandler::SetTraceFlags(ErrorHandler::defaultTraceFlags);
         ErrorHandler::SetTraceFile(QString());
         TrovOS::Set(nullptr);
         m_services->SetHelpMenu(nullptr);
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
     }
-
-    void entries_data();
-    void entries();
-    void entriesCallTheirSlots();
-    void menuDiesWithItsParent();
-    void manual_data();
-    void manual();
-    void deprecatedSplash();
-
-private:
-    QString traceFileName() const { return m_folder.filePath(QStringLiteral("trace.txt")); }
-    QStringList takeTraces()
-    {
-        QFile file(traceFileName());
-        if (!file.open(QIODevice::ReadOnly))
-            return {};
-        const QString text = QString::fromUtf8(file.readAll());
-        ErrorHandler::SetTraceFile(QString());
-        file.remove();
-        return text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    }
+    QString takeTraces() const { return QString::fromUtf8(readFile(traceFileName())); }
 
     QTemporaryDir m_folder;
-    std::unique_ptr<TestGuard> m_guard;
-    GuiBase* m_services = nullptr;
+    GuiBase* m_services = &GuiBase::Instance();
 };
-
-void TestHelpMenu::entries_data()
-{
-    QTest::addColumn<bool>("withReceiver");
-    QTest::addColumn<QByteArray>("infoSlot");
-    QTest::addColumn<QByteArray>("manualSlot");
-    QTest::addColumn<QString>("shortcuts");
-    QTest::addColumn<QString>("missing");
-    const QByteArray none;
-    const QByteArray info = SLOT(showInfo());
-    const QString all = QStringLiteral("F1 Ctrl+F1 Ctrl+Q");
-    const QString withoutInfo = QStringLiteral("F1 Ctrl+F1");
-    const QString withoutManual = QStringLiteral("Ctrl+F1 Ctrl+Q");
-    QTest::newRow("all") << true << info << none << all << QString();
-    QTest::newRow("not normalized")
-        << true << QByteArray("1 showInfo( )") << none << all << QString();
-    QTest::newRow("own manual") << true << info << QByteArray(SLOT(showManual(bool))) << all
-                                << QString();
-    QTest::newRow("no receiver") << false << info << none << withoutInfo << QString();
-    QTest::newRow("manual without receiver")
-        << false << none << info << QStringLiteral("Ctrl+F1") << QString();
-    QTest::newRow("manual not there") << true << info << QByteArray(SLOT(noSlot())) << withoutManual
-                                      << QStringLiteral("noSlot()");
-    QTest::newRow("info not there")
-        << true << QByteArray(SLOT(noSlot())) << none << withoutInfo << QStringLiteral("noSlot()");
-    QTest::newRow("null") << true << none << none << withoutInfo << QStringLiteral("");
-    QTest::newRow("empty") << true << QByteArray("") << none << withoutInfo << QStringLiteral("");
-    QTest::newRow("digit only") << true << QByteArray("1") << none << withoutInfo
-                                << QStringLiteral("");
-    QTest::newRow("garbage") << true << QByteArray("1)<(,,*&\xff") << none << withoutInfo
-                             << QStringLiteral(")<(");
-    QTest::newRow("signal") << true << QByteArray(SIGNAL(changed())) << none << withoutInfo
-                            << QStringLiteral("changed()");
-    QTest::newRow("other arguments") << true << QByteArray(SLOT(showPage(int))) << none
-                                     << withoutInfo << QStringLiteral("showPage(int)");
-}
-
-void TestHelpMenu::entries()
-{
-    QFETCH(bool, withReceiver);
-    QFETCH(QByteArray, infoSlot);
-    QFETCH(QByteArray, manualSlot);
-    QFETCH(QString, missing);
-    QWidget parent;
-    InfoReceiver receiver;
-    const QMenu* menu =
-        m_services->CreateHelpMenu(&parent, QString(), withReceiver ? &receiver : nullptr,
-                                   infoSlot.isNull() ? nullptr : infoSlot.constData(), nullptr,
-                                   manualSlot.isNull() ? nullptr : manualSlot.constData());
-    QCOMPARE(menu->title(), QStringLiteral("&Help"));
-    QStringList shortcuts;
-    const QList<QAction*> actions = menu->actions();
-    for (const QAction* action : actions)
-        shortcuts << action->shortcut().toString();
-    QTEST(shortcuts.join(QLatin1Char(' ')), "shortcuts");
-
-    const QStringList traces = takeTraces();
-    QCOMPARE(traces.size(), missing.isNull() ? 0 : 1);
-    if (missing.isNull())
-        return;
-    QVERIFY2(
-        traces.first().contains(
-            QStringLiteral(
-                "controls/guibase/guibase(1699): GuiBase::CreateHelpMenu(): 'InfoReceiver' has "
-                "no slot '") +
-            missing),
-        qPrintable(traces.first()));
-}
-
-void TestHelpMenu::entriesCallTheirSlots()
-{
-    QWidget parent;
-    InfoReceiver receiver;
-    const QList<QAction*> actions =
-        m_services
-            ->CreateHelpMenu(&parent, QString(), &receiver, SLOT(showInfo()), nullptr,
-                             SLOT(showManual(bool)))
-            ->actions();
-    for (const int index : {0, 2})
-        actions.at(index)->trigger();
-    QCOMPARE(receiver.manuals, 1);
-    QCOMPARE(receiver.infos, 1);
-    QCOMPARE(actions.at(2)->statusTip(), QStringLiteral("Show info dialog"));
-
-    const ModalDialogCloser closer([](const QDialog& dialog) {
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Keyboard - Hotkeys Overview"));
-    });
-    actions.at(1)->trigger();
-    QVERIFY(closer.hasSeenDialog());
-}
-
-void TestHelpMenu::menuDiesWithItsParent()
-{
-    auto parent = std::make_unique<QWidget>();
-    auto messageParent = std::make_unique<QWidget>();
-    m_services->CreateHelpMenu(parent.get(), QString(), nullptr, nullptr, messageParent.get(),
-                               nullptr);
-    QVERIFY(m_services->GetHelpMenu() != nullptr);
-    parent.reset();
-    messageParent.reset();
-    QCOMPARE(m_services->GetHelpMenu(), nullptr);
-    const ModalDialogCloser closer(
-        [](const QDialog& dialog) { QCOMPARE(dialog.parentWidget(), nullptr); });
-    m_services->slotHelpContents();
-    QVERIFY(closer.hasSeenDialog());
-}
-
-void TestHelpMenu::manual_data()
-{
-    QTest::addColumn<QString>("given");
-    QTest::addColumn<QString>("configured");
-    QTest::addColumn<QString>("opened");
-    QTest::addColumn<QString>("warning");
-    const QString missing = QStringLiteral("missing.pdf");
-    const QString notThere = QStringLiteral("Helpfile not yet available.");
-    const QString program = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
-    // First, as a file that was given once stays until another one is.
-    QTest::newRow("nothing") << QString() << QString() << QString()
-                             << QStringLiteral("Helpfile not configured.");
-    QTest::newRow("configured, not there") << QString() << missing << missing << notThere;
-    QTest::newRow("beside the program")
-        << QString() << program << QCoreApplication::applicationFilePath() << QString();
-    QTest::newRow("given, not there") << missing << program << missing << notThere;
-    QTest::newRow("given") << QDir::tempPath() << missing << QDir::tempPath() << QString();
-}
-
-void TestHelpMenu::manual()
-{
-    QFETCH(QString, given);
-    QFETCH(QString, configured);
-    QFETCH(QString, opened);
-    QFETCH(QString, warning);
-    const QString formerFolder = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(m_folder.path()));
-    QString asked;
-    TrovOS::Set(std::make_unique<RecordingOs>(asked));
-    CfgCenter::GetAppCfg(SettingsView)->SetString(QStringLiteral("HelpFile"), configured);
-    QWidget parent;
-    m_services->CreateHelpMenu(&parent, given, nullptr, nullptr, nullptr, nullptr);
-    const ModalDialogCloser closer([&](const QDialog& dialog) {
-        const auto& box = dynamic_cast<const QMessageBox&>(dialog);
-        QCOMPARE(box.text(), warning);
-        QCOMPARE(box.windowTitle(), QStringLiteral("Warning"));
-        QCOMPARE(box.standardButtons(), QMessageBox::Ok);
-        QCOMPARE(box.parentWidget(), &parent);
-    });
-    m_services->slotHelpContents();
-    QCOMPARE(closer.hasSeenDialog(), !warning.isEmpty());
-    QCOMPARE(asked, opened);
-    QVERIFY(QDir::setCurrent(formerFolder));
-}
-
-void TestHelpMenu::deprecatedSplash()
-{
-    m_services->ShowSplash(3U);
-    m_services->ShowSplash(QPixmap());
-    const QStringList traces = takeTraces();
-    QCOMPARE(traces.size(), 2);
-    QVERIFY(traces.first().endsWith(
-        QStringLiteral("controls/guibase/guibase(1043): GuiBase::ShowSplash(...) is deprecated!")));
-}
 
 QTEST_MAIN(TestHelpMenu)
 #include "tst_helpmenu.moc"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "messageboxcloser.h"
+#include "support/guardedtest.h"
+#include "support/modaldialogcloser.h"
 #include "support/testguard.h"
+#include "support/testrows.h"
 
 #include <guibase/services/guibase.h>
 
@@ -28,28 +30,179 @@ public Q_SLOTS:
     void slotHotKey(int id) { ids << id; }
 };
 
-class TestHotKeys : public QObject
+class TestHotKeys : public GuardedTest
 {
     Q_OBJECT
-private Q_SLOTS:
-    void initTestCase();
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
-    {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
+    using Matches = TestRows<Qt::Key, int, bool, int, QEvent::Type, bool, bool, bool>;
 
-    void emptyOverview();
-    void matching_data();
-    void matching();
-    void receiverIsCalledOnce();
-    void unfitReceivers();
-    void oneKeyFiresOnce_data();
-    void oneKeyFiresOnce();
-    void keysDuringHandlingAreNotExamined();
-    void escape();
-    void overview();
+private Q_SLOTS:
+    void initTestCase()
+    {
+        const TestGuard guard;
+        m_services = &GuiBase::Instance();
+        m_services->SetApplication(qApp);
+    }
+    // The first function: hot keys stay registered until the process ends.
+    void emptyOverview()
+    {
+        const ModalDialogCloser closer([](const QDialog& dialog) {
+            QCOMPARE(dynamic_cast<const QMessageBox&>(dialog).text(),
+                     QStringLiteral("No Hotkeys applied"));
+        });
+        m_services->slotShowHotKeysInMenu();
+        QVERIFY(closer.hasSeenDialog());
+    }
+    void matching_data()
+    {
+        // The hot key, the event, whether it fires and whether it is consumed.
+        Matches row;
+        const auto press = QEvent::KeyPress, release = QEvent::KeyRelease;
+        const int ctrl = Qt::ControlModifier, pad = Qt::KeypadModifier, shift = Qt::ShiftModifier;
+        row("press", Qt::Key_A, ctrl, true, ctrl, press, false, true, false);
+        row("held", Qt::Key_B, ctrl, true, ctrl, press, true, true, false);
+        row("press, on release", Qt::Key_C, ctrl, false, ctrl, press, false, false, false);
+        row("release", Qt::Key_D, ctrl, false, ctrl, release, false, true, false);
+        row("repeated release", Qt::Key_E, ctrl, false, ctrl, release, true, false, false);
+        row("release, on press", Qt::Key_F, ctrl, true, ctrl, release, false, false, false);
+        row("more modifiers", Qt::Key_G, ctrl, true, ctrl | shift, press, false, false, false);
+        row("fewer modifiers", Qt::Key_H, ctrl | shift, true, ctrl, press, false, false, false);
+        row("on the keypad", Qt::Key_5, ctrl, true, ctrl | pad, press, false, true, false);
+        row("not on the keypad", Qt::Key_6, ctrl | pad, true, ctrl, press, false, false, false);
+        row("F10", Qt::Key_F10, 0, true, 0, press, false, true, true);
+        row("F12", Qt::Key_F12, 0, false, 0, release, false, true, true);
+        row("F10, no match", Qt::Key_F10, shift, true, ctrl, press, false, false, false);
+        row("F9", Qt::Key_F9, 0, true, 0, press, false, true, false);
+    }
+    void matching()
+    {
+        const auto& [key, modifiers, onPress, with, type, repeat, fires, consumed] =
+            Matches::fetch();
+        const int id = add(key, modifiers, nullptr, onPress);
+        QSignalSpy fired(m_services, &GuiBase::signalHotKey);
+        QKeyEvent event(type, key, Qt::KeyboardModifiers(with), QString(), repeat);
+        QCOMPARE(m_services->handleHotKeyEvent(qApp, &event), consumed);
+        QCOMPARE(fired.contains(QList<QVariant>{id}), fires);
+    }
+    void receiverIsCalledOnce()
+    {
+        HotKeyReceiver receiver;
+        const int first = add(Qt::Key_F3, 0, &receiver);
+        const int second = add(Qt::Key_F3, 0, &receiver);
+        QCOMPARE(second, first + 1);
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_F3, Qt::NoModifier);
+        m_services->handleHotKeyEvent(qApp, &press);
+        QVERIFY(receiver.ids.isEmpty());
+        QTRY_COMPARE(receiver.ids, QList<int>({first, second}));
+    }
+    void unfitReceivers()
+    {
+        QObject withoutSlot;
+        add(Qt::Key_F4, 0, &withoutSlot);
+        auto dying = std::make_unique<HotKeyReceiver>();
+        const int id = add(Qt::Key_F4, 0, dying.get());
+        QSignalSpy fired(m_services, &GuiBase::signalHotKey);
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier);
+        m_services->handleHotKeyEvent(qApp, &press);
+        dying.reset();
+        QCoreApplication::processEvents();
+        m_services->handleHotKeyEvent(qApp, &press);
+        QCOMPARE(fired.count(), 4);
+        QCOMPARE(fired.last().first().toInt(), id);
+    }
+    void oneKeyFiresOnce_data()
+    {
+        TestRows<bool> row;
+        row("to the widget", false);
+        row("through the window", true);
+    }
+    /// The toolkit delivers an ignored key to the label, then to the boxes around it.
+    void oneKeyFiresOnce()
+    {
+        const bool throughWindow = std::get<bool>(TestRows<bool>::fetch());
+        QWidget window;
+        auto* box = new QWidget(&window);
+        auto* label = new QLabel(box);
+        label->setFocusPolicy(Qt::StrongFocus);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        label->setFocus();
+        const int id = add(Qt::Key_F6, 0);
+        QSignalSpy fired(m_services, &GuiBase::signalHotKey);
+        for (int time = 0; time < 3; ++time) {
+            if (throughWindow)
+                QTest::keyClick(window.windowHandle(), Qt::Key_F6);
+            else
+                QTest::keyClick(label, Qt::Key_F6);
+        }
+        const auto ours = std::count_if(fired.cbegin(), fired.cend(), [id](const auto& arguments) {
+            return arguments.first().toInt() == id;
+        });
+        QCOMPARE(ours, 3);
+    }
+    void keysDuringHandlingAreNotExamined()
+    {
+        add(Qt::Key_F7, 0);
+        QWidget widget;
+        int calls = 0;
+        QObject context;
+        connect(m_services, &GuiBase::signalHotKey, &context, [&] {
+            ++calls;
+            QTest::keyClick(&widget, Qt::Key_F7);
+            add(Qt::Key_F8, 0);
+        });
+        QTest::keyClick(&widget, Qt::Key_F7);
+        QCOMPARE(calls, 1);
+    }
+    void escape()
+    {
+        QSignalSpy escapes(m_services, &GuiBase::hotkey_ESC_pressed);
+        QWidget widget;
+        QTest::keyPress(&widget, Qt::Key_Escape, Qt::ShiftModifier);
+        QCOMPARE(escapes.count(), 0);
+        QTest::keyPress(&widget, Qt::Key_Escape);
+        QTest::keyRelease(&widget, Qt::Key_Escape);
+        QCOMPARE(escapes.count(), 1);
+    }
+    void overview()
+    {
+        QAction action(QStringLiteral("&Search && replace"));
+        action.setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Insert);
+        m_services->ShowHotKeyFrom(&action, QStringLiteral("Lists"));
+        m_services->ShowHotKeyFrom(&action, QStringLiteral("Lists"));
+        const QAction withoutShortcut(QStringLiteral("Nothing"));
+        m_services->ShowHotKeyFrom(const_cast<QAction*>(&withoutShortcut), QStringLiteral("Lists"));
+        m_services->ShowHotKeyFrom(nullptr, QString());
+        add(Qt::Key_Insert, Qt::AltModifier, nullptr, true, QStringLiteral("hidden"), false);
+
+        QSignalSpy fired(m_services, &GuiBase::signalHotKey);
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Insert, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(!m_services->handleHotKeyEvent(qApp, &press));
+        QCOMPARE(fired.count(), 0);
+
+        QWidget parent;
+        const ModalDialogCloser closer([](const QDialog& dialog) {
+            QCOMPARE(dialog.windowTitle(), QStringLiteral("Keyboard - Hotkeys Overview"));
+            QVERIFY(dialog.width() >= 600);
+            QCOMPARE(dialog.findChild<QTabWidget*>()->tabText(0), QStringLiteral("&Hotkeys"));
+            const auto* list = dialog.findChild<QTreeWidget*>(QStringLiteral("HotKeysCtrl"));
+            const auto rows = list->findItems(QStringLiteral("Insert"), Qt::MatchExactly);
+            QCOMPARE(rows.size(), 1);
+            QStringList texts;
+            for (int column = 0; column < list->columnCount(); ++column)
+                texts << rows.first()->text(column);
+            QCOMPARE(texts.join(QLatin1Char('|')),
+                     QStringLiteral("Insert|X| |X|Lists|Search & replace"));
+        });
+        m_services->ExecHotKeysDialog(&parent);
+        QVERIFY(closer.hasSeenDialog());
+
+        // Windows may close, and take the dialog with them, while it is open.
+        auto dyingParent = std::make_unique<QWidget>();
+        QTimer::singleShot(0, this, [&] { dyingParent.reset(); });
+        m_services->ExecHotKeysDialog(dyingParent.get());
+        QCOMPARE(dyingParent, nullptr);
+    }
 
 private:
     int add(Qt::Key key, int modifiers, QObject* receiver = nullptr, bool onPress = true,
@@ -59,211 +212,8 @@ private:
                                      onPress, listed);
     }
 
-    std::unique_ptr<TestGuard> m_guard;
     GuiBase* m_services = nullptr;
 };
-
-void TestHotKeys::initTestCase()
-{
-    const TestGuard guard;
-    m_services = &GuiBase::Instance();
-    m_services->SetApplication(qApp);
-}
-
-// The first function: hot keys stay registered until the process ends.
-void TestHotKeys::emptyOverview()
-{
-    const ModalDialogCloser closer([](const QDialog& dialog) {
-        QCOMPARE(dynamic_cast<const QMessageBox&>(dialog).text(),
-                 QStringLiteral("No Hotkeys applied"));
-    });
-    m_services->slotShowHotKeysInMenu();
-    QVERIFY(closer.hasSeenDialog());
-}
-
-void TestHotKeys::matching_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<bool>("onPress");
-    QTest::addColumn<int>("eventModifiers");
-    QTest::addColumn<QEvent::Type>("type");
-    QTest::addColumn<bool>("repeat");
-    QTest::addColumn<bool>("fires");
-    QTest::addColumn<bool>("consumed");
-    const auto press = QEvent::KeyPress;
-    const auto release = QEvent::KeyRelease;
-    const int ctrl = Qt::ControlModifier;
-    const int keypad = Qt::KeypadModifier;
-    const int shift = Qt::ShiftModifier;
-    QTest::newRow("press") << Qt::Key_A << ctrl << true << ctrl << press << false << true << false;
-    QTest::newRow("held") << Qt::Key_B << ctrl << true << ctrl << press << true << true << false;
-    QTest::newRow("press, on release")
-        << Qt::Key_C << ctrl << false << ctrl << press << false << false << false;
-    QTest::newRow("release") << Qt::Key_D << ctrl << false << ctrl << release << false << true
-                             << false;
-    QTest::newRow("repeated release")
-        << Qt::Key_E << ctrl << false << ctrl << release << true << false << false;
-    QTest::newRow("release, on press")
-        << Qt::Key_F << ctrl << true << ctrl << release << false << false << false;
-    QTest::newRow("more modifiers")
-        << Qt::Key_G << ctrl << true << (ctrl | shift) << press << false << false << false;
-    QTest::newRow("fewer modifiers")
-        << Qt::Key_H << (ctrl | shift) << true << ctrl << press << false << false << false;
-    QTest::newRow("on the keypad")
-        << Qt::Key_5 << ctrl << true << (ctrl | keypad) << press << false << true << false;
-    QTest::newRow("wanted on the keypad")
-        << Qt::Key_6 << (ctrl | keypad) << true << ctrl << press << false << false << false;
-    QTest::newRow("F10") << Qt::Key_F10 << 0 << true << 0 << press << false << true << true;
-    QTest::newRow("F12") << Qt::Key_F12 << 0 << false << 0 << release << false << true << true;
-    QTest::newRow("F10, no match")
-        << Qt::Key_F10 << shift << true << ctrl << press << false << false << false;
-    QTest::newRow("F9") << Qt::Key_F9 << 0 << true << 0 << press << false << true << false;
-}
-
-void TestHotKeys::matching()
-{
-    QFETCH(Qt::Key, key);
-    QFETCH(int, modifiers);
-    QFETCH(bool, onPress);
-    QFETCH(int, eventModifiers);
-    QFETCH(QEvent::Type, type);
-    QFETCH(bool, repeat);
-    const int id = add(key, modifiers, nullptr, onPress);
-    QSignalSpy fired(m_services, &GuiBase::signalHotKey);
-    QKeyEvent event(type, key,
-                    Qt::KeyboardModifiers::fromInt(static_cast<unsigned>(eventModifiers)),
-                    QString(), repeat);
-    QTEST(m_services->handleHotKeyEvent(qApp, &event), "consumed");
-    QTEST(fired.contains(QList<QVariant>{id}), "fires");
-}
-
-void TestHotKeys::receiverIsCalledOnce()
-{
-    HotKeyReceiver receiver;
-    const int first = add(Qt::Key_F3, 0, &receiver);
-    const int second = add(Qt::Key_F3, 0, &receiver);
-    QCOMPARE(second, first + 1);
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_F3, Qt::NoModifier);
-    m_services->handleHotKeyEvent(qApp, &press);
-    QVERIFY(receiver.ids.isEmpty());
-    QTRY_COMPARE(receiver.ids, QList<int>({first, second}));
-}
-
-void TestHotKeys::unfitReceivers()
-{
-    QObject withoutSlot;
-    add(Qt::Key_F4, 0, &withoutSlot);
-    auto dying = std::make_unique<HotKeyReceiver>();
-    const int id = add(Qt::Key_F4, 0, dying.get());
-    QSignalSpy fired(m_services, &GuiBase::signalHotKey);
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier);
-    m_services->handleHotKeyEvent(qApp, &press);
-    dying.reset();
-    QCoreApplication::processEvents();
-    m_services->handleHotKeyEvent(qApp, &press);
-    QCOMPARE(fired.count(), 4);
-    QCOMPARE(fired.last().first().toInt(), id);
-}
-
-void TestHotKeys::oneKeyFiresOnce_data()
-{
-    QTest::addColumn<bool>("throughWindow");
-    QTest::newRow("to the widget") << false;
-    QTest::newRow("through the window") << true;
-}
-
-// The toolkit delivers an ignored key to the label, then to the boxes around it.
-void TestHotKeys::oneKeyFiresOnce()
-{
-    QFETCH(bool, throughWindow);
-    QWidget window;
-    auto* box = new QWidget(&window);
-    auto* label = new QLabel(box);
-    label->setFocusPolicy(Qt::StrongFocus);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    label->setFocus();
-    const int id = add(Qt::Key_F6, 0);
-    QSignalSpy fired(m_services, &GuiBase::signalHotKey);
-    for (int time = 0; time < 3; ++time) {
-        if (throughWindow)
-            QTest::keyClick(window.windowHandle(), Qt::Key_F6);
-        else
-            QTest::keyClick(label, Qt::Key_F6);
-    }
-    const auto ours = std::count_if(fired.cbegin(), fired.cend(), [id](const auto& arguments) {
-        return arguments.first().toInt() == id;
-    });
-    QCOMPARE(ours, 3);
-}
-
-void TestHotKeys::keysDuringHandlingAreNotExamined()
-{
-    add(Qt::Key_F7, 0);
-    QWidget widget;
-    int calls = 0;
-    QObject context;
-    connect(m_services, &GuiBase::signalHotKey, &context, [&] {
-        ++calls;
-        QTest::keyClick(&widget, Qt::Key_F7);
-        add(Qt::Key_F8, 0);
-    });
-    QTest::keyClick(&widget, Qt::Key_F7);
-    QCOMPARE(calls, 1);
-}
-
-void TestHotKeys::escape()
-{
-    QSignalSpy escapes(m_services, &GuiBase::hotkey_ESC_pressed);
-    QWidget widget;
-    QTest::keyPress(&widget, Qt::Key_Escape, Qt::ShiftModifier);
-    QCOMPARE(escapes.count(), 0);
-    QTest::keyPress(&widget, Qt::Key_Escape);
-    QTest::keyRelease(&widget, Qt::Key_Escape);
-    QCOMPARE(escapes.count(), 1);
-}
-
-void TestHotKeys::overview()
-{
-    QAction action(QStringLiteral("&Search && replace"));
-    action.setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Insert);
-    m_services->ShowHotKeyFrom(&action, QStringLiteral("Lists"));
-    m_services->ShowHotKeyFrom(&action, QStringLiteral("Lists"));
-    const QAction withoutShortcut(QStringLiteral("Nothing"));
-    m_services->ShowHotKeyFrom(const_cast<QAction*>(&withoutShortcut), QStringLiteral("Lists"));
-    m_services->ShowHotKeyFrom(nullptr, QString());
-    add(Qt::Key_Insert, Qt::AltModifier, nullptr, true, QStringLiteral("hidden"), false);
-
-    QSignalSpy fired(m_services, &GuiBase::signalHotKey);
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Insert, Qt::ControlModifier | Qt::ShiftModifier);
-    QVERIFY(!m_services->handleHotKeyEvent(qApp, &press));
-    QCOMPARE(fired.count(), 0);
-
-    QWidget parent;
-    const ModalDialogCloser closer([](const QDialog& dialog) {
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Keyboard - Hotkeys Overview"));
-        QVERIFY(dialog.width() >= 600);
-        QCOMPARE(dialog.findChild<QTabWidget*>()->tabText(0), QStringLiteral("&Hotkeys"));
-        const auto* list = dialog.findChild<QTreeWidget*>(QStringLiteral("HotKeysCtrl"));
-        const auto rows = list->findItems(QStringLiteral("Insert"), Qt::MatchExactly);
-        QCOMPARE(rows.size(), 1);
-        QStringList texts;
-        for (int column = 0; column < list->columnCount(); ++column)
-            texts << rows.first()->text(column);
-        QCOMPARE(texts.join(QLatin1Char('|')),
-                 QStringLiteral("Insert|X| |X|Lists|Search & replace"));
-    });
-    m_services->ExecHotKeysDialog(&parent);
-    QVERIFY(closer.hasSeenDialog());
-
-    // Windows may close, and take the dialog with them, while it is open.
-    auto dyingParent = std::make_unique<QWidget>();
-    QTimer::singleShot(0, this, [&] { dyingParent.reset(); });
-    m_services->ExecHotKeysDialog(dyingParent.get());
-    QCOMPARE(dyingParent, nullptr);
-}
 
 QTEST_MAIN(TestHotKeys)
 #include "tst_hotkeys.moc"

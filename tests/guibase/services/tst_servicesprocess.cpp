@@ -1,101 +1,75 @@
 // SPDX-License-Identifier: MIT
-#include "support/testguard.h"
+#include "support/childprocess.h"
+#include "support/guardedtest.h"
+#include "support/testrows.h"
 
 #include <trovappstartup/cfgcenter.h>
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <memory>
-
-class TestServicesProcess : public QObject
+class TestServicesProcess : public GuardedTest
 {
     Q_OBJECT
+    using Resolutions = TestRows<QString, int>;
+
 private Q_SLOTS:
-    void init();
-    void cleanup() { m_guard.reset(); }
-    void resolution_data();
-    void resolution();
-    void settingsSurvive_data();
-    void settingsSurvive();
+    void initTestCase() { qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtimeDir.path())); }
+    void resolution_data()
+    {
+        Resolutions row;
+        row("default", "", 1);
+        row("none", "0", 0);
+        row("giga", "4", 4);
+        row("too high", "5", 1);
+        row("negative", "-1", 1);
+        row("no number", "kHz", 1);
+    }
+    void resolution()
+    {
+        const auto& [configured, resolution] = Resolutions::fetch();
+        if (!configured.isEmpty()) {
+            CfgCenter::GetAppCfg(SettingsView)
+                ->OpenSubCfg(QStringLiteral("GuiBase"))
+                ->SetString(QStringLiteral("FrequencyResolution"), configured);
+            QVERIFY(CfgCenter::Store());
+        }
+        QCOMPARE(run("early"), QStringLiteral("resolution=%1\nfont=1\n").arg(resolution));
+    }
+    void settingsSurvive_data()
+    {
+        TestRows<const char*> row;
+        row("main window closed", "close");
+        row("main window deleted", "delete");
+    }
+    void settingsSurvive()
+    {
+        const char* scenario = std::get<0>(TestRows<const char*>::fetch());
+        ICfg* cfg = CfgCenter::GetAppCfg(SettingsView);
+        cfg->OpenSubCfg(QStringLiteral("Startup"))->SetInt(QStringLiteral("SplashTimeout"), 3600);
+        cfg->SetString(QStringLiteral("Language"), QStringLiteral("de"));
+        QVERIFY(CfgCenter::Store());
+        const QString first = run(scenario);
+        QVERIFY2(first.startsWith(QStringLiteral("zone=1\nwidth=")), qPrintable(first));
+        const int width = QStringView(first).mid(13).trimmed().toInt();
+        QVERIFY(width > 0);
+        QCOMPARE(run(scenario), QStringLiteral("zone=0\nwidth=%1\n").arg(width + 11));
+    }
 
 private:
-    QString run(const QString& scenario);
+    void prepare() override { CfgCenter::SetAppName(QStringLiteral("services")); }
+    /// What the process told and what it complained about, with the exit code when it failed.
+    QString run(const char* scenario)
+    {
+        ChildProcess process(QStringLiteral(SERVICES_PROCESS),
+                             {QString::fromLatin1(scenario), configDir()});
+        const int code = process.waitForEnd();
+        const QString told = QString::fromLocal8Bit(process.output());
+        return code == 0 ? told : QStringLiteral("Exit %1: %2").arg(code).arg(told);
+    }
 
     QTemporaryDir m_runtimeDir;
-    std::unique_ptr<TestGuard> m_guard;
 };
-
-void TestServicesProcess::init()
-{
-    m_guard = std::make_unique<TestGuard>();
-    CfgCenter::SetAppName(QStringLiteral("services"));
-}
-
-/// What the process told, or what it complained about.
-QString TestServicesProcess::run(const QString& scenario)
-{
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_runtimeDir.path());
-    process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(SERVICES_PROCESS), {scenario, m_guard->configDir()});
-    if (!process.waitForFinished(60'000))
-        return QStringLiteral("The process does not end");
-    const QString complaint = QString::fromLocal8Bit(process.readAllStandardError());
-    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
-        return QStringLiteral("Exit %1: %2").arg(process.exitCode()).arg(complaint);
-    return QString::fromLocal8Bit(process.readAllStandardOutput()) + complaint;
-}
-
-void TestServicesProcess::resolution_data()
-{
-    QTest::addColumn<QString>("configured");
-    QTest::addColumn<int>("resolution");
-    QTest::newRow("default") << QString() << 1;
-    QTest::newRow("none") << QStringLiteral("0") << 0;
-    QTest::newRow("kilo") << QStringLiteral("2") << 2;
-    QTest::newRow("giga") << QStringLiteral("4") << 4;
-    QTest::newRow("too high") << QStringLiteral("5") << 1;
-    QTest::newRow("negative") << QStringLiteral("-1") << 1;
-    QTest::newRow("no number") << QStringLiteral("kHz") << 1;
-}
-
-void TestServicesProcess::resolution()
-{
-    QFETCH(QString, configured);
-    QFETCH(int, resolution);
-    if (!configured.isEmpty()) {
-        CfgCenter::GetAppCfg(SettingsView)
-            ->OpenSubCfg(QStringLiteral("GuiBase"))
-            ->SetString(QStringLiteral("FrequencyResolution"), configured);
-        QVERIFY(CfgCenter::Store());
-    }
-    QCOMPARE(run(QStringLiteral("early")),
-             QStringLiteral("resolution=%1\nfont=1\n").arg(resolution));
-}
-
-void TestServicesProcess::settingsSurvive_data()
-{
-    QTest::addColumn<QString>("scenario");
-    QTest::newRow("main window closed") << QStringLiteral("close");
-    QTest::newRow("main window deleted") << QStringLiteral("delete");
-}
-
-void TestServicesProcess::settingsSurvive()
-{
-    QFETCH(QString, scenario);
-    ICfg* cfg = CfgCenter::GetAppCfg(SettingsView);
-    cfg->OpenSubCfg(QStringLiteral("Startup"))->SetInt(QStringLiteral("SplashTimeout"), 3600);
-    cfg->SetString(QStringLiteral("Language"), QStringLiteral("de"));
-    QVERIFY(CfgCenter::Store());
-    const QString first = run(scenario);
-    QVERIFY2(first.startsWith(QStringLiteral("zone=1\nwidth=")), qPrintable(first));
-    const int width = QStringView(first).mid(13).trimmed().toInt();
-    QVERIFY(width > 0);
-    QCOMPARE(run(scenario), QStringLiteral("zone=0\nwidth=%1\n").arg(width + 11));
-}
 
 QTEST_MAIN(TestServicesProcess)
 #include "tst_servicesprocess.moc"
