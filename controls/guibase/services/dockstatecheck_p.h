@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+
+/// Checks of stored main-window layouts. QMainWindow::restoreState() trusts positions, counts and
+/// nesting in a state, and may crash or never return on a damaged one; so a state is walked through
+/// before it is handed over.
+namespace DockStateCheck {
+
+/// Whether the bytes are a whole state as QMainWindow::saveState(version) writes it: the dock areas
+/// with their nested rows and tabs, groups of floating docks, and the tool-bar lines.
+bool isValid(const QByteArray& state, int version);
+
+inline constexpr int maximumSize = 1 << 20; ///< In bytes.
+inline constexpr int maximumDepth = 32;     ///< Of rows in rows.
+inline constexpr int maximumItems = 4096;   ///< In all, and of tool bars as well.
+
+} // namespace DockStateCheck

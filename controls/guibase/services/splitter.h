@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/guibase_export.h>
+
+#include <QSplitter>
+#include <QString>
+
+/// A splitter that keeps its positions from run to run, under its name followed by its variant.
+///
+/// Positions are stored whenever the user moves a handle, and come back when the splitter gets its
+/// widgets, is shown, or gets another variant. An empty name means that nothing is kept. Resizing
+/// is not opaque: the widgets follow when the handle is let go. The handles are SplitterHandles.
+class GUIBASE_EXPORT Splitter : public QSplitter
+{
+    Q_OBJECT
+public:
+    explicit Splitter(QWidget* parent = nullptr);
+    explicit Splitter(Qt::Orientation orientation, QWidget* parent = nullptr);
+    Splitter(Qt::Orientation orientation, QWidget* parent, const QString& objectName,
+             const QString& name);
+    ~Splitter() override;
+
+    /// Sizes in pixels, by widget. Sizes beyond the widgets are kept for the widgets that are added
+    /// next, until the user moves a handle; widgets beyond the sizes get the size they ask for.
+    void setSizes(const QList<int>& sizes);
+    /// Also gives the widget the size that is stored or kept for it.
+    void addWidget(QWidget* widget);
+    /// Applies the positions that are stored for the variant, here and in child splitters.
+    void setVariant(const QString& variant);
+
+    /// Moves the border between the widgets next to the handle with this index by so many pixels
+    /// towards the last widget (negative: the first), as far as their minimum sizes allow, as if
+    /// the user had done it.
+    void shiftHandle(int index, int pixels);
+    /// Gives the two widgets next to the handle equal sizes, as if the user had done it.
+    void equalizeNeighbours(int index);
+
+public Q_SLOTS:
+    void slotKeepSettings(int position, int index);
+
+protected:
+    void init();
+    void showEvent(QShowEvent* event) override;
+    QSplitterHandle* createHandle() override;
+
+private:
+    /// The indices of the shown widgets before and after a handle, -1 where there is none.
+    struct Neighbours
+    {
+        int before = -1;
+        int after = -1;
+        bool isComplete() const { return before >= 0 && after >= 0; }
+    };
+
+    Neighbours neighbours(int index) const;
+    int minimumSizeOf(int widgetIndex) const;
+    void moveBorder(const Neighbours& border, int sizeBefore, int index);
+    void applyStored();
+
+    QString m_name;
+    QString m_variant;
+    QList<int> m_awaitedSizes;
+};

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QDataStream>
+
+/// Reads a stored state value by value and remembers whether all of them were there and as they may
+/// be. After a wrong value everything reads as 0, so that loops over counts end.
+class StateWalk
+{
+public:
+    explicit StateWalk(const QByteArray& state);
+
+    qint32 number();
+    /// A number from `lowest` to `highest`.
+    qint32 number(qint32 lowest, qint32 highest);
+    quint8 byte();
+    /// A byte from `lowest` to `highest`.
+    quint8 byte(quint8 lowest, quint8 highest);
+    /// Passes over a text of at most so many UTF-16 units.
+    void text(qint32 maximumSize);
+    bool expect(bool condition);
+    bool isFine() const { return m_isFine; }
+    bool atEnd() const { return m_stream.atEnd(); }
+
+private:
+    QDataStream m_stream;
+    bool m_isFine = true;
+};

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "widgetplacement_p.h"
+
+#include "hexadecimal_p.h"
+#include "screenplacement_p.h"
+
+#include <QGuiApplication>
+#include <QLayout>
+#include <QMargins>
+#include <QPointer>
+#include <QScreen>
+#include <QSplitter>
+#include <QString>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace {
+
+/// No window manager draws broader frames; more comes from a window that was not shown yet.
+constexpr int broadestFrame = 256;
+
+QMargins frameMargins(const GeometryRecord& record)
+{
+    const auto margin = [](int pixels) { return std::clamp(pixels, 0, broadestFrame); };
+    const QRect& inner = record.geometry;
+    const QRect& outer = record.frame;
+    return {margin(inner.left() - outer.left()), margin(inner.top() - outer.top()),
+            margin(outer.right() - inner.right()), margin(outer.bottom() - inner.bottom())};
+}
+
+/// The record for the screens of today. The toolkit refuses records from screens of another width,
+/// so the width is brought up to date too.
+GeometryRecord adapted(GeometryRecord record)
+{
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    QList<QRect> areas;
+    for (const QScreen* screen : screens)
+        areas.append(screen->availableGeometry());
+    if (record.normal.isEmpty())
+        return record;
+
+    const QMargins margins = frameMargins(record);
+    const QRect frame = record.normal + margins;
+    const QRect reachable = ScreenPlacement::reachable(frame, areas);
+    const int home = ScreenPlacement::homeOf(reachable, areas);
+    if (home >= 0) {
+        record.screen = home;
+        if (record.version >= 2)
+            record.screenWidth = screens.at(home)->geometry().width();
+    }
+    if (reachable != frame) {
+        record.normal = reachable - margins;
+        record.frame = reachable;
+        record.geometry = record.normal;
+    }
+    return record;
+}
+
+bool isPlacedByParent(QWidget& widget)
+{
+    QWidget* parent = widget.parentWidget();
+    if (widget.isWindow() || parent == nullptr)
+        return false;
+    const auto* splitter = qobject_cast<QSplitter*>(parent);
+    return (splitter != nullptr && splitter->indexOf(&widget) >= 0) ||
+           (parent->layout() != nullptr && parent->layout()->indexOf(&widget) >= 0);
+}
+
+} // namespace
+
+QByteArray WidgetPlacement::fromText(const QString& text)
+{
+    const QByteArray bytes = Hexadecimal::decode(text).value_or(QByteArray());
+    return GeometryRecord::fromBytes(bytes) ? bytes : QByteArray();
+}
+
+void WidgetPlacement::apply(QWidget& widget, const QByteArray& bytes)
+{
+    std::optional<GeometryRecord> record = GeometryRecord::fromBytes(bytes);
+    if (!record || isPlacedByParent(widget))
+        return;
+    if (widget.isWindow())
+        record = adapted(*record);
+    const QPointer<QWidget> guard(&widget);
+    widget.restoreGeometry(record->toBytes());
+    // The toolkit shifts and shrinks windows at the edges of the screen by a title bar's height.
+    constexpr Qt::WindowStates notNormal =
+        Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen;
+    if (guard && !(widget.windowState() & notNormal) && widget.geometry() != record->normal)
+        widget.setGeometry(record->normal);
+}
