@@ -4,7 +4,6 @@
 
 #include <jtbase/coordformat.h>
 
-#include <QSet>
 #include <QTest>
 
 #include <limits>
@@ -75,14 +74,6 @@ private Q_SLOTS:
         QCOMPARE(zones.size(), 60 * 20 - 3);
         QVERIFY(!zones.contains(QStringLiteral("34X")));
         QVERIFY(zones.value(QStringLiteral("32V")) > zones.value(QStringLiteral("31V")));
-    }
-    void namesAreDistinct()
-    {
-        QSet<QString> names;
-        for (int format = -1; format <= coordFormatCount; ++format)
-            names.insert(getTranslatedCoordFormatName(static_cast<CoordFormat>(format)));
-        QVERIFY(names.remove(QString()));
-        QCOMPARE(names.size(), coordFormatCount);
     }
 };
 

@@ -20,23 +20,6 @@ QStringList linesOf(const QString& fileName)
     return QString::fromUtf8(readFile(fileName)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
-class CountedDlg : public IMessageDlg
-{
-public:
-    explicit CountedDlg(int* alive)
-        : m_alive(alive)
-    {
-        ++*m_alive;
-    }
-    ~CountedDlg() override { --*m_alive; }
-    MessageDlgSettings GetSettings() const override { return {}; }
-    void SetSettings(const MessageDlgSettings&) override {}
-    bool Show(const UserMessage&, QWidget*) override { return true; }
-
-private:
-    int* m_alive;
-};
-
 void trace(int count)
 {
     for (; count > 0; --count)
@@ -106,17 +89,6 @@ private Q_SLOTS:
         expectTrace("^unit\\(\\d+\\): assertion failed: holds$");
         QVERIFY(!TROV_ASSERT(holds, "unit"));
         QVERIFY(TROV_ASSERT(!holds, "unit"));
-    }
-    void dialogIsOwned()
-    {
-        int alive = 0;
-        ErrorHandler::SetMessageDlg(std::make_unique<CountedDlg>(&alive));
-        ErrorHandler::SetMessageDlg(std::make_unique<CountedDlg>(&alive));
-        QCOMPARE(alive, 1);
-        QVERIFY(ErrorHandler::GetMessageDlg() != nullptr);
-        ErrorHandler::SetMessageDlg(nullptr);
-        QCOMPARE(alive, 0);
-        QVERIFY(ErrorHandler::GetMessageDlg() == nullptr);
     }
 
 private:

@@ -8,8 +8,6 @@
 #include <QTest>
 #include <QUrl>
 
-#include <memory>
-
 class TrovOsTest : public GuardedTest
 {
     Q_OBJECT
