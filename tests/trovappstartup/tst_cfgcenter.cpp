@@ -212,12 +212,15 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(fileName));
         QTRY_VERIFY(QFile::exists(fileName));
 
-        // Changes that never pause do not keep it from storing.
+        // Changes that never pause for so long do not keep it from storing.
+        CfgCenter::SetAutoStoreDelay(300);
         int last = 1;
         QTRY_VERIFY([&] {
             settings->SetInt(key, ++last);
             return !readFile(fileName).contains("\"key\": 1\n");
         }());
+
+        CfgCenter::SetAutoStoreDelay(10);
 
         // While another process has the file it tries again.
         QTRY_VERIFY(readFile(fileName).contains("\"key\": " + QByteArray::number(last)));

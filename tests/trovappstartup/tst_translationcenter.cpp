@@ -7,44 +7,19 @@
 #include <trovappstartup/translationcenter.h>
 
 #include <QCoreApplication>
-#include <QDataStream>
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace {
 
-/// A compiled translation file that translates "Hello" of the context "Test": one message, and the
-/// table of hashes (of the source text, as in object files of the ELF format) that leads to it.
-QByteArray translationFile(const QString& translation)
-{
-    enum Tag : quint8 { End = 1, Translation = 3, SourceText = 6, Context = 7 };
-    enum Section : quint8 { Hashes = 0x42, Messages = 0x69 };
-    const QByteArray source = "Hello";
-    quint32 hash = 0;
-    for (const char character : source) {
-        hash = (hash << 4) + static_cast<quint32>(character);
-        const quint32 high = hash & 0xf0000000U;
-        hash = (hash ^ (high >> 24)) & ~high;
-    }
-    QByteArray messages;
-    QDataStream message(&messages, QIODevice::WriteOnly);
-    message << quint8(Translation) << translation;
-    for (const auto& [tag, text] :
-         {std::pair(SourceText, source), std::pair(Context, QByteArray("Test"))}) {
-        message << quint8(tag) << quint32(text.size());
-        message.writeRawData(text.constData(), static_cast<int>(text.size()));
-    }
-    message << quint8(End);
-
-    const QByteArray magic = QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd");
-    QByteArray file;
-    QDataStream out(&file, QIODevice::WriteOnly);
-    out.writeRawData(magic.constData(), static_cast<int>(magic.size()));
-    out << quint8(Hashes) << quint32(8) << hash << quint32(0);
-    out << quint8(Messages) << messages; // a byte array is written with its length, as a section is
-    return file;
-}
+// Compiled translation files: "Hello" of the context "Test" is "Hallo" or "Servus".
+const QByteArray germanFile = QByteArray::fromBase64(
+    "PLhkGMrvnJXNIRy/YKG93UIAAAAIAE7DLwAAAABpAAAAIwMAAAAKAEgAYQBsAGwAbwYAAAAFSGVsbG8H"
+    "AAAABFRlc3QB");
+const QByteArray austrianFile = QByteArray::fromBase64(
+    "PLhkGMrvnJXNIRy/YKG93UIAAAAIAE7DLwAAAABpAAAAJQMAAAAMAFMAZQByAHYAdQBzBgAAAAVIZWxs"
+    "bwcAAAAEVGVzdAE=");
 
 } // namespace
 
@@ -71,8 +46,7 @@ private Q_SLOTS:
         const auto& [language, translation, localeName, trace] = Languages::fetch();
         QTemporaryDir folder;
         for (const auto& [name, bytes] :
-             {std::pair("own_de.qm", translationFile(QStringLiteral("Hallo"))),
-              std::pair("own_de_AT.qm", translationFile(QStringLiteral("Servus"))),
+             {std::pair("own_de.qm", germanFile), std::pair("own_de_AT.qm", austrianFile),
               std::pair("own_fr.qm", QByteArray("no translations"))})
             QVERIFY(writeFile(folder.filePath(QString::fromLatin1(name)), bytes));
         TranslationCenter& center = TranslationCenter::Instance();

@@ -17,32 +17,22 @@
 
 namespace {
 
-class Target : public IAbstractTerminationTarget
+struct Target : IAbstractTerminationTarget
 {
-public:
-    explicit Target(std::function<void()> action)
-        : m_action(std::move(action))
+    explicit Target(std::function<void()> function)
+        : action(std::move(function))
     {}
-    void aboutToTerminate() override { m_action(); }
-
-private:
-    std::function<void()> m_action;
+    void aboutToTerminate() override { action(); }
+    const std::function<void()> action;
 };
 
-class Component : public SaveComponentIf
+struct Component : SaveComponentIf
 {
-public:
-    explicit Component(QString* log)
-        : m_log(log)
-    {
-        CfgCenter::RegisterSaveComponent(this);
-    }
-    void Save() override { *m_log += QStringLiteral("save "); }
+    Component() { CfgCenter::RegisterSaveComponent(this); }
+    void Save() override { saved(); }
     void Load() override {}
     void CommitData() override {}
-
-private:
-    QString* m_log;
+    std::function<void()> saved;
 };
 
 QWidget* splashScreen()
@@ -130,7 +120,8 @@ private Q_SLOTS:
         QString log;
         auto application = std::make_unique<TrovApplication>();
         application->ShowSplash();
-        Component component(&log);
+        Component component;
+        component.saved = [&log] { log += QStringLiteral("save "); };
         std::unique_ptr<Target> victim;
         std::unique_ptr<Target> latecomer;
         const Target first([&] {
