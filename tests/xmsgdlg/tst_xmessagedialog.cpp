@@ -116,7 +116,10 @@ private Q_SLOTS:
             m_messages.reset();
             m_parent.reset();
         };
-        QVERIFY(show({MessageSeverity::Information, {}, QStringLiteral("text"), {}, {}}, end));
+        Store store;
+        m_messages->SetSettings({QString(), &store});
+        QVERIFY(
+            show({MessageSeverity::Information, {}, QString(), {}, QStringLiteral("key")}, end));
         QCOMPARE(QApplication::activeModalWidget(), nullptr);
     }
 
