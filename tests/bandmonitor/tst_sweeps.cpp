@@ -37,24 +37,6 @@ private Q_SLOTS:
             QVERIFY2(sweep.levelAt(hz) == level, qPrintable(QString::number(hz)));
         QCOMPARE(Sweep().levelAt(0), std::optional<float>());
     }
-    void columns()
-    {
-        OwnedSegments segments;
-        segments.add(0, 1, {5, 1, noLevel, noLevel, 7, 7, 3, 9});
-        segments.add(12, 4, {2}); // a gap from 8 to 12
-        std::vector<LevelRange> columns(4);
-        reduceToColumns(segments.sweep(), {0, 8}, columns);
-        QCOMPARE(columns[0], (LevelRange{1, 5}));
-        QVERIFY(columns[1].isEmpty());
-        QCOMPARE(columns[2], (LevelRange{7, 7}));
-        QCOMPARE(columns[3], (LevelRange{3, 9}));
-        reduceToColumns(segments.sweep(), {8, 16}, columns);
-        QVERIFY(columns[0].isEmpty() && columns[1].isEmpty());
-        QCOMPARE(columns[2], (LevelRange{2, 2})); // one bin over several columns
-        QCOMPARE(columns[3], (LevelRange{2, 2}));
-        reduceToColumns(segments.sweep(), {0.25, 0.75}, columns); // all within one bin
-        QCOMPARE(columns[3], (LevelRange{5, 5}));
-    }
     void columnsOfUselessViews()
     {
         OwnedSegments segments;
