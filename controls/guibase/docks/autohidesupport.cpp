@@ -34,10 +34,10 @@ AutoHideSupportPrivate::AutoHideSupportPrivate(AutoHideSupport& support, QMainWi
     : q(support)
     , mainWindow(served)
     , areas(givenAreas & sideAreas)
-    , attachment(served, instanceProperty, support)
     , children(
           served, [this](QDockWidget& dock) { registerDock(dock); },
           [this](const QObject* gone, QDockWidget* dock) { unregisterDock(gone, dock); }, nullptr)
+    , attachment(served, instanceProperty, support)
 {}
 
 AutoHideSupportPrivate::Entry* AutoHideSupportPrivate::entryOf(const QObject* dock)
@@ -56,7 +56,7 @@ void AutoHideSupportPrivate::registerDock(QDockWidget& dock)
     addButtons(dock, entry);
     connectAutoHideAction(dock);
     // The dock may be in the middle of being shown, and not have its name yet.
-    QTimerHelpers::singleShot(0, &q, [this, guarded = QPointer<QDockWidget>(&dock)] {
+    QTimerHelpers::singleShot(0, &q, [this, guarded = DockPointer(&dock)] {
         if (guarded)
             applyRemembered(*guarded);
     });
@@ -83,7 +83,7 @@ void AutoHideSupportPrivate::unregisterDock(const QObject* key, QDockWidget* doc
     }
     const bool wasOn =
         autoHideDocks.removeIf([key](const QDockWidget* other) { return other == key; }) > 0;
-    if (pending.isNull() || pending == key)
+    if (pending == nullptr || pending == key)
         q.deactivateAutoHideTimer();
     if (entry.autoHideAction)
         entry.autoHideAction->disconnect(&q);
@@ -113,7 +113,7 @@ void AutoHideSupportPrivate::connectAutoHideAction(QDockWidget& dock)
     entry->autoHideAction = action;
     if (action == nullptr)
         return;
-    const auto toggled = [this, guarded = QPointer<QDockWidget>(&dock)](bool checked) {
+    const auto toggled = [this, guarded = DockPointer(&dock)](bool checked) {
         if (guarded)
             q.onAutoHideActionToggled(*guarded, checked);
     };
@@ -152,7 +152,7 @@ void AutoHideSupportPrivate::setActionChecked(const QDockWidget& dock, bool chec
 
 void AutoHideSupportPrivate::enable(QDockWidget& dock, Qt::ToolBarArea area)
 {
-    const QPointer<QDockWidget> guarded(&dock);
+    const DockPointer guarded(&dock);
     const QPointer<AutoHideSupport> alive(&q);
     const UpdatesBlocker blocker(dock);
     q.setDockWidgetActionVisibility(dock, area);
@@ -184,7 +184,7 @@ void AutoHideSupportPrivate::restore(QDockWidget& dock, Qt::ToolBarArea area)
         q.updateToolBarVisibility();
         return;
     }
-    const QPointer<QDockWidget> guarded(&dock);
+    const DockPointer guarded(&dock);
     const QPointer<AutoHideSupport> alive(&q);
     enable(dock, usable);
     if (alive && guarded && isOn(dock)) {
@@ -210,10 +210,10 @@ void AutoHideSupportPrivate::apply(const AutoHideState& state)
     isApplying = true;
     popupOnHover->setChecked(state.popupOnHover);
     remembered = state.sides;
-    QList<QPointer<QDockWidget>> docks;
+    QList<DockPointer> docks;
     for (const auto& [key, entry] : entries)
         docks << entry.dock;
-    for (const QPointer<QDockWidget>& dock : std::as_const(docks)) {
+    for (const DockPointer& dock : std::as_const(docks)) {
         if (alive && dock && isOn(*dock) && !remembered.contains(dock->objectName()))
             q.disableAutoHide(*dock);
         else if (alive && dock)
@@ -263,10 +263,10 @@ AutoHideSupport::AutoHideSupport(QMainWindow& mainWindow, QFlags<Qt::ToolBarArea
 
 AutoHideSupport::~AutoHideSupport()
 {
+    parent()->removeEventFilter(this);
     // A main window that is being destroyed is none any more, and takes everything with it.
     if (qobject_cast<QMainWindow*>(parent()) != nullptr) {
         d->storageName.clear();
-        d->mainWindow.removeEventFilter(this);
         const QList<const QDockWidget*> docks = d->autoHideDocks;
         for (const QDockWidget* dock : docks)
             if (auto* entry = d->entryOf(dock); entry != nullptr && entry->dock)
@@ -302,6 +302,10 @@ QAction* AutoHideSupport::createAutoHideAction(QDockWidget& dock)
             dock.setProperty(actionProperty, QVariant());
     });
     dock.setProperty(actionProperty, QVariant::fromValue<QObject*>(action));
+    // The main window may not have told yet that the dock has come.
+    const auto* mainWindow = qobject_cast<QMainWindow*>(dock.parentWidget());
+    if (AutoHideSupport* support = mainWindow == nullptr ? nullptr : get(*mainWindow))
+        support->d->registerDock(dock);
     return action;
 }
 
@@ -381,7 +385,7 @@ void AutoHideSupport::disableAutoHide(QDockWidget& dock)
 {
     if (isAutoHideDisabled(dock))
         return;
-    const QPointer<QDockWidget> guarded(&dock);
+    const DockPointer guarded(&dock);
     const QPointer<AutoHideSupport> alive(this);
     const UpdatesBlocker blocker(dock);
     d->autoHideDocks.removeAll(&dock);

@@ -5,9 +5,9 @@
 #include "autohidestate_p.h"
 #include "autohidesupport.h"
 #include "dockchildren_p.h"
+#include "dockpointer_p.h"
 
 #include <QBasicTimer>
-#include <QDockWidget>
 #include <QHash>
 #include <QMainWindow>
 #include <QPointer>
@@ -22,7 +22,7 @@ struct AutoHideSupportPrivate
     /// A dock of the main window, kept under its address, which is good for comparing only.
     struct Entry
     {
-        QPointer<QDockWidget> dock;
+        DockPointer dock;
         QMap<Qt::ToolBarArea, QAction*> proxies;
         QPointer<QAction> autoHideAction; ///< The one that is connected.
         QString name;                     ///< The object name when the dock entered the mode.
@@ -56,6 +56,8 @@ struct AutoHideSupportPrivate
     void hideDock(QDockWidget& dock);
     void hideOther(QDockWidget* pending, const QDockWidget& dock);
     void dockShown(QDockWidget& dock);
+    /// Keeps the shown docks against their tool bars.
+    void followMainWindow();
     void showByKey(QDockWidget& dock);
     void dismissByKey(QDockWidget& dock);
 
@@ -76,16 +78,17 @@ struct AutoHideSupportPrivate
     bool allowNonFloating = false;
     int delay = 500;
     QBasicTimer hideTimer;
-    QPointer<QDockWidget> pending;
+    DockPointer pending;
     bool waitsForOpenWindow = false; ///< The hiding was put off for something that was open.
 
     std::map<const QObject*, Entry> entries;
     /// The saved sides of docks that are not there.
     QMap<QString, Qt::ToolBarArea> remembered;
     QString storageName;
+    bool isFollowing = false;
     bool isApplying = false; ///< Nothing is stored meanwhile.
-    AttachedHelpers::Attachment attachment;
     DockChildren children;
+    AttachedHelpers::Attachment attachment;
 };
 
 } // namespace QMainWindowHelpers

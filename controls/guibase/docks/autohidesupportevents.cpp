@@ -5,6 +5,9 @@
 #include "autohidesupport_p.h"
 #include "docktitle_p.h"
 #include "mainwindowhelpers.h"
+#include "survivalcheck_p.h"
+
+#include <jtbase/qtimerhelpers.h>
 
 #include <QAction>
 #include <QApplication>
@@ -15,6 +18,7 @@
 #include <QWidgetAction>
 
 #include <algorithm>
+#include <utility>
 
 namespace QMainWindowHelpers {
 
@@ -165,13 +169,31 @@ void AutoHideSupportPrivate::dockShown(QDockWidget& dock)
         if (const QToolBar* toolBar = q.toolBarResponsibleFor(dock))
             q.moveDockWidget(dock, *toolBar);
     } else if (isOn(dock)) {
-        const QPointer<QDockWidget> guarded(&dock);
+        const DockPointer guarded(&dock);
         const QPointer<AutoHideSupport> alive(&q);
         QDockWidget* other = q.deactivateAutoHideTimer();
         hideOther(other, dock);
         if (alive && guarded)
             q.disableAutoHide(dock);
     }
+}
+
+void AutoHideSupportPrivate::followMainWindow()
+{
+    if (autoHideDocks.isEmpty() || std::exchange(isFollowing, true))
+        return;
+    // The tool bars get their places after this event.
+    QTimerHelpers::singleShot(0, &q, [this] {
+        isFollowing = false;
+        for (const auto& [key, entry] : entries) {
+            const DockPointer& dock = entry.dock;
+            const QToolBar* toolBar = dock && dock->isFloating() && dock->isVisible()
+                                          ? q.toolBarResponsibleFor(*dock)
+                                          : nullptr;
+            if (toolBar != nullptr)
+                q.moveDockWidget(*dock, *toolBar);
+        }
+    });
 }
 
 void AutoHideSupportPrivate::showByKey(QDockWidget& dock)
@@ -200,14 +222,14 @@ void AutoHideSupportPrivate::dismissByKey(QDockWidget& dock)
 
 bool AutoHideSupport::eventFilter(QObject* watched, QEvent* event)
 {
-    const QPointer<QObject> alive(watched);
+    const SurvivalCheck receiver(watched);
     if (watched == parent())
         mainWindowEvent(*event);
     else if (const auto* entry = d->entryOf(watched); entry != nullptr && entry->dock)
         dockWidgetEvent(*entry->dock, *event);
     else if (auto* button = qobject_cast<QAbstractButton*>(watched))
         actionWidgetEvent(*button, *event);
-    return alive.isNull();
+    return receiver.hasDied();
 }
 
 void AutoHideSupport::timerEvent(QTimerEvent* event)
@@ -237,11 +259,13 @@ void AutoHideSupport::popupDockWidgetOnHovered(QDockWidget& dock)
 
 void AutoHideSupport::mainWindowEvent(const QEvent& event)
 {
+    if (event.type() == QEvent::Resize || event.type() == QEvent::Move)
+        d->followMainWindow();
     // A dock may have been registered before it was announced.
     if (event.type() == QEvent::ChildRemoved) {
         const QObject* child = static_cast<const QChildEvent&>(event).child();
         if (const auto* entry = d->entryOf(child))
-            d->unregisterDock(child, entry->dock);
+            d->unregisterDock(child, entry->dock.get());
     }
     d->children.handle(event);
 }
@@ -300,7 +324,7 @@ void AutoHideSupport::actionWidgetEvent(QAbstractButton& button, const QEvent& e
 
 void AutoHideSupport::activateAutoHideTimer(QDockWidget& dock)
 {
-    const QPointer<QDockWidget> guarded(&dock);
+    const DockPointer guarded(&dock);
     const QPointer<AutoHideSupport> alive(this);
     if (QDockWidget* former = deactivateAutoHideTimer())
         d->hideDock(*former);
@@ -314,7 +338,7 @@ QDockWidget* AutoHideSupport::deactivateAutoHideTimer()
 {
     d->hideTimer.stop();
     d->waitsForOpenWindow = false;
-    return std::exchange(d->pending, nullptr).data();
+    return std::exchange(d->pending, nullptr).get();
 }
 
 void AutoHideSupport::moveDockWidget(QDockWidget& dock, const QToolBar& toolBar)

@@ -2,16 +2,15 @@
 #include "enhanceddockwidgettitlebar.h"
 
 #include "dockicons_p.h"
+#include "dockpointer_p.h"
 #include "docktitle_p.h"
 
 #include <QAction>
 #include <QActionEvent>
-#include <QDockWidget>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
-#include <QPointer>
 #include <QStyleOptionDockWidget>
 #include <QStylePainter>
 #include <QToolButton>
@@ -25,6 +24,7 @@ namespace {
 /// The room that the title keeps while actions move into the menu, in average characters.
 constexpr int keptTitleCharacters = 6;
 constexpr int activeMarkWidth = 3;
+constexpr int iconGap = 4;
 
 bool isNavigationKey(int key)
 {
@@ -66,6 +66,16 @@ protected:
         else
             QToolButton::keyPressEvent(event);
     }
+
+    void paintEvent(QPaintEvent*) override
+    {
+        QStylePainter painter(this);
+        QStyleOptionToolButton option;
+        initStyleOption(&option);
+        // The picture says it already.
+        option.features &= ~QStyleOptionToolButton::HasMenu;
+        painter.drawComplexControl(QStyle::CC_ToolButton, option);
+    }
 };
 
 /// What the action is called where there is no picture; tool tips may be rich text.
@@ -106,7 +116,7 @@ public:
     void updateTabStop(QWidget* preferred);
 
     EnhancedDockWidgetTitleBar& bar;
-    QPointer<QDockWidget> dock;
+    DockPointer dock;
     std::map<QAction*, TitleBarButton*> buttons;
     TitleBarButton* const menuButton;
     TitleBarButton* const floatButton;
@@ -159,7 +169,7 @@ QSize EnhancedDockWidgetTitleBar::Private::neededSize(bool minimal) const
     const QFontMetrics metrics = bar.fontMetrics();
     const int button = TitleBarButton::extent(bar);
     const auto actions = static_cast<int>(visibleActions().size());
-    const int icon = iconExtent() > 0 ? iconExtent() + margin() : 0;
+    const int icon = iconExtent() > 0 ? iconExtent() + iconGap : 0;
     const int text = minimal ? 0 : metrics.horizontalAdvance(title) + margin();
     const int along = 2 * margin() + activeMarkWidth + icon + text +
                       button * (fixedButtonCount() + (minimal ? std::min(actions, 1) : actions));
@@ -235,7 +245,7 @@ void EnhancedDockWidgetTitleBar::Private::arrange()
 {
     const int button = TitleBarButton::extent(bar);
     const QList<QAction*> actions = visibleActions();
-    const int icon = iconExtent() > 0 ? iconExtent() + margin() : 0;
+    const int icon = iconExtent() > 0 ? iconExtent() + iconGap : 0;
     const int begin = margin() + activeMarkWidth + icon;
     const int end = length() - margin();
     const int kept = std::min(bar.fontMetrics().horizontalAdvance(title),
@@ -317,7 +327,7 @@ EnhancedDockWidgetTitleBar::~EnhancedDockWidgetTitleBar() = default;
 
 QDockWidget* EnhancedDockWidgetTitleBar::dockWidget() const
 {
-    return d->dock;
+    return d->dock.get();
 }
 
 void EnhancedDockWidgetTitleBar::addTitleBarAction(QAction& action, int index)
@@ -351,7 +361,7 @@ QSize EnhancedDockWidgetTitleBar::minimumSizeHint() const
 bool EnhancedDockWidgetTitleBar::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
-    if (watched == d->dock && (type == QEvent::WindowTitleChange ||
+    if (d->dock == watched && (type == QEvent::WindowTitleChange ||
                                type == QEvent::WindowIconChange || type == QEvent::ModifiedChange))
         d->followDock();
     return QWidget::eventFilter(watched, event);

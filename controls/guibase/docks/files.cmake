@@ -30,6 +30,7 @@ set(docks_sources
     dockchildren_p.h
     dockicons.cpp
     dockicons_p.h
+    dockpointer_p.h
     docktitle_p.h
     dockwidgetconfigurator.cpp
     dockwidgethelpers.cpp
