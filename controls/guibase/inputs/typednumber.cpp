@@ -192,9 +192,9 @@ TypedNumber::Outcome TypedNumber::normalize(QStringView text, QChar decimalPoint
 {
     if (!translate(text.trimmed(), ascii) || ascii.isEmpty())
         return Outcome::NotANumber;
+    const qsizetype begin = ascii.first() == '-' ? 1 : 0;
     if (ascii.first() == '+')
         ascii.erase(ascii.begin());
-    const qsizetype begin = !ascii.isEmpty() && ascii.first() == '-' ? 1 : 0;
     const auto exponent = std::find(ascii.begin() + begin, ascii.end(), 'e');
     if (exponent != ascii.end() && exponent + 1 != ascii.end() && exponent[1] == '+')
         ascii.erase(exponent + 1);

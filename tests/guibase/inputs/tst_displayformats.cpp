@@ -1,0 +1,437 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/inputs/displayformatlist.h>
+#include <guibase/inputs/frequencydisplayformat.h>
+#include <guibase/inputs/integralnumberdisplayformat.h>
+#include <guibase/inputs/qdatetimedisplayformat.h>
+#include <guibase/inputs/realnumberdisplayformat.h>
+
+#include "support/guardedtest.h"
+#include "support/randombytes.h"
+#include "support/testrows.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <QTimeZone>
+
+#include <bit>
+#include <cfloat>
+#include <limits>
+
+namespace {
+
+template <typename T>
+using NumberFormat = std::conditional_t<std::is_integral_v<T>, IntegralNumberDisplayFormat<T>,
+                                        RealNumberDisplayFormat<double>>;
+
+/// A locale as the formats have it.
+QLocale ungrouped(const QString& name)
+{
+    QLocale locale(name);
+    locale.setNumberOptions(QLocale::OmitGroupSeparator | QLocale::RejectGroupSeparator);
+    return locale;
+}
+
+/// Writes what is read, or "-" where nothing is.
+template <typename Format>
+QString echoed(const Format& format, const QString& text)
+{
+    bool ok = false;
+    const auto value = format.valueFromFullText(text, &ok);
+    return ok ? format.fullTextFromValue(value) : QStringLiteral("-");
+}
+
+template <typename Format>
+std::unique_ptr<Format> withSuffix(const QString& suffix, const QString& pattern = {})
+{
+    auto format = std::make_unique<Format>();
+    format->setSuffix(suffix);
+    if (!pattern.isEmpty())
+        format->setSuffixPattern(QRegularExpression(pattern));
+    return format;
+}
+
+/// Every limit, with its neighbour, must survive in every base.
+template <typename T>
+void checkExtremes()
+{
+    constexpr T lowest = std::numeric_limits<T>::lowest();
+    constexpr T highest = std::numeric_limits<T>::max();
+    for (const int base : {2, 8, 10, 16, 36}) {
+        IntegralNumberDisplayFormat<T> format;
+        format.setBase(base);
+        format.setShowPlus(true);
+        format.setPrefix(QStringLiteral("v ="));
+        format.setSuffix(QStringLiteral("%2 u"));
+        for (const T value : {lowest, T(lowest + 1), T(0), T(highest - 1), highest}) {
+            const QString text = format.fullTextFromValue(value);
+            bool ok = false;
+            QCOMPARE(format.valueFromFullText(text, &ok), value);
+            QVERIFY2(ok, qPrintable(text));
+        }
+        // One beyond each limit, written by hand, is another number and refused.
+        format.setShowPlus(false);
+        QString beyond = format.textFromValue(highest);
+        bool ok = true;
+        format.valueFromText(beyond + u'0', &ok);
+        QVERIFY(!ok);
+    }
+}
+
+template <typename Format>
+void checkSameAsLocale(const Format& format, const QString& written, const QString& expected)
+{
+    if (written != expected)
+        QFAIL(qPrintable(
+            QStringLiteral("%1 is not %2 in %3").arg(written, expected, format.locale().name())));
+}
+
+/// Texts made of what numbers are made of, and sometimes of anything.
+QString randomText(RandomBytes& random)
+{
+    static const QString characters =
+        QStringLiteral("0123456789012345678901234567890123456789..,,  ''+--eExXkKmMgGhHzZ:/TZ") +
+        QString::fromUtf8("\u00a0\u202f\u2019\u2212\uff11\uff0e\uff0c\u0661\u066b\u066c\u200e");
+    QString text;
+    const int length = random.below(14);
+    for (int i = 0; i < length; ++i) {
+        text += random.below(40) == 0
+                    ? QChar(static_cast<char16_t>(random.below(0x10000)))
+                    : characters[random.below(static_cast<int>(characters.size()))];
+    }
+    return text;
+}
+
+/// What is read must write to a text that reads the same.
+template <typename T>
+bool survives(const ValueDisplayFormatBase<T>& format, const QString& text)
+{
+    bool ok = false;
+    const T value = format.valueFromFullText(text, &ok);
+    if (!ok)
+        return true;
+    const QString written = format.fullTextFromValue(value);
+    const T again = format.valueFromFullText(written, &ok);
+    return ok && format.fullTextFromValue(again) == written &&
+           (!std::is_integral_v<T> || again == value);
+}
+
+} // namespace
+
+class TestDisplayFormats : public GuardedTest
+{
+    Q_OBJECT
+    using Framed = TestRows<QString, QString, QString>;
+    using Numbers = TestRows<QString, QString, QString, QString>;
+    using Orders = TestRows<int, int, QList<int>>;
+    using Frequencies = TestRows<int, QString, QString>;
+
+private Q_SLOTS:
+    void framesNumbers_data()
+    {
+        Framed row; // pattern of the suffix "MHz", text, what is written for what was read
+        row("as written", "", "f= 5 MHz", "f= 5 MHz");
+        row("extra blanks", "", "  f= 5 MHz \t", "f= 5 MHz");
+        row("no blanks", "", "f=5MHz", "f= 5 MHz");
+        row("bare", "", " 5 ", "f= 5 MHz");
+        row("suffix inside", "", "5 MHz x", "-");
+        row("prefix twice", "", "f= f= 5", "-");
+        row("other case", "", "5 mhz", "-");
+        row("own pattern", "[mM]([hH]z)?", "5m", "f= 5 MHz");
+        row("matches all", ".*", "51", "f= 5 MHz");
+        row("matches nothing", "(?!)", "5", "f= 5 MHz");
+        row("invalid", "(", "5", "f= 5 MHz");
+        row("suffix only", "", "MHz", "-");
+        row("empty", "", "", "-");
+    }
+    void framesNumbers()
+    {
+        const auto& [suffixPattern, text, echo] = Framed::fetch();
+        const auto format =
+            withSuffix<IntegralNumberDisplayFormat<int>>(QStringLiteral("MHz"), suffixPattern);
+        format->setPrefix(QStringLiteral("f="));
+        QCOMPARE(echoed(*format, text), echo);
+        QCOMPARE(echoed(*format->clone(), text), echo);
+    }
+    void readsNumbers_data()
+    {
+        // Locale, text; as written in base 10, and in the C locale with six decimals; "-" is
+        // refused.
+        Numbers row;
+        row.add("C", "1500", "1500", "1500.000000");
+        row.add("C", " +7 ", "7", "7.000000");
+        row.add("C", "+-7", "-", "-");
+        row.add("C", "\u22121500", "-1500", "-1500.000000");
+        row.add("C", "\uff11\uff15", "15", "15.000000");
+        row.add("C", "1.5", "-", "1.500000");
+        row.add("C", "1,5", "-", "1.500000");
+        row.add("C", "\uff11\uff0e\uff15", "-", "1.500000");
+        row.add("C", "1.500", "-", "1.500000");
+        row.add("C", "1,500", "-", "-");
+        row.add("C", "0,500", "-", "0.500000");
+        row.add("C", "1234,500", "-", "1234.500000");
+        row.add("C", "1,234.5", "-", "1234.500000");
+        row.add("C", "1.234,5", "-", "1234.500000");
+        row.add("C", "1,234.567,8", "-", "-");
+        row.add("C", "12,34.5", "-", "-");
+        row.add("C", "1.234.567", "1234567", "1234567.000000");
+        row.add("C", "1.234.56", "-", "-");
+        row.add("C", "1 234 567", "1234567", "1234567.000000");
+        row.add("C", "1\u202f234,500", "-", "1234.500000");
+        row.add("C", "1'500", "1500", "1500.000000");
+        row.add("C", "1 23", "-", "-");
+        row.add("C", "1 234'567", "-", "-");
+        row.add("C", "1,5e3", "-", "1500.000000");
+        row.add("C", "e3", "-", "-");
+        row.add("C", "1e400", "-", "-");
+        row.add("C", "inf", "-", "-");
+        row.add("C", "nan", "-", "-");
+        row.add("C", "0x10", "-", "-");
+        row.add("C", "2147483648", "-", "2147483648.000000");
+        row.add("C", ".", "-", "-");
+        row.add("C", "-", "-", "-");
+        row.add("C", "1-", "-", "-");
+        row.add("de_DE", "1,500", "-", "1.500000");
+        row.add("de_DE", "1.500", "-", "-");
+        row.add("de_DE", "1.5", "-", "1.500000");
+        row.add("de_DE", "1.234,5", "-", "1234.500000");
+        row.add("ar_EG", "\u0661\u0665", "15", "15.000000");
+    }
+    void readsNumbers()
+    {
+        const auto& [localeName, text, expectedInteger, expectedReal] = Numbers::fetch();
+        for (const bool useLocale : {false, true}) {
+            IntegralNumberDisplayFormat<int> integer;
+            RealNumberDisplayFormat<double> real;
+            integer.setLocale(ungrouped(localeName));
+            real.setLocale(ungrouped(localeName));
+            integer.setUseLocale(useLocale);
+            real.setUseLocale(useLocale);
+            bool ok = false;
+            const int whole = integer.valueFromFullText(text, &ok);
+            QCOMPARE(ok ? QString::number(whole) : QStringLiteral("-"), expectedInteger);
+            QVERIFY(!integer.refusalReason(text).isEmpty());
+            const double number = real.valueFromFullText(text, &ok);
+            QCOMPARE(ok ? QString::number(number, 'f', 6) : QStringLiteral("-"), expectedReal);
+        }
+    }
+    void keepsExtremes()
+    {
+#define CHECK(T) checkExtremes<T>();
+        GUIBASE_FOR_EACH_INPUT_INTEGER(CHECK)
+#undef CHECK
+        // No integer beyond 2^53 may pass through a double.
+        IntegralNumberDisplayFormat<quint64> format;
+        QCOMPARE(echoed(format, QStringLiteral("18.446.744.073.709.551.615")),
+                 QStringLiteral("18446744073709551615"));
+        format.setBase(16);
+        QCOMPARE(echoed(format, QStringLiteral("0xFFFFFFFFFFFFFFFE")),
+                 QStringLiteral("fffffffffffffffe"));
+        format.setBase(1);
+        QCOMPARE(format.base(), 16);
+        RealNumberDisplayFormat<double> real;
+        bool ok = false;
+        for (const double value : {DBL_MAX, -DBL_MAX, 0.0}) {
+            QCOMPARE(real.valueFromFullText(real.fullTextFromValue(value), &ok), value);
+            QVERIFY(ok);
+        }
+    }
+    void writesLikeTheLocale()
+    {
+        RandomBytes random("writesLikeTheLocale");
+        QList<double> numbers{0.0,   -0.0,     0.5,     1.5,     2.5,           -0.5,
+                              0.125, -1e-9,    1e-300,  1e22,    1e23,          1e300,
+                              -1e15, 1.0 / 3., DBL_MIN, DBL_MAX, 999999.9999995};
+        const int rounds = RandomBytes::rounds(20000);
+        for (int i = 0; i < rounds; ++i) {
+            const double mantissa = static_cast<double>(random.engine()()) / 1e6;
+            const double any = std::bit_cast<double>(random.engine()());
+            numbers << (i % 2 == 0 ? mantissa - 5e12 : std::isfinite(any) ? any : 0.375);
+            numbers << static_cast<double>(random.below(100000)) / 1024.0; // Many ties.
+        }
+        for (const char* name : {"C", "de_DE", "ar_EG"}) {
+            RealNumberDisplayFormat<double> real;
+            real.setLocale(ungrouped(QString::fromLatin1(name)));
+            IntegralNumberDisplayFormat<qint64> integer;
+            integer.setLocale(real.locale());
+            for (const double number : std::as_const(numbers)) {
+                for (const int precision : {6, -1, 0, 3}) {
+                    real.setPrecision(precision);
+                    checkSameAsLocale(real, real.textFromValue(number),
+                                      real.locale().toString(number, 'f', precision));
+                }
+                const auto whole = std::bit_cast<qint64>(number);
+                checkSameAsLocale(integer, integer.textFromValue(whole),
+                                  integer.locale().toString(whole));
+                if (QTest::currentTestFailed())
+                    return;
+                bool ok = false;
+                const QString text = QString::number(number, 'g', 17);
+                const double read = real.valueFromText(text, &ok);
+                bool expectedOk = false;
+                const double expected = QLocale::c().toDouble(text, &expectedOk);
+                QVERIFY2(!ok || read == expected, qPrintable(text));
+                QVERIFY2(ok == expectedOk || text.contains(u'.'), qPrintable(text));
+            }
+        }
+    }
+    void triesFormatsInOrder_data()
+    {
+        Orders row; // count of formats, current index, indexes in the order of trial
+        row.add(0, -1, {-1});
+        row.add(0, 5, {-1});
+        row.add(1, -1, {0});
+        row.add(2, -1, {-1, 0, 1});
+        row.add(3, 0, {0, 1, 2});
+        row.add(3, 2, {2, 1, 0});
+        row.add(3, 3, {0, 1, 2});
+    }
+    void triesFormatsInOrder()
+    {
+        const auto& [count, current, expectedOrder] = Orders::fetch();
+        DisplayFormatList<int> list;
+        for (int i = 0; i < count; ++i)
+            list.add(withSuffix<IntegralNumberDisplayFormat<int>>(QStringLiteral("s")));
+        list.add(nullptr);
+        QList<int> order;
+        for (const auto& [format, index] : list.trialOrder(current)) {
+            order << index;
+            QCOMPARE(format, index < 0 ? list.current(-1) : list.at(index));
+        }
+        QCOMPARE(order, expectedOrder);
+        // All of them read it: the first one wins.
+        const auto reading = list.read(QStringLiteral("7"), current, 3);
+        QCOMPARE(reading.index, order.first());
+        QCOMPARE(reading.value, 7);
+    }
+    void survivesBadConvertersAndPatterns()
+    {
+        using Format = IntegralNumberDisplayFormat<int>;
+        DisplayFormatList<int> list;
+        const QString suffixes[] = {QStringLiteral("Hz"), QStringLiteral("MHz"),
+                                    QStringLiteral("MHz")};
+        for (const QString& suffix : suffixes)
+            list.add(withSuffix<Format>(suffix));
+        // The longest suffix tells the format of an unreadable text, the first one among equals.
+        auto reading = list.read(QStringLiteral("abc MHz "), 0, 3);
+        QCOMPARE(reading.index, 1);
+        QCOMPARE(reading.value, 3);
+        QVERIFY(reading.isKnown());
+        QVERIFY(!list.read(QStringLiteral("abc MHz x"), 0, 3).isKnown());
+
+        const auto thrower = [](int, ValueDisplayFormatBase<int>::ConversionMode) -> int {
+            throw 5;
+        };
+        for (const auto& converter : {ValueDisplayFormatBase<int>::ValueConverter(),
+                                      ValueDisplayFormatBase<int>::ValueConverter(thrower)}) {
+            list.at(1)->setValueConverter(converter);
+            QCOMPARE(list.write(5, 1), QString());
+            reading = list.read(QStringLiteral("5"), 1, 3);
+            QCOMPARE(reading.index, 0);
+        }
+        bool ok = false;
+        QVERIFY_EXCEPTION_THROWN(list.at(1)->valueFromFullText(QStringLiteral("5"), &ok), int);
+        list.at(1)->setValueConverter({});
+        QVERIFY_EXCEPTION_THROWN(list.at(1)->fullTextFromValue(5), std::bad_function_call);
+
+        RealNumberDisplayFormat<double> real;
+        for (const double result : {qQNaN(), qInf()}) {
+            real.setValueConverter([result](double, auto) { return result; });
+            real.valueFromFullText(QStringLiteral("5"), &ok);
+            QVERIFY(!ok);
+            QVERIFY(!real.fullTextFromValue(5).isEmpty());
+        }
+
+        QElapsedTimer clock;
+        clock.start();
+        Format slow;
+        slow.setSuffixPattern(QRegularExpression(QStringLiteral("(a+)+b")));
+        QCOMPARE(echoed(slow, QString(1000000, u'a')), QStringLiteral("-"));
+        QCOMPARE(echoed(slow, QString(1000000, u'7')), QStringLiteral("-"));
+        QCOMPARE(echoed(slow, QString(1000000, u'0') + u'7'), QStringLiteral("7"));
+        QVERIFY2(clock.elapsed() < 30000, "A long text hangs the format");
+    }
+    void readsAndWritesDates()
+    {
+        QDateTimeDisplayFormat format;
+        const QDateTime time(QDate(2024, 2, 29), QTime(13, 5, 7), Qt::UTC);
+        bool ok = false;
+        QCOMPARE(format.fullTextFromValue(time),
+                 format.locale().toString(time, QLocale::LongFormat));
+        QCOMPARE(format.valueFromFullText(format.fullTextFromValue(time), &ok), time);
+        QVERIFY(ok);
+        format.setDateTimeFormat(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+        format.setSuffix(QStringLiteral("h"));
+        QCOMPARE(format.fullTextFromValue(time), QStringLiteral("2024-02-29 13:05:07 h"));
+        QCOMPARE(format.valueFromFullText(QStringLiteral(" 2024-02-29 13:05:07h"), &ok).date(),
+                 time.date());
+        QVERIFY(ok);
+        for (const char* bad : {"2023-02-29 13:05:07", "2024-02-29", "", "\u0000"}) {
+            QVERIFY(!format.valueFromFullText(QString::fromUtf8(bad), &ok).isValid());
+            QVERIFY(!ok);
+        }
+        QVERIFY(format.refusalReason(QString()).contains(QStringLiteral("yyyy")));
+    }
+    void readsFrequencies_data()
+    {
+        Frequencies row; // unit, text, what is written for what was read
+        row.add(3, "14.225 MHz", "14.225 MHz");
+        row.add(2, "14225k", "14225 kHz");
+        row.add(4, "1,2 GHz", "1.2 GHz");
+        row.add(3, "0.000001", "0.000001 MHz");
+        row.add(3, "0.0000001", "-");
+        row.add(3, "0.0000010", "0.000001 MHz");
+        row.add(3, "-7.05m", "-7.05 MHz");
+        row.add(3, "14,225 MHz", "-"); // Thousands?
+        row.add(3, "14 225", "14225 MHz");
+        row.add(3, "5 kHz", "-");
+        row.add(1, "5 MHz", "-");
+        row.add(1, "14225000", "14225000 Hz");
+        row.add(4, "999.999999999", "999.999999999 GHz");
+        row.add(4, "9223372036.854775807", "9223372036.854775807 GHz");
+        row.add(4, "-9223372036.854775808", "-9223372036.854775808 GHz");
+        row.add(4, "9223372036.854775808", "-");
+        row.add(2, "1e3", "-");
+    }
+    void readsFrequencies()
+    {
+        const auto& [unit, text, echo] = Frequencies::fetch();
+        FrequencyDisplayFormat format(static_cast<UnitPrefix::ESuffix>(unit));
+        QCOMPARE(echoed(format, text), echo);
+        format.setMinimumDecimals(3);
+        QCOMPARE(format.fullTextFromValue(0).size(), unit == 1 ? 4 : 9);
+    }
+    void survivesAnyText()
+    {
+        RandomBytes random("survivesAnyText");
+        IntegralNumberDisplayFormat<signed char> small;
+        small.setBase(16);
+        IntegralNumberDisplayFormat<quint64> large;
+        large.setLocale(ungrouped(QStringLiteral("ar_EG")));
+        large.setUseLocale(true);
+        RealNumberDisplayFormat<double> real;
+        RealNumberDisplayFormat<double> german;
+        german.setLocale(ungrouped(QStringLiteral("de_DE")));
+        german.setFormat('g');
+        german.setPrecision(17);
+        german.setPrefix(QStringLiteral("x"));
+        german.setSuffixPattern(QRegularExpression(QStringLiteral("\\s*[kM]?[hH]*z?")));
+        const FrequencyDisplayFormat frequency(UnitPrefix::Mega);
+        QDateTimeDisplayFormat date;
+        date.setDateTimeFormat(QStringLiteral("d.M.yyyy hh:mm"));
+        QByteArray dateSeed("24.12.2024 18:30");
+        const int rounds = RandomBytes::rounds(3000);
+        for (int i = 0; i < rounds; ++i) {
+            const QString text = randomText(random);
+            const bool ok = survives(small, text) && survives(large, text) &&
+                            survives(real, text) && survives(german, text) &&
+                            survives(frequency, text);
+            QVERIFY2(ok, qPrintable(text));
+            const QString dateText =
+                i % 4 == 0 ? QString::fromUtf8(random.mutated(dateSeed)) : QString();
+            QVERIFY2(survives(date, dateText), qPrintable(dateText));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDisplayFormats)
+#include "tst_displayformats.moc"
