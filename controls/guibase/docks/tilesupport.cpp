@@ -78,6 +78,12 @@ void split(QMainWindow& mainWindow, QDockWidget* after, QDockWidget* dock,
         mainWindow.splitDockWidget(after, dock, direction);
 }
 
+/// The sizes grown together until, with the separators between them, they fill the extent.
+QList<int> fill(const QList<int>& sizes, int extent, int separator)
+{
+    return spreadSurplus(sizes, extent - TileGrid::sum(sizes) - (sizes.size() - 1) * separator);
+}
+
 /// Takes the docks out of the layout and puts them back as a grid. Receivers of the toolkit's
 /// signals may delete any of them, and the window, meanwhile.
 void layOut(const QPointer<QMainWindow>& window, Qt::DockWidgetArea area, const GuardedDocks& docks,
@@ -145,12 +151,10 @@ bool TileSupport::tileDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetArea ar
                                     QEventLoop::ExcludeSocketNotifiers);
     if (!window)
         return true;
-    const QList<int> widths =
-        spreadSurplus(tiling.grid->columnWidths,
-                      tiling.available.width() - TileGrid::sum(tiling.grid->columnWidths));
-    const QList<int> heights =
-        spreadSurplus(tiling.grid->rowHeights,
-                      tiling.available.height() - TileGrid::sum(tiling.grid->rowHeights));
+    const int separator =
+        mainWindow.style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent, nullptr, &mainWindow);
+    const QList<int> widths = fill(tiling.grid->columnWidths, tiling.available.width(), separator);
+    const QList<int> heights = fill(tiling.grid->rowHeights, tiling.available.height(), separator);
     QList<QPair<QDockWidget*, QSize>> sizes;
     for (int i = 0; i < docks.size(); ++i)
         sizes << qMakePair(docks[i].data(), QSize(widths[i % columns], heights[i / columns]));
