@@ -75,6 +75,7 @@ int run(int argc, char** argv, const CommandLine& commandLine)
 
     MainWindow window;
     services.SetMainWidget(&window);
+    window.announceModes();
     window.show();
     services.Write2Splash(QApplication::translate("main", "Opening the recording…"));
     const auto failed =

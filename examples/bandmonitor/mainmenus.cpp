@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow.h"
 
+#include "jobs.h"
+#include "jobsmenu.h"
 #include "manual.h"
 #include "panes/bandview.h"
+#include "panes/levelspane.h"
 #include "replaybar.h"
 #include "selectionactions.h"
 #include "settings.h"
@@ -10,6 +13,7 @@
 #include <guibase/colors/colorset.h>
 #include <guibase/services/guibase.h>
 
+#include <QActionGroup>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
@@ -26,6 +30,7 @@ void MainWindow::buildMenus()
     buildFileMenu();
     buildViewMenu();
     buildReplayMenu();
+    buildJobsMenu();
     buildColorsMenu();
     buildHelpMenu();
 }
@@ -105,8 +110,33 @@ void MainWindow::buildViewMenu()
     connect(addEntry(menu, tr("Remove &all pins"), {QKeySequence(Qt::SHIFT | Qt::Key_P)}, true),
             &QAction::triggered, view, &FrequencyView::clearPins);
     menu->addSeparator();
+    buildModeEntries(menu);
     menu->addAction(services.CreateResetWidgetViewAction(this));
     menu->addAction(services.CreateResetFactoryViewAction(this));
+    for (QAction* action : m_levels->tableActions())
+        services.ShowHotKeyFrom(action, tr("Reference levels"));
+}
+
+void MainWindow::buildModeEntries(QMenu* menu)
+{
+    QMenu* modeMenu = menu->addMenu(tr("&Mode"));
+    auto* group = new QActionGroup(this);
+    for (int number = 0; number < static_cast<int>(modeCount); ++number) {
+        const auto mode = static_cast<Mode>(number);
+        const QKeySequence key(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + number));
+        QAction* action = addEntry(modeMenu, Modes::title(mode), {key}, false);
+        action->setCheckable(true);
+        group->addAction(action);
+        connect(action, &QAction::triggered, &m_modes, [this, mode] { m_modes.setMode(mode); });
+        connect(&m_modes, &Modes::modeChanged, action,
+                [action, mode](Mode current) { action->setChecked(current == mode); });
+    }
+    QMenu* paneMenu = menu->addMenu(tr("&Lists and panes"));
+    for (int number = 0; number < m_paneActions.size(); ++number) {
+        QAction* action = m_paneActions[number];
+        action->setShortcut(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + number));
+        addEntry(paneMenu, action, false);
+    }
 }
 
 void MainWindow::buildReplayMenu()
@@ -116,6 +146,11 @@ void MainWindow::buildReplayMenu()
     addEntry(menu, m_replayBar->backAction(), true);
     addEntry(menu, m_replayBar->forwardAction(), true);
     addEntry(menu, m_replayBar->firstAction(), true);
+}
+
+void MainWindow::buildJobsMenu()
+{
+    menuBar()->addMenu(new JobsMenu(m_jobs, this));
 }
 
 void MainWindow::buildColorsMenu()

@@ -2,11 +2,16 @@
 #include "mainwindow.h"
 
 #include "infodialog.h"
+#include "jobs.h"
 #include "panes/bandview.h"
+#include "panes/levelspane.h"
+#include "panes/signalspane.h"
+#include "panes/spectrumpane.h"
 #include "replaybar.h"
 #include "settings.h"
 
 #include <guibase/services/guibase.h>
+#include <guibase/services/splitter.h>
 #include <jtbase/coordformat.h>
 #include <jtbase/errorhandler.h>
 #include <xmsgdlg/xmessagedialog.h>
@@ -31,24 +36,23 @@ MainWindow::MainWindow(QWidget* parent)
     , m_resolution(QStringLiteral("frequency_resolution"))
     , m_bandView(new BandView(this))
     , m_replayBar(new ReplayBar(&m_replay, this))
+    , m_signals(new SignalsPane(&m_watch, this))
+    , m_levels(new LevelsPane(this))
+    , m_jobs(new Jobs(&m_replay, this))
 {
     setObjectName(QStringLiteral("bandmonitor"));
     setAcceptDrops(true);
     if (ErrorHandler::GetMessageDlg() == nullptr)
         ErrorHandler::SetMessageDlg(std::make_unique<XMessageDialog>());
-    auto* centre = new QWidget(this);
-    auto* column = new QVBoxLayout(centre);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(m_bandView, 1);
-    column->addWidget(m_replayBar);
-    setCentralWidget(centre);
+    buildPanes();
     restoreSettings();
+    addJobs();
     buildMenus();
     buildStatusBar();
     connectLoader();
-    connect(&m_replay, &Replay::positionChanged, this, &MainWindow::showSweep);
-    resize(1100, 720);
+    connectPanes();
+    resize(1100, 800);
+    m_modes.showKept();
     m_bandView->setFocus();
     updateTitle();
 }
@@ -57,6 +61,60 @@ MainWindow::~MainWindow()
 {
     // The menus go with the window's children, after the selection that they observe.
     m_bandView->setRecording(nullptr);
+}
+
+void MainWindow::buildPanes()
+{
+    const auto name = [](const char* text) { return QString::fromLatin1(text); };
+    m_splitter = new Splitter(Qt::Vertical, this, name("mainSplitter"), name("BandmonitorMain"));
+    auto* lists =
+        new Splitter(Qt::Horizontal, m_splitter, name("listsSplitter"), name("BandmonitorLists"));
+    for (Splitter* splitter : {m_splitter, lists})
+        splitter->setChildrenCollapsible(false);
+    lists->addWidget(m_signals);
+    lists->addWidget(m_levels);
+    m_splitter->addWidget(m_bandView);
+    m_splitter->addWidget(lists);
+    m_splitter->setStretchFactor(0, 1);
+    auto* centre = new QWidget(this);
+    auto* column = new QVBoxLayout(centre);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_splitter, 1);
+    column->addWidget(m_replayBar);
+    setCentralWidget(centre);
+
+    m_paneActions = {
+        m_modes.addPane(m_bandView->waterfallRow(), name("waterfall"), tr("&Waterfall"),
+                        {true, false, true}),
+        m_modes.addPane(m_signals, name("signals"), tr("&Signals"), {true, false, true}),
+        m_modes.addPane(m_levels, name("levels"), tr("&Reference levels"), {false, true, true})};
+    m_modes.addSplitter(m_bandView->splitter(),
+                        {QList<int>{280, 200}, QList<int>{400, 100}, QList<int>{220, 180}});
+    m_modes.addSplitter(lists, {QList<int>{800, 300}, QList<int>{800, 300}, QList<int>{770, 330}});
+    m_modes.addSplitter(m_splitter,
+                        {QList<int>{490, 200}, QList<int>{520, 170}, QList<int>{430, 260}});
+}
+
+void MainWindow::connectPanes()
+{
+    connect(&m_replay, &Replay::positionChanged, this, &MainWindow::showSweep);
+    const auto showLevels = [this] {
+        m_bandView->spectrum().setReferenceLevels(m_levels->points());
+    };
+    connect(m_levels, &LevelsPane::pointsChanged, m_bandView, showLevels);
+    showLevels();
+    connect(m_signals, &SignalsPane::signalChosen, m_bandView, &BandView::showFrequency);
+    connect(m_signals, &SignalsPane::followedMoved, m_bandView, &BandView::showFrequency);
+    connect(m_jobs, &Jobs::report, this,
+            [this](const QString& text) { statusBar()->showMessage(text, 8000); });
+}
+
+void MainWindow::refreshTexts()
+{
+    m_bandView->refreshTexts();
+    m_signals->refreshTexts();
+    m_levels->refreshTexts();
 }
 
 void MainWindow::restoreSettings()
@@ -68,7 +126,7 @@ void MainWindow::restoreSettings()
     services.SetFrequencyResolution(Settings::frequencyResolution());
     services.SetFrequencyUnit(Settings::frequencyUnit());
     m_bandView->setHoldVisible(Settings::isHoldVisible());
-    m_bandView->refreshTexts();
+    refreshTexts();
 }
 
 void MainWindow::buildStatusBar()
@@ -138,6 +196,8 @@ void MainWindow::takeOverRecording()
     m_fileName = QFileInfo(m_loader.path()).fileName();
     const std::shared_ptr<const Recording> recording = m_loader.recording();
     m_bandView->setRecording(recording);
+    m_watch.setRecording(recording);
+    m_jobs->reset();
     m_replay.setRecording(recording);
     m_replayBar->refresh();
     showSweep(m_replay.position(), -1);
@@ -177,7 +237,10 @@ void MainWindow::showMessage(const QString& title, const QString& text, const QS
 void MainWindow::showSweep(qsizetype position, qsizetype previous)
 {
     m_bandView->showSweep(position, previous);
+    m_watch.showSweep(position, previous);
+    m_signals->refresh();
     updateTitle();
+    m_jobs->sweepsPlayed(position, previous);
 }
 
 void MainWindow::updateTitle()
@@ -206,7 +269,7 @@ void MainWindow::frequencyUnitChanged()
 {
     Settings::setFrequencyUnit(static_cast<UnitPrefix::ESuffix>(
         qRound(GuiBase::Instance().GetFrequencyUnit()->GetValue())));
-    m_bandView->refreshTexts();
+    refreshTexts();
 }
 
 void MainWindow::frequencyResolutionChanged()
@@ -214,13 +277,13 @@ void MainWindow::frequencyResolutionChanged()
     const auto resolution = static_cast<UnitPrefix::ESuffix>(qRound(m_resolution.GetValue()));
     GuiBase::Instance().SetFrequencyResolution(resolution);
     Settings::setFrequencyResolution(resolution);
-    m_bandView->refreshTexts();
+    refreshTexts();
 }
 
 void MainWindow::timeZoneChanged()
 {
     m_replayBar->refresh();
-    m_bandView->refreshTexts();
+    refreshTexts();
 }
 
 void MainWindow::showInfo()

@@ -1,24 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/joblist.h"
 #include "model/recordingloader.h"
 #include "model/replay.h"
+#include "model/signalwatch.h"
+#include "modes.h"
 
 #include <valueframework/observable.h>
 #include <valueframework/valueselection.h>
 
 #include <QMainWindow>
 
+#include <optional>
+
 class QLabel;
 class QProgressBar;
 class QPushButton;
+class Splitter;
 
 namespace bandmonitor {
 
 class BandView;
+class Jobs;
+class LevelsPane;
 class ReplayBar;
+class SignalsPane;
 
-/// The main window: panes, replay bar, menus and status bar around one recording.
+/// The main window: panes in splitters, replay bar, menus and status bar around one recording.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -35,10 +44,18 @@ public:
     /// Begins to load the recording; recordingOpened(), openFailed() or nothing (cancelled) follows
     /// from the event loop. Until then the former recording stays.
     void open(const QString& path, OnFailure onFailure = OnFailure::ShowMessage);
+    /// Tells the services the modes of the window; once it is their main widget.
+    void announceModes() { m_modes.announce(); }
     bool isLoading() const { return m_loader.isLoading(); }
 
     Replay& replay() { return m_replay; }
     BandView& bandView() { return *m_bandView; }
+    SignalsPane& signalsPane() { return *m_signals; }
+    LevelsPane& levelsPane() { return *m_levels; }
+    Modes& modes() { return m_modes; }
+    Jobs& jobs() { return *m_jobs; }
+    /// Parts the band from the lists below it.
+    Splitter& splitter() { return *m_splitter; }
     /// What the user can choose; "1 Hz" and "1 kHz".
     ValueSelection& frequencyResolution() { return m_resolution; }
 
@@ -59,7 +76,9 @@ private:
     void buildMenus();
     void buildFileMenu();
     void buildViewMenu();
+    void buildModeEntries(QMenu* menu);
     void buildReplayMenu();
+    void buildJobsMenu();
     void buildColorsMenu();
     void buildHelpMenu();
     void addSelectionMenu(QMenu* menu, const QString& title, ValueSelection* selection,
@@ -70,6 +89,13 @@ private:
     QAction* addEntry(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
                       bool paneKey);
 
+    // mainjobs.cpp
+    void addJobs();
+    std::optional<JobState> exportSweep();
+
+    void buildPanes();
+    void connectPanes();
+    void refreshTexts();
     void buildStatusBar();
     void connectLoader();
     void restoreSettings();
@@ -93,9 +119,16 @@ private:
     RecordingLoader m_loader;
     OnFailure m_onFailure = OnFailure::ShowMessage;
     Replay m_replay;
+    SignalWatch m_watch;
+    Modes m_modes;
     QString m_fileName;
     BandView* m_bandView;
     ReplayBar* m_replayBar;
+    SignalsPane* m_signals;
+    LevelsPane* m_levels;
+    Splitter* m_splitter = nullptr;
+    Jobs* m_jobs;
+    QList<QAction*> m_paneActions;
     QLabel* m_report = nullptr;
     QLabel* m_receiver = nullptr;
     QProgressBar* m_progress = nullptr;

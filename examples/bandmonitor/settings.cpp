@@ -75,6 +75,47 @@ void setLastFolder(const QString& folder)
     section()->SetString(QStringLiteral("LastFolder"), folder);
 }
 
+QString referenceLevels()
+{
+    return section()->GetString(QStringLiteral("ReferenceLevels"));
+}
+
+void setReferenceLevels(const QString& rows)
+{
+    if (rows != referenceLevels())
+        section()->SetString(QStringLiteral("ReferenceLevels"), rows);
+}
+
+int mode(int standard)
+{
+    return section()->GetInt(QStringLiteral("Mode"), standard);
+}
+
+void setMode(int mode)
+{
+    section()->SetInt(QStringLiteral("Mode"), mode);
+}
+
+QString shownPanes(const QString& mode, const QString& standard)
+{
+    return section()->GetString(QStringLiteral("Panes") + mode, standard);
+}
+
+void setShownPanes(const QString& mode, const QString& panes)
+{
+    section()->SetString(QStringLiteral("Panes") + mode, panes);
+}
+
+int jobOrder()
+{
+    return section()->GetInt(QStringLiteral("JobOrder"));
+}
+
+void setJobOrder(int order)
+{
+    section()->SetInt(QStringLiteral("JobOrder"), order);
+}
+
 Position receiverPosition()
 {
     return {readDegrees(QStringLiteral("ReceiverLatitude"), QStringLiteral("48.13731")),

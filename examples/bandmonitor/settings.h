@@ -21,6 +21,19 @@ void setHoldVisible(bool visible);
 QString lastFolder();
 void setLastFolder(const QString& folder);
 
+/// The rows of the reference levels, one a line; see SortRowTable::parseRows().
+QString referenceLevels();
+void setReferenceLevels(const QString& rows);
+/// The mode of the window, and the names of the panes that a mode shows, parted by blanks; the
+/// defaults when nothing was kept.
+int mode(int standard);
+void setMode(int mode);
+QString shownPanes(const QString& mode, const QString& standard);
+void setShownPanes(const QString& mode, const QString& panes);
+/// How the jobs are sorted.
+int jobOrder();
+void setJobOrder(int order);
+
 /// The position of the receiver in degrees; NaN where the configuration has no number.
 struct Position
 {

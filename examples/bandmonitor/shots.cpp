@@ -3,9 +3,13 @@
 
 #include "mainwindow.h"
 #include "panes/bandview.h"
+#include "panes/levelspane.h"
 #include "panes/panecolors.h"
+#include "panes/signalspane.h"
 
 #include <guibase/colors/colorset.h>
+#include <guibase/lists/sortlistview.h>
+#include <guibase/lists/sortrowtable.h>
 #include <guibase/services/guibase.h>
 #include <jtbase/coordformat.h>
 #include <trovappstartup/cfgcenter.h>
@@ -100,6 +104,8 @@ bool ShotSeries::run()
         m_failure = m_folder.path();
     takeMain();
     takeZoom();
+    takeSignals();
+    takeModes();
     takeMenus();
     takeDialog(QStringLiteral("info.png"), "showInfo", &m_window);
     takeDialog(QStringLiteral("keyboard.png"), "slotShowHotKeysInMenu", &GuiBase::Instance());
@@ -112,6 +118,7 @@ bool ShotSeries::run()
 void ShotSeries::takeMain()
 {
     Replay& replay = m_window.replay();
+    m_window.signalsPane().setUpdateInterval(std::chrono::milliseconds(0));
     for (int sweep = 1; sweep < shownSweeps; ++sweep)
         replay.stepForward();
     FrequencyView& view = m_window.bandView().view();
@@ -126,6 +133,32 @@ void ShotSeries::takeZoom()
     m_window.bandView().view().zoomAtCursor(8);
     write(QStringLiteral("zoom.png"));
     m_window.bandView().view().showAll();
+}
+
+void ShotSeries::takeSignals()
+{
+    SortListView& list = m_window.signalsPane().list();
+    list.setSorting(SignalsPane::Level, Qt::DescendingOrder);
+    list.header()->setSortIndicator(SignalsPane::Level, Qt::DescendingOrder);
+    list.setCurrentItem(list.topLevelItem(2));
+    write(QStringLiteral("signals.png"));
+    list.setSorting(SignalsPane::Frequency, Qt::AscendingOrder);
+    list.header()->setSortIndicator(SignalsPane::Frequency, Qt::AscendingOrder);
+    list.setCurrentItem(nullptr);
+}
+
+void ShotSeries::takeModes()
+{
+    m_window.levelsPane().table().addRows({{QStringLiteral("82 M"), QStringLiteral("-50 dB")},
+                                           {QStringLiteral("94,5"), QStringLiteral("-38")},
+                                           {QStringLiteral("108 MHz"), QStringLiteral("-45,5")},
+                                           {QStringLiteral("tomorrow"), QStringLiteral("-40")}});
+    for (const auto& [mode, name] : {std::pair(Mode::Measure, QStringLiteral("measure.png")),
+                                     std::pair(Mode::Plan, QStringLiteral("plan.png"))}) {
+        m_window.modes().setMode(mode);
+        write(name);
+    }
+    m_window.modes().setMode(Mode::Search);
 }
 
 void ShotSeries::takeMenus()

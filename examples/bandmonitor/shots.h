@@ -13,8 +13,8 @@ namespace bandmonitor {
 class MainWindow;
 
 /// Works through the window as a user would and writes a picture of each stage: "main.png",
-/// "zoom.png", "units.png", "colors.png", the open menus, the dialogs. The same recording gives the
-/// same content every time.
+/// "zoom.png", "signals.png", "measure.png", "plan.png", "units.png", "colors.png", the open menus,
+/// the dialogs. The same recording gives the same content every time.
 class ShotSeries
 {
 public:
@@ -28,6 +28,8 @@ public:
 private:
     void takeMain();
     void takeZoom();
+    void takeSignals();
+    void takeModes();
     void takeUnits();
     void takeColors();
     void takeMenus();

@@ -6,8 +6,10 @@
 #include "panes/waterfallpane.h"
 
 #include <guibase/services/guibase.h>
+#include <guibase/services/splitter.h>
 
 #include <QGridLayout>
+#include <QVBoxLayout>
 
 #include <cmath>
 
@@ -45,17 +47,28 @@ BandView::~BandView() = default;
 
 void BandView::buildLayout()
 {
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(0);
-    grid->addWidget(m_levelAxis, 0, 0);
-    grid->addWidget(m_spectrum, 0, 1);
-    grid->addWidget(m_frequencyAxis, 1, 0, 1, 2);
-    grid->addWidget(m_timeAxis, 2, 0);
-    grid->addWidget(m_waterfall, 2, 1);
-    grid->setRowStretch(0, 5);
-    grid->setRowStretch(2, 4);
-    grid->setColumnStretch(1, 1);
+    const auto makeRow = [](SideAxis* axis, QWidget* pane) {
+        auto* row = new QWidget;
+        auto* grid = new QGridLayout(row);
+        grid->setContentsMargins(0, 0, 0, 0);
+        grid->setSpacing(0);
+        grid->addWidget(axis, 0, 0);
+        grid->addWidget(pane, 0, 1);
+        grid->setRowStretch(0, 1);
+        grid->setColumnStretch(1, 1);
+        return row;
+    };
+    QWidget* spectrumRow = makeRow(m_levelAxis, m_spectrum);
+    static_cast<QGridLayout*>(spectrumRow->layout())->addWidget(m_frequencyAxis, 1, 0, 1, 2);
+    m_waterfallRow = makeRow(m_timeAxis, m_waterfall);
+    m_splitter = new Splitter(Qt::Vertical, this, QStringLiteral("bandSplitter"),
+                              QStringLiteral("BandmonitorBand"));
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->addWidget(spectrumRow);
+    m_splitter->addWidget(m_waterfallRow);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_splitter);
     setTabOrder(m_spectrum, m_waterfall);
 }
 
@@ -101,6 +114,13 @@ void BandView::showSweep(qsizetype position, qsizetype previous)
         m_hold.add(m_recording->sweep(held));
     m_spectrum->setHold(m_hold.sweep(), std::make_shared<const LevelPyramid>(m_hold.sweep()));
     m_timeAxis->update();
+}
+
+void BandView::showFrequency(double hertz)
+{
+    if (hertz < m_view.low() || hertz > m_view.high())
+        m_view.pan(hertz - (m_view.low() + m_view.high()) / 2);
+    m_view.setCursor(hertz);
 }
 
 void BandView::setHoldVisible(bool visible)

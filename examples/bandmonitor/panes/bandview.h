@@ -10,6 +10,8 @@
 
 #include <memory>
 
+class Splitter;
+
 namespace bandmonitor {
 
 class FrequencyAxis;
@@ -28,6 +30,12 @@ public:
     FrequencyView& view() { return m_view; }
     SpectrumPane& spectrum() { return *m_spectrum; }
     WaterfallPane& waterfall() { return *m_waterfall; }
+    /// Parts the spectrum from the waterfall.
+    Splitter* splitter() const { return m_splitter; }
+    /// The waterfall with its axis.
+    QWidget* waterfallRow() const { return m_waterfallRow; }
+    /// Puts the cursor there, and moves the view when it does not show the frequency.
+    void showFrequency(double hertz);
 
     /// Shows the whole band of the recording; null for none. The hold maximum starts anew.
     void setRecording(std::shared_ptr<const Recording> recording);
@@ -54,6 +62,8 @@ private:
     HoldMaximum m_hold;
     std::shared_ptr<const Recording> m_recording;
     qsizetype m_position = -1;
+    Splitter* m_splitter = nullptr;
+    QWidget* m_waterfallRow = nullptr;
     SideAxis* m_levelAxis = nullptr;
     SpectrumPane* m_spectrum = nullptr;
     FrequencyAxis* m_frequencyAxis = nullptr;

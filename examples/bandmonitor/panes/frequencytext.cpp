@@ -31,6 +31,11 @@ QString FrequencyText::full(double hertz) const
     return m_number->GetString(hertz);
 }
 
+QString FrequencyText::shortest(double hertz) const
+{
+    return m_number->GetShortestString(hertz);
+}
+
 QString FrequencyText::unit() const
 {
     return m_number->GetPureSuffix();

@@ -13,6 +13,13 @@ QColor paneColor(IColorBase::ECOLOR slot)
     return ColorSet::Instance().GetColor(slot);
 }
 
+IColorBase::ECOLOR signalTypeSlot(char letter)
+{
+    const int slot = IColorBase::SignalTypeA + (letter - 'a');
+    return letter >= 'a' && slot <= IColorBase::SignalTypeQ ? static_cast<IColorBase::ECOLOR>(slot)
+                                                            : IColorBase::SignalTypeA;
+}
+
 ColorRamp waterfallRamp()
 {
     const QColor background = paneColor(PaneSlot::BackgroundLow);

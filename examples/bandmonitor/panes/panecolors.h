@@ -20,6 +20,8 @@ inline constexpr auto ReadOut = IColorBase::DrawPaneResultPanelText;
 inline constexpr auto Cursor = IColorBase::MarkerMain;
 inline constexpr auto Pin = IColorBase::MarkerMeasurement;
 inline constexpr auto Peak = IColorBase::DrawPaneMaximumPoints;
+inline constexpr auto ReferenceLine = IColorBase::DrawPaneLimitLine;
+inline constexpr auto ReferencePoint = IColorBase::DrawPaneReferenceCurve;
 inline constexpr auto FrequencyAxisHigh = IColorBase::FrequencyAxisBackgroundHigh;
 inline constexpr auto FrequencyAxisLow = IColorBase::FrequencyAxisBackgroundLow;
 inline constexpr auto FrequencyAxisText = IColorBase::FrequencyAxisText;
@@ -29,6 +31,9 @@ inline constexpr auto LevelAxisBackground = IColorBase::YAxisBackground;
 
 /// The colour that the slot has now. Ask again after GuiBase::signalColorsChanged().
 QColor paneColor(IColorBase::ECOLOR slot);
+
+/// The slot of a signal type, 'a' to 'q'; that of 'a' for any other letter.
+IColorBase::ECOLOR signalTypeSlot(char letter);
 
 /// The colours of the levels from the lowest to the highest one.
 using ColorRamp = std::array<QRgb, 256>;

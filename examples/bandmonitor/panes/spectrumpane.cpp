@@ -15,6 +15,7 @@ namespace bandmonitor {
 namespace {
 constexpr double smallestLevelRange = 10;
 constexpr int readOutMargin = 6;
+constexpr double pointRadius = 3;
 constexpr int gapBetweenLevels = 10;
 constexpr float holdShadowOpacity = 0.25F;
 } // namespace
@@ -56,6 +57,12 @@ void SpectrumPane::setHoldVisible(bool visible)
     if (m_holdVisible == visible)
         return;
     m_holdVisible = visible;
+    update();
+}
+
+void SpectrumPane::setReferenceLevels(std::vector<LevelPoint> points)
+{
+    m_referenceLevels = std::move(points);
     update();
 }
 
@@ -123,6 +130,7 @@ void SpectrumPane::paintEvent(QPaintEvent* event)
     if (m_holdVisible)
         paintHold(painter, first, last);
     paintCurve(painter, first, last);
+    paintReferenceLevels(painter);
     paintOverlay(painter);
     paintPinNumbers(painter);
     paintReadOut(painter);
@@ -192,6 +200,32 @@ void SpectrumPane::paintCurve(QPainter& painter, int first, int last) const
         before = &column;
     }
     painter.drawLines(lines);
+}
+
+void SpectrumPane::paintReferenceLevels(QPainter& painter) const
+{
+    // The points in view, and the next one on either side for the line that leaves it.
+    const auto begin = m_referenceLevels.begin();
+    const auto end = m_referenceLevels.end();
+    auto first = std::ranges::lower_bound(m_referenceLevels, view().low(), {}, &LevelPoint::hertz);
+    auto last = std::ranges::upper_bound(m_referenceLevels, view().high(), {}, &LevelPoint::hertz);
+    first -= first != begin ? 1 : 0;
+    last += last != end ? 1 : 0;
+    QPolygonF line;
+    for (auto point = first; point != last; ++point) {
+        const double share =
+            AxisRange{m_lowLevel, m_highLevel, height()}.positionOf(point->levelDb);
+        line << QPointF(positionOf(point->hertz), height() - 1 - share);
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(paneColor(PaneSlot::ReferenceLine), 1.5));
+    painter.drawPolyline(line);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(paneColor(PaneSlot::ReferencePoint));
+    for (const QPointF& point : std::as_const(line))
+        painter.drawEllipse(point, pointRadius, pointRadius);
+    painter.restore();
 }
 
 void SpectrumPane::paintPinNumbers(QPainter& painter) const

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/columnreducer.h"
+#include "model/levelline.h"
 #include "panes/axisticks.h"
 #include "panes/bandpane.h"
 
@@ -35,6 +36,9 @@ public:
     /// As setSweep(), for the hold maximum that is drawn behind the curve.
     void setHold(const Sweep& hold, std::shared_ptr<const LevelPyramid> pyramid);
     void setHoldVisible(bool visible);
+
+    /// The line of reference levels, in order of frequency; empty for none.
+    void setReferenceLevels(std::vector<LevelPoint> points);
 
     /// The levels at the bottom and the top of the pane, in dB; 10 dB apart at least.
     void setLevelRange(double low, double high);
@@ -73,6 +77,7 @@ private:
     void paintGrid(QPainter& painter, const QRect& dirty) const;
     void paintHold(QPainter& painter, int first, int last) const;
     void paintCurve(QPainter& painter, int first, int last) const;
+    void paintReferenceLevels(QPainter& painter) const;
     void paintPinNumbers(QPainter& painter) const;
     void paintReadOut(QPainter& painter) const;
     QString readOutLine(const QString& title, double hertz) const;
@@ -83,6 +88,7 @@ private:
     GridTicks m_frequencyTicks;
     Trace m_curve;
     Trace m_hold;
+    std::vector<LevelPoint> m_referenceLevels;
     bool m_holdVisible = true;
     double m_lowLevel = -120;
     double m_highLevel = 0;

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/joblist.h"
+
+#include <guibase/lists/iupdatemenu.h>
+#include <guibase/lists/resortpopupmenu.h>
+
+namespace bandmonitor {
+
+class Jobs;
+
+/// One entry per job, with its state. Whenever the menu opens, the entries stand in the order that
+/// the user has chosen in its sub-menu.
+class JobsMenu : public ResortPopupMenu, private IUpdateMenu
+{
+    Q_OBJECT
+public:
+    /// The jobs must be complete, and outlive the menu.
+    JobsMenu(Jobs* jobs, QWidget* parent);
+    ~JobsMenu() override;
+
+    JobOrder order() const { return m_order; }
+    void setOrder(JobOrder order);
+
+private:
+    void UpdateMenu(ResortPopupMenu* menu) override;
+    void buildOrderMenu();
+    QString textOf(const Job& job) const;
+
+    Jobs* m_jobs;
+    QMenu* m_orderMenu;
+    int m_orderMenuId = 0;
+    JobOrder m_order;
+};
+
+} // namespace bandmonitor

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "jobs.h"
+#include "mainwindow.h"
+#include "model/levelline.h"
+#include "model/recordingwriter.h"
+#include "panes/bandview.h"
+#include "panes/levelspane.h"
+#include "panes/signalspane.h"
+#include "settings.h"
+
+#include <guibase/services/guibase.h>
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace bandmonitor {
+
+void MainWindow::addJobs()
+{
+    m_jobs->addTask(tr("Jump to the start"), [this] {
+        m_replay.jump(0);
+        return JobState::Done;
+    });
+    m_jobs->addTask(tr("Start the hold maximum anew"), [this] {
+        m_bandView->resetHold();
+        return JobState::Done;
+    });
+    m_jobs->addTask(tr("Export the shown sweep…"), [this] { return exportSweep(); });
+    using Found = std::optional<qsizetype>;
+    m_jobs->addPause(tr("Pause at the next new signal"), [this](qsizetype, qsizetype last) {
+        const SignalTrack* newcomer = m_watch.newcomer();
+        if (newcomer != nullptr)
+            m_bandView->showFrequency(newcomer->signal.centreHz);
+        return newcomer != nullptr ? Found(last) : Found();
+    });
+    const auto pauseAbove = [this](qsizetype first, qsizetype last) {
+        for (qsizetype sweep = first; sweep <= last; ++sweep) {
+            const auto hertz = firstAbove(m_replay.recording()->sweep(sweep), m_levels->points());
+            if (!hertz)
+                continue;
+            m_bandView->showFrequency(*hertz);
+            return Found(sweep);
+        }
+        return Found();
+    };
+    m_jobs->addPause(tr("Pause above the reference levels"), pauseAbove);
+}
+
+std::optional<JobState> MainWindow::exportSweep()
+{
+    const Sweep sweep = m_replay.sweep();
+    if (sweep.isEmpty())
+        return JobState::Failed;
+    const QByteArray text = sweepText(sweep);
+    QFileDialog dialog(this, tr("Export the sweep"), Settings::lastFolder(),
+                       tr("Recordings (*.csv)"));
+    dialog.setOptions(GuiBase::Instance().UseNativeDialogs());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("csv"));
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    QSaveFile file(dialog.selectedFiles().constFirst());
+    // The commit alone does not tell of a full disk.
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush()) {
+        file.cancelWriting();
+        return JobState::Failed;
+    }
+    Settings::setLastFolder(QFileInfo(file.fileName()).absolutePath());
+    return file.commit() ? JobState::Done : JobState::Failed;
+}
+
+} // namespace bandmonitor
