@@ -143,13 +143,14 @@ private Q_SLOTS:
         const QString notThere = QStringLiteral("Helpfile not yet available.");
         const QString path = QCoreApplication::applicationFilePath();
         const QString program = QFileInfo(path).fileName();
-        // Given, configured, opened, warning. First what gives none, as a given file stays.
+        // Given, configured, opened, warning. What was given once stays.
         Manuals row;
         row("nothing", "", "", "", "Helpfile not configured.");
         row("configured, not there", "", "missing.pdf", "missing.pdf", notThere);
         row("beside the program", "", program, path, "");
         row("given, not there", "missing.pdf", program, "missing.pdf", notThere);
         row("given", QDir::tempPath(), "missing.pdf", QDir::tempPath(), "");
+        row("given before", "", "missing.pdf", QDir::tempPath(), "");
     }
     void manual()
     {
