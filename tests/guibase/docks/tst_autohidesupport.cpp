@@ -119,6 +119,7 @@ private Q_SLOTS:
     void sideFollowsChoice_data();
     void sideFollowsChoice();
     void hidesAfterTheMouseHasLeft();
+    void pointerOpensAndCloses();
     void ownWindowsKeepItOpen();
     void keysShowAndDismiss();
     void hoverShowsOnlyIfWanted();
@@ -223,6 +224,8 @@ void TestAutoHideSupport::sideFollowsChoice()
 
 void TestAutoHideSupport::hidesAfterTheMouseHasLeft()
 {
+    if (QGuiApplication::platformName() != QStringLiteral("offscreen"))
+        QSKIP("The real pointer would join in.");
     Window w;
     w.support->enableAutoHide(*w.left);
     w.support->enableAutoHide(*w.right);
@@ -244,6 +247,28 @@ void TestAutoHideSupport::hidesAfterTheMouseHasLeft()
     leave(w.right);
     QTRY_VERIFY(!w.right->isVisible());
     QCOMPARE(w.buttons(w.right).size(), 1);
+}
+
+void TestAutoHideSupport::pointerOpensAndCloses()
+{
+    if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
+        QSKIP("Needs a real pointer.");
+    Window w;
+    QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
+    w.support->enableAutoHide(*w.left);
+    w.left->hide();
+    const QToolButton* button = w.buttons(w.left).first();
+    QTRY_COMPARE(button->parentWidget()->width(), 24);
+    QCursor::setPos(button->mapToGlobal(button->rect().center()));
+    QTRY_VERIFY(w.left->isVisible());
+    QVERIFY(QTest::qWaitForWindowExposed(w.left));
+    const auto edge = [&] { return button->parentWidget()->mapToGlobal(QPoint(24, 0)); };
+    QTRY_COMPARE(w.left->geometry().topLeft(), edge());
+    QCursor::setPos(w.left->geometry().center());
+    QTest::qWait(60); // several delays
+    QVERIFY(w.left->isVisible());
+    QCursor::setPos(w.window->geometry().center());
+    QTRY_VERIFY(!w.left->isVisible());
 }
 
 void TestAutoHideSupport::ownWindowsKeepItOpen()
@@ -277,6 +302,7 @@ void TestAutoHideSupport::keysShowAndDismiss()
     QToolButton* button = w.buttons(w.left).first();
     QVERIFY(button->focusPolicy() & Qt::TabFocus);
     w.window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
         button->setFocus();
         QTest::keyClick(button, key);
