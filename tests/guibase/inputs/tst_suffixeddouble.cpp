@@ -99,6 +99,9 @@ private Q_SLOTS:
         row.add("MHz", BaseUnit, BaseUnit, 0);
         row.add("1e3", BaseUnit, BaseUnit, 0);
         row.add("5 mg", BaseUnit, BaseUnit, 5e6);
+        row.add("5 Mg", BaseUnit, BaseUnit, 5e6);
+        row.add("3 G", BaseUnit, BaseUnit, 3e9);
+        row.add("5 H", BaseUnit, BaseUnit, 5);
         row.add("5 KG", BaseUnit, BaseUnit, 5e3);
         row.add("3 GHz kHz", BaseUnit, BaseUnit, 3e9);
         row.add("2 MHz 3", BaseUnit, BaseUnit, 0);
