@@ -4,6 +4,7 @@
 #include "abstractspinbox.h"
 
 #include <QLineEdit>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -11,6 +12,23 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
 {
     auto* box = qobject_cast<SpinBoxes::AbstractSpinBox*>(object);
     return box != nullptr ? new AccessibleInput(box, *box) : nullptr; // The toolkit owns it.
+}
+
+/// The interface of the line edit. The toolkit makes one without text operations for the line edits
+/// of spin boxes, which it tells by their name; once made, interfaces are kept.
+QAccessibleInterface* lineEditInterface(QLineEdit& edit)
+{
+    QAccessibleInterface* known = QAccessible::queryAccessibleInterface(&edit);
+    if (known != nullptr && known->editableTextInterface() != nullptr)
+        return known;
+    if (known != nullptr)
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(known));
+    const QSignalBlocker blocker(&edit);
+    const QString name = edit.objectName();
+    edit.setObjectName(QString());
+    QAccessibleInterface* made = QAccessible::queryAccessibleInterface(&edit);
+    edit.setObjectName(name);
+    return made;
 }
 
 } // namespace
@@ -43,7 +61,7 @@ void* AccessibleInput::interface_cast(QAccessible::InterfaceType type)
     if (type == QAccessible::ValueInterface)
         return static_cast<QAccessibleValueInterface*>(this);
     if (type == QAccessible::TextInterface || type == QAccessible::EditableTextInterface) {
-        QAccessibleInterface* edit = QAccessible::queryAccessibleInterface(m_input.inputLineEdit());
+        QAccessibleInterface* edit = lineEditInterface(*m_input.inputLineEdit());
         return edit != nullptr ? edit->interface_cast(type) : nullptr;
     }
     return QAccessibleWidget::interface_cast(type);

@@ -109,10 +109,11 @@ bool survives(const ValueDisplayFormatBase<T>& format, const QString& text)
     const T value = format.valueFromFullText(text, &ok);
     if (!ok)
         return true;
-    const QString written = format.fullTextFromValue(value);
-    const T again = format.valueFromFullText(written, &ok);
-    return ok && format.fullTextFromValue(again) == written &&
-           (!std::is_integral_v<T> || again == value);
+    const T again = format.valueFromFullText(format.fullTextFromValue(value), &ok);
+    if (!ok || (std::is_integral_v<T> && again != value))
+        return false;
+    // Real numbers may lose decimals, but once only.
+    return format.valueFromFullText(format.fullTextFromValue(again), &ok) == again && ok;
 }
 
 } // namespace

@@ -1,0 +1,555 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/inputs/frequencyspinbox.h>
+#include <guibase/inputs/integralnumberdisplayformat.h>
+#include <guibase/inputs/qdatetimedisplayformat.h>
+#include <guibase/inputs/qdatetimespinbox.h>
+#include <guibase/inputs/realnumberdisplayformat.h>
+#include <guibase/inputs/spinboxes.h>
+
+#include "support/guardedtest.h"
+#include "support/randombytes.h"
+#include "support/testrows.h"
+
+#include <guibase/services/guibase.h>
+#include <jtbase/datetime.h>
+#include <valueframework/valueselection.h>
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <cfloat>
+#include <limits>
+
+using namespace SpinBoxes;
+
+namespace {
+
+/// Shows the box with the focus, and the text selected.
+void activate(QAbstractSpinBox& box)
+{
+    box.show();
+    QVERIFY(QTest::qWaitForWindowActive(&box));
+    box.setFocus();
+    QTRY_VERIFY(box.hasFocus());
+    QTRY_VERIFY(box.findChild<QLineEdit*>()->hasSelectedText());
+}
+
+/// Replaces the text of an active box by typing, and commits it.
+void enter(AbstractSpinBox& box, const QString& text)
+{
+    QLineEdit* edit = box.inputLineEdit();
+    edit->selectAll();
+    edit->insert(text); // Keys that no keyboard has, too.
+    Q_EMIT edit->textEdited(edit->text());
+    QTest::keyClick(&box, Qt::Key_Return);
+}
+
+template <typename T>
+std::unique_ptr<IntegralNumberDisplayFormat<T>> integerFormat(int base, const QString& suffix)
+{
+    auto format = std::make_unique<IntegralNumberDisplayFormat<T>>();
+    format->setBase(base);
+    format->setPrefix(QStringLiteral("#"));
+    format->setSuffix(suffix);
+    return format;
+}
+
+/// A meter that is scaled by a factor of 1000.
+std::unique_ptr<IntegralNumberDisplayFormat<int>> kiloFormat()
+{
+    auto format = std::make_unique<IntegralNumberDisplayFormat<int>>();
+    format->setSuffix(QStringLiteral("km"));
+    format->setValueConverter([](int value, auto mode) {
+        return mode == ValueDisplayFormatBase<int>::ToDisplay ? value / 1000 : value * 1000;
+    });
+    return format;
+}
+
+/// Every limit and its neighbour can be set, shown, typed, stepped to, and never passed.
+template <typename Box, typename T>
+void checkInteger(const char* typeName)
+{
+    constexpr T lowest = std::numeric_limits<T>::lowest();
+    constexpr T highest = std::numeric_limits<T>::max();
+    Box box;
+    const QMetaObject* meta = box.metaObject();
+    const QByteArray type(typeName);
+    for (const QByteArray& name : {type + ")", type + "," + type + ")"}) {
+        const bool isRange = name.contains(',');
+        QVERIFY(meta->indexOfSignal((isRange ? "rangeChanged(" : "valueChanged(") + name) >= 0);
+        QVERIFY(meta->indexOfSlot((isRange ? "setRange(" : "setSingleStep(") + name) >= 0);
+    }
+    QVERIFY(meta->indexOfSignal("singleStepChanged(" + type + ")") >= 0);
+    int index = 0;
+    for (const int base : {2, 8, 10, 16}) {
+        box.addDisplayFormat(integerFormat<T>(base, QStringLiteral("u")));
+        box.setCurrentDisplayFormatIndex(index++);
+        for (const T value : {T(lowest + 1), lowest, T(highest - 1), highest}) {
+            box.setValue(T(7));
+            box.setValue(value);
+            const QString text = box.textValue();
+            box.setValue(T(7));
+            enter(box, text);
+            QCOMPARE(box.value(), value);
+            QCOMPARE(box.inputRefusal(), QString());
+            QCOMPARE(box.inputQuantity(TypedInput::Quantity::Value).template value<T>(), value);
+        }
+        box.stepBy(-1);
+        QCOMPARE(box.value(), T(highest - 1));
+        for (const int steps : {2, INT_MAX, INT_MIN}) {
+            box.setSingleStep(steps < 0 ? highest : T(1)); // One step down may be possible.
+            box.setValue(steps < 0 ? lowest : T(highest - 1));
+            box.stepBy(steps);
+            QVERIFY(sizeof(T) > 4 && steps > 2
+                        ? true
+                        : box.value() >= T(highest - 1) || box.value() == lowest);
+            box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+            box.stepBy(steps);
+            QCOMPARE(box.value(), steps < 0 ? lowest : highest);
+            box.setCorrectionMode(QAbstractSpinBox::CorrectToPreviousValue);
+        }
+        box.setSingleStep(T(1));
+    }
+}
+
+QAccessibleInterface* accessible(QWidget& widget)
+{
+    return QAccessible::queryAccessibleInterface(&widget);
+}
+
+} // namespace
+
+class TestSpinBoxes : public GuardedTest
+{
+    Q_OBJECT
+    using Texts = TestRows<QString, QString, bool>;
+    using Rounded = TestRows<int, int, int>;
+    using Digits = TestRows<QString, int, int, QString>;
+
+protected:
+    void prepare() override
+    {
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
+        GuiBase::Instance().GetTimeZone()->SetValue(Trov::DateTime::Local_TimeZone);
+    }
+
+private Q_SLOTS:
+    void integersKeepTheirLimits()
+    {
+        checkInteger<Int8SpinBox, qint8>("qint8");
+        checkInteger<UInt8SpinBox, quint8>("quint8");
+        checkInteger<Int16SpinBox, qint16>("qint16");
+        checkInteger<UInt16SpinBox, quint16>("quint16");
+        checkInteger<Int32SpinBox, int>("int");
+        checkInteger<UInt32SpinBox, quint32>("quint32");
+        checkInteger<Int64SpinBox, qint64>("qint64");
+        checkInteger<UInt64SpinBox, quint64>("quint64");
+    }
+    void roundsToMultiples_data()
+    {
+        Rounded row; // single step, value, multiple
+        row.add(5, 12, 10);
+        row.add(5, 13, 15);
+        row.add(5, -12, -10);
+        row.add(5, -13, -15);
+        row.add(10, 5, 10);
+        row.add(10, -5, -10);
+        row.add(0, 13, 13);
+        row.add(-5, 13, 13);
+        row.add(1, INT_MAX, INT_MAX);
+        row.add(1000, INT_MAX, INT_MAX / 1000 * 1000);
+        row.add(1000, INT_MIN, INT_MIN / 1000 * 1000);
+    }
+    void roundsToMultiples()
+    {
+        const auto& [step, value, expected] = Rounded::fetch();
+        Int32SpinBox box;
+        box.setSingleStep(step);
+        box.setValue(value);
+        QCOMPARE(box.value(), value);
+        box.setNormalizeValueToMultipleOfStep(true);
+        QCOMPARE(box.value(), expected);
+    }
+    void roundsWithoutLoss()
+    {
+        UInt64SpinBox large;
+        large.setSingleStep(2);
+        QCOMPARE(large.normalizeValueToMultipleOfStep(Q_UINT64_C(9007199254740993)),
+                 Q_UINT64_C(9007199254740994));
+        QCOMPARE(large.normalizeValueToMultipleOfStep(Q_UINT64_C(18446744073709551615)),
+                 Q_UINT64_C(18446744073709551614));
+        DoubleSpinBox real;
+        real.setSingleStep(0.1);
+        real.setNormalizeValueToMultipleOfStep(true);
+        real.setValue(0.29);
+        QVERIFY(real.value() == 0.3);
+        real.setNormalizeValueToMultipleOfStep(false);
+        for (int i = 0; i < 7; ++i)
+            real.stepBy(1);
+        QVERIFY(real.value() == 1.0);
+        real.setValue(DBL_MAX);
+        real.setSingleStep(DBL_MAX);
+        real.stepBy(1);
+        QVERIFY(real.value() == DBL_MAX);
+        for (const double none : {qQNaN(), qInf(), -qInf()}) {
+            real.setValue(none);
+            real.setSingleStep(none);
+            QVERIFY(real.value() == DBL_MAX && real.singleStep() == DBL_MAX);
+        }
+        real.setRange(-qInf(), qInf());
+        real.setRange(qQNaN(), 1);
+        QVERIFY(real.minimum() == -DBL_MAX && real.maximum() == DBL_MAX);
+    }
+    void followsItsRange()
+    {
+        Int32SpinBox box;
+        QStringList calls;
+        const auto log = [&calls](const char* name) {
+            return [&calls, name](int value) {
+                calls << QString::fromLatin1(name) + QString::number(value);
+            };
+        };
+        connect(&box, &Int32SpinBox::valueChanged, &box, log("value "));
+        connect(&box, &Int32SpinBox::minimumChanged, &box, log("min "));
+        connect(&box, &Int32SpinBox::maximumChanged, &box, log("max "));
+        connect(&box, &Int32SpinBox::rangeChanged, &box, log("range "));
+        const auto took = [&calls] { return std::exchange(calls, {}).join(u','); };
+        box.setRange(100, 50);
+        QCOMPARE(took(), QStringLiteral("value 50,min 50,max 100,range 50"));
+        box.setRange({50, 100});
+        QCOMPARE(took(), QString());
+        box.setValue(101);
+        QCOMPARE(took(), QString());
+        box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+        box.setValue(101);
+        box.setValue(102);
+        QCOMPARE(took(), QStringLiteral("value 100"));
+        box.setMaximum(60);
+        QCOMPARE(took(), QStringLiteral("value 60,max 60,range 50"));
+        QCOMPARE(box.stepEnabled(), QAbstractSpinBox::StepDownEnabled);
+        box.setWrapping(true);
+        QCOMPARE(box.stepEnabled().toInt(), 3);
+        box.stepBy(1);
+        QCOMPARE(took(), QString());
+        box.setRange(60, 60);
+        box.stepBy(-1);
+        QCOMPARE(box.value(), 60);
+        box.setReadOnly(true);
+        QCOMPARE(box.stepEnabled(), QAbstractSpinBox::StepNone);
+    }
+    void keepsTypedTextUntilCommitted()
+    {
+        DoubleSpinBox box;
+        box.setRange(0, 10);
+        activate(box);
+        QLineEdit* edit = box.inputLineEdit();
+        QString expected;
+        const QString typed = QStringLiteral("12,5 kHz--5e+");
+        for (const QChar c : typed) {
+            QTest::keyClick(&box, c.toLatin1());
+            expected += c;
+            QCOMPARE(edit->text(), expected);
+            QCOMPARE(edit->cursorPosition(), expected.size());
+        }
+        QTest::keyClick(&box, Qt::Key_Home);
+        QTest::keyClick(&box, Qt::Key_Delete);
+        QCOMPARE(edit->text(), expected.mid(1));
+        QCOMPARE(edit->cursorPosition(), 0);
+        QTest::keyClick(&box, '3');
+        QCOMPARE(edit->cursorPosition(), 1);
+        QTest::keyClick(&box, Qt::Key_End);
+        QTest::keyClick(&box, Qt::Key_Backspace);
+        QCOMPARE(edit->text(), QStringLiteral("32,5 kHz--5e"));
+        edit->selectAll();
+        QGuiApplication::clipboard()->setText(QString::fromUtf8(" \u22121.000,5 "));
+        edit->paste();
+        QCOMPARE(edit->text(), QString::fromUtf8(" \u22121.000,5 "));
+        QCOMPARE(box.value(), 0.0);
+        box.setRange(-2000, 10);
+        QSignalSpy finished(&box, &QAbstractSpinBox::editingFinished);
+        QTest::keyClick(&box, Qt::Key_Enter);
+        QCOMPARE(box.value(), -1000.5);
+        QCOMPARE(edit->text(), QStringLiteral("-1000.500000"));
+        QCOMPARE(edit->selectedText(), edit->text());
+        QCOMPARE(finished.count(), 1);
+        // Digits that are not shown survive when nothing was typed.
+        box.setValue(0.123456789);
+        box.interpret();
+        QCOMPARE(box.value(), 0.123456789);
+    }
+    void marksRefusedTexts_data()
+    {
+        Texts row; // text, what the reason tells, whether a value in reach makes the mark go
+        row("ambiguous", "1,500", "thousands", true);
+        row("no number", "abc", "cannot be read", true);
+        row("empty", "", "missing", true);
+        row("beyond the range", "2000", "from 0.000000 to 1000.000000", true);
+        row("markup", "<b>1</b>", "&lt;b", true);
+        row("long", QString(1000000, u'9'), "from", false);
+    }
+    void marksRefusedTexts()
+    {
+        const auto& [text, reason, isShort] = Texts::fetch();
+        DoubleSpinBox box;
+        box.setToolTip(QStringLiteral("Level"));
+        box.setRange(0, 1000);
+        activate(box);
+        enter(box, QStringLiteral("7"));
+        const QImage plain = box.grab().toImage();
+        const QImage before = plain.copy(0, 0, plain.width(), 2);
+        if (!isShort)
+            box.inputLineEdit()->setMaxLength(static_cast<int>(text.size()));
+        enter(box, text);
+        QCOMPARE(box.value(), 7.0);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7.000000"));
+        QVERIFY2(box.toolTip().contains(isShort ? reason : QStringLiteral("<qt>")),
+                 qPrintable(box.toolTip()));
+        const auto mark = [&box] { return box.grab().toImage().pixelColor(box.width() / 2, 0); };
+        QCOMPARE(mark(), RefusalMark::color(box.palette()));
+        QPalette dark = box.palette();
+        dark.setColor(QPalette::Base, Qt::black);
+        box.setPalette(dark);
+        QVERIFY(mark().lightness() > 150);
+        // Enter again, on the text that came back, hides nothing; a good text does while typed.
+        QTest::keyClick(&box, Qt::Key_Return);
+        QVERIFY(!box.inputRefusal().isEmpty());
+        QTest::keyClicks(&box, QStringLiteral("8"));
+        QVERIFY(box.inputRefusal().isEmpty());
+        QCOMPARE(box.toolTip(), QStringLiteral("Level"));
+        QVERIFY(mark() != RefusalMark::color(box.palette()));
+    }
+    void switchesFormats()
+    {
+        Int32SpinBox box;
+        box.addDisplayFormat(kiloFormat());
+        auto meters = std::make_unique<IntegralNumberDisplayFormat<int>>();
+        meters->setSuffix(QStringLiteral("m"));
+        box.addDisplayFormat(std::move(meters));
+        activate(box);
+        QSignalSpy current(&box, &AbstractSpinBox::currentDisplayFormatIndexChanged);
+        QSignalSpy lastUsed(&box, &AbstractSpinBox::lastUsedDisplayFormatIndexChanged);
+        enter(box, QStringLiteral("5 km"));
+        QCOMPARE(box.value(), 5000);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("5000"));
+        QCOMPARE(current.count(), 0);
+        QCOMPARE(lastUsed.count(), 1);
+        box.setAutoSwitchDisplayFormat(true);
+        QCOMPARE(box.currentDisplayFormatIndex(), 0);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("5 km"));
+        enter(box, QStringLiteral("7 m"));
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7 m"));
+        enter(box, QStringLiteral("km")); // The unit alone: nothing is refused.
+        QCOMPARE(box.currentDisplayFormatIndex(), 0);
+        QCOMPARE(box.value(), 7);
+        QVERIFY(box.inputRefusal().isEmpty());
+        enter(box, QStringLiteral("x m"));
+        QCOMPARE(box.currentDisplayFormatIndex(), 1);
+        QVERIFY(!box.inputRefusal().isEmpty());
+        bool ok = false;
+        QCOMPARE(box.displayFormatIndexByTextSample(QStringLiteral("1 km"), &ok), 0);
+        QVERIFY(ok);
+        box.displayFormatIndexByTextSample(QStringLiteral("x"), &ok);
+        QVERIFY(!ok);
+        box.setCurrentDisplayFormatIndex(99);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7"));
+        // A converter that throws, or is none, leaves the box usable.
+        box.setCurrentDisplayFormatIndex(0);
+        box.displayFormatAt(0)->setValueConverter({});
+        box.setValue(8);
+        QCOMPARE(box.textValue(), QString());
+        QVERIFY(box.sizeHint().isValid());
+        QTest::keyClick(&box, Qt::Key_Up, Qt::ControlModifier);
+        enter(box, QStringLiteral("9 km"));
+        QVERIFY(!box.inputRefusal().isEmpty());
+        enter(box, QStringLiteral("9 m"));
+        QCOMPARE(box.value(), 9);
+    }
+    void stepsTheDigitAtTheCursor_data()
+    {
+        Digits row; // text, position of the cursor, steps, text then
+        row.add("f= 123.45 MHz", 3, 1, "f= 223.45 MHz");
+        row.add("f= 123.45 MHz", 0, 1, "f= 223.45 MHz");
+        row.add("f= 123.45 MHz", 6, -1, "f= 122.45 MHz");
+        row.add("f= 123.45 MHz", 8, 1, "f= 123.46 MHz");
+        row.add("f= 123.45 MHz", 13, -6, "f= 123.39 MHz");
+        row.add("f= -123.45 MHz", 4, 1, "f= -23.45 MHz");
+        row.add("f= 999.99 MHz", 8, 1, "f= 1000.00 MHz");
+    }
+    void stepsTheDigitAtTheCursor()
+    {
+        const auto& [text, cursor, steps, expected] = Digits::fetch();
+        DoubleSpinBox box;
+        auto format = std::make_unique<RealNumberDisplayFormat<double>>();
+        format->setPrefix(QStringLiteral("f="));
+        format->setSuffix(QStringLiteral("MHz"));
+        format->setPrecision(2);
+        format->setValueConverter([](double value, auto mode) {
+            return mode == ValueDisplayFormatBase<double>::ToDisplay ? value / 1e6 : value * 1e6;
+        });
+        box.addDisplayFormat(std::move(format));
+        box.setCurrentDisplayFormatIndex(0);
+        activate(box);
+        box.inputLineEdit()->setText(text);
+        box.interpret();
+        box.inputLineEdit()->setCursorPosition(cursor);
+        for (int i = 0; i < qAbs(steps); ++i)
+            QTest::keyClick(&box, steps > 0 ? Qt::Key_Up : Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(box.inputLineEdit()->text(), expected);
+        QCOMPARE(box.inputLineEdit()->text().size() - box.inputLineEdit()->cursorPosition(),
+                 text.size() - cursor);
+    }
+    void stepsByKeysAndWheel()
+    {
+        Int8SpinBox box;
+        activate(box);
+        QTest::keyClicks(&box, QStringLiteral("100"));
+        QTest::keyClick(&box, Qt::Key_Up);
+        QCOMPARE(box.value(), qint8(101));
+        QTest::keyClick(&box, Qt::Key_PageUp);
+        QTest::keyClick(&box, Qt::Key_PageUp);
+        QCOMPARE(box.value(), qint8(121));
+        QTest::keyClick(&box, Qt::Key_PageUp);
+        QCOMPARE(box.value(), qint8(121));
+        const auto turn = [&box] {
+            const QPointF center = QRectF(box.rect()).center();
+            QWheelEvent event(center, box.mapToGlobal(center), {}, {0, 120}, Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&box, &event);
+        };
+        turn();
+        QCOMPARE(box.value(), qint8(122));
+        QCOMPARE(box.focusPolicy(), Qt::StrongFocus);
+        box.clearFocus();
+        turn();
+        QCOMPARE(box.value(), qint8(122));
+        box.setReadOnly(true);
+        box.setFocus();
+        QTest::keyClick(&box, Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(box.value(), qint8(122));
+    }
+    void tellsAssistiveTechnologies()
+    {
+        UInt64SpinBox box;
+        box.setAccessibleName(QStringLiteral("Samples"));
+        QAccessibleInterface* interface = accessible(box);
+        QVERIFY(interface != nullptr && interface->valueInterface() != nullptr);
+        QCOMPARE(interface->role(), QAccessible::SpinBox);
+        QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Samples"));
+        QVERIFY(interface->editableTextInterface() != nullptr);
+        const qulonglong highest = std::numeric_limits<qulonglong>::max();
+        QCOMPARE(interface->valueInterface()->maximumValue(), QVariant(highest));
+        interface->valueInterface()->setCurrentValue(QVariant(highest - 1));
+        QCOMPARE(box.value(), highest - 1);
+        QCOMPARE(interface->text(QAccessible::Value), QStringLiteral("18446744073709551614"));
+        for (const QVariant& bad : {QVariant(-1), QVariant(1e30), QVariant(0.5), QVariant(qQNaN()),
+                                    QVariant(QStringLiteral("x")), QVariant()}) {
+            interface->valueInterface()->setCurrentValue(bad);
+            QCOMPARE(interface->valueInterface()->currentValue(), QVariant(highest - 1));
+        }
+        box.inputLineEdit()->setText(QStringLiteral("x"));
+        box.interpret();
+        QCOMPARE(interface->text(QAccessible::Description), box.inputRefusal());
+        Int8SpinBox small;
+        QCOMPARE(accessible(small)->valueInterface()->minimumValue(), QVariant(qlonglong(-128)));
+        QCOMPARE(accessible(small)->valueInterface()->minimumStepSize(), QVariant(qlonglong(1)));
+        DoubleSpinBox real;
+        QCOMPARE(accessible(real)->valueInterface()->maximumValue(), QVariant(DBL_MAX));
+    }
+    void showsDatesInTheChosenZone()
+    {
+        QDateTimeSpinBox box;
+        auto format = std::make_unique<QDateTimeDisplayFormat>();
+        format->setDateTimeFormat(QStringLiteral("yyyy-MM-dd 'at' hh:mm:ss"));
+        box.addDisplayFormat(std::move(format));
+        box.setCurrentDisplayFormatIndex(0);
+        ValueSelection& zone = *GuiBase::Instance().GetTimeZone();
+        const QDateTime time(QDate(2024, 7, 1), QTime(12, 0), Qt::UTC);
+        QSignalSpy changes(&box, &QDateTimeSpinBox::valueChanged);
+        box.setValue(time);
+        QCOMPARE(box.textValue(),
+                 time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd 'at' hh:mm:ss")));
+        activate(box);
+        zone.SetValue(Trov::DateTime::UTC_TimeZone);
+        QLineEdit* edit = box.inputLineEdit();
+        QCOMPARE(edit->text(), QStringLiteral("2024-07-01 at 12:00:00"));
+        enter(box, QStringLiteral("2024-07-02 at 12:00:00"));
+        QCOMPARE(box.value(), time.addDays(1));
+        edit->setCursorPosition(17); // Behind the hours.
+        QTest::keyClick(&box, Qt::Key_Up);
+        QCOMPARE(edit->text(), QStringLiteral("2024-07-02 at 12:01:00"));
+        edit->setCursorPosition(12);
+        QTest::keyClick(&box, Qt::Key_PageDown);
+        QCOMPARE(edit->text(), QStringLiteral("2024-06-22 at 12:01:00"));
+        edit->setCursorPosition(0);
+        QTest::keyClick(&box, Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(edit->text(), QStringLiteral("2025-06-22 at 12:01:00"));
+        zone.SetValue(Trov::DateTime::Local_TimeZone);
+        enter(box, QStringLiteral("2025-06-22 at 12:02:00"));
+        QCOMPARE(box.value(), QDateTime(QDate(2025, 6, 22), QTime(12, 2)));
+        enter(box, QStringLiteral("2025-02-30 at 12:02:00"));
+        QVERIFY(!box.inputRefusal().isEmpty());
+        box.setValue(QDateTime());
+        for (const QDateTime& limit : {box.minimumLimit(), box.maximumLimit()}) {
+            box.setValue(limit);
+            const QString text = box.textValue();
+            QCOMPARE(text.size(), 22);
+            box.stepBy(limit.date().year() < 2000 ? -1 : 1);
+            QCOMPARE(box.value(), limit);
+        }
+    }
+    void findsHalfDaysAndQuotes()
+    {
+        QDateTimeSpinBox box;
+        auto format = std::make_unique<QDateTimeDisplayFormat>();
+        format->setDateTimeFormat(QStringLiteral("h:mm AP 'o''clock', MMMM d"));
+        box.addDisplayFormat(std::move(format));
+        box.setCurrentDisplayFormatIndex(0);
+        GuiBase::Instance().GetTimeZone()->SetValue(Trov::DateTime::UTC_TimeZone);
+        activate(box);
+        const std::pair<int, const char*> steps[] = {{0, "1:00 AM o'clock, January 1"},
+                                                     {5, "1:00 PM o'clock, January 1"},
+                                                     {20, "1:00 PM o'clock, February 1"},
+                                                     {27, "1:00 PM o'clock, February 2"}};
+        for (const auto& [cursor, text] : steps) {
+            box.inputLineEdit()->setCursorPosition(cursor);
+            box.stepBy(1);
+            QCOMPARE(box.inputLineEdit()->text(), QString::fromLatin1(text));
+        }
+    }
+    void entersFrequencies()
+    {
+        FrequencySpinBox box;
+        activate(box);
+        const auto entered = [&box](const char* text) {
+            enter(box, QString::fromLatin1(text));
+            return box.value();
+        };
+        QCOMPARE(entered("14.225 MHz"), Q_INT64_C(14225000));
+        QCOMPARE(entered("14226k"), Q_INT64_C(14226000));
+        QCOMPARE(entered("1,2 GHz"), Q_INT64_C(1200000000));
+        QCOMPARE(entered("7.05"), Q_INT64_C(7050000));
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7.05 MHz"));
+        QCOMPARE(entered("998999.999999"), Q_INT64_C(998999999999));
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Giga);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("998.999999999 GHz"));
+        QCOMPARE(entered("5"), Q_INT64_C(5000000000));
+        QTest::keyClick(&box, Qt::Key_Up);
+        QCOMPARE(box.value(), Q_INT64_C(5000001000));
+        for (const char* bad : {"14,225 MHz", "0.0000000001", "1000", "-1 Hz", "5 THz"}) {
+            entered(bad);
+            QCOMPARE(box.value(), Q_INT64_C(5000001000));
+            QVERIFY2(!box.inputRefusal().isEmpty(), bad);
+        }
+        box.setFollowingFrequencyUnit(false);
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
+        QCOMPARE(box.currentDisplayFormatIndex(), 3);
+    }
+};
+
+QTEST_MAIN(TestSpinBoxes)
+#include "tst_spinboxes.moc"
