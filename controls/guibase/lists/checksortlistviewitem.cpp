@@ -4,8 +4,6 @@
 #include <QCheckBox>
 #include <QTreeWidget>
 
-#include <vector>
-
 CheckSortListViewItem::CheckSortListViewItem(QTreeWidget* tree, bool insertOnTop)
     : SortListViewItem(tree, insertOnTop)
 {
@@ -98,19 +96,6 @@ void CheckSortListViewItem::makeCheckBox(QTreeWidget& tree)
                                     [this](int state) { m_state = Qt::CheckState(state); });
     m_checkBox = checkBox.get();
     tree.setItemWidget(this, 0, checkBox.release());
-}
-
-void CheckSortListViewItem::restoreCheckBoxes(QTreeWidgetItem& item)
-{
-    std::vector<QTreeWidgetItem*> items{&item};
-    while (!items.empty()) {
-        QTreeWidgetItem* const next = items.back();
-        items.pop_back();
-        if (auto* const checkItem = dynamic_cast<CheckSortListViewItem*>(next))
-            checkItem->restoreCheckBox();
-        for (int i = 0; i < next->childCount(); ++i)
-            items.push_back(next->child(i));
-    }
 }
 
 void CheckSortListViewItem::SetId(int id)

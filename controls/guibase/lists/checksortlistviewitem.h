@@ -51,12 +51,11 @@ public:
     bool isTristate() const;
     void setTristate(bool tristate);
 
-    /// Gives the item and those below it check boxes where they lost them.
-    static void restoreCheckBoxes(QTreeWidgetItem& item);
+    /// Gives the row a check box when it is in a tree and has none there.
+    void restoreCheckBox();
 
 private:
     void init();
-    void restoreCheckBox();
     void makeCheckBox(QTreeWidget& tree);
 
     int m_id = 0;

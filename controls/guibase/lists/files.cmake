@@ -13,6 +13,7 @@ set(lists_sources
     checksortlistviewitem.cpp
     headerstate.cpp
     headerstate_p.h
+    itemwalk_p.h
     listsorter.cpp
     listsorter_p.h
     qheaderviewcolumnhandler.cpp

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <typeinfo>
 #include <vector>
 
 namespace {
@@ -27,6 +28,13 @@ quint32 nextRunNumber()
     return ++number == 0 ? ++number : number; // 0 stands for "never sorted"
 }
 
+SortListViewItem* castItem(QTreeWidgetItem* item)
+{
+    // Most rows are of this very class, which is told faster than a class derived from it.
+    return typeid(*item) == typeid(SortListViewItem) ? static_cast<SortListViewItem*>(item)
+                                                     : dynamic_cast<SortListViewItem*>(item);
+}
+
 } // namespace
 
 struct ListSorter::Run
@@ -35,9 +43,14 @@ struct ListSorter::Run
         : keys(function)
     {}
 
+    /// Reads the keys of all items below the root. Items of the earlier run keep what they had.
+    void readKeys(QTreeWidgetItem& root, int column, const Run* earlier);
+    void addItem(SortListViewItem& item, int column, const Run* earlier);
+    void rank(const std::vector<SortListViewItem*>& items);
+
     quint32 number = nextRunNumber();
     SortKeys keys;
-    bool isRanked = false;      ///< The items' slots are ranks, not numbers of rows.
+    bool isRanked = false;      ///< The items' ranks are set.
     bool hasOtherItems = false; ///< There are items that are no SortListViewItems.
 };
 
@@ -52,10 +65,22 @@ ListSorter::ListSorter(SortListView& view)
 
 ListSorter::~ListSorter() = default;
 
-ListSorter::Run ListSorter::readKeys(const SortListView& view, QTreeWidgetItem& root, int column)
+void ListSorter::Run::addItem(SortListViewItem& item, int column, const Run* earlier)
 {
-    Run run(view.compareFunction(column));
+    const quint32 row = keys.count();
+    if (earlier != nullptr && item.m_sortRun == earlier->number)
+        keys.add(earlier->keys, item.m_sortRow);
+    else
+        keys.add(item.text(column), item.GetSortKey(column));
+    item.m_sortRun = number;
+    item.m_sortRow = row;
+}
+
+void ListSorter::Run::readKeys(QTreeWidgetItem& root, int column, const Run* earlier)
+{
     std::vector<SortListViewItem*> items;
+    items.reserve(static_cast<std::size_t>(root.childCount()));
+    keys.reserve(items.capacity());
     std::vector<QTreeWidgetItem*> parents{&root};
     while (!parents.empty()) {
         QTreeWidgetItem* const parent = parents.back();
@@ -64,59 +89,63 @@ ListSorter::Run ListSorter::readKeys(const SortListView& view, QTreeWidgetItem& 
             QTreeWidgetItem* const child = parent->child(i);
             if (child->childCount() > 0)
                 parents.push_back(child);
-            auto* const item = dynamic_cast<SortListViewItem*>(child);
-            if (item == nullptr) {
-                run.hasOtherItems = true;
-                continue;
+            if (auto* const item = castItem(child)) {
+                addItem(*item, column, earlier);
+                items.push_back(item);
+            } else {
+                hasOtherItems = true;
             }
-            item->m_sortRun = run.number;
-            item->m_sortSlot = static_cast<quint32>(items.size());
-            items.push_back(item);
-            run.keys.add(item->text(column), item->GetSortKey(column));
         }
     }
-    if (const std::optional<std::vector<quint32>> ranks = run.keys.ranks()) {
-        run.isRanked = true;
-        for (std::size_t i = 0; i < items.size(); ++i)
-            items[i]->m_sortSlot = ranks->at(i);
-    }
-    return run;
+    rank(items);
+}
+
+void ListSorter::Run::rank(const std::vector<SortListViewItem*>& items)
+{
+    const std::optional<std::vector<quint32>> ranks = keys.ranks();
+    isRanked = ranks.has_value();
+    for (std::size_t i = 0; isRanked && i < items.size(); ++i)
+        items[i]->m_sortRank = ranks->at(i);
 }
 
 void ListSorter::sortAll(int column, Qt::SortOrder order)
 {
-    m_arrivals.stop();
     forgetOrder();
-    if (!m_view.maySort()) {
+    if (m_view.maySort())
+        sortRows(column, order, nullptr);
+    else
         m_view.QTreeWidget::sortItems(column, order);
-        return;
-    }
-    m_sortedColumn = column;
+}
+
+void ListSorter::sortRows(int column, Qt::SortOrder order, const Run* earlier)
+{
+    m_arrivals.stop();
+    auto run = std::make_shared<Run>(m_view.compareFunction(column));
+    run->readKeys(*m_view.invisibleRootItem(), column, earlier);
     m_order = order;
-    const Run run = readKeys(m_view, *m_view.invisibleRootItem(), column);
-    const QScopedValueRollback<const Run*> running(s_run, &run);
+    m_column = column;
+    m_lastRun = run;
+    const QScopedValueRollback<const Run*> running(s_run, run.get());
     m_view.QTreeWidget::sortItems(column, order);
 }
 
 void ListSorter::sortChildren(QTreeWidgetItem& parent, int column, Qt::SortOrder order)
 {
-    if (!m_view.maySort()) {
-        parent.sortChildren(column, order);
-        return;
-    }
-    const Run run = readKeys(m_view, parent, column);
+    Run run(m_view.compareFunction(column));
+    if (m_view.maySort())
+        run.readKeys(parent, column, nullptr);
     const QScopedValueRollback<const Run*> running(s_run, &run);
     parent.sortChildren(column, order);
 }
 
 void ListSorter::forgetOrder()
 {
-    m_sortedColumn.reset();
+    m_lastRun.reset();
 }
 
 void ListSorter::rowsInserted(const QModelIndex& parent, int, int last)
 {
-    if (!m_sortedColumn)
+    if (!m_lastRun)
         return;
     if (last + 1 < m_view.model()->rowCount(parent))
         forgetOrder();
@@ -124,14 +153,22 @@ void ListSorter::rowsInserted(const QModelIndex& parent, int, int last)
         m_arrivals.start();
 }
 
+void ListSorter::itemArrived(QTreeWidgetItem& item)
+{
+    // It may have been in the list before, with other texts.
+    if (auto* const listItem = dynamic_cast<SortListViewItem*>(&item))
+        listItem->m_sortRun = 0;
+}
+
 void ListSorter::placeArrivals()
 {
-    if (!m_sortedColumn || !m_view.maySort())
+    if (!m_lastRun || !m_view.maySort())
         return;
     const QPointer<ListSorter> self(this);
+    const std::shared_ptr<const Run> earlier = m_lastRun;
     QElapsedTimer time;
     time.start();
-    sortAll(*m_sortedColumn, m_order);
+    sortRows(m_column, m_order, earlier.get());
     if (self)
         m_arrivals.setInterval(std::min(milliseconds(pauseFactor * time.elapsed()), longestPause));
 }
@@ -148,6 +185,6 @@ std::optional<bool> ListSorter::isLess(const SortListViewItem& a, const QTreeWid
     if (other == nullptr || other->m_sortRun != run->number)
         return std::nullopt;
     if (run->isRanked)
-        return a.m_sortSlot < other->m_sortSlot;
-    return run->keys.isLess(a.m_sortSlot, other->m_sortSlot);
+        return a.m_sortRank < other->m_sortRank;
+    return run->keys.isLess(a.m_sortRow, other->m_sortRow);
 }

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <memory>
 #include <optional>
 
 class SortListView;
@@ -25,8 +26,11 @@ public:
     void sortChildren(QTreeWidgetItem& parent, int column, Qt::SortOrder order);
     /// The list is not sorted any more; it stays as it is until the next sortAll().
     void forgetOrder();
-    /// Rows were inserted in the model.
+    /// Rows were inserted in the model. Appended ones are put in place later, among the others by
+    /// what those were last sorted by.
     void rowsInserted(const QModelIndex& parent, int first, int last);
+    /// The item came into the tree, by itself or with one above it.
+    static void itemArrived(QTreeWidgetItem& item);
 
     /// The comparison by the keys of the running sort; nothing when there is none or it does not
     /// have both items.
@@ -35,12 +39,14 @@ public:
 private:
     struct Run;
 
-    static Run readKeys(const SortListView& view, QTreeWidgetItem& root, int column);
+    void sortRows(int column, Qt::SortOrder order, const Run* earlier);
     void placeArrivals();
 
     static const Run* s_run;
     SortListView& m_view;
-    std::optional<int> m_sortedColumn; ///< Set as long as the list is sorted but for appended rows.
+    /// The last sort; null when the list is not sorted, appended rows apart.
+    std::shared_ptr<const Run> m_lastRun;
+    int m_column = 0;
     Qt::SortOrder m_order = Qt::AscendingOrder;
     QTimer m_arrivals;
 };

@@ -23,11 +23,11 @@ struct TextAt
 
 constexpr qsizetype prefixLength = 4;
 
-qsizetype commonPrefixLength(const std::vector<QString>& texts)
+qsizetype commonPrefixLength(const std::vector<QStringView>& texts)
 {
-    const QString& first = texts.front();
+    const QStringView first = texts.front();
     qsizetype length = first.size();
-    for (const QString& text : texts) {
+    for (const QStringView text : texts) {
         const auto end = first.begin() + std::min(length, text.size());
         length = std::mismatch(first.begin(), end, text.begin()).first - first.begin();
     }
@@ -37,7 +37,7 @@ qsizetype commonPrefixLength(const std::vector<QString>& texts)
 /// Characters `from` and following; the prefixes of two texts are ordered as the texts are, unless
 /// they are equal. Nothing where this cannot be said: characters of two code units have no case of
 /// their own in each unit.
-std::optional<quint64> prefixOf(const QString& text, qsizetype from, bool ignoreCase)
+std::optional<quint64> prefixOf(QStringView text, qsizetype from, bool ignoreCase)
 {
     quint64 prefix = 0;
     for (qsizetype i = from; i < from + prefixLength; ++i) {
@@ -49,7 +49,7 @@ std::optional<quint64> prefixOf(const QString& text, qsizetype from, bool ignore
     return prefix;
 }
 
-std::vector<TextAt> withPrefixes(const std::vector<QString>& texts, bool ignoreCase)
+std::vector<TextAt> withPrefixes(const std::vector<QStringView>& texts, bool ignoreCase)
 {
     std::vector<TextAt> rows(texts.size());
     const qsizetype from = commonPrefixLength(texts);
@@ -66,11 +66,49 @@ std::vector<TextAt> withPrefixes(const std::vector<QString>& texts, bool ignoreC
     return rows;
 }
 
+/// Reads what nearly all numbers are: some digits, with a point between them. Whole numbers and
+/// powers of ten of this size are exact as double, so that the quotient is the nearest double, as
+/// toDouble() finds it at greater length.
+std::optional<double> simpleDecimal(QStringView text)
+{
+    constexpr qsizetype longest = 16;
+    constexpr std::array<double, longest> powers{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const qsizetype point = text.indexOf(u'.');
+    if (text.isEmpty() || text.size() > longest || point == 0 || point == text.size() - 1)
+        return std::nullopt;
+    qint64 digits = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const int digit = text.at(i).unicode() - u'0';
+        if (i == point)
+            continue;
+        if (digit < 0 || digit > 9)
+            return std::nullopt;
+        digits = digits * 10 + digit;
+    }
+    const qsizetype decimals = point < 0 ? 0 : text.size() - 1 - point;
+    if (digits >= qint64(1) << 53)
+        return std::nullopt;
+    return double(digits) / powers[std::size_t(decimals)];
+}
+
+double numberOf(QStringView text)
+{
+    if (const std::optional<double> number = simpleDecimal(text))
+        return *number;
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    return isNumber ? number : std::numeric_limits<double>::quiet_NaN();
+}
+
 /// The places of the rows among the sorted ones; rows that are equal have the same one.
 template <typename Row, typename Less>
 std::vector<quint32> sortedRanks(std::vector<Row> rows, Less less)
 {
-    std::sort(rows.begin(), rows.end(), less);
+    // In a list that rows were appended to, the others are sorted already.
+    const auto sortedEnd = std::is_sorted_until(rows.begin(), rows.end(), less);
+    std::sort(sortedEnd, rows.end(), less);
+    std::inplace_merge(rows.begin(), sortedEnd, rows.end(), less);
     std::vector<quint32> ranks(rows.size());
     quint32 rank = 0;
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -106,80 +144,75 @@ bool SortKeys::isNumeric() const
     return m_rule == Rule::Number || m_rule == Rule::NumberWithSuffix;
 }
 
-void SortKeys::append(Values& values, const QString& text) const
+SortKeys::Value SortKeys::valueOf(const QString& text) const
 {
-    if (!isNumeric()) {
-        values.texts.push_back(text);
-        return;
-    }
-    QStringView part(text);
-    if (m_rule == Rule::NumberWithSuffix) {
-        const qsizetype blank = part.indexOf(u' ');
-        if (blank >= 0)
-            part = part.first(blank);
-    }
-    bool isNumber = false;
-    const double number = part.toDouble(&isNumber);
-    values.numbers.push_back(isNumber ? number : std::numeric_limits<double>::quiet_NaN());
+    if (!isNumeric())
+        return {text, 0};
+    const qsizetype blank = m_rule == Rule::NumberWithSuffix ? text.indexOf(u' ') : -1;
+    return {{}, numberOf(QStringView(text).first(blank < 0 ? text.size() : blank))};
 }
 
 void SortKeys::add(const QString& text, const QString& sortKey)
 {
-    append(m_texts, text);
-    ++m_count;
-    if (sortKey.isEmpty() && m_keyCount == 0)
-        return;
-    while (m_hasKey.size() + 1 < m_count) {
-        append(m_keys, QString());
-        m_hasKey.push_back(0);
+    Row row{valueOf(text), {}, !sortKey.isEmpty()};
+    if (row.hasKey) {
+        row.key = valueOf(sortKey);
+        ++m_keyCount;
     }
-    append(m_keys, sortKey);
-    m_hasKey.push_back(sortKey.isEmpty() ? 0 : 1);
-    if (!sortKey.isEmpty())
+    m_rows.push_back(std::move(row));
+}
+
+void SortKeys::add(const SortKeys& earlier, quint32 row)
+{
+    m_rows.push_back(earlier.m_rows[row]);
+    if (m_rows.back().hasKey)
         ++m_keyCount;
 }
 
 bool SortKeys::isLess(quint32 a, quint32 b) const
 {
-    const bool haveKeys = m_keyCount > 0 && m_hasKey[a] != 0 && m_hasKey[b] != 0;
-    return isLess(haveKeys ? m_keys : m_texts, a, b);
+    const Row& rowA = m_rows[a];
+    const Row& rowB = m_rows[b];
+    return rowA.hasKey && rowB.hasKey ? isLess(rowA.key, rowB.key) : isLess(rowA.text, rowB.text);
 }
 
-bool SortKeys::isLess(const Values& values, quint32 a, quint32 b) const
+bool SortKeys::isLess(const Value& a, const Value& b) const
 {
     switch (m_rule) {
     case Rule::Text:
-        return values.texts[a].compare(values.texts[b]) < 0;
+        return a.text.compare(b.text) < 0;
     case Rule::TextIgnoringCase:
-        return values.texts[a].compare(values.texts[b], Qt::CaseInsensitive) < 0;
+        return a.text.compare(b.text, Qt::CaseInsensitive) < 0;
     case Rule::Number:
     case Rule::NumberWithSuffix:
-        return values.numbers[a] < values.numbers[b];
+        return a.number < b.number;
     case Rule::Function:
         break;
     }
-    return m_function(values.texts[b], values.texts[a]) < 0;
+    return m_function(b.text, a.text) < 0;
 }
 
 std::optional<std::vector<quint32>> SortKeys::ranks() const
 {
-    const bool allHaveKeys = m_keyCount == m_count;
-    if (m_rule == Rule::Function || m_count == 0 || (m_keyCount > 0 && !allHaveKeys))
+    if (m_rule == Rule::Function || m_rows.empty() || (m_keyCount > 0 && m_keyCount != count()))
         return std::nullopt;
-    const Values& values = allHaveKeys ? m_keys : m_texts;
-    if (!isNumeric()) {
-        return sortedRanks(withPrefixes(values.texts, m_rule == Rule::TextIgnoringCase),
-                           [&](const TextAt& a, const TextAt& b) {
-                               return a.prefix != b.prefix ? a.prefix < b.prefix
-                                                           : isLess(values, a.row, b.row);
-                           });
-    }
-    std::vector<NumberAt> rows(m_count);
-    for (quint32 row = 0; row < m_count; ++row) {
-        if (std::isnan(values.numbers[row]))
+    const Value Row::*const used = m_keyCount > 0 ? &Row::key : &Row::text;
+    if (isNumeric()) {
+        std::vector<NumberAt> numbers(count());
+        for (quint32 row = 0; row < count(); ++row)
+            numbers[row] = {(m_rows[row].*used).number, row};
+        if (std::any_of(numbers.begin(), numbers.end(),
+                        [](const NumberAt& at) { return std::isnan(at.number); }))
             return std::nullopt;
-        rows[row] = {values.numbers[row], row};
+        return sortedRanks(std::move(numbers), [](const NumberAt& a, const NumberAt& b) {
+            return a.number < b.number;
+        });
     }
-    return sortedRanks(std::move(rows),
-                       [](const NumberAt& a, const NumberAt& b) { return a.number < b.number; });
+    std::vector<QStringView> texts(count());
+    for (quint32 row = 0; row < count(); ++row)
+        texts[row] = (m_rows[row].*used).text;
+    return sortedRanks(withPrefixes(texts, m_rule == Rule::TextIgnoringCase),
+                       [&](const TextAt& a, const TextAt& b) {
+                           return a.prefix != b.prefix ? a.prefix < b.prefix : isLess(a.row, b.row);
+                       });
 }

@@ -3,6 +3,7 @@
 
 #include "checksortlistviewitem.h"
 #include "isortcallback.h"
+#include "itemwalk_p.h"
 #include "listsorter_p.h"
 #include "sortlistviewitem.h"
 
@@ -49,6 +50,16 @@ int nextVisiblePlace(const QHeaderView& header, int place, int step)
     while (place >= 0 && place < header.count() &&
            header.isSectionHidden(header.logicalIndex(place)));
     return place < header.count() ? place : -1;
+}
+
+/// The item came into a view, by itself or with one above it.
+void arrive(QTreeWidgetItem& item)
+{
+    if (item.type() != SortListViewItem::Type)
+        return;
+    ListSorter::itemArrived(item);
+    if (auto* const checkItem = dynamic_cast<CheckSortListViewItem*>(&item))
+        checkItem->restoreCheckBox();
 }
 
 } // namespace
@@ -227,13 +238,16 @@ void SortListView::slotHeaderContextMenuRequested(QPoint pos)
 
 void SortListView::SetCompareFunctionLength(int count)
 {
+    m_sorter->forgetOrder();
     m_compareFunctions.resize(static_cast<std::size_t>(std::max(count, 0)), nullptr);
 }
 
 void SortListView::SetCompareFunction(int column, CompareFunction function)
 {
-    if (column >= 0 && static_cast<std::size_t>(column) < m_compareFunctions.size())
-        m_compareFunctions[static_cast<std::size_t>(column)] = function;
+    if (column < 0 || static_cast<std::size_t>(column) >= m_compareFunctions.size())
+        return;
+    m_sorter->forgetOrder();
+    m_compareFunctions[static_cast<std::size_t>(column)] = function;
 }
 
 SortListView::CompareFunction SortListView::compareFunction(int column) const
@@ -556,12 +570,15 @@ void SortListView::moveColumn(int column, int step)
 
 void SortListView::rowsInserted(const QModelIndex& parent, int first, int last)
 {
-    QTreeWidget::rowsInserted(parent, first, last);
-    for (int row = first; row <= last; ++row) {
-        if (QTreeWidgetItem* const item = itemFromIndex(model()->index(row, 0, parent)))
-            CheckSortListViewItem::restoreCheckBoxes(*item);
-    }
+    // First the sorter: its step then comes before the view's layout, which need not run twice.
     m_sorter->rowsInserted(parent, first, last);
+    QTreeWidget::rowsInserted(parent, first, last);
+    const QTreeWidgetItem* const owner =
+        parent.isValid() ? itemFromIndex(parent) : invisibleRootItem();
+    for (int row = first; row <= last && owner != nullptr; ++row) {
+        if (QTreeWidgetItem* const item = owner->child(row))
+            ItemWalk::visitAll(*item, arrive);
+    }
 }
 
 void SortListView::selectionChanged(const QItemSelection& selected,

@@ -28,7 +28,8 @@ class SortListViewItem;
 /// both directions. Rows that are not SortListViewItems sort as in any QTreeWidget.
 ///
 /// Decisions: rows that are appended to a shown list which the view has sorted go to their places
-/// together, in the next pass of the event loop, or a little later when sorting takes long. A row
+/// together, in the next pass of the event loop, or a little later when sorting takes long. The
+/// others do not move then, even if their texts have changed since they were sorted. A row
 /// that is put anywhere else (on top, after another row, with SortListViewItem::moveItem()) stays
 /// there, and so do rows appended after it, until the list is sorted again. Nothing is put in place
 /// while a sort callback is set.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sortlistviewitem.h"
 
-#include "checksortlistviewitem.h"
+#include "itemwalk_p.h"
 #include "listsorter_p.h"
 #include "sortlistview.h"
 
@@ -210,7 +210,7 @@ void SortListViewItem::moveItem(QTreeWidgetItem* after)
     if (!tree)
         return;
     tree->insertTopLevelItem(std::min(row, tree->topLevelItemCount()), this);
-    CheckSortListViewItem::restoreCheckBoxes(*this);
+    ItemWalk::restoreCheckBoxes(*this);
     setExpanded(wasExpanded);
     if (wasSelected)
         setSelected(true);

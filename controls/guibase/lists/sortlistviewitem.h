@@ -111,7 +111,8 @@ private:
 
     /// Sort keys, picture and child cursor, which few rows have.
     mutable std::unique_ptr<Extras> m_extras;
-    // The sort that m_sortSlot was made for, and the row's place among its keys.
+    // The last sort that read this row, and the row's number and rank in it.
     quint32 m_sortRun = 0;
-    quint32 m_sortSlot = 0;
+    quint32 m_sortRow = 0;
+    quint32 m_sortRank = 0;
 };
