@@ -40,6 +40,9 @@ void AbstractSpinBox::setAutoSwitchDisplayFormat(bool automatic)
 
 void AbstractSpinBox::setCurrentDisplayFormatIndex(int index)
 {
+    if (index == currentDisplayFormatIndex())
+        return;
+    updateGeometry(); // Once the event loop runs, the texts have another length.
     m_formatSwitch.setCurrent(index);
 }
 

@@ -3,6 +3,7 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <concepts>

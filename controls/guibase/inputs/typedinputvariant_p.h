@@ -8,6 +8,7 @@
 #include <limits>
 #include <optional>
 #include <type_traits>
+#include <utility>
 
 /// Conversion of the values of typed inputs to and from variants, without loss or not at all.
 namespace TypedInputVariant {

@@ -102,12 +102,11 @@ void checkInteger(const char* typeName)
         box.stepBy(-1);
         QCOMPARE(box.value(), T(highest - 1));
         for (const int steps : {2, INT_MAX, INT_MIN}) {
-            box.setSingleStep(steps < 0 ? highest : T(1)); // One step down may be possible.
-            box.setValue(steps < 0 ? lowest : T(highest - 1));
+            const T start = steps < 0 ? lowest : T(highest - 1);
+            box.setSingleStep(steps < 0 ? highest : T(1));
+            box.setValue(start);
             box.stepBy(steps);
-            QVERIFY(sizeof(T) > 4 && steps > 2
-                        ? true
-                        : box.value() >= T(highest - 1) || box.value() == lowest);
+            QCOMPARE(box.value(), start);
             box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
             box.stepBy(steps);
             QCOMPARE(box.value(), steps < 0 ? lowest : highest);
