@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
+#include <QPixmapCache>
 #include <QPolygonF>
 
 #include <algorithm>
@@ -218,11 +219,23 @@ public:
     {
         if (size.isEmpty())
             return {};
-        QPixmap picture(size);
+        const DockIcon kind = state == QIcon::On ? m_on : m_off;
+        const QColor ink = inkOf(mode);
+        const QString cacheKey = QStringLiteral("GuiBase_DockIcon_%1_%2_%3_%4")
+                                     .arg(int(kind))
+                                     .arg(size.width())
+                                     .arg(size.height())
+                                     .arg(ink.rgba(), 0, 16);
+        QPixmap picture;
+        if (QPixmapCache::find(cacheKey, &picture))
+            return picture;
+        picture = QPixmap(size);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
-        IconCanvas canvas(painter, size, inkOf(mode));
-        pictures[static_cast<std::size_t>(state == QIcon::On ? m_on : m_off)].draw(canvas);
+        IconCanvas canvas(painter, size, ink);
+        pictures[static_cast<std::size_t>(kind)].draw(canvas);
+        painter.end();
+        QPixmapCache::insert(cacheKey, picture);
         return picture;
     }
 

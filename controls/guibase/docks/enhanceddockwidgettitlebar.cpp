@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QActionEvent>
+#include <QCoreApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -111,6 +112,7 @@ public:
     int fixedButtonCount() const;
     TitleBarButton& buttonFor(QAction& action);
     void removeButton(QAction* action);
+    void makeMenuButton();
     void fillMenu();
     /// Keeps exactly one button in the tab order.
     void updateTabStop(QWidget* preferred);
@@ -118,10 +120,9 @@ public:
     EnhancedDockWidgetTitleBar& bar;
     DockPointer dock;
     std::map<QAction*, TitleBarButton*> buttons;
-    TitleBarButton* const menuButton;
+    TitleBarButton* menuButton = nullptr; ///< Made when it is needed first.
     TitleBarButton* const floatButton;
     TitleBarButton* const closeButton;
-    QMenu* const menu;
     QList<QAction*> actionsInMenu;
     QList<TitleBarButton*> shownButtons; ///< In the order of the line.
     QString title;
@@ -133,17 +134,12 @@ public:
 EnhancedDockWidgetTitleBar::Private::Private(EnhancedDockWidgetTitleBar& owner, QDockWidget& served)
     : bar(owner)
     , dock(&served)
-    , menuButton(new TitleBarButton(&owner))
     , floatButton(new TitleBarButton(&owner))
     , closeButton(new TitleBarButton(&owner))
-    , menu(new QMenu(&owner))
 {
-    menuButton->setObjectName(QStringLiteral("menuButton"));
-    menuButton->setMenu(menu);
-    menuButton->setPopupMode(QToolButton::InstantPopup);
     floatButton->setObjectName(QStringLiteral("floatButton"));
     closeButton->setObjectName(QStringLiteral("closeButton"));
-    menuButton->hide();
+    closeButton->setIcon(makeDockIcon(DockIcon::Close));
 }
 
 bool EnhancedDockWidgetTitleBar::Private::isVertical() const
@@ -191,13 +187,14 @@ void EnhancedDockWidgetTitleBar::Private::followDock()
         return;
     title = shownDockTitle(*dock);
     const bool floating = dock->isFloating();
-    floatButton->setIcon(makeDockIcon(floating ? DockIcon::Dock : DockIcon::Float));
+    static const QIcon floatIcon = makeDockIcon(DockIcon::Float);
+    static const QIcon dockIcon = makeDockIcon(DockIcon::Dock);
+    floatButton->setIcon(floating ? dockIcon : floatIcon);
     floatButton->setTexts(floating ? tr("Dock", "Tool tip: put a window back into the main window")
                                    : tr("Float", "Tool tip: make a dock a window of its own"));
-    closeButton->setIcon(makeDockIcon(DockIcon::Close));
     closeButton->setTexts(tr("Close"));
-    menuButton->setIcon(makeDockIcon(DockIcon::More));
-    menuButton->setTexts(tr("More"));
+    if (menuButton != nullptr)
+        menuButton->setTexts(tr("More"));
     bar.updateGeometry();
     arrange();
 }
@@ -243,6 +240,8 @@ void EnhancedDockWidgetTitleBar::Private::removeButton(QAction* action)
 
 void EnhancedDockWidgetTitleBar::Private::arrange()
 {
+    if (!bar.isVisible())
+        return; // it is done when the bar is shown
     const int button = TitleBarButton::extent(bar);
     const QList<QAction*> actions = visibleActions();
     const int icon = iconExtent() > 0 ? iconExtent() + iconGap : 0;
@@ -258,6 +257,8 @@ void EnhancedDockWidgetTitleBar::Private::arrange()
     shownButtons.clear();
     for (QAction* action : actions.first(asButtons))
         shownButtons << &buttonFor(*action);
+    if (needsMenu && menuButton == nullptr)
+        makeMenuButton();
     if (needsMenu)
         shownButtons << menuButton;
     if (dock && dock->features().testFlag(QDockWidget::DockWidgetFloatable))
@@ -280,8 +281,20 @@ void EnhancedDockWidgetTitleBar::Private::arrange()
     bar.update();
 }
 
+void EnhancedDockWidgetTitleBar::Private::makeMenuButton()
+{
+    menuButton = new TitleBarButton(&bar);
+    menuButton->setObjectName(QStringLiteral("menuButton"));
+    menuButton->setIcon(makeDockIcon(DockIcon::More));
+    menuButton->setTexts(tr("More"));
+    menuButton->setMenu(new QMenu(menuButton));
+    menuButton->setPopupMode(QToolButton::InstantPopup);
+    connect(menuButton->menu(), &QMenu::aboutToShow, &bar, [this] { fillMenu(); });
+}
+
 void EnhancedDockWidgetTitleBar::Private::fillMenu()
 {
+    QMenu* menu = menuButton->menu();
     menu->clear();
     for (QAction* action : std::as_const(actionsInMenu)) {
         if (!action->text().isEmpty()) {
@@ -316,7 +329,6 @@ EnhancedDockWidgetTitleBar::EnhancedDockWidgetTitleBar(QDockWidget& dockWidget)
     connect(d->floatButton, &QToolButton::clicked, &dockWidget,
             [&dockWidget] { dockWidget.setFloating(!dockWidget.isFloating()); });
     connect(d->closeButton, &QToolButton::clicked, &dockWidget, &QWidget::close);
-    connect(d->menu, &QMenu::aboutToShow, this, [this] { d->fillMenu(); });
     connect(&dockWidget, &QDockWidget::topLevelChanged, this, [this] { d->followDock(); });
     connect(&dockWidget, &QDockWidget::featuresChanged, this, [this] { d->followDock(); });
     dockWidget.installEventFilter(this);
@@ -369,6 +381,8 @@ bool EnhancedDockWidgetTitleBar::eventFilter(QObject* watched, QEvent* event)
 
 bool EnhancedDockWidgetTitleBar::event(QEvent* event)
 {
+    if (event->type() == QEvent::LayoutRequest)
+        d->arrange();
     if (event->type() == QEvent::ToolTip && d->elidedTitle != d->title) {
         const auto* help = static_cast<QHelpEvent*>(event);
         if (d->place(d->titleOnLine).contains(help->pos())) {
@@ -382,15 +396,20 @@ bool EnhancedDockWidgetTitleBar::event(QEvent* event)
 
 void EnhancedDockWidgetTitleBar::actionEvent(QActionEvent* event)
 {
+    updateGeometry();
+    if (event->type() == QEvent::ActionAdded) {
+        d->arrange();
+        return;
+    }
     if (event->type() == QEvent::ActionRemoved) {
         d->removeButton(event->action());
-    } else if (event->type() == QEvent::ActionChanged) {
-        const auto button = d->buttons.find(event->action());
-        if (button != d->buttons.end())
-            button->second->setAccessibleName(nameOf(*event->action()));
+    } else if (const auto button = d->buttons.find(event->action()); button != d->buttons.end()) {
+        button->second->setAccessibleName(nameOf(*event->action()));
+        if (!event->action()->isVisible())
+            button->second->hide();
     }
-    updateGeometry();
-    d->arrange();
+    // The action may go because the window is being destroyed: no time for new buttons.
+    QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
 }
 
 void EnhancedDockWidgetTitleBar::changeEvent(QEvent* event)
@@ -456,6 +475,12 @@ void EnhancedDockWidgetTitleBar::paintEvent(QPaintEvent*)
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(textRect, int(Qt::AlignVCenter) | Qt::AlignLeading | Qt::TextSingleLine,
                      d->elidedTitle);
+}
+
+void EnhancedDockWidgetTitleBar::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    d->arrange();
 }
 
 void EnhancedDockWidgetTitleBar::resizeEvent(QResizeEvent* event)

@@ -19,7 +19,7 @@ class QDockWidget;
 /// from bottom to top. One button of the bar is in the tab order, arrow keys lead to the others.
 ///
 /// The actions are the widget's own (QWidget::actions()): an action that is hidden, removed or
-/// deleted takes its button with it.
+/// deleted takes its button with it. Buttons are made while the bar is visible.
 class GUIBASE_EXPORT EnhancedDockWidgetTitleBar : public QWidget
 {
     Q_OBJECT
@@ -51,6 +51,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     class Private;
