@@ -4,12 +4,16 @@
 #include <QDataStream>
 #include <QList>
 
+#include <algorithm>
+#include <limits>
+
 namespace {
 
 constexpr qint32 stateMarker = 0xff; // QHeaderView's own
 constexpr qint32 stateVersion = 0;
 constexpr qint32 maximumSections = 4096;
-constexpr qint32 maximumSectionSize = 1 << 20;
+constexpr qint32 maximumLength = (1 << 24) - 1; // of all sections together, in pixels
+constexpr qint32 lastResizeMode = 3;
 
 /// Reads a state number by number; after a wrong one everything reads as 0.
 class Walk
@@ -27,6 +31,7 @@ public:
     void flags(int size);
     void fail() { m_isFine = false; }
     bool isFine() const { return m_isFine; }
+    bool atEnd() const { return m_stream.atEnd(); }
 
 private:
     qint32 checked(qint32 value, qint32 lowest, qint32 highest);
@@ -80,11 +85,11 @@ bool areInverse(const QList<qint32>& visual, const QList<qint32>& logical)
 /// The runs of equal sections must add up to all of them.
 void walkRuns(Walk& walk, qint32 sections)
 {
-    constexpr qint32 lastResizeMode = 3;
     const qint32 runs = walk.number(0, sections);
     qint32 covered = 0;
+    qint32 length = 0;
     for (qint32 run = 0; run < runs && walk.isFine(); ++run) {
-        walk.number(0, maximumSectionSize);
+        length += walk.number(0, maximumLength - length);
         covered += walk.number(1, sections - covered);
         walk.number(0, lastResizeMode);
     }
@@ -92,30 +97,59 @@ void walkRuns(Walk& walk, qint32 sections)
         walk.fail();
 }
 
+/// What the toolkit keeps of hidden sections: pairs of section and former size.
+void walkHiddenSizes(Walk& walk, qint32 sections)
+{
+    const qint32 hidden = walk.count();
+    for (qint32 i = 0; i < hidden && walk.isFine(); ++i) {
+        walk.number(0, sections - 1);
+        walk.number(0, maximumLength);
+    }
+}
+
+/// Fields that were added to the state over time; older states end before any of them.
+void walkAdditions(Walk& walk)
+{
+    if (!walk.atEnd())
+        walk.number(-1, std::numeric_limits<qint32>::max()); // rows to look at for contents
+    if (!walk.atEnd())
+        walk.flags(1); // default size is the application's own
+    if (!walk.atEnd())
+        walk.number(-1, maximumLength); // size of the last section
+    if (!walk.atEnd())
+        walk.number(0, 1); // sort indicator clearable
+    if (!walk.atEnd())
+        walk.fail();
+}
+
 } // namespace
 
-bool HeaderState::isValid(const QByteArray& state)
+bool HeaderState::isValid(const QByteArray& state, Qt::Orientation orientation, int sections)
 {
     Walk walk(state);
+    const qint32 limit = std::min(sections, maximumSections);
     walk.number(stateMarker, stateMarker);
     walk.number(stateVersion, stateVersion);
-    walk.number(Qt::Horizontal, Qt::Vertical);
+    walk.number(orientation, orientation);
     walk.number(Qt::AscendingOrder, Qt::DescendingOrder);
-    const qint32 sortSection = walk.number(-1, maximumSections);
-    walk.flags(1); // sort indicator shown
+    walk.number(-1, limit); // sort section; the toolkit's default is 0, sections or not
+    walk.flags(1);          // sort indicator shown
     const QList<qint32> visual = walk.numbers(walk.count());
     const QList<qint32> logical = walk.numbers(walk.count());
     const qint32 hiddenBits = walk.count();
     walk.flags((hiddenBits + 7) / 8);
-    const qint32 hiddenSizes = walk.count();
-    walk.numbers(2 * hiddenSizes);
-    walk.number(); // length
-    const qint32 sections = walk.count();
-    walk.flags(5);   // movable, clickable, highlight, stretch last section, cascading
-    walk.numbers(4); // stretch and content sections, default and minimum size
-    walk.numbers(2); // alignment, resize mode
-    walkRuns(walk, sections);
-    return walk.isFine() && sortSection <= sections && hiddenBits <= sections &&
-           hiddenSizes <= sections && areInverse(visual, logical) &&
-           (visual.isEmpty() || visual.size() == sections);
+    walkHiddenSizes(walk, limit);
+    walk.number(0, maximumLength);
+    const qint32 stored = walk.number(0, limit);
+    walk.flags(5);                  // movable, clickable, highlight, stretch last, cascading
+    walk.number(0, stored);         // sections that stretch
+    walk.number(0, stored);         // sections that follow their contents
+    walk.number(-1, maximumLength); // default size
+    walk.number(-1, maximumLength); // minimum size
+    walk.number();                  // alignment
+    walk.number(0, lastResizeMode);
+    walkRuns(walk, stored);
+    walkAdditions(walk);
+    return walk.isFine() && hiddenBits <= stored && areInverse(visual, logical) &&
+           (visual.isEmpty() || visual.size() == stored);
 }

@@ -69,7 +69,7 @@ void QHeaderViewColumnHandler::restoreColumnStatus()
     if (stateText.isEmpty())
         return;
     const QByteArray state = fromStoredText(stateText);
-    if (HeaderState::isValid(state))
+    if (HeaderState::isValid(state, m_header->orientation(), m_header->count()))
         m_header->restoreState(state);
     else
         ErrorHandler::Trace(

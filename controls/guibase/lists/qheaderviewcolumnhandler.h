@@ -27,7 +27,8 @@ public:
 
     /// Writes geometry and state into the configuration and stores it.
     void saveColumnStatus();
-    /// Sections that the stored state does not know keep their place and size.
+    /// A state with more sections than the header has is not taken. Sections that it does not know
+    /// get the default size, behind the others.
     void restoreColumnStatus();
 
 private Q_SLOTS:

@@ -204,7 +204,9 @@ void ResortPopupMenu::removeItem(int id)
 
 void ResortPopupMenu::RemoveAllEntries()
 {
-    clear();
+    const QList<QAction*> entries = actions();
+    for (QAction* entry : entries)
+        discard(entry);
 }
 
 void ResortPopupMenu::removeAllSeparators()
@@ -245,6 +247,17 @@ QList<QAction*> ResortPopupMenu::takeActions()
 bool ResortPopupMenu::resort(const std::vector<int>& order)
 {
     const QList<QAction*> entries = takeActions();
+    const bool isComplete = place(entries, order);
+    // Nobody else knows the separators of the former order.
+    for (QAction* entry : entries) {
+        if (entry->isSeparator() && idOf(*entry) == separatorId && !actions().contains(entry))
+            discard(entry);
+    }
+    return isComplete;
+}
+
+bool ResortPopupMenu::place(const QList<QAction*>& entries, const std::vector<int>& order)
+{
     for (const int position : order) {
         if (position == separatorId) {
             addSeparator()->setData(separatorId);

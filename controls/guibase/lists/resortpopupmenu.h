@@ -89,7 +89,8 @@ public:
     /// Shows the entries in the order of their present positions in `order`, with separators where
     /// it holds separatorId; entries that it does not name are left out of the menu. An entry
     /// without an id gets its present position. At a position that does not exist it stops and
-    /// returns false: the entries placed so far stay, the others are out.
+    /// returns false: the entries placed so far stay, the others are out. Entries that are out are
+    /// not deleted, but for separators that an earlier resort() made.
     bool resort(const std::vector<int>& order);
     /// Shows the entries by ascending id; equal ids keep their order. An entry without an id gets
     /// its new position.
@@ -117,6 +118,7 @@ private:
     QAction* append(QAction* action, int id);
     void connectTo(QAction* action, const QObject* receiver, const char* member, int id);
     QList<QAction*> takeActions();
+    bool place(const QList<QAction*>& entries, const std::vector<int>& order);
     /// Takes the entry out for good; its slot may be running at this moment.
     void discard(QAction* entry);
     template <typename Change>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <guibase/guibase_export.h>
+#include <guibase/lists/sortlistviewitem.h>
 
 #include <QHeaderView>
 #include <QList>
@@ -17,7 +18,6 @@ class ISortCallback;
 class ListSorter;
 class QAction;
 class QMenu;
-class SortListViewItem;
 
 /// A flat or shallow list of SortListViewItems that sorts its rows by compare functions and sort
 /// keys, lets the user hide columns, and keeps its column widths under a name.

@@ -7,7 +7,7 @@
 
 #include <QIcon>
 #include <QList>
-#include <QPointer>
+#include <QSignalBlocker>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -194,26 +194,28 @@ const QPixmap* SortListViewItem::pixmap(int column) const
 
 void SortListViewItem::moveItem(QTreeWidgetItem* after)
 {
-    const QPointer<QTreeWidget> tree(treeWidget());
-    const int row = !tree ? -1 : tree->indexOfTopLevelItem(after);
+    QTreeWidget* const tree = treeWidget();
+    const int row = tree == nullptr ? -1 : tree->indexOfTopLevelItem(after);
     if (row < 0 || after == this)
         return;
     const bool wasSelected = isSelected();
     const bool wasExpanded = isExpanded();
+    const int currentColumn = tree->currentItem() == this ? tree->currentColumn() : -1;
     if (SortListView* const list = listView())
         list->m_sorter->forgetOrder();
+    // Selection and current item are the same afterwards; nobody shall see, and act on, what they
+    // are while the row is away.
+    const QSignalBlocker blocker(tree);
     if (parent() != nullptr)
         parent()->removeChild(this);
     else
         tree->takeTopLevelItem(tree->indexOfTopLevelItem(this));
-    // A handler of the selection may have removed other rows, or the tree.
-    if (!tree)
-        return;
     tree->insertTopLevelItem(std::min(row, tree->topLevelItemCount()), this);
     ItemWalk::restoreCheckBoxes(*this);
     setExpanded(wasExpanded);
-    if (wasSelected)
-        setSelected(true);
+    setSelected(wasSelected);
+    if (currentColumn >= 0)
+        tree->setCurrentItem(this, currentColumn, QItemSelectionModel::NoUpdate);
 }
 
 SortListViewItem* SortListViewItem::firstChild()
