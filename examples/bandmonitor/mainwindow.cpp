@@ -22,6 +22,7 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -29,6 +30,7 @@ namespace bandmonitor {
 
 namespace {
 constexpr int progressSteps = 1000;
+constexpr QSize normalSize(1100, 800);
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent)
@@ -51,7 +53,7 @@ MainWindow::MainWindow(QWidget* parent)
     buildStatusBar();
     connectLoader();
     connectPanes();
-    resize(1100, 800);
+    resize(normalSize.boundedTo(screen()->availableGeometry().size()));
     m_modes.showKept();
     m_bandView->setFocus();
     updateTitle();

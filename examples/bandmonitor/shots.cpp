@@ -31,6 +31,7 @@ namespace bandmonitor {
 namespace {
 
 constexpr int shownSweeps = 90;
+constexpr QSize windowSize(1100, 800); // whatever the screen is
 constexpr int dialogPollMs = 20;
 
 struct SlotColor
@@ -102,6 +103,7 @@ bool ShotSeries::run()
 {
     if (!m_folder.mkpath(QStringLiteral(".")))
         m_failure = m_folder.path();
+    m_window.resize(windowSize);
     takeMain();
     takeZoom();
     takeSignals();

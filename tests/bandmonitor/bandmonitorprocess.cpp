@@ -2,11 +2,18 @@
 // The whole application in a process of its own, worked by the words on its command line:
 //   bandmonitorprocess FOLDER change quit|wait    changes every setting, then ends or waits
 //   bandmonitorprocess FOLDER tell                prints the settings that it started with
+//   bandmonitorprocess FOLDER arrange             changes the layout, then waits for its end
+//   bandmonitorprocess FOLDER layout              prints the layout that it started with
 #include "mainwindow.h"
+#include "panes/levelspane.h"
+#include "panes/signalspane.h"
 #include "settings.h"
 
 #include <guibase/colors/colorset.h>
+#include <guibase/lists/sortlistview.h>
+#include <guibase/lists/sortrowtable.h>
 #include <guibase/services/guibase.h>
+#include <guibase/services/splitter.h>
 #include <trovappstartup/cfgcenter.h>
 #include <trovappstartup/trovapplication.h>
 
@@ -57,6 +64,37 @@ void changeAll(MainWindow& window, const QString& folder)
     window.resize(777, 555);
 }
 
+QString layout(MainWindow& window)
+{
+    QString text = QStringLiteral("mode %1").arg(static_cast<int>(window.modes().mode()));
+    for (const char* pane : {"waterfall", "signals", "levels"})
+        text += QStringLiteral(" %1").arg(window.modes().isPaneShown(QString::fromLatin1(pane)));
+    text += QLatin1Char(' ');
+    const QList<int> sizes = window.splitter().sizes();
+    for (const int size : sizes)
+        text += QStringLiteral("%1;").arg(size);
+    SortListView& list = window.signalsPane().list();
+    for (int column = 0; column < list.columns(); ++column)
+        text +=
+            QStringLiteral(" %1").arg(list.isColumnHidden(column) ? 0 : list.columnWidth(column));
+    for (const LevelPoint& point : window.levelsPane().points())
+        text += QStringLiteral(" %1:%2").arg(point.hertz, 0, 'f', 1).arg(point.levelDb);
+    return text;
+}
+
+void arrange(MainWindow& window)
+{
+    CfgCenter::SetAutoStoreDelay(50);
+    window.modes().setMode(Mode::Plan);
+    window.modes().setPaneShown(QStringLiteral("waterfall"), false);
+    window.splitter().shiftHandle(1, -37);
+    SortListView& list = window.signalsPane().list();
+    list.setColumnWidth(SignalsPane::Type, 123);
+    list.setColumnHidden(SignalsPane::Bandwidth, true);
+    GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
+    window.levelsPane().table().addRows({{QStringLiteral("98100,25"), QStringLiteral("-40 dB")}});
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -70,7 +108,18 @@ int main(int argc, char** argv)
     GuiBase::Instance().SetApplication(&application);
     MainWindow window;
     GuiBase::Instance().SetMainWidget(&window);
+    window.announceModes();
     window.show();
+    if (words.value(2) == QLatin1String("arrange"))
+        QTimer::singleShot(0, &window, [&] { arrange(window); });
+    if (words.value(2) == QLatin1String("arrange") || words.value(2) == QLatin1String("layout")) {
+        QTimer::singleShot(20, &window, [&] {
+            say(layout(window));
+            if (words.value(2) == QLatin1String("layout"))
+                window.close();
+        });
+        return QApplication::exec();
+    }
     QTimer::singleShot(0, &window, [&] {
         if (words.value(2) == QLatin1String("change"))
             changeAll(window, words.value(1));

@@ -106,6 +106,34 @@ private Q_SLOTS:
         QCOMPARE(run(helper, {config, QStringLiteral("tell")}).output, changed);
     }
 
+    void layoutSurvivesAKill()
+    {
+        const QTemporaryDir folder;
+        const QString config = folder.filePath(QStringLiteral("config"));
+        const auto layout = [&] { return run(helper, {config, QStringLiteral("layout")}).output; };
+        const QByteArray fresh = layout();
+        QVERIFY2(fresh.startsWith("mode 0 1 1 0 "), fresh);
+
+        QProcess changing;
+        changing.start(helper, {config, QStringLiteral("arrange")});
+        QVERIFY(changing.waitForReadyRead(processTimeoutMs));
+        const QByteArray changed = changing.readAllStandardOutput();
+        QVERIFY2(changed.startsWith("mode 2 0 1 1 "), changed);
+        QVERIFY2(changed.contains(" 0 123 ") && changed.endsWith(" 98100250.0:-40\n"), changed);
+        // It is killed as soon as all of that is on the disk.
+        const QByteArray sizes = changed.split(' ').value(5);
+        const auto isStored = [&] {
+            QFile file(config + QStringLiteral("/bandmonitor.json"));
+            const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+            return text.contains('"' + sizes + '"') && text.contains("98.100250") &&
+                   text.contains(";123,4,0;");
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(isStored(), processTimeoutMs);
+        changing.kill();
+        QVERIFY(changing.waitForFinished(processTimeoutMs));
+        QCOMPARE(layout(), changed);
+    }
+
     void picturesAreTheSameEveryTime()
     {
         const QTemporaryDir folder;

@@ -17,7 +17,6 @@ namespace bandmonitor {
 namespace {
 
 constexpr std::chrono::milliseconds standardInterval{200};
-constexpr std::chrono::milliseconds columnsKeptAfter{300};
 constexpr int iconExtent = 12;
 
 struct ColumnLayout
@@ -79,7 +78,7 @@ SignalsPane::SignalsPane(const SignalWatch* watch, QWidget* parent)
     m_rest.setSingleShot(true);
     m_rest.setInterval(standardInterval);
     connect(&m_rest, &QTimer::timeout, this, [this] {
-        if (m_isStale)
+        if (m_isStale && isVisible())
             update();
     });
     connect(m_list, qOverload<SortListViewItem*>(&SortListView::selectionChanged), this,
@@ -87,7 +86,10 @@ SignalsPane::SignalsPane(const SignalWatch* watch, QWidget* parent)
     connect(&GuiBase::Instance(), &GuiBase::signalColorsChanged, this, &SignalsPane::refreshTexts);
 }
 
-SignalsPane::~SignalsPane() = default;
+SignalsPane::~SignalsPane()
+{
+    m_list->saveColumnStatus(); // later it is not seen any more, and does not store
+}
 
 void SignalsPane::buildColumns()
 {
@@ -108,7 +110,6 @@ void SignalsPane::buildColumns()
     m_list->setColumnSelectionMenu(true);
     m_list->SetColumnWidthPersistantName(QStringLiteral("BandmonitorSignals"));
     m_keepColumns.setSingleShot(true);
-    m_keepColumns.setInterval(columnsKeptAfter);
     const auto keepLater = [this] { m_keepColumns.start(); };
     connect(&m_keepColumns, &QTimer::timeout, m_list, &SortListView::saveColumnStatus);
     connect(m_list->header(), &QHeaderView::sectionResized, this, keepLater);

@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: MIT
+#include "recordings.h"
+#include "support/testguard.h"
+
+#include <model/samplegenerator.h>
+#include <panes/levelspane.h>
+#include <panes/panecolors.h>
+#include <panes/referencelevels.h>
+#include <panes/signalspane.h>
+
+#include <guibase/lists/checksortlistviewitem.h>
+#include <guibase/lists/sortlistview.h>
+#include <guibase/lists/sortrowtable.h>
+#include <guibase/services/guibase.h>
+#include <valueframework/valueselection.h>
+
+#include <QCheckBox>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <optional>
+
+using namespace bandmonitor;
+
+class tst_Lists : public QObject
+{
+    Q_OBJECT
+    std::optional<TestGuard> m_guard;
+    ReadRecording m_sample;
+    SignalWatch m_watch;
+    std::unique_ptr<SignalsPane> m_signals;
+
+    void showUntil(qsizetype last)
+    {
+        for (qsizetype sweep = 0; sweep <= last; ++sweep) {
+            m_watch.showSweep(sweep, sweep - 1);
+            m_signals->refresh();
+        }
+        QTRY_COMPARE(static_cast<std::size_t>(m_signals->list().topLevelItemCount()),
+                     m_watch.tracks().size());
+        QCoreApplication::processEvents(); // new rows go to their places
+    }
+
+    QStringList columnTexts(int column) const
+    {
+        QStringList texts;
+        for (int row = 0; row < m_signals->list().topLevelItemCount(); ++row)
+            texts << m_signals->list().topLevelItem(row)->text(column);
+        return texts;
+    }
+
+    CheckSortListViewItem* itemOf(std::uint32_t id) const
+    {
+        for (int row = 0; row < m_signals->list().topLevelItemCount(); ++row) {
+            auto* item = dynamic_cast<CheckSortListViewItem*>(m_signals->list().topLevelItem(row));
+            if (item != nullptr && item->GetId() == static_cast<int>(id))
+                return item;
+        }
+        return nullptr;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { m_sample.read(SampleGenerator().remaining().toStdString()); }
+
+    void init()
+    {
+        m_guard.emplace();
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
+        GuiBase::Instance().GetTimeZone()->SetValue(0);
+        m_watch.setRecording(m_sample.recording);
+        m_signals = std::make_unique<SignalsPane>(&m_watch);
+        m_signals->setUpdateInterval(std::chrono::milliseconds(0));
+        m_signals->resize(900, 400);
+        m_signals->show();
+    }
+
+    void cleanup()
+    {
+        m_signals.reset();
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+
+    void columnsSortByTheirValues_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::newRow("frequency") << int(SignalsPane::Frequency);
+        QTest::newRow("level") << int(SignalsPane::Level);
+        QTest::newRow("bandwidth") << int(SignalsPane::Bandwidth);
+        QTest::newRow("first seen") << int(SignalsPane::FirstSeen);
+        QTest::newRow("last seen") << int(SignalsPane::LastSeen);
+    }
+
+    void columnsSortByTheirValues()
+    {
+        QFETCH(int, column);
+        showUntil(60);
+        for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
+            m_signals->list().setSorting(column, order);
+            m_watch.showSweep(61 + order, 60 + order); // and they stay sorted
+            m_signals->refresh();
+            QTRY_COMPARE(static_cast<std::size_t>(m_signals->list().topLevelItemCount()),
+                         m_watch.tracks().size());
+            QCoreApplication::processEvents();
+            double before = order == Qt::AscendingOrder ? -1e18 : 1e18;
+            for (int row = 0; row < m_signals->list().topLevelItemCount(); ++row) {
+                const auto* item =
+                    static_cast<CheckSortListViewItem*>(m_signals->list().topLevelItem(row));
+                const SignalTrack* track = m_watch.track(std::uint32_t(item->GetId()));
+                QVERIFY(track != nullptr);
+                const double values[] = {0,
+                                         track->signal.centreHz,
+                                         qRound(track->signal.peakDb * 10) / 10.0,
+                                         track->signal.bandwidthHz(),
+                                         0,
+                                         double(track->firstSeenUs),
+                                         double(track->lastSeenUs)};
+                const double value = values[column];
+                QVERIFY(order == Qt::AscendingOrder ? value >= before : value <= before);
+                before = value;
+            }
+        }
+    }
+
+    void rowsChangeInPlace()
+    {
+        showUntil(30);
+        const std::uint32_t id = m_watch.tracks().front().id;
+        CheckSortListViewItem* item = itemOf(id);
+        QVERIFY(item != nullptr);
+        QCOMPARE(item->text(SignalsPane::LastSeen), QStringLiteral("00:00:30"));
+        QVERIFY(item->text(SignalsPane::Frequency).endsWith(QLatin1String(" MHz")));
+        QVERIFY(item->text(SignalsPane::Level).endsWith(QLatin1String(" dB")));
+        QCOMPARE(item->text(SignalsPane::Type), GuiBase::Instance().GetSignalType('h'));
+        QCOMPARE(item->icon(SignalsPane::Type).pixmap(12).toImage().pixelColor(5, 5),
+                 paneColor(IColorBase::SignalTypeH));
+        m_watch.showSweep(31, 30);
+        m_signals->refresh();
+        QTRY_COMPARE(item->text(SignalsPane::LastSeen), QStringLiteral("00:00:31"));
+        QCOMPARE(itemOf(id), item);
+
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
+        m_signals->refreshTexts();
+        QVERIFY(item->text(SignalsPane::Frequency).endsWith(QLatin1String(" kHz")));
+
+        m_signals->hide(); // what is not seen costs nothing, and comes with the next look
+        m_watch.showSweep(32, 31);
+        m_signals->refresh();
+        QCoreApplication::processEvents();
+        QCOMPARE(item->text(SignalsPane::LastSeen), QStringLiteral("00:00:31"));
+        m_signals->show();
+        QCOMPARE(item->text(SignalsPane::LastSeen), QStringLiteral("00:00:32"));
+    }
+
+    void cursorFollowsWhatTheUserChose()
+    {
+        showUntil(30);
+        QSignalSpy chosen(m_signals.get(), &SignalsPane::signalChosen);
+        QSignalSpy moved(m_signals.get(), &SignalsPane::followedMoved);
+        const SignalTrack drifter = *std::ranges::find(m_watch.tracks(), 'i', &SignalTrack::type);
+        const SignalTrack station = m_watch.tracks().front();
+        m_signals->list().setCurrentItem(itemOf(drifter.id));
+        QCOMPARE(chosen.size(), 1);
+        QCOMPARE(chosen.last().first().toDouble(), drifter.signal.centreHz);
+
+        const auto boxOf = [this](std::uint32_t id) {
+            return qobject_cast<QCheckBox*>(m_signals->list().itemWidget(itemOf(id), 0));
+        };
+        boxOf(station.id)->click();
+        boxOf(drifter.id)->click(); // one at a time
+        QVERIFY(!itemOf(station.id)->isOn());
+        QCOMPARE(m_signals->followed(), drifter.id);
+        moved.clear();
+        m_watch.showSweep(31, 30);
+        m_signals->refresh();
+        QCOMPARE(moved.size(), 1);
+        QVERIFY(moved.last().first().toDouble() != drifter.signal.centreHz);
+        boxOf(drifter.id)->click();
+        QCOMPARE(m_signals->followed(), 0U);
+
+        m_watch.setRecording(nullptr); // all rows go, and nobody chose another one
+        m_signals->refresh();
+        QTRY_COMPARE(m_signals->list().topLevelItemCount(), 0);
+        QCOMPARE(chosen.size(), 1);
+    }
+
+    void columnsAreKept()
+    {
+        m_signals->list().setColumnHidden(SignalsPane::Level, true);
+        m_signals->list().setColumnWidth(SignalsPane::Type, 211);
+        m_signals.reset();
+        m_signals = std::make_unique<SignalsPane>(&m_watch);
+        QVERIFY(m_signals->list().isColumnHidden(SignalsPane::Level));
+        QCOMPARE(m_signals->list().columnWidth(SignalsPane::Type), 211);
+    }
+
+    void readsLeniently_data()
+    {
+        QTest::addColumn<QString>("frequency");
+        QTest::addColumn<QString>("level");
+        QTest::addColumn<double>("hertz"); // NaN where the text is refused
+        QTest::addColumn<double>("levelDb");
+        const double none = qQNaN();
+        const auto row = [](const char* frequency, const char* level, double hertz, double db) {
+            QTest::addRow("%s, %s", frequency, level)
+                << QString::fromUtf8(frequency) << QString::fromUtf8(level) << hertz << db;
+        };
+        row("98.1", "-40", 98.1e6, -40);
+        row(" 98,1 ", "-40,5 dB", 98.1e6, -40.5);
+        row("98100 kHz", "-40dBm", 98.1e6, -40);
+        row("0.0981g", "3 dB\u00b5V/m", 98.1e6, 3);
+        row("98100000 Hz", "\u221240", 98.1e6, -40);
+        row("", "", none, none);
+        row("0", "1001", none, none);
+        row("-5", "loud", none, none);
+        row("tomorrow", "dB", none, none);
+        row("1e9 GHz", "-40 - 3", none, none);
+    }
+
+    void readsLeniently()
+    {
+        QFETCH(double, hertz);
+        QFETCH(double, levelDb);
+        QFETCH(QString, frequency);
+        QFETCH(QString, level);
+        QCOMPARE(ReferenceLevels::readFrequency(frequency).value_or(qQNaN()), hertz);
+        QCOMPARE(ReferenceLevels::readLevel(level).value_or(qQNaN()), levelDb);
+        if (!qIsNaN(hertz)) {
+            GuiBase::Instance().SetFrequencyResolution(UnitPrefix::Kilo);
+            const QString written = ReferenceLevels::writeFrequency(hertz + 0.25);
+            QCOMPARE(ReferenceLevels::readFrequency(written), hertz + 0.25);
+            GuiBase::Instance().SetFrequencyResolution(UnitPrefix::BaseUnit);
+        }
+    }
+
+    void levelsAreReadMarkedAndKept()
+    {
+        const std::vector<LevelPoint> expected{{95e6, -30}, {98.1e6, -40}};
+        for (const bool first : {true, false}) {
+            LevelsPane pane;
+            pane.show();
+            SortRowTable& table = pane.table();
+            if (first) {
+                QSignalSpy changed(&pane, &LevelsPane::pointsChanged);
+                table.addRows({{QStringLiteral("98100 k"), QStringLiteral("-40")},
+                               {QStringLiteral("soon"), QStringLiteral("-50")},
+                               {QStringLiteral("95"), QStringLiteral("-30 dB")},
+                               {QStringLiteral("96"), QStringLiteral("quiet")}});
+                QTRY_COMPARE(changed.size(), 1);
+            }
+            QCOMPARE(pane.points(), expected);
+            QCOMPARE(table.rowCount(), 4);
+            int marks = 0;
+            for (int cell = 0; cell < 8; ++cell)
+                marks += table.item(cell / 2, cell % 2)->icon().isNull() ? 0 : 1;
+            QCOMPARE(marks, 2);
+            QCOMPARE(table.item(0, 0)->text(), QStringLiteral("95.000000 MHz"));
+            GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
+            pane.refreshTexts();
+            QCOMPARE(table.item(0, 0)->text(), QStringLiteral("95000.000 kHz"));
+            QCOMPARE(pane.points(), expected);
+            GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
+        }
+        LevelsPane pane;
+        pane.table().item(2, 0)->setText(QStringLiteral("nothing"));
+        pane.table().item(0, 1)->setText(QStringLiteral("-31"));
+        QTRY_COMPARE(pane.points(), (std::vector<LevelPoint>{{95e6, -31}}));
+        pane.table().slotClearAll();
+        QTRY_VERIFY(pane.points().empty());
+    }
+};
+
+QTEST_MAIN(tst_Lists)
+#include "tst_lists.moc"
