@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/lists/qheaderviewcolumnhandler.h>
+
+#include <trovappstartup/cfgcenter.h>
+
+#include "menuvisitor.h"
+#include "support/randombytes.h"
+#include "support/testguard.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QMenu>
+#include <QStandardItemModel>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+using guiHelper::QHeaderViewColumnHandler;
+
+const QString stateKey = QStringLiteral("QHeaderViewColumnSettings_name_STATE");
+
+struct Header
+{
+    Header(int sections, Qt::Orientation orientation)
+        : model(orientation == Qt::Horizontal ? 1 : sections,
+                orientation == Qt::Horizontal ? sections : 1)
+        , view(std::make_unique<QHeaderView>(orientation))
+    {
+        view->setModel(&model);
+        view->setSectionsMovable(true);
+        handler = new QHeaderViewColumnHandler(QStringLiteral("name"), view.get());
+    }
+
+    QStandardItemModel model;
+    std::unique_ptr<QHeaderView> view;
+    QPointer<QHeaderViewColumnHandler> handler;
+};
+
+void disarrange(QHeaderView& header, RandomBytes& random)
+{
+    for (int change = random.below(6); change > 0 && header.count() > 0; --change) {
+        const int section = random.below(header.count());
+        switch (random.below(5)) {
+        case 0:
+            header.moveSection(section, random.below(header.count()));
+            break;
+        case 1:
+            header.setSectionHidden(section, random.below(3) > 0);
+            break;
+        case 2:
+            header.setSortIndicator(section, Qt::DescendingOrder);
+            break;
+        case 3:
+            header.setSectionResizeMode(section, QHeaderView::ResizeMode(random.below(4)));
+            break;
+        default:
+            header.resizeSection(section, random.below(500));
+        }
+    }
+    header.setStretchLastSection(random.below(2) == 0);
+    if (random.below(4) == 0)
+        header.setDefaultSectionSize(10 + random.below(100));
+}
+
+void storeState(const QByteArray& state)
+{
+    CfgCenter::GetAppCfg(SettingsView)->SetString(stateKey, QString::fromLatin1(state.toBase64()));
+}
+
+/// Whether the header is still in one piece.
+bool isSound(const QHeaderView& header, int sections)
+{
+    QSet<int> seen;
+    for (int place = 0; place < header.count(); ++place)
+        seen.insert(header.logicalIndex(place));
+    return header.count() == sections && seen.size() == sections && !seen.contains(-1);
+}
+
+void openMenu(QHeaderView& header, std::function<void(QMenu&)> visit)
+{
+    const MenuVisitor visitor(std::move(visit));
+    Q_EMIT header.customContextMenuRequested(QPoint(1, 1));
+    QVERIFY(visitor.hasSeenMenu());
+}
+
+} // namespace
+
+class HeaderColumns : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { m_guard = std::make_unique<TestGuard>(); }
+    void cleanup()
+    {
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+    void menu();
+    void handlerAndHeaderMayGo();
+    void statesComeBack();
+    void otherHeadersStates();
+    void hostileStates();
+
+private:
+    std::unique_ptr<TestGuard> m_guard;
+};
+
+void HeaderColumns::menu()
+{
+    Header header(2, Qt::Horizontal);
+    header.model.setHorizontalHeaderLabels({QStringLiteral("A"), QStringLiteral("B")});
+    header.view->show();
+    openMenu(*header.view, [](QMenu& menu) {
+        QCOMPARE(menu.actions().size(), 2);
+        QCOMPARE(menu.actions().at(1)->text(), QStringLiteral("B"));
+        MenuVisitor::choose(menu, 1);
+    });
+    QVERIFY(header.view->isSectionHidden(1));
+    openMenu(*header.view, [](QMenu& menu) {
+        QCOMPARE(menu.actions().size(), 4);
+        QVERIFY(!menu.actions().at(0)->isEnabled() && !menu.actions().at(1)->isChecked());
+        MenuVisitor::choose(menu, 3);
+    });
+    QCOMPARE(header.view->hiddenSectionCount(), 0);
+}
+
+void HeaderColumns::handlerAndHeaderMayGo()
+{
+    Header header(2, Qt::Horizontal);
+    header.view->show();
+    openMenu(*header.view, [&header](QMenu&) { header.view.reset(); });
+    QVERIFY(!header.handler);
+    QHeaderViewColumnHandler alone(QStringLiteral("name"), nullptr);
+    alone.saveColumnStatus();
+    alone.restoreColumnStatus();
+    QVERIFY(!CfgCenter::GetAppCfg(SettingsView)->Contains(stateKey));
+}
+
+void HeaderColumns::statesComeBack()
+{
+    RandomBytes random("header states");
+    for (int round = RandomBytes::rounds(300); round > 0; --round) {
+        const auto orientation = random.below(2) == 0 ? Qt::Horizontal : Qt::Vertical;
+        const int sections = random.below(20);
+        const int added = random.below(3);
+        Header stored(sections, orientation);
+        Header restored(sections + added, orientation);
+        disarrange(*stored.view, random);
+        disarrange(*restored.view, random);
+        stored.handler->saveColumnStatus();
+        restored.handler->restoreColumnStatus();
+        QVERIFY(isSound(*restored.view, sections + added));
+        for (int section = 0; section < sections; ++section) {
+            QCOMPARE(restored.view->visualIndex(section), stored.view->visualIndex(section));
+            QCOMPARE(restored.view->isSectionHidden(section),
+                     stored.view->isSectionHidden(section));
+        }
+    }
+}
+
+void HeaderColumns::otherHeadersStates()
+{
+    Header header(3, Qt::Horizontal);
+    header.view->moveSection(0, 2);
+    header.handler->saveColumnStatus();
+    const QByteArray state = header.view->saveState();
+    Header fewer(2, Qt::Horizontal);
+    Header upright(3, Qt::Vertical);
+    Header stranger(3, Qt::Horizontal);
+    stranger.handler->setObjectName(QStringLiteral("stranger"));
+    for (Header* other : {&fewer, &upright, &stranger}) {
+        const QByteArray before = other->view->saveState();
+        other->handler->restoreColumnStatus();
+        QCOMPARE(other->view->saveState(), before);
+    }
+    header.view->moveSection(0, 2);
+    header.handler->restoreColumnStatus();
+    QCOMPARE(header.view->saveState(), state);
+}
+
+void HeaderColumns::hostileStates()
+{
+    RandomBytes random("hostile header states");
+    const auto survives = [](const QByteArray& state) {
+        Header header(5, Qt::Horizontal);
+        storeState(state);
+        header.handler->restoreColumnStatus();
+        header.view->resizeSections(QHeaderView::ResizeToContents);
+        header.model.insertColumn(0);
+        header.view->moveSection(5, 0);
+        return isSound(*header.view, 6);
+    };
+    Header original(5, Qt::Horizontal);
+    const auto newState = [&] {
+        disarrange(*original.view, random);
+        return original.view->saveState();
+    };
+    const QByteArray whole = newState();
+    for (qsizetype size = 0; size < whole.size(); ++size)
+        QVERIFY2(survives(whole.first(size)), whole.first(size).toHex());
+    for (int round = RandomBytes::rounds(500); round > 0; --round) {
+        const QByteArray state =
+            random.below(10) == 0 ? random.bytes(300) : random.mutated(newState());
+        QVERIFY2(survives(state), state.toHex());
+    }
+    CfgCenter::GetAppCfg(SettingsView)->SetString(stateKey, QStringLiteral("no base64!"));
+    original.handler->restoreColumnStatus();
+}
+
+QTEST_MAIN(HeaderColumns)
+#include "tst_headercolumns.moc"

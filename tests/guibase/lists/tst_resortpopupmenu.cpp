@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/lists/iupdatemenu.h>
+#include <guibase/lists/resortpopupmenu.h>
+
+#include "menuvisitor.h"
+#include "support/testguard.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+/// The ids of the entries, "-" for a separator and "?" for an entry without id.
+QString layout(const QMenu& menu)
+{
+    QStringList ids;
+    for (const QAction* entry : menu.actions()) {
+        bool isNumber = false;
+        const int id = entry->data().toInt(&isNumber);
+        ids << (entry->isSeparator() ? QStringLiteral("-")
+                : isNumber           ? QString::number(id)
+                                     : QStringLiteral("?"));
+    }
+    return ids.join(u' ');
+}
+
+class Receiver : public QObject
+{
+    Q_OBJECT
+public:
+    QStringList calls;
+
+public Q_SLOTS:
+    void byId(int id) { calls << QString::number(id); }
+    void byAction(QAction* action) { calls << action->text(); }
+    void plain() { calls << QStringLiteral("plain"); }
+};
+
+class Updater : public IUpdateMenu
+{
+public:
+    void UpdateMenu(ResortPopupMenu* menu) override
+    {
+        menu->RemoveAllEntries();
+        menu->insertItem(QStringLiteral("new"), ++shows, -1);
+        if (partner != nullptr)
+            menu->StopNotify(partner);
+    }
+
+    int shows = 0;
+    IUpdateMenu* partner = nullptr;
+};
+
+} // namespace
+
+class ResortPopupMenus : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_guard = std::make_unique<TestGuard>();
+        m_menu = std::make_unique<ResortPopupMenu>(nullptr, "Menu");
+    }
+    void cleanup()
+    {
+        m_menu.reset();
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+    void resorting_data();
+    void resorting();
+    void resortingOnIndex();
+    void ids();
+    void receivers();
+    void separators();
+    void updaters();
+    void entriesGoWhileTheyAreTriggered();
+
+private:
+    void fill(std::initializer_list<int> ids)
+    {
+        for (const int id : ids)
+            m_menu->insertItem(QStringLiteral("entry %1").arg(id), id, 0);
+    }
+
+    std::unique_ptr<TestGuard> m_guard;
+    std::unique_ptr<ResortPopupMenu> m_menu;
+};
+
+void ResortPopupMenus::resorting_data()
+{
+    QTest::addColumn<QList<int>>("order");
+    QTest::addColumn<bool>("isComplete");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("left out") << QList<int>{2, -1, 0} << true << "30 - 10";
+    QTest::newRow("beyond") << QList<int>{1, 3, 0} << false << "20";
+    QTest::newRow("negative") << QList<int>{-1, -2, 0} << false << "-";
+    QTest::newRow("twice") << QList<int>{0, 1, 0} << true << "20 10";
+    QTest::newRow("nothing") << QList<int>{} << true << "";
+}
+
+void ResortPopupMenus::resorting()
+{
+    QFETCH(QList<int>, order);
+    fill({10, 20, 30});
+    const QPointer<QAction> last(m_menu->findItem(30));
+    QTEST(m_menu->resort({order.begin(), order.end()}), "isComplete");
+    QTEST(layout(*m_menu), "expected");
+    QVERIFY(last);
+    // Separators of former orders do not pile up.
+    const auto children = m_menu->children().size();
+    for (int i = 0; i < 10; ++i)
+        m_menu->resort({-1, 0, -1});
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(m_menu->children().size() <= children + 3);
+}
+
+void ResortPopupMenus::resortingOnIndex()
+{
+    fill({30, 10, 20, 10});
+    m_menu->actions().at(3)->setText(QStringLiteral("second 10"));
+    m_menu->addAction(QStringLiteral("without id"));
+    m_menu->resortOnIndex();
+    QCOMPARE(layout(*m_menu), QStringLiteral("0 10 10 20 30"));
+    QCOMPARE(m_menu->actions().at(2)->text(), QStringLiteral("second 10"));
+    m_menu->addAction(QStringLiteral("without id"));
+    QVERIFY(m_menu->resort({5, 1}));
+    QCOMPARE(layout(*m_menu), QStringLiteral("5 10"));
+}
+
+void ResortPopupMenus::ids()
+{
+    QCOMPARE(m_menu->createUniqueId(), 5000);
+    fill({5000, 5002, 7});
+    m_menu->addAction(QStringLiteral("without id"));
+    QCOMPARE(m_menu->createUniqueId(), 5001);
+    QCOMPARE(m_menu->indexOf(7), 2);
+    QCOMPARE(m_menu->idAt(7), 2);
+    QCOMPARE(m_menu->indexOf(8), -1);
+    QVERIFY(m_menu->text(8).isNull() && m_menu->text(-1).isNull());
+    m_menu->changeItem(7, QStringLiteral("seven"));
+    QCOMPARE(m_menu->text(7), QStringLiteral("seven"));
+    m_menu->setItemChecked(7, true);
+    m_menu->setItemEnabled(7, false);
+    m_menu->setItemEnabled(8, false);
+    QVERIFY(m_menu->isItemChecked(7) && !m_menu->isItemEnabled(7) && !m_menu->isItemEnabled(8));
+    m_menu->EnableAllEntries(true);
+    m_menu->EnableEntry(QStringLiteral("entry 5000"), false);
+    QVERIFY(m_menu->isItemEnabled(7) && !m_menu->isItemEnabled(5000));
+    m_menu->setItemVisible(QStringLiteral("seven"), false);
+    QVERIFY(!m_menu->findItem(7)->isVisible());
+    m_menu->removeItem(5000);
+    m_menu->removeItem(5000);
+    QCOMPARE(layout(*m_menu), QStringLiteral("5002 7 ?"));
+}
+
+void ResortPopupMenus::receivers()
+{
+    Receiver receiver;
+    QSignalSpy activated(m_menu.get(), &ResortPopupMenu::signalActivated);
+    m_menu->insertItem(QStringLiteral("a"), &receiver, SLOT(byId(int)), {}, 1);
+    m_menu->insertItem(QStringLiteral("b"), &receiver, SLOT(byId(int)), {}, 2);
+    m_menu->insertItem(QStringLiteral("c"), &receiver, SLOT(plain()), {}, 3);
+    m_menu->insertItem(QStringLiteral("d"), nullptr, SLOT(plain()), {}, 4);
+    QAction* const without = m_menu->addAction(QStringLiteral("e"));
+    for (QAction* entry : m_menu->actions())
+        entry->trigger();
+    QCOMPARE(receiver.calls.join(u' '), QStringLiteral("1 2 3 plain 4"));
+    QCOMPARE(activated.size(), 4);
+    receiver.calls.clear();
+    m_menu->insertItem(QStringLiteral("f"), &receiver, SLOT(byAction(QAction*)), {}, -1);
+    without->trigger();
+    QCOMPARE(receiver.calls.join(u' '), QStringLiteral("e"));
+    m_menu->slotSignalRouter(nullptr);
+}
+
+void ResortPopupMenus::separators()
+{
+    m_menu->insertSeparatorBeforeIndex(3);
+    fill({1, 2});
+    m_menu->insertSeparatorBeforeIndex(2);
+    m_menu->insertSeparatorAfterIndex(-5);
+    m_menu->insertSeparatorAfterIndex(99);
+    QCOMPARE(layout(*m_menu), QStringLiteral("- - 1 - 2 -"));
+    m_menu->removeAllSeparators();
+    QCOMPARE(layout(*m_menu), QStringLiteral("1 2"));
+}
+
+void ResortPopupMenus::updaters()
+{
+    Updater first;
+    Updater second;
+    first.partner = &second;
+    m_menu->NotifyBeforeShow(&first);
+    m_menu->NotifyBeforeShow(&second);
+    m_menu->NotifyBeforeShow(nullptr);
+    QCursor::setPos(40, 50);
+    MenuVisitor::announceKeyboardGrab();
+    m_menu->popup(QPoint(10, 10));
+    QCOMPARE(layout(*m_menu), QStringLiteral("1"));
+    QCOMPARE(second.shows, 0);
+    QCOMPARE(m_menu->GetCursorPosOnShow(), QPoint(40, 50));
+    m_menu->close();
+}
+
+void ResortPopupMenus::entriesGoWhileTheyAreTriggered()
+{
+    fill({1, 2});
+    connect(m_menu.get(), &ResortPopupMenu::signalActivated, m_menu.get(),
+            &ResortPopupMenu::RemoveAllEntries);
+    MenuVisitor::announceKeyboardGrab();
+    m_menu->popup(QPoint(10, 10));
+    m_menu->setActiveAction(m_menu->findItem(1));
+    QTest::keyClick(m_menu.get(), Qt::Key_Return);
+    QCOMPARE(m_menu->actions().size(), 0);
+}
+
+QTEST_MAIN(ResortPopupMenus)
+#include "tst_resortpopupmenu.moc"

@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/lists/sortrowtable.h>
+
+#include "support/testguard.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+/// Answers the questions that come, one after another; the last answer for all that follow.
+class Answers : public QObject
+{
+public:
+    explicit Answers(std::function<void(QMessageBox&, int)> answer)
+    {
+        m_timer.callOnTimeout(this, [this, answer] {
+            const QPointer<QMessageBox> box(
+                qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
+            if (!box)
+                return;
+            texts << box->text();
+            answer(*box, static_cast<int>(texts.size()) - 1);
+        });
+        m_timer.start(1);
+    }
+
+    QStringList texts;
+
+private:
+    QTimer m_timer;
+};
+
+QString rowsOf(const QTableWidget& table)
+{
+    QStringList rows;
+    for (int row = 0; row < table.rowCount(); ++row)
+        rows << table.item(row, 0)->text() + u'/' + table.item(row, 1)->text();
+    return rows.join(u' ');
+}
+
+} // namespace
+
+class SortRowTables : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        m_guard = std::make_unique<TestGuard>();
+        m_table = std::make_unique<SortRowTable>(nullptr, "Table");
+        m_table->sortByColumn(0, Qt::AscendingOrder);
+        m_table->show();
+    }
+    void cleanup()
+    {
+        m_table.reset();
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+    void newRow();
+    void sorting();
+    void deleting_data();
+    void deleting();
+    void tableDiesInQuestion();
+    void parsing_data();
+    void parsing();
+    void copyAndPaste();
+
+private:
+    void fill(std::initializer_list<const char*> frequencies)
+    {
+        QList<QPair<QString, QString>> rows;
+        for (const char* frequency : frequencies)
+            rows.append({QString::fromLatin1(frequency), QStringLiteral("0")});
+        m_table->addRows(rows);
+    }
+
+    std::unique_ptr<TestGuard> m_guard;
+    std::unique_ptr<SortRowTable> m_table;
+};
+
+void SortRowTables::newRow()
+{
+    QTest::keyClick(m_table.get(), Qt::Key_Insert);
+    QCOMPARE(rowsOf(*m_table), QStringLiteral("/0"));
+    QTRY_VERIFY(m_table->findChild<QLineEdit*>() != nullptr);
+    auto* const editor = m_table->findChild<QLineEdit*>();
+    QTest::keyClicks(editor, QStringLiteral("12"));
+    QTest::keyClick(editor, Qt::Key_Delete);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_COMPARE(rowsOf(*m_table), QStringLiteral("12/0"));
+    m_table->slotClearAll();
+    QCOMPARE(m_table->rowCount(), 0);
+}
+
+void SortRowTables::sorting()
+{
+    fill({"b", "100", "9.5 MHz", "a", "-3"});
+    QCOMPARE(rowsOf(*m_table), QStringLiteral("-3/0 9.5 MHz/0 100/0 a/0 b/0"));
+    m_table->sortByColumn(0, Qt::DescendingOrder);
+    QCOMPARE(m_table->item(0, 0)->text(), QStringLiteral("b"));
+}
+
+void SortRowTables::deleting_data()
+{
+    QTest::addColumn<QList<int>>("answers");
+    QTest::addColumn<int>("questions");
+    QTest::addColumn<QString>("left");
+    constexpr int yes = QMessageBox::Yes;
+    constexpr int no = QMessageBox::No;
+    QTest::newRow("yes") << QList<int>{yes, yes, yes} << 3 << "4/0";
+    QTest::newRow("no") << QList<int>{yes, no, yes} << 3 << "2/0 4/0";
+    QTest::newRow("yes to all") << QList<int>{no, QMessageBox::YesToAll} << 2 << "1/0 4/0";
+    QTest::newRow("no to all") << QList<int>{yes, QMessageBox::NoToAll} << 2 << "2/0 3/0 4/0";
+}
+
+void SortRowTables::deleting()
+{
+    QFETCH(QList<int>, answers);
+    fill({"1", "2", "3", "4"});
+    m_table->setRangeSelected(QTableWidgetSelectionRange(0, 0, 2, 1), true);
+    const Answers given([&answers](QMessageBox& box, int question) {
+        QCOMPARE(box.defaultButton(), box.button(QMessageBox::Yes));
+        box.button(QMessageBox::StandardButton(answers.value(question, QMessageBox::NoToAll)))
+            ->click();
+    });
+    QTest::keyRelease(m_table.get(), Qt::Key_Delete);
+    QTEST(rowsOf(*m_table), "left");
+    QTEST(int(given.texts.size()), "questions");
+    QCOMPARE(given.texts.first(), QStringLiteral("Do you want to delete item \"1, 0\"?"));
+    m_table->clearSelection();
+    m_table->setCurrentItem(nullptr);
+    m_table->slotDelete(); // nothing to ask for
+}
+
+void SortRowTables::tableDiesInQuestion()
+{
+    fill({"1", "2"});
+    m_table->selectAll();
+    const Answers given([this](QMessageBox&, int) { m_table.reset(); });
+    m_table->slotDelete();
+    QVERIFY(!m_table);
+}
+
+void SortRowTables::parsing_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("rows");
+    QTest::newRow("tabs") << "1\t2\n3\t\n"
+                          << "1/2 3/";
+    QTest::newRow("semicolons, line ends") << "1;2\r\n;4\r\r5"
+                                           << "1/2 /4 5/";
+    QTest::newRow("quoted") << "\"a b\"\t\"c\""
+                            << "a b/c";
+    QTest::newRow("blanks") << "  1   2  3 "
+                            << "1/2";
+    QTest::newRow("nothing") << " \n\t\n;;"
+                             << "";
+}
+
+void SortRowTables::parsing()
+{
+    QFETCH(QString, text);
+    QStringList rows;
+    for (const auto& [frequency, level] : SortRowTable::parseRows(text))
+        rows << frequency + u'/' + level;
+    QTEST(rows.join(u' '), "rows");
+}
+
+void SortRowTables::copyAndPaste()
+{
+    fill({"3", "1"});
+    QClipboard* const clipboard = QGuiApplication::clipboard();
+    m_table->selectAll();
+    QTest::keySequence(m_table.get(), QKeySequence::Copy);
+    QCOMPARE(clipboard->text(), QStringLiteral("1\t0\n3\t0"));
+    clipboard->setText(QStringLiteral("2\t7\n4;8"));
+    QTest::keySequence(m_table.get(), QKeySequence::Paste);
+    QCOMPARE(rowsOf(*m_table), QStringLiteral("1/0 2/7 3/0 4/8"));
+    m_table->setCurrentCell(0, 1);
+    clipboard->setText(QStringLiteral("55"));
+    m_table->slotPaste();
+    QCOMPARE(rowsOf(*m_table), QStringLiteral("1/55 2/7 3/0 4/8"));
+}
+
+QTEST_MAIN(SortRowTables)
+#include "tst_sortrowtable.moc"
