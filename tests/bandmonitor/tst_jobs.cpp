@@ -48,6 +48,7 @@ class tst_Jobs : public QObject
     void makeWindow()
     {
         m_window = std::make_unique<MainWindow>();
+        m_window->resize(700, 600); // fits on any screen with its frame
         GuiBase::Instance().RegisterPersistentWidget(m_window.get(), QStringLiteral("main"));
         m_window->announceModes();
         m_window->show();

@@ -163,6 +163,8 @@ void SignalsPane::update()
     }
     if (sortingChanged)
         m_list->sort();
+    if (!m_rows.contains(m_followed))
+        followSuccessor();
 }
 
 void SignalsPane::removeGone()
@@ -175,8 +177,6 @@ void SignalsPane::removeGone()
         if (m_list->currentItem() == row.item)
             m_list->setCurrentItem(nullptr);
         delete row.item;
-        if (m_followed == id)
-            m_followed = 0;
         return true;
     });
 }
@@ -295,8 +295,23 @@ void SignalsPane::follow(std::uint32_t id)
 void SignalsPane::tellFollowed()
 {
     const SignalTrack* track = m_followed != 0 ? m_watch->track(m_followed) : nullptr;
-    if (track != nullptr && track->isPresent())
-        Q_EMIT followedMoved(track->signal.centreHz);
+    if (track == nullptr || !track->isPresent())
+        return;
+    m_followedSignal = track->signal;
+    Q_EMIT followedMoved(track->signal.centreHz);
+}
+
+void SignalsPane::followSuccessor()
+{
+    if (m_followed == 0)
+        return;
+    std::uint32_t successor = 0;
+    for (const SignalTrack& track : m_watch->tracks()) {
+        const double centre = track.signal.centreHz;
+        if (centre >= m_followedSignal.lowHz && centre <= m_followedSignal.highHz)
+            successor = track.id;
+    }
+    follow(successor);
 }
 
 } // namespace bandmonitor

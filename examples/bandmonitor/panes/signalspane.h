@@ -35,6 +35,7 @@ public:
     /// The time between two updates of the list; 200 ms by default.
     void setUpdateInterval(std::chrono::milliseconds interval);
     /// The track that the cursor follows; 0 for none. A track that is not in the list is ignored.
+    /// When the watch begins anew, the new track at the same frequency takes its place.
     void follow(std::uint32_t id);
     std::uint32_t followed() const { return m_followed; }
 
@@ -71,6 +72,7 @@ private:
     void choose(SortListViewItem* item);
     void checkToggled(std::uint32_t id, bool on);
     void tellFollowed();
+    void followSuccessor();
 
     const SignalWatch* m_watch;
     FrequencyText m_text;
@@ -80,6 +82,7 @@ private:
     QTimer m_rest;
     QTimer m_keepColumns;
     std::uint32_t m_followed = 0;
+    Signal m_followedSignal; ///< As it was last seen.
     bool m_isStale = false;
     bool m_isUpdating = false;
 };
