@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "applicationcolors_p.h"
 
+#include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
 
 void ApplicationColors::ensure()
 {
     ColorSet::Instance();
+}
+
+void ApplicationColors::readSystemColors()
+{
+    Colors::Instance().RestoreSystemColors();
 }
 
 void ApplicationColors::restoreFactoryColors()
@@ -23,4 +29,10 @@ QString ApplicationColors::load(const QString& fileName)
 QString ApplicationColors::activeName()
 {
     return ColorSet::Instance().GetName();
+}
+
+int ApplicationColors::signalTypeIndex(char letter)
+{
+    ensure();
+    return ColorSet::Type2Index(letter);
 }

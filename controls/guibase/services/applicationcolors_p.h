@@ -8,10 +8,15 @@ namespace ApplicationColors {
 
 /// Makes sure that the colour set is there.
 void ensure();
+/// Takes the system colours from the application's palette: the colour set may have been made before
+/// there was one.
+void readSystemColors();
 void restoreFactoryColors();
 /// Loads the colour set from the file; an empty name changes nothing. Returns the name of the set
 /// that is active then.
 QString load(const QString& fileName);
 QString activeName();
+/// The number of the signal type with this letter, from 0 for 'a'; any letter is taken.
+int signalTypeIndex(char letter);
 
 } // namespace ApplicationColors

@@ -2,6 +2,7 @@
 #include "dockrestore_p.h"
 
 #include "dockstatecheck_p.h"
+#include "floatingdockkeeper_p.h"
 
 #include <QDockWidget>
 #include <QMainWindow>
@@ -34,5 +35,7 @@ void DockRestore::restore(QMainWindow& window, const QByteArray& state)
             window.addDockWidget(area, dock);
             dock->setHidden(wasHidden);
         }
+        if (dock && dock->isFloating() && dock->isVisible())
+            FloatingDockKeeper::keep(*dock);
     }
 }

@@ -83,16 +83,16 @@ void DockWalk::row(int depth)
     const quint8 marker = m_walk.byte();
     m_walk.expect(depth <= DockStateCheck::maximumDepth);
     m_walk.expect(marker == rowMarker || marker == tabsMarker);
-    const bool isTabs = marker == tabsMarker;
-    const qint32 current = isTabs ? m_walk.number() : -1;
+    const qint32 current = marker == tabsMarker ? m_walk.number() : -1;
     m_walk.byte(1, 2); // orientation
     const qint32 items = count(1, m_docks);
     m_walk.expect(current >= -1 && current < items);
     for (qint32 i = 0; i < items && m_walk.isFine(); ++i) {
-        if (m_walk.byte() == dockMarker) {
+        const quint8 item = m_walk.byte();
+        if (item == dockMarker) {
             dock();
         } else {
-            m_walk.expect(!isTabs);
+            m_walk.expect(item == rowMarker); // Also where its row holds tabs.
             extent();
             row(depth + 1);
         }

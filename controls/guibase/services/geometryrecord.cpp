@@ -32,15 +32,12 @@ std::optional<GeometryRecord> GeometryRecord::fromBytes(const QByteArray& bytes)
     stream.setVersion(QDataStream::Qt_4_8);
     GeometryRecord record;
     quint32 magic = 0;
-    quint8 maximized = 0;
-    quint8 fullScreen = 0;
     stream >> magic >> record.version >> record.minorVersion;
     if (magic != magicNumber || record.version < 1 || record.version > std::size(sizeOfVersion) ||
         bytes.size() != sizeOfVersion[record.version - 1])
         return std::nullopt;
-    stream >> record.frame >> record.normal >> record.screen >> maximized >> fullScreen;
-    record.isMaximized = maximized != 0;
-    record.isFullScreen = fullScreen != 0;
+    stream >> record.frame >> record.normal >> record.screen >> record.maximized >>
+        record.fullScreen;
     record.geometry = record.normal;
     if (record.version >= 2)
         stream >> record.screenWidth;
@@ -48,7 +45,7 @@ std::optional<GeometryRecord> GeometryRecord::fromBytes(const QByteArray& bytes)
         stream >> record.geometry;
     const bool isWhole = stream.status() == QDataStream::Ok;
     if (!isWhole || !isPlausible(record.frame) || !isPlausible(record.normal) ||
-        !isPlausible(record.geometry) || maximized > 1 || fullScreen > 1)
+        !isPlausible(record.geometry))
         return std::nullopt;
     return record;
 }
@@ -58,8 +55,8 @@ QByteArray GeometryRecord::toBytes() const
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_4_8);
-    stream << magicNumber << version << minorVersion << frame << normal << screen
-           << quint8{isMaximized} << quint8{isFullScreen};
+    stream << magicNumber << version << minorVersion << frame << normal << screen << maximized
+           << fullScreen;
     if (version >= 2)
         stream << screenWidth;
     if (version >= 3)

@@ -16,11 +16,12 @@ struct GeometryRecord
     QRect frame;              ///< With the frame that the window manager drew.
     QRect normal;             ///< Without it, as when neither maximized nor full screen.
     qint32 screen = 0;        ///< Index of the screen.
-    bool isMaximized = false;
-    bool isFullScreen = false;
-    qint32 screenWidth = 0; ///< 0 before version 2: not known.
-    QRect geometry;         ///< Without the frame, as it was; `normal` before version 3.
+    quint8 maximized = 0;     ///< Not 0 when it was.
+    quint8 fullScreen = 0;    ///< Not 0 when it was.
+    qint32 screenWidth = 0;   ///< 0 before version 2: not known.
+    QRect geometry;           ///< Without the frame, as it was; `normal` before version 3.
 
+    bool isNormal() const { return maximized == 0 && fullScreen == 0; }
     bool operator==(const GeometryRecord&) const = default;
 
     /// Nothing for bytes of another length, magic number or version, and for rectangles with a

@@ -3,6 +3,7 @@
 
 #include "applicationcolors_p.h"
 #include "applicationsetup_p.h"
+#include "columntable_p.h"
 #include "displaysettings_p.h"
 #include "helpmenu_p.h"
 #include "hotkeyoverview_p.h"
@@ -10,6 +11,7 @@
 #include "persistentwidgetregistry_p.h"
 #include "signaltypenames_p.h"
 #include "splashforwarder_p.h"
+#include "splittertable_p.h"
 #include "styleloader_p.h"
 #include "tracing_p.h"
 #include "windowhelpers_p.h"
@@ -21,6 +23,9 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
+
+#include <mutex>
 
 class GuiBasePrivate
 {
@@ -31,7 +36,11 @@ public:
     HelpMenu helpMenu;
     HotKeyRegistry hotKeys;
     PersistentWidgetRegistry persistentWidgets;
+    ColumnTable columns;
+    SplitterTable splitters;
     QString colorDefinitionFile;
+    /// While the stored colour set is loaded, which may take a question to the user.
+    bool isLoadingColors = false;
     QPointer<QApplication> application;
     QPointer<QWidget> mainWidget;
     /// Tells the main widget from others also while it is destroyed; never dereferenced.
@@ -51,10 +60,10 @@ GuiBasePrivate::GuiBasePrivate(GuiBase& services)
                static_cast<int>(SelectionStorage::ByKey));
 }
 
-// The constructor uses the configuration centre and registers with the start-up library, so that
-// what these keep for the process is made before, and destroyed after, the services.
+// The colour set is made first, so that it is destroyed after the services: they ask for its name
+// when the application ends, which may be as late as the destruction of static objects.
 GuiBase::GuiBase()
-    : d(std::make_unique<GuiBasePrivate>(*this))
+    : d((ApplicationColors::ensure(), std::make_unique<GuiBasePrivate>(*this)))
 {
     CfgCenter::RegisterSaveComponent(this);
 }
@@ -83,6 +92,7 @@ void GuiBase::SetApplication(QApplication* application)
     if (ApplicationSetup::installLanguage())
         d->settings.translateItems();
     ApplicationSetup::replaceMessageDialog();
+    ApplicationColors::readSystemColors();
     if (d->record.Exists()) {
         ApplicationColors::restoreFactoryColors();
         Load();
@@ -98,8 +108,13 @@ void GuiBase::SetMainWidget(QWidget* widget)
 {
     if (widget == d->mainWidgetIdentity)
         return;
-    if (!d->application)
+    if (!d->application) {
+        // Reading the settings may ask the user something, and the widget may die meanwhile.
+        const QPointer<QWidget> guard(widget);
         SetApplication(qobject_cast<QApplication*>(QCoreApplication::instance()));
+        if (guard != widget || widget == d->mainWidgetIdentity)
+            return;
+    }
     if (d->mainWidgetIdentity != nullptr) {
         disconnect(d->mainWidgetConnection);
         d->persistentWidgets.unregisterWidget(d->mainWidgetIdentity);
@@ -123,7 +138,6 @@ void GuiBase::SlotMainWidgetDestroyed(QObject* object)
 {
     if (object == nullptr || object != d->mainWidgetIdentity)
         return;
-    d->persistentWidgets.dropDestroyed(object);
     SetMainWidget(nullptr);
     if (d->application)
         QCoreApplication::quit();
@@ -343,48 +357,58 @@ void GuiBase::SavePersistant()
     StoreSplitterSizes2Cfg();
 }
 
-void GuiBase::setMode(long)
+void GuiBase::setMode(long mode)
 {
-    // A window's geometry is the same in all modes.
-    d->persistentWidgets.capture();
+    d->persistentWidgets.setMode(static_cast<quint32>(mode));
 }
 
-void GuiBase::storeFactoryDefaultWidgets(long)
+void GuiBase::storeFactoryDefaultWidgets(long mode)
 {
-    // The factory geometry is the one before the first record was applied, in all modes.
+    d->persistentWidgets.storeFactory(static_cast<quint32>(mode));
 }
 
-// Lists and splitters register their layouts themselves; without any there is nothing to keep.
+void GuiBase::SetLayoutWriteDelay(int milliseconds)
+{
+    d->persistentWidgets.setWriteDelay(milliseconds);
+}
 
-void GuiBase::ApplyColumnWidth4(const QString&, SortListView*) {}
+void GuiBase::ApplyColumnWidth4(const QString& name, SortListView* list)
+{
+    d->columns.apply(name, list);
+}
 
-void GuiBase::StoreColumnWidth4(const QString&, SortListView*) {}
+void GuiBase::StoreColumnWidth4(const QString& name, SortListView* list)
+{
+    d->columns.store(name, list);
+}
 
-void GuiBase::StoreColumnSizes2Cfg() {}
+void GuiBase::StoreColumnSizes2Cfg()
+{
+    d->columns.writeConfiguration();
+}
 
-void GuiBase::ApplySplitterSizes4(const QString&, Splitter*) {}
+void GuiBase::ApplySplitterSizes4(const QString& key, Splitter* splitter)
+{
+    d->splitters.apply(key, splitter);
+}
 
-void GuiBase::StoreSplitterSizes4(const QString&, Splitter*) {}
+void GuiBase::StoreSplitterSizes4(const QString& key, Splitter* splitter)
+{
+    d->splitters.store(key, splitter);
+}
 
-void GuiBase::StoreSplitterSizes2Cfg() {}
+void GuiBase::StoreSplitterSizes2Cfg()
+{
+    d->splitters.writeConfiguration();
+}
 
 // --- Hot keys ------------------------------------------------------------------------------------
 
 int GuiBase::AddHotKey(Qt::Key key, int modifiers, QObject* receiver, const QString& comment,
                        const QString& scope, bool onPress, bool listed)
 {
-    if (receiver != nullptr && !d->hotKeys.hasReceiver(receiver)) {
-        // By text: the receiver is of a type that is not known here.
-        if (receiver->metaObject()->indexOfMethod("slotHotKey(int)") >= 0) {
-            connect(this, SIGNAL(signalHotKey(int)), receiver, SLOT(slotHotKey(int)),
-                    Qt::QueuedConnection);
-        } else {
-            ErrorHandler::Trace(
-                ErrorHandler::TraceGuiBase, Tracing::module, __LINE__,
-                QStringLiteral("GuiBase::AddHotKey(): '%1' has no slot 'slotHotKey(int)'")
-                    .arg(QString::fromLatin1(receiver->metaObject()->className())));
-        }
-    }
+    if (receiver != nullptr && !d->hotKeys.hasReceiver(receiver))
+        HotKeyRegistry::connectReceiver(*this, *receiver);
     HotKey hotKey;
     hotKey.key = key;
     hotKey.modifiers = modifiers;
@@ -413,7 +437,10 @@ bool GuiBase::eventFilter(QObject* object, QEvent* event)
         return false;
     if (d->hotKeys.isRepeatedDelivery(object, *static_cast<QKeyEvent*>(event)))
         return false;
-    return handleHotKeyEvent(object, event);
+    const QPointer<QObject> guard(object);
+    const bool consumed = handleHotKeyEvent(object, event);
+    // A handler may have deleted the object: the toolkit must not deliver the event to it then.
+    return consumed || !guard;
 }
 
 bool GuiBase::handleHotKeyEvent(QObject*, QEvent* event)
@@ -421,7 +448,8 @@ bool GuiBase::handleHotKeyEvent(QObject*, QEvent* event)
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return false;
     // Handlers may run an event loop; keys that arrive meanwhile fire nothing.
-    if (!d->hotKeys.mutex.tryLock())
+    const std::unique_lock lock(d->hotKeys.mutex(), std::try_to_lock);
+    if (!lock)
         return false;
     const QKeyEvent& keyEvent = *static_cast<QKeyEvent*>(event);
     const int key = keyEvent.key();
@@ -432,7 +460,6 @@ bool GuiBase::handleHotKeyEvent(QObject*, QEvent* event)
     const QList<int> ids = d->hotKeys.matches(keyEvent);
     for (const int id : ids)
         Q_EMIT signalHotKey(id);
-    d->hotKeys.mutex.unlock();
     return !ids.isEmpty() && (key == Qt::Key_F10 || key == Qt::Key_F12);
 }
 
@@ -451,8 +478,7 @@ bool GuiBase::isDialogVisible()
 
 QString GuiBase::GetSignalType(char letter)
 {
-    ApplicationColors::ensure();
-    return signalTypeName(letter);
+    return signalTypeName(ApplicationColors::signalTypeIndex(letter));
 }
 
 QDockWidget* GuiBase::AddAsDockWidget(QWidget* widget, const QString& title,
@@ -532,11 +558,13 @@ void GuiBase::Write2Splash(QString text)
 
 void GuiBase::ApplyPersistantBeforeWrite()
 {
-    d->colorDefinitionFile = ApplicationColors::activeName();
+    if (!d->isLoadingColors)
+        d->colorDefinitionFile = ApplicationColors::activeName();
 }
 
 void GuiBase::ApplyPersistantAfterRead()
 {
+    const QScopedValueRollback loading(d->isLoadingColors, true);
     d->colorDefinitionFile = ApplicationColors::load(d->colorDefinitionFile);
 }
 

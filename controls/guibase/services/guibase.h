@@ -30,8 +30,9 @@ class ValueSelection;
 /// The services that all windows of an application share: display settings, style, help menu,
 /// splash, hot keys, and window layouts that come back after a restart.
 ///
-/// One object per process, made by the first Instance() and destroyed at process exit; everything
-/// that needs the application object is let go when the application is about to quit. GUI thread
+/// One object per process, made by the first Instance() and destroyed at process exit, so that it
+/// usually outlives the application object; it owns nothing that needs one. Objects with static
+/// storage that use it in their destructors must call Instance() in their constructors. GUI thread
 /// only. The class is a façade: each duty is done by a class of its own in this folder.
 class GUIBASE_EXPORT GuiBase : public QObject,
                                public PersistantOwner,
@@ -99,9 +100,12 @@ public:
 
     // --- Help ----------------------------------------------------------------------------------
 
-    /// Makes the Help menu: manual (F1), keyboard (Ctrl+F1) and, when the receiver has `infoSlot`,
-    /// info (Ctrl+Q). Slots are given as SLOT() makes them; null slots and receivers leave their
-    /// entries out, see the entries' comments in helpmenu.cpp. The menu belongs to `parent`.
+    /// Makes the Help menu: manual (F1), keyboard (Ctrl+F1) and info (Ctrl+Q). Slots are given as
+    /// SLOT() makes them. The manual entry opens `helpFile` (see slotHelpContents()), or calls the
+    /// receiver's `manualSlot` when that is given; there is none with a manual slot, but without a
+    /// receiver that has it. The info entry calls `infoSlot`; there is none without a receiver that
+    /// has it. A slot that the receiver lacks is reported by a trace. Warnings get `messageParent`,
+    /// or `parent` when that is null. The menu belongs to `parent`.
     QMenu* CreateHelpMenu(QWidget* parent, const QString& helpFile, QObject* infoReceiver,
                           const char* infoSlot, QWidget* messageParent, const char* manualSlot);
     QMenu* GetHelpMenu() const;
@@ -109,15 +113,33 @@ public:
 
     // --- Window layouts ------------------------------------------------------------------------
 
+    /// Applies what is stored for the name, shows the widget, and keeps its geometry (and the dock
+    /// layout of a main window, or of one in an MDI sub-window) from now on. Not owned. Nothing for
+    /// null and for a widget that is registered.
+    ///
+    /// Layouts are written when the application ends, and a while after each change. Windows whose
+    /// place is not on today's screens come back whole on the nearest one. Stored bytes that are
+    /// damaged are not applied; the record is kept aside under its name followed by "_damaged".
     void RegisterPersistentWidget(QWidget* widget, const QString& name);
     void UnregisterPersistentWidget(QWidget* widget);
+    /// Time from a change of a layout to its writing in milliseconds; negative switches writing off
+    /// until the application ends. Default 2000.
+    void SetLayoutWriteDelay(int milliseconds);
+    /// Actions for menus, which reset all windows; they belong to `parent`.
     QAction* CreateResetWidgetViewAction(QObject* parent);
     QAction* CreateResetFactoryViewAction(QObject* parent);
+    /// Gives every registered main window the dock layout that it had in the mode last; a mode that
+    /// is new to it starts with the present layout.
     void setMode(long mode);
+    /// Makes the present dock layouts the factory layouts of the mode.
     void storeFactoryDefaultWidgets(long mode);
+    /// Columns of lists, by the lists' names: applied as the configuration has them; stored only
+    /// while the list is visible. Null lists are ignored.
     void ApplyColumnWidth4(const QString& name, SortListView* list);
     void StoreColumnWidth4(const QString& name, SortListView* list);
     void StoreColumnSizes2Cfg();
+    /// Positions of splitters, by their storage names; see Splitter. Stored only while the splitter
+    /// is visible. Null splitters are ignored.
     void ApplySplitterSizes4(const QString& key, Splitter* splitter);
     void StoreSplitterSizes4(const QString& key, Splitter* splitter);
     void StoreSplitterSizes2Cfg();
@@ -183,8 +205,11 @@ private Q_SLOTS:
     void SlotMainWidgetDestroyed(QObject* object);
 
 public Q_SLOTS:
+    /// Bring all registered windows back to how they were when they were registered, or before any
+    /// stored layout was applied. False, and nothing done, when called from within one of the two.
     bool RestoreWidgetSize();
     bool RestoreFactoryWidgetSize();
+    /// Write the layouts of the windows; the second one writes everything that this object keeps.
     void StoreWidgetSize();
     void SavePersistant();
     void slotStyleChanged(int index);

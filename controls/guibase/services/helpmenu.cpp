@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "helpmenu_p.h"
 
+#include "modaldialogs_p.h"
 #include "tracing_p.h"
 
 #include <guibase/services/guibase.h>
@@ -12,7 +13,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QMetaMethod>
 
 namespace {
@@ -142,5 +142,5 @@ void HelpMenu::showManual() const
 
 void HelpMenu::warn(const QString& text) const
 {
-    QMessageBox::warning(messageParent, GuiBase::tr("Warning"), text, QMessageBox::Ok);
+    ModalDialogs::show(messageParent, {QMessageBox::Warning, GuiBase::tr("Warning"), text});
 }

@@ -2,12 +2,12 @@
 #include "hotkeyoverview_p.h"
 
 #include "hotkeyregistry_p.h"
+#include "modaldialogs_p.h"
 
 #include <guibase/services/guibase.h>
 
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QMessageBox>
 #include <QMetaEnum>
 #include <QTabWidget>
 #include <QTreeWidget>
@@ -62,8 +62,8 @@ QWidget* HotKeyOverview::createList(const QList<HotKey>& hotKeys, QWidget* paren
 void HotKeyOverview::exec(const QList<HotKey>& hotKeys, QWidget* parent)
 {
     if (hotKeys.isEmpty()) {
-        QMessageBox::information(parent, GuiBase::tr("HotKeys"), GuiBase::tr("No Hotkeys applied"),
-                                 QMessageBox::Ok);
+        ModalDialogs::show(parent, {QMessageBox::Information, GuiBase::tr("HotKeys"),
+                                    GuiBase::tr("No Hotkeys applied")});
         return;
     }
     // On the heap, and deleted by itself: the parent may die while the dialog is open.

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "hotkeyregistry_p.h"
 
+#include "guibase.h"
+#include "tracing_p.h"
+
 #include <QAction>
 #include <QKeyEvent>
 #include <QRegularExpression>
@@ -72,9 +75,17 @@ bool HotKeyRegistry::hasReceiver(const QObject* receiver) const
     });
 }
 
-const QList<HotKey>& HotKeyRegistry::hotKeys() const
+void HotKeyRegistry::connectReceiver(const GuiBase& services, const QObject& receiver)
 {
-    return m_hotKeys;
+    // By text: the receiver is of a type that is not known here.
+    if (receiver.metaObject()->indexOfMethod("slotHotKey(int)") >= 0) {
+        QObject::connect(&services, SIGNAL(signalHotKey(int)), &receiver, SLOT(slotHotKey(int)),
+                         Qt::QueuedConnection);
+        return;
+    }
+    ErrorHandler::Trace(ErrorHandler::TraceGuiBase, Tracing::module, __LINE__,
+                        QStringLiteral("GuiBase::AddHotKey(): '%1' has no slot 'slotHotKey(int)'")
+                            .arg(QString::fromLatin1(receiver.metaObject()->className())));
 }
 
 QList<HotKey> HotKeyRegistry::shownHotKeys() const

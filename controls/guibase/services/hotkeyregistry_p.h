@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QString>
 
+class GuiBase;
 class QAction;
 class QKeyEvent;
 
@@ -35,7 +36,6 @@ public:
     /// Enters the action's first shortcut and its text, only to be shown; nothing without shortcut.
     void addAction(const QAction& action, const QString& scope);
     bool hasReceiver(const QObject* receiver) const;
-    const QList<HotKey>& hotKeys() const;
     /// The hot keys that the overview shows: each combination with the same texts once.
     QList<HotKey> shownHotKeys() const;
     /// The ids of the hot keys that the event fires, in their order.
@@ -46,7 +46,11 @@ public:
     bool isRepeatedDelivery(const QObject* target, const QKeyEvent& event);
 
     /// Held while hot keys fire; a key event that arrives meanwhile is not examined.
-    QMutex mutex;
+    QMutex& mutex() { return m_mutex; }
+
+    /// Makes the services' signalHotKey(int) call the receiver's slotHotKey(int), queued. A receiver
+    /// without the slot is reported by a trace.
+    static void connectReceiver(const GuiBase& services, const QObject& receiver);
 
 private:
     struct Delivery
@@ -59,6 +63,7 @@ private:
         bool operator==(const Delivery&) const = default;
     };
 
+    QMutex m_mutex;
     QList<HotKey> m_hotKeys;
     Delivery m_lastDelivery;
     QPointer<const QObject> m_lastTarget;

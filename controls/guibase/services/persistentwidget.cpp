@@ -1,17 +1,58 @@
 // SPDX-License-Identifier: MIT
 #include "persistentwidget_p.h"
 
-#include "widgetgeometry_p.h"
+#include "dockrestore_p.h"
+#include "dockstatecheck_p.h"
+#include "hexadecimal_p.h"
+#include "widgetplacement_p.h"
 
-#include <QEvent>
+#include <jtbase/errorhandler.h>
+#include <jtbase/qtimerhelpers.h>
+#include <trovappstartup/cfgcenter.h>
+
+#include <QChildEvent>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QMdiSubWindow>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
+
+namespace {
+
+constexpr char module[] = "guibase/services/persistentwidget";
+
+/// How long window managers take to give a window its stored size, in milliseconds.
+constexpr int sizeMilliseconds = 2000;
+
+QMainWindow* mainWindowOf(QWidget* widget)
+{
+    if (auto* subWindow = qobject_cast<QMdiSubWindow*>(widget))
+        return qobject_cast<QMainWindow*>(subWindow->widget());
+    return qobject_cast<QMainWindow*>(widget);
+}
+
+bool isDockLayout(const QString& text)
+{
+    const auto state = Hexadecimal::decode(text);
+    return state && DockStateCheck::isValid(*state, DockRestore::stateVersion);
+}
+
+} // namespace
 
 PersistentWidget::PersistentWidget(QWidget* widget, const QString& recordName)
     : m_widget(widget)
+    , m_mainWindow(mainWindowOf(widget))
+    , m_hasMainWindow(m_mainWindow != nullptr)
     , m_identity(widget)
     , m_record(cleanedName(recordName), this)
 {
+    m_record.Add(&m_stateText, QStringLiteral("State"));
     m_record.Add(&m_geometryText, QStringLiteral("Geometry"));
+    m_record.Add(&m_isMinimized, QStringLiteral("Minimized"), false);
+    connect(widget, &QObject::destroyed, this, &PersistentWidget::slotWidgetDestroyed);
+    if (m_mainWindow && m_mainWindow != m_widget)
+        connect(m_mainWindow, &QObject::destroyed, this, &PersistentWidget::slotWidgetDestroyed);
+    CfgCenter::RegisterSaveComponent(this);
 }
 
 PersistentWidget::~PersistentWidget() = default;
@@ -25,6 +66,12 @@ QString PersistentWidget::cleanedName(QString name)
         .replace(QLatin1Char(' '), QLatin1Char('_'));
 }
 
+/// Null also while the main window is destroyed.
+QMainWindow* PersistentWidget::mainWindow() const
+{
+    return qobject_cast<QMainWindow*>(m_mainWindow);
+}
+
 QWidget* PersistentWidget::widget() const
 {
     return m_widget;
@@ -35,6 +82,18 @@ bool PersistentWidget::watches(const QObject* object) const
     return m_identity == object;
 }
 
+void PersistentWidget::slotWidgetDestroyed(QObject* object)
+{
+    if (object != m_identity)
+        return;
+    // Another object may get the address; what the widget looked like last stays.
+    m_widget.clear();
+    m_identity = nullptr;
+    write();
+}
+
+// --- Reading and writing -------------------------------------------------------------------------
+
 void PersistentWidget::read()
 {
     m_record.Read(QString());
@@ -42,75 +101,324 @@ void PersistentWidget::read()
 
 void PersistentWidget::write()
 {
+    // Captures on the way to the record are no news.
+    m_isChanged = true;
     m_record.Write(QString());
+    m_isChanged = false;
 }
 
-void PersistentWidget::writeLast()
+void PersistentWidget::writeChanges()
 {
-    m_widget.clear();
+    if (m_isChanged)
+        write();
+}
+
+void PersistentWidget::Save()
+{
     write();
 }
 
-void PersistentWidget::capture()
-{
-    if (m_widget && !m_widget->isMinimized())
-        m_geometryText = WidgetGeometry::toText(m_widget->saveGeometry());
-}
+void PersistentWidget::Load() {}
 
-bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
+void PersistentWidget::CommitData()
 {
-    switch (event->type()) {
-    case QEvent::MouseButtonRelease:
-    case QEvent::Move:
-    case QEvent::Resize:
-    case QEvent::Close:
-    case QEvent::WindowStateChange:
-        if (watched == m_widget)
-            capture();
-        break;
-    default:
-        break;
-    }
-    return false;
+    write();
 }
 
 void PersistentWidget::ApplyPersistantBeforeWrite()
 {
     capture();
+    m_stateText = StateRecord::encode(m_modes.texts());
 }
 
 void PersistentWidget::ApplyPersistantAfterRead()
 {
     if (!m_widget)
         return;
+    takeLayoutsFromRecord();
+    takeGeometryFromRecord();
+    applyStart();
+}
+
+void PersistentWidget::takeLayoutsFromRecord()
+{
+    std::optional<StateRecord::Layouts> layouts = StateRecord::decode(m_stateText);
+    if (!layouts) {
+        if (!m_stateText.isEmpty())
+            keepAside(QStringLiteral("the dock layouts cannot be read"));
+        layouts.emplace();
+    }
+    for (auto& [mode, text] : *layouts) {
+        if (text.isEmpty() || isDockLayout(text))
+            continue;
+        keepAside(QStringLiteral("the dock layout of mode %1 is damaged").arg(mode));
+        text.clear();
+    }
+    m_modes.load(*layouts);
+}
+
+void PersistentWidget::takeGeometryFromRecord()
+{
+    if (!m_geometryText.isEmpty() && WidgetPlacement::fromText(m_geometryText).isEmpty()) {
+        keepAside(QStringLiteral("the geometry is damaged"));
+        m_geometryText.clear();
+    }
+}
+
+/// Only the last damaged record of a widget is kept, and of an endless one only the beginning.
+void PersistentWidget::keepAside(const QString& reason)
+{
+    constexpr qsizetype longestText = 1 << 20;
+    const QString name = m_record.GetName() + QStringLiteral("_damaged");
+    const std::unique_ptr<ICfg> aside = CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(name);
+    aside->SetString(QStringLiteral("State"), m_stateText.left(longestText));
+    aside->SetString(QStringLiteral("Geometry"), m_geometryText.left(longestText));
+    aside->SetBool(QStringLiteral("Minimized"), m_isMinimized);
+    ErrorHandler::Trace(ErrorHandler::TraceGuiBase, module, __LINE__,
+                        QStringLiteral("Layout record \"%1\": %2; it is kept as \"%3\"")
+                            .arg(m_record.GetName(), reason, name));
+}
+
+// --- Capturing -----------------------------------------------------------------------------------
+
+template <typename T>
+void PersistentWidget::update(T& member, const T& value)
+{
+    if (member == value)
+        return;
+    member = value;
+    noteChange();
+}
+
+void PersistentWidget::noteChange()
+{
+    if (m_isChanged)
+        return;
+    m_isChanged = true;
+    Q_EMIT changed();
+}
+
+void PersistentWidget::capture()
+{
+    const QMainWindow* docks = mainWindow();
+    // An MDI sub-window that has lost its main window shrinks to nothing.
+    if (!m_widget || (m_hasMainWindow && docks == nullptr))
+        return;
+    if (!m_widget->isMinimized())
+        update(m_geometryText, Hexadecimal::encode(m_widget->saveGeometry()));
+    update(m_isMinimized, m_widget->isMinimized());
+    if (docks != nullptr && m_awaitingState.isEmpty())
+        update(m_modes.current().stateText, Hexadecimal::encode(DockRestore::save(*docks)));
+}
+
+bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isWindow = watched == m_widget || watched == m_mainWindow;
+    switch (event->type()) {
+    case QEvent::MouseButtonRelease:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Close:
+    case QEvent::WindowStateChange:
+        if (isWindow)
+            capture();
+        else
+            noteChange();
+        break;
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::LayoutRequest:
+        // Docks come, go and move; their places are captured with the next write.
+        noteChange();
+        break;
+    case QEvent::ChildPolished: {
+        QObject* child = static_cast<QChildEvent*>(event)->child();
+        if (watched == m_mainWindow && qobject_cast<QDockWidget*>(child) != nullptr)
+            child->installEventFilter(this);
+        break;
+    }
+    default:
+        break;
+    }
+    if (event->type() == QEvent::Resize && watched == m_mainWindow && !m_awaitingState.isEmpty())
+        QTimerHelpers::singleShot(0, this, [this] { Q_EMIT resized(); });
+    return false;
+}
+
+void PersistentWidget::watch()
+{
+    if (m_widget)
+        m_widget->installEventFilter(this);
+    if (m_mainWindow && m_mainWindow != m_widget)
+        m_mainWindow->installEventFilter(this);
+    watchDocks();
+}
+
+void PersistentWidget::unwatch()
+{
+    if (m_widget)
+        m_widget->removeEventFilter(this);
+}
+
+void PersistentWidget::watchDocks()
+{
+    if (!m_mainWindow)
+        return;
+    const auto docks = m_mainWindow->findChildren<QDockWidget*>();
+    for (QDockWidget* dock : docks)
+        dock->installEventFilter(this);
+}
+
+// --- Applying ------------------------------------------------------------------------------------
+// Every call into the toolkit may run handlers of the application, which may delete the widget.
+
+void PersistentWidget::applyStart()
+{
+    unwatch();
     if (m_factoryGeometry.isEmpty())
         m_factoryGeometry = m_widget->saveGeometry();
-    m_startGeometry = WidgetGeometry::fromText(m_geometryText);
-    if (m_startGeometry.isEmpty())
-        m_startGeometry = m_widget->saveGeometry();
-    applyGeometry(m_startGeometry);
+    const bool isStored = !m_geometryText.isEmpty();
+    m_startGeometry =
+        isStored ? WidgetPlacement::fromText(m_geometryText) : m_widget->saveGeometry();
+    if (isStored)
+        WidgetPlacement::apply(*m_widget, m_startGeometry);
+    if (m_widget)
+        m_widget->show();
+    applyCurrentLayout();
+    if (isStored)
+        restoreGeometryIfMoved(m_startGeometry);
+    if (m_startMinimized == StartMinimized::Unknown)
+        m_startMinimized = m_isMinimized ? StartMinimized::Yes : StartMinimized::No;
+    if (m_isMinimized)
+        minimizeLater();
+    watch();
+}
+
+void PersistentWidget::applyCurrentLayout()
+{
+    const QMainWindow* docks = mainWindow();
+    if (docks == nullptr)
+        return;
+    ModeLayout& layout = m_modes.current();
+    const QByteArray present = DockRestore::save(*docks);
+    if (layout.factoryState.isEmpty())
+        layout.factoryState = present;
+    const QByteArray state = Hexadecimal::decode(layout.stateText).value_or(QByteArray());
+    if (layout.programStartState.isEmpty())
+        layout.programStartState = state.isEmpty() ? present : state;
+    restoreDocks(state);
+    awaitStoredSize(state);
+}
+
+void PersistentWidget::restoreDocks(const QByteArray& state)
+{
+    QMainWindow* docks = mainWindow();
+    if (docks == nullptr || state.isEmpty() || m_isRestoringDocks)
+        return;
+    const QScopedValueRollback<bool> restoring(m_isRestoringDocks, true);
+    m_awaitingState.clear();
+    const bool isInner = docks != m_widget;
+    if (isInner)
+        docks->removeEventFilter(this);
+    DockRestore::restore(*docks, state);
+    if (isInner && m_mainWindow)
+        m_mainWindow->installEventFilter(this);
+}
+
+/// A window that is still on its way to its stored size, as maximized ones are, is too small for
+/// its docks: they would come back squeezed. They are put in place again with each resizing until
+/// the size is there.
+void PersistentWidget::awaitStoredSize(const QByteArray& state)
+{
+    const auto geometry = GeometryRecord::fromBytes(m_startGeometry);
+    if (state.isEmpty() || !geometry || !m_widget || m_mainWindow != m_widget ||
+        m_widget->size() == geometry->geometry.size())
+        return;
+    m_awaitingState = state;
+    m_awaitedSize = geometry->geometry.size();
+    QTimerHelpers::singleShot(sizeMilliseconds, this, [this] { m_awaitingState.clear(); });
+}
+
+void PersistentWidget::applyAwaited()
+{
+    const QByteArray state = m_awaitingState;
+    if (state.isEmpty())
+        return;
+    restoreDocks(state);
+    if (m_widget && m_widget->size() != m_awaitedSize)
+        m_awaitingState = state;
+}
+
+void PersistentWidget::restoreGeometryIfMoved(const QByteArray& geometry)
+{
+    if (m_widget && m_widget->saveGeometry() != geometry)
+        WidgetPlacement::apply(*m_widget, geometry);
+}
+
+void PersistentWidget::minimizeLater()
+{
+    if (m_widget)
+        QTimerHelpers::singleShot(minimizeMilliseconds, m_widget,
+                                  [widget = m_widget.data()] { widget->showMinimized(); });
 }
 
 void PersistentWidget::restoreProgramStart()
 {
-    applyGeometry(m_startGeometry);
+    restore(m_startGeometry, &ModeLayout::programStartState);
+    if (m_widget && m_startMinimized == StartMinimized::Yes)
+        m_widget->showMinimized();
 }
 
 void PersistentWidget::restoreFactory()
 {
-    applyGeometry(m_factoryGeometry);
+    restore(m_factoryGeometry, &ModeLayout::factoryState);
 }
 
-void PersistentWidget::applyGeometry(const QByteArray& geometry)
+void PersistentWidget::restore(const QByteArray& geometry, QByteArray ModeLayout::*state)
 {
-    if (!m_widget || geometry.isEmpty())
+    if (!m_widget)
         return;
-    m_widget->removeEventFilter(this);
-    m_widget->restoreGeometry(geometry);
-    m_widget->show();
-    // Showing runs handlers of the application, which may delete the widget.
-    if (m_widget) {
-        m_widget->update();
-        m_widget->installEventFilter(this);
+    m_awaitingState.clear();
+    m_modes.reset(state);
+    unwatch();
+    if (!geometry.isEmpty()) {
+        WidgetPlacement::apply(*m_widget, geometry);
+        if (m_widget)
+            m_widget->show();
     }
+    const QByteArray docks = m_modes.current().*state;
+    if (m_mainWindow && !docks.isEmpty()) {
+        restoreDocks(docks);
+        restoreGeometryIfMoved(geometry);
+    }
+    if (m_widget)
+        m_widget->update();
+    watch();
+    noteChange();
+}
+
+void PersistentWidget::setMode(quint32 mode)
+{
+    capture();
+    m_modes.setCurrent(mode);
+    if (!m_widget)
+        return;
+    const QByteArray geometry = m_widget->saveGeometry();
+    unwatch();
+    applyCurrentLayout();
+    restoreGeometryIfMoved(geometry);
+    watch();
+    noteChange();
+}
+
+void PersistentWidget::storeFactory(quint32 mode)
+{
+    const QMainWindow* docks = mainWindow();
+    if (!m_widget || docks == nullptr)
+        return;
+    ModeLayout& layout = m_modes.layout(mode);
+    layout.factoryState = DockRestore::save(*docks);
+    if (layout.stateText.isEmpty())
+        layout.stateText = Hexadecimal::encode(layout.factoryState);
+    noteChange();
 }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "modetable_p.h"
+
+#include <trovappstartup/savecomponentif.h>
 #include <valueframework/persistant.h>
 
 #include <QByteArray>
@@ -9,11 +12,15 @@
 #include <QString>
 #include <QWidget>
 
-/// Keeps the window geometry of one widget from run to run, in a configuration record of its own.
+class QMainWindow;
+
+/// Keeps the geometry of one window, and its dock layout in each mode, from run to run, in a
+/// configuration record of its own.
 ///
 /// The widget is not owned. What it looked like last is remembered with every change, so that it
-/// can be written also after the widget is gone.
-class PersistentWidget : public QObject, public PersistantOwner
+/// can be written also after the widget is gone. A stored state that does not pass its check is not
+/// applied; the record is then kept aside, once, under its name followed by "_damaged".
+class PersistentWidget : public QObject, public PersistantOwner, public SaveComponentIf
 {
     Q_OBJECT
 public:
@@ -27,26 +34,80 @@ public:
     QWidget* widget() const;
     /// Tells this widget from others also while, and after, it is destroyed.
     bool watches(const QObject* object) const;
-    /// Reads the record, applies it to the widget and shows the widget.
+    /// Reads the record, applies it to the widget and shows the widget. To be called once.
     void read();
     void write();
-    /// Forgets the widget, which is no more than half there, and writes how it looked last.
-    void writeLast();
+    /// Writes only if something has changed since the last write.
+    void writeChanges();
     void restoreProgramStart();
     void restoreFactory();
     void capture();
+    void applyAwaited();
+    /// Captures the dock layout of the current mode and applies that of another one. Neither shows
+    /// nor minimizes the widget.
+    void setMode(quint32 mode);
+    /// Makes the present dock layout the factory layout of the mode; the current mode stays.
+    void storeFactory(quint32 mode);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void ApplyPersistantBeforeWrite() override;
     void ApplyPersistantAfterRead() override;
+    void Save() override;
+    /// Nothing: the record is read once.
+    void Load() override;
+    void CommitData() override;
+
+    /// From a program start until a window that was minimized is minimized again.
+    static constexpr int minimizeMilliseconds = 1500;
+
+Q_SIGNALS:
+    /// There is something to write that was not there before.
+    void changed();
+    /// The main window was resized while docks wait for that: applyAwaited() must be called, by
+    /// somebody who keeps this object alive during the call.
+    void resized();
+
+public Q_SLOTS:
+    void slotWidgetDestroyed(QObject* object);
 
 private:
-    void applyGeometry(const QByteArray& geometry);
+    enum class StartMinimized : quint8 { No = 0, Yes = 1, Unknown = 2 };
+
+    QMainWindow* mainWindow() const;
+    void takeLayoutsFromRecord();
+    void takeGeometryFromRecord();
+    void keepAside(const QString& reason);
+    void applyStart();
+    void applyCurrentLayout();
+    void restore(const QByteArray& geometry, QByteArray ModeLayout::*state);
+    void restoreDocks(const QByteArray& state);
+    void awaitStoredSize(const QByteArray& state);
+    void restoreGeometryIfMoved(const QByteArray& geometry);
+    void minimizeLater();
+    void watch();
+    void unwatch();
+    void watchDocks();
+    void noteChange();
+    template <typename T>
+    void update(T& member, const T& value);
 
     QPointer<QWidget> m_widget;
+    /// A QMainWindow, as an object: while it is destroyed it is no QMainWindow any more.
+    QPointer<QObject> m_mainWindow;
+    bool m_hasMainWindow;
     const QObject* m_identity;
     Persistant m_record;
-    QString m_geometryText;
+    bool m_isMinimized = false;
+    StartMinimized m_startMinimized = StartMinimized::Unknown;
     QByteArray m_startGeometry;
     QByteArray m_factoryGeometry;
+    QString m_geometryText;
+    ModeTable m_modes;
+    QString m_stateText;
+    bool m_isChanged = false;
+    /// The toolkit cannot restore a main window from within its own restoring.
+    bool m_isRestoringDocks = false;
+    /// A dock layout for a main window that has not got its stored size yet, and that size.
+    QByteArray m_awaitingState;
+    QSize m_awaitedSize;
 };

@@ -3,13 +3,19 @@
 
 #include "persistentwidget_p.h"
 
+#include <jtbase/qtimerhelpers.h>
+
+#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 #include <algorithm>
 
 PersistentWidgetRegistry::PersistentWidgetRegistry() = default;
 
-PersistentWidgetRegistry::~PersistentWidgetRegistry() = default;
+PersistentWidgetRegistry::~PersistentWidgetRegistry()
+{
+    delete m_writeTimer;
+}
 
 void PersistentWidgetRegistry::registerWidget(QWidget* widget, const QString& recordName)
 {
@@ -17,10 +23,16 @@ void PersistentWidgetRegistry::registerWidget(QWidget* widget, const QString& re
                                    [widget](const auto& entry) { return entry->watches(widget); });
     if (widget == nullptr || known)
         return;
-    connect(widget, &QObject::destroyed, this, &PersistentWidgetRegistry::dropDestroyed,
-            Qt::UniqueConnection);
+    // What a gone widget looked like is written; it must not be written over a new one's record.
+    std::erase_if(m_widgets, [](const auto& entry) { return entry->widget() == nullptr; });
     // Entered before it is read: reading shows the widget, whose handlers may come back here.
     const auto entry = std::make_shared<PersistentWidget>(widget, recordName);
+    connect(entry.get(), &PersistentWidget::changed, this,
+            &PersistentWidgetRegistry::scheduleWrite);
+    connect(entry.get(), &PersistentWidget::resized, this, [weak = std::weak_ptr(entry)] {
+        if (const auto resized = weak.lock())
+            resized->applyAwaited();
+    });
     m_widgets.push_back(entry);
     entry->read();
 }
@@ -30,34 +42,25 @@ void PersistentWidgetRegistry::unregisterWidget(const QObject* widget)
     if (widget == nullptr)
         return;
     std::erase_if(m_widgets, [widget](const auto& entry) {
-        return entry->watches(widget) || entry->widget() == nullptr;
+        if (!entry->watches(widget))
+            return entry->widget() == nullptr;
+        entry->writeChanges();
+        return true;
     });
-}
-
-void PersistentWidgetRegistry::dropDestroyed(const QObject* widget)
-{
-    for (const auto& entry : m_widgets) {
-        if (entry->watches(widget))
-            entry->writeLast();
-    }
-    unregisterWidget(widget);
 }
 
 void PersistentWidgetRegistry::clear()
 {
+    delete m_writeTimer;
     m_widgets.clear();
 }
 
-void PersistentWidgetRegistry::forEachWidget(void (PersistentWidget::*operation)())
+void PersistentWidgetRegistry::forEachWidget(
+    const std::function<void(PersistentWidget&)>& operation)
 {
     const auto widgets = m_widgets;
     for (const auto& entry : widgets)
-        (entry.get()->*operation)();
-}
-
-void PersistentWidgetRegistry::capture()
-{
-    forEachWidget(&PersistentWidget::capture);
+        operation(*entry);
 }
 
 void PersistentWidgetRegistry::write()
@@ -65,11 +68,21 @@ void PersistentWidgetRegistry::write()
     forEachWidget(&PersistentWidget::write);
 }
 
+void PersistentWidgetRegistry::setMode(quint32 mode)
+{
+    forEachWidget([mode](PersistentWidget& entry) { entry.setMode(mode); });
+}
+
+void PersistentWidgetRegistry::storeFactory(quint32 mode)
+{
+    forEachWidget([mode](PersistentWidget& entry) { entry.storeFactory(mode); });
+}
+
 bool PersistentWidgetRegistry::restore(void (PersistentWidget::*operation)())
 {
-    if (m_restoring)
+    if (m_isRestoring)
         return false;
-    const QScopedValueRollback<bool> restoring(m_restoring, true);
+    const QScopedValueRollback<bool> restoring(m_isRestoring, true);
     forEachWidget(operation);
     return true;
 }
@@ -86,5 +99,29 @@ bool PersistentWidgetRegistry::restoreFactory()
 
 bool PersistentWidgetRegistry::isRestoring() const
 {
-    return m_restoring;
+    return m_isRestoring;
+}
+
+void PersistentWidgetRegistry::setWriteDelay(int milliseconds)
+{
+    m_writeDelay = milliseconds;
+    delete m_writeTimer;
+}
+
+void PersistentWidgetRegistry::scheduleWrite()
+{
+    if (m_writeDelay < 0 || m_writeTimer)
+        return;
+    m_writeTimer = QTimerHelpers::singleShot(m_writeDelay, QCoreApplication::instance(),
+                                             [this] { writeChanges(); });
+}
+
+void PersistentWidgetRegistry::writeChanges()
+{
+    // The timer deletes itself later; changes from now on need a new one.
+    m_writeTimer.clear();
+    if (m_isRestoring)
+        scheduleWrite();
+    else
+        forEachWidget(&PersistentWidget::writeChanges);
 }

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
+#include <QTimer>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -12,7 +15,9 @@ class QWidget;
 
 /// The widgets whose layout is kept from run to run, in the order of their registration.
 ///
-/// Widgets are not owned. One that is destroyed drops out after its last layout was written.
+/// Widgets are not owned. One that is destroyed has its last layout written; its entry goes with
+/// the next registration or unregistration. While the event loop runs, layouts are written a while
+/// after they have changed.
 class PersistentWidgetRegistry : public QObject
 {
     Q_OBJECT
@@ -22,27 +27,33 @@ public:
 
     /// Nothing for a null widget and for one that is registered.
     void registerWidget(QWidget* widget, const QString& recordName);
-    /// Also drops what watches a widget that is gone.
+    /// What has changed is written. Also drops what watches a widget that is gone.
     void unregisterWidget(const QObject* widget);
-    /// Writes how the widget looked last and drops it. To be called, once or more, when the widget
-    /// tells that it is destroyed.
-    void dropDestroyed(const QObject* widget);
     void clear();
 
-    /// Captures the layout of every widget.
-    void capture();
     void write();
+    void setMode(quint32 mode);
+    void storeFactory(quint32 mode);
     /// False, and nothing done, when called while one of the two is at work.
     bool restoreProgramStart();
     bool restoreFactory();
     bool isRestoring() const;
 
+    /// Time from a change to its writing in milliseconds; negative switches writing off.
+    void setWriteDelay(int milliseconds);
+    static constexpr int defaultWriteDelay = 2000;
+
 private:
     /// Calls the operation for every widget, also when an application's handler registers or
     /// unregisters widgets meanwhile.
-    void forEachWidget(void (PersistentWidget::*operation)());
+    void forEachWidget(const std::function<void(PersistentWidget&)>& operation);
     bool restore(void (PersistentWidget::*operation)());
+    void scheduleWrite();
+    void writeChanges();
 
     std::vector<std::shared_ptr<PersistentWidget>> m_widgets;
-    bool m_restoring = false;
+    bool m_isRestoring = false;
+    int m_writeDelay = defaultWriteDelay;
+    /// Belongs to the application object, which may be gone before this object.
+    QPointer<QTimer> m_writeTimer;
 };

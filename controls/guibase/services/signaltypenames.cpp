@@ -7,9 +7,6 @@
 
 namespace {
 
-constexpr int lastShiftedCharacter = 'Z';
-constexpr int caseDistance = 'a' - 'A';
-
 constexpr std::array<const char*, 17> names{
     QT_TRANSLATE_NOOP("GuiBase", "Unidentified"),
     QT_TRANSLATE_NOOP("GuiBase", "Unidentified - probably important"),
@@ -32,12 +29,8 @@ constexpr std::array<const char*, 17> names{
 
 } // namespace
 
-QString signalTypeName(char letter)
+QString signalTypeName(int index)
 {
-    // Whether plain char has a sign depends on the platform; the rule counts on one that has.
-    const int character = static_cast<signed char>(letter);
-    const int lower = character <= lastShiftedCharacter ? character + caseDistance : character;
-    const int index = lower - 'a';
     if (index < 0 || index >= static_cast<int>(names.size()))
         return GuiBase::tr("Unknown");
     return GuiBase::tr(names[static_cast<std::size_t>(index)]);

@@ -3,6 +3,5 @@
 
 #include <QString>
 
-/// The translated name of the signal type with this letter; "Unknown" for a letter without a type.
-/// Every character up to 'Z' counts as its successor by 32, which makes upper-case letters lower.
-QString signalTypeName(char letter);
+/// The translated name of the signal type with this number (0 for 'a'); "Unknown" for others.
+QString signalTypeName(int index);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "styleloader_p.h"
 
-#include <jtbase/errorhandler.h>
+#include "tracing_p.h"
+
 #include <trovappstartup/cfgcenter.h>
 
 #include <QApplication>
@@ -57,7 +58,7 @@ void StyleLoader::loadStyleSheet(QApplication& application, const ICfg* cfg)
     if (path.isEmpty())
         return;
     if (!QFile(path).open(QIODevice::ReadOnly)) {
-        ErrorHandler::Trace(ErrorHandler::TraceGuiBase, "controls/guibase/styleloader", __LINE__,
+        ErrorHandler::Trace(ErrorHandler::TraceGuiBase, Tracing::module, __LINE__,
                             QStringLiteral("Style sheet '%1' cannot be opened").arg(path));
         return;
     }

@@ -20,18 +20,16 @@ namespace {
 /// No window manager draws broader frames; more comes from a window that was not shown yet.
 constexpr int broadestFrame = 256;
 
-QMargins frameMargins(const GeometryRecord& record)
+QMargins frameMargins(const QRect& outer, const QRect& inner)
 {
     const auto margin = [](int pixels) { return std::clamp(pixels, 0, broadestFrame); };
-    const QRect& inner = record.geometry;
-    const QRect& outer = record.frame;
     return {margin(inner.left() - outer.left()), margin(inner.top() - outer.top()),
             margin(outer.right() - inner.right()), margin(outer.bottom() - inner.bottom())};
 }
 
 /// The record for the screens of today. The toolkit refuses records from screens of another width,
 /// so the width is brought up to date too.
-GeometryRecord adapted(GeometryRecord record)
+GeometryRecord adapted(GeometryRecord record, const QWidget& window)
 {
     const QList<QScreen*> screens = QGuiApplication::screens();
     QList<QRect> areas;
@@ -40,7 +38,9 @@ GeometryRecord adapted(GeometryRecord record)
     if (record.normal.isEmpty())
         return record;
 
-    const QMargins margins = frameMargins(record);
+    QMargins margins = frameMargins(record.frame, record.geometry);
+    if (window.isVisible() && record.isNormal())
+        margins = margins | frameMargins(window.frameGeometry(), window.geometry());
     const QRect frame = record.normal + margins;
     const QRect reachable = ScreenPlacement::reachable(frame, areas);
     const int home = ScreenPlacement::homeOf(reachable, areas);
@@ -80,13 +80,21 @@ void WidgetPlacement::apply(QWidget& widget, const QByteArray& bytes)
     std::optional<GeometryRecord> record = GeometryRecord::fromBytes(bytes);
     if (!record || isPlacedByParent(widget))
         return;
+    // Child widgets do not always know a normal place.
+    if (record->normal.isEmpty())
+        record->normal = record->geometry;
     if (widget.isWindow())
-        record = adapted(*record);
+        record = adapted(*record, widget);
+    const Qt::WindowStates large = (record->maximized ? Qt::WindowMaximized : Qt::WindowNoState) |
+                                   (record->fullScreen ? Qt::WindowFullScreen : Qt::WindowNoState);
+    constexpr Qt::WindowStates allLarge = Qt::WindowMaximized | Qt::WindowFullScreen;
+    // The toolkit would shrink a window that is maximized already, and leave it so.
+    if (widget.isVisible() && large && (widget.windowState() & allLarge) == large)
+        return;
     const QPointer<QWidget> guard(&widget);
     widget.restoreGeometry(record->toBytes());
     // The toolkit shifts and shrinks windows at the edges of the screen by a title bar's height.
-    constexpr Qt::WindowStates notNormal =
-        Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen;
+    constexpr Qt::WindowStates notNormal = allLarge | Qt::WindowMinimized;
     if (guard && !(widget.windowState() & notNormal) && widget.geometry() != record->normal)
         widget.setGeometry(record->normal);
 }
