@@ -111,12 +111,15 @@ QWidget* focusTarget(QDockWidget& dock)
 
 void AutoHideSupportPrivate::addButtons(QDockWidget& dock, Entry& entry)
 {
-    for (auto bar = toolBars.cbegin(); bar != toolBars.cend(); ++bar) {
-        QToolBar* toolBar = bar.value();
-        if (toolBar == nullptr)
-            continue;
-        QAction* proxy = q.createToggleViewProxyAction(dock, bar.key());
-        entry.proxies.insert(bar.key(), proxy);
+    for (auto bar = toolBars.cbegin(); bar != toolBars.cend(); ++bar)
+        if (bar.value() != nullptr)
+            entry.proxies.insert(bar.key(), q.createToggleViewProxyAction(dock, bar.key()));
+    // Every change of an action that is shown somewhere already makes work there.
+    followDock(dock);
+    for (auto proxyOfArea = entry.proxies.cbegin(); proxyOfArea != entry.proxies.cend();
+         ++proxyOfArea) {
+        QAction* proxy = proxyOfArea.value();
+        QToolBar* toolBar = toolBars.value(proxyOfArea.key());
         toolBar->addAction(proxy);
         auto* button = qobject_cast<AutoHideButton*>(toolBar->widgetForAction(proxy));
         if (button == nullptr)
@@ -127,7 +130,6 @@ void AutoHideSupportPrivate::addButtons(QDockWidget& dock, Entry& entry)
         QObject::connect(button, &AutoHideButton::chosenByKey, &dock,
                          [this, &dock] { showByKey(dock); });
     }
-    followDock(dock);
 }
 
 void AutoHideSupportPrivate::followDock(const QDockWidget& dock)

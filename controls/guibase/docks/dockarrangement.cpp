@@ -6,6 +6,7 @@
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QSet>
+#include <QTabBar>
 
 #include <algorithm>
 
@@ -23,11 +24,29 @@ QSet<const QMainWindow*>& windowsUnderWay()
 
 QList<QDockWidget*> candidates(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
 {
+    // Docks that are no windows of their own are as hidden as the main window.
+    if (!mainWindow.isVisible() || area == Qt::NoDockWidgetArea)
+        return {};
     const auto filter = [&](const QDockWidget& dock) {
-        return dock.isVisible() && !dock.isFloating() && area != Qt::NoDockWidgetArea &&
+        return dock.isVisible() && !dock.isFloating() &&
                mainWindow.dockWidgetArea(const_cast<QDockWidget*>(&dock)) == area;
     };
     return QMainWindowHelpers::dockWidgets(mainWindow, filter, -1);
+}
+
+QRect geometryOf(const QList<QDockWidget*>& docks, const QMainWindow& mainWindow,
+                 Qt::DockWidgetArea area)
+{
+    QRect united;
+    for (const QDockWidget* dock : docks) {
+        const QRect frame = dock->frameGeometry();
+        if (frame.left() >= 0 && frame.top() >= 0)
+            united |= frame;
+    }
+    const QList<QTabBar*> tabBars = QMainWindowHelpers::tabBarsInDockWidgetArea(mainWindow, area);
+    for (const QTabBar* tabBar : tabBars)
+        united |= tabBar->frameGeometry();
+    return united;
 }
 
 void sortByTitle(QList<QDockWidget*>& docks)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QList>
+#include <QRect>
 
 class QDockWidget;
 class QMainWindow;
@@ -10,6 +11,10 @@ namespace DockArrangement {
 
 /// The visible docks that lie docked in exactly this area, in child order.
 QList<QDockWidget*> candidates(const QMainWindow& mainWindow, Qt::DockWidgetArea area);
+/// The rectangle around these visible docks of the area and the area's tab bars; see
+/// QMainWindowHelpers::dockWidgetAreaGeometry().
+QRect geometryOf(const QList<QDockWidget*>& docks, const QMainWindow& mainWindow,
+                 Qt::DockWidgetArea area);
 /// Sorts by window title, as the user's language orders texts; equal titles keep their order.
 void sortByTitle(QList<QDockWidget*>& docks);
 

@@ -221,11 +221,10 @@ public:
             return {};
         const DockIcon kind = state == QIcon::On ? m_on : m_off;
         const QColor ink = inkOf(mode);
-        const QString cacheKey = QStringLiteral("GuiBase_DockIcon_%1_%2_%3_%4")
-                                     .arg(int(kind))
-                                     .arg(size.width())
-                                     .arg(size.height())
-                                     .arg(ink.rgba(), 0, 16);
+        const auto character = [](auto value) { return QChar(static_cast<char16_t>(value)); };
+        const QString cacheKey = QStringLiteral("GuiBase_DockIcon_") + character(kind) +
+                                 character(size.width()) + character(size.height()) +
+                                 character(ink.rgba() >> 16) + character(ink.rgba());
         QPixmap picture;
         if (QPixmapCache::find(cacheKey, &picture))
             return picture;

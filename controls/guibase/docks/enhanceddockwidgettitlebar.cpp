@@ -101,6 +101,9 @@ public:
     int iconExtent() const;
     /// The room that bar and dock need; all actions as buttons, or all in the menu.
     QSize neededSize(bool minimal) const;
+    /// The same, kept: docks ask for it all the time.
+    QSize hint(bool minimal);
+    void forgetHints();
     /// From the line to the bar: turned on vertical bars, mirrored for right-to-left.
     QRect place(const QRect& onLine) const;
 
@@ -126,6 +129,9 @@ public:
     QList<QAction*> actionsInMenu;
     QList<TitleBarButton*> shownButtons; ///< In the order of the line.
     QString title;
+    int titleWidth = 0;
+    QSize fullHint;    ///< Invalid when it must be computed again.
+    QSize minimalHint; ///< Invalid when it must be computed again.
     QString elidedTitle;
     QRect titleOnLine;
     bool active = false;
@@ -166,11 +172,26 @@ QSize EnhancedDockWidgetTitleBar::Private::neededSize(bool minimal) const
     const int button = TitleBarButton::extent(bar);
     const auto actions = static_cast<int>(visibleActions().size());
     const int icon = iconExtent() > 0 ? iconExtent() + iconGap : 0;
-    const int text = minimal ? 0 : metrics.horizontalAdvance(title) + margin();
+    const int text = minimal ? 0 : titleWidth + margin();
     const int along = 2 * margin() + activeMarkWidth + icon + text +
                       button * (fixedButtonCount() + (minimal ? std::min(actions, 1) : actions));
     const int across = std::max(button + 2, metrics.height() + 2 * margin());
     return isVertical() ? QSize(across, along) : QSize(along, across);
+}
+
+QSize EnhancedDockWidgetTitleBar::Private::hint(bool minimal)
+{
+    QSize& kept = minimal ? minimalHint : fullHint;
+    if (!kept.isValid())
+        kept = neededSize(minimal);
+    return kept;
+}
+
+void EnhancedDockWidgetTitleBar::Private::forgetHints()
+{
+    fullHint = QSize();
+    minimalHint = QSize();
+    bar.updateGeometry();
 }
 
 QRect EnhancedDockWidgetTitleBar::Private::place(const QRect& onLine) const
@@ -186,6 +207,7 @@ void EnhancedDockWidgetTitleBar::Private::followDock()
     if (!dock)
         return;
     title = shownDockTitle(*dock);
+    titleWidth = bar.fontMetrics().horizontalAdvance(title);
     const bool floating = dock->isFloating();
     static const QIcon floatIcon = makeDockIcon(DockIcon::Float);
     static const QIcon dockIcon = makeDockIcon(DockIcon::Dock);
@@ -195,7 +217,7 @@ void EnhancedDockWidgetTitleBar::Private::followDock()
     closeButton->setTexts(tr("Close"));
     if (menuButton != nullptr)
         menuButton->setTexts(tr("More"));
-    bar.updateGeometry();
+    forgetHints();
     arrange();
 }
 
@@ -247,8 +269,8 @@ void EnhancedDockWidgetTitleBar::Private::arrange()
     const int icon = iconExtent() > 0 ? iconExtent() + iconGap : 0;
     const int begin = margin() + activeMarkWidth + icon;
     const int end = length() - margin();
-    const int kept = std::min(bar.fontMetrics().horizontalAdvance(title),
-                              keptTitleCharacters * bar.fontMetrics().averageCharWidth());
+    const int kept =
+        std::min(titleWidth, keptTitleCharacters * bar.fontMetrics().averageCharWidth());
     const int room = std::max(0, (end - begin - kept) / button - fixedButtonCount());
     const bool needsMenu = actions.size() > room;
     const qsizetype asButtons = needsMenu ? std::max(0, room - 1) : actions.size();
@@ -274,9 +296,14 @@ void EnhancedDockWidgetTitleBar::Private::arrange()
         shown->setGeometry(place(next));
         next.translate(button, 0);
     }
-    const auto children = bar.findChildren<QToolButton*>(Qt::FindDirectChildrenOnly);
-    for (QToolButton* child : children)
-        child->setVisible(shownButtons.contains(child));
+    const auto showOrHide = [this](TitleBarButton* each) {
+        if (each != nullptr)
+            each->setVisible(shownButtons.contains(each));
+    };
+    for (const auto& [action, each] : buttons)
+        showOrHide(each);
+    for (TitleBarButton* each : {menuButton, floatButton, closeButton})
+        showOrHide(each);
     updateTabStop(nullptr);
     bar.update();
 }
@@ -362,12 +389,12 @@ void EnhancedDockWidgetTitleBar::setActive(bool active)
 
 QSize EnhancedDockWidgetTitleBar::sizeHint() const
 {
-    return d->neededSize(false);
+    return d->hint(false);
 }
 
 QSize EnhancedDockWidgetTitleBar::minimumSizeHint() const
 {
-    return d->neededSize(true);
+    return d->hint(true);
 }
 
 bool EnhancedDockWidgetTitleBar::eventFilter(QObject* watched, QEvent* event)
@@ -396,7 +423,7 @@ bool EnhancedDockWidgetTitleBar::event(QEvent* event)
 
 void EnhancedDockWidgetTitleBar::actionEvent(QActionEvent* event)
 {
-    updateGeometry();
+    d->forgetHints();
     if (event->type() == QEvent::ActionAdded) {
         d->arrange();
         return;

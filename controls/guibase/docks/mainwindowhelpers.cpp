@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindowhelpers.h"
 
+#include "dockarrangement_p.h"
 #include "updatesblocker_p.h"
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QLayout>
 #include <QMainWindow>
 #include <QPointer>
 #include <QSet>
@@ -84,13 +86,29 @@ QList<Area> listAreas(QFlags<Area> areas, const std::array<Area, 4>& order)
     return single;
 }
 
+/// The minimum size without what the layout of a window imposes: set as the window's own, that
+/// would stay for good.
+QSize ownMinimumSize(const QWidget& widget)
+{
+    if (!widget.isWindow() || widget.layout() == nullptr)
+        return widget.minimumSize();
+    widget.layout()->activate();
+    QSize own = widget.minimumSize();
+    const QSize imposed = widget.layout()->totalMinimumSize();
+    if (own.width() == imposed.width())
+        own.setWidth(0);
+    if (own.height() == imposed.height())
+        own.setHeight(0);
+    return own;
+}
+
 /// The sizes that bound a widget, put back at the end of the widget's squeezing.
 class SizeBounds
 {
 public:
     explicit SizeBounds(QWidget& widget)
         : m_widget(&widget)
-        , m_minimum(widget.minimumSize())
+        , m_minimum(ownMinimumSize(widget))
         , m_maximum(widget.maximumSize())
     {}
     ~SizeBounds() { restore(); }
@@ -203,6 +221,10 @@ QDockWidget* findParentDockWidget(const QWidget& widget, const QMainWindow* main
 
 QList<QTabBar*> tabBarsInDockWidgetArea(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
 {
+    // Most windows have none, and to look for tabbed docks takes longer.
+    const auto any = [](const QTabBar&) { return true; };
+    if (childrenOfWindow<QTabBar>(mainWindow, any, 1).isEmpty())
+        return {};
     QSet<QString> titles;
     const QSet<QDockWidget*> docks = tabbedDocks(mainWindow, area);
     for (const QDockWidget* dock : docks)
@@ -221,17 +243,9 @@ QList<QTabBar*> tabBarsInDockWidgetArea(const QMainWindow& mainWindow, Qt::DockW
 
 QRect dockWidgetAreaGeometry(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
 {
-    QRect united;
-    const QList<QDockWidget*> docks = dockWidgets(mainWindow, area, false);
-    for (const QDockWidget* dock : docks) {
-        const QRect frame = dock->frameGeometry();
-        if (dock->isVisible() && frame.left() >= 0 && frame.top() >= 0)
-            united |= frame;
-    }
-    const QList<QTabBar*> tabBars = tabBarsInDockWidgetArea(mainWindow, area);
-    for (const QTabBar* tabBar : tabBars)
-        united |= tabBar->frameGeometry();
-    return united;
+    QList<QDockWidget*> docks = dockWidgets(mainWindow, area, false);
+    docks.removeIf([](const QDockWidget* dock) { return !dock->isVisible(); });
+    return DockArrangement::geometryOf(docks, mainWindow, area);
 }
 
 QList<QMainWindow*> topLevelMainWindows()

@@ -63,7 +63,7 @@ Tiling tilingOf(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
     if (tiling.docks.size() < 2)
         return tiling;
     DockArrangement::sortByTitle(tiling.docks);
-    tiling.available = dockWidgetAreaGeometry(mainWindow, area).size();
+    tiling.available = DockArrangement::geometryOf(tiling.docks, mainWindow, area).size();
     QList<QSize> minimumSizes;
     for (const QDockWidget* dock : std::as_const(tiling.docks))
         minimumSizes << dock->minimumSize();
