@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "support/randombytes.h"
+#include "support/testguard.h"
+
+#include <guibase/lists/sortlistview.h>
+#include <guibase/services/guibase.h>
+
+#include <trovappstartup/cfgcenter.h>
+
+#include <QHeaderView>
+#include <QTest>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+const QString listName = QStringLiteral("list");
+
+std::unique_ptr<ICfg> configuration()
+{
+    return CfgCenter::GetAppCfg(LayoutView)->OpenSubCfg(QStringLiteral("FreqStoreListView"));
+}
+
+std::unique_ptr<SortListView> makeList(int columns, const QString& stored)
+{
+    configuration()->SetString(listName, stored);
+    auto list = std::make_unique<SortListView>();
+    list->header()->setStretchLastSection(false);
+    for (int column = 0; column < columns; ++column)
+        list->addColumn(QString::number(column));
+    list->show();
+    GuiBase::Instance().ApplyColumnWidth4(listName, list.get());
+    return list;
+}
+
+QString storedBy(SortListView& list)
+{
+    GuiBase::Instance().StoreColumnWidth4(listName, &list);
+    GuiBase::Instance().StoreColumnSizes2Cfg();
+    return configuration()->GetString(listName);
+}
+
+} // namespace
+
+class TestColumns : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { m_guard = std::make_unique<TestGuard>(); }
+    void cleanup()
+    {
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+
+    void texts_data();
+    void texts();
+    void everyOrder();
+    void hiddenColumnKeepsItsWidth();
+    void damagedTexts();
+
+private:
+    std::unique_ptr<TestGuard> m_guard;
+};
+
+void TestColumns::texts_data()
+{
+    QTest::addColumn<int>("columns");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char* name, int columns, const char* text, const char* expected) {
+        QTest::newRow(name) << columns << QString::fromLatin1(text)
+                            << QString::fromLatin1(expected);
+    };
+    row("as stored", 2, "120,0,0;80,1,1;", "120,0,0;80,1,1;");
+    row("swapped", 2, "120,1,0;80,0,0;", "120,1,0;80,0,0;");
+    row("fewer are stored", 3, "120,0,0;80,1,1;", "120,0,0;80,1,1;100,2,0;");
+    row("more are stored", 2, "120,0,0;80,2,0;90,1,0;", "120,0,0;80,1,0;");
+    row("all hidden", 2, "120,0,1;80,1,1;", "120,0,0;80,1,1;");
+    row("nothing", 2, "", "100,0,0;100,1,0;");
+    row("no numbers", 2, "120,x,0;80,1,0;", "100,0,0;100,1,0;");
+    row("pairs", 2, "120,1;80,0;", "100,0,0;100,1,0;");
+    row("impossible", 2, "-5,-1,0;2147483647,2147483647,0;", "100,0,0;100,1,0;");
+}
+
+void TestColumns::texts()
+{
+    QFETCH(int, columns);
+    QFETCH(QString, text);
+    const auto list = makeList(columns, text);
+    QTEST(storedBy(*list), "expected");
+    GuiBase::Instance().StoreColumnWidth4(listName, nullptr);
+    GuiBase::Instance().ApplyColumnWidth4(listName, nullptr);
+}
+
+void TestColumns::everyOrder()
+{
+    QList<int> places{0, 1, 2, 3, 4};
+    do {
+        QString text;
+        for (const int place : places)
+            text += QStringLiteral("90,%1,0;").arg(place);
+        QCOMPARE(storedBy(*makeList(5, text)), text);
+    } while (std::next_permutation(places.begin(), places.end()));
+}
+
+void TestColumns::hiddenColumnKeepsItsWidth()
+{
+    const auto list = makeList(2, QStringLiteral("120,0,0;80,1,1;"));
+    QCOMPARE(storedBy(*list), QStringLiteral("120,0,0;80,1,1;"));
+    list->setColumnHidden(1, false);
+    QCOMPARE(list->columnWidth(1), 80);
+    QCOMPARE(storedBy(*list), QStringLiteral("120,0,0;80,1,0;"));
+    list->setColumnHidden(0, true);
+    QCOMPARE(storedBy(*list), QStringLiteral("120,0,1;80,1,0;"));
+    list->hide();
+    list->setColumnWidth(1, 33);
+    QCOMPARE(storedBy(*list), QStringLiteral("120,0,1;80,1,0;"));
+}
+
+void TestColumns::damagedTexts()
+{
+    RandomBytes random("column texts");
+    for (int round = 0; round < RandomBytes::rounds(500); ++round) {
+        const QByteArray text = random.mutated("120,2,0;80,0,1;70,1,0;");
+        const auto list = makeList(3, QString::fromLatin1(text));
+        QVERIFY(list->header()->hiddenSectionCount() < 3);
+    }
+}
+
+QTEST_MAIN(TestColumns)
+#include "tst_columns.moc"
