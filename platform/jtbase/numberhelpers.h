@@ -10,9 +10,8 @@
 ///
 /// Rules shared by all readers here:
 /// - blanks (any Unicode white space) at both ends are ignored;
-/// - one sign may stand in front: '+', '-', the typographic minus U+2212 or a full-width sign,
-/// after
-///   the direction marks that some locales write;
+/// - one sign may stand in front: '+', '-', the typographic minus U+2212 or a full-width sign; the
+///   direction marks that some locales write before it are skipped;
 /// - the whole remaining text must be the number; an empty text is not a number;
 /// - digits are ASCII, full-width or the locale's own; base prefixes such as "0x" are not accepted;
 /// - group separators are accepted only where the locale's number options allow them (see

@@ -112,7 +112,7 @@ public:
     void AddShowInDialog(quint32 bits) { m_showInDialog |= bits; }
     quint32 GetShowInDialog() const { return m_showInDialog; }
 
-    /// Makes a new editor under `parent`; null while the library has no editor.
+    /// Makes a new editor under `parent`; null when no editor is registered in this process.
     QWidget* GetPropertyPage(QWidget* parent, const char* name) override;
     QString GetPropertyPagePath() const override { return m_propertyPagePath; }
     /// Makes an editor that accepts its changes on the parent's signal applyButtonPressed().

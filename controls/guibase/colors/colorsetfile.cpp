@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <guibase/colors/colorsetfile_p.h>
 
-#include <guibase/services/guibase.h>
+#include <guibase/services/modaldialogs_p.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QFile>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QSaveFile>
 
 namespace {
@@ -15,11 +13,6 @@ namespace {
 QString fileNameFilter()
 {
     return QStringLiteral("*.cst");
-}
-
-bool hasWidgets()
-{
-    return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
 }
 
 bool writeInPlace(const QString& name, const QByteArray& bytes)
@@ -47,9 +40,10 @@ namespace ColorSetFile {
 
 bool isOpenable(const QString& name)
 {
-    if (name.isEmpty() || name.contains(QLatin1Char('*')) || name.contains(QChar::Null))
-        return false;
     const QFileInfo info(name);
+    if (info.fileName().isEmpty() || info.fileName().startsWith(QStringLiteral("**")) ||
+        name.contains(QChar::Null))
+        return false;
     return !info.exists() || info.isFile();
 }
 
@@ -89,27 +83,22 @@ std::optional<ColorSetCodec::Ids> read(const QString& name)
 
 bool ask(QWidget* parent, const QString& title, const QString& text)
 {
-    return hasWidgets() &&
-           QMessageBox::information(parent, title, text, QMessageBox::Yes | QMessageBox::No,
-                                    QMessageBox::Yes) == QMessageBox::Yes;
+    return ModalDialogs::show(parent, {QMessageBox::Information, title, text,
+                                       QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes}) ==
+           QMessageBox::Yes;
 }
 
 QString chooseForSaving(QWidget* parent, const QString& title)
 {
-    if (!hasWidgets())
-        return {};
-    return storedName(QFileDialog::getSaveFileName(
-        parent, title, QCoreApplication::applicationDirPath(), fileNameFilter(), nullptr,
-        GuiBase::Instance().UseNativeDialogs()));
+    return storedName(ModalDialogs::askForFile(
+        parent, {QFileDialog::AcceptSave, title, QCoreApplication::applicationDirPath(),
+                 fileNameFilter()}));
 }
 
 QString chooseForLoading(QWidget* parent, const QString& title)
 {
-    if (!hasWidgets())
-        return {};
-    return storedName(QFileDialog::getOpenFileName(parent, title, QString(), fileNameFilter(),
-                                                   nullptr,
-                                                   GuiBase::Instance().UseNativeDialogs()));
+    return storedName(ModalDialogs::askForFile(
+        parent, {QFileDialog::AcceptOpen, title, QString(), fileNameFilter()}));
 }
 
 } // namespace ColorSetFile

@@ -14,8 +14,8 @@ namespace ColorSetFile {
 
 enum class WriteResult { Written, CannotOpen, WriteFailed };
 
-/// Whether it makes sense to open the name: neither empty nor with a character that stands for "ask
-/// for a name" ('*'), and not the name of a folder, a pipe or a device.
+/// Whether it makes sense to open the name: not empty, not one of the names that stand for "no file
+/// yet" (they begin with two asterisks), and not the name of a folder, a pipe or a device.
 bool isOpenable(const QString& name);
 
 /// What is stored for a name that the user chose: its last part in lower case, with ".cst" at the
