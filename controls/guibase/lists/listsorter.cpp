@@ -80,7 +80,6 @@ void ListSorter::Run::readKeys(QTreeWidgetItem& root, int column, const Run* ear
 {
     std::vector<SortListViewItem*> items;
     items.reserve(static_cast<std::size_t>(root.childCount()));
-    keys.reserve(items.capacity());
     std::vector<QTreeWidgetItem*> parents{&root};
     while (!parents.empty()) {
         QTreeWidgetItem* const parent = parents.back();

@@ -23,11 +23,11 @@ struct TextAt
 
 constexpr qsizetype prefixLength = 4;
 
-qsizetype commonPrefixLength(const std::vector<QStringView>& texts)
+qsizetype commonPrefixLength(const std::vector<QString>& texts)
 {
-    const QStringView first = texts.front();
+    const QString& first = texts.front();
     qsizetype length = first.size();
-    for (const QStringView text : texts) {
+    for (const QString& text : texts) {
         const auto end = first.begin() + std::min(length, text.size());
         length = std::mismatch(first.begin(), end, text.begin()).first - first.begin();
     }
@@ -49,7 +49,7 @@ std::optional<quint64> prefixOf(QStringView text, qsizetype from, bool ignoreCas
     return prefix;
 }
 
-std::vector<TextAt> withPrefixes(const std::vector<QStringView>& texts, bool ignoreCase)
+std::vector<TextAt> withPrefixes(const std::vector<QString>& texts, bool ignoreCase)
 {
     std::vector<TextAt> rows(texts.size());
     const qsizetype from = commonPrefixLength(texts);
@@ -144,75 +144,99 @@ bool SortKeys::isNumeric() const
     return m_rule == Rule::Number || m_rule == Rule::NumberWithSuffix;
 }
 
-SortKeys::Value SortKeys::valueOf(const QString& text) const
+void SortKeys::append(Values& values, const QString& text) const
 {
-    if (!isNumeric())
-        return {text, 0};
+    if (!isNumeric()) {
+        values.texts.push_back(text);
+        return;
+    }
     const qsizetype blank = m_rule == Rule::NumberWithSuffix ? text.indexOf(u' ') : -1;
-    return {{}, numberOf(QStringView(text).first(blank < 0 ? text.size() : blank))};
+    values.numbers.push_back(numberOf(QStringView(text).first(blank < 0 ? text.size() : blank)));
+}
+
+void SortKeys::append(Values& values, const Values& from, quint32 row) const
+{
+    if (isNumeric())
+        values.numbers.push_back(from.numbers[row]);
+    else
+        values.texts.push_back(from.texts[row]);
+}
+
+bool SortKeys::beginRow(bool hasKey)
+{
+    ++m_count;
+    if (!hasKey && m_keyCount == 0)
+        return false;
+    while (m_hasKey.size() + 1 < m_count) {
+        append(m_keys, QString());
+        m_hasKey.push_back(0);
+    }
+    m_hasKey.push_back(hasKey ? 1 : 0);
+    if (hasKey)
+        ++m_keyCount;
+    return true;
 }
 
 void SortKeys::add(const QString& text, const QString& sortKey)
 {
-    Row row{valueOf(text), {}, !sortKey.isEmpty()};
-    if (row.hasKey) {
-        row.key = valueOf(sortKey);
-        ++m_keyCount;
-    }
-    m_rows.push_back(std::move(row));
+    append(m_texts, text);
+    if (beginRow(!sortKey.isEmpty()))
+        append(m_keys, sortKey);
 }
 
 void SortKeys::add(const SortKeys& earlier, quint32 row)
 {
-    m_rows.push_back(earlier.m_rows[row]);
-    if (m_rows.back().hasKey)
-        ++m_keyCount;
+    const bool hasKey = earlier.m_keyCount > 0 && earlier.m_hasKey[row] != 0;
+    append(m_texts, earlier.m_texts, row);
+    if (!beginRow(hasKey))
+        return;
+    if (hasKey)
+        append(m_keys, earlier.m_keys, row);
+    else
+        append(m_keys, QString());
 }
 
 bool SortKeys::isLess(quint32 a, quint32 b) const
 {
-    const Row& rowA = m_rows[a];
-    const Row& rowB = m_rows[b];
-    return rowA.hasKey && rowB.hasKey ? isLess(rowA.key, rowB.key) : isLess(rowA.text, rowB.text);
+    const bool haveKeys = m_keyCount > 0 && m_hasKey[a] != 0 && m_hasKey[b] != 0;
+    return isLess(haveKeys ? m_keys : m_texts, a, b);
 }
 
-bool SortKeys::isLess(const Value& a, const Value& b) const
+bool SortKeys::isLess(const Values& values, quint32 a, quint32 b) const
 {
     switch (m_rule) {
     case Rule::Text:
-        return a.text.compare(b.text) < 0;
+        return values.texts[a].compare(values.texts[b]) < 0;
     case Rule::TextIgnoringCase:
-        return a.text.compare(b.text, Qt::CaseInsensitive) < 0;
+        return values.texts[a].compare(values.texts[b], Qt::CaseInsensitive) < 0;
     case Rule::Number:
     case Rule::NumberWithSuffix:
-        return a.number < b.number;
+        return values.numbers[a] < values.numbers[b];
     case Rule::Function:
         break;
     }
-    return m_function(b.text, a.text) < 0;
+    return m_function(values.texts[b], values.texts[a]) < 0;
 }
 
 std::optional<std::vector<quint32>> SortKeys::ranks() const
 {
-    if (m_rule == Rule::Function || m_rows.empty() || (m_keyCount > 0 && m_keyCount != count()))
+    if (m_rule == Rule::Function || m_count == 0 || (m_keyCount > 0 && m_keyCount < m_count))
         return std::nullopt;
-    const Value Row::*const used = m_keyCount > 0 ? &Row::key : &Row::text;
+    const Values& values = m_keyCount > 0 ? m_keys : m_texts;
     if (isNumeric()) {
-        std::vector<NumberAt> numbers(count());
-        for (quint32 row = 0; row < count(); ++row)
-            numbers[row] = {(m_rows[row].*used).number, row};
-        if (std::any_of(numbers.begin(), numbers.end(),
-                        [](const NumberAt& at) { return std::isnan(at.number); }))
-            return std::nullopt;
-        return sortedRanks(std::move(numbers), [](const NumberAt& a, const NumberAt& b) {
+        std::vector<NumberAt> rows(m_count);
+        for (quint32 row = 0; row < m_count; ++row) {
+            if (std::isnan(values.numbers[row]))
+                return std::nullopt;
+            rows[row] = {values.numbers[row], row};
+        }
+        return sortedRanks(std::move(rows), [](const NumberAt& a, const NumberAt& b) {
             return a.number < b.number;
         });
     }
-    std::vector<QStringView> texts(count());
-    for (quint32 row = 0; row < count(); ++row)
-        texts[row] = (m_rows[row].*used).text;
-    return sortedRanks(withPrefixes(texts, m_rule == Rule::TextIgnoringCase),
+    return sortedRanks(withPrefixes(values.texts, m_rule == Rule::TextIgnoringCase),
                        [&](const TextAt& a, const TextAt& b) {
-                           return a.prefix != b.prefix ? a.prefix < b.prefix : isLess(a.row, b.row);
+                           return a.prefix != b.prefix ? a.prefix < b.prefix
+                                                       : isLess(values, a.row, b.row);
                        });
 }

@@ -17,7 +17,6 @@ class SortKeys
 public:
     explicit SortKeys(SortListView::CompareFunction function);
 
-    void reserve(std::size_t rows) { m_rows.reserve(rows); }
     /// Adds the next row; rows are numbered from 0.
     void add(const QString& text, const QString& sortKey);
     /// Adds a row of an earlier sort with the same function.
@@ -28,29 +27,30 @@ public:
     /// all others), and for a function of the application.
     std::optional<std::vector<quint32>> ranks() const;
 
-    quint32 count() const { return static_cast<quint32>(m_rows.size()); }
+    quint32 count() const { return m_count; }
 
 private:
     enum class Rule { Text, TextIgnoringCase, Number, NumberWithSuffix, Function };
-    struct Value
+    /// One of the two lists is used, as the rule wants it.
+    struct Values
     {
-        QString text;      ///< Not kept for numbers.
-        double number = 0; ///< NaN, which is never less, for a text that is no number.
-    };
-    struct Row
-    {
-        Value text;
-        Value key;
-        bool hasKey = false;
+        std::vector<QString> texts;
+        std::vector<double> numbers; ///< NaN, which is never less, for a text that is no number.
     };
 
     static Rule ruleOf(SortListView::CompareFunction function);
     bool isNumeric() const;
-    Value valueOf(const QString& text) const;
-    bool isLess(const Value& a, const Value& b) const;
+    void append(Values& values, const QString& text) const;
+    void append(Values& values, const Values& from, quint32 row) const;
+    /// Begins the next row; whether its key, or that it has none, is to be appended too.
+    bool beginRow(bool hasKey);
+    bool isLess(const Values& values, quint32 a, quint32 b) const;
 
     SortListView::CompareFunction m_function;
     Rule m_rule;
+    quint32 m_count = 0;
     quint32 m_keyCount = 0;
-    std::vector<Row> m_rows;
+    Values m_texts;
+    Values m_keys;              ///< Empty as long as no row has a sort key.
+    std::vector<char> m_hasKey; ///< As long as m_keys.
 };

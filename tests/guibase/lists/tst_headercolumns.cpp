@@ -149,7 +149,7 @@ void HeaderColumns::statesComeBack()
         Header restored(sections + added, orientation);
         disarrange(*stored.view, random);
         disarrange(*restored.view, random);
-        stored.handler->saveColumnStatus();
+        storeState(stored.view->saveState());
         restored.handler->restoreColumnStatus();
         QVERIFY(isSound(*restored.view, sections + added));
         for (int section = 0; section < sections; ++section) {
