@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "sortrowtable.h"
 
+#include <guibase/services/modaldialogs_p.h>
+
 #include <jtbase/numberhelpers.h>
 
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QRegularExpression>
@@ -154,12 +155,13 @@ void SortRowTable::slotDelete()
         if (!index.isValid())
             continue;
         if (answer != QMessageBox::YesToAll)
-            answer = QMessageBox::warning(
-                this, tr("Delete"),
-                tr("Do you want to delete item \"%1, %2\"?")
-                    .arg(textAt(index.row(), frequencyColumn), textAt(index.row(), levelColumn)),
-                QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll | QMessageBox::NoToAll,
-                QMessageBox::Yes);
+            answer = ModalDialogs::show(
+                this,
+                {QMessageBox::Warning, tr("Delete"),
+                 tr("Do you want to delete item \"%1, %2\"?")
+                     .arg(textAt(index.row(), frequencyColumn), textAt(index.row(), levelColumn)),
+                 QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll | QMessageBox::NoToAll,
+                 QMessageBox::Yes});
         if (!self || answer == QMessageBox::NoToAll)
             return;
         if ((answer == QMessageBox::Yes || answer == QMessageBox::YesToAll) && index.isValid())
