@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dockpointer_p.h"
+
 #include <QPointer>
 
-class QDockWidget;
 class QMainWindow;
 
 namespace QMainWindowHelpers {
@@ -26,7 +27,7 @@ public:
 
 private:
     QPointer<ActiveDockWidgetSupport> m_support;
-    QPointer<QDockWidget> m_dock;
+    DockPointer m_dock;
     bool m_hadDock = false;
     bool m_wasBlocked = false;
     bool m_bringToFront = false;

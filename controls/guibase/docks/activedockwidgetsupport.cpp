@@ -6,6 +6,7 @@
 #include "attachedhelper_p.h"
 #include "dockarrangement_p.h"
 #include "dockchildren_p.h"
+#include "dockpointer_p.h"
 #include "mainwindowhelpers.h"
 #include "survivalcheck_p.h"
 
@@ -15,6 +16,7 @@
 #include <QDockWidget>
 #include <QEvent>
 #include <QMainWindow>
+#include <QTimer>
 
 namespace QMainWindowHelpers {
 
@@ -42,12 +44,14 @@ struct ActiveDockWidgetSupportPrivate
     }
     void handleGone(const QObject* gone, QDockWidget* dock);
     void handleRelease(QWidget& widget);
-    void handleHidden(const QPointer<QDockWidget>& dock) const;
+    void handleHidden(const DockPointer& dock) const;
 
     ActiveDockWidgetSupport& q;
     AttachedHelpers::Attachment attachment;
     DockChildren children;
-    QPointer<QDockWidget> active;
+    DockPointer active;
+    /// The check that runs after the last dock was hidden.
+    QPointer<QTimer> hiddenCheck;
     /// The active dock too, for comparing; the dock may be dead already.
     const QObject* identity = nullptr;
     bool mouseButtonPressed = false;
@@ -72,9 +76,11 @@ void ActiveDockWidgetSupportPrivate::handleRelease(QWidget& widget)
         q.setActiveDockWidget(dock);
 }
 
-void ActiveDockWidgetSupportPrivate::handleHidden(const QPointer<QDockWidget>& dock) const
+void ActiveDockWidgetSupportPrivate::handleHidden(const DockPointer& dock) const
 {
-    if (q.mainWindow() != nullptr && !mouseButtonPressed && dock && !dock->isVisible())
+    if (q.mainWindow() == nullptr || mouseButtonPressed || !dock || dock->isVisible())
+        return;
+    if (!active || !active->isVisible())
         q.setActiveDockWidget(q.findNextActiveDockWidget());
 }
 
@@ -114,7 +120,7 @@ QMainWindow* ActiveDockWidgetSupport::mainWindow() const
 
 QDockWidget* ActiveDockWidgetSupport::activeDockWidget() const
 {
-    return d->active;
+    return d->active.get();
 }
 
 void ActiveDockWidgetSupport::bringToFront(QDockWidget& dock)
@@ -147,8 +153,8 @@ bool ActiveDockWidgetSupport::eventFilter(QObject* watched, QEvent* event)
         if (auto* dock = qobject_cast<QDockWidget*>(watched);
             dock != nullptr && dock->parentWidget() == mainWindow()) {
             // The toolkit hides docks for a moment while it docks or stacks them.
-            QTimerHelpers::singleShot(0, this,
-                                      [this, hidden = QPointer(dock)] { d->handleHidden(hidden); });
+            d->hiddenCheck = QTimerHelpers::singleShot(
+                0, this, [this, hidden = DockPointer(dock)] { d->handleHidden(hidden); });
         }
         break;
     case QEvent::ChildAdded:
@@ -178,10 +184,11 @@ QDockWidget* ActiveDockWidgetSupport::findNextActiveDockWidget() const
         return nullptr;
     QList<QDockWidget*> docks = dockWidgets(*window, allAreas, true);
     DockArrangement::sortByTitle(docks);
-    const qsizetype start = docks.indexOf(d->active) + 1;
+    QDockWidget* active = activeDockWidget();
+    const qsizetype start = docks.indexOf(active) + 1;
     for (qsizetype i = 0; i < docks.size(); ++i) {
         QDockWidget* dock = docks[(start + i) % docks.size()];
-        if (dock != d->active && dock->isVisible())
+        if (dock != active && dock->isVisible())
             return dock;
     }
     return nullptr;
@@ -210,6 +217,9 @@ void ActiveDockWidgetSupport::onFocusChanged(QWidget*, QWidget* now)
     QMainWindow* window = mainWindow();
     if (window == nullptr || now == nullptr)
         return;
+    // The focus leaves a dock that is hidden; who follows it, the check decides.
+    if (d->hiddenCheck && d->active && !d->active->isVisible())
+        return;
     QDockWidget* dock = findParentDockWidget(*now, window);
     if (dock != nullptr && window->dockWidgetArea(dock) != Qt::NoDockWidgetArea)
         setActiveDockWidget(dock);
@@ -227,7 +237,7 @@ ActiveDockKeeper::ActiveDockKeeper(const QMainWindow& mainWindow)
     if (m_support.isNull())
         return;
     m_dock = m_support->activeDockWidget();
-    m_hadDock = m_dock != nullptr;
+    m_hadDock = bool(m_dock);
     m_wasBlocked = m_support->blockSignals(true);
 }
 
@@ -237,7 +247,8 @@ ActiveDockKeeper::~ActiveDockKeeper()
         return;
     const bool kept = m_dock && m_dock->parentWidget() == m_support->mainWindow();
     if (kept)
-        m_support->d->store(m_dock); // for the receivers of signals it has always been this one
+        m_support->d->store(
+            m_dock.get()); // for the receivers of signals it has always been this one
     m_support->blockSignals(m_wasBlocked);
     if (kept && m_bringToFront)
         m_support->bringToFront(*m_dock);

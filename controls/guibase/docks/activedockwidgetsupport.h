@@ -11,6 +11,8 @@ class QDockWidget;
 class QMainWindow;
 class QWidget;
 
+Q_MOC_INCLUDE(<QDockWidget>)
+
 namespace QMainWindowHelpers {
 
 struct ActiveDockWidgetSupportPrivate;
@@ -19,7 +21,7 @@ struct ActiveDockWidgetSupportPrivate;
 /// routed to it. The support belongs to its main window.
 ///
 /// A dock becomes active when the focus goes to it while it is docked, when a mouse button is
-/// released over it, and when it comes to the main window. When a dock is hidden or the active one
+/// released over it, and when it comes to the main window. When the active dock is hidden or
 /// leaves, the next visible one in title order follows.
 class GUIBASE_EXPORT ActiveDockWidgetSupport : public QObject
 {

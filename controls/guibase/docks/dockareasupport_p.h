@@ -12,8 +12,8 @@
 #include <jtbase/qtimerhelpers.h>
 
 #include <QAction>
+#include <QChildEvent>
 #include <QDockWidget>
-#include <QEvent>
 #include <QMainWindow>
 #include <QMap>
 #include <QPointer>
@@ -70,11 +70,7 @@ public:
         , m_attachment(mainWindow, operation.property, support)
         , m_children(
               mainWindow, [this](QDockWidget& dock) { watch(dock); },
-              [this](const QObject*, QDockWidget* dock) {
-                  if (dock != nullptr)
-                      dock->removeEventFilter(&q);
-              },
-              nullptr)
+              [this](const QObject*, QDockWidget* dock) { unwatch(dock); }, nullptr)
     {}
 
     /// The second half of the construction, when the support is complete.
@@ -182,7 +178,7 @@ private:
         const QPointer<Support> alive(&q);
         if (watched == q.parent())
             m_children.handle(event);
-        if (!alive || event.type() == QEvent::ChildPolished)
+        if (!alive || event.type() == QEvent::ChildPolished || isAboutNoWidget(event))
             return;
         if (event.type() == QEvent::Hide)
             announceLater();
@@ -190,10 +186,26 @@ private:
             announceNow();
     }
 
+    /// Animations, actions and the like come and go in the middle of the toolkit's layouting.
+    static bool isAboutNoWidget(const QEvent& event)
+    {
+        const bool isChildEvent =
+            event.type() == QEvent::ChildAdded || event.type() == QEvent::ChildRemoved;
+        return isChildEvent && !static_cast<const QChildEvent&>(event).child()->isWidgetType();
+    }
+
     void watch(QDockWidget& dock)
     {
         dock.installEventFilter(&q);
         announceNow();
+    }
+
+    void unwatch(QDockWidget* dock)
+    {
+        if (dock != nullptr)
+            dock->removeEventFilter(&q);
+        else
+            announceNow(); // what is left of a dead dock does not pass for a widget
     }
 
     void announceNow()

@@ -86,11 +86,12 @@ QList<Area> listAreas(QFlags<Area> areas, const std::array<Area, 4>& order)
     return single;
 }
 
-/// The minimum size without what the layout of a window imposes: set as the window's own, that
+/// The minimum size without what the layout of a main window imposes: set as the window's own, that
 /// would stay for good.
 QSize ownMinimumSize(const QWidget& widget)
 {
-    if (!widget.isWindow() || widget.layout() == nullptr)
+    if (widget.layout() == nullptr ||
+        widget.layout()->sizeConstraint() != QLayout::SetDefaultConstraint)
         return widget.minimumSize();
     widget.layout()->activate();
     QSize own = widget.minimumSize();
@@ -289,6 +290,10 @@ void setDockWidgetSizes(QMainWindow& mainWindow, const QList<QPair<QDockWidget*,
                     squeeze(*dock, size);
             }
             settleLayout();
+            // From now on the layout keeps the sizes that it has. Until it is told some for the
+            // first time, it goes back to size hints whenever it can.
+            if (window)
+                window->resizeDocks({}, {}, Qt::Horizontal);
         }
         settleLayout();
         if (window)

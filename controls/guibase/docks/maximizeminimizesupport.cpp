@@ -2,6 +2,7 @@
 #include "maximizeminimizesupport.h"
 
 #include "attachedhelper_p.h"
+#include "survivalcheck_p.h"
 #include "updatesblocker_p.h"
 
 #include <jtbase/qtimerhelpers.h>
@@ -113,6 +114,7 @@ struct MaximizeMinimizeSupportPrivate
     void announceLater(bool reapplyState);
     void reapply(QDockWidget& dock);
     void announcePossible(size_t operation);
+    void announceChanges();
 
     Support& q;
     AttachedHelpers::Attachment attachment;
@@ -123,6 +125,7 @@ struct MaximizeMinimizeSupportPrivate
     std::array<bool, operations.size()> announced{};
     QPointer<QTimer> announcement;
     bool reapplyBeforeAnnouncement = false;
+    bool changing = false;
 };
 
 namespace {
@@ -171,6 +174,19 @@ private:
     State::Type m_state;
 };
 
+/// The style makes a standard icon from its image files every time; it is kept with the style.
+QIcon standardIconOf(const QDockWidget& dock, QStyle::StandardPixmap kind)
+{
+    QStyle* style = dock.style();
+    const QByteArray name = "GuiBase_standardIcon_" + QByteArray::number(int(kind));
+    QVariant kept = style->property(name.constData());
+    if (!kept.isValid()) {
+        kept = style->standardIcon(kind, nullptr, &dock);
+        style->setProperty(name.constData(), kept);
+    }
+    return kept.value<QIcon>();
+}
+
 } // namespace
 
 void MaximizeMinimizeSupportPrivate::createActions(QDockWidget& dock)
@@ -180,7 +196,7 @@ void MaximizeMinimizeSupportPrivate::createActions(QDockWidget& dock)
         auto* action = new QAction(&q);
         action->setObjectName(QString::fromLatin1(operation.actionName));
         action->setToolTip(Support::tr(operation.toolTip));
-        action->setIcon(dock.style()->standardIcon(operation.icon, nullptr, &dock));
+        action->setIcon(standardIconOf(dock, operation.icon));
         QObject::connect(action, &QAction::triggered, &q, operation.perform);
         QObject::connect(&q, operation.possibleChanged, action, &QAction::setVisible);
         QObject::connect(&q, operation.possibleChanged, action, &QAction::setEnabled);
@@ -196,22 +212,27 @@ bool MaximizeMinimizeSupportPrivate::changeTo(State::Type newState, bool (*opera
     const QPointer<Support> alive(&q);
     const Notifier notifier(*this, Notifier::ChangesOnly);
     const QRect geometry = dock->geometry();
-    if (!operation(*dock))
-        return false;
-    if (alive) {
+    const bool wasChanging = std::exchange(changing, true);
+    const bool changed = operation(*dock);
+    if (alive)
+        changing = wasChanging;
+    if (changed && alive) {
         state = newState;
         if (newState == State::Normal)
             dock->setGeometry(normalGeometry);
         else
             normalGeometry = geometry;
     }
-    return true;
+    return changed;
 }
 
 void MaximizeMinimizeSupportPrivate::announceLater(bool reapplyState)
 {
-    for (QAction* action : actions)
-        action->setVisible(false);
+    const QPointer<Support> alive(&q);
+    for (size_t i = 0; i < operations.size() && alive; ++i)
+        actions[i]->setVisible(false);
+    if (!alive)
+        return;
     reapplyBeforeAnnouncement = reapplyBeforeAnnouncement || reapplyState;
     if (announcement)
         return;
@@ -248,6 +269,15 @@ void MaximizeMinimizeSupportPrivate::announcePossible(size_t operation)
 {
     announced[operation] = (q.*operations[operation].isPossible)();
     Q_EMIT(q.*operations[operation].possibleChanged)(announced[operation]);
+}
+
+void MaximizeMinimizeSupportPrivate::announceChanges()
+{
+    const QPointer<Support> alive(&q);
+    for (size_t i = 0; i < operations.size() && alive; ++i) {
+        if ((q.*operations[i].isPossible)() != announced[i])
+            announcePossible(i);
+    }
 }
 
 MaximizeMinimizeSupport* MaximizeMinimizeSupport::get(const QDockWidget& dock)
@@ -380,10 +410,13 @@ bool MaximizeMinimizeSupport::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != parent())
         return false;
-    // A spontaneous event is the window manager's doing, which the support leaves as it is.
+    const SurvivalCheck receiver(watched);
+    // What the window manager does to the dock, the support only takes notice of.
     if (event->type() == QEvent::Show)
         d->announceLater(!event->spontaneous());
-    return false;
+    else if (event->type() == QEvent::WindowStateChange && !d->changing)
+        d->announceChanges();
+    return receiver.hasDied();
 }
 
 void MaximizeMinimizeSupport::onFloatingStateChanged()

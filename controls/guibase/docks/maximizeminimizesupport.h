@@ -18,7 +18,7 @@ namespace QDockWidgetHelpers {
 /// The states of a floating dock, with their names.
 struct GUIBASE_EXPORT MaximizeMinimizeSupport_DockWidgetState
 {
-    enum Type {
+    enum Type : int {
         Normal,
         Maximized,
         Minimized,

@@ -156,8 +156,12 @@ bool TileSupport::tileDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetArea ar
     const QList<int> widths = fill(tiling.grid->columnWidths, tiling.available.width(), separator);
     const QList<int> heights = fill(tiling.grid->rowHeights, tiling.available.height(), separator);
     QList<QPair<QDockWidget*, QSize>> sizes;
-    for (int i = 0; i < docks.size(); ++i)
-        sizes << qMakePair(docks[i].data(), QSize(widths[i % columns], heights[i / columns]));
+    for (int i = 0; i < docks.size(); ++i) {
+        // Above an empty cell, a dock is as high as what is left of its column.
+        const bool aboveNothing = i + columns >= docks.size() && i / columns < heights.size() - 1;
+        const int height = aboveNothing ? 0 : heights[i / columns];
+        sizes << qMakePair(docks[i].data(), QSize(widths[i % columns], height));
+    }
     setDockWidgetSizes(mainWindow, sizes);
     return true;
 }
