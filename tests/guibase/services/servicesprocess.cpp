@@ -3,7 +3,9 @@
 //     services_process <scenario> <configuration folder>
 // It tells on its standard output what it found. A warning ends it, until the last destructor.
 #include <guibase/colors/colorset.h>
+#include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
+#include <guibase/services/splitter.h>
 
 #include <jtbase/errorhandler.h>
 #include <trovappstartup/cfgcenter.h>
@@ -12,6 +14,8 @@
 #include <xmsgdlg/xmessagedialog.h>
 
 #include <QApplication>
+#include <QDockWidget>
+#include <QHeaderView>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QTextStream>
@@ -32,9 +36,11 @@ void endOnWarning(QtMsgType type, const QMessageLogContext&, const QString& text
     std::abort();
 }
 
-void tell(const QString& what, int value)
+template <typename Value>
+void tell(const QString& what, const Value& value)
 {
     QTextStream(stdout) << what << '=' << value << '\n';
+    std::fflush(stdout);
 }
 
 /// The services come first and the application object later; the process only looks around.
@@ -76,6 +82,42 @@ int runSession(int argc, char** argv, bool deleteMainWidget)
     return QApplication::exec();
 }
 
+/// Shows and changes layouts of all kinds, and waits to be killed. Tells the layouts at start.
+int runLayouts(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    GuiBase& services = GuiBase::Instance();
+    services.SetLayoutWriteDelay(20);
+    CfgCenter::SetAutoStoreDelay(20);
+    QMainWindow window;
+    window.resize(600, 400);
+    auto* splitter = new Splitter(Qt::Horizontal, &window, QString(), QStringLiteral("panes"));
+    auto* list = new SortListView(splitter, "list");
+    list->header()->setStretchLastSection(false);
+    list->addColumn(QStringLiteral("first"));
+    list->SetColumnWidthPersistantName(QStringLiteral("list"));
+    splitter->addWidget(list);
+    splitter->addWidget(new QWidget);
+    window.setCentralWidget(splitter);
+    QDockWidget* dock = GuiBase::AddAsDockWidget(new QWidget, QStringLiteral("dock"), &window,
+                                                 Qt::LeftDockWidgetArea);
+    services.SetMainWidget(&window);
+    tell(QStringLiteral("layouts"), QStringLiteral("%1 %2 %3 %4")
+                                        .arg(window.width())
+                                        .arg(list->columnWidth(0))
+                                        .arg(splitter->sizes().at(0))
+                                        .arg(dock->isHidden() ? 1 : 0));
+    QTimer::singleShot(0, &application, [&] {
+        dock->hide();
+        window.resize(654, 432);
+        list->setColumnWidth(0, 77);
+        list->saveColumnStatus();
+        splitter->setSizes({1, 1});
+        splitter->shiftHandle(1, -100);
+    });
+    return QApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -90,5 +132,7 @@ int main(int argc, char** argv)
         return runSession(argc, argv, false);
     if (scenario == QStringLiteral("delete"))
         return runSession(argc, argv, true);
+    if (scenario == QStringLiteral("layouts"))
+        return runLayouts(argc, argv);
     return 2;
 }

@@ -5,8 +5,11 @@
 
 #include <trovappstartup/cfgcenter.h>
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <csignal>
 
 class TestServicesProcess : public GuardedTest
 {
@@ -55,8 +58,34 @@ private Q_SLOTS:
         QVERIFY(width > 0);
         QCOMPARE(run(scenario), QStringLiteral("zone=0\nwidth=%1\n").arg(width + 11));
     }
+    /// A process that is killed loses nothing but the last moments.
+    void layoutsSurviveKill()
+    {
+        const QString process = QStringLiteral(SERVICES_PROCESS);
+        const QStringList arguments{QStringLiteral("layouts"), configDir()};
+        {
+            ChildProcess first(process, arguments);
+            const QString file = CfgCenter::GetAppCfgFileName();
+            for (const char* part : {"77,0,0;", "panes_Sizes", "GuiBase_main"})
+                QTRY_VERIFY2(read(file).contains(part), part);
+            QVERIFY(first.send(SIGKILL));
+            QCOMPARE(first.waitForEnd(), -SIGKILL);
+        }
+        CfgCenter::LoadAll();
+        const QString sizes = CfgCenter::GetAppCfg(LayoutView)
+                                  ->OpenSubCfg(QStringLiteral("Splitter"))
+                                  ->GetString(QStringLiteral("panes_Sizes"));
+        ChildProcess second(process, arguments);
+        const QByteArray told = "layouts=654 77 " + sizes.section(u';', 0, 0).toLatin1() + " 1";
+        QVERIFY2(second.waitForLine(told), second.output().constData());
+    }
 
 private:
+    static QByteArray read(const QString& fileName)
+    {
+        QFile file(fileName);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
     void prepare() override { CfgCenter::SetAppName(QStringLiteral("services")); }
     /// What the process told and what it complained about, with the exit code when it failed.
     QString run(const char* scenario)
