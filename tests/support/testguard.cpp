@@ -12,8 +12,8 @@
 TestGuard::TestGuard()
 {
     // The offscreen platform says that of dialogs with a fixed size and of floating docks.
-    QTest::failOnWarning(QRegularExpression(
-        QStringLiteral("^(?!This plugin does not support (propagateSizeHints|raise)\\(\\))")));
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(
+        "^(?!This plugin does not support (propagateSizeHints\\(\\)|raise\\(\\)|setParent!))")));
     QLocale::setDefault(QLocale::c());
     CfgCenter::SetAutoStoreDelay(-1);
     CfgCenter::SetConfigDir(m_configDir.filePath(QStringLiteral("config")));

@@ -299,6 +299,8 @@ void setDockWidgetSizes(QMainWindow& mainWindow, const QList<QPair<QDockWidget*,
         if (window)
             window->setGeometry(geometry);
     }
+    if (window)
+        window->layout()->update(); // imposes the minimum size of the contents again
     settleLayout();
 }
 

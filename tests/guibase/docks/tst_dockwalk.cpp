@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/docks/activedockwidgetsupport.h>
+#include <guibase/docks/mainwindowhelpers.h>
+#include <guibase/docks/maximizeminimizesupport.h>
+#include <guibase/docks/tabifysupport.h>
+#include <guibase/docks/tilesupport.h>
+
+#include "dockwindow.h"
+#include "support/guardedtest.h"
+#include "support/randombytes.h"
+
+#include <QAction>
+#include <QLayout>
+#include <QPointer>
+#include <QTest>
+#include <QTextEdit>
+
+#include <array>
+#include <memory>
+
+using namespace QMainWindowHelpers;
+using QDockWidgetHelpers::MaximizeMinimizeSupport;
+
+namespace {
+
+/// Two windows with every support between which docks wander at random.
+class Walk
+{
+public:
+    Walk()
+    {
+        for (auto& window : m_windows)
+            open(window);
+    }
+
+    void step()
+    {
+        static constexpr std::array<void (Walk::*)(), 16> steps{
+            &Walk::add,    &Walk::add,      &Walk::remove,   &Walk::toggleFloating,
+            &Walk::tabify, &Walk::tile,     &Walk::hide,     &Walk::show,
+            &Walk::save,   &Walk::restore,  &Walk::close,    &Walk::move,
+            &Walk::click,  &Walk::maximize, &Walk::minimize, &Walk::bringToFront,
+        };
+        m_window = m_windows[size_t(m_random.below(2))].get();
+        const auto docks = m_window->findChildren<QDockWidget*>();
+        m_dock = docks.isEmpty() ? nullptr : docks[m_random.below(int(docks.size()))];
+        m_area = Qt::DockWidgetArea(1 << m_random.below(4));
+        (this->*steps[size_t(m_random.below(int(steps.size())))])();
+        if (m_random.below(500) == 0)
+            open(m_windows[size_t(m_random.below(2))]);
+        if (m_random.below(3) > 0)
+            return; // the next step comes before the event loop runs
+        settle();
+        for (const auto& window : m_windows)
+            check(*window);
+    }
+
+private:
+    void open(std::unique_ptr<DockWindow>& window)
+    {
+        window = std::make_unique<DockWindow>();
+        window->setDockOptions(QMainWindow::AllowTabbedDocks | QMainWindow::AllowNestedDocks |
+                               QMainWindow::GroupedDragging);
+        ActiveDockWidgetSupport::install(*window);
+        TabifySupport::install(*window, Qt::AllDockWidgetAreas);
+        TileSupport::install(*window, Qt::AllDockWidgetAreas);
+        window->show();
+    }
+    void add()
+    {
+        if (m_window->findChildren<QDockWidget*>().size() > 12)
+            return;
+        static const QStringList titles{u"same"_s, u""_s, u"other"_s, u"[*]"_s};
+        const bool withParent = m_random.below(2) == 0;
+        auto* dock = new QDockWidget(titles[m_random.below(4)], withParent ? m_window : nullptr);
+        dock->setWidget(new QTextEdit);
+        dock->setMinimumSize(m_random.below(300), m_random.below(200));
+        if (m_random.below(4) > 0)
+            dock->setObjectName(u"dock %1"_s.arg(m_random.below(6)));
+        MaximizeMinimizeSupport::install(*dock);
+        m_window->addDockWidget(m_area, dock);
+    }
+    void remove() { delete m_dock; }
+    void toggleFloating()
+    {
+        if (m_dock)
+            m_dock->setFloating(!m_dock->isFloating());
+    }
+    void tabify() { TabifySupport::get(*m_window)->tabifyDockWidgets(m_area); }
+    void tile() { TileSupport::get(*m_window)->tileDockWidgets(m_area); }
+    void hide()
+    {
+        if (m_dock)
+            m_dock->hide();
+    }
+    void show()
+    {
+        if (m_dock)
+            m_dock->show();
+    }
+    void close()
+    {
+        if (m_dock)
+            m_dock->close();
+    }
+    void save()
+    {
+        const auto docks = m_window->findChildren<QDockWidget*>();
+        for (QDockWidget* dock : docks) {
+            if (dock->objectName().isEmpty()) // which the toolkit would warn of
+                dock->setObjectName(u"unnamed"_s);
+        }
+        m_state = m_window->saveState();
+    }
+    void restore() { m_window->restoreState(m_state); }
+    void move()
+    {
+        if (m_dock)
+            m_windows[size_t(m_random.below(2))]->addDockWidget(m_area, m_dock);
+    }
+    void click()
+    {
+        if (m_dock)
+            QTest::mouseClick(m_dock->widget(), Qt::LeftButton);
+    }
+    void maximize()
+    {
+        auto* support = m_dock ? MaximizeMinimizeSupport::get(*m_dock) : nullptr;
+        if (support != nullptr && !support->maximizeDockWidget())
+            support->restoreDockWidget();
+    }
+    void minimize()
+    {
+        auto* support = m_dock ? MaximizeMinimizeSupport::get(*m_dock) : nullptr;
+        if (support != nullptr && !support->minimizeDockWidget())
+            support->restoreDockWidget();
+    }
+    void bringToFront()
+    {
+        if (m_dock)
+            ActiveDockWidgetSupport::get(*m_window)->bringToFront(*m_dock);
+    }
+
+    static void check(DockWindow& window)
+    {
+        const QDockWidget* active = ActiveDockWidgetSupport::get(window)->activeDockWidget();
+        QVERIFY(active == nullptr || active->parent() == &window);
+        QVERIFY(window.updatesEnabled());
+        QCOMPARE(window.minimumSize(), window.layout()->totalMinimumSize());
+        QCOMPARE(window.maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+        auto* tabify = TabifySupport::get(window);
+        auto* tile = TileSupport::get(window);
+        for (const Qt::DockWidgetArea area : listDockWidgetAreas(Qt::AllDockWidgetAreas)) {
+            QCOMPARE(tabify->tabifyDockWidgetsAction(area).isVisible(),
+                     tabify->isTabifyDockWidgetsPossible(area));
+            QCOMPARE(tile->tileDockWidgetsAction(area).isVisible(),
+                     tile->isTileDockWidgetsPossible(area));
+        }
+        const auto docks = window.findChildren<QDockWidget*>();
+        for (const QDockWidget* dock : docks) {
+            auto* support = MaximizeMinimizeSupport::get(*dock);
+            QVERIFY(support != nullptr && support->dockWidget() == dock);
+            QVERIFY(dock->updatesEnabled());
+            QVERIFY(dock->maximumWidth() >= QLAYOUTSIZE_MAX);
+            if (dock->isVisible())
+                QCOMPARE(support->restoreDockWidgetAction().isVisible(),
+                         support->isRestoreDockWidgetPossible());
+        }
+    }
+
+    RandomBytes m_random{"walk of the docks"};
+    std::array<std::unique_ptr<DockWindow>, 2> m_windows;
+    DockWindow* m_window = nullptr;
+    QPointer<QDockWidget> m_dock;
+    Qt::DockWidgetArea m_area = Qt::LeftDockWidgetArea;
+    QByteArray m_state;
+};
+
+} // namespace
+
+class tst_DockWalk : public GuardedTest
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void walks()
+    {
+        Walk walk;
+        for (int step = RandomBytes::rounds(400); step > 0; --step) {
+            walk.step();
+            if (QTest::currentTestFailed())
+                QFAIL(qPrintable(u"%1 steps before the end"_s.arg(step - 1)));
+        }
+    }
+};
+
+QTEST_MAIN(tst_DockWalk)
+#include "tst_dockwalk.moc"

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/docks/mainwindowhelpers.h>
+
+#include "dockwindow.h"
+#include "support/guardedtest.h"
+
+#include <QPointer>
+#include <QTabBar>
+#include <QTest>
+#include <QTimer>
+#include <QToolBar>
+
+using namespace QMainWindowHelpers;
+
+class tst_MainWindowHelpers : public GuardedTest
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void listsDocksAndToolBars()
+    {
+        DockWindow window;
+        const auto docks = window.addDocks({u"a"_s, u"b"_s, u"c"_s});
+        QDockWidget* top = window.addDock(u"top"_s, Qt::TopDockWidgetArea);
+        docks[1]->setFloating(true);
+        QDockWidget nested(u"nested"_s, window.centralWidget());
+        const auto all = [](const auto&) { return true; };
+        QCOMPARE(dockWidgets(window, all, -1), docks + QList{top});
+        QCOMPARE(dockWidgets(window, all, 2), docks.mid(0, 2));
+        QCOMPARE(dockWidgets(window, all, 0).size(), 0);
+        QCOMPARE(dockWidgets(window, Qt::LeftDockWidgetArea, false), QList({docks[0], docks[2]}));
+        QCOMPARE(dockWidgets(window, Qt::LeftDockWidgetArea, true), docks);
+        QCOMPARE(dockWidgets(window, Qt::NoDockWidgetArea, true).size(), 0);
+        QCOMPARE(findDockWidgetByWindowTitle(window, u"b"_s), docks[1]);
+        QVERIFY(!findDockWidgetByWindowTitle(window, u"B"_s));
+        QVERIFY(!findDockWidgetByWindowTitle(window, u"nested"_s));
+        QVERIFY_EXCEPTION_THROWN(dockWidgets(window, nullptr, -1), std::bad_function_call);
+
+        QToolBar* right = new QToolBar(&window);
+        window.addToolBar(Qt::RightToolBarArea, right);
+        window.addToolBar(u"top"_s);
+        QCOMPARE(toolBars(window, Qt::RightToolBarArea, true), QList{right});
+        QCOMPARE(toolBars(window, all, -1).size(), 2);
+        QVERIFY(!topLevelMainWindows().contains(qobject_cast<QMainWindow*>(top)));
+        QVERIFY(topLevelMainWindows().contains(&window));
+    }
+    void findsTheDockOfAWidget()
+    {
+        DockWindow window, other;
+        QDockWidget* dock = window.addDock(u"dock"_s);
+        QVERIFY(findParentDockWidget(*dock->widget(), nullptr) == dock);
+        QVERIFY(findParentDockWidget(*dock, &window) == dock);
+        QVERIFY(!findParentDockWidget(*dock->widget(), &other));
+        QVERIFY(!findParentDockWidget(window, nullptr));
+        QDockWidget outer(u"outer"_s, window.centralWidget());
+        QVERIFY(!findParentDockWidget(outer, nullptr));
+    }
+    void findsTheDockOfATab()
+    {
+        DockWindow window, other;
+        const auto docks = window.addDocks({u"same"_s, u"same"_s, u"new [*] title"_s});
+        QDockWidget* alone = window.addDock(u"alone"_s, Qt::RightDockWidgetArea);
+        window.tabifyDockWidget(docks[0], docks[1]);
+        window.tabifyDockWidget(docks[0], docks[2]);
+        window.show();
+        settle();
+        const auto tabBars = tabBarsInDockWidgetArea(window, Qt::LeftDockWidgetArea);
+        QCOMPARE(tabBars.size(), 1);
+        QCOMPARE(tabBarsInDockWidgetArea(window, Qt::RightDockWidgetArea).size(), 0);
+        for (int i = 0; i < docks.size(); ++i) {
+            tabBars[0]->setCurrentIndex(i);
+            QCOMPARE(findParentDockWidget(*tabBars[0], &window), docks[i]);
+        }
+        QVERIFY(!findParentDockWidget(*tabBars[0], &other));
+        QRect expected = docks[2]->geometry();
+        expected |= tabBars[0]->geometry();
+        QCOMPARE(dockWidgetAreaGeometry(window, Qt::LeftDockWidgetArea), expected);
+        QCOMPARE(dockWidgetAreaGeometry(window, Qt::RightDockWidgetArea), alone->geometry());
+        QVERIFY(dockWidgetAreaGeometry(window, Qt::TopDockWidgetArea).isNull());
+        // A tab bar that somebody else has filled.
+        QTabBar tabs(&window);
+        QVERIFY(!findParentDockWidget(tabs, nullptr));
+        tabs.addTab(u"alone"_s);
+        QCOMPARE(findParentDockWidget(tabs, nullptr), alone);
+    }
+    void sizesDocks()
+    {
+        DockWindow window;
+        const auto docks = window.addDocks({u"a"_s, u"b"_s}, Qt::LeftDockWidgetArea, {50, 40});
+        window.show();
+        settle();
+        const QSize minimum = docks[0]->minimumSize();
+        const QSize maximum = docks[0]->maximumSize();
+        const QRect geometry = window.geometry();
+        setDockWidgetSize(window, *docks[0], 300, 250);
+        QCOMPARE(docks[0]->size(), QSize(300, 250));
+        setDockWidgetSize(window, *docks[0], 0, 200);
+        QCOMPARE(docks[0]->size(), QSize(300, 200));
+        setDockWidgetSizes(window, {{nullptr, {1, 1}}, {docks[0], {-1, 0}}, {docks[0], {250, 0}}});
+        QCOMPARE(docks[0]->size(), QSize(250, 200));
+        setDockWidgetSize(window, *docks[1], QSize(50'000'000, 50'000'000));
+        QCOMPARE(docks[0]->minimumSize(), minimum);
+        QCOMPARE(docks[0]->maximumSize(), maximum);
+        QCOMPARE(window.geometry(), geometry);
+        QVERIFY(window.minimumWidth() < 400);
+        docks[0]->widget()->setMinimumWidth(
+            400); // the window's own layout still sees to its minimum size
+        settle();
+        QVERIFY(window.minimumWidth() > 400);
+        QCOMPARE(window.maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+        QVERIFY(window.updatesEnabled());
+        window.setUpdatesEnabled(false);
+        setDockWidgetSize(window, *docks[0], 0, 0);
+        QVERIFY(!window.updatesEnabled());
+    }
+    void survivesDeathsWhileSizing()
+    {
+        QPointer<DockWindow> window = new DockWindow;
+        const auto docks = window->addDocks({u"a"_s, u"b"_s});
+        window->show();
+        settle();
+        QTimer::singleShot(0, docks[0], [dock = docks[0]] { delete dock; });
+        setDockWidgetSizes(*window, {{docks[0], {200, 200}}, {docks[1], {200, 300}}});
+        QTimer::singleShot(0, window, [&window] { delete window; });
+        setDockWidgetSize(*window, *docks[1], 100, 100);
+        QVERIFY(window.isNull());
+    }
+    void listsAreasInOrder()
+    {
+        QCOMPARE(listDockWidgetAreas(Qt::BottomDockWidgetArea | Qt::RightDockWidgetArea),
+                 QList({Qt::RightDockWidgetArea, Qt::BottomDockWidgetArea}));
+        QCOMPARE(listToolBarAreas(Qt::AllToolBarAreas),
+                 QList({Qt::LeftToolBarArea, Qt::RightToolBarArea, Qt::TopToolBarArea,
+                        Qt::BottomToolBarArea}));
+        QCOMPARE(listDockWidgetAreas({}).size(), 0);
+    }
+};
+
+QTEST_MAIN(tst_MainWindowHelpers)
+#include "tst_mainwindowhelpers.moc"

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/docks/maximizeminimizesupport.h>
+
+#include "dockwindow.h"
+#include "support/guardedtest.h"
+#include "support/testrows.h"
+
+#include <QAction>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+using QDockWidgetHelpers::MaximizeMinimizeSupport;
+using State = QDockWidgetHelpers::MaximizeMinimizeSupport_DockWidgetState;
+
+class tst_MaximizeMinimizeSupport : public GuardedTest
+{
+    Q_OBJECT
+    using Texts = TestRows<QString, int, bool>;
+
+    struct Fixture
+    {
+        Fixture()
+            : support(MaximizeMinimizeSupport::install(*dock))
+        {
+            window.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            settle();
+        }
+        void floatDock()
+        {
+            dock->setFloating(true);
+            dock->setGeometry(geometry);
+            QVERIFY(QTest::qWaitForWindowExposed(dock));
+            QTRY_COMPARE(visibleActions(), u"110"_s);
+            QTRY_COMPARE(dock->geometry(), geometry);
+        }
+        /// A digit for each of maximize, minimize, restore.
+        QString visibleActions() const
+        {
+            QString shown;
+            for (const QAction* action :
+                 {&support->maximizeDockWidgetAction(), &support->minimizeDockWidgetAction(),
+                  &support->restoreDockWidgetAction()})
+                shown += action->isVisible() && action->isEnabled() ? u'1' : u'0';
+            return shown;
+        }
+
+        const QRect geometry{250, 160, 410, 330};
+        DockWindow window;
+        QDockWidget* dock = window.addDock(u"dock"_s);
+        MaximizeMinimizeSupport* support;
+    };
+
+private Q_SLOTS:
+    void readsStates_data()
+    {
+        Texts row;
+        row("blanks", " MIN\t", State::Minimized, true);
+        row("beginning", "max", State::Maximized, true);
+        row("letter", "n", State::Normal, true);
+        row("ambiguous", "m", State::Maximized, true);
+        row("whole", "Minimized", State::Minimized, true);
+        row("too long", "Minimized!", State::Normal, false);
+        row("empty", "", State::Normal, false);
+        row("blank", "  ", State::Normal, false);
+        row("other", "x", State::Normal, false);
+    }
+    void readsStates()
+    {
+        const auto& [text, state, valid] = Texts::fetch();
+        bool ok = !valid;
+        QCOMPARE(int(State::fromString(text, &ok)), state);
+        QCOMPARE(ok, valid);
+        QCOMPARE(int(State::fromString(text, nullptr)), state);
+        QVERIFY(State::toString(State::Type(3)).isNull());
+        QVERIFY(State::toDisplayString(State::Type(-1)).isNull());
+        QCOMPARE(State::toDisplayString(State::Maximized), u"Maximized"_s);
+    }
+    void dockedDocksCanDoNothing()
+    {
+        Fixture f;
+        QCOMPARE(f.visibleActions(), u"000"_s);
+        QVERIFY(!f.support->maximizeDockWidget() && !f.support->minimizeDockWidget() &&
+                !f.support->restoreDockWidget());
+        QVERIFY(!MaximizeMinimizeSupport::maximizeDockWidget(*f.dock));
+        QVERIFY(MaximizeMinimizeSupport::install(*f.dock) == f.support);
+        QCOMPARE(f.support->findChildren<QAction*>().size(), 3);
+        delete f.support;
+        QVERIFY(!MaximizeMinimizeSupport::get(*f.dock));
+    }
+    void maximizesAndRestores()
+    {
+        Fixture f;
+        f.floatDock();
+        QStringList log;
+        using Support = MaximizeMinimizeSupport;
+        const auto note = [&log](const QString& what) {
+            return [&log, what](int value) { log << what + QString::number(value); };
+        };
+        connect(f.support, &Support::isMaximizeDockWidgetPossibleChanged, this, note(u"max"_s));
+        connect(f.support, &Support::isMinimizeDockWidgetPossibleChanged, this, note(u"min"_s));
+        connect(f.support, &Support::isRestoreDockWidgetPossibleChanged, this, note(u"restore"_s));
+        connect(f.support, &Support::dockWidgetStateChanged, this, note(u"state"_s));
+        f.support->maximizeDockWidgetAction().trigger();
+        QTRY_VERIFY(f.dock->width() > 700);
+        QVERIFY(!f.support->maximizeDockWidget());
+        QCOMPARE(log, QStringList({u"max0"_s, u"restore1"_s, u"state1"_s}));
+        QCOMPARE(f.visibleActions(), u"011"_s);
+        log.clear();
+        f.support->restoreDockWidgetAction().trigger();
+        QTRY_COMPARE(f.dock->geometry(), f.geometry);
+        settle();
+        QCOMPARE(f.dock->geometry(), f.geometry);
+        QCOMPARE(log, QStringList({u"max1"_s, u"restore0"_s, u"state0"_s}));
+    }
+    void minimizesAndRestores()
+    {
+        Fixture f;
+        f.floatDock();
+        QVERIFY(f.support->minimizeDockWidget());
+        settle();
+        QCOMPARE(f.support->dockWidgetState(), State::Minimized);
+        QTRY_COMPARE(MaximizeMinimizeSupport::dockWidgetState(*f.dock), State::Minimized);
+        QCOMPARE(f.visibleActions(), u"101"_s);
+        QVERIFY(f.support->restoreDockWidget());
+        QTRY_COMPARE(f.dock->geometry(), f.geometry);
+        QTRY_COMPARE(f.visibleActions(), u"110"_s);
+    }
+    void comesBackMaximized()
+    {
+        Fixture f;
+        f.floatDock();
+        QVERIFY(f.support->maximizeDockWidget());
+        QTRY_VERIFY(f.dock->width() > 700);
+        f.dock->setFloating(false);
+        QTRY_COMPARE(f.visibleActions(), u"000"_s);
+        settle();
+        QVERIFY(!f.dock->isMaximized());
+        f.dock->setFloating(true);
+        QTRY_VERIFY(f.dock->isMaximized());
+        QTRY_COMPARE(f.visibleActions(), u"011"_s);
+        QTRY_VERIFY(f.dock->width() > 700);
+        f.dock->hide(); // and the pending step must not show it again
+        settle();
+        QVERIFY(!f.dock->isVisible());
+        f.dock->show();
+        QTRY_COMPARE(f.visibleActions(), u"011"_s);
+        QTRY_VERIFY(f.dock->width() > 700);
+        QVERIFY(f.support->restoreDockWidget());
+        QTRY_COMPARE(f.dock->geometry(), f.geometry);
+    }
+    void leavesTheUsersDoingAlone()
+    {
+        Fixture f;
+        f.floatDock();
+        f.dock->setWindowState(Qt::WindowMaximized);
+        QTRY_COMPARE(f.visibleActions(), u"011"_s);
+        QCOMPARE(f.support->dockWidgetState(), State::Normal);
+        f.dock->setWindowState(Qt::WindowNoState);
+        QTRY_COMPARE(f.visibleActions(), u"110"_s);
+        QVERIFY(f.support->minimizeDockWidget());
+        settle();
+        f.dock->setWindowState(Qt::WindowNoState); // as from a task bar
+        QTRY_COMPARE(f.visibleActions(), u"110"_s);
+        settle();
+        QVERIFY(!f.dock->isMinimized());
+    }
+    void survivesReceiversThatDestroy()
+    {
+        for (const bool dockItself : {true, false}) {
+            Fixture f;
+            f.floatDock();
+            const QPointer<QDockWidget> dock = f.dock;
+            connect(f.support, &MaximizeMinimizeSupport::isMaximizeDockWidgetPossibleChanged, this,
+                    [&] { delete (dockItself ? f.dock : static_cast<QObject*>(f.support)); });
+            f.support->maximizeDockWidget();
+            QCOMPARE(dock.isNull(), dockItself);
+            settle();
+        }
+    }
+};
+
+QTEST_MAIN(tst_MaximizeMinimizeSupport)
+#include "tst_maximizeminimizesupport.moc"
