@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <guibase/docks/autohidesupport.h>
+#include <guibase/docks/dockwidgetconfigurator.h>
 
 #include "support/randombytes.h"
 #include "support/testguard.h"
@@ -49,7 +50,7 @@ struct Window
         auto* dock = new QDockWidget(name, window.get());
         dock->setObjectName(name);
         dock->setWidget(new QTextEdit);
-        AutoHideSupport::createAutoHideAction(*dock);
+        QDockWidgetHelpers::DockWidgetConfigurator().withAutoHideSupport(true).configure(*dock);
         window->addDockWidget(area, dock);
         return dock;
     }
@@ -465,7 +466,7 @@ void TestAutoHideSupport::randomWalk()
         }
         QDockWidget* dock = docks.at(random.below(static_cast<int>(docks.size())));
         QDockWidget* other = docks.at(random.below(static_cast<int>(docks.size())));
-        switch (random.below(14)) {
+        switch (random.below(15)) {
         case 0:
             AutoHideSupport::autoHideAction(*dock)->toggle();
             break;
@@ -502,6 +503,13 @@ void TestAutoHideSupport::randomWalk()
         case 11:
             w.support->restoreState(w.support->saveState());
             break;
+        case 13: {
+            auto own = dock->titleBarWidget()->findChildren<QToolButton*>();
+            own.removeIf([](const QToolButton* each) { return each->menu() != nullptr; });
+            if (!own.isEmpty())
+                own.at(random.below(static_cast<int>(own.size())))->click();
+            break;
+        }
         case 12:
             if (const auto buttons = w.buttons(dock); !buttons.isEmpty()) {
                 enter(buttons.first());
