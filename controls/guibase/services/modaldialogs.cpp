@@ -49,6 +49,7 @@ QString ModalDialogs::askForFile(QWidget* parent, const FileQuestion& question)
     auto* const dialog = new QFileDialog(parent, question.title, question.startAt, question.filter);
     dialog->setOptions(GuiBase::Instance().UseNativeDialogs());
     dialog->setAcceptMode(question.mode);
+    dialog->setDefaultSuffix(question.defaultSuffix);
     dialog->setFileMode(question.mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
                                                                  : QFileDialog::AnyFile);
     if (QFileInfo(question.startAt).isFile())

@@ -31,6 +31,8 @@ struct FileQuestion
     QString title;
     QString startAt; ///< A folder, or a file that is proposed.
     QString filter;
+    /// What a new name gets that has no '.', before the user is asked whether to replace a file.
+    QString defaultSuffix = {};
 };
 
 /// The name that the user chose, or an empty text.

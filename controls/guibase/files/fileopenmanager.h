@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/files/ilrustringlistdisplayer.h>
+#include <guibase/guibase_export.h>
+
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+class ICfg;
+class IFileOpener;
+class LruStringListController;
+class QAction;
+class QMenu;
+class RecentFilesMenu;
+
+/// Asks for the names of files to open and to save, and keeps the recent ones in a menu and in the
+/// configuration, under "RecentFile0", "RecentFile1", and so on; see LruStringListController.
+///
+/// The files of the menu are never looked at before one is chosen, so that paths which are out of
+/// reach hold nothing up.
+class GUIBASE_EXPORT FileOpenManager : public QObject, public ILruStringListDisplayer
+{
+    Q_OBJECT
+public:
+    /// Opener, menu and configuration are not owned and may be null. Opener and menu may die first:
+    /// without an opener nothing is asked. The filter is one for QFileDialog. A `maxCount` below 1
+    /// keeps no recent files.
+    ///
+    /// Dialogs start in the program's current folder when `cfg` holds "UseNativeDialogs" with the
+    /// value false; else where the platform's dialog starts. Later they start at the file chosen
+    /// last.
+    FileOpenManager(IFileOpener* opener, const QString& filter, QMenu* menu, int maxCount,
+                    ICfg* cfg);
+    /// Takes its entries out of the menu.
+    ~FileOpenManager() override;
+
+    /// Reads the recent files and shows them in the menu, to be called once. The entries are
+    /// appended to the menu; the position is kept for the application.
+    void InitMenu(int position);
+    int menuPosition() const { return m_menuPosition; }
+
+    /// The entry with the text "&<index + 1> <name>"; long names are shortened while the menu is
+    /// open.
+    void InsertItem(int index, const QString& name) override;
+    /// Takes the entry back. Other actions of the menu stay, whatever their data.
+    void RemoveItem(int index) override;
+
+public Q_SLOTS:
+    /// Asks for a file and opens it.
+    void SlotOpen();
+    /// Opens the recent file with the index that is the action's data. Actions without an int as
+    /// data, or with one that no file has, are ignored.
+    void SlotOpen(QAction* action);
+    /// Asks for a file name, adds the missing extension, and saves.
+    void SlotSaveAs();
+
+Q_SIGNALS:
+    /// The save-as dialog was cancelled.
+    void signalNotSaved();
+
+protected:
+    /// The name with the first extension of the filter (".cst" for "*.cst") when its last part has
+    /// none. Parts are separated by '/' only.
+    QString AddFileExtension(QString name);
+
+private:
+    enum class Purpose { Open, SaveAs };
+
+    QString askForFile(Purpose purpose);
+    QString select(const QString& name);
+
+    IFileOpener* m_opener;
+    std::weak_ptr<const void> m_openerLifetime;
+    QString m_filter;
+    int m_menuPosition = 0;
+    int m_maxCount;
+    ICfg* m_cfg;
+    std::unique_ptr<RecentFilesMenu> m_menu;
+    std::unique_ptr<LruStringListController> m_controller;
+    QString m_lastDirectory;
+};

@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "ifileopener.h"
+
+IFileOpener::IFileOpener()
+    : m_lifetime(std::make_shared<char>())
+{}
+
+IFileOpener::~IFileOpener() = default;

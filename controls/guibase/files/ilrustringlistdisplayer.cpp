@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "ilrustringlistdisplayer.h"
+
+ILruStringListDisplayer::~ILruStringListDisplayer() = default;

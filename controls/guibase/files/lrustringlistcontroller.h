@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/guibase_export.h>
+
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+
+class ICfg;
+class ILruStringListDisplayer;
+class LruStringList;
+class LruStringListStore;
+
+/// Shows a list of strings, most recently used first, and keeps it in the configuration under the
+/// keys "<key prefix>0", "<key prefix>1", and so on.
+///
+/// Changes are saved and shown displayDelay later, several of them at once, and saved at the latest
+/// when the controller dies. Running programs that keep the same list see each other's strings:
+/// each save repeats the own changes on the list that is stored by then.
+class GUIBASE_EXPORT LruStringListController : public QObject
+{
+    Q_OBJECT
+public:
+    static constexpr int displayDelay = 10; ///< Milliseconds.
+
+    /// Displayer and configuration must outlive the controller, and may be null. A limit below 1
+    /// keeps the list empty. The list is empty until Init().
+    LruStringListController(ILruStringListDisplayer* displayer, int limit, ICfg* cfg,
+                            const QString& keyPrefix);
+    ~LruStringListController() override;
+
+    /// Reads the stored list and shows it.
+    void Init();
+    /// Makes the string the most recent one, adding it if needed, and returns it. An empty one is
+    /// not added; an index out of range gives an empty one.
+    QString Select(const QString& text);
+    QString Select(int index);
+    void Erase(const QString& text);
+    void Erase(int index);
+    int GetCount() const;
+    /// The string that the user sees with this index, which until the list is shown anew may be
+    /// another one than that of the list; where none is shown, that of the list.
+    QString GetDisplayed(int index) const;
+
+    /// Saves and shows the list a moment later.
+    void DisplayList();
+    /// Saves changes now rather than a moment later.
+    void Save();
+
+public Q_SLOTS:
+    /// Saves changes, and shows the list now.
+    void SlotDisplayList();
+
+private:
+    ILruStringListDisplayer* m_displayer;
+    QStringList m_displayed;
+    std::unique_ptr<LruStringList> m_list;
+    std::unique_ptr<LruStringListStore> m_store;
+    bool m_isScheduled = false;
+};

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "lrustringliststore_p.h"
+
+#include <trovappstartup/cfgcenter.h>
+
+#include <QLockFile>
+
+LruStringListStore::LruStringListStore(ICfg* cfg, const QString& keyPrefix)
+    : m_cfg(cfg)
+    , m_keyPrefix(keyPrefix)
+{}
+
+void LruStringListStore::repeat(LruStringList& list, const Change& change)
+{
+    if (change.operation == Operation::Select)
+        list.Select(change.text);
+    else
+        list.Erase(change.text);
+}
+
+void LruStringListStore::apply(LruStringList& list, Operation operation, const QString& text)
+{
+    if (text.isEmpty() || list.GetLimit() < 1)
+        return;
+    const Change change{operation, text}; // `text` may be an entry of the list.
+    repeat(list, change);
+    std::erase_if(m_changes, [&](const Change& former) { return former.text == change.text; });
+    m_changes.push_back(change);
+}
+
+void LruStringListStore::read(LruStringList& list) const
+{
+    for (int i = 0; m_cfg != nullptr && i < list.GetLimit(); ++i) {
+        const QString text = m_cfg->GetString(key(i));
+        if (text.isEmpty())
+            break;
+        list.Append(text);
+    }
+}
+
+// Storing is what makes a configuration read again what other programs have written, but it does so
+// for changes only; so here is one that changes nothing.
+bool LruStringListStore::refresh() const
+{
+    const QString marker = m_keyPrefix + u'-';
+    m_cfg->SetBool(marker, !m_cfg->GetBool(marker));
+    m_cfg->Remove(marker);
+    return m_cfg->Store();
+}
+
+void LruStringListStore::write(const LruStringList& list) const
+{
+    for (int i = 0; i < list.GetCount(); ++i)
+        m_cfg->SetString(key(i), list.At(i));
+    // The limit may be huge: look at the keys that there are.
+    const QStringList keys = m_cfg->GetKeys();
+    for (const QString& stored : keys) {
+        bool isNumber = false;
+        const int index = QStringView(stored).mid(m_keyPrefix.size()).toInt(&isNumber);
+        if (isNumber && index >= list.GetCount() && index < list.GetLimit() && stored == key(index))
+            m_cfg->Remove(stored);
+    }
+}
+
+void LruStringListStore::save(LruStringList& list)
+{
+    if (m_cfg == nullptr)
+        return;
+    // From reading to storing no other program may save its list. Where no lock can be had, a
+    // change of theirs in this moment may get lost.
+    constexpr int lockMilliseconds = 1000;
+    QLockFile lock(CfgCenter::GetAppCfgFileName() + QStringLiteral(".lists.lock"));
+    lock.tryLock(lockMilliseconds);
+    const bool isFresh = refresh();
+    list.Clear();
+    read(list);
+    for (const Change& change : m_changes)
+        repeat(list, change);
+    write(list);
+    if (isFresh && m_cfg->Store())
+        m_changes.clear();
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <jtbase/lrustringlist.h>
+
+#include <QString>
+
+#include <vector>
+
+class ICfg;
+
+/// Keeps a list of strings, most recently used first, in a configuration that other running
+/// programs may write the same list to.
+///
+/// Entry i stands under the key prefix followed by i. An empty or missing entry ends the list.
+///
+/// What this program does to the list is remembered until it is saved. Saving reads the list as it
+/// is stored by then, repeats that on it, and stores the result. So the strings that this program
+/// has just used come first, then those that other programs have used meanwhile, then the older
+/// ones, up to the limit; and what one program has erased stays erased.
+class LruStringListStore
+{
+public:
+    /// The configuration must outlive the store; null keeps nothing.
+    LruStringListStore(ICfg* cfg, const QString& keyPrefix);
+
+    enum class Operation { Select, Erase };
+    /// Does it to the list, and remembers it for the next save.
+    void apply(LruStringList& list, Operation operation, const QString& text);
+
+    /// Appends the stored strings to the list.
+    void read(LruStringList& list) const;
+    bool hasChanges() const { return !m_changes.empty(); }
+    /// Brings the stored list up to date, and `list` with it. When the configuration cannot be
+    /// stored, the changes are remembered for the next save.
+    void save(LruStringList& list);
+
+private:
+    struct Change
+    {
+        Operation operation;
+        QString text;
+    };
+
+    static void repeat(LruStringList& list, const Change& change);
+    bool refresh() const;
+    void write(const LruStringList& list) const;
+    QString key(int index) const { return m_keyPrefix + QString::number(index); }
+
+    ICfg* m_cfg;
+    QString m_keyPrefix;
+    std::vector<Change> m_changes; ///< In their order; the last one of each string.
+};

@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: MIT
+#include <guibase/files/fileopenmanager.h>
+#include <guibase/files/ifileopener.h>
+#include <guibase/files/lrustringlistcontroller.h>
+
+#include "guibase/colors/dialogscript.h"
+#include "support/files.h"
+#include "support/guardedtest.h"
+#include "support/modaldialogcloser.h"
+#include "support/testrows.h"
+
+#include <trovappstartup/cfgcenter.h>
+
+#include <QDir>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolTip>
+
+#include <functional>
+
+namespace {
+
+class Opener : public IFileOpener
+{
+public:
+    void Open(const QString& fileName) override
+    {
+        calls << QStringLiteral("open ") + fileName;
+        if (const auto step = std::exchange(whileOpening, {}))
+            step();
+    }
+    void SaveAs(const QString& fileName) override { calls << QStringLiteral("save ") + fileName; }
+
+    QStringList calls;
+    std::function<void()> whileOpening;
+};
+
+ICfg* cfg()
+{
+    return CfgCenter::GetAppCfg(SettingsView);
+}
+
+QString storedList(const QString& prefix = QStringLiteral("RecentFile"))
+{
+    QStringList entries;
+    for (const QString& key : cfg()->GetKeys()) {
+        if (key.startsWith(prefix))
+            entries << key.mid(prefix.size()) + u'=' + cfg()->GetString(key);
+    }
+    return entries.join(u',');
+}
+
+void storeList(const QStringList& names)
+{
+    for (int i = 0; i < names.size(); ++i)
+        cfg()->SetString(QStringLiteral("RecentFile%1").arg(i), names.at(i));
+    QVERIFY(cfg()->Store());
+}
+
+QString textsOf(const QMenu& menu)
+{
+    QStringList texts;
+    for (const QAction* action : menu.actions())
+        texts << action->text();
+    return texts.join(u',');
+}
+
+} // namespace
+
+class TestFileOpenManager : public GuardedTest
+{
+    Q_OBJECT
+    using Names = TestRows<QString, QString, QString>;
+    using Shown = TestRows<int, QString, QString>;
+
+private Q_SLOTS:
+    void keepsTheListInTheMenuAndTheConfiguration()
+    {
+        cfg()->SetString(QStringLiteral("RecentFile2"), QStringLiteral("behind the gap"));
+        cfg()->SetString(QStringLiteral("RecentFile9"), QStringLiteral("beyond the limit"));
+        storeList({QStringLiteral("a&b")});
+        QMenu menu;
+        menu.addAction(QStringLiteral("Zoom"))->setData(0);
+        menu.addAction(QStringLiteral("Quit"));
+        Opener opener;
+        {
+            FileOpenManager manager(&opener, QString(), &menu, 4, cfg());
+            manager.InitMenu(0);
+            QTRY_COMPARE(textsOf(menu), QStringLiteral("Zoom,Quit,&1 a&b"));
+            for (QAction* other : {menu.actions().at(0), menu.actions().at(1)})
+                other->trigger();
+            QAction outside;
+            for (const QVariant& data : {QVariant(), QVariant(7), QVariant(-1), QVariant(0.0)}) {
+                outside.setData(data);
+                manager.SlotOpen(&outside);
+            }
+            QCOMPARE(opener.calls, QStringList());
+            // The entry that was triggered is replaced while it still is at work.
+            opener.whileOpening = [&] {
+                manager.SlotOpen(menu.actions().at(2));
+                QTest::qWait(2 * LruStringListController::displayDelay);
+            };
+            menu.actions().at(2)->trigger();
+        }
+        QCOMPARE(opener.calls.value(0), QStringLiteral("open a&b"));
+        QCOMPARE(textsOf(menu), QStringLiteral("Zoom,Quit"));
+        QCOMPARE(storedList(), QStringLiteral("0=a&b,9=beyond the limit"));
+    }
+    void showsWhatOtherProgramsUse()
+    {
+        storeList({QStringLiteral("c"), QStringLiteral("b"), QStringLiteral("a")});
+        LruStringListController list(nullptr, 4, cfg(), QStringLiteral("RecentFile"));
+        list.Init();
+        list.Select(1);
+        list.Save();
+        QCOMPARE(storedList(), QStringLiteral("0=b,1=c,2=a"));
+        // Another program opens "x", and erases "a".
+        QVERIFY(writeFile(
+            CfgCenter::GetAppCfgFileName(),
+            R"({"settings": {"RecentFile0": "x", "RecentFile1": "b", "RecentFile2": "c"}})"));
+        list.Select(QStringLiteral("n"));
+        list.Select(QStringLiteral("m"));
+        list.Erase(QStringLiteral("n"));
+        list.Erase(77);
+        list.Select(QString());
+        QTRY_COMPARE(storedList(), QStringLiteral("0=m,1=x,2=b,3=c"));
+        QCOMPARE(list.GetCount(), 4);
+        list.Erase(3);
+        list.Erase(QStringLiteral("b"));
+        QTRY_COMPARE(storedList(), QStringLiteral("0=m,1=x"));
+        QVERIFY(readFile(CfgCenter::GetAppCfgFileName()).contains("\"RecentFile1\": \"x\"\n"));
+    }
+    void keepsChangesThatCannotBeStored()
+    {
+        storeList({QStringLiteral("a")});
+        const QString folder = configDir();
+        const QString away = folder + QStringLiteral(".away");
+        LruStringListController list(nullptr, 4, cfg(), QStringLiteral("RecentFile"));
+        list.Init();
+        QVERIFY(QDir().rename(folder, away) && writeFile(folder, "no folder"));
+        expectTrace("was not stored");
+        list.Select(QStringLiteral("b"));
+        list.Save();
+        QCOMPARE(storedList(), QStringLiteral("0=b,1=a"));
+        QVERIFY(QFile::remove(folder) && QDir().rename(away, folder));
+        list.Save();
+        QVERIFY(readFile(CfgCenter::GetAppCfgFileName()).contains("\"RecentFile0\": \"b\""));
+    }
+    void asksForNames_data()
+    {
+        Names row; // answer, filter, what the opener saves
+        row.add("data", "Colour sets (*.cst);;All (*)", "data.cst");
+        row.add("dir.old/data", "(*.cst *.txt)", "dir.old/data.cst");
+        row.add("data.txt", "(*.cst)", "data.txt");
+        row.add(".data", "(*.cst)", ".data");
+        row.add("data", "All (*)", "data");
+    }
+    void asksForNames()
+    {
+        const auto& [answer, filter, saved] = Names::fetch();
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("dir.old")));
+        const QString file = folder.filePath(QStringLiteral("old.cst"));
+        QVERIFY(writeFile(file, "x"));
+        Opener opener;
+        FileOpenManager manager(&opener, filter, nullptr, 2, cfg());
+        QSignalSpy cancelled(&manager, &FileOpenManager::signalNotSaved);
+        manager.InitMenu(3);
+        expectTrace("NULL == m_pLruCtrl");
+        manager.InitMenu(4);
+        DialogScript script(
+            {QStringLiteral("Escape"), file, QStringLiteral("Escape"), folder.filePath(answer)});
+        manager.SlotOpen();
+        manager.SlotOpen();
+        QCOMPARE(storedList(), QStringLiteral("0=") + file);
+        manager.SlotSaveAs();
+        QCOMPARE(cancelled.count(), 1);
+        manager.SlotSaveAs();
+        const QString name = folder.filePath(saved);
+        QCOMPARE(opener.calls,
+                 QStringList({QStringLiteral("open ") + file, QStringLiteral("save ") + name}));
+        QCOMPARE(storedList(), QStringLiteral("0=%1,1=%2").arg(name, file));
+        QCOMPARE(script.shown().mid(1, 2),
+                 QStringList({QStringLiteral("File Open Dialog"), QStringLiteral("Save As")}));
+    }
+    void asksBeforeItReplacesTheNameWithExtension()
+    {
+        QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("data.cst"));
+        QVERIFY(writeFile(file, "x"));
+        Opener opener;
+        FileOpenManager manager(&opener, QStringLiteral("(*.cst)"), nullptr, 0, nullptr);
+        QString question;
+        ModalDialogCloser names([&](QDialog& dialog) {
+            ModalDialogCloser doubts(
+                [&](QDialog& box) { question = static_cast<QMessageBox&>(box).text(); });
+            auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            edit->setText(folder.filePath(QStringLiteral("data")));
+            dialog.accept();
+        });
+        manager.SlotSaveAs();
+        QVERIFY2(question.contains(QStringLiteral("data.cst")), qPrintable(question));
+        QCOMPARE(opener.calls, QStringList());
+    }
+    void showsNames_data()
+    {
+        const QString folders = QStringLiteral("/home/user/records").repeated(20);
+        Shown row; // index, name, text in the open menu
+        row.add(0, "/a/R&D\t.cst", "&1 /a/R&&D .cst");
+        row.add(8, "/b", "&9 /b");
+        row.add(9, "/b", "10 /b");
+        row.add(3, folders + QStringLiteral("/last.cst"), QString());
+    }
+    void showsNames()
+    {
+        const auto& [index, name, expected] = Shown::fetch();
+        QMenu menu;
+        menu.addAction(QStringLiteral("Other"));
+        auto manager = std::make_unique<FileOpenManager>(nullptr, QString(), &menu, 9, nullptr);
+        manager->InsertItem(index, name);
+        manager->InsertItem(index, name);
+        const QString text = QStringLiteral("&%1 %2").arg(QString::number(index + 1), name);
+        QCOMPARE(textsOf(menu), QStringLiteral("Other,") + text);
+        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support grabbing the keyboard");
+        menu.popup({});
+        QAction* entry = menu.actions().at(1);
+        manager->InsertItem(index, name); // Still the same entry.
+        QCOMPARE(menu.actions().size(), 2);
+        if (expected.isEmpty()) {
+            QVERIFY(menu.width() < menu.fontMetrics().averageCharWidth() * 100);
+            QVERIFY(entry->text().startsWith(QStringLiteral("&4 /home/user")));
+            QVERIFY(entry->text().endsWith(QStringLiteral("/last.cst")));
+        } else {
+            QCOMPARE(entry->text(), expected);
+        }
+        const QPoint place = menu.actionGeometry(entry).center();
+        QHelpEvent help(QEvent::ToolTip, place, menu.mapToGlobal(place));
+        QCoreApplication::sendEvent(&menu, &help);
+        QCOMPARE(QToolTip::text(), name);
+        menu.close();
+        QCOMPARE(entry->text(), text);
+        manager.reset();
+        QCOMPARE(textsOf(menu), QStringLiteral("Other"));
+    }
+    void survivesTheDeathOf_data()
+    {
+        TestRows<QString> row;
+        for (const char* who : {"opener", "manager", "menu"})
+            row(who, who);
+    }
+    void survivesTheDeathOf()
+    {
+        const QString who = std::get<0>(TestRows<QString>::fetch());
+        storeList({QStringLiteral("a"), QStringLiteral("b")});
+        auto opener = std::make_unique<Opener>();
+        auto menu = std::make_unique<QMenu>();
+        auto manager =
+            std::make_unique<FileOpenManager>(opener.get(), QString(), menu.get(), 4, cfg());
+        manager->InitMenu(0);
+        QTRY_COMPARE(menu->actions().size(), 2);
+        DialogScript script({QStringLiteral("/new")});
+        QTimer::singleShot(0, this, [&] {
+            if (who == QLatin1String("opener"))
+                opener.reset();
+            else if (who == QLatin1String("menu"))
+                menu.reset();
+            else
+                manager.reset();
+        });
+        manager->SlotSaveAs();
+        if (manager == nullptr)
+            return;
+        QCOMPARE(storedList(),
+                 opener ? QStringLiteral("0=/new,1=a,2=b") : QStringLiteral("0=a,1=b"));
+        manager->SlotOpen();
+        QAction second;
+        second.setData(1);
+        if (opener)
+            opener->whileOpening = [&] { manager.reset(); };
+        manager->SlotOpen(&second);
+        QCOMPARE(manager == nullptr, opener != nullptr);
+    }
+};
+
+QTEST_MAIN(TestFileOpenManager)
+#include "tst_fileopenmanager.moc"
