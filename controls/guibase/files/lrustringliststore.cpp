@@ -3,7 +3,24 @@
 
 #include <trovappstartup/cfgcenter.h>
 
+#include <QDeadlineTimer>
 #include <QLockFile>
+#include <QThread>
+
+namespace {
+
+/// From reading to storing no other program may save its list. Where no lock can be had, a change
+/// of theirs in this moment may get lost.
+void waitFor(QLockFile& lock)
+{
+    // QLockFile itself waits with pauses that double, and starves among busy programs.
+    constexpr unsigned long pauseMilliseconds = 3;
+    const QDeadlineTimer deadline(3000);
+    while (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError && !deadline.hasExpired())
+        QThread::msleep(pauseMilliseconds);
+}
+
+} // namespace
 
 LruStringListStore::LruStringListStore(ICfg* cfg, const QString& keyPrefix)
     : m_cfg(cfg)
@@ -66,11 +83,8 @@ void LruStringListStore::save(LruStringList& list)
 {
     if (m_cfg == nullptr)
         return;
-    // From reading to storing no other program may save its list. Where no lock can be had, a
-    // change of theirs in this moment may get lost.
-    constexpr int lockMilliseconds = 1000;
     QLockFile lock(CfgCenter::GetAppCfgFileName() + QStringLiteral(".lists.lock"));
-    lock.tryLock(lockMilliseconds);
+    waitFor(lock);
     const bool isFresh = refresh();
     list.Clear();
     read(list);
