@@ -128,7 +128,11 @@ void PersistentWidget::CommitData()
 void PersistentWidget::ApplyPersistantBeforeWrite()
 {
     capture();
-    m_stateText = StateRecord::encode(m_modes.texts());
+    StateRecord::Layouts layouts = m_modes.texts();
+    if (layouts == m_encodedLayouts)
+        return;
+    m_stateText = StateRecord::encode(layouts);
+    m_encodedLayouts = std::move(layouts);
 }
 
 void PersistentWidget::ApplyPersistantAfterRead()
@@ -306,7 +310,8 @@ void PersistentWidget::applyCurrentLayout()
     const QByteArray state = Hexadecimal::decode(layout.stateText).value_or(QByteArray());
     if (layout.programStartState.isEmpty())
         layout.programStartState = state.isEmpty() ? present : state;
-    restoreDocks(state);
+    if (state != present)
+        restoreDocks(state);
     awaitStoredSize(state);
 }
 

@@ -104,6 +104,7 @@ private:
     QString m_geometryText;
     ModeTable m_modes;
     QString m_stateText;
+    StateRecord::Layouts m_encodedLayouts; ///< What m_stateText holds; packing takes its time.
     bool m_isChanged = false;
     /// The toolkit cannot restore a main window from within its own restoring.
     bool m_isRestoringDocks = false;

@@ -66,7 +66,7 @@ std::optional<StateRecord::Layouts> StateRecord::decode(const QString& text)
 {
     if (!text.startsWith(tag))
         return std::nullopt;
-    const auto packed = QByteArray::fromBase64Encoding(text.mid(tag.size()).toLatin1(),
+    const auto packed = QByteArray::fromBase64Encoding(QStringView(text).mid(tag.size()).toLatin1(),
                                                        QByteArray::AbortOnBase64DecodingErrors);
     if (!packed)
         return std::nullopt;

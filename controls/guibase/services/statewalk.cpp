@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "statewalk_p.h"
 
+#include <QtEndian>
+
 StateWalk::StateWalk(const QByteArray& state)
-    : m_stream(state)
+    : m_state(state)
 {}
 
 bool StateWalk::expect(bool condition)
@@ -11,11 +13,19 @@ bool StateWalk::expect(bool condition)
     return m_isFine;
 }
 
+const char* StateWalk::take(qsizetype size)
+{
+    if (!expect(size <= m_state.size() - m_position))
+        return nullptr;
+    const char* bytes = m_state.constData() + m_position;
+    m_position += size;
+    return bytes;
+}
+
 qint32 StateWalk::number()
 {
-    qint32 value = 0;
-    m_stream >> value;
-    return expect(m_stream.status() == QDataStream::Ok) ? value : 0;
+    const char* bytes = take(sizeof(qint32));
+    return bytes != nullptr ? qFromBigEndian<qint32>(bytes) : 0;
 }
 
 qint32 StateWalk::number(qint32 lowest, qint32 highest)
@@ -26,9 +36,8 @@ qint32 StateWalk::number(qint32 lowest, qint32 highest)
 
 quint8 StateWalk::byte()
 {
-    quint8 value = 0;
-    m_stream >> value;
-    return expect(m_stream.status() == QDataStream::Ok) ? value : quint8{0};
+    const char* bytes = take(1);
+    return bytes != nullptr ? static_cast<quint8>(*bytes) : quint8{0};
 }
 
 quint8 StateWalk::byte(quint8 lowest, quint8 highest)
@@ -44,5 +53,5 @@ void StateWalk::text(qint32 maximumSize)
     if (bytes == nullText)
         return;
     if (expect(bytes >= 0 && bytes % 2 == 0 && bytes / 2 <= maximumSize))
-        expect(m_stream.skipRawData(bytes) == bytes);
+        take(bytes);
 }

@@ -2,13 +2,14 @@
 #pragma once
 
 #include <QByteArray>
-#include <QDataStream>
+#include <QtGlobal>
 
 /// Reads a stored state value by value and remembers whether all of them were there and as they may
 /// be. After a wrong value everything reads as 0, so that loops over counts end.
 class StateWalk
 {
 public:
+    /// The state must outlive this object.
     explicit StateWalk(const QByteArray& state);
 
     qint32 number();
@@ -21,9 +22,13 @@ public:
     void text(qint32 maximumSize);
     bool expect(bool condition);
     bool isFine() const { return m_isFine; }
-    bool atEnd() const { return m_stream.atEnd(); }
+    bool atEnd() const { return m_position == m_state.size(); }
 
 private:
-    QDataStream m_stream;
+    /// The next bytes, passed over; null when there are not so many.
+    const char* take(qsizetype size);
+
+    const QByteArray& m_state;
+    qsizetype m_position = 0;
     bool m_isFine = true;
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testguard.h"
 
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
@@ -43,25 +43,15 @@ QString storedBy(SortListView& list)
 
 } // namespace
 
-class TestColumns : public QObject
+class TestColumns : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
-    {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-
     void texts_data();
     void texts();
     void everyOrder();
     void hiddenColumnKeepsItsWidth();
     void damagedTexts();
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
 };
 
 void TestColumns::texts_data()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/testguard.h"
+#include "support/guardedtest.h"
 
 #include <guibase/services/guibase.h>
 
@@ -87,23 +87,10 @@ QString looks(const Window& window)
 
 } // namespace
 
-class TestDockLayouts : public QObject
+class TestDockLayouts : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        m_guard = std::make_unique<TestGuard>();
-        m_services = &GuiBase::Instance();
-        m_services->SetLayoutWriteDelay(-1);
-    }
-    void cleanup()
-    {
-        m_services->setMode(0);
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-
     void tenCycles_data();
     void tenCycles();
     void unknownDock_data();
@@ -119,8 +106,10 @@ private Q_SLOTS:
     void writtenWhileRunning();
 
 private:
-    std::unique_ptr<TestGuard> m_guard;
-    GuiBase* m_services = nullptr;
+    void prepare() override { m_services->SetLayoutWriteDelay(-1); }
+    void tidy() override { m_services->setMode(0); }
+
+    GuiBase* m_services = &GuiBase::Instance();
 };
 
 void TestDockLayouts::tenCycles_data()

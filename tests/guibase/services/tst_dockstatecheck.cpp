@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testguard.h"
 
 #include <dockstatecheck_p.h>
 #include <splitterstatecheck_p.h>
@@ -62,17 +62,10 @@ private:
 
 } // namespace
 
-class TestDockStateCheck : public QObject
+class TestDockStateCheck : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
-    {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-
     void realStates_data();
     void realStates();
     void floatingGroup();
@@ -80,9 +73,6 @@ private Q_SLOTS:
     void hostileStates();
     void mutatedStates();
     void splitterStates();
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
 };
 
 void TestDockStateCheck::realStates_data()

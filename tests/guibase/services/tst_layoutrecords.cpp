@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testguard.h"
 
 #include <geometryrecord_p.h>
 #include <screenplacement_p.h>
@@ -8,8 +8,6 @@
 
 #include <QTest>
 #include <QtEndian>
-
-#include <memory>
 
 using StateRecord::Layouts;
 
@@ -51,13 +49,10 @@ private:
 
 } // namespace
 
-class TestLayoutRecords : public QObject
+class TestLayoutRecords : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup() { m_guard.reset(); }
-
     void stateFormat();
     void refusedStates_data();
     void refusedStates();
@@ -65,9 +60,6 @@ private Q_SLOTS:
     void mutatedGeometries();
     void screenPlacement_data();
     void screenPlacement();
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
 };
 
 void TestLayoutRecords::stateFormat()

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testguard.h"
 
 #include <guibase/services/guibase.h>
 #include <guibase/services/splitter.h>
@@ -39,17 +39,10 @@ std::unique_ptr<Splitter> makeSplitter(const QString& name, int panes = 2)
 
 } // namespace
 
-class TestSplitter : public QObject
+class TestSplitter : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
-    {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-
     void storedTexts();
     void storedSizes_data();
     void storedSizes();
@@ -59,9 +52,6 @@ private Q_SLOTS:
     void keyboardAndDoubleClick();
     void gripIsVisible_data();
     void gripIsVisible();
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
 };
 
 void TestSplitter::storedTexts()

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+// What the keeping of window layouts ("ours") costs beside the toolkit's own work ("theirs"), for
+// the 50 windows of a large application.
+#include "ratio.h"
+
+#include <guibase/services/guibase.h>
+
+#include <dockstatecheck_p.h>
+#include <hexadecimal_p.h>
+#include <staterecord_p.h>
+
+#include <trovappstartup/cfgcenter.h>
+
+#include <QApplication>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QTemporaryDir>
+#include <QTextEdit>
+#include <QToolBar>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr int windowCount = 50;
+constexpr int dockCount = 8; ///< Of each window, which has a tool bar too.
+constexpr int stateVersion = 1;
+constexpr double recordLimit = 0.03;
+constexpr double startLimit = 1.1;
+
+using Windows = std::vector<std::unique_ptr<QMainWindow>>;
+
+std::unique_ptr<QMainWindow> makeWindow(int number)
+{
+    constexpr Qt::DockWidgetArea areas[] = {Qt::LeftDockWidgetArea, Qt::RightDockWidgetArea,
+                                            Qt::BottomDockWidgetArea};
+    auto window = std::make_unique<QMainWindow>();
+    window->setCentralWidget(new QTextEdit);
+    window->setGeometry(20 + number, 20, 640, 480);
+    for (int i = 0; i < dockCount; ++i) {
+        auto* dock = new QDockWidget(QStringLiteral("dock%1").arg(i), window.get());
+        dock->setObjectName(dock->windowTitle());
+        dock->setWidget(new QTextEdit);
+        window->addDockWidget(areas[i % 3], dock);
+    }
+    auto* bar = window->addToolBar(QStringLiteral("bar"));
+    bar->setObjectName(QStringLiteral("bar"));
+    return window;
+}
+
+void changeLayout(QMainWindow& window)
+{
+    const auto docks = window.findChildren<QDockWidget*>();
+    window.tabifyDockWidget(docks.at(0), docks.at(3));
+    docks.at(1)->hide();
+}
+
+QString nameOf(int number)
+{
+    return QStringLiteral("window%1").arg(number);
+}
+
+enum class Start { Plain, Toolkit, Registered };
+
+/// The start of an application: all windows are made, brought back, shown and painted.
+Windows startWindows(Start start, const QList<QByteArray>& geometries = {},
+                     const QList<QByteArray>& states = {})
+{
+    Windows windows;
+    for (int i = 0; i < windowCount; ++i) {
+        windows.push_back(makeWindow(i));
+        QMainWindow* window = windows.back().get();
+        if (start == Start::Toolkit)
+            window->restoreGeometry(geometries.at(i));
+        if (start == Start::Registered)
+            GuiBase::Instance().RegisterPersistentWidget(window, nameOf(i));
+        else
+            window->show();
+        if (start == Start::Toolkit)
+            window->restoreState(states.at(i), stateVersion);
+    }
+    QApplication::processEvents();
+    return windows;
+}
+
+void endWindows(const Windows& windows)
+{
+    for (const auto& window : windows)
+        GuiBase::Instance().UnregisterPersistentWidget(window.get());
+}
+
+void forgetRecords()
+{
+    for (int i = 0; i < windowCount; ++i)
+        CfgCenter::GetAppCfg(SettingsView)->RemoveSubCfg(QStringLiteral("GuiBase_") + nameOf(i));
+}
+
+enum class Records {
+    None,
+    Unchanged, ///< The layouts that the windows have by themselves.
+    Changed,
+};
+
+RatioRun::Body startBody(Start start, Records records)
+{
+    return [start, records](benchmark::State& state) {
+        forgetRecords();
+        const Windows model = startWindows(Start::Registered);
+        QList<QByteArray> geometries;
+        QList<QByteArray> states;
+        for (const auto& window : model) {
+            if (records == Records::Changed)
+                changeLayout(*window);
+            geometries.append(window->saveGeometry());
+            states.append(window->saveState(stateVersion));
+        }
+        if (records != Records::None)
+            GuiBase::Instance().StoreWidgetSize();
+        endWindows(model);
+        for (const auto& window : model)
+            window->hide();
+        for (auto _ : state) {
+            if (records == Records::None)
+                forgetRecords();
+            Windows windows = startWindows(start, geometries, states);
+            state.PauseTiming();
+            endWindows(windows);
+            windows.clear();
+            state.ResumeTiming();
+        }
+    };
+}
+
+/// Once through text and check and back for each window, as a start and an end of an application.
+void codeRecords(benchmark::State& state)
+{
+    const auto window = makeWindow(0);
+    window->show();
+    changeLayout(*window);
+    const QString record =
+        StateRecord::encode({{0, Hexadecimal::encode(window->saveState(stateVersion))}});
+    for (auto _ : state) {
+        for (int i = 0; i < windowCount; ++i) {
+            const auto layouts = StateRecord::decode(record);
+            const auto bytes = Hexadecimal::decode(layouts->at(0));
+            if (!DockStateCheck::isValid(*bytes, stateVersion))
+                state.SkipWithError("refused");
+            QString text = StateRecord::encode({{0, Hexadecimal::encode(*bytes)}});
+            benchmark::DoNotOptimize(text);
+        }
+    }
+}
+
+/// As at a start, the layout differs from the one that the windows have.
+void restoreStates(benchmark::State& state)
+{
+    const Windows windows = startWindows(Start::Plain);
+    QByteArray layout = windows.front()->saveState(stateVersion);
+    changeLayout(*windows.front());
+    QByteArray next = windows.front()->saveState(stateVersion);
+    windows.front()->restoreState(layout, stateVersion);
+    for (auto _ : state) {
+        std::swap(layout, next);
+        for (const auto& window : windows)
+            window->restoreState(layout, stateVersion);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    const QTemporaryDir folder;
+    CfgCenter::SetConfigDir(folder.path());
+    CfgCenter::SetAutoStoreDelay(-1);
+    GuiBase::Instance().SetLayoutWriteDelay(-1);
+
+    RatioRun run;
+    run.compare("records_of_50_windows", recordLimit, &codeRecords, &restoreStates);
+    const auto compareStarts = [&run](const char* name, Records records, Start theirs) {
+        run.compare(name, startLimit, startBody(Start::Registered, records),
+                    startBody(theirs, records));
+    };
+    compareStarts("first_start_of_50_windows", Records::None, Start::Plain);
+    compareStarts("next_start_unchanged", Records::Unchanged, Start::Plain);
+    compareStarts("next_start_changed", Records::Changed, Start::Toolkit);
+    return run.run(argc, argv);
+}
