@@ -78,10 +78,24 @@ double strongest(const Sweep& sweep, double low, double high)
 
 } // namespace
 
+namespace {
+
+QtMessageHandler formerMessageHandler = nullptr;
+
+/// The platform without a screen says of many things that it cannot do them; pictures do not mind.
+void dropPlatformRemarks(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (!text.startsWith(QStringLiteral("This plugin does not support")))
+        formerMessageHandler(type, context, text);
+}
+
+} // namespace
+
 ShotEnvironment::ShotEnvironment(const QString& folder, const QString& configFolder)
     : m_ownSettings(QDir(folder).absoluteFilePath(QStringLiteral("settings-of-pictures")))
     , m_hasOwnSettings(configFolder.isEmpty())
 {
+    formerMessageHandler = qInstallMessageHandler(&dropPlatformRemarks);
     qputenv("TZ", "CET-1");
     if (m_hasOwnSettings)
         m_ownSettings.removeRecursively(); // left by a run that was killed
@@ -90,6 +104,7 @@ ShotEnvironment::ShotEnvironment(const QString& folder, const QString& configFol
 
 ShotEnvironment::~ShotEnvironment()
 {
+    qInstallMessageHandler(formerMessageHandler);
     if (m_hasOwnSettings)
         m_ownSettings.removeRecursively();
 }

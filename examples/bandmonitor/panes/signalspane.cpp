@@ -239,12 +239,14 @@ bool SignalsPane::fillRow(Row& row, const SignalTrack& track, bool anew)
     if (track.type != shown.type)
         showType(row, track.type);
     if (anew || track.isPresent() != shown.isPresent()) {
-        // What is not there at present steps back.
-        const QPalette::ColorGroup group =
-            track.isPresent() ? QPalette::Active : QPalette::Disabled;
-        const QBrush brush = m_list->palette().brush(group, QPalette::Text);
+        // What is not there at present steps back, but stays readable: the disabled colour would
+        // not contrast enough.
+        constexpr float absentOpacity = 0.6F;
+        QColor color = m_list->palette().color(QPalette::Text);
+        if (!track.isPresent())
+            color.setAlphaF(absentOpacity);
         for (int column = Frequency; column < ColumnCount; ++column)
-            row.item->setForeground(column, brush);
+            row.item->setForeground(column, color);
     }
     row.shown = track;
     return sorting;
