@@ -2,11 +2,10 @@
 #include "abstractspinbox.h"
 
 #include "accessibleinput_p.h"
+#include "lineedittext_p.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
 #include <QTimer>
@@ -64,18 +63,7 @@ QLineEdit* AbstractSpinBox::inputLineEdit() const
 void AbstractSpinBox::updateEdit()
 {
     m_shownText = textValue();
-    QLineEdit* edit = lineEdit();
-    if (edit->text() != m_shownText) {
-        const QSignalBlocker blocker(edit);
-        const bool wasSelected = edit->hasSelectedText();
-        const int cursor = edit->cursorPosition();
-        const bool wasAtEnd = cursor == edit->text().size();
-        edit->setText(m_shownText);
-        if (wasSelected)
-            edit->selectAll();
-        else if (!wasAtEnd && hasFocus())
-            edit->setCursorPosition(cursor);
-    }
+    showLineEditText(*lineEdit(), m_shownText, hasFocus());
     updateButtons();
 }
 
@@ -110,10 +98,7 @@ void AbstractSpinBox::clearMarkIfReadable(const QString& text)
 
 void AbstractSpinBox::tellAccessibleValue()
 {
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleValueChangeEvent event(this, inputQuantity(Quantity::Value));
-    QAccessible::updateAccessibility(&event);
+    AccessibleInput::tellValue(this, *this);
 }
 
 QSize AbstractSpinBox::sizeFor(const QSize& lineEditSize) const

@@ -1,17 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "accessibleinput_p.h"
 
-#include "abstractspinbox.h"
+#include "typedinput.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QSignalBlocker>
 
 namespace {
 
+/// Does not make the list of a combo box, which is made when it opens first.
+bool isOpen(const QComboBox& box)
+{
+    const auto* list = box.findChild<QAbstractItemView*>();
+    return list != nullptr && list->isVisible();
+}
+
 QAccessibleInterface* makeInterface(const QString&, QObject* object)
 {
-    auto* box = qobject_cast<SpinBoxes::AbstractSpinBox*>(object);
-    return box != nullptr ? new AccessibleInput(box, *box) : nullptr; // The toolkit owns it.
+    auto* input = dynamic_cast<TypedInput*>(object);
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (input == nullptr || widget == nullptr || input->inputLineEdit() == nullptr)
+        return nullptr;
+    return new AccessibleInput(widget, *input); // The toolkit owns it.
 }
 
 /// The interface of the line edit. The toolkit makes one without text operations for the line edits
@@ -39,8 +51,17 @@ void AccessibleInput::install()
     Q_UNUSED(isInstalled)
 }
 
+void AccessibleInput::tellValue(QObject* object, const TypedInput& input)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleValueChangeEvent event(object, input.inputQuantity(TypedInput::Quantity::Value));
+    QAccessible::updateAccessibility(&event);
+}
+
 AccessibleInput::AccessibleInput(QWidget* widget, TypedInput& input)
-    : QAccessibleWidget(widget, QAccessible::SpinBox)
+    : QAccessibleWidget(widget, qobject_cast<QComboBox*>(widget) != nullptr ? QAccessible::ComboBox
+                                                                            : QAccessible::SpinBox)
     , m_input(input)
 {}
 
@@ -54,6 +75,38 @@ QString AccessibleInput::text(QAccessible::Text kind) const
     if (kind == QAccessible::Description && !refusal.isEmpty())
         return refusal;
     return QAccessibleWidget::text(kind);
+}
+
+QAccessible::State AccessibleInput::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    if (const auto* box = qobject_cast<QComboBox*>(object())) {
+        state.expandable = true;
+        state.hasPopup = true;
+        state.expanded = isOpen(*box);
+        state.collapsed = !state.expanded;
+        state.editable = true;
+    }
+    return state;
+}
+
+QStringList AccessibleInput::actionNames() const
+{
+    QStringList names = QAccessibleWidget::actionNames();
+    if (qobject_cast<QComboBox*>(object()) != nullptr && widget()->isEnabled())
+        names.prepend(showMenuAction());
+    return names;
+}
+
+void AccessibleInput::doAction(const QString& name)
+{
+    auto* box = qobject_cast<QComboBox*>(object());
+    if (box == nullptr || name != showMenuAction())
+        QAccessibleWidget::doAction(name);
+    else if (isOpen(*box))
+        box->hidePopup();
+    else if (box->isEnabled())
+        box->showPopup();
 }
 
 void* AccessibleInput::interface_cast(QAccessible::InterfaceType type)

@@ -5,18 +5,24 @@
 
 class TypedInput;
 
-/// A typed spin box as assistive technologies see it: role, name, text, and value and range over
-/// the whole range of the type.
+/// A typed spin box or combo box as assistive technologies see it: role, name, text, and value and
+/// range over the whole range of the type. Combo boxes can be opened.
 class AccessibleInput : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
-    /// Makes the process use this class for all typed spin boxes; once is enough.
+    /// Makes the process use this class for all typed inputs; once is enough.
     static void install();
+
+    /// Tells that the value has changed.
+    static void tellValue(QObject* object, const TypedInput& input);
 
     AccessibleInput(QWidget* widget, TypedInput& input);
     ~AccessibleInput() override;
 
     QString text(QAccessible::Text kind) const override;
+    QAccessible::State state() const override;
+    QStringList actionNames() const override;
+    void doAction(const QString& name) override;
     void* interface_cast(QAccessible::InterfaceType type) override;
 
     QVariant currentValue() const override;

@@ -131,10 +131,14 @@ QString DisplayFormatList<T>::write(const T& value, int currentIndex) const
 }
 
 template <typename T>
-QString DisplayFormatList<T>::refusalReason(const QString& text, int currentIndex) const
+QString DisplayFormatList<T>::refusal(const QString& text, const Reading& reading) const
 {
-    const Format* format = current(currentIndex);
+    if (reading.outcome == Reading::Read)
+        return {};
+    const Format* format = current(reading.index);
     const auto range = format->bareRange(text);
+    if (reading.outcome == Reading::SuffixOnly && range.start == range.end)
+        return {};
     return format->refusalReason(text.mid(range.start, range.end - range.start));
 }
 

@@ -67,8 +67,9 @@ public:
     std::optional<T> readWith(int index, const QString& text) const;
     /// The text in the current format; empty when its converter throws.
     QString write(const T& value, int currentIndex) const;
-    /// Tells the user why no format reads this text.
-    QString refusalReason(const QString& text, int currentIndex) const;
+    /// Tells the user why the text that gave this reading is not taken; empty when it is, also as
+    /// a suffix alone, which is a way to change the unit.
+    QString refusal(const QString& text, const Reading& reading) const;
 
 private:
     std::unique_ptr<Format> m_default;

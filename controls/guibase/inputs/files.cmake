@@ -1,6 +1,9 @@
 # SPDX-License-Identifier: MIT
 set(inputs_headers
+    abstractcombobox.h
     abstractspinbox.h
+    comboboxdisplayer.h
+    comboboxes.h
     displayaffix.h
     displayformatlist.h
     displayformatswitch.h
@@ -9,6 +12,7 @@ set(inputs_headers
     frequencytoaxisstring.h
     integralnumberdisplayformat.h
     numberdisplayformatbase.h
+    numbercomboboxbase.h
     numberspinboxbase.h
     qdatetimedisplayformat.h
     qdatetimespinbox.h
@@ -16,15 +20,19 @@ set(inputs_headers
     refusalmark.h
     spinboxbase.h
     spinboxes.h
-    spinboxmacros.h
     stringformatter.h
     suffixeddouble.h
     typedinput.h
+    typedinputmacros.h
     valuedisplayformatbase.h)
 set(inputs_sources
+    abstractcombobox.cpp
     abstractspinbox.cpp
     accessibleinput.cpp
     accessibleinput_p.h
+    closestitem_p.h
+    comboboxdisplayer.cpp
+    comboboxes.cpp
     datetimesections.cpp
     datetimesections_p.h
     digitatcursor.cpp
@@ -36,7 +44,10 @@ set(inputs_sources
     frequencytoaxisstring.cpp
     integralnumberdisplayformat.cpp
     numberdisplayformatbase.cpp
+    numbercomboboxbase.cpp
     numberspinboxbase.cpp
+    lineedittext.cpp
+    lineedittext_p.h
     numbertext.cpp
     numbertext_p.h
     qdatetimedisplayformat.cpp
@@ -54,7 +65,9 @@ set(inputs_sources
     typedinputvariant_p.h
     typednumber.cpp
     typednumber_p.h
+    typedvalue_p.h
     valuedisplayformatbase.cpp)
 # The typed classes take Q_OBJECT from macros.
-list(APPEND CMAKE_AUTOMOC_MACRO_NAMES GUIBASE_NUMBER_SPIN_BOX GUIBASE_SPIN_BOX_MEMBERS)
-set_source_files_properties("${CMAKE_CURRENT_LIST_DIR}/spinboxmacros.h" PROPERTIES SKIP_AUTOMOC ON)
+list(APPEND CMAKE_AUTOMOC_MACRO_NAMES GUIBASE_NUMBER_COMBO_BOX GUIBASE_NUMBER_SPIN_BOX
+    GUIBASE_TYPED_INPUT_MEMBERS)
+set_source_files_properties("${CMAKE_CURRENT_LIST_DIR}/typedinputmacros.h" PROPERTIES SKIP_AUTOMOC ON)

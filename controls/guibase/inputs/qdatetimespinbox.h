@@ -2,7 +2,7 @@
 #pragma once
 
 #include <guibase/inputs/spinboxbase.h>
-#include <guibase/inputs/spinboxmacros.h>
+#include <guibase/inputs/typedinputmacros.h>
 
 #include <memory>
 
@@ -17,7 +17,7 @@ namespace SpinBoxes {
 /// the section (year, minute, ...) at the cursor, in the chosen zone.
 class GUIBASE_EXPORT QDateTimeSpinBox : public SpinBoxBase<QDateTime>
 {
-    GUIBASE_SPIN_BOX_MEMBERS(SpinBoxBase<QDateTime>, QDateTime)
+    GUIBASE_TYPED_INPUT_MEMBERS(SpinBoxBase<QDateTime>, QDateTime)
 public:
     explicit QDateTimeSpinBox(QWidget* parent = nullptr);
     ~QDateTimeSpinBox() override;

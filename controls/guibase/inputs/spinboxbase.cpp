@@ -2,6 +2,7 @@
 #include "spinboxbase.h"
 
 #include "typedinputvariant_p.h"
+#include "typedvalue_p.h"
 
 #include <QCoreApplication>
 #include <QLineEdit>
@@ -18,27 +19,6 @@ constexpr qsizetype longestNumberSample = 18;
 constexpr qsizetype longestDateSample = 48;
 
 template <typename T>
-bool isValue(const T& value)
-{
-    if constexpr (std::is_same_v<T, QDateTime>)
-        return value.isValid();
-    else if constexpr (std::is_same_v<T, double>)
-        return !std::isnan(value);
-    else
-        return true;
-}
-
-/// Infinite bounds would let infinity in.
-template <typename T>
-T finiteBound(T bound)
-{
-    if constexpr (std::is_same_v<T, double>)
-        return std::clamp(bound, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max());
-    else
-        return bound;
-}
-
-template <typename T>
 T initialValue()
 {
     if constexpr (std::is_same_v<T, QDateTime>)
@@ -50,6 +30,9 @@ T initialValue()
 } // namespace
 
 namespace SpinBoxes {
+
+using TypedValue::finiteBound;
+using TypedValue::isValue;
 
 template <typename T>
 SpinBoxBase<T>::SpinBoxBase(QWidget* parent)
@@ -264,7 +247,6 @@ void SpinBoxBase<T>::stepBeyondLimit(bool up)
 template <typename T>
 QString SpinBoxBase<T>::refusalOf(const QString& text, const Reading& reading) const
 {
-    const int index = reading.index;
     if (reading.outcome == Reading::Read) {
         if (correctionMode() != QAbstractSpinBox::CorrectToPreviousValue ||
             isInRange(normalized(reading.value)))
@@ -272,13 +254,7 @@ QString SpinBoxBase<T>::refusalOf(const QString& text, const Reading& reading) c
         return QCoreApplication::translate("SpinBox", "Enter a value from %1 to %2.")
             .arg(textFromValue(m_minimum), textFromValue(m_maximum));
     }
-    if (reading.outcome == Reading::SuffixOnly) {
-        // A unit alone is a way to change the unit.
-        const auto range = m_formats.current(index)->bareRange(text);
-        if (range.start == range.end)
-            return {};
-    }
-    return m_formats.refusalReason(text, index);
+    return m_formats.refusal(text, reading);
 }
 
 template <typename T>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <guibase/inputs/numberspinboxbase.h>
-#include <guibase/inputs/spinboxmacros.h>
+#include <guibase/inputs/typedinputmacros.h>
 
 namespace SpinBoxes {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// What every typed spin box declares: meta-object, properties, signals and slots under the name
+/// What every typed input declares: meta-object, properties, signals and slots under the name
 /// `Type`. The signals implement the operations of `Base`. Beside `Type`, a class that inherits
 /// from `Base` needs no more than its constructor and destructor.
-#define GUIBASE_SPIN_BOX_MEMBERS(Base, Type)                                                       \
+#define GUIBASE_TYPED_INPUT_MEMBERS(Base, Type)                                                    \
     Q_OBJECT                                                                                       \
     Q_PROPERTY(Type value READ value WRITE setValue NOTIFY valueChanged USER true)                 \
     Q_PROPERTY(Type minimum READ minimum WRITE setMinimum NOTIFY minimumChanged)                   \
@@ -38,7 +38,7 @@ public Q_SLOTS:                                                                 
 #define GUIBASE_NUMBER_SPIN_BOX(Class, Type)                                                       \
     class GUIBASE_EXPORT Class : public NumberSpinBoxBase<Type>                                    \
     {                                                                                              \
-        GUIBASE_SPIN_BOX_MEMBERS(NumberSpinBoxBase<Type>, Type)                                    \
+        GUIBASE_TYPED_INPUT_MEMBERS(NumberSpinBoxBase<Type>, Type)                                 \
     public:                                                                                        \
         Q_PROPERTY(Type singleStep READ singleStep WRITE setSingleStep NOTIFY singleStepChanged)   \
         explicit Class(QWidget* parent = nullptr);                                                 \
@@ -47,6 +47,21 @@ public Q_SLOTS:                                                                 
         void singleStepChanged(Type step) override;                                                \
     public Q_SLOTS:                                                                                \
         void setSingleStep(Type step) { NumberSpinBoxBase<Type>::setSingleStep(step); }            \
+    };
+
+/// The declaration of a combo box for one type of numbers.
+#define GUIBASE_NUMBER_COMBO_BOX(Class, Type)                                                      \
+    class GUIBASE_EXPORT Class : public NumberComboBoxBase<Type>                                   \
+    {                                                                                              \
+        GUIBASE_TYPED_INPUT_MEMBERS(NumberComboBoxBase<Type>, Type)                                \
+        void selectClosestIndexForValue(Type value) override                                       \
+        {                                                                                          \
+            NumberComboBoxBase<Type>::selectClosestIndexForValue(value);                           \
+        }                                                                                          \
+                                                                                                   \
+    public:                                                                                        \
+        explicit Class(QWidget* parent = nullptr);                                                 \
+        ~Class() override;                                                                         \
     };
 
 /// Calls `MACRO(name part, type name)` for the number types, under the names that meta-objects

@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+#include "abstractcombobox.h"
+
+#include "accessibleinput_p.h"
+#include "lineedittext_p.h"
+
+#include <QAbstractItemModel>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTimer>
+#include <QWheelEvent>
+
+namespace ComboBoxes {
+
+AbstractComboBox::AbstractComboBox(QWidget* parent)
+    : QComboBox(parent)
+    , m_formatSwitch(*this)
+    , m_mark(*this)
+{
+    AccessibleInput::install();
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+    setCompleter(nullptr); // It would rewrite what is being typed.
+    // The wheel would give the focus, and then change the value.
+    setFocusPolicy(Qt::StrongFocus);
+    QLineEdit* edit = lineEdit();
+    edit->setValidator(nullptr);
+    edit->setAlignment(Qt::AlignRight);
+    connect(edit, &QLineEdit::editingFinished, this, qOverload<>(&AbstractComboBox::interpret));
+    connect(edit, &QLineEdit::textEdited, this, &AbstractComboBox::clearMarkIfReadable);
+    connect(this, &QComboBox::currentIndexChanged, this,
+            qOverload<int>(&AbstractComboBox::interpret));
+    // The same item chosen again shows its text without any other signal.
+    connect(this, &QComboBox::activated, this, &AbstractComboBox::interpretIfTextChanged);
+    QTimer::singleShot(0, this, &AbstractComboBox::updateEdit);
+}
+
+AbstractComboBox::~AbstractComboBox() = default;
+
+void AbstractComboBox::setAutoSwitchDisplayFormat(bool automatic)
+{
+    m_formatSwitch.setAutomatic(automatic);
+}
+
+void AbstractComboBox::setCurrentDisplayFormatIndex(int index)
+{
+    m_formatSwitch.setCurrent(index);
+}
+
+void AbstractComboBox::setLastUsedDisplayFormatIndex(int index)
+{
+    m_formatSwitch.setLastUsed(index);
+}
+
+int AbstractComboBox::selectCurrentDisplayFormatIndex() const
+{
+    return lastUsedDisplayFormatIndex();
+}
+
+void AbstractComboBox::setSpecialValueText(const QString& text)
+{
+    const bool isTyping = isTextChanged();
+    m_specialValueText = text;
+    forgetItemValues();
+    if (!isTyping)
+        showValue();
+}
+
+QLineEdit* AbstractComboBox::inputLineEdit() const
+{
+    return lineEdit();
+}
+
+void AbstractComboBox::interpret()
+{
+    interpret(currentIndex());
+}
+
+void AbstractComboBox::updateEdit()
+{
+    forgetItemValues();
+    showValue();
+}
+
+void AbstractComboBox::showValue()
+{
+    m_shownText = textValue();
+    if (QLineEdit* edit = lineEdit())
+        showLineEditText(*edit, m_shownText, hasFocus());
+}
+
+bool AbstractComboBox::isTextChanged() const
+{
+    return lineEdit() != nullptr && lineEdit()->text() != m_shownText;
+}
+
+void AbstractComboBox::interpretIfTextChanged()
+{
+    if (isTextChanged())
+        interpret();
+}
+
+void AbstractComboBox::clearMarkIfReadable(const QString& text)
+{
+    if (m_mark.isShown() && isReadable(text))
+        m_mark.clear();
+}
+
+void AbstractComboBox::tellAccessibleValue()
+{
+    AccessibleInput::tellValue(this, *this);
+}
+
+void AbstractComboBox::watchModel()
+{
+    if (m_watchedModel != nullptr)
+        m_watchedModel->disconnect(this, nullptr);
+    m_watchedModel = model();
+    const auto watch = [this](auto signal) {
+        connect(m_watchedModel, signal, this, [this] { forgetItemValues(); });
+    };
+    watch(&QAbstractItemModel::dataChanged);
+    watch(&QAbstractItemModel::rowsInserted);
+    watch(&QAbstractItemModel::rowsRemoved);
+    watch(&QAbstractItemModel::rowsMoved);
+    watch(&QAbstractItemModel::columnsInserted);
+    watch(&QAbstractItemModel::columnsRemoved);
+    watch(&QAbstractItemModel::columnsMoved);
+    watch(&QAbstractItemModel::layoutChanged);
+    watch(&QAbstractItemModel::modelReset);
+}
+
+bool AbstractComboBox::takeItemsChanged()
+{
+    if (model() != m_watchedModel) {
+        watchModel();
+        m_areItemsKnown = false;
+    }
+    // The formats are tried in another order, for one.
+    if (m_watchedRoot != rootModelIndex() || m_watchedColumn != modelColumn() ||
+        m_watchedFormat != currentDisplayFormatIndex()) {
+        m_watchedRoot = rootModelIndex();
+        m_watchedColumn = modelColumn();
+        m_watchedFormat = currentDisplayFormatIndex();
+        m_areItemsKnown = false;
+    }
+    return !std::exchange(m_areItemsKnown, true);
+}
+
+void AbstractComboBox::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        interpret();
+        if (QLineEdit* edit = lineEdit())
+            edit->selectAll();
+        event->ignore();
+        Q_EMIT editingFinished();
+        return;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        // The next item is the one after the value that was typed.
+        interpretIfTextChanged();
+        break;
+    default:
+        break;
+    }
+    QComboBox::keyPressEvent(event);
+}
+
+void AbstractComboBox::focusInEvent(QFocusEvent* event)
+{
+    QTimer::singleShot(0, this, [this] {
+        if (QLineEdit* edit = lineEdit())
+            edit->selectAll();
+    });
+    QComboBox::focusInEvent(event);
+}
+
+void AbstractComboBox::wheelEvent(QWheelEvent* event)
+{
+    if (!hasFocus()) {
+        event->ignore();
+        return;
+    }
+    interpretIfTextChanged();
+    QComboBox::wheelEvent(event);
+}
+
+void AbstractComboBox::paintEvent(QPaintEvent* event)
+{
+    QComboBox::paintEvent(event);
+    m_mark.paint();
+}
+
+} // namespace ComboBoxes

@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: MIT
+#include "numbercomboboxbase.h"
+
+#include "closestitem_p.h"
+#include "typedinputvariant_p.h"
+#include "typedvalue_p.h"
+
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace ComboBoxes {
+
+using TypedValue::finiteBound;
+using TypedValue::isValue;
+
+template <typename T>
+NumberComboBoxBase<T>::NumberComboBoxBase(QWidget* parent)
+    : AbstractComboBox(parent)
+    , m_minimum(std::numeric_limits<T>::lowest())
+    , m_maximum(std::numeric_limits<T>::max())
+    , m_specialValue(std::numeric_limits<T>::lowest())
+{}
+
+template <typename T>
+NumberComboBoxBase<T>::~NumberComboBoxBase() = default;
+
+template <typename T>
+void NumberComboBoxBase<T>::setValue(T value)
+{
+    if (!isValue(value))
+        return;
+    if (hasSpecialValue() && value < m_minimum)
+        value = m_specialValue;
+    else
+        value = std::clamp(value, m_minimum, m_maximum);
+    if (value == m_value)
+        return;
+    {
+        const QSignalBlocker blocker(this);
+        selectClosestIndexForValue(value);
+    }
+    m_value = value;
+    refusalMark().clear();
+    switchDisplayFormatIfAutomatic();
+    showValue();
+    tellAccessibleValue();
+    valueChanged(value);
+}
+
+template <typename T>
+void NumberComboBoxBase<T>::moveTo(T value)
+{
+    if (value == m_value)
+        return;
+    m_value = value;
+    refusalMark().clear();
+    showValue();
+    tellAccessibleValue();
+    valueChanged(value);
+}
+
+template <typename T>
+void NumberComboBoxBase<T>::setRange(T first, T second)
+{
+    if (!isValue(first) || !isValue(second))
+        return;
+    first = finiteBound(first);
+    second = finiteBound(second);
+    if (second < first)
+        std::swap(first, second);
+    const bool minimumIsNew = first != m_minimum;
+    const bool maximumIsNew = second != m_maximum;
+    if (!minimumIsNew && !maximumIsNew)
+        return;
+    m_minimum = first;
+    m_maximum = second;
+    if (minimumIsNew) {
+        if (m_value < m_minimum)
+            moveTo(hasSpecialValue() ? m_specialValue : m_minimum);
+        minimumChanged(m_minimum);
+    }
+    if (maximumIsNew) {
+        if (m_maximum < m_value)
+            moveTo(m_maximum);
+        maximumChanged(m_maximum);
+    }
+    rangeChanged(m_minimum, m_maximum);
+}
+
+template <typename T>
+void NumberComboBoxBase<T>::setSpecialValue(T value)
+{
+    if (!isValue(value))
+        return;
+    const bool isTyping = isTextChanged();
+    m_specialValue = value;
+    if (!isTyping)
+        showValue();
+}
+
+template <typename T>
+void NumberComboBoxBase<T>::setSpecialValueText(const QString& text, T value)
+{
+    setSpecialValue(value);
+    setSpecialValueText(text);
+}
+
+template <typename T>
+void NumberComboBoxBase<T>::addDisplayFormat(std::unique_ptr<ValueDisplayFormatBase<T>> format)
+{
+    m_formats.add(std::move(format));
+    forgetItemValues();
+    // The current index may have named this format before it was there.
+    if (currentDisplayFormatIndex() == countDisplayFormats() - 1)
+        showValue();
+}
+
+template <typename T>
+ValueDisplayFormatBase<T>* NumberComboBoxBase<T>::displayFormatAt(int index) const
+{
+    forgetItemValues(); // The caller may change it.
+    return m_formats.at(index);
+}
+
+template <typename T>
+ValueDisplayFormatBase<T>* NumberComboBoxBase<T>::currentDisplayFormat() const
+{
+    forgetItemValues();
+    return m_formats.current(currentDisplayFormatIndex());
+}
+
+template <typename T>
+int NumberComboBoxBase<T>::displayFormatIndexByTextSample(const QString& sample, bool* ok) const
+{
+    const Reading reading = readText(sample);
+    if (ok != nullptr)
+        *ok = reading.isKnown();
+    return reading.index;
+}
+
+template <typename T>
+bool NumberComboBoxBase<T>::isSpecialText(const QString& text) const
+{
+    return hasSpecialValue() && text.trimmed() == specialValueText();
+}
+
+template <typename T>
+typename NumberComboBoxBase<T>::Reading NumberComboBoxBase<T>::readText(const QString& text) const
+{
+    if (isSpecialText(text))
+        return {m_specialValue, currentDisplayFormatIndex(), Reading::Read};
+    return m_formats.read(text, currentDisplayFormatIndex(), m_value);
+}
+
+template <typename T>
+QString NumberComboBoxBase<T>::textFromValue(T value) const
+{
+    return hasSpecialValue() && value == m_specialValue
+               ? specialValueText()
+               : m_formats.write(value, currentDisplayFormatIndex());
+}
+
+template <typename T>
+T NumberComboBoxBase<T>::valueFromText(const QString& text, bool& ok, int& index) const
+{
+    const Reading reading = readText(text);
+    ok = reading.isKnown();
+    index = reading.index;
+    return reading.value;
+}
+
+template <typename T>
+T NumberComboBoxBase<T>::validateAndInterpret(QString& text, int&, QValidator::State& state,
+                                              int& index) const
+{
+    bool ok = false;
+    const T value = valueFromText(text, ok, index);
+    state = ok && isInRange(value) ? QValidator::Acceptable : QValidator::Invalid;
+    return value;
+}
+
+template <typename T>
+typename DisplayFormatList<T>::Pairs NumberComboBoxBase<T>::buildDisplayFormatIndexPairs() const
+{
+    return m_formats.trialOrder(currentDisplayFormatIndex());
+}
+
+template <typename T>
+bool NumberComboBoxBase<T>::isReadable(const QString& text) const
+{
+    return m_formats.refusal(text, readText(text)).isEmpty();
+}
+
+template <typename T>
+void NumberComboBoxBase<T>::interpret(int itemIndex)
+{
+    if (lineEdit() == nullptr)
+        return;
+    const bool wasChanged = isTextChanged();
+    const QString text = lineEdit()->displayText();
+    const Reading reading = readText(text);
+    // The text that goes with the last item is nobody's input.
+    const bool isInput = wasChanged && !(itemIndex < 0 && text.isEmpty() && !hasFocus());
+    const QString refusal = isInput ? m_formats.refusal(text, reading) : QString();
+    if (wasChanged) {
+        refusalMark().clear();
+        setValue(reading.value);
+    }
+    setLastUsedDisplayFormatIndex(reading.index);
+    showValue();
+    refusalMark().show(refusal);
+}
+
+template <typename T>
+void NumberComboBoxBase<T>::readItems()
+{
+    m_itemValues.clear();
+    m_standIns.clear();
+    m_itemValues.reserve(static_cast<std::size_t>(count()));
+    for (int i = 0; i < count(); ++i) {
+        const QString text = itemText(i);
+        const Reading reading = readText(text);
+        const bool isSpecial = isSpecialText(text);
+        if (isSpecial || reading.outcome != Reading::Read)
+            m_standIns.push_back({m_itemValues.size(), isSpecial});
+        m_itemValues.push_back(reading.value);
+    }
+}
+
+template <typename T>
+void NumberComboBoxBase<T>::selectClosestIndexForValue(T value)
+{
+    if (takeItemsChanged())
+        readItems();
+    for (const StandIn& standIn : m_standIns)
+        m_itemValues[standIn.index] = standIn.isSpecial ? m_specialValue : m_value;
+    const auto closest = static_cast<int>(closestItem<T>(m_itemValues, value));
+    if (closest != currentIndex())
+        setCurrentIndex(closest);
+}
+
+template <typename T>
+T NumberComboBoxBase<T>::itemValue(int index, bool& ok) const
+{
+    int format = -1;
+    ok = false;
+    return index >= 0 && index < count() ? valueFromText(itemText(index), ok, format) : m_value;
+}
+
+template <typename T>
+QVariant NumberComboBoxBase<T>::inputQuantity(Quantity quantity) const
+{
+    switch (quantity) {
+    case Quantity::Value:
+        return TypedInputVariant::toVariant(m_value);
+    case Quantity::Minimum:
+        return TypedInputVariant::toVariant(m_minimum);
+    case Quantity::Maximum:
+        return TypedInputVariant::toVariant(m_maximum);
+    case Quantity::SingleStep:
+        break;
+    }
+    return {};
+}
+
+template <typename T>
+bool NumberComboBoxBase<T>::setInputValue(const QVariant& value)
+{
+    const std::optional<T> typed = TypedInputVariant::fromVariant<T>(value);
+    if (!typed || !isEnabled())
+        return false;
+    setValue(*typed);
+    return true;
+}
+
+#define INSTANTIATE(T) template class NumberComboBoxBase<T>;
+GUIBASE_FOR_EACH_INPUT_NUMBER(INSTANTIATE)
+#undef INSTANTIATE
+
+} // namespace ComboBoxes
