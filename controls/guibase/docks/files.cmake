@@ -31,6 +31,8 @@ set(docks_sources
     dockicons.cpp
     dockicons_p.h
     dockpointer_p.h
+    docksizes.cpp
+    docksizes_p.h
     docktitle_p.h
     dockwidgetconfigurator.cpp
     dockwidgethelpers.cpp

@@ -2,20 +2,16 @@
 #include "mainwindowhelpers.h"
 
 #include "dockarrangement_p.h"
-#include "updatesblocker_p.h"
+#include "docksizes_p.h"
 
 #include <QApplication>
 #include <QDockWidget>
-#include <QLayout>
 #include <QMainWindow>
-#include <QPointer>
 #include <QSet>
 #include <QTabBar>
 #include <QToolBar>
 
 #include <array>
-#include <utility>
-#include <vector>
 
 namespace QMainWindowHelpers {
 
@@ -84,81 +80,6 @@ QList<Area> listAreas(QFlags<Area> areas, const std::array<Area, 4>& order)
             single << area;
     }
     return single;
-}
-
-/// The minimum size without what the layout of a main window imposes: set as the window's own, that
-/// would stay for good.
-QSize ownMinimumSize(const QWidget& widget)
-{
-    if (widget.layout() == nullptr ||
-        widget.layout()->sizeConstraint() != QLayout::SetDefaultConstraint)
-        return widget.minimumSize();
-    widget.layout()->activate();
-    QSize own = widget.minimumSize();
-    const QSize imposed = widget.layout()->totalMinimumSize();
-    if (own.width() == imposed.width())
-        own.setWidth(0);
-    if (own.height() == imposed.height())
-        own.setHeight(0);
-    return own;
-}
-
-/// The sizes that bound a widget, put back at the end of the widget's squeezing.
-class SizeBounds
-{
-public:
-    explicit SizeBounds(QWidget& widget)
-        : m_widget(&widget)
-        , m_minimum(ownMinimumSize(widget))
-        , m_maximum(widget.maximumSize())
-    {}
-    ~SizeBounds() { restore(); }
-    SizeBounds(SizeBounds&& other) noexcept
-        : m_widget(std::exchange(other.m_widget, nullptr))
-        , m_minimum(other.m_minimum)
-        , m_maximum(other.m_maximum)
-    {}
-    SizeBounds(const SizeBounds&) = delete;
-    SizeBounds& operator=(const SizeBounds&) = delete;
-    SizeBounds& operator=(SizeBounds&&) = delete;
-
-    void restore()
-    {
-        if (m_widget) {
-            m_widget->setMinimumSize(m_minimum);
-            m_widget->setMaximumSize(m_maximum);
-        }
-        m_widget = nullptr;
-    }
-
-private:
-    QPointer<QWidget> m_widget;
-    QSize m_minimum;
-    QSize m_maximum;
-};
-
-/// Bounds the dock so that the layout can only give it this size.
-void squeeze(QDockWidget& dock, const QSize& size)
-{
-    const QSize wanted = size.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
-    if (wanted.width() > 0) {
-        if (dock.width() >= wanted.width())
-            dock.setMaximumWidth(wanted.width());
-        else
-            dock.setMinimumWidth(wanted.width());
-    }
-    if (wanted.height() > 0) {
-        if (dock.height() >= wanted.height())
-            dock.setMaximumHeight(wanted.height());
-        else
-            dock.setMinimumHeight(wanted.height());
-    }
-}
-
-void settleLayout()
-{
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
-                                    QEventLoop::ExcludeSocketNotifiers);
 }
 
 } // namespace
@@ -272,36 +193,7 @@ void setDockWidgetSize(QMainWindow& mainWindow, QDockWidget& dock, int width, in
 
 void setDockWidgetSizes(QMainWindow& mainWindow, const QList<QPair<QDockWidget*, QSize>>& sizes)
 {
-    const QPointer<QMainWindow> window(&mainWindow);
-    const UpdatesBlocker blocker(mainWindow);
-    const QRect geometry = mainWindow.geometry();
-    {
-        SizeBounds windowBounds(mainWindow);
-        {
-            std::vector<SizeBounds> dockBounds;
-            dockBounds.reserve(static_cast<size_t>(sizes.size()));
-            for (const auto& [dock, size] : sizes) {
-                if (dock != nullptr)
-                    dockBounds.emplace_back(*dock);
-            }
-            mainWindow.setFixedSize(mainWindow.size());
-            for (const auto& [dock, size] : sizes) {
-                if (dock != nullptr)
-                    squeeze(*dock, size);
-            }
-            settleLayout();
-            // From now on the layout keeps the sizes that it has. Until it is told some for the
-            // first time, it goes back to size hints whenever it can.
-            if (window)
-                window->resizeDocks({}, {}, Qt::Horizontal);
-        }
-        settleLayout();
-        if (window)
-            window->setGeometry(geometry);
-    }
-    if (window)
-        window->layout()->update(); // imposes the minimum size of the contents again
-    settleLayout();
+    DockSizes::FrozenWindow(mainWindow).giveSizes(sizes, DockSizes::Squeeze::FromCurrentSize);
 }
 
 QList<Qt::DockWidgetArea> listDockWidgetAreas(QFlags<Qt::DockWidgetArea> areas)

@@ -2,10 +2,11 @@
 #include "tilesupport.h"
 
 #include "dockareasupport_p.h"
+#include "docksizes_p.h"
 #include "tilegrid_p.h"
-#include "updatesblocker_p.h"
 
 #include <QCoreApplication>
+#include <QLayout>
 #include <QStyle>
 
 namespace QMainWindowHelpers {
@@ -84,6 +85,32 @@ QList<int> fill(const QList<int>& sizes, int extent, int separator)
     return spreadSurplus(sizes, extent - TileGrid::sum(sizes) - (sizes.size() - 1) * separator);
 }
 
+/// Keeps the window from laying its contents out anew for every dock that is shown, and before the
+/// docks have their sizes.
+class LayoutPause
+{
+public:
+    explicit LayoutPause(QMainWindow& mainWindow)
+        : m_window(&mainWindow)
+        , m_wasEnabled(mainWindow.layout()->isEnabled())
+    {
+        mainWindow.layout()->setEnabled(false);
+    }
+    ~LayoutPause()
+    {
+        if (m_window.isNull())
+            return;
+        m_window->layout()->setEnabled(m_wasEnabled);
+        // The layout has let its requests pass, and believes that one is still on its way.
+        QCoreApplication::postEvent(m_window, new QEvent(QEvent::LayoutRequest));
+    }
+    Q_DISABLE_COPY_MOVE(LayoutPause)
+
+private:
+    QPointer<QMainWindow> m_window;
+    bool m_wasEnabled;
+};
+
 /// Takes the docks out of the layout and puts them back as a grid. Receivers of the toolkit's
 /// signals may delete any of them, and the window, meanwhile.
 void layOut(const QPointer<QMainWindow>& window, Qt::DockWidgetArea area, const GuardedDocks& docks,
@@ -101,10 +128,15 @@ void layOut(const QPointer<QMainWindow>& window, Qt::DockWidgetArea area, const 
         else
             split(*window, docks[i - columns], docks[i], Qt::Vertical);
     }
+    if (!window)
+        return;
+    const LayoutPause pause(*window);
     for (const QPointer<QDockWidget>& dock : docks) {
         if (window && dock)
             dock->show();
     }
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                    QEventLoop::ExcludeSocketNotifiers);
 }
 
 } // namespace
@@ -143,12 +175,10 @@ bool TileSupport::tileDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetArea ar
         return false;
     const QPointer<QMainWindow> window(&mainWindow);
     const DockArrangement::Rearrangement rearrangement(mainWindow);
-    const UpdatesBlocker blocker(mainWindow);
     const GuardedDocks docks(tiling.docks.begin(), tiling.docks.end());
     const int columns = tiling.grid->columns();
+    DockSizes::FrozenWindow frozen(mainWindow);
     layOut(window, area, docks, columns);
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
-                                    QEventLoop::ExcludeSocketNotifiers);
     if (!window)
         return true;
     const int separator =
@@ -157,12 +187,14 @@ bool TileSupport::tileDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetArea ar
     const QList<int> heights = fill(tiling.grid->rowHeights, tiling.available.height(), separator);
     QList<QPair<QDockWidget*, QSize>> sizes;
     for (int i = 0; i < docks.size(); ++i) {
-        // Above an empty cell, a dock is as high as what is left of its column.
-        const bool aboveNothing = i + columns >= docks.size() && i / columns < heights.size() - 1;
-        const int height = aboveNothing ? 0 : heights[i / columns];
+        int height = heights[i / columns];
+        // Above empty cells a dock is as high as the rest of its column.
+        for (int cell = i + columns; docks.size() <= cell && cell < columns * heights.size();
+             cell += columns)
+            height += separator + heights[cell / columns];
         sizes << qMakePair(docks[i].data(), QSize(widths[i % columns], height));
     }
-    setDockWidgetSizes(mainWindow, sizes);
+    frozen.giveSizes(sizes, DockSizes::Squeeze::FromBothSides);
     return true;
 }
 

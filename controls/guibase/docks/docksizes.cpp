@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "docksizes_p.h"
+
+#include <QCoreApplication>
+#include <QDockWidget>
+#include <QLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace DockSizes {
+
+namespace {
+
+/// The minimum size without what the layout of the window imposes: set as the window's own, that
+/// would stay for good.
+QSize ownMinimumSize(const QMainWindow& mainWindow)
+{
+    mainWindow.layout()->activate();
+    QSize own = mainWindow.minimumSize();
+    const QSize imposed = mainWindow.layout()->totalMinimumSize();
+    if (own.width() == imposed.width())
+        own.setWidth(0);
+    if (own.height() == imposed.height())
+        own.setHeight(0);
+    return own;
+}
+
+/// The sizes that bound a dock, put back at the end of its squeezing.
+struct DockBounds
+{
+    explicit DockBounds(QDockWidget& squeezed)
+        : dock(&squeezed)
+        , minimum(squeezed.minimumSize())
+        , maximum(squeezed.maximumSize())
+    {}
+    void restore() const
+    {
+        if (dock)
+            dock->setMinimumSize(minimum);
+        if (dock)
+            dock->setMaximumSize(maximum);
+    }
+
+    QPointer<QDockWidget> dock;
+    QSize minimum;
+    QSize maximum;
+};
+
+/// Bounds the dock so that the layout can only give it this size.
+void squeezeDock(QDockWidget& dock, const QSize& size, Squeeze squeeze)
+{
+    const QSize wanted = size.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    const bool bothSides = squeeze == Squeeze::FromBothSides;
+    const QSize minimum = dock.minimumSize();
+    if (wanted.width() > 0) {
+        const bool shrinks = dock.width() >= wanted.width();
+        if (bothSides || shrinks)
+            dock.setMaximumWidth(std::max(wanted.width(), bothSides ? minimum.width() : 0));
+        if (bothSides || !shrinks)
+            dock.setMinimumWidth(std::max(wanted.width(), minimum.width()));
+    }
+    if (wanted.height() > 0) {
+        const bool shrinks = dock.height() >= wanted.height();
+        if (bothSides || shrinks)
+            dock.setMaximumHeight(std::max(wanted.height(), bothSides ? minimum.height() : 0));
+        if (bothSides || !shrinks)
+            dock.setMinimumHeight(std::max(wanted.height(), minimum.height()));
+    }
+}
+
+void settleLayout()
+{
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                    QEventLoop::ExcludeSocketNotifiers);
+}
+
+} // namespace
+
+FrozenWindow::FrozenWindow(QMainWindow& mainWindow)
+    : m_window(&mainWindow)
+    , m_blocker(mainWindow)
+    , m_geometry(mainWindow.geometry())
+    , m_minimum(ownMinimumSize(mainWindow))
+    , m_maximum(mainWindow.maximumSize())
+{
+    mainWindow.setFixedSize(mainWindow.size());
+}
+
+FrozenWindow::~FrozenWindow()
+{
+    if (m_window) {
+        m_window->setGeometry(m_geometry);
+        m_window->setMinimumSize(m_minimum);
+        m_window->setMaximumSize(m_maximum);
+        m_window->layout()->update(); // imposes the minimum size of the contents again
+    }
+    settleLayout();
+}
+
+void FrozenWindow::giveSizes(const QList<QPair<QDockWidget*, QSize>>& sizes, Squeeze squeeze)
+{
+    QList<DockBounds> bounds;
+    for (const auto& [dock, size] : sizes) {
+        if (dock != nullptr)
+            bounds << DockBounds(*dock);
+    }
+    for (const auto& [dock, size] : sizes) {
+        if (dock != nullptr)
+            squeezeDock(*dock, size, squeeze);
+    }
+    settleLayout();
+    // From now on the layout keeps the sizes that it has. Until it is told some for the first time,
+    // it goes back to size hints whenever it can.
+    if (m_window)
+        m_window->resizeDocks({}, {}, Qt::Horizontal);
+    for (const DockBounds& each : std::as_const(bounds))
+        each.restore();
+}
+
+} // namespace DockSizes
