@@ -23,6 +23,7 @@ NumberComboBoxBase<T>::NumberComboBoxBase(QWidget* parent)
     , m_minimum(std::numeric_limits<T>::lowest())
     , m_maximum(std::numeric_limits<T>::max())
     , m_specialValue(std::numeric_limits<T>::lowest())
+    , m_sortedItems(std::make_unique<SortedItems<T>>())
 {}
 
 template <typename T>
@@ -229,6 +230,7 @@ void NumberComboBoxBase<T>::readItems()
             m_standIns.push_back({m_itemValues.size(), isSpecial});
         m_itemValues.push_back(reading.value);
     }
+    m_sortedItems->set(m_itemValues);
 }
 
 template <typename T>
@@ -238,7 +240,9 @@ void NumberComboBoxBase<T>::selectClosestIndexForValue(T value)
         readItems();
     for (const StandIn& standIn : m_standIns)
         m_itemValues[standIn.index] = standIn.isSpecial ? m_specialValue : m_value;
-    const auto closest = static_cast<int>(closestItem<T>(m_itemValues, value));
+    const bool isSorted = m_standIns.empty() && m_sortedItems->canFind(value);
+    const auto closest = static_cast<int>(isSorted ? m_sortedItems->closest(value)
+                                                   : closestItem<T>(m_itemValues, value));
     if (closest != currentIndex())
         setCurrentIndex(closest);
 }

@@ -7,7 +7,11 @@
 #include <QPair>
 #include <QValidator>
 
+#include <memory>
 #include <vector>
+
+template <typename T>
+class SortedItems;
 
 namespace ComboBoxes {
 
@@ -111,6 +115,7 @@ private:
     T m_specialValue;
     DisplayFormatList<T> m_formats;
     std::vector<T> m_itemValues;
+    std::unique_ptr<SortedItems<T>> m_sortedItems;
     std::vector<StandIn> m_standIns; ///< Items whose values are those of other members.
 };
 

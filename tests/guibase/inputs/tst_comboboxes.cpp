@@ -116,8 +116,9 @@ private Q_SLOTS:
         row("the far end wraps, and ends the search", "qint8", "-100,99,100", 100, 0);
         row("of unsigned ones, too", "quint8", "10,250,251", 251, 0);
         row("double tie", "double", "1,3,5", 4, 2);
+        row("double tie by rounding", "double", "1,3,2,-7", 1e30, 3);
         row("double distances that overflow", "double", "-1e308,-1.5e308", 1.7e308, 0);
-        row("double epsilon", "double", "1.0000000000000001,1", 1, 0);
+        row("double epsilon", "double", "7,0.1000000000000001,0.1", 0.1, 1);
     }
     void selectsTheClosestItem()
     {
