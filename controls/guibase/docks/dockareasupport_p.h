@@ -160,6 +160,8 @@ public:
         case QEvent::Resize:
         case QEvent::Show:
         case QEvent::Hide:
+        case QEvent::Move:
+        case QEvent::LayoutRequest:
         case QEvent::ChildAdded:
         case QEvent::ChildPolished:
         case QEvent::ChildRemoved:
@@ -180,7 +182,9 @@ private:
             m_children.handle(event);
         if (!alive || event.type() == QEvent::ChildPolished || isAboutNoWidget(event))
             return;
-        if (event.type() == QEvent::Hide)
+        // Tabs that come to the front only move, and minimum sizes change only with the layout.
+        if (event.type() == QEvent::Hide || event.type() == QEvent::Move ||
+            event.type() == QEvent::LayoutRequest)
             announceLater();
         else
             announceNow();
