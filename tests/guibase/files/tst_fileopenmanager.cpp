@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -210,42 +211,35 @@ private Q_SLOTS:
     void showsNames_data()
     {
         const QString folders = QStringLiteral("/home/user/records").repeated(20);
-        Shown row; // index, name, text in the open menu
-        row.add(0, "/a/R&D\t.cst", "&1 /a/R&&D .cst");
-        row.add(8, "/b", "&9 /b");
-        row.add(9, "/b", "10 /b");
-        row.add(3, folders + QStringLiteral("/last.cst"), QString());
+        Shown row; // index, name, pattern of the text in the open menu
+        row.add(0, "/a/R&D\t.cst", "^&1 /a/R&&D .cst$");
+        row.add(8, "/b", "^&9 /b$");
+        row.add(9, "/b", "^10 /b$");
+        row.add(3, folders + QStringLiteral("/last.cst"), "^&4 /home/user.*/last.cst$");
     }
     void showsNames()
     {
         const auto& [index, name, expected] = Shown::fetch();
         QMenu menu;
-        menu.addAction(QStringLiteral("Other"));
         auto manager = std::make_unique<FileOpenManager>(nullptr, QString(), &menu, 9, nullptr);
         manager->InsertItem(index, name);
         manager->InsertItem(index, name);
         const QString text = QStringLiteral("&%1 %2").arg(QString::number(index + 1), name);
-        QCOMPARE(textsOf(menu), QStringLiteral("Other,") + text);
+        QCOMPARE(textsOf(menu), text);
         QTest::ignoreMessage(QtWarningMsg, "This plugin does not support grabbing the keyboard");
         menu.popup({});
-        QAction* entry = menu.actions().at(1);
         manager->InsertItem(index, name); // Still the same entry.
-        QCOMPARE(menu.actions().size(), 2);
-        if (expected.isEmpty()) {
-            QVERIFY(menu.width() < menu.fontMetrics().averageCharWidth() * 100);
-            QVERIFY(entry->text().startsWith(QStringLiteral("&4 /home/user")));
-            QVERIFY(entry->text().endsWith(QStringLiteral("/last.cst")));
-        } else {
-            QCOMPARE(entry->text(), expected);
-        }
-        const QPoint place = menu.actionGeometry(entry).center();
+        const QRegularExpression shown(expected);
+        QVERIFY2(shown.match(textsOf(menu)).hasMatch(), qPrintable(textsOf(menu)));
+        QVERIFY(menu.width() < menu.fontMetrics().averageCharWidth() * 100);
+        const QPoint place = menu.actionGeometry(menu.actions().at(0)).center();
         QHelpEvent help(QEvent::ToolTip, place, menu.mapToGlobal(place));
         QCoreApplication::sendEvent(&menu, &help);
         QCOMPARE(QToolTip::text(), name);
         menu.close();
-        QCOMPARE(entry->text(), text);
+        QCOMPARE(textsOf(menu), text);
         manager.reset();
-        QCOMPARE(textsOf(menu), QStringLiteral("Other"));
+        QVERIFY(menu.isEmpty());
     }
     void survivesTheDeathOf_data()
     {
