@@ -360,7 +360,9 @@ private Q_SLOTS:
         m_services->HideSplash();
         QVERIFY(startUp.IsSplashVisible());
         QTRY_VERIFY(!startUp.IsSplashVisible());
-        QVERIFY(QDateTime::currentSecsSinceEpoch() - startUp.SplashShowTime() >= seconds);
+        constexpr int timerTolerance = 50; // milliseconds
+        QVERIFY(QDateTime::currentMSecsSinceEpoch() + timerTolerance >=
+                (startUp.SplashShowTime() + seconds) * 1000);
     }
 
 private:
