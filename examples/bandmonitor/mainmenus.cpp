@@ -127,16 +127,12 @@ void MainWindow::buildModeEntries(QMenu* menu)
         QAction* action = addEntry(modeMenu, Modes::title(mode), {key}, false);
         action->setCheckable(true);
         group->addAction(action);
-        connect(action, &QAction::triggered, &m_modes, [this, mode] { m_modes.setMode(mode); });
-        connect(&m_modes, &Modes::modeChanged, action,
+        connect(action, &QAction::triggered, m_modes, [this, mode] { m_modes->setMode(mode); });
+        connect(m_modes, &Modes::modeChanged, action,
                 [action, mode](Mode current) { action->setChecked(current == mode); });
     }
-    QMenu* paneMenu = menu->addMenu(tr("&Lists and panes"));
-    for (int number = 0; number < m_paneActions.size(); ++number) {
-        QAction* action = m_paneActions[number];
-        action->setShortcut(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + number));
-        addEntry(paneMenu, action, false);
-    }
+    m_modes->waterfallAction()->setShortcut(Qt::ALT | Qt::Key_1);
+    addEntry(menu, m_modes->waterfallAction(), false);
 }
 
 void MainWindow::buildReplayMenu()

@@ -11,7 +11,6 @@
 #include "settings.h"
 
 #include <guibase/services/guibase.h>
-#include <guibase/services/splitter.h>
 #include <jtbase/coordformat.h>
 #include <jtbase/errorhandler.h>
 #include <xmsgdlg/xmessagedialog.h>
@@ -40,13 +39,16 @@ MainWindow::MainWindow(QWidget* parent)
     , m_replayBar(new ReplayBar(&m_replay, this))
     , m_signals(new SignalsPane(&m_watch, this))
     , m_levels(new LevelsPane(this))
+    , m_panels(new Panels(*this))
+    , m_modes(new Modes(m_panels, m_bandView->waterfallRow(), m_bandView->splitter(), this))
     , m_jobs(new Jobs(&m_replay, this))
 {
     setObjectName(QStringLiteral("bandmonitor"));
     setAcceptDrops(true);
     if (ErrorHandler::GetMessageDlg() == nullptr)
         ErrorHandler::SetMessageDlg(std::make_unique<XMessageDialog>());
-    buildPanes();
+    buildCentre();
+    buildPanels();
     restoreSettings();
     addJobs();
     buildMenus();
@@ -54,7 +56,8 @@ MainWindow::MainWindow(QWidget* parent)
     connectLoader();
     connectPanes();
     resize(normalSize.boundedTo(screen()->availableGeometry().size()));
-    m_modes.showKept();
+    layout()->activate();
+    m_modes->showKept();
     m_bandView->setFocus();
     updateTitle();
 }
@@ -65,37 +68,15 @@ MainWindow::~MainWindow()
     m_bandView->setRecording(nullptr);
 }
 
-void MainWindow::buildPanes()
+void MainWindow::buildCentre()
 {
-    const auto name = [](const char* text) { return QString::fromLatin1(text); };
-    m_splitter = new Splitter(Qt::Vertical, this, name("mainSplitter"), name("BandmonitorMain"));
-    auto* lists =
-        new Splitter(Qt::Horizontal, m_splitter, name("listsSplitter"), name("BandmonitorLists"));
-    for (Splitter* splitter : {m_splitter, lists})
-        splitter->setChildrenCollapsible(false);
-    lists->addWidget(m_signals);
-    lists->addWidget(m_levels);
-    m_splitter->addWidget(m_bandView);
-    m_splitter->addWidget(lists);
-    m_splitter->setStretchFactor(0, 1);
     auto* centre = new QWidget(this);
     auto* column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(m_splitter, 1);
+    column->addWidget(m_bandView, 1);
     column->addWidget(m_replayBar);
     setCentralWidget(centre);
-
-    m_paneActions = {
-        m_modes.addPane(m_bandView->waterfallRow(), name("waterfall"), tr("&Waterfall"),
-                        {true, false, true}),
-        m_modes.addPane(m_signals, name("signals"), tr("&Signals"), {true, false, true}),
-        m_modes.addPane(m_levels, name("levels"), tr("&Reference levels"), {false, true, true})};
-    m_modes.addSplitter(m_bandView->splitter(),
-                        {QList<int>{280, 200}, QList<int>{400, 100}, QList<int>{220, 180}});
-    m_modes.addSplitter(lists, {QList<int>{800, 300}, QList<int>{800, 300}, QList<int>{770, 330}});
-    m_modes.addSplitter(m_splitter,
-                        {QList<int>{490, 200}, QList<int>{520, 170}, QList<int>{430, 260}});
 }
 
 void MainWindow::connectPanes()

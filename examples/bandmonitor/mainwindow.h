@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "docks/panels.h"
 #include "model/joblist.h"
 #include "model/recordingloader.h"
 #include "model/replay.h"
@@ -17,7 +18,6 @@
 class QLabel;
 class QProgressBar;
 class QPushButton;
-class Splitter;
 
 namespace bandmonitor {
 
@@ -27,7 +27,8 @@ class LevelsPane;
 class ReplayBar;
 class SignalsPane;
 
-/// The main window: panes in splitters, replay bar, menus and status bar around one recording.
+/// The main window: the band with its replay bar in the centre, panels around it, menus and status
+/// bar, all for one recording.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -45,17 +46,16 @@ public:
     /// from the event loop. Until then the former recording stays.
     void open(const QString& path, OnFailure onFailure = OnFailure::ShowMessage);
     /// Tells the services the modes of the window; once it is their main widget.
-    void announceModes() { m_modes.announce(); }
+    void announceModes() { m_modes->announce(); }
     bool isLoading() const { return m_loader.isLoading(); }
 
     Replay& replay() { return m_replay; }
     BandView& bandView() { return *m_bandView; }
     SignalsPane& signalsPane() { return *m_signals; }
     LevelsPane& levelsPane() { return *m_levels; }
-    Modes& modes() { return m_modes; }
+    Panels& panels() { return *m_panels; }
+    Modes& modes() { return *m_modes; }
     Jobs& jobs() { return *m_jobs; }
-    /// Parts the band from the lists below it.
-    Splitter& splitter() { return *m_splitter; }
     /// What the user can choose; "1 Hz" and "1 kHz".
     ValueSelection& frequencyResolution() { return m_resolution; }
 
@@ -89,11 +89,14 @@ private:
     QAction* addEntry(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
                       bool paneKey);
 
+    // mainpanels.cpp
+    void buildPanels();
+
     // mainjobs.cpp
     void addJobs();
     std::optional<JobState> exportSweep();
 
-    void buildPanes();
+    void buildCentre();
     void connectPanes();
     void refreshTexts();
     void buildStatusBar();
@@ -120,15 +123,14 @@ private:
     OnFailure m_onFailure = OnFailure::ShowMessage;
     Replay m_replay;
     SignalWatch m_watch;
-    Modes m_modes;
     QString m_fileName;
     BandView* m_bandView;
     ReplayBar* m_replayBar;
     SignalsPane* m_signals;
     LevelsPane* m_levels;
-    Splitter* m_splitter = nullptr;
+    Panels* m_panels;
+    Modes* m_modes;
     Jobs* m_jobs;
-    QList<QAction*> m_paneActions;
     QLabel* m_report = nullptr;
     QLabel* m_receiver = nullptr;
     QProgressBar* m_progress = nullptr;

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "modes.h"
 
+#include "docks/panels.h"
 #include "settings.h"
 
 #include <guibase/services/guibase.h>
 #include <guibase/services/splitter.h>
 
 #include <QAction>
-
-#include <algorithm>
 
 namespace bandmonitor {
 
@@ -18,24 +17,41 @@ struct ModeEntry
 {
     const char* name; ///< In the configuration.
     const char* title;
+    bool waterfall;
+    int spectrumShare; ///< Of a thousand pixels; the waterfall has the rest.
 };
 
-constexpr ModeEntry modeEntries[modeCount] = {
-    {"Search", QT_TRANSLATE_NOOP("bandmonitor::Modes", "&Search")},
-    {"Measure", QT_TRANSLATE_NOOP("bandmonitor::Modes", "&Measure")},
-    {"Plan", QT_TRANSLATE_NOOP("bandmonitor::Modes", "&Plan")},
-};
+constexpr PerMode<ModeEntry> modeEntries{{
+    {"Search", QT_TRANSLATE_NOOP("bandmonitor::Modes", "&Search"), true, 580},
+    {"Measure", QT_TRANSLATE_NOOP("bandmonitor::Modes", "&Measure"), false, 800},
+    {"Plan", QT_TRANSLATE_NOOP("bandmonitor::Modes", "&Plan"), true, 550},
+}};
 
 QString nameOf(Mode mode)
 {
-    return QString::fromLatin1(modeEntries[static_cast<std::size_t>(mode)].name);
+    return QString::fromLatin1(of(modeEntries, mode).name);
+}
+
+QList<int> factorySizes(Mode mode)
+{
+    const int share = of(modeEntries, mode).spectrumShare;
+    return {share, 1000 - share};
 }
 
 } // namespace
 
-Modes::Modes(QObject* parent)
+Modes::Modes(Panels* panels, QWidget* waterfall, Splitter* splitter, QObject* parent)
     : QObject(parent)
+    , m_panels(panels)
+    , m_waterfall(waterfall)
+    , m_splitter(splitter)
+    , m_waterfallAction(new QAction(tr("&Waterfall"), this))
 {
+    m_waterfallAction->setCheckable(true);
+    connect(m_waterfallAction, &QAction::triggered, this, [this](bool shown) {
+        showWaterfall(shown);
+        Settings::setWaterfallShown(nameOf(m_mode), shown);
+    });
     const GuiBase& services = GuiBase::Instance();
     connect(&services, &GuiBase::signalResetToFactoryDefault, this, &Modes::toFactory);
     connect(&services, &GuiBase::signalResetToProgramStart, this, &Modes::toProgramStart);
@@ -45,80 +61,33 @@ Modes::~Modes() = default;
 
 QString Modes::title(Mode mode)
 {
-    return tr(modeEntries[static_cast<std::size_t>(mode)].title);
+    return tr(of(modeEntries, mode).title);
 }
 
-QAction* Modes::addPane(QWidget* pane, const QString& name, const QString& title,
-                        const PerMode<bool>& shown)
+void Modes::showWaterfall(bool shown)
 {
-    auto* action = new QAction(title, this);
-    action->setCheckable(true);
-    connect(action, &QAction::triggered, this, [this, name](bool on) { setPaneShown(name, on); });
-    m_panes.push_back({pane, name, shown, action});
-    return action;
+    m_waterfallAction->setChecked(shown);
+    m_waterfall->setVisible(shown);
 }
 
-void Modes::addSplitter(Splitter* splitter, const PerMode<QList<int>>& sizes)
+void Modes::enterCentre()
 {
-    m_splitters.push_back({splitter, sizes});
+    showWaterfall(Settings::isWaterfallShown(nameOf(m_mode), of(modeEntries, m_mode).waterfall));
+    m_splitter->setSizes(factorySizes(m_mode));
+    m_splitter->setVariant(nameOf(m_mode));
 }
 
-QStringList Modes::factoryPanes() const
+void Modes::noteStart()
 {
-    QStringList names;
-    for (const Pane& pane : m_panes) {
-        if (pane.factory[index()])
-            names << pane.name;
-    }
-    return names;
+    std::optional<Start>& start = m_starts[static_cast<std::size_t>(m_mode)];
+    if (!start)
+        start = Start{m_waterfallAction->isChecked(), m_splitter->saveState()};
 }
 
-QStringList Modes::shownPanes() const
+void Modes::keepCentre()
 {
-    QStringList names;
-    for (const Pane& pane : m_panes) {
-        if (!pane.widget->isHidden())
-            names << pane.name;
-    }
-    return names;
-}
-
-void Modes::showPanes(const QStringList& names)
-{
-    for (const Pane& pane : m_panes) {
-        const bool shown = names.contains(pane.name);
-        pane.action->setChecked(shown);
-        pane.widget->setVisible(shown);
-    }
-    for (const SplitterEntry& entry : m_splitters) {
-        bool used = false;
-        for (int i = 0; i < entry.splitter->count(); ++i)
-            used = used || !entry.splitter->widget(i)->isHidden();
-        entry.splitter->setVisible(used);
-    }
-}
-
-void Modes::enter()
-{
-    showPanes(Settings::shownPanes(nameOf(m_mode), factoryPanes().join(QLatin1Char(' ')))
-                  .split(QLatin1Char(' '), Qt::SkipEmptyParts));
-    for (const SplitterEntry& entry : m_splitters) {
-        entry.splitter->setSizes(entry.factory[index()]);
-        entry.splitter->setVariant(nameOf(m_mode));
-    }
-    if (m_starts.contains(m_mode))
-        return;
-    Start& start = m_starts[m_mode];
-    start.panes = shownPanes();
-    for (const SplitterEntry& entry : m_splitters)
-        start.splitters.push_back(entry.splitter->saveState());
-}
-
-void Modes::keep()
-{
-    Settings::setShownPanes(nameOf(m_mode), shownPanes().join(QLatin1Char(' ')));
-    for (const SplitterEntry& entry : m_splitters)
-        entry.splitter->slotKeepSettings(0, 0);
+    Settings::setWaterfallShown(nameOf(m_mode), m_waterfallAction->isChecked());
+    m_splitter->slotKeepSettings(0, 0);
 }
 
 void Modes::showKept()
@@ -126,16 +95,17 @@ void Modes::showKept()
     const int kept = Settings::mode(0);
     m_mode =
         kept >= 0 && kept < static_cast<int>(modeCount) ? static_cast<Mode>(kept) : Mode::Search;
-    enter();
+    // The services give a new window their mode 0.
+    m_panels->arrange(Mode::Search);
+    enterCentre();
     Q_EMIT modeChanged(m_mode);
 }
 
 void Modes::announce()
 {
-    GuiBase& services = GuiBase::Instance();
-    for (int mode = 0; mode < static_cast<int>(modeCount); ++mode)
-        services.storeFactoryDefaultWidgets(mode);
-    services.setMode(static_cast<long>(m_mode));
+    m_panels->announce(m_mode);
+    enterCentre(); // in the size that the window has now
+    noteStart();
 }
 
 void Modes::setMode(Mode mode)
@@ -144,56 +114,45 @@ void Modes::setMode(Mode mode)
         return;
     m_mode = mode;
     Settings::setMode(static_cast<int>(mode));
-    GuiBase::Instance().setMode(static_cast<long>(mode));
-    enter();
+    m_panels->showMode(mode);
+    enterCentre();
+    noteStart();
     Q_EMIT modeChanged(mode);
-}
-
-void Modes::setPaneShown(const QString& name, bool shown)
-{
-    QStringList names = shownPanes();
-    names.removeAll(name);
-    if (shown)
-        names << name;
-    showPanes(names);
-    Settings::setShownPanes(nameOf(m_mode), shownPanes().join(QLatin1Char(' ')));
-}
-
-bool Modes::isPaneShown(const QString& name) const
-{
-    return shownPanes().contains(name);
 }
 
 void Modes::toFactory()
 {
     const Mode current = m_mode;
-    for (int mode = 0; mode < static_cast<int>(modeCount); ++mode) {
-        m_mode = static_cast<Mode>(mode);
-        showPanes(factoryPanes());
-        for (const SplitterEntry& entry : m_splitters) {
-            entry.splitter->setVariant(nameOf(m_mode));
-            entry.splitter->setSizes(entry.factory[index()]);
-        }
-        keep();
+    for (const Mode mode : allModes) {
+        m_mode = mode;
+        m_panels->showFactory(mode);
+        m_splitter->setVariant(nameOf(mode));
+        showWaterfall(of(modeEntries, mode).waterfall);
+        m_splitter->setSizes(factorySizes(mode));
+        keepCentre();
     }
     m_mode = current;
-    enter();
+    m_panels->showMode(current);
+    enterCentre();
 }
 
 void Modes::toProgramStart()
 {
     const Mode current = m_mode;
-    for (const auto& [mode, start] : m_starts) {
+    for (const Mode mode : allModes) {
         m_mode = mode;
-        showPanes(start.panes);
-        for (std::size_t i = 0; i < m_splitters.size(); ++i) {
-            m_splitters[i].splitter->setVariant(nameOf(mode));
-            m_splitters[i].splitter->restoreState(start.splitters[i]);
-        }
-        keep();
+        m_panels->showProgramStart(mode);
+        const std::optional<Start>& start = of(m_starts, mode);
+        if (!start)
+            continue;
+        m_splitter->setVariant(nameOf(mode));
+        showWaterfall(start->waterfall);
+        m_splitter->restoreState(start->splitter);
+        keepCentre();
     }
     m_mode = current;
-    enter();
+    m_panels->showMode(current);
+    enterCentre();
 }
 
 } // namespace bandmonitor

@@ -96,14 +96,14 @@ void setMode(int mode)
     section()->SetInt(QStringLiteral("Mode"), mode);
 }
 
-QString shownPanes(const QString& mode, const QString& standard)
+bool isWaterfallShown(const QString& mode, bool standard)
 {
-    return section()->GetString(QStringLiteral("Panes") + mode, standard);
+    return section()->GetBool(QStringLiteral("Waterfall") + mode, standard);
 }
 
-void setShownPanes(const QString& mode, const QString& panes)
+void setWaterfallShown(const QString& mode, bool shown)
 {
-    section()->SetString(QStringLiteral("Panes") + mode, panes);
+    section()->SetBool(QStringLiteral("Waterfall") + mode, shown);
 }
 
 int jobOrder()

@@ -24,12 +24,12 @@ void setLastFolder(const QString& folder);
 /// The rows of the reference levels, one a line; see SortRowTable::parseRows().
 QString referenceLevels();
 void setReferenceLevels(const QString& rows);
-/// The mode of the window, and the names of the panes that a mode shows, parted by blanks; the
-/// defaults when nothing was kept.
+/// The mode of the window, and whether a mode shows the waterfall; the defaults when nothing was
+/// kept.
 int mode(int standard);
 void setMode(int mode);
-QString shownPanes(const QString& mode, const QString& standard);
-void setShownPanes(const QString& mode, const QString& panes);
+bool isWaterfallShown(const QString& mode, bool standard);
+void setWaterfallShown(const QString& mode, bool shown);
 /// How the jobs are sorted.
 int jobOrder();
 void setJobOrder(int order);

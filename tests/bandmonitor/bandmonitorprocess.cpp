@@ -5,11 +5,13 @@
 //   bandmonitorprocess FOLDER arrange             changes the layout, then waits for its end
 //   bandmonitorprocess FOLDER layout              prints the layout that it started with
 #include "mainwindow.h"
+#include "panes/bandview.h"
 #include "panes/levelspane.h"
 #include "panes/signalspane.h"
 #include "settings.h"
 
 #include <guibase/colors/colorset.h>
+#include <guibase/docks/autohidesupport.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortrowtable.h>
 #include <guibase/services/guibase.h>
@@ -19,6 +21,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDockWidget>
 #include <QTimer>
 
 #include <cstdio>
@@ -67,12 +70,21 @@ void changeAll(MainWindow& window, const QString& folder)
 QString layout(MainWindow& window)
 {
     QString text = QStringLiteral("mode %1").arg(static_cast<int>(window.modes().mode()));
-    for (const char* pane : {"waterfall", "signals", "levels"})
-        text += QStringLiteral(" %1").arg(window.modes().isPaneShown(QString::fromLatin1(pane)));
-    text += QLatin1Char(' ');
-    const QList<int> sizes = window.splitter().sizes();
+    const QList<int> sizes = window.bandView().splitter()->sizes();
+    text += QStringLiteral(" waterfall %1 splitter ")
+                .arg(window.bandView().waterfallRow()->isVisible());
     for (const int size : sizes)
         text += QStringLiteral("%1;").arg(size);
+    const auto* hiding = QMainWindowHelpers::AutoHideSupport::get(window);
+    for (const QDockWidget* dock : window.panels().docks()) {
+        const QAction* action = hiding->autoHideAction(*dock);
+        text += QStringLiteral(" %1 %2").arg(dock->widget()->objectName(),
+                                             action->isChecked() ? QStringLiteral("hides")
+                                             : dock->isVisible() ? QStringLiteral("shown")
+                                                                 : QStringLiteral("closed"));
+        if (dock->isVisible())
+            text += QStringLiteral(" %1x%2").arg(dock->width()).arg(dock->height());
+    }
     SortListView& list = window.signalsPane().list();
     for (int column = 0; column < list.columns(); ++column)
         text +=
@@ -86,8 +98,11 @@ void arrange(MainWindow& window)
 {
     CfgCenter::SetAutoStoreDelay(50);
     window.modes().setMode(Mode::Plan);
-    window.modes().setPaneShown(QStringLiteral("waterfall"), false);
-    window.splitter().shiftHandle(1, -37);
+    window.bandView().splitter()->shiftHandle(1, -37);
+    QDockWidget* signalDock = window.panels().dock(QStringLiteral("signals"));
+    window.resizeDocks({signalDock}, {290}, Qt::Vertical);
+    QMainWindowHelpers::AutoHideSupport::get(window)->enableAutoHide(
+        *window.panels().dock(QStringLiteral("levels")));
     SortListView& list = window.signalsPane().list();
     list.setColumnWidth(SignalsPane::Type, 123);
     list.setColumnHidden(SignalsPane::Bandwidth, true);

@@ -112,13 +112,15 @@ private Q_SLOTS:
         const QString config = folder.filePath(QStringLiteral("config"));
         const auto layout = [&] { return run(helper, {config, QStringLiteral("layout")}).output; };
         const QByteArray fresh = layout();
-        QVERIFY2(fresh.startsWith("mode 0 1 1 0 "), fresh);
+        QVERIFY2(fresh.startsWith("mode 0 waterfall 1 ") && fresh.contains(" signals shown ") &&
+                     fresh.contains(" levels closed "),
+                 fresh);
 
         QProcess changing;
         changing.start(helper, {config, QStringLiteral("arrange")});
         QVERIFY(changing.waitForReadyRead(processTimeoutMs));
         const QByteArray changed = changing.readAllStandardOutput();
-        QVERIFY2(changed.startsWith("mode 2 0 1 1 "), changed);
+        QVERIFY2(changed.startsWith("mode 2 ") && changed.contains(" levels hides "), changed);
         QVERIFY2(changed.contains(" 0 123 ") && changed.endsWith(" 98100250.0:-40\n"), changed);
         // It is killed as soon as all of that is on the disk.
         const QByteArray sizes = changed.split(' ').value(5);

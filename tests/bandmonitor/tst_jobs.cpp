@@ -13,7 +13,6 @@
 
 #include <guibase/lists/sortrowtable.h>
 #include <guibase/services/guibase.h>
-#include <guibase/services/splitter.h>
 
 #include <QMenu>
 #include <QShowEvent>
@@ -175,50 +174,6 @@ private Q_SLOTS:
         QTRY_COMPARE(stateOf(QStringLiteral("above")), JobState::Done);
         QCOMPARE(replay.position(), expected);
         QVERIFY(std::abs(m_window->bandView().view().cursor() - 99.25e6) < 25e3);
-    }
-
-    void modesKeepTheirLayouts()
-    {
-        Modes& modes = m_window->modes();
-        Splitter& splitter = m_window->splitter();
-        const auto settled = [&] {
-            QCoreApplication::processEvents();
-            return splitter.sizes();
-        };
-        const QList<int> searchAtStart = settled();
-        splitter.shiftHandle(1, -40);
-        const QList<int> search = settled();
-        QVERIFY(search != searchAtStart);
-        modes.setMode(Mode::Measure);
-        QVERIFY(!modes.isPaneShown(QStringLiteral("waterfall")));
-        modes.setPaneShown(QStringLiteral("levels"), false);
-        QCOMPARE(settled().last(), 0); // no list, no room for lists
-        modes.setMode(Mode::Plan);
-        const QList<int> planAtStart = settled();
-        splitter.shiftHandle(1, 30);
-        modes.setMode(Mode::Search);
-        QCOMPARE(settled(), search);
-        QVERIFY(modes.isPaneShown(QStringLiteral("signals")));
-
-        modes.setMode(Mode::Measure);
-        GuiBase::Instance().UnregisterPersistentWidget(m_window.get());
-        m_window.reset();
-        makeWindow();
-        Modes& later = m_window->modes();
-        QCOMPARE(later.mode(), Mode::Measure);
-        QVERIFY(!later.isPaneShown(QStringLiteral("levels")));
-        later.setPaneShown(QStringLiteral("signals"), true);
-        GuiBase::Instance().RestoreWidgetSize(); // as it was at this start
-        QVERIFY(!later.isPaneShown(QStringLiteral("signals")));
-        QVERIFY(!later.isPaneShown(QStringLiteral("levels")));
-        GuiBase::Instance().RestoreFactoryWidgetSize();
-        QVERIFY(later.isPaneShown(QStringLiteral("levels")));
-        later.setMode(Mode::Plan);
-        QCoreApplication::processEvents();
-        QCOMPARE(m_window->splitter().sizes(), planAtStart);
-        later.setMode(Mode::Search);
-        QCoreApplication::processEvents();
-        QCOMPARE(m_window->splitter().sizes(), searchAtStart);
     }
 };
 

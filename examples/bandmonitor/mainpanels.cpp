@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow.h"
+#include "panes/levelspane.h"
+#include "panes/signalspane.h"
+
+#include <QStyle>
+
+namespace bandmonitor {
+
+namespace {
+
+constexpr auto bottom = Qt::BottomDockWidgetArea;
+
+PanelPlace hidden(Qt::DockWidgetArea area)
+{
+    return {area, PanelPlace::Hidden, {}};
+}
+
+PanelPlace beside(Qt::DockWidgetArea area, int width, int height)
+{
+    return {area, PanelPlace::Beside, {width, height}};
+}
+
+} // namespace
+
+/// The one place to enter a panel; its entry in the menu, its keys and its layouts follow.
+void MainWindow::buildPanels()
+{
+    const auto name = [](const char* text) { return QString::fromLatin1(text); };
+    const auto icon = [this](QStyle::StandardPixmap picture) {
+        return style()->standardIcon(picture);
+    };
+    // Name, title, icon, widget, and the places in the modes Search, Measure and Plan.
+    const Panel rows[] = {
+        // clang-format off
+        {name("signals"), tr("&Signals"), icon(QStyle::SP_FileDialogListView), m_signals,
+         {beside(bottom, 1100, 220), hidden(bottom), beside(bottom, 770, 220)}},
+        {name("levels"), tr("&Reference levels"), icon(QStyle::SP_FileDialogDetailedView), m_levels,
+         {hidden(bottom), beside(bottom, 1100, 200), beside(bottom, 330, 220)}},
+        // clang-format on
+    };
+    for (const Panel& row : rows)
+        m_panels->add(row);
+}
+
+} // namespace bandmonitor

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow.h"
+#include "panes/bandview.h"
+#include "support/testguard.h"
+
+#include <guibase/docks/activedockwidgetsupport.h>
+#include <guibase/docks/autohidesupport.h>
+#include <guibase/services/guibase.h>
+#include <guibase/services/splitter.h>
+
+#include <QAction>
+#include <QDockWidget>
+#include <QTest>
+
+#include <optional>
+
+using namespace bandmonitor;
+
+class tst_Panels : public QObject
+{
+    Q_OBJECT
+    std::optional<TestGuard> m_guard;
+    std::unique_ptr<MainWindow> m_window;
+
+    void makeWindow()
+    {
+        m_window = std::make_unique<MainWindow>();
+        m_window->resize(700, 600); // fits on any screen with its frame
+        GuiBase::Instance().RegisterPersistentWidget(m_window.get(), QStringLiteral("main"));
+        m_window->announceModes();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
+    void closeWindow()
+    {
+        GuiBase::Instance().UnregisterPersistentWidget(m_window.get());
+        m_window.reset();
+    }
+
+    QDockWidget& dock(const char* name) const
+    {
+        return *m_window->panels().dock(QString::fromLatin1(name));
+    }
+
+    /// Everything that the user sees of the layout.
+    QString layout() const
+    {
+        QCoreApplication::processEvents();
+        QString text = QStringLiteral("%1x%2").arg(m_window->width()).arg(m_window->height());
+        for (const QDockWidget* panel : m_window->panels().docks()) {
+            const QAction* hides = QMainWindowHelpers::AutoHideSupport::autoHideAction(*panel);
+            text += QLatin1Char('\n') + panel->widget()->objectName();
+            if (hides->isChecked())
+                text += QLatin1String(" hides itself");
+            else if (panel->isHidden())
+                text += QLatin1String(" hidden");
+            else
+                QDebug(&text) << panel->geometry()
+                              << m_window->dockWidgetArea(const_cast<QDockWidget*>(panel));
+        }
+        QDebug(&text) << m_window->bandView().splitter()->sizes();
+        return text;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_guard.emplace();
+        makeWindow();
+    }
+
+    void cleanup()
+    {
+        closeWindow();
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+
+    void modesKeepTheirLayouts()
+    {
+        Modes& modes = m_window->modes();
+        PerMode<QString> factory;
+        for (const Mode mode : allModes) {
+            modes.setMode(mode);
+            factory[static_cast<std::size_t>(mode)] = layout();
+        }
+        modes.setMode(Mode::Plan);
+        dock("levels").close();
+        modes.setMode(Mode::Search);
+        QCOMPARE(layout(), of(factory, Mode::Search));
+        m_window->resizeDocks({&dock("signals")}, {300}, Qt::Vertical);
+        m_window->bandView().splitter()->shiftHandle(1, -40);
+        const QString search = layout();
+        QVERIFY(search != of(factory, Mode::Search));
+        QMainWindowHelpers::AutoHideSupport* hiding =
+            QMainWindowHelpers::AutoHideSupport::get(*m_window);
+        modes.setMode(Mode::Measure);
+        hiding->enableAutoHide(dock("levels"));
+        const QString measure = layout();
+        QVERIFY(measure.contains(QLatin1String("levels hides itself")));
+        modes.setMode(Mode::Search);
+        QCOMPARE(layout(), search);
+        modes.setMode(Mode::Plan);
+        QVERIFY(dock("levels").isHidden());
+        const QString plan = layout();
+
+        closeWindow();
+        makeWindow();
+        Modes& later = m_window->modes();
+        QCOMPARE(later.mode(), Mode::Plan);
+        QCOMPARE(layout(), plan);
+        dock("levels").show();
+        later.setMode(Mode::Measure);
+        QCOMPARE(layout(), measure);
+        QMainWindowHelpers::AutoHideSupport::get(*m_window)->disableAutoHide(dock("levels"));
+        m_window->resize(640, 500);
+        GuiBase::Instance().RestoreWidgetSize(); // as it was at this start
+        QCOMPARE(layout(), measure);
+        later.setMode(Mode::Plan);
+        QCOMPARE(layout(), plan);
+        later.setMode(Mode::Search);
+        QCOMPARE(layout(), search);
+        m_window->resize(640, 500);
+        GuiBase::Instance().RestoreFactoryWidgetSize();
+        for (const Mode mode : allModes) {
+            later.setMode(mode);
+            QCOMPARE(layout(), of(factory, mode));
+        }
+    }
+};
+
+QTEST_MAIN(tst_Panels)
+#include "tst_panels.moc"
