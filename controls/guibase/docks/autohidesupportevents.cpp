@@ -7,6 +7,8 @@
 #include "mainwindowhelpers.h"
 #include "survivalcheck_p.h"
 
+#include <guibase/services/floatingdockkeeper_p.h>
+
 #include <jtbase/qtimerhelpers.h>
 
 #include <QAction>
@@ -355,6 +357,9 @@ void AutoHideSupport::moveDockWidget(QDockWidget& dock, const QToolBar& toolBar)
     if (!dock.isWindow() && dock.parentWidget() != nullptr)
         geometry.moveTopLeft(dock.parentWidget()->mapFromGlobal(geometry.topLeft()));
     dock.setGeometry(geometry);
+    // The answer of the window manager to an earlier showing may still be on its way.
+    if (dock.isFloating())
+        FloatingDockKeeper::keep(dock);
 }
 
 void AutoHideSupport::createDockWidgetTabToolBars()

@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDockWidget>
 #include <QEvent>
 #include <QStyle>
@@ -36,6 +37,11 @@ bool hasName(State::Type state)
 {
     return static_cast<unsigned>(state) < stateNames.size();
 }
+
+/// For how long, and how often, the window manager is asked again for a state that it undoes at
+/// once.
+constexpr int insistenceMilliseconds = 1000;
+constexpr int maximumInsistence = 3;
 
 /// One of the three things that can be done with a floating dock.
 struct Operation
@@ -113,6 +119,7 @@ struct MaximizeMinimizeSupportPrivate
     bool changeTo(State::Type newState, bool (*operation)(QDockWidget&));
     void announceLater(bool reapplyState);
     void reapply(QDockWidget& dock);
+    void takeNotice(const QEvent& stateChange);
     void announcePossible(size_t operation);
     void announceChanges();
 
@@ -126,6 +133,9 @@ struct MaximizeMinimizeSupportPrivate
     QPointer<QTimer> announcement;
     bool reapplyBeforeAnnouncement = false;
     bool changing = false;
+    /// Window managers that are late with an earlier request undo the newer one.
+    QDeadlineTimer insistence{0};
+    int timesToInsist = 0;
 };
 
 namespace {
@@ -218,6 +228,8 @@ bool MaximizeMinimizeSupportPrivate::changeTo(State::Type newState, bool (*opera
         changing = wasChanging;
     if (changed && alive) {
         state = newState;
+        insistence.setRemainingTime(insistenceMilliseconds);
+        timesToInsist = newState == State::Minimized ? 0 : maximumInsistence;
         if (newState == State::Normal)
             dock->setGeometry(normalGeometry);
         else
@@ -263,6 +275,26 @@ void MaximizeMinimizeSupportPrivate::reapply(QDockWidget& dock)
     }
     if (alive)
         normalGeometry = kept;
+}
+
+void MaximizeMinimizeSupportPrivate::takeNotice(const QEvent& stateChange)
+{
+    QDockWidget* dock = q.dockWidget();
+    // What the application itself does to the window stays.
+    if (!stateChange.spontaneous())
+        timesToInsist = 0;
+    if (dock != nullptr && timesToInsist > 0 && !insistence.hasExpired() && dock->isFloating() &&
+        dock->isVisible() && Support::dockWidgetState(*dock) != state) {
+        const QPointer<Support> alive(&q);
+        const QDeadlineTimer deadline = insistence;
+        const int timesLeft = timesToInsist - 1;
+        reapply(*dock);
+        if (!alive)
+            return;
+        insistence = deadline;
+        timesToInsist = timesLeft;
+    }
+    announceChanges();
 }
 
 void MaximizeMinimizeSupportPrivate::announcePossible(size_t operation)
@@ -415,7 +447,7 @@ bool MaximizeMinimizeSupport::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Show)
         d->announceLater(!event->spontaneous());
     else if (event->type() == QEvent::WindowStateChange && !d->changing)
-        d->announceChanges();
+        d->takeNotice(*event);
     return receiver.hasDied();
 }
 

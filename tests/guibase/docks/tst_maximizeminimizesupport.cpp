@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWindow>
 
 using QDockWidgetHelpers::MaximizeMinimizeSupport;
 using State = QDockWidgetHelpers::MaximizeMinimizeSupport_DockWidgetState;
@@ -160,6 +161,8 @@ private Q_SLOTS:
         f.dock->setWindowState(Qt::WindowNoState);
         QTRY_COMPARE(f.visibleActions(), u"110"_s);
         QVERIFY(f.support->minimizeDockWidget());
+        if (QGuiApplication::platformName() != u"offscreen"_s)
+            QTRY_VERIFY(!f.dock->windowHandle()->isExposed());
         settle();
         f.dock->setWindowState(Qt::WindowNoState); // as from a task bar
         QTRY_COMPARE(f.visibleActions(), u"110"_s);
