@@ -82,7 +82,7 @@ QString layout(MainWindow& window)
                                              action->isChecked() ? QStringLiteral("hides")
                                              : dock->isVisible() ? QStringLiteral("shown")
                                                                  : QStringLiteral("closed"));
-        if (dock->isVisible())
+        if (dock->isVisible() && !action->isChecked())
             text += QStringLiteral(" %1x%2").arg(dock->width()).arg(dock->height());
     }
     SortListView& list = window.signalsPane().list();
@@ -98,11 +98,12 @@ void arrange(MainWindow& window)
 {
     CfgCenter::SetAutoStoreDelay(50);
     window.modes().setMode(Mode::Plan);
-    window.bandView().splitter()->shiftHandle(1, -37);
     QDockWidget* signalDock = window.panels().dock(QStringLiteral("signals"));
     window.resizeDocks({signalDock}, {290}, Qt::Vertical);
     QMainWindowHelpers::AutoHideSupport::get(window)->enableAutoHide(
         *window.panels().dock(QStringLiteral("levels")));
+    QApplication::processEvents(); // lays the window out
+    window.bandView().splitter()->shiftHandle(1, -37);
     SortListView& list = window.signalsPane().list();
     list.setColumnWidth(SignalsPane::Type, 123);
     list.setColumnHidden(SignalsPane::Bandwidth, true);
@@ -121,7 +122,9 @@ int main(int argc, char** argv)
     CfgCenter::SetAutoStoreDelay(-1); // only the end of the process may store
     TrovApplication startUp;
     GuiBase::Instance().SetApplication(&application);
+    GuiBase::Instance().SetLayoutWriteDelay(1000); // what arrange() does is one change
     MainWindow window;
+    window.resize(700, 600); // fits on any screen with its frame
     GuiBase::Instance().SetMainWidget(&window);
     window.announceModes();
     window.show();

@@ -116,6 +116,15 @@ private Q_SLOTS:
                      fresh.contains(" levels closed "),
                  fresh);
 
+        const auto stored = [&] {
+            QFile file(config + QStringLiteral("/bandmonitor.json"));
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        const QByteArray freshFile = stored();
+        const qsizetype state = freshFile.indexOf("\"State\"");
+        QVERIFY(state > 0);
+        const QByteArray freshState = freshFile.mid(state, freshFile.indexOf('\n', state) - state);
+
         QProcess changing;
         changing.start(helper, {config, QStringLiteral("arrange")});
         QVERIFY(changing.waitForReadyRead(processTimeoutMs));
@@ -125,10 +134,9 @@ private Q_SLOTS:
         // It is killed as soon as all of that is on the disk.
         const QByteArray sizes = changed.split(' ').value(5);
         const auto isStored = [&] {
-            QFile file(config + QStringLiteral("/bandmonitor.json"));
-            const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-            return text.contains('"' + sizes + '"') && text.contains("98.100250") &&
-                   text.contains(";123,4,0;");
+            const QByteArray text = stored();
+            return !text.contains(freshState) && text.contains('"' + sizes + '"') &&
+                   text.contains("98.100250") && text.contains(";123,4,0;");
         };
         QTRY_VERIFY_WITH_TIMEOUT(isStored(), processTimeoutMs);
         changing.kill();
