@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow.h"
 
+#include "docks/windowmenu.h"
 #include "jobs.h"
 #include "jobsmenu.h"
 #include "manual.h"
@@ -32,6 +33,7 @@ void MainWindow::buildMenus()
     buildReplayMenu();
     buildJobsMenu();
     buildColorsMenu();
+    menuBar()->addMenu(new WindowMenu(m_panels, m_bandView, this));
     buildHelpMenu();
 }
 

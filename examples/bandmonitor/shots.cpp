@@ -8,6 +8,9 @@
 #include "panes/signalspane.h"
 
 #include <guibase/colors/colorset.h>
+#include <guibase/docks/autohidesupport.h>
+#include <guibase/docks/tabifysupport.h>
+#include <guibase/docks/tilesupport.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortrowtable.h>
 #include <guibase/services/guibase.h>
@@ -17,6 +20,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QDockWidget>
 #include <QEventLoop>
 #include <QFile>
 #include <QMenu>
@@ -123,6 +127,7 @@ bool ShotSeries::run()
     takeZoom();
     takeSignals();
     takeModes();
+    takePanels();
     takeMenus();
     takeDialog(QStringLiteral("info.png"), "showInfo", &m_window);
     takeDialog(QStringLiteral("keyboard.png"), "slotShowHotKeysInMenu", &GuiBase::Instance());
@@ -175,6 +180,34 @@ void ShotSeries::takeModes()
         m_window.modes().setMode(mode);
         write(name);
     }
+    m_window.modes().setMode(Mode::Search);
+}
+
+void ShotSeries::takePanels()
+{
+    constexpr auto area = Qt::BottomDockWidgetArea;
+    m_window.modes().setMode(Mode::Plan);
+    const QByteArray layout = m_window.saveState();
+    QMainWindowHelpers::TileSupport::tileDockWidgets(m_window, area);
+    write(QStringLiteral("panels-tiled.png"));
+    QMainWindowHelpers::TabifySupport::tabifyDockWidgets(m_window, area);
+    write(QStringLiteral("panels-tabified.png"));
+    m_window.restoreState(layout);
+
+    auto* hiding = QMainWindowHelpers::AutoHideSupport::get(m_window);
+    const QList<QDockWidget*>& docks = m_window.panels().docks();
+    for (QDockWidget* dock : docks) {
+        if (dock->isHidden())
+            continue;
+        hiding->enableAutoHide(*dock);
+        dock->hide(); // as it does when the mouse has left it
+    }
+    write(QStringLiteral("panels-hidden.png"));
+    docks.constFirst()->show();
+    write(QStringLiteral("panels-popup.png"));
+    for (QDockWidget* dock : docks)
+        hiding->disableAutoHide(*dock);
+    m_window.restoreState(layout);
     m_window.modes().setMode(Mode::Search);
 }
 
@@ -273,7 +306,8 @@ QPixmap ShotSeries::picture() const
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
         if (window == &m_window || !window->isVisible() ||
-            !(qobject_cast<QMenu*>(window) || qobject_cast<QDialog*>(window)))
+            !(qobject_cast<QMenu*>(window) || qobject_cast<QDialog*>(window) ||
+              qobject_cast<QDockWidget*>(window)))
             continue;
         // Kept inside the picture; a window manager would keep it on the screen as well.
         const QPoint place = window->mapToGlobal(QPoint(0, 0)) - origin;

@@ -13,8 +13,8 @@ namespace bandmonitor {
 class MainWindow;
 
 /// Works through the window as a user would and writes a picture of each stage: "main.png",
-/// "zoom.png", "signals.png", "measure.png", "plan.png", "units.png", "colors.png", the open menus,
-/// the dialogs. The same recording gives the same content every time.
+/// "zoom.png", "signals.png", "measure.png", "plan.png", "panels-….png", "units.png", "colors.png",
+/// the open menus, the dialogs. The same recording gives the same content every time.
 class ShotSeries
 {
 public:
@@ -30,6 +30,7 @@ private:
     void takeZoom();
     void takeSignals();
     void takeModes();
+    void takePanels();
     void takeUnits();
     void takeColors();
     void takeMenus();

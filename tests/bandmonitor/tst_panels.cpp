@@ -3,12 +3,13 @@
 #include "panes/bandview.h"
 #include "support/testguard.h"
 
-#include <guibase/docks/activedockwidgetsupport.h>
 #include <guibase/docks/autohidesupport.h>
+#include <guibase/docks/mainwindowhelpers.h>
 #include <guibase/services/guibase.h>
 #include <guibase/services/splitter.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QDockWidget>
 #include <QTest>
 
@@ -126,6 +127,46 @@ private Q_SLOTS:
             later.setMode(mode);
             QCOMPARE(layout(), of(factory, mode));
         }
+    }
+
+    void keyboardReachesAll()
+    {
+        m_window->modes().setMode(Mode::Plan);
+        m_window->activateWindow();
+        QTRY_VERIFY(m_window->isActiveWindow());
+        m_window->bandView().setFocus();
+        const auto here = [] {
+            return QMainWindowHelpers::findParentDockWidget(*QApplication::focusWidget(), nullptr);
+        };
+        QList<QDockWidget*> way;
+        do {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+            way << here();
+            QVERIFY(way.size() <= m_window->panels().docks().size() + 1);
+        } while (way.last() != nullptr);
+        QVERIFY(way.size() > 2);
+        for (const QDockWidget* panel : m_window->panels().docks())
+            QCOMPARE(way.contains(panel), !panel->isHidden());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
+        QDockWidget* last = here();
+        QCOMPARE(last, way[way.size() - 2]);
+        QCOMPARE(m_window->panels().activeDock(), last);
+        QVERIFY(last->titleBarWidget()->property("active").toBool());
+
+        const auto press = [](Qt::Key key) {
+            QTest::keyClick(QApplication::focusWidget(), key,
+                            Qt::ControlModifier | Qt::AltModifier);
+        };
+        const QString docked = layout();
+        press(Qt::Key_M);
+        QTRY_VERIFY(last->isFloating() && last->isMaximized());
+        m_window->activateWindow();
+        QTRY_VERIFY(m_window->isActiveWindow());
+        press(Qt::Key_M);
+        QTRY_VERIFY(!last->isFloating());
+        QTRY_COMPARE(layout(), docked);
+        press(Qt::Key_A);
+        QVERIFY(layout().contains(QLatin1String("hides itself")));
     }
 };
 

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QWidget;
+
+namespace bandmonitor {
+
+class Panels;
+
+/// Ways for the keyboard between the centre of the window and its panels.
+namespace PanelFocus {
+
+/// Leads to the next or the former part of the window, in the order: centre, panels that are seen,
+/// centre. A panel behind another tab comes to the front.
+void cycle(const Panels& panels, QWidget& centre, bool forward);
+/// The widget of the panel that takes the keys: the one that had them last, or the first that Tab
+/// reaches; null without any.
+QWidget* target(QWidget& panel);
+
+} // namespace PanelFocus
+
+} // namespace bandmonitor

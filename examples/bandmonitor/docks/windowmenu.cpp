@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include "docks/windowmenu.h"
+
+#include "docks/panelfocus.h"
+#include "docks/panels.h"
+
+#include <guibase/docks/activedockwidgetsupport.h>
+#include <guibase/docks/autohidesupport.h>
+#include <guibase/docks/mainwindowhelpers.h>
+#include <guibase/docks/maximizeminimizesupport.h>
+#include <guibase/docks/tabifysupport.h>
+#include <guibase/docks/tilesupport.h>
+#include <guibase/services/guibase.h>
+
+#include <QAction>
+#include <QDockWidget>
+#include <QMainWindow>
+
+#include <algorithm>
+
+using QDockWidgetHelpers::MaximizeMinimizeSupport;
+using QMainWindowHelpers::ActiveDockWidgetSupport;
+using QMainWindowHelpers::AutoHideSupport;
+using QMainWindowHelpers::TabifySupport;
+using QMainWindowHelpers::TileSupport;
+
+namespace bandmonitor {
+
+namespace {
+
+/// On a dock that floats only because it was maximized.
+constexpr char floatsForMaximizing[] = "bandmonitor_floatsForMaximizing";
+
+constexpr int firstPanelKey = Qt::Key_2; // the waterfall has the 1
+constexpr int lastPanelKey = Qt::Key_9;
+
+bool hasVisibleAction(const QMenu& menu)
+{
+    const QList<QAction*> actions = menu.actions();
+    return std::any_of(actions.begin(), actions.end(),
+                       [](const QAction* action) { return action->isVisible(); });
+}
+
+} // namespace
+
+WindowMenu::WindowMenu(Panels* panels, QWidget* centre, QWidget* parent)
+    : QMenu(tr("&Window"), parent)
+    , m_panels(panels)
+    , m_centre(centre)
+{
+    addPanels();
+    addSeparator();
+    const auto cycle = [this](bool forward) { PanelFocus::cycle(*m_panels, *m_centre, forward); };
+    addEntry(tr("Ne&xt part of the window"), Qt::Key_F6, [cycle] { cycle(true); });
+    addEntry(tr("&Previous part of the window"), Qt::SHIFT | Qt::Key_F6, [cycle] { cycle(false); });
+    addSeparator();
+    addAreas();
+    addSeparator();
+    addActivePanel();
+    connect(this, &QMenu::aboutToShow, this, &WindowMenu::refresh);
+    connect(ActiveDockWidgetSupport::get(panels->window()),
+            &ActiveDockWidgetSupport::activeDockWidgetChanged, this, &WindowMenu::refresh);
+    refresh();
+}
+
+WindowMenu::~WindowMenu() = default;
+
+void WindowMenu::listKey(QAction* action) const
+{
+    if (!action->shortcut().isEmpty())
+        GuiBase::Instance().ShowHotKeyFrom(action, tr("Panels"));
+}
+
+QAction* WindowMenu::addEntry(const QString& text, const QKeySequence& key,
+                              const std::function<void()>& perform)
+{
+    QAction* action = addAction(text);
+    action->setShortcut(key);
+    connect(action, &QAction::triggered, this, perform);
+    listKey(action);
+    return action;
+}
+
+void WindowMenu::addPanels()
+{
+    int key = firstPanelKey;
+    for (const QDockWidget* dock : m_panels->docks()) {
+        QAction* toggle = dock->toggleViewAction();
+        if (key <= lastPanelKey)
+            toggle->setShortcut(Qt::ALT | static_cast<Qt::Key>(key++));
+        addAction(toggle);
+        listKey(toggle);
+    }
+}
+
+void WindowMenu::addAreas()
+{
+    m_tabify = addMenu(tr("Tabif&y"));
+    m_tile = addMenu(tr("&Tile"));
+    QMainWindow& window = m_panels->window();
+    const TabifySupport* tabify = TabifySupport::get(window);
+    const TileSupport* tile = TileSupport::get(window);
+    for (const Qt::DockWidgetArea area :
+         QMainWindowHelpers::listDockWidgetAreas(Qt::AllDockWidgetAreas)) {
+        m_tabify->addAction(&tabify->tabifyDockWidgetsAction(area));
+        m_tile->addAction(&tile->tileDockWidgetsAction(area));
+    }
+}
+
+QAction* WindowMenu::addActiveEntry(const QString& text, const QKeySequence& key,
+                                    void (WindowMenu::*perform)(QDockWidget&), bool checkable)
+{
+    QAction* action = addEntry(text, key, [this, perform] {
+        if (QDockWidget* dock = m_panels->activeDock())
+            (this->*perform)(*dock);
+        refresh();
+    });
+    action->setCheckable(checkable);
+    m_activeEntries << action;
+    return action;
+}
+
+void WindowMenu::addActivePanel()
+{
+    const auto key = [](Qt::Key letter) { return QKeySequence(Qt::CTRL | Qt::ALT | letter); };
+    addSection(tr("Active panel"));
+    m_float = addActiveEntry(tr("&Float"), key(Qt::Key_F), &WindowMenu::toggleFloating, true);
+    m_maximize =
+        addActiveEntry(tr("&Maximize"), key(Qt::Key_M), &WindowMenu::toggleMaximized, true);
+    m_autoHide = addActiveEntry(tr("Hide &automatically"), key(Qt::Key_A),
+                                &WindowMenu::toggleAutoHide, true);
+    addActiveEntry(tr("C&lose"), QKeySequence(Qt::CTRL | Qt::Key_F4), &WindowMenu::closePanel,
+                   false);
+}
+
+void WindowMenu::refresh()
+{
+    m_tabify->setEnabled(hasVisibleAction(*m_tabify));
+    m_tile->setEnabled(hasVisibleAction(*m_tile));
+    const QDockWidget* dock = m_panels->activeDock();
+    m_float->setChecked(dock != nullptr && dock->isFloating());
+    m_maximize->setChecked(dock != nullptr &&
+                           MaximizeMinimizeSupport::isRestoreDockWidgetPossible(*dock));
+    m_autoHide->setChecked(dock != nullptr && AutoHideSupport::autoHideAction(*dock)->isChecked());
+    for (QAction* action : m_activeEntries)
+        action->setEnabled(dock != nullptr);
+}
+
+void WindowMenu::toggleFloating(QDockWidget& dock)
+{
+    dock.setProperty(floatsForMaximizing, {});
+    dock.setFloating(!dock.isFloating());
+}
+
+void WindowMenu::toggleMaximized(QDockWidget& dock)
+{
+    MaximizeMinimizeSupport* support = MaximizeMinimizeSupport::get(dock);
+    if (support->restoreDockWidget()) {
+        if (dock.property(floatsForMaximizing).toBool())
+            toggleFloating(dock);
+        return;
+    }
+    if (!dock.isFloating()) {
+        dock.setFloating(true);
+        dock.setProperty(floatsForMaximizing, true);
+    }
+    support->maximizeDockWidget();
+}
+
+void WindowMenu::toggleAutoHide(QDockWidget& dock)
+{
+    AutoHideSupport::autoHideAction(dock)->toggle();
+}
+
+void WindowMenu::closePanel(QDockWidget& dock)
+{
+    dock.close();
+}
+
+} // namespace bandmonitor

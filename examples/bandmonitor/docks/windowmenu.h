@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMenu>
+
+#include <functional>
+
+class QDockWidget;
+
+namespace bandmonitor {
+
+class Panels;
+
+/// The menu for everything that can be done with the panels; with it, the keyboard reaches all but
+/// dragging.
+class WindowMenu : public QMenu
+{
+    Q_OBJECT
+public:
+    /// `centre` takes the focus in turn with the panels. Both must outlive the menu, and all panels
+    /// must be known.
+    WindowMenu(Panels* panels, QWidget* centre, QWidget* parent);
+    ~WindowMenu() override;
+
+private:
+    void addPanels();
+    void addAreas();
+    void addActivePanel();
+    QAction* addEntry(const QString& text, const QKeySequence& key,
+                      const std::function<void()>& perform);
+    QAction* addActiveEntry(const QString& text, const QKeySequence& key,
+                            void (WindowMenu::*perform)(QDockWidget&), bool checkable);
+    void refresh();
+    void toggleFloating(QDockWidget& dock);
+    void toggleMaximized(QDockWidget& dock);
+    void toggleAutoHide(QDockWidget& dock);
+    void closePanel(QDockWidget& dock);
+    void listKey(QAction* action) const;
+
+    Panels* m_panels;
+    QWidget* m_centre;
+    QMenu* m_tabify = nullptr;
+    QMenu* m_tile = nullptr;
+    QAction* m_float = nullptr;
+    QAction* m_maximize = nullptr;
+    QAction* m_autoHide = nullptr;
+    QList<QAction*> m_activeEntries;
+};
+
+} // namespace bandmonitor
