@@ -37,6 +37,7 @@ namespace {
 constexpr int shownSweeps = 90;
 constexpr QSize windowSize(1100, 800); // whatever the screen is
 constexpr int dialogPollMs = 20;
+constexpr int settlingRounds = 3; // docks put work off into the next round
 
 struct SlotColor
 {
@@ -188,9 +189,9 @@ void ShotSeries::takePanels()
     constexpr auto area = Qt::BottomDockWidgetArea;
     m_window.modes().setMode(Mode::Plan);
     const QByteArray layout = m_window.saveState();
-    QMainWindowHelpers::TileSupport::tileDockWidgets(m_window, area);
+    QMainWindowHelpers::TileSupport::get(m_window)->tileDockWidgets(area);
     write(QStringLiteral("panels-tiled.png"));
-    QMainWindowHelpers::TabifySupport::tabifyDockWidgets(m_window, area);
+    QMainWindowHelpers::TabifySupport::get(m_window)->tabifyDockWidgets(area);
     write(QStringLiteral("panels-tabified.png"));
     m_window.restoreState(layout);
 
@@ -325,7 +326,8 @@ QPixmap ShotSeries::picture() const
 
 void ShotSeries::write(const QString& name)
 {
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    for (int round = 0; round < settlingRounds; ++round)
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     if (!picture().save(m_folder.filePath(name)) && m_failure.isEmpty())
         m_failure = m_folder.filePath(name);
 }
