@@ -20,6 +20,7 @@
 #include <QTimer>
 
 #include <array>
+#include <utility>
 
 namespace QMainWindowHelpers {
 
@@ -38,7 +39,8 @@ struct DockAreaOperation
 
     const char* property;
     const char* actionName;
-    bool (*isPossible)(const QMainWindow&, Qt::DockWidgetArea);
+    /// Takes the candidates of the area.
+    bool (*isPossible)(const QMainWindow&, Qt::DockWidgetArea, const QList<QDockWidget*>&);
     bool (*perform)(QMainWindow&, Qt::DockWidgetArea);
     void (Support::*possibleChanged)(Qt::DockWidgetArea, bool);
     void (Support::*performedInArea)(Qt::DockWidgetArea);
@@ -137,18 +139,22 @@ public:
     void announce(QFlags<Qt::DockWidgetArea> areas)
     {
         const QPointer<Support> alive(&q);
+        auto possible = possibleAreas(areas);
+        int announcement = ++m_announcements;
+        // A receiver may have changed the layout, which has been announced already.
+        const auto refresh = [&] {
+            if (std::exchange(announcement, m_announcements) != m_announcements)
+                possible = possibleAreas(areas);
+        };
         for (const auto& row : m_operation.areas) {
             if (!areas.testFlag(row.area) || q.mainWindow() == nullptr)
                 continue;
-            const int announcement = ++m_announcements;
-            bool possible = m_operation.isPossible(*q.mainWindow(), row.area);
-            Q_EMIT(q.*m_operation.possibleChanged)(row.area, possible);
+            refresh();
+            Q_EMIT(q.*m_operation.possibleChanged)(row.area, possible.testFlag(row.area));
             if (!alive || q.mainWindow() == nullptr)
                 return;
-            // A receiver may have changed the layout, which has been announced already.
-            if (announcement != m_announcements)
-                possible = m_operation.isPossible(*q.mainWindow(), row.area);
-            Q_EMIT(q.*row.possibleChanged)(possible);
+            refresh();
+            Q_EMIT(q.*row.possibleChanged)(possible.testFlag(row.area));
             if (!alive)
                 return;
         }
@@ -175,6 +181,20 @@ public:
     }
 
 private:
+    /// Those of the areas where the operation is possible.
+    QFlags<Qt::DockWidgetArea> possibleAreas(QFlags<Qt::DockWidgetArea> areas) const
+    {
+        QFlags<Qt::DockWidgetArea> possible;
+        const QMainWindow* mainWindow = q.mainWindow();
+        if (mainWindow == nullptr)
+            return possible;
+        const auto candidates = DockArrangement::candidatesByArea(*mainWindow, areas);
+        for (auto docks = candidates.cbegin(); docks != candidates.cend(); ++docks)
+            possible.setFlag(docks.key(),
+                             m_operation.isPossible(*mainWindow, docks.key(), docks.value()));
+        return possible;
+    }
+
     void handle(QObject* watched, const QEvent& event)
     {
         const QPointer<Support> alive(&q);
@@ -182,9 +202,12 @@ private:
             m_children.handle(event);
         if (!alive || event.type() == QEvent::ChildPolished || isAboutNoWidget(event))
             return;
-        // Tabs that come to the front only move, and minimum sizes change only with the layout.
-        if (event.type() == QEvent::Hide || event.type() == QEvent::Move ||
-            event.type() == QEvent::LayoutRequest)
+        // A new layout resizes all docks; tabs that come to the front only move, and minimum sizes
+        // change only with the layout.
+        const bool isAboutLayout = event.type() == QEvent::Move ||
+                                   event.type() == QEvent::LayoutRequest ||
+                                   (event.type() == QEvent::Resize && watched != q.parent());
+        if (event.type() == QEvent::Hide || isAboutLayout)
             announceLater();
         else
             announceNow();

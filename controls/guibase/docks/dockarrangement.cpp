@@ -24,14 +24,27 @@ QSet<const QMainWindow*>& windowsUnderWay()
 
 QList<QDockWidget*> candidates(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
 {
+    return candidatesByArea(mainWindow, area).value(area);
+}
+
+QMap<Qt::DockWidgetArea, QList<QDockWidget*>> candidatesByArea(const QMainWindow& mainWindow,
+                                                               QFlags<Qt::DockWidgetArea> areas)
+{
+    QMap<Qt::DockWidgetArea, QList<QDockWidget*>> found;
     // Docks that are no windows of their own are as hidden as the main window.
-    if (!mainWindow.isVisible() || area == Qt::NoDockWidgetArea)
-        return {};
-    const auto filter = [&](const QDockWidget& dock) {
-        return dock.isVisible() && !dock.isFloating() &&
-               mainWindow.dockWidgetArea(const_cast<QDockWidget*>(&dock)) == area;
+    if (!mainWindow.isVisible())
+        return found;
+    const auto isShownDocked = [](const QDockWidget& dock) {
+        return dock.isVisible() && !dock.isFloating();
     };
-    return QMainWindowHelpers::dockWidgets(mainWindow, filter, -1);
+    const QList<QDockWidget*> docks =
+        QMainWindowHelpers::dockWidgets(mainWindow, isShownDocked, -1);
+    for (QDockWidget* dock : docks) {
+        const Qt::DockWidgetArea area = mainWindow.dockWidgetArea(dock);
+        if (area != Qt::NoDockWidgetArea && areas.testFlag(area))
+            found[area] << dock;
+    }
+    return found;
 }
 
 QRect geometryOf(const QList<QDockWidget*>& docks, const QMainWindow& mainWindow,

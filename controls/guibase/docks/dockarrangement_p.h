@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QList>
+#include <QMap>
 #include <QRect>
 
 class QDockWidget;
@@ -11,6 +12,9 @@ namespace DockArrangement {
 
 /// The visible docks that lie docked in exactly this area, in child order.
 QList<QDockWidget*> candidates(const QMainWindow& mainWindow, Qt::DockWidgetArea area);
+/// The same for each single area that is asked for, found in one walk over the docks.
+QMap<Qt::DockWidgetArea, QList<QDockWidget*>> candidatesByArea(const QMainWindow& mainWindow,
+                                                               QFlags<Qt::DockWidgetArea> areas);
 /// The rectangle around these visible docks of the area and the area's tab bars; see
 /// QMainWindowHelpers::dockWidgetAreaGeometry().
 QRect geometryOf(const QList<QDockWidget*>& docks, const QMainWindow& mainWindow,

@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 namespace {
 
@@ -135,6 +136,7 @@ public:
     QString elidedTitle;
     QRect titleOnLine;
     bool active = false;
+    bool willArrange = false;
 };
 
 EnhancedDockWidgetTitleBar::Private::Private(EnhancedDockWidgetTitleBar& owner, QDockWidget& served)
@@ -189,6 +191,9 @@ QSize EnhancedDockWidgetTitleBar::Private::hint(bool minimal)
 
 void EnhancedDockWidgetTitleBar::Private::forgetHints()
 {
+    // Whoever has not asked since the last time knows already.
+    if (!fullHint.isValid() && !minimalHint.isValid())
+        return;
     fullHint = QSize();
     minimalHint = QSize();
     bar.updateGeometry();
@@ -408,8 +413,10 @@ bool EnhancedDockWidgetTitleBar::eventFilter(QObject* watched, QEvent* event)
 
 bool EnhancedDockWidgetTitleBar::event(QEvent* event)
 {
-    if (event->type() == QEvent::LayoutRequest)
+    if (event->type() == QEvent::LayoutRequest) {
+        d->willArrange = false;
         d->arrange();
+    }
     if (event->type() == QEvent::ToolTip && d->elidedTitle != d->title) {
         const auto* help = static_cast<QHelpEvent*>(event);
         if (d->place(d->titleOnLine).contains(help->pos())) {
@@ -436,7 +443,8 @@ void EnhancedDockWidgetTitleBar::actionEvent(QActionEvent* event)
             button->second->hide();
     }
     // The action may go because the window is being destroyed: no time for new buttons.
-    QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+    if (!std::exchange(d->willArrange, true))
+        QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
 }
 
 void EnhancedDockWidgetTitleBar::changeEvent(QEvent* event)

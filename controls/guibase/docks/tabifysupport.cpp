@@ -10,13 +10,18 @@ namespace {
 
 constexpr const char* propertyName = "QMainWindowHelpers_TabifySupport_instance";
 
+bool isTabifyPossible(const QMainWindow&, Qt::DockWidgetArea, const QList<QDockWidget*>& candidates)
+{
+    return candidates.size() >= 2;
+}
+
 const DockAreaOperation<TabifySupport>& operation()
 {
     using Support = TabifySupport;
     static constexpr DockAreaOperation<Support> table{
         propertyName,
         "tabifyDockWidgetArea_%1",
-        &Support::isTabifyDockWidgetsPossible,
+        &isTabifyPossible,
         &Support::tabifyDockWidgets,
         &Support::isTabifyDockWidgetsPossibleChanged,
         &Support::dockWidgetsTabified,
@@ -68,7 +73,7 @@ TabifySupport::~TabifySupport() = default;
 bool TabifySupport::isTabifyDockWidgetsPossible(const QMainWindow& mainWindow,
                                                 Qt::DockWidgetArea area)
 {
-    return DockArrangement::candidates(mainWindow, area).size() >= 2;
+    return isTabifyPossible(mainWindow, area, DockArrangement::candidates(mainWindow, area));
 }
 
 bool TabifySupport::tabifyDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetArea area)

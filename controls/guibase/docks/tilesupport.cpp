@@ -15,13 +15,42 @@ namespace {
 
 constexpr const char* propertyName = "QMainWindowHelpers_TileSupport_instance";
 
+/// The docks of an area in title order, with the grid that fits them.
+struct Tiling
+{
+    QList<QDockWidget*> docks;
+    QSize available;
+    std::optional<TileGrid> grid;
+};
+
+Tiling tilingOf(const QMainWindow& mainWindow, Qt::DockWidgetArea area,
+                const QList<QDockWidget*>& candidates)
+{
+    Tiling tiling{candidates, {}, {}};
+    if (tiling.docks.size() < 2)
+        return tiling;
+    DockArrangement::sortByTitle(tiling.docks);
+    tiling.available = DockArrangement::geometryOf(tiling.docks, mainWindow, area).size();
+    QList<QSize> minimumSizes;
+    for (const QDockWidget* dock : std::as_const(tiling.docks))
+        minimumSizes << dock->minimumSize();
+    tiling.grid = fitTileGrid(minimumSizes, tiling.available);
+    return tiling;
+}
+
+bool isTilePossible(const QMainWindow& mainWindow, Qt::DockWidgetArea area,
+                    const QList<QDockWidget*>& candidates)
+{
+    return tilingOf(mainWindow, area, candidates).grid.has_value();
+}
+
 const DockAreaOperation<TileSupport>& operation()
 {
     using Support = TileSupport;
     static constexpr DockAreaOperation<Support> table{
         propertyName,
         "tileDockWidgetArea_%1",
-        &Support::isTileDockWidgetsPossible,
+        &isTilePossible,
         &Support::tileDockWidgets,
         &Support::isTileDockWidgetsPossibleChanged,
         &Support::dockWidgetsTiled,
@@ -49,28 +78,6 @@ const DockAreaOperation<TileSupport>& operation()
 }
 
 using GuardedDocks = QList<QPointer<QDockWidget>>;
-
-/// The docks of an area in title order, with the grid that fits them.
-struct Tiling
-{
-    QList<QDockWidget*> docks;
-    QSize available;
-    std::optional<TileGrid> grid;
-};
-
-Tiling tilingOf(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
-{
-    Tiling tiling{DockArrangement::candidates(mainWindow, area), {}, {}};
-    if (tiling.docks.size() < 2)
-        return tiling;
-    DockArrangement::sortByTitle(tiling.docks);
-    tiling.available = DockArrangement::geometryOf(tiling.docks, mainWindow, area).size();
-    QList<QSize> minimumSizes;
-    for (const QDockWidget* dock : std::as_const(tiling.docks))
-        minimumSizes << dock->minimumSize();
-    tiling.grid = fitTileGrid(minimumSizes, tiling.available);
-    return tiling;
-}
 
 void split(QMainWindow& mainWindow, QDockWidget* after, QDockWidget* dock,
            Qt::Orientation direction)
@@ -163,14 +170,14 @@ TileSupport::~TileSupport() = default;
 
 bool TileSupport::isTileDockWidgetsPossible(const QMainWindow& mainWindow, Qt::DockWidgetArea area)
 {
-    return tilingOf(mainWindow, area).grid.has_value();
+    return isTilePossible(mainWindow, area, DockArrangement::candidates(mainWindow, area));
 }
 
 bool TileSupport::tileDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetArea area)
 {
     if (DockArrangement::Rearrangement::isUnderWay(mainWindow))
         return false;
-    const Tiling tiling = tilingOf(mainWindow, area);
+    const Tiling tiling = tilingOf(mainWindow, area, DockArrangement::candidates(mainWindow, area));
     if (!tiling.grid)
         return false;
     const QPointer<QMainWindow> window(&mainWindow);
