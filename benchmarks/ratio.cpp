@@ -72,6 +72,12 @@ void RatioRun::compare(const std::string& name, double limit, const Body& ours, 
     }
 }
 
+void RatioRun::compareGrowth(const std::string& name, double limit, const std::string& small,
+                             const std::string& large, double factor)
+{
+    m_growths.push_back({name, limit, small, large, factor});
+}
+
 int RatioRun::run(int argc, char** argv)
 {
     std::string interleaving = "--benchmark_enable_random_interleaving=true";
@@ -98,6 +104,17 @@ int RatioRun::run(int argc, char** argv)
         if (collector.wasRun(ours) || collector.wasRun(theirs))
             passed = report(pair, collector.median(ours), collector.median(theirs)) && passed;
     }
+    for (const Growth& growth : m_growths) {
+        const auto growthOf = [&](const char* side) {
+            const double small = collector.median(sideName(growth.small, side));
+            const double large = collector.median(sideName(growth.large, side));
+            return small > 0 ? large / (growth.factor * small) : 0;
+        };
+        const double ours = growthOf("ours");
+        const double theirs = growthOf("theirs");
+        if (ours > 0 && theirs > 0)
+            passed = report(growth, ours, theirs) && passed;
+    }
     return passed ? 0 : 1;
 }
 
@@ -109,5 +126,14 @@ bool RatioRun::report(const Pair& pair, double ours, double theirs)
     const char* remark = good ? "" : measured ? "  EXCEEDED" : "  NOT MEASURED";
     std::printf("%s: ours %.1f ns, theirs %.1f ns, ratio %.3f, limit %.3f%s\n", pair.name.c_str(),
                 ours, theirs, ratio, pair.limit, remark);
+    return good;
+}
+
+bool RatioRun::report(const Growth& growth, double ours, double theirs)
+{
+    const double ratio = ours / theirs;
+    const bool good = ratio <= growth.limit;
+    std::printf("%s: ours times %.3f, theirs times %.3f, ratio %.3f, limit %.3f%s\n",
+                growth.name.c_str(), ours, theirs, ratio, growth.limit, good ? "" : "  EXCEEDED");
     return good;
 }

@@ -24,6 +24,11 @@ public:
     /// `limit` is the largest allowed ratio ours / theirs. Names must differ from one another.
     void compare(const std::string& name, double limit, const Body& ours, const Body& theirs,
                  Clock clock = Clock::Cpu);
+    /// Compares how the two sides of the pair `small` grow when they do `factor` times the work, as
+    /// they do in the pair `large`: what a piece of work costs in the large, in relation to the
+    /// small, on our side and on theirs, and the ratio of the two.
+    void compareGrowth(const std::string& name, double limit, const std::string& small,
+                       const std::string& large, double factor);
     /// Measures, prints "name: ours ns, theirs ns, ratio, limit" for each pair, and returns the
     /// exit code for main(): 1 when a limit was exceeded or a side could not be measured, else 0.
     /// Pairs that --benchmark_filter leaves out do not count.
@@ -37,8 +42,19 @@ private:
         Clock clock;
     };
 
+    struct Growth
+    {
+        std::string name;
+        double limit;
+        std::string small;
+        std::string large;
+        double factor;
+    };
+
     /// Prints the line; whether both times (0 = missing) are there and within the limit.
     static bool report(const Pair& pair, double ours, double theirs);
+    static bool report(const Growth& growth, double ours, double theirs);
 
     std::vector<Pair> m_pairs;
+    std::vector<Growth> m_growths;
 };
