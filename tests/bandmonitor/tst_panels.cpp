@@ -165,8 +165,11 @@ private Q_SLOTS:
         press(Qt::Key_M);
         QTRY_VERIFY(!last->isFloating());
         QTRY_COMPARE(layout(), docked);
+        const QDockWidget* active = m_window->panels().activeDock();
         press(Qt::Key_A);
         QVERIFY(layout().contains(QLatin1String("hides itself")));
+        QVERIFY(active->isHidden());
+        QTRY_VERIFY(m_window->bandView().isAncestorOf(QApplication::focusWidget()));
     }
 };
 

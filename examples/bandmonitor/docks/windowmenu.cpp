@@ -169,7 +169,13 @@ void WindowMenu::toggleMaximized(QDockWidget& dock)
 
 void WindowMenu::toggleAutoHide(QDockWidget& dock)
 {
-    AutoHideSupport::autoHideAction(dock)->toggle();
+    QAction* action = AutoHideSupport::autoHideAction(dock);
+    action->toggle();
+    if (!action->isChecked())
+        return;
+    dock.hide(); // no mouse is there to leave it
+    m_panels->window().activateWindow();
+    m_centre->setFocus();
 }
 
 void WindowMenu::closePanel(QDockWidget& dock)
