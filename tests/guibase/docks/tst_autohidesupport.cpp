@@ -2,23 +2,21 @@
 #include <guibase/docks/autohidesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
 
+#include "dockwindow.h"
+#include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testguard.h"
-
-#include <trovappstartup/cfgcenter.h>
+#include "support/testrows.h"
 
 #include <QAction>
 #include <QDialog>
-#include <QDockWidget>
 #include <QEnterEvent>
-#include <QMainWindow>
 #include <QMenu>
 #include <QPointer>
 #include <QTest>
-#include <QTextEdit>
 #include <QToolBar>
 #include <QToolButton>
 
+#include <functional>
 #include <memory>
 
 using QMainWindowHelpers::AutoHideSupport;
@@ -34,12 +32,10 @@ struct Window
 {
     Window()
     {
-        window->setObjectName(QStringLiteral("window"));
-        window->setCentralWidget(new QWidget);
         window->resize(800, 500);
         window->move(300, 100);
-        left = addDock(QStringLiteral("left"), Qt::LeftDockWidgetArea);
-        right = addDock(QStringLiteral("right"), Qt::RightDockWidgetArea);
+        left = addDock(u"left"_s, Qt::LeftDockWidgetArea);
+        right = addDock(u"right"_s, Qt::RightDockWidgetArea);
         support = AutoHideSupport::install(*window, bothSides);
         support->setAutoHideDelay(20);
         window->show();
@@ -49,17 +45,15 @@ struct Window
 
     QDockWidget* addDock(const QString& name, Qt::DockWidgetArea area)
     {
-        auto* dock = new QDockWidget(name, window.get());
+        QDockWidget* dock = window->addDock(name, area);
         dock->setObjectName(name);
-        dock->setWidget(new QTextEdit);
         QDockWidgetHelpers::DockWidgetConfigurator().withAutoHideSupport(true).configure(*dock);
-        window->addDockWidget(area, dock);
         return dock;
     }
 
     QToolBar* bar(Qt::ToolBarArea area) const
     {
-        return window->findChild<QToolBar*>(QStringLiteral("ToolBar: %1").arg(int(area)));
+        return window->findChild<QToolBar*>(u"ToolBar: %1"_s.arg(int(area)));
     }
 
     /// The buttons that stand for the dock and can be seen.
@@ -86,7 +80,7 @@ struct Window
         return action != nullptr && action->isChecked();
     }
 
-    std::unique_ptr<QMainWindow> window = std::make_unique<QMainWindow>();
+    std::unique_ptr<DockWindow> window = std::make_unique<DockWindow>();
     QDockWidget* left = nullptr;
     QDockWidget* right = nullptr;
     AutoHideSupport* support = nullptr;
@@ -106,447 +100,384 @@ void leave(QWidget* widget)
 
 } // namespace
 
-class TestAutoHideSupport : public QObject
+class tst_AutoHideSupport : public GuardedTest
 {
     Q_OBJECT
+    using Sides = TestRows<Qt::ToolBarArea, Qt::ToolBarArea>;
+
 private Q_SLOTS:
-    void init() { m_guard = std::make_unique<TestGuard>(); }
-    void cleanup()
+    void installKeepsToItsAreas()
     {
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
+        QMainWindow window;
+        QCOMPARE(AutoHideSupport::get(window), nullptr);
+        AutoHideSupport* support = AutoHideSupport::install(window, Qt::AllToolBarAreas);
+        QCOMPARE(support->toolBarAreas(), bothSides);
+        QCOMPARE(AutoHideSupport::install(window, Qt::AllToolBarAreas), nullptr);
+        QCOMPARE(AutoHideSupport::install(window, bothSides), support);
+        delete support;
+        QCOMPARE(AutoHideSupport::get(window), nullptr);
+
+        QMainWindow other;
+        support = AutoHideSupport::install(other, Qt::TopToolBarArea);
+        QVERIFY(support->toolBarAreas() == QFlags<Qt::ToolBarArea>());
+        QVERIFY(other.findChildren<QToolBar*>().isEmpty());
+        auto* dock = new QDockWidget(&other);
+        QAction* action = AutoHideSupport::createAutoHideAction(*dock);
+        other.addDockWidget(Qt::LeftDockWidgetArea, dock);
+        other.show();
+        action->setChecked(true);
+        QVERIFY(!action->isChecked());
+        QVERIFY(!dock->isFloating());
     }
-
-    void installKeepsToItsAreas();
-    void enablingFloatsAndShowsOneButton();
-    void sideFollowsChoice_data();
-    void sideFollowsChoice();
-    void hidesAfterTheMouseHasLeft();
-    void pointerOpensAndCloses();
-    void ownWindowsKeepItOpen();
-    void keysShowAndDismiss();
-    void hoverShowsOnlyIfWanted();
-    void dockingLeavesTheMode();
-    void docksThatComeAndGo();
-    void windowDiesWithPendingDock();
-    void stateSurvivesRestart();
-    void damagedStateChangesNothing();
-    void randomWalk();
-
-private:
-    std::unique_ptr<TestGuard> m_guard;
-};
-
-void TestAutoHideSupport::installKeepsToItsAreas()
-{
-    QMainWindow window;
-    QCOMPARE(AutoHideSupport::get(window), nullptr);
-    AutoHideSupport* support = AutoHideSupport::install(window, Qt::AllToolBarAreas);
-    QCOMPARE(support->toolBarAreas(), bothSides);
-    QCOMPARE(AutoHideSupport::install(window, Qt::AllToolBarAreas), nullptr);
-    QCOMPARE(AutoHideSupport::install(window, bothSides), support);
-    delete support;
-    QCOMPARE(AutoHideSupport::get(window), nullptr);
-
-    QMainWindow other;
-    support = AutoHideSupport::install(other, Qt::TopToolBarArea);
-    QVERIFY(support->toolBarAreas() == QFlags<Qt::ToolBarArea>());
-    QVERIFY(other.findChildren<QToolBar*>().isEmpty());
-    auto* dock = new QDockWidget(&other);
-    QAction* action = AutoHideSupport::createAutoHideAction(*dock);
-    other.addDockWidget(Qt::LeftDockWidgetArea, dock);
-    other.show();
-    action->setChecked(true);
-    QVERIFY(!action->isChecked());
-    QVERIFY(!dock->isFloating());
-}
-
-void TestAutoHideSupport::enablingFloatsAndShowsOneButton()
-{
-    Window w;
-    QCOMPARE(w.bar(Qt::RightToolBarArea)->width(), 0);
-    AutoHideSupport::autoHideAction(*w.right)->setChecked(true);
-    QVERIFY(w.right->isFloating());
-    QCOMPARE(w.buttons(w.right).size(), 1);
-    QToolBar* bar = w.bar(Qt::RightToolBarArea);
-    QCOMPARE(w.buttons(w.right).first()->parentWidget(), bar);
-    QCOMPARE(w.buttons(w.right).first()->arrowType(), Qt::LeftArrow);
-    QTRY_COMPARE(bar->width(), 24);
-    QCOMPARE(w.bar(Qt::LeftToolBarArea)->width(), 0);
-    const auto expected = [&] {
-        const QPoint corner = bar->mapToGlobal(QPoint(0, 0));
-        return QRect(corner.x() - w.right->width(), corner.y(), w.right->width(), bar->height());
-    };
-    QTRY_COMPARE(w.right->geometry(), expected());
-    w.window->resize(700, 400);
-    QTRY_COMPARE(w.right->height(), bar->height());
-    QTRY_COMPARE(w.right->geometry(), expected());
-    w.right->setWindowTitle(QStringLiteral("R&D"));
-    QCOMPARE(w.buttons(w.right).first()->defaultAction()->text(), QStringLiteral("R&D"));
-
-    AutoHideSupport::autoHideAction(*w.right)->setChecked(false);
-    QVERIFY(!w.right->isFloating());
-    QVERIFY(w.buttons(w.right).isEmpty());
-    QTRY_COMPARE(bar->width(), 0);
-}
-
-void TestAutoHideSupport::sideFollowsChoice_data()
-{
-    QTest::addColumn<Qt::ToolBarArea>("chosen");
-    QTest::addColumn<Qt::ToolBarArea>("expected");
-    QTest::newRow("left") << Qt::LeftToolBarArea << Qt::LeftToolBarArea;
-    QTest::newRow("right") << Qt::RightToolBarArea << Qt::RightToolBarArea;
-    QTest::newRow("top") << Qt::TopToolBarArea << Qt::NoToolBarArea;
-    QTest::newRow("none") << Qt::NoToolBarArea << Qt::NoToolBarArea;
-}
-
-void TestAutoHideSupport::sideFollowsChoice()
-{
-    QFETCH(Qt::ToolBarArea, chosen);
-    QFETCH(Qt::ToolBarArea, expected);
-    Window w;
-    w.support->setSelectToolBarAreaFn([chosen](const QMainWindow&, const QDockWidget&,
-                                               QFlags<Qt::ToolBarArea>) { return chosen; });
-    w.support->enableAutoHide(*w.left);
-    QCOMPARE(w.isOn(w.left), expected != Qt::NoToolBarArea);
-    QCOMPARE(w.left->isFloating(), expected != Qt::NoToolBarArea);
-    QCOMPARE(w.buttons(w.left).size(), expected == Qt::NoToolBarArea ? 0 : 1);
-    if (expected != Qt::NoToolBarArea)
-        QCOMPARE(w.buttons(w.left).first()->parentWidget(), w.bar(expected));
-
-    using Support = AutoHideSupport;
-    QCOMPARE(Support::selectToolBarAreaByDockWidgetArea(*w.window, *w.right, {}),
-             Qt::RightToolBarArea);
-    QCOMPARE(Support::selectToolBarAreaByDockWidgetScreenPosition(*w.window, *w.right, {}),
-             Qt::RightToolBarArea);
-    w.right->setFloating(true);
-    w.right->move(w.window->pos());
-    QCOMPARE(Support::selectToolBarAreaByDockWidgetScreenPosition(*w.window, *w.right, {}),
-             Qt::LeftToolBarArea);
-}
-
-void TestAutoHideSupport::hidesAfterTheMouseHasLeft()
-{
-    if (QGuiApplication::platformName() != QStringLiteral("offscreen"))
-        QSKIP("The real pointer would join in.");
-    Window w;
-    w.support->enableAutoHide(*w.left);
-    w.support->enableAutoHide(*w.right);
-    w.support->setAutoHideDelay(100'000);
-    leave(w.left);
-    enter(w.left); // back in time
-    leave(w.left);
-    enter(w.right); // another dock: at once
-    QVERIFY(!w.left->isVisible());
-    QVERIFY(w.right->isVisible());
-    w.support->setAutoHideDelay(20);
-    QCursor::setPos(w.right->mapToGlobal(QPoint(10, 10)));
-    leave(w.right); // into a child
-    w.buttons(w.left).first()->click();
-    leave(w.buttons(w.left).first());
-    QTRY_VERIFY(!w.left->isVisible());
-    QVERIFY(w.right->isVisible());
-    QCursor::setPos(outside);
-    leave(w.right);
-    QTRY_VERIFY(!w.right->isVisible());
-    QCOMPARE(w.buttons(w.right).size(), 1);
-}
-
-void TestAutoHideSupport::pointerOpensAndCloses()
-{
-    if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
-        QSKIP("Needs a real pointer.");
-    Window w;
-    QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
-    w.support->enableAutoHide(*w.left);
-    w.left->hide();
-    const QToolButton* button = w.buttons(w.left).first();
-    QTRY_COMPARE(button->parentWidget()->width(), 24);
-    QCursor::setPos(button->mapToGlobal(button->rect().center()));
-    QTRY_VERIFY(w.left->isVisible());
-    QVERIFY(QTest::qWaitForWindowExposed(w.left));
-    const auto edge = [&] { return button->parentWidget()->mapToGlobal(QPoint(24, 0)); };
-    QTRY_COMPARE(w.left->geometry().topLeft(), edge());
-    QCursor::setPos(w.left->geometry().center());
-    QTest::qWait(60); // several delays
-    QVERIFY(w.left->isVisible());
-    QCursor::setPos(w.window->geometry().center());
-    QTRY_VERIFY(!w.left->isVisible());
-}
-
-void TestAutoHideSupport::ownWindowsKeepItOpen()
-{
-    Window w;
-    w.support->setAutoHideDelay(1);
-    w.support->enableAutoHide(*w.left);
-    QMenu menu(w.left->widget());
-    menu.addAction(QStringLiteral("entry"));
-    QDialog dialog(w.left);
-    dialog.setModal(true);
-    for (QWidget* own : {static_cast<QWidget*>(&menu), static_cast<QWidget*>(&dialog)}) {
-        w.left->show();
-        if (own == &menu && QGuiApplication::platformName() == QStringLiteral("offscreen"))
-            QTest::ignoreMessage(QtWarningMsg,
-                                 "This plugin does not support grabbing the keyboard");
-        own->show();
-        leave(w.left);
-        QTest::qWait(30); // several delays
-        QVERIFY(w.left->isVisible());
-        own->close();
-        QTRY_VERIFY(!w.left->isVisible());
-    }
-}
-
-void TestAutoHideSupport::keysShowAndDismiss()
-{
-    Window w;
-    w.support->setAutoHideDelay(100'000);
-    w.support->enableAutoHide(*w.left);
-    w.left->hide();
-    QToolButton* button = w.buttons(w.left).first();
-    QVERIFY(button->focusPolicy() & Qt::TabFocus);
-    w.window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
-    // A real key brings the X server's time with it, as the pointer does: the requests of a client
-    // that is behind the time count for outdated.
-    const auto press = [&w](QWidget* widget, Qt::Key key) {
-        const QWidget* central = w.window->centralWidget();
-        const bool inside = !central->underMouse();
-        QCursor::setPos(inside ? central->mapToGlobal(central->rect().center()) : outside);
-        QTRY_COMPARE(central->underMouse(), inside);
-        QTest::keyClick(widget, key);
-    };
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
-        button->setFocus();
-        press(button, key);
-        QVERIFY(w.left->isVisible());
-        QTRY_COMPARE(QApplication::focusWidget(), w.left->widget());
-        press(w.left->widget(), Qt::Key_Escape);
-        QVERIFY(!w.left->isVisible());
-        QTRY_COMPARE(QApplication::focusWidget(), button);
-    }
-}
-
-void TestAutoHideSupport::hoverShowsOnlyIfWanted()
-{
-    Window w;
-    w.support->enableAutoHide(*w.left);
-    w.left->hide();
-    w.support->setPopupOnHoverEnabled(false);
-    enter(w.buttons(w.left).first());
-    QVERIFY(!w.left->isVisible());
-    w.support->setPopupOnHoverEnabled(true);
-    enter(w.buttons(w.left).first());
-    QVERIFY(w.left->isVisible());
-}
-
-void TestAutoHideSupport::dockingLeavesTheMode()
-{
-    Window w;
-    w.support->enableAutoHide(*w.left);
-    w.support->enableAutoHide(*w.right);
-    const QByteArray layout = w.window->saveState();
-    leave(w.right);
-    w.left->setFloating(false);
-    QVERIFY(!w.isOn(w.left));
-    QVERIFY(w.buttons(w.left).isEmpty());
-    QVERIFY(!w.right->isVisible()); // it was pending
-    QVERIFY(w.isOn(w.right));
-    // A layout that has the docks floating does not end the mode.
-    QVERIFY(w.window->restoreState(layout));
-    QCoreApplication::processEvents();
-    QVERIFY(w.isOn(w.right));
-
-    w.support->setAllowAutoHideOfNonFloatingEnabled(true);
-    w.support->setSyncAutoHideWithFloatingEnabled(false);
-    w.left->setFloating(false);
-    w.support->enableAutoHide(*w.left);
-    QVERIFY(!w.left->isFloating());
-    w.left->hide();
-    w.left->show();
-    QVERIFY(w.isOn(w.left));
-}
-
-void TestAutoHideSupport::docksThatComeAndGo()
-{
-    Window w;
-    QDockWidget* late = w.addDock(QString(), Qt::RightDockWidgetArea); // without any title
-    w.support->enableAutoHide(*late);
-    QCOMPARE(w.buttons(late).size(), 1);
-    QDockWidget* twin = w.addDock(QStringLiteral("left"), Qt::LeftDockWidgetArea);
-    w.support->enableAutoHide(*twin);
-    QVERIFY(w.buttons(w.left).isEmpty());
-
-    QMainWindow other;
-    AutoHideSupport::install(other, bothSides);
-    leave(twin);
-    other.addDockWidget(Qt::LeftDockWidgetArea, twin);
-    other.show();
-    QVERIFY(!w.isOn(twin));
-    QVERIFY(w.buttons(twin).isEmpty());
-    AutoHideSupport::autoHideAction(*twin)->setChecked(true);
-    QVERIFY(w.buttons(twin).isEmpty());
-    QVERIFY(twin->isFloating());
-
-    leave(late);
-    const QPointer<QToolButton> button = w.buttons(late).first();
-    delete late;
-    QTRY_VERIFY(button.isNull());
-    QTRY_COMPARE(w.bar(Qt::RightToolBarArea)->width(), 0);
-    // Dies before the main window has told that it came.
-    QDockWidget* brief = w.addDock(QStringLiteral("brief"), Qt::RightDockWidgetArea);
-    w.support->enableAutoHide(*brief);
-    delete brief;
-    QTRY_COMPARE(w.bar(Qt::RightToolBarArea)->width(), 0);
-}
-
-void TestAutoHideSupport::windowDiesWithPendingDock()
-{
-    auto w = std::make_unique<Window>();
-    w->support->enableAutoHide(*w->left);
-    leave(w->left);
-    const QPointer<AutoHideSupport> support(w->support);
-    // It dies in the middle of an operation, too.
-    QDockWidget* right = w->right;
-    connect(AutoHideSupport::autoHideAction(*right), &QAction::toggled, support,
-            [&w] { w.reset(); });
-    support->enableAutoHide(*right);
-    QVERIFY(support.isNull());
-    QTest::qWait(40); // the delay has passed
-}
-
-void TestAutoHideSupport::stateSurvivesRestart()
-{
+    void enablingFloatsAndShowsOneButton()
     {
         Window w;
-        w.support->setStorageName(QStringLiteral("main"));
+        QCOMPARE(w.bar(Qt::RightToolBarArea)->width(), 0);
+        AutoHideSupport::autoHideAction(*w.right)->setChecked(true);
+        QVERIFY(w.right->isFloating());
+        QCOMPARE(w.buttons(w.right).size(), 1);
+        QToolBar* bar = w.bar(Qt::RightToolBarArea);
+        QCOMPARE(w.buttons(w.right).first()->parentWidget(), bar);
+        QCOMPARE(w.buttons(w.right).first()->arrowType(), Qt::LeftArrow);
+        QTRY_COMPARE(bar->width(), 24);
+        QCOMPARE(w.bar(Qt::LeftToolBarArea)->width(), 0);
+        const auto expected = [&] {
+            const QPoint corner = bar->mapToGlobal(QPoint(0, 0));
+            return QRect(corner.x() - w.right->width(), corner.y(), w.right->width(),
+                         bar->height());
+        };
+        QTRY_COMPARE(w.right->geometry(), expected());
+        w.window->resize(700, 400);
+        QTRY_COMPARE(w.right->height(), bar->height());
+        QTRY_COMPARE(w.right->geometry(), expected());
+        w.right->setWindowTitle(u"R&D"_s);
+        QCOMPARE(w.buttons(w.right).first()->defaultAction()->text(), u"R&D"_s);
+
+        AutoHideSupport::autoHideAction(*w.right)->setChecked(false);
+        QVERIFY(!w.right->isFloating());
+        QVERIFY(w.buttons(w.right).isEmpty());
+        QTRY_COMPARE(bar->width(), 0);
+    }
+    void sideFollowsChoice_data()
+    {
+        Sides row;
+        row("left", Qt::LeftToolBarArea, Qt::LeftToolBarArea);
+        row("right", Qt::RightToolBarArea, Qt::RightToolBarArea);
+        row("top", Qt::TopToolBarArea, Qt::NoToolBarArea);
+        row("none", Qt::NoToolBarArea, Qt::NoToolBarArea);
+    }
+    void sideFollowsChoice()
+    {
+        const auto [chosen, expected] = Sides::fetch();
+        Window w;
+        w.support->setSelectToolBarAreaFn(
+            [chosen = chosen](const QMainWindow&, const QDockWidget&, QFlags<Qt::ToolBarArea>) {
+                return chosen;
+            });
+        w.support->enableAutoHide(*w.left);
+        QCOMPARE(w.isOn(w.left), expected != Qt::NoToolBarArea);
+        QCOMPARE(w.left->isFloating(), expected != Qt::NoToolBarArea);
+        QCOMPARE(w.buttons(w.left).size(), expected == Qt::NoToolBarArea ? 0 : 1);
+        if (expected != Qt::NoToolBarArea)
+            QCOMPARE(w.buttons(w.left).first()->parentWidget(), w.bar(expected));
+
+        using Support = AutoHideSupport;
+        QCOMPARE(Support::selectToolBarAreaByDockWidgetArea(*w.window, *w.right, {}),
+                 Qt::RightToolBarArea);
+        QCOMPARE(Support::selectToolBarAreaByDockWidgetScreenPosition(*w.window, *w.right, {}),
+                 Qt::RightToolBarArea);
+        w.right->setFloating(true);
+        w.right->move(w.window->pos());
+        QCOMPARE(Support::selectToolBarAreaByDockWidgetScreenPosition(*w.window, *w.right, {}),
+                 Qt::LeftToolBarArea);
+    }
+    void hidesAfterTheMouseHasLeft()
+    {
+        if (QGuiApplication::platformName() != u"offscreen"_s)
+            QSKIP("The real pointer would join in.");
+        Window w;
+        w.support->enableAutoHide(*w.left);
         w.support->enableAutoHide(*w.right);
+        w.support->setAutoHideDelay(100'000);
+        leave(w.left);
+        enter(w.left); // back in time
+        leave(w.left);
+        enter(w.right); // another dock: at once
+        QVERIFY(!w.left->isVisible());
+        QVERIFY(w.right->isVisible());
+        w.support->setAutoHideDelay(20);
+        QCursor::setPos(w.right->mapToGlobal(QPoint(10, 10)));
+        leave(w.right); // into a child
+        w.buttons(w.left).first()->click();
+        leave(w.buttons(w.left).first());
+        QTRY_VERIFY(!w.left->isVisible());
+        QVERIFY(w.right->isVisible());
+        QCursor::setPos(outside);
+        leave(w.right);
+        QTRY_VERIFY(!w.right->isVisible());
+        QCOMPARE(w.buttons(w.right).size(), 1);
+    }
+    void pointerOpensAndCloses()
+    {
+        if (QGuiApplication::platformName() == u"offscreen"_s)
+            QSKIP("Needs a real pointer.");
+        Window w;
+        QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
+        w.support->enableAutoHide(*w.left);
+        w.left->hide();
+        const QToolButton* button = w.buttons(w.left).first();
+        QTRY_COMPARE(button->parentWidget()->width(), 24);
+        QCursor::setPos(button->mapToGlobal(button->rect().center()));
+        QTRY_VERIFY(w.left->isVisible());
+        QVERIFY(QTest::qWaitForWindowExposed(w.left));
+        const auto edge = [&] { return button->parentWidget()->mapToGlobal(QPoint(24, 0)); };
+        QTRY_COMPARE(w.left->geometry().topLeft(), edge());
+        QCursor::setPos(w.left->geometry().center());
+        QTest::qWait(60); // several delays
+        QVERIFY(w.left->isVisible());
+        QCursor::setPos(w.window->geometry().center());
+        QTRY_VERIFY(!w.left->isVisible());
+    }
+    void ownWindowsKeepItOpen()
+    {
+        Window w;
+        w.support->setAutoHideDelay(1);
+        w.support->enableAutoHide(*w.left);
+        QMenu menu(w.left->widget());
+        menu.addAction(u"entry"_s);
+        QDialog dialog(w.left);
+        dialog.setModal(true);
+        for (QWidget* own : {static_cast<QWidget*>(&menu), static_cast<QWidget*>(&dialog)}) {
+            w.left->show();
+            if (own == &menu && QGuiApplication::platformName() == u"offscreen"_s)
+                QTest::ignoreMessage(QtWarningMsg,
+                                     "This plugin does not support grabbing the keyboard");
+            own->show();
+            leave(w.left);
+            QTest::qWait(30); // several delays
+            QVERIFY(w.left->isVisible());
+            own->close();
+            QTRY_VERIFY(!w.left->isVisible());
+        }
+    }
+    void keysShowAndDismiss()
+    {
+        Window w;
+        w.support->setAutoHideDelay(100'000);
+        w.support->enableAutoHide(*w.left);
+        w.left->hide();
+        QToolButton* button = w.buttons(w.left).first();
+        QVERIFY(button->focusPolicy() & Qt::TabFocus);
+        w.window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
+        // A real key brings the X server's time with it, as the pointer does: the requests of a
+        // client that is behind the time count for outdated.
+        const auto press = [&w](QWidget* widget, Qt::Key key) {
+            const QWidget* central = w.window->centralWidget();
+            const bool inside = !central->underMouse();
+            QCursor::setPos(inside ? central->mapToGlobal(central->rect().center()) : outside);
+            QTRY_COMPARE(central->underMouse(), inside);
+            QTest::keyClick(widget, key);
+        };
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+            button->setFocus();
+            press(button, key);
+            QVERIFY(w.left->isVisible());
+            QTRY_COMPARE(QApplication::focusWidget(), w.left->widget());
+            press(w.left->widget(), Qt::Key_Escape);
+            QVERIFY(!w.left->isVisible());
+            QTRY_COMPARE(QApplication::focusWidget(), button);
+        }
+    }
+    void hoverShowsOnlyIfWanted()
+    {
+        Window w;
+        w.support->enableAutoHide(*w.left);
+        w.left->hide();
         w.support->setPopupOnHoverEnabled(false);
-        delete w.left;
-        delete w.right; // as an application may do at its end
+        enter(w.buttons(w.left).first());
+        QVERIFY(!w.left->isVisible());
+        w.support->setPopupOnHoverEnabled(true);
+        enter(w.buttons(w.left).first());
+        QVERIFY(w.left->isVisible());
+    }
+    void dockingLeavesTheMode()
+    {
+        Window w;
+        w.support->enableAutoHide(*w.left);
+        w.support->enableAutoHide(*w.right);
+        const QByteArray layout = w.window->saveState();
+        leave(w.right);
+        w.left->setFloating(false);
+        QVERIFY(!w.isOn(w.left));
+        QVERIFY(w.buttons(w.left).isEmpty());
+        QVERIFY(!w.right->isVisible()); // it was pending
+        QVERIFY(w.isOn(w.right));
+        // A layout that has the docks floating does not end the mode.
+        QVERIFY(w.window->restoreState(layout));
+        QCoreApplication::processEvents();
+        QVERIFY(w.isOn(w.right));
+
+        w.support->setAllowAutoHideOfNonFloatingEnabled(true);
+        w.support->setSyncAutoHideWithFloatingEnabled(false);
+        w.left->setFloating(false);
+        w.support->enableAutoHide(*w.left);
+        QVERIFY(!w.left->isFloating());
+        w.left->hide();
+        w.left->show();
+        QVERIFY(w.isOn(w.left));
+    }
+    void docksThatComeAndGo()
+    {
+        Window w;
+        QDockWidget* late = w.addDock(QString(), Qt::RightDockWidgetArea); // without any title
+        w.support->enableAutoHide(*late);
+        QCOMPARE(w.buttons(late).size(), 1);
+        QDockWidget* twin = w.addDock(u"left"_s, Qt::LeftDockWidgetArea);
+        w.support->enableAutoHide(*twin);
+        QVERIFY(w.buttons(w.left).isEmpty());
+
+        QMainWindow other;
+        AutoHideSupport::install(other, bothSides);
+        leave(twin);
+        other.addDockWidget(Qt::LeftDockWidgetArea, twin);
+        other.show();
+        QVERIFY(!w.isOn(twin));
+        QVERIFY(w.buttons(twin).isEmpty());
+        AutoHideSupport::autoHideAction(*twin)->setChecked(true);
+        QVERIFY(w.buttons(twin).isEmpty());
+        QVERIFY(twin->isFloating());
+
+        leave(late);
+        const QPointer<QToolButton> button = w.buttons(late).first();
+        delete late;
+        QTRY_VERIFY(button.isNull());
+        QTRY_COMPARE(w.bar(Qt::RightToolBarArea)->width(), 0);
+        // Dies before the main window has told that it came.
+        QDockWidget* brief = w.addDock(u"brief"_s, Qt::RightDockWidgetArea);
+        w.support->enableAutoHide(*brief);
+        delete brief;
         QTRY_COMPARE(w.bar(Qt::RightToolBarArea)->width(), 0);
     }
-    Window w;
-    w.support->setStorageName(QStringLiteral("main"));
-    QVERIFY(w.isOn(w.right));
-    QVERIFY(!w.isOn(w.left));
-    QVERIFY(w.right->isFloating() && !w.right->isVisible());
-    QCOMPARE(w.buttons(w.right).first()->parentWidget(), w.bar(Qt::RightToolBarArea));
-    QVERIFY(!w.support->isPopupOnHoverEnabled());
-
-    const QByteArray state = w.support->saveState();
-    w.support->disableAutoHide(*w.right);
-    QVERIFY(w.right->isVisible()); // not lost without its button
-    w.support->enableAutoHide(*w.left);
-    QVERIFY(w.support->restoreState(state));
-    QVERIFY(w.isOn(w.right) && !w.isOn(w.left));
-    QCOMPARE(w.support->saveState(), state);
-}
-
-void TestAutoHideSupport::damagedStateChangesNothing()
-{
-    Window w;
-    w.support->enableAutoHide(*w.right);
-    const QByteArray state = w.support->saveState();
-    w.support->disableAutoHide(*w.right);
-    const QByteArray before = w.support->saveState();
-    RandomBytes random("auto-hide state");
-    for (int round = RandomBytes::rounds(300); round > 0; --round) {
-        const QByteArray mutant = random.mutated(state);
-        if (mutant == state)
-            continue;
-        // A checksum of 16 bits lets one in 65,536 through.
-        if (w.support->restoreState(mutant))
-            QVERIFY(w.support->restoreState(before));
-        QCOMPARE(w.support->saveState(), before);
+    void windowDiesWithPendingDock()
+    {
+        auto w = std::make_unique<Window>();
+        w->support->enableAutoHide(*w->left);
+        leave(w->left);
+        const QPointer<AutoHideSupport> support(w->support);
+        // It dies in the middle of an operation, too.
+        QDockWidget* right = w->right;
+        connect(AutoHideSupport::autoHideAction(*right), &QAction::toggled, support,
+                [&w] { w.reset(); });
+        support->enableAutoHide(*right);
+        QVERIFY(support.isNull());
+        QTest::qWait(40); // the delay has passed
     }
-}
+    void stateSurvivesRestart()
+    {
+        {
+            Window w;
+            w.support->setStorageName(u"main"_s);
+            w.support->enableAutoHide(*w.right);
+            w.support->setPopupOnHoverEnabled(false);
+            delete w.left;
+            delete w.right; // as an application may do at its end
+            QTRY_COMPARE(w.bar(Qt::RightToolBarArea)->width(), 0);
+        }
+        Window w;
+        w.support->setStorageName(u"main"_s);
+        QVERIFY(w.isOn(w.right));
+        QVERIFY(!w.isOn(w.left));
+        QVERIFY(w.right->isFloating() && !w.right->isVisible());
+        QCOMPARE(w.buttons(w.right).first()->parentWidget(), w.bar(Qt::RightToolBarArea));
+        QVERIFY(!w.support->isPopupOnHoverEnabled());
 
-void TestAutoHideSupport::randomWalk()
-{
-    RandomBytes random("auto-hide walk");
-    Window w;
-    w.support->setAutoHideDelay(0);
-    QList<QPointer<QDockWidget>> docks{w.left, w.right};
-    int made = 0;
-    for (int step = RandomBytes::rounds(400); step > 0; --step) {
-        docks.removeAll(nullptr);
-        if (docks.size() < 3) {
-            ++made;
-            docks << w.addDock(QStringLiteral("dock %1").arg(made),
-                               made % 2 ? Qt::LeftDockWidgetArea : Qt::BottomDockWidgetArea);
-        }
-        QDockWidget* dock = docks.at(random.below(static_cast<int>(docks.size())));
-        QDockWidget* other = docks.at(random.below(static_cast<int>(docks.size())));
-        switch (random.below(15)) {
-        case 0:
-            AutoHideSupport::autoHideAction(*dock)->toggle();
-            break;
-        case 1:
-            w.support->setAutoHideEnabled(*dock, random.below(2) != 0);
-            break;
-        case 2:
-            dock->setFloating(!dock->isFloating());
-            break;
-        case 3:
-            dock->setVisible(!dock->isVisible());
-            break;
-        case 4:
-            enter(dock);
-            break;
-        case 5:
-            leave(dock);
-            break;
-        case 6:
-            dock->close();
-            break;
-        case 7:
-            delete dock;
-            break;
-        case 8:
-            w.window->removeDockWidget(dock);
-            break;
-        case 9:
-            w.window->addDockWidget(Qt::RightDockWidgetArea, dock);
-            break;
-        case 10:
-            w.window->tabifyDockWidget(dock, other);
-            break;
-        case 11:
-            w.support->restoreState(w.support->saveState());
-            break;
-        case 13: {
-            auto own = dock->titleBarWidget()->findChildren<QToolButton*>();
-            own.removeIf([](const QToolButton* each) { return each->menu() != nullptr; });
-            if (!own.isEmpty())
-                own.at(random.below(static_cast<int>(own.size())))->click();
-            break;
-        }
-        case 12:
-            if (const auto buttons = w.buttons(dock); !buttons.isEmpty()) {
-                enter(buttons.first());
-                buttons.first()->click();
-                leave(buttons.first());
-            }
-            break;
-        default:
-            QCoreApplication::processEvents();
-            break;
-        }
-        bool anyOn = false;
-        for (const QPointer<QDockWidget>& each : std::as_const(docks)) {
-            if (!each)
+        const QByteArray state = w.support->saveState();
+        w.support->disableAutoHide(*w.right);
+        QVERIFY(w.right->isVisible()); // not lost without its button
+        w.support->enableAutoHide(*w.left);
+        QVERIFY(w.support->restoreState(state));
+        QVERIFY(w.isOn(w.right) && !w.isOn(w.left));
+        QCOMPARE(w.support->saveState(), state);
+    }
+    void damagedStateChangesNothing()
+    {
+        Window w;
+        w.support->enableAutoHide(*w.right);
+        const QByteArray state = w.support->saveState();
+        w.support->disableAutoHide(*w.right);
+        const QByteArray before = w.support->saveState();
+        RandomBytes random("auto-hide state");
+        for (int round = RandomBytes::rounds(300); round > 0; --round) {
+            const QByteArray mutant = random.mutated(state);
+            if (mutant == state)
                 continue;
-            const bool on = w.isOn(each);
-            anyOn = anyOn || on;
-            QCOMPARE(w.buttons(each).size(), on ? 1 : 0);
-            QVERIFY(!on || each->isFloating() || !each->isVisible());
+            // A checksum of 16 bits lets one in 65,536 through.
+            if (w.support->restoreState(mutant))
+                QVERIFY(w.support->restoreState(before));
+            QCOMPARE(w.support->saveState(), before);
         }
-        const int width = w.bar(Qt::LeftToolBarArea)->maximumWidth() +
-                          w.bar(Qt::RightToolBarArea)->maximumWidth();
-        QCOMPARE(width > 0, anyOn);
     }
-}
+    void randomWalk()
+    {
+        RandomBytes random("auto-hide walk");
+        Window w;
+        w.support->setAutoHideDelay(0);
+        QList<QPointer<QDockWidget>> docks{w.left, w.right};
+        int made = 0;
+        for (int step = RandomBytes::rounds(400); step > 0; --step) {
+            docks.removeAll(nullptr);
+            if (docks.size() < 3) {
+                ++made;
+                docks << w.addDock(u"dock %1"_s.arg(made),
+                                   made % 2 ? Qt::LeftDockWidgetArea : Qt::BottomDockWidgetArea);
+            }
+            QDockWidget* dock = docks.at(random.below(static_cast<int>(docks.size())));
+            QDockWidget* other = docks.at(random.below(static_cast<int>(docks.size())));
+            const std::function<void()> steps[] = {
+                [&] { AutoHideSupport::autoHideAction(*dock)->toggle(); },
+                [&] { w.support->setAutoHideEnabled(*dock, random.below(2) != 0); },
+                [&] { dock->setFloating(!dock->isFloating()); },
+                [&] { dock->setVisible(!dock->isVisible()); },
+                [&] { enter(dock); },
+                [&] { leave(dock); },
+                [&] { dock->close(); },
+                [&] { delete dock; },
+                [&] { w.window->removeDockWidget(dock); },
+                [&] { w.window->addDockWidget(Qt::RightDockWidgetArea, dock); },
+                [&] { w.window->tabifyDockWidget(dock, other); },
+                [&] { w.support->restoreState(w.support->saveState()); },
+                [&] {
+                    auto own = dock->titleBarWidget()->findChildren<QToolButton*>();
+                    own.removeIf([](const QToolButton* each) { return each->menu() != nullptr; });
+                    if (!own.isEmpty())
+                        own.at(random.below(static_cast<int>(own.size())))->click();
+                },
+                [&] {
+                    for (QToolButton* button : w.buttons(dock)) {
+                        enter(button);
+                        button->click();
+                        leave(button);
+                    }
+                },
+                [] { QCoreApplication::processEvents(); },
+            };
+            steps[random.below(std::size(steps))]();
+            bool anyOn = false;
+            for (const QPointer<QDockWidget>& each : std::as_const(docks)) {
+                if (!each)
+                    continue;
+                const bool on = w.isOn(each);
+                anyOn = anyOn || on;
+                QCOMPARE(w.buttons(each).size(), on ? 1 : 0);
+                QVERIFY(!on || each->isFloating() || !each->isVisible());
+            }
+            const int width = w.bar(Qt::LeftToolBarArea)->maximumWidth() +
+                              w.bar(Qt::RightToolBarArea)->maximumWidth();
+            QCOMPARE(width > 0, anyOn);
+        }
+    }
+};
 
-QTEST_MAIN(TestAutoHideSupport)
+QTEST_MAIN(tst_AutoHideSupport)
 #include "tst_autohidesupport.moc"

@@ -16,6 +16,7 @@
 #include <QTextEdit>
 
 #include <array>
+#include <functional>
 #include <memory>
 
 using namespace QMainWindowHelpers;
@@ -36,11 +37,22 @@ public:
     void step()
     {
         static constexpr std::array<void (Walk::*)(), 16> steps{
-            &Walk::add,    &Walk::add,      &Walk::remove,   &Walk::toggleFloating,
-            &Walk::tabify, &Walk::tile,     &Walk::hide,     &Walk::show,
-            &Walk::save,   &Walk::restore,  &Walk::close,    &Walk::move,
-            &Walk::click,  &Walk::maximize, &Walk::minimize, &Walk::bringToFront,
-        };
+            &Walk::add,
+            &Walk::add,
+            &Walk::remove,
+            &Walk::toggleFloating,
+            &Walk::tabify,
+            &Walk::tile,
+            &Walk::call<&QWidget::hide>,
+            &Walk::call<&QWidget::show>,
+            &Walk::save,
+            &Walk::restore,
+            &Walk::call<&QWidget::close>,
+            &Walk::move,
+            &Walk::click,
+            &Walk::change<&MaximizeMinimizeSupport::maximizeDockWidget>,
+            &Walk::change<&MaximizeMinimizeSupport::minimizeDockWidget>,
+            &Walk::bringToFront};
         m_window = m_windows[size_t(m_random.below(2))].get();
         const auto docks = m_window->findChildren<QDockWidget*>();
         m_dock = docks.isEmpty() ? nullptr : docks[m_random.below(int(docks.size()))];
@@ -88,20 +100,11 @@ private:
     }
     void tabify() { TabifySupport::get(*m_window)->tabifyDockWidgets(m_area); }
     void tile() { TileSupport::get(*m_window)->tileDockWidgets(m_area); }
-    void hide()
+    template <auto function>
+    void call()
     {
         if (m_dock)
-            m_dock->hide();
-    }
-    void show()
-    {
-        if (m_dock)
-            m_dock->show();
-    }
-    void close()
-    {
-        if (m_dock)
-            m_dock->close();
+            std::invoke(function, *m_dock);
     }
     void save()
     {
@@ -123,16 +126,12 @@ private:
         if (m_dock)
             QTest::mouseClick(m_dock->widget(), Qt::LeftButton);
     }
-    void maximize()
+    /// Or back, when that is not possible.
+    template <bool (MaximizeMinimizeSupport::*operation)()>
+    void change()
     {
         auto* support = m_dock ? MaximizeMinimizeSupport::get(*m_dock) : nullptr;
-        if (support != nullptr && !support->maximizeDockWidget())
-            support->restoreDockWidget();
-    }
-    void minimize()
-    {
-        auto* support = m_dock ? MaximizeMinimizeSupport::get(*m_dock) : nullptr;
-        if (support != nullptr && !support->minimizeDockWidget())
+        if (support != nullptr && !(support->*operation)())
             support->restoreDockWidget();
     }
     void bringToFront()
