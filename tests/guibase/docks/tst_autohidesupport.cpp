@@ -50,34 +50,28 @@ struct Window
         QDockWidgetHelpers::DockWidgetConfigurator().withAutoHideSupport(true).configure(*dock);
         return dock;
     }
-
     QToolBar* bar(Qt::ToolBarArea area) const
     {
         return window->findChild<QToolBar*>(u"ToolBar: %1"_s.arg(int(area)));
     }
-
     /// The buttons that stand for the dock and can be seen.
     QList<QToolButton*> buttons(const QObject* dock) const
     {
         QList<QToolButton*> found;
-        for (Qt::ToolBarArea area : {Qt::LeftToolBarArea, Qt::RightToolBarArea}) {
-            QToolBar* toolBar = bar(area);
-            const QList<QAction*> actions =
-                toolBar == nullptr ? QList<QAction*>() : toolBar->actions();
+        for (const QToolBar* toolBar : {bar(Qt::LeftToolBarArea), bar(Qt::RightToolBarArea)}) {
+            const QList<QAction*> actions = toolBar->actions();
             for (QAction* action : actions) {
                 const QVariant stands =
                     action->property("QMainWindowHelpers_AutoHideSupport_dockWidget");
-                if (action->isVisible() && stands.value<QObject*>() == dock && dock != nullptr)
+                if (action->isVisible() && stands.value<QObject*>() == dock)
                     found << qobject_cast<QToolButton*>(toolBar->widgetForAction(action));
             }
         }
         return found;
     }
-
     bool isOn(QDockWidget* dock) const
     {
-        const QAction* action = AutoHideSupport::autoHideAction(*dock);
-        return action != nullptr && action->isChecked();
+        return AutoHideSupport::autoHideAction(*dock)->isChecked();
     }
 
     std::unique_ptr<DockWindow> window = std::make_unique<DockWindow>();
@@ -91,7 +85,6 @@ void enter(QWidget* widget)
     QEnterEvent event(QPointF(1, 1), QPointF(1, 1), widget->mapToGlobal(QPointF(1, 1)));
     QCoreApplication::sendEvent(widget, &event);
 }
-
 void leave(QWidget* widget)
 {
     QEvent event(QEvent::Leave);
@@ -116,18 +109,14 @@ private Q_SLOTS:
         QCOMPARE(AutoHideSupport::install(window, bothSides), support);
         delete support;
         QCOMPARE(AutoHideSupport::get(window), nullptr);
-
-        QMainWindow other;
+        DockWindow other;
         support = AutoHideSupport::install(other, Qt::TopToolBarArea);
         QVERIFY(support->toolBarAreas() == QFlags<Qt::ToolBarArea>());
         QVERIFY(other.findChildren<QToolBar*>().isEmpty());
-        auto* dock = new QDockWidget(&other);
+        QDockWidget* dock = other.addDock(u"dock"_s);
         QAction* action = AutoHideSupport::createAutoHideAction(*dock);
-        other.addDockWidget(Qt::LeftDockWidgetArea, dock);
-        other.show();
         action->setChecked(true);
-        QVERIFY(!action->isChecked());
-        QVERIFY(!dock->isFloating());
+        QVERIFY(!action->isChecked() && !dock->isFloating());
     }
     void enablingFloatsAndShowsOneButton()
     {
@@ -309,8 +298,7 @@ private Q_SLOTS:
         const QByteArray layout = w.window->saveState();
         leave(w.right);
         w.left->setFloating(false);
-        QVERIFY(!w.isOn(w.left));
-        QVERIFY(w.buttons(w.left).isEmpty());
+        QVERIFY(!w.isOn(w.left) && w.buttons(w.left).isEmpty());
         QVERIFY(!w.right->isVisible()); // it was pending
         QVERIFY(w.isOn(w.right));
         // A layout that has the docks floating does not end the mode.
@@ -342,8 +330,7 @@ private Q_SLOTS:
         leave(twin);
         other.addDockWidget(Qt::LeftDockWidgetArea, twin);
         other.show();
-        QVERIFY(!w.isOn(twin));
-        QVERIFY(w.buttons(twin).isEmpty());
+        QVERIFY(!w.isOn(twin) && w.buttons(twin).isEmpty());
         AutoHideSupport::autoHideAction(*twin)->setChecked(true);
         QVERIFY(w.buttons(twin).isEmpty());
         QVERIFY(twin->isFloating());

@@ -24,7 +24,6 @@ private Q_SLOTS:
         TestRows<QList<int>, QString> row;
         row("first each", {0, 0, 0}, "c b a");
         row("negative", {-1, -5, 0}, "c a b");
-        row("too large", {7, 1, 99}, "a b c");
         row("between", {0, 1, 1}, "a c b");
     }
     void actionsStandWhereTheyAreAdded()
@@ -36,7 +35,6 @@ private Q_SLOTS:
         QCOMPARE(shown().join(u' '), expected + u" Float Close"_s);
         m_bar->addTitleBarAction(*first, -1);
         QCOMPARE(shown().at(2), u"a"_s);
-        QCOMPARE(m_bar->actions().size(), 3);
     }
     void buttonsFollowTheirActions()
     {
