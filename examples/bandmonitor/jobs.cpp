@@ -29,6 +29,7 @@ int Jobs::addPause(const QString& name, Condition condition)
 void Jobs::reset()
 {
     m_list.reset();
+    Q_EMIT jobsReset();
 }
 
 void Jobs::finish(int id, JobState state)
@@ -39,6 +40,7 @@ void Jobs::finish(int id, JobState state)
         Q_EMIT report(tr("%1: done").arg(name));
     else if (state == JobState::Failed)
         Q_EMIT report(tr("%1: failed").arg(name));
+    Q_EMIT jobChanged(id);
 }
 
 void Jobs::run(int id)

@@ -44,6 +44,10 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// For the user: what a job has come to.
     void report(const QString& text);
+    /// The job has another state now.
+    void jobChanged(int id);
+    /// All jobs are new again.
+    void jobsReset();
 
 private:
     void finish(int id, JobState state);

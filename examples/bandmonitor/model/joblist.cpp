@@ -24,6 +24,9 @@ void JobList::setState(int id, JobState state, quint64 timeUs)
     if (find(id) == nullptr)
         return;
     Job& job = m_jobs[static_cast<std::size_t>(id)];
+    // What is done at once starts and ends at the same sweep.
+    if (job.state != JobState::Waiting && state != JobState::Ready)
+        job.startedUs = timeUs;
     job.state = state;
     job.timeUs = timeUs;
 }
@@ -33,6 +36,7 @@ void JobList::reset()
     for (Job& job : m_jobs) {
         job.state = JobState::Ready;
         job.timeUs = 0;
+        job.startedUs.reset();
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace bandmonitor {
@@ -23,6 +24,9 @@ struct Job
     QString name;
     JobState state = JobState::Ready;
     quint64 timeUs = 0; ///< The sweep at which it came to its state; 0 as long as it is new.
+    /// The sweep at which it was started last; nothing as long as it is new. A job that is Ready and
+    /// has one was called off.
+    std::optional<quint64> startedUs = std::nullopt;
 };
 
 /// The jobs of a replay and how far they are.

@@ -23,6 +23,8 @@ public:
     /// The strongest of the signals that came up in the last showSweep() and are there now; null
     /// without one, and right after a beginning, when all signals are new.
     const SignalTrack* newcomer() const;
+    /// Whether the last showSweep() was a beginning: all tracks are new then, and none went.
+    bool hasBegunAnew() const { return m_begins; }
 
 private:
     std::shared_ptr<const Recording> m_recording;

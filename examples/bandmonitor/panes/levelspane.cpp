@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "panes/levelspane.h"
 
+#include "panes/paneactions.h"
 #include "panes/referencelevels.h"
 #include "settings.h"
 
 #include <guibase/lists/sortrowtable.h>
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QStyle>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -45,10 +44,11 @@ LevelsPane::LevelsPane(QWidget* parent)
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + rowPadding);
     m_table->sortByColumn(frequencyColumn, Qt::AscendingOrder);
-    m_actions = {makeAction(tr("&New"), Qt::CTRL | Qt::Key_N, tr("Adds a reference level")),
-                 makeAction(tr("&Delete"), Qt::CTRL | Qt::Key_D, tr("Deletes the selected rows")),
-                 makeAction(tr("C&lear"), Qt::CTRL | Qt::SHIFT | Qt::Key_D,
-                            tr("Deletes all reference levels"))};
+    m_actions = {
+        addPaneAction(this, tr("&New"), Qt::CTRL | Qt::Key_N, tr("Adds a reference level")),
+        addPaneAction(this, tr("&Delete"), Qt::CTRL | Qt::Key_D, tr("Deletes the selected rows")),
+        addPaneAction(this, tr("C&lear"), Qt::CTRL | Qt::SHIFT | Qt::Key_D,
+                      tr("Deletes all reference levels"))};
     connect(m_actions[0], &QAction::triggered, m_table, &SortRowTable::slotNew);
     connect(m_actions[1], &QAction::triggered, m_table, &SortRowTable::slotDelete);
     connect(m_actions[2], &QAction::triggered, this, &LevelsPane::clearAll);
@@ -71,32 +71,13 @@ LevelsPane::~LevelsPane()
     m_table->model()->disconnect(this); // it outlives this part of the pane
 }
 
-QAction* LevelsPane::makeAction(const QString& text, const QKeySequence& key, const QString& tip)
-{
-    auto* action = new QAction(text, this);
-    action->setShortcut(key);
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    action->setToolTip(QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
-    addAction(action);
-    return action;
-}
-
 void LevelsPane::buildLayout()
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);
     column->addWidget(m_table, 1);
-    auto* row = new QHBoxLayout;
-    for (QAction* action : std::as_const(m_actions)) {
-        auto* button = new QToolButton(this);
-        button->setDefaultAction(action);
-        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-        button->setFocusPolicy(Qt::TabFocus);
-        row->addWidget(button);
-    }
-    row->addStretch(1);
-    column->addLayout(row);
+    column->addLayout(makeButtonRow(this, m_actions));
 }
 
 void LevelsPane::restoreRows()

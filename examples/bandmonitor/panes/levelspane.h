@@ -42,7 +42,6 @@ private:
     using Reader = std::optional<double> (*)(const QString& text);
 
     void buildLayout();
-    QAction* makeAction(const QString& text, const QKeySequence& key, const QString& tip);
     void restoreRows();
     void storeRows();
     void clearAll();

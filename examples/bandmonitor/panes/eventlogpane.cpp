@@ -1,0 +1,353 @@
+// SPDX-License-Identifier: MIT
+#include "panes/eventlogpane.h"
+
+#include "panes/emptyhint.h"
+#include "panes/paneactions.h"
+#include "settings.h"
+
+#include <guibase/lists/sortlistview.h>
+#include <guibase/services/guibase.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QSaveFile>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace bandmonitor {
+
+namespace {
+
+constexpr std::chrono::milliseconds standardInterval{200};
+constexpr int cellPadding = 24;
+
+constexpr const char* columnTitles[EventLogPane::ColumnCount] = {
+    QT_TRANSLATE_NOOP("bandmonitor::EventLogPane", "Time"),
+    QT_TRANSLATE_NOOP("bandmonitor::EventLogPane", "Kind"),
+    QT_TRANSLATE_NOOP("bandmonitor::EventLogPane", "Event"),
+};
+
+/// By EventKind.
+constexpr const char* kindTexts[] = {
+    QT_TRANSLATE_NOOP("bandmonitor::EventLogPane", "Recording"),
+    QT_TRANSLATE_NOOP("bandmonitor::EventLogPane", "Signal"),
+    QT_TRANSLATE_NOOP("bandmonitor::EventLogPane", "Job"),
+    QT_TRANSLATE_NOOP("bandmonitor::EventLogPane", "Mode"),
+};
+
+QString kindText(EventKind kind)
+{
+    return EventLogPane::tr(kindTexts[static_cast<std::size_t>(kind)]);
+}
+
+QString timeText(quint64 timeUs)
+{
+    return GuiBase::Instance().TimeString(timeUs, QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+}
+
+} // namespace
+
+EventLogPane::EventLogPane(EventLog* log, QWidget* parent)
+    : QWidget(parent)
+    , m_log(log)
+    , m_list(new SortListView(this, "events"))
+    , m_filter(new QLineEdit(this))
+    , m_count(new QLabel(this))
+{
+    setObjectName(QStringLiteral("eventLogPane"));
+    setAccessibleName(tr("Event log"));
+    setFocusProxy(m_list);
+    m_filter->setObjectName(QStringLiteral("eventFilter"));
+    m_filter->setClearButtonEnabled(true);
+    m_filter->setPlaceholderText(tr("Filter"));
+    m_filter->setAccessibleName(tr("Filter of the events"));
+    m_filter->installEventFilter(this);
+    m_count->setObjectName(QStringLiteral("eventCount"));
+    buildList();
+    buildActions();
+
+    QHBoxLayout* buttons = makeButtonRow(this, m_actions);
+    buttons->addWidget(m_count);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+    column->addWidget(m_filter);
+    column->addWidget(m_list, 1);
+    column->addLayout(buttons);
+
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(standardInterval);
+    connect(&m_rest, &QTimer::timeout, this, [this] {
+        if (m_isStale && isVisible())
+            update();
+    });
+    connect(log, &EventLog::changed, this, &EventLogPane::refresh);
+    connect(log, &QObject::destroyed, this, &EventLogPane::rebuild);
+    connect(m_filter, &QLineEdit::textChanged, this, &EventLogPane::rebuild);
+    rebuild();
+}
+
+EventLogPane::~EventLogPane() = default;
+
+void EventLogPane::buildList()
+{
+    m_list->setAccessibleName(tr("Events"));
+    m_list->setUniformRowHeights(true);
+    m_list->setAllColumnsShowFocus(true);
+    m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_list->SetCompareFunctionLength(ColumnCount);
+    for (int column = 0; column < ColumnCount; ++column) {
+        m_list->addColumn(tr(columnTitles[column]));
+        m_list->SetCompareFunction(column, SortListView::_compStandardString);
+    }
+    m_list->SetCompareFunction(Time, SortListView::_compStandardNumeric);
+    // Events come in their order: nothing to sort until the user chooses a column.
+    m_list->setSorting(-1, Qt::AscendingOrder);
+    m_list->setShowSortIndicator(true);
+    m_list->header()->setSortIndicator(-1, Qt::AscendingOrder);
+    const auto fit = [this](Column column, QString widest) {
+        const QFontMetrics metrics = m_list->fontMetrics();
+        m_list->setColumnWidth(column, metrics.horizontalAdvance(widest) + cellPadding);
+    };
+    fit(Time, timeText(0));
+    QString widest = tr(columnTitles[Kind]);
+    for (const char* text : kindTexts) {
+        if (tr(text).size() > widest.size())
+            widest = tr(text);
+    }
+    fit(Kind, widest);
+    m_list->header()->setStretchLastSection(true);
+    new EmptyHint(tr("No events to show. Recordings, signals, jobs and modes tell here what "
+                     "happens."),
+                  m_list);
+}
+
+void EventLogPane::buildActions()
+{
+    m_actions = {
+        addPaneAction(this, tr("&Copy"), QKeySequence::Copy,
+                      tr("Copies the selected events, or all when none is selected")),
+        addPaneAction(this, tr("S&ave as text…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+                      tr("Writes the shown events to a file")),
+        addPaneAction(this, tr("C&lear"), Qt::CTRL | Qt::SHIFT | Qt::Key_D,
+                      tr("Deletes all events")),
+    };
+    connect(m_actions[0], &QAction::triggered, this, &EventLogPane::copy);
+    connect(m_actions[1], &QAction::triggered, this, &EventLogPane::save);
+    connect(m_actions[2], &QAction::triggered, this, [this] {
+        if (m_log)
+            m_log->clear();
+    });
+    auto* menu = new QMenu(this);
+    menu->addActions(m_actions);
+    m_list->setContextMenu(menu);
+    QAction* find =
+        addPaneAction(this, tr("&Filter"), QKeySequence::Find, tr("Goes to the filter"));
+    connect(find, &QAction::triggered, m_filter, [this] {
+        m_filter->setFocus(Qt::ShortcutFocusReason);
+        m_filter->selectAll();
+    });
+    m_filter->setToolTip(find->toolTip());
+}
+
+bool EventLogPane::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_filter && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Escape && !m_filter->text().isEmpty()) {
+            m_filter->clear();
+            return true;
+        }
+        if (key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter) {
+            m_list->setFocus(Qt::TabFocusReason);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void EventLogPane::setUpdateInterval(std::chrono::milliseconds interval)
+{
+    m_rest.setInterval(interval);
+}
+
+void EventLogPane::setFilter(const QString& text)
+{
+    m_filter->setText(text);
+}
+
+// --- Rows ----------------------------------------------------------------------------------------
+
+void EventLogPane::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_isStale)
+        update();
+}
+
+void EventLogPane::refresh()
+{
+    m_isStale = true;
+    if (isVisible() && !m_rest.isActive())
+        m_rest.start();
+}
+
+bool EventLogPane::isAtEnd() const
+{
+    const QScrollBar* bar = m_list->verticalScrollBar();
+    return bar->value() >= bar->maximum();
+}
+
+void EventLogPane::update()
+{
+    m_isStale = false;
+    const bool follows = isAtEnd();
+    removeGone();
+    appendNew();
+    if (follows)
+        m_list->scrollToBottom();
+    showCount();
+}
+
+void EventLogPane::rebuild()
+{
+    m_isStale = false;
+    m_rows.clear();
+    m_list->clear();
+    m_next = 0;
+    appendNew();
+    m_list->scrollToBottom();
+    showCount();
+}
+
+void EventLogPane::refreshTexts()
+{
+    rebuild();
+}
+
+void EventLogPane::removeGone()
+{
+    const quint64 first = m_log ? m_log->begin() : m_next;
+    if (!m_rows.empty() && m_rows.back().number < first) {
+        m_rows.clear();
+        m_list->clear();
+    }
+    for (; !m_rows.empty() && m_rows.front().number < first; m_rows.pop_front())
+        delete m_rows.front().item;
+}
+
+bool EventLogPane::matches(const Event& event) const
+{
+    const QString& wanted = m_filter->text();
+    return wanted.isEmpty() || event.text.contains(wanted, Qt::CaseInsensitive) ||
+           kindText(event.kind).contains(wanted, Qt::CaseInsensitive) ||
+           timeText(event.timeUs).contains(wanted, Qt::CaseInsensitive);
+}
+
+SortListViewItem* EventLogPane::makeItem(const Event& event) const
+{
+    auto* item = new SortListViewItem(static_cast<QTreeWidget*>(nullptr),
+                                      {timeText(event.timeUs), kindText(event.kind), event.text});
+    item->SetColCount(ColumnCount);
+    // By number: the clock may have been put back.
+    item->SetSortKey(Time, QString::number(event.number));
+    item->setToolTip(Text, event.text);
+    return item;
+}
+
+void EventLogPane::appendNew()
+{
+    if (!m_log)
+        return;
+    QList<QTreeWidgetItem*> added;
+    for (quint64 number = std::max(m_next, m_log->begin()); number < m_log->end(); ++number) {
+        const Event& event = m_log->event(number);
+        if (!matches(event))
+            continue;
+        m_rows.push_back({number, makeItem(event)});
+        added << m_rows.back().item;
+    }
+    m_next = m_log->end();
+    m_list->addTopLevelItems(added);
+}
+
+void EventLogPane::showCount()
+{
+    const QLocale locale;
+    const auto shown = locale.toString(static_cast<qulonglong>(m_rows.size()));
+    const std::size_t all = m_log ? m_log->size() : 0;
+    m_count->setText(
+        all == m_rows.size()
+            ? shown
+            : tr("%1 of %2").arg(shown, locale.toString(static_cast<qulonglong>(all))));
+    m_count->setToolTip(tr("Number of events"));
+}
+
+// --- Commands ------------------------------------------------------------------------------------
+
+QString EventLogPane::lineOf(const QTreeWidgetItem& row) const
+{
+    QStringList cells;
+    for (int column = 0; column < ColumnCount; ++column)
+        cells << row.text(column);
+    return cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
+}
+
+QString EventLogPane::text() const
+{
+    const bool onlySelected = !m_list->selectedItems().isEmpty();
+    QString result;
+    for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* row = m_list->topLevelItem(i);
+        if (!onlySelected || row->isSelected())
+            result += lineOf(*row);
+    }
+    return result;
+}
+
+void EventLogPane::copy() const
+{
+    QApplication::clipboard()->setText(text());
+}
+
+std::optional<QString> EventLogPane::saveTo(const QString& path) const
+{
+    QString all;
+    for (int i = 0; i < m_list->topLevelItemCount(); ++i)
+        all += lineOf(*m_list->topLevelItem(i));
+    const QByteArray bytes = all.toUtf8();
+    QSaveFile file(path);
+    // The commit alone does not tell of a full disk.
+    if (file.open(QIODevice::WriteOnly | QIODevice::Text) && file.write(bytes) == bytes.size() &&
+        file.flush() && file.commit())
+        return std::nullopt;
+    file.cancelWriting();
+    return tr("The events cannot be written to %1: %2").arg(path, file.errorString());
+}
+
+void EventLogPane::save()
+{
+    QFileDialog dialog(this, tr("Save the events"), Settings::lastFolder(), tr("Texts (*.txt)"));
+    dialog.setOptions(GuiBase::Instance().UseNativeDialogs());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("txt"));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString path = dialog.selectedFiles().constFirst();
+    if (const std::optional<QString> problem = saveTo(path))
+        QMessageBox::warning(this, tr("Save the events"), *problem);
+    else
+        Settings::setLastFolder(QFileInfo(path).absolutePath());
+}
+
+} // namespace bandmonitor
