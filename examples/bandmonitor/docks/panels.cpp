@@ -29,6 +29,17 @@ QString storageName(Mode mode)
     return QStringLiteral("BandmonitorMode%1").arg(static_cast<int>(mode));
 }
 
+/// The side of the dock's area. At the bottom the place decides; behind another tab there is none.
+Qt::ToolBarArea hidingSide(const QMainWindow& window, const QDockWidget& dock,
+                           QFlags<Qt::ToolBarArea> areas)
+{
+    const Qt::ToolBarArea side =
+        AutoHideSupport::selectToolBarAreaByDockWidgetArea(window, dock, areas);
+    return areas.testFlag(side)
+               ? side
+               : AutoHideSupport::selectToolBarAreaByDockWidgetScreenPosition(window, dock, areas);
+}
+
 void resizeAll(QMainWindow& window, const QList<QDockWidget*>& docks, const QList<QSize>& sizes)
 {
     QList<int> widths;
@@ -56,6 +67,7 @@ Panels::Panels(QMainWindow& window)
         .withTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North)
         .configure(window);
     m_autoHide = AutoHideSupport::get(window);
+    m_autoHide->setSelectToolBarAreaFn(&hidingSide);
     m_nothingHides = m_autoHide->saveState();
     m_autoHideAtStart.fill(m_nothingHides);
     connect(ActiveDockWidgetSupport::get(window), &ActiveDockWidgetSupport::activeDockWidgetChanged,
