@@ -55,7 +55,13 @@ public:
     void setTexts(const QString& name)
     {
         setToolTip(name);
-        setAccessibleName(name);
+        setName(name);
+    }
+    /// Tells assistive programs, which takes its time, only of a new name.
+    void setName(const QString& name)
+    {
+        if (name != accessibleName())
+            setAccessibleName(name);
     }
 
 protected:
@@ -247,7 +253,7 @@ TitleBarButton& EnhancedDockWidgetTitleBar::Private::buttonFor(QAction& action)
     if (button == nullptr) {
         button = new TitleBarButton(&bar);
         button->setDefaultAction(&action);
-        button->setAccessibleName(nameOf(action));
+        button->setName(nameOf(action));
     }
     return *button;
 }
@@ -438,7 +444,7 @@ void EnhancedDockWidgetTitleBar::actionEvent(QActionEvent* event)
     if (event->type() == QEvent::ActionRemoved) {
         d->removeButton(event->action());
     } else if (const auto button = d->buttons.find(event->action()); button != d->buttons.end()) {
-        button->second->setAccessibleName(nameOf(*event->action()));
+        button->second->setName(nameOf(*event->action()));
         if (!event->action()->isVisible())
             button->second->hide();
     }

@@ -5,6 +5,8 @@
 #include "survivalcheck_p.h"
 #include "updatesblocker_p.h"
 
+#include <guibase/services/floatingdockkeeper_p.h>
+
 #include <jtbase/qtimerhelpers.h>
 
 #include <QAction>
@@ -230,10 +232,12 @@ bool MaximizeMinimizeSupportPrivate::changeTo(State::Type newState, bool (*opera
         state = newState;
         insistence.setRemainingTime(insistenceMilliseconds);
         timesToInsist = newState == State::Minimized ? 0 : maximumInsistence;
-        if (newState == State::Normal)
+        if (newState == State::Normal) {
             dock->setGeometry(normalGeometry);
-        else
+            FloatingDockKeeper::keep(*dock);
+        } else {
             normalGeometry = geometry;
+        }
     }
     return changed;
 }

@@ -44,7 +44,8 @@ bool FloatingDockKeeper::eventFilter(QObject*, QEvent* event)
 
 void FloatingDockKeeper::putBack()
 {
-    if (m_timesLeft == 0 || !m_dock.isFloating() || m_dock.geometry() == m_geometry)
+    const bool isKept = m_dock.isFloating() && !m_dock.isMaximized() && !m_dock.isMinimized();
+    if (m_timesLeft == 0 || !isKept || m_dock.geometry() == m_geometry)
         return;
     --m_timesLeft;
     m_dock.setGeometry(m_geometry);

@@ -6,10 +6,11 @@
 
 class QDockWidget;
 
-/// Holds a floating dock where it was restored, for a short while: window managers that see it
+/// Holds a floating dock where it was put, for a short while: window managers that see it
 /// appear before they are told its place move it to one of their own.
 ///
-/// A child of the dock. Gives way after a few times, to the mouse, and when the dock docks.
+/// A child of the dock. Gives way after a few times, to the mouse, and when the dock docks; a dock
+/// that is maximized or minimized it leaves alone.
 class FloatingDockKeeper : public QObject
 {
     Q_OBJECT
