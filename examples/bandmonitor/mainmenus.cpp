@@ -6,6 +6,9 @@
 #include "jobsmenu.h"
 #include "manual.h"
 #include "panes/bandview.h"
+#include "panes/bearingspane.h"
+#include "panes/eventlogpane.h"
+#include "panes/jobspane.h"
 #include "panes/levelspane.h"
 #include "replaybar.h"
 #include "selectionactions.h"
@@ -24,6 +27,15 @@ namespace bandmonitor {
 
 namespace {
 constexpr double zoomPerKey = 1.5;
+
+void listKeys(const QList<QAction*>& actions, const QString& scope)
+{
+    for (QAction* action : actions) {
+        if (!action->shortcut().isEmpty())
+            GuiBase::Instance().ShowHotKeyFrom(action, scope);
+    }
+}
+
 } // namespace
 
 void MainWindow::buildMenus()
@@ -115,8 +127,10 @@ void MainWindow::buildViewMenu()
     buildModeEntries(menu);
     menu->addAction(services.CreateResetWidgetViewAction(this));
     menu->addAction(services.CreateResetFactoryViewAction(this));
-    for (QAction* action : m_levels->tableActions())
-        services.ShowHotKeyFrom(action, tr("Reference levels"));
+    listKeys(m_levels->tableActions(), tr("Reference levels"));
+    listKeys(m_jobsPane->jobActions(), tr("Jobs"));
+    listKeys({m_bearingsPane->headingUpAction()}, tr("Bearings"));
+    listKeys(m_eventsPane->logActions(), tr("Event log"));
 }
 
 void MainWindow::buildModeEntries(QMenu* menu)
@@ -148,7 +162,9 @@ void MainWindow::buildReplayMenu()
 
 void MainWindow::buildJobsMenu()
 {
-    menuBar()->addMenu(new JobsMenu(m_jobs, this));
+    auto* menu = new JobsMenu(m_jobs, this);
+    menuBar()->addMenu(menu);
+    m_jobsPane->setMenu(menu);
 }
 
 void MainWindow::buildColorsMenu()

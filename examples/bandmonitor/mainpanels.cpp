@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow.h"
+#include "panes/bearingspane.h"
+#include "panes/eventlogpane.h"
+#include "panes/jobspane.h"
 #include "panes/levelspane.h"
 #include "panes/signalspane.h"
 
@@ -9,6 +12,7 @@ namespace bandmonitor {
 
 namespace {
 
+constexpr auto right = Qt::RightDockWidgetArea;
 constexpr auto bottom = Qt::BottomDockWidgetArea;
 
 PanelPlace hidden(Qt::DockWidgetArea area)
@@ -19,6 +23,11 @@ PanelPlace hidden(Qt::DockWidgetArea area)
 PanelPlace beside(Qt::DockWidgetArea area, int width, int height)
 {
     return {area, PanelPlace::Beside, {width, height}};
+}
+
+PanelPlace tabbed(Qt::DockWidgetArea area)
+{
+    return {area, PanelPlace::Tabbed, {}};
 }
 
 } // namespace
@@ -35,8 +44,14 @@ void MainWindow::buildPanels()
         // clang-format off
         {name("signals"), tr("&Signals"), icon(QStyle::SP_FileDialogListView), m_signals,
          {beside(bottom, 1100, 220), hidden(bottom), beside(bottom, 770, 220)}},
+        {name("events"), tr("&Event log"), icon(QStyle::SP_FileDialogContentsView), m_eventsPane,
+         {tabbed(bottom), hidden(bottom), tabbed(bottom)}},
         {name("levels"), tr("&Reference levels"), icon(QStyle::SP_FileDialogDetailedView), m_levels,
          {hidden(bottom), beside(bottom, 1100, 200), beside(bottom, 330, 220)}},
+        {name("jobs"), tr("&Jobs"), icon(QStyle::SP_FileDialogInfoView), m_jobsPane,
+         {hidden(right), hidden(right), beside(right, 360, 500)}},
+        {name("bearings"), tr("&Bearings"), icon(QStyle::SP_BrowserReload), m_bearingsPane,
+         {hidden(right), beside(right, 260, 500), tabbed(right)}},
         // clang-format on
     };
     for (const Panel& row : rows)

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow.h"
 
+#include "eventrecorder.h"
 #include "infodialog.h"
 #include "jobs.h"
 #include "panes/bandview.h"
+#include "panes/bearingspane.h"
+#include "panes/eventlogpane.h"
+#include "panes/jobspane.h"
 #include "panes/levelspane.h"
 #include "panes/signalspane.h"
 #include "panes/spectrumpane.h"
@@ -42,6 +46,10 @@ MainWindow::MainWindow(QWidget* parent)
     , m_panels(new Panels(*this))
     , m_modes(new Modes(m_panels, m_bandView->waterfallRow(), m_bandView->splitter(), this))
     , m_jobs(new Jobs(&m_replay, this))
+    , m_jobsPane(new JobsPane(m_jobs, &m_replay, this))
+    , m_bearingsPane(new BearingsPane(&m_bearings, this))
+    , m_eventsPane(new EventLogPane(&m_events, this))
+    , m_recorder(new EventRecorder(&m_events, m_jobs, m_modes, &m_watch, this))
 {
     setObjectName(QStringLiteral("bandmonitor"));
     setAcceptDrops(true);
@@ -89,6 +97,7 @@ void MainWindow::connectPanes()
     showLevels();
     connect(m_signals, &SignalsPane::signalChosen, m_bandView, &BandView::showFrequency);
     connect(m_signals, &SignalsPane::followedMoved, m_bandView, &BandView::showFrequency);
+    connect(m_bearingsPane, &BearingsPane::signalChosen, m_bandView, &BandView::showFrequency);
     connect(m_jobs, &Jobs::report, this,
             [this](const QString& text) { statusBar()->showMessage(text, 8000); });
 }
@@ -98,6 +107,10 @@ void MainWindow::refreshTexts()
     m_bandView->refreshTexts();
     m_signals->refreshTexts();
     m_levels->refreshTexts();
+    m_bearingsPane->refreshTexts();
+    m_jobsPane->refresh();
+    m_eventsPane->refreshTexts();
+    m_recorder->refreshTexts();
 }
 
 void MainWindow::restoreSettings()
@@ -143,6 +156,7 @@ void MainWindow::connectLoader()
     });
     connect(&m_loader, &RecordingLoader::failed, this, [this](const QString& text) {
         setLoadingShown(false);
+        m_recorder->recordingFailed(text);
         Q_EMIT openFailed(text);
         if (m_onFailure == OnFailure::ShowMessage)
             showMessage(tr("Recording not opened"), text, m_loader.report());
@@ -180,6 +194,7 @@ void MainWindow::takeOverRecording()
     const std::shared_ptr<const Recording> recording = m_loader.recording();
     m_bandView->setRecording(recording);
     m_watch.setRecording(recording);
+    m_recorder->recordingOpened(m_fileName, recording->count(), m_loader.skippedCount());
     m_jobs->reset();
     m_replay.setRecording(recording);
     m_replayBar->refresh();
@@ -221,6 +236,8 @@ void MainWindow::showSweep(qsizetype position, qsizetype previous)
 {
     m_bandView->showSweep(position, previous);
     m_watch.showSweep(position, previous);
+    m_recorder->sweepShown();
+    m_bearings.update(m_watch.tracks());
     m_signals->refresh();
     updateTitle();
     m_jobs->sweepsPlayed(position, previous);

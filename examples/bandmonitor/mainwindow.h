@@ -2,6 +2,8 @@
 #pragma once
 
 #include "docks/panels.h"
+#include "model/bearings.h"
+#include "model/eventlog.h"
 #include "model/joblist.h"
 #include "model/recordingloader.h"
 #include "model/replay.h"
@@ -22,7 +24,11 @@ class QPushButton;
 namespace bandmonitor {
 
 class BandView;
+class BearingsPane;
+class EventLogPane;
+class EventRecorder;
 class Jobs;
+class JobsPane;
 class LevelsPane;
 class ReplayBar;
 class SignalsPane;
@@ -56,6 +62,7 @@ public:
     Panels& panels() { return *m_panels; }
     Modes& modes() { return *m_modes; }
     Jobs& jobs() { return *m_jobs; }
+    EventLog& eventLog() { return m_events; }
     /// What the user can choose; "1 Hz" and "1 kHz".
     ValueSelection& frequencyResolution() { return m_resolution; }
 
@@ -123,6 +130,8 @@ private:
     OnFailure m_onFailure = OnFailure::ShowMessage;
     Replay m_replay;
     SignalWatch m_watch;
+    Bearings m_bearings;
+    EventLog m_events;
     QString m_fileName;
     BandView* m_bandView;
     ReplayBar* m_replayBar;
@@ -131,6 +140,10 @@ private:
     Panels* m_panels;
     Modes* m_modes;
     Jobs* m_jobs;
+    JobsPane* m_jobsPane;
+    BearingsPane* m_bearingsPane;
+    EventLogPane* m_eventsPane;
+    EventRecorder* m_recorder;
     QLabel* m_report = nullptr;
     QLabel* m_receiver = nullptr;
     QProgressBar* m_progress = nullptr;
