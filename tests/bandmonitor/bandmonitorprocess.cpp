@@ -128,13 +128,16 @@ int main(int argc, char** argv)
     GuiBase::Instance().SetMainWidget(&window);
     window.announceModes();
     window.show();
-    if (words.value(2) == QLatin1String("arrange"))
-        QTimer::singleShot(0, &window, [&] { arrange(window); });
     if (words.value(2) == QLatin1String("arrange") || words.value(2) == QLatin1String("layout")) {
-        QTimer::singleShot(20, &window, [&] {
-            say(layout(window));
-            if (words.value(2) == QLatin1String("layout"))
-                window.close();
+        QTimer::singleShot(0, &window, [&] {
+            if (words.value(2) == QLatin1String("arrange"))
+                arrange(window);
+            // What was put off comes first.
+            QTimer::singleShot(20, &window, [&] {
+                say(layout(window));
+                if (words.value(2) == QLatin1String("layout"))
+                    window.close();
+            });
         });
         return QApplication::exec();
     }
