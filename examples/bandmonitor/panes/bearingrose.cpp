@@ -21,7 +21,7 @@ namespace bandmonitor {
 namespace {
 
 constexpr double margin = 4;
-constexpr double ringPadding = 8;
+constexpr double ringPadding = 12;
 constexpr double reach = 8; ///< Pixels between the mouse and a line that still hit it.
 constexpr int labelStep = 30;
 constexpr int tickStep = 10;
@@ -139,7 +139,9 @@ double BearingRose::screenAngle(double bearing) const
 
 double BearingRose::ringWidth() const
 {
-    return fontMetrics().height() + ringPadding;
+    return std::max(fontMetrics().height(),
+                    fontMetrics().horizontalAdvance(QStringLiteral("000"))) +
+           ringPadding;
 }
 
 double BearingRose::outerRadius() const
@@ -319,7 +321,6 @@ void BearingRose::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     paintRing(painter);
     paintScale(painter);
-    paintMark(painter);
     const Bearing* selected = m_bearings ? m_bearings->find(m_selected) : nullptr;
     if (m_bearings) {
         for (const Bearing& bearing : m_bearings->all()) {
@@ -329,6 +330,7 @@ void BearingRose::paintEvent(QPaintEvent*)
     }
     if (selected != nullptr)
         paintBearing(painter, *selected);
+    paintMark(painter);
     if (!m_bearings || m_bearings->all().empty())
         paintHint(painter);
     if (hasFocus()) {

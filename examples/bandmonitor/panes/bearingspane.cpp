@@ -50,6 +50,7 @@ BearingsPane::BearingsPane(const Bearings* bearings, QWidget* parent)
            "frequencies and levels of the signals."));
 
     QHBoxLayout* row = makeButtonRow(this, {m_headingUp});
+    row->setContentsMargins(4, 2, 4, 0);
     row->insertWidget(0, headingLabel);
     row->insertWidget(1, m_heading);
     auto* column = new QVBoxLayout(this);

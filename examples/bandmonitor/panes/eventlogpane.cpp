@@ -127,6 +127,14 @@ void EventLogPane::buildList()
     }
     fit(Kind, widest);
     m_list->header()->setStretchLastSection(true);
+    QScrollBar* bar = m_list->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this,
+            [this, bar](int value) { m_followsEnd = value >= bar->maximum(); });
+    // Also when the list becomes smaller, or its other scroll bar comes up.
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
+        if (m_followsEnd)
+            bar->setValue(bar->maximum());
+    });
     new EmptyHint(tr("No events to show. Recordings, signals, jobs and modes tell here what "
                      "happens."),
                   m_list);
@@ -202,20 +210,19 @@ void EventLogPane::refresh()
         m_rest.start();
 }
 
-bool EventLogPane::isAtEnd() const
-{
-    const QScrollBar* bar = m_list->verticalScrollBar();
-    return bar->value() >= bar->maximum();
-}
-
 void EventLogPane::update()
 {
     m_isStale = false;
-    const bool follows = isAtEnd();
+    const bool follows = m_followsEnd;
+    // Rows go at the top: what the user looks at stays where it is.
+    const QPersistentModelIndex top = m_list->indexAt(QPoint(0, 0));
     removeGone();
     appendNew();
     if (follows)
         m_list->scrollToBottom();
+    else if (top.isValid())
+        m_list->scrollTo(top, QAbstractItemView::PositionAtTop);
+    m_followsEnd = follows;
     showCount();
 }
 
@@ -227,6 +234,7 @@ void EventLogPane::rebuild()
     m_next = 0;
     appendNew();
     m_list->scrollToBottom();
+    m_followsEnd = true;
     showCount();
 }
 

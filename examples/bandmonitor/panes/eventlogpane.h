@@ -69,7 +69,6 @@ private:
     void removeGone();
     void appendNew();
     bool matches(const Event& event) const;
-    bool isAtEnd() const;
     SortListViewItem* makeItem(const Event& event) const;
     QString lineOf(const QTreeWidgetItem& row) const;
     void copy() const;
@@ -85,6 +84,7 @@ private:
     std::deque<Row> m_rows; ///< In the order of the events, those that match only.
     quint64 m_next = 0;     ///< The first event that was not looked at.
     bool m_isStale = false;
+    bool m_followsEnd = true;
 };
 
 } // namespace bandmonitor

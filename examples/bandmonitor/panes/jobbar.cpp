@@ -39,6 +39,12 @@ QRectF JobBarDelegate::barRect(const QRectF& cell, const JobBar& bar) const
     return {left, inside.top(), width, inside.height()};
 }
 
+QSize JobBarDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const QSize size = QStyledItemDelegate::sizeHint(option, index);
+    return size.expandedTo({0, option.fontMetrics.height() + qRound(2 * verticalMargin)});
+}
+
 void JobBarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                            const QModelIndex& index) const
 {

@@ -48,6 +48,7 @@ public:
     /// Where the bar is painted in a cell; at least two pixels wide, and inside the cell.
     QRectF barRect(const QRectF& cell, const JobBar& bar) const;
 
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 

@@ -25,13 +25,14 @@ namespace {
 
 constexpr int idRole = Qt::UserRole;
 constexpr int cellPadding = 24;
+constexpr int smallestColumn = 60;
 
 constexpr const char* columnTitles[JobsPane::ColumnCount] = {
     QT_TRANSLATE_NOOP("bandmonitor::JobsPane", "Job"),
     QT_TRANSLATE_NOOP("bandmonitor::JobsPane", "State"),
+    QT_TRANSLATE_NOOP("bandmonitor::JobsPane", "Time line"),
     QT_TRANSLATE_NOOP("bandmonitor::JobsPane", "Started"),
     QT_TRANSLATE_NOOP("bandmonitor::JobsPane", "Ended"),
-    QT_TRANSLATE_NOOP("bandmonitor::JobsPane", "Time line"),
 };
 
 /// A state as the planner colours tell them apart.
@@ -44,7 +45,7 @@ struct Appearance
 constexpr Appearance planned{IColorBase::PlannerPlanned,
                              QT_TRANSLATE_NOOP("bandmonitor::JobsPane", "Planned")};
 constexpr Appearance waiting{IColorBase::PlannerAboutToStart,
-                             QT_TRANSLATE_NOOP("bandmonitor::JobsPane", "Waiting for the replay")};
+                             QT_TRANSLATE_NOOP("bandmonitor::JobsPane", "Waiting")};
 constexpr Appearance running{IColorBase::PlannerRunning,
                              QT_TRANSLATE_NOOP("bandmonitor::JobsPane", "Running")};
 constexpr Appearance finished{IColorBase::PlannerFinished,
@@ -135,7 +136,9 @@ void JobsPane::buildList()
     m_list->setColumnWidth(State, widest + cellPadding);
     for (const Column column : {Name, Started, Ended})
         m_list->setColumnWidthMode(column, QHeaderView::ResizeToContents);
-    m_list->header()->setStretchLastSection(true);
+    m_list->header()->setStretchLastSection(false);
+    m_list->header()->setMinimumSectionSize(smallestColumn);
+    m_list->setColumnWidthMode(TimeLine, QHeaderView::Stretch);
     m_list->setItemDelegateForColumn(TimeLine, m_bars);
     m_list->setSorting(Name, Qt::AscendingOrder);
     m_list->setShowSortIndicator(true);

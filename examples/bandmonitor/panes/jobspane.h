@@ -30,7 +30,7 @@ class JobsPane : public QWidget
 {
     Q_OBJECT
 public:
-    enum Column { Name, State, Started, Ended, TimeLine, ColumnCount };
+    enum Column { Name, State, TimeLine, Started, Ended, ColumnCount };
 
     /// Both may go before the pane, which is empty then. Jobs may be added later.
     JobsPane(Jobs* jobs, const Replay* replay, QWidget* parent = nullptr);

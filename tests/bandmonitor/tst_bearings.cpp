@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "support/testguard.h"
+
+#include <model/bearings.h>
+#include <panes/bearingrose.h>
+#include <panes/bearingspane.h>
+#include <panes/headingspinbox.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <limits>
+#include <optional>
+
+using namespace bandmonitor;
+
+class tst_Bearings : public QObject
+{
+    Q_OBJECT
+    std::optional<TestGuard> m_guard;
+
+    static std::vector<SignalTrack> tracks(std::initializer_list<double> hertz)
+    {
+        std::vector<SignalTrack> result;
+        for (const double centre : hertz) {
+            SignalTrack track;
+            track.id = static_cast<std::uint32_t>(result.size() + 1);
+            track.signal.centreHz = centre;
+            track.signal.peakDb = -60;
+            track.signal.floorDb = -80;
+            track.presence = 1;
+            result.push_back(track);
+        }
+        return result;
+    }
+
+private Q_SLOTS:
+    void init() { m_guard.emplace(); }
+    void cleanup()
+    {
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+
+    void anglesWrapAtTheFullCircle_data()
+    {
+        QTest::addColumn<double>("bearing");
+        QTest::addColumn<double>("heading");
+        QTest::addColumn<double>("relative");
+        QTest::addColumn<int>("side");
+        const auto row = [](const char* name, double bearing, double heading, double relative,
+                            BearingSide side) {
+            QTest::newRow(name) << bearing << heading << relative << static_cast<int>(side);
+        };
+        row("ahead", 90, 90, 0, BearingSide::Ahead);
+        row("over north to starboard", 10, 350, 20, BearingSide::Starboard);
+        row("over north to portside", 350, 10, 340, BearingSide::Portside);
+        row("astern", 10, 190, 180, BearingSide::Astern);
+        row("many turns", 725, -720, 5, BearingSide::Starboard);
+        row("rounded up to ahead", 359.6, 0, 359.6, BearingSide::Ahead);
+        row("just below the circle", -1e-18, 0, 0, BearingSide::Ahead);
+        row("no number", std::numeric_limits<double>::quiet_NaN(), 7, 0, BearingSide::Ahead);
+    }
+
+    void anglesWrapAtTheFullCircle()
+    {
+        QFETCH(double, bearing);
+        QFETCH(double, heading);
+        QFETCH(double, relative);
+        QFETCH(int, side);
+        const double found = relativeBearing(bearing, heading);
+        QVERIFY(found >= 0 && found < 360);
+        QVERIFY(qAbs(found - relative) < 1e-9);
+        QCOMPARE(static_cast<int>(sideOf(found)), side);
+        QVERIFY(qAbs(angleBetween(relative, 0) - angleBetween(0, relative)) < 1e-9);
+        QVERIFY(angleBetween(relative, 0) <= 180);
+    }
+
+    void bearingsStayWithTheirSignals()
+    {
+        Bearings bearings;
+        std::vector<SignalTrack> shown = tracks({98e6, 104e6});
+        bearings.update(shown);
+        const double first = bearings.find(1)->degrees;
+        const double spread = bearings.find(1)->spread;
+        QVERIFY(angleBetween(first, bearings.find(2)->degrees) > 1);
+        shown[0].signal.centreHz += 300e3; // it drifts, and becomes weaker
+        shown[0].signal.peakDb -= 15;
+        bearings.update(shown);
+        QCOMPARE(bearings.find(1)->degrees, first);
+        QVERIFY(bearings.find(1)->spread > 3 * spread);
+        QVERIFY(bearings.find(3) == nullptr);
+    }
+
+    void headingsGoOnPastNorth()
+    {
+        HeadingSpinBox box;
+        box.stepBy(-1);
+        QCOMPARE(box.value(), 359);
+        box.stepBy(10);
+        QCOMPARE(box.value(), 9);
+        for (const auto& [typed, heading] :
+             {std::pair("370", 10), std::pair("-10", 350), std::pair("360 °", 0)}) {
+            box.inputLineEdit()->selectAll();
+            QTest::keyClicks(box.inputLineEdit(), QString::fromUtf8(typed));
+            QTest::keyClick(&box, Qt::Key_Return);
+            QCOMPARE(box.value(), heading);
+            QVERIFY(box.inputRefusal().isEmpty());
+        }
+    }
+
+    void signalsAreChosenByMouseAndKeys()
+    {
+        Bearings bearings;
+        BearingsPane pane(&bearings);
+        pane.resize(400, 500);
+        pane.show();
+        BearingRose& rose = pane.rose();
+        bearings.update(tracks({98e6, 98.3e6, 104e6}));
+        QSignalSpy chosen(&pane, &BearingsPane::signalChosen);
+        for (const int heading : {0, 250}) {
+            pane.heading().setValue(heading);
+            pane.headingUpAction()->setChecked(heading != 0);
+            const QPointF centre = QRectF(rose.rect()).center();
+            for (const Bearing& bearing : bearings.all()) {
+                const QPointF end = rose.lineEnd(bearing.degrees);
+                QTest::mouseClick(&rose, Qt::LeftButton, {},
+                                  (centre + 0.8 * (end - centre)).toPoint());
+                QCOMPARE(rose.selected(), bearing.track.id);
+                QCOMPARE(chosen.takeFirst().first().toDouble(), bearing.track.signal.centreHz);
+            }
+            // One turn of the right arrow meets each signal in the order of the angles.
+            QTest::keyClick(&rose, Qt::Key_Home);
+            double before = -1;
+            for (std::size_t i = 0; i < bearings.all().size(); ++i) {
+                const double angle =
+                    relativeBearing(bearings.find(rose.selected())->degrees, heading);
+                QVERIFY(angle > before);
+                before = angle;
+                QTest::keyClick(&rose, Qt::Key_Right);
+            }
+            const auto first = rose.selected();
+            QTest::keyClick(&rose, Qt::Key_Home);
+            QCOMPARE(rose.selected(), first);
+        }
+        QVERIFY(chosen.isEmpty());
+        QTest::keyClick(&rose, Qt::Key_Return);
+        QCOMPARE(chosen.size(), 1);
+        const auto* readOut = pane.findChild<QLabel*>(QStringLiteral("bearingReadOut"));
+        QCOMPARE(readOut->text(), rose.accessibleDescription());
+        bearings.update({}); // the selected one is gone
+        QCOMPARE(rose.selected(), 0U);
+    }
+
+    void bearingsMayGoBeforeTheirPane()
+    {
+        auto bearings = std::make_unique<Bearings>();
+        bearings->update(tracks({98e6}));
+        BearingsPane pane(bearings.get());
+        pane.show();
+        pane.rose().select(1);
+        bearings.reset();
+        QCOMPARE(pane.rose().selected(), 0U);
+        QTest::keyClick(&pane.rose(), Qt::Key_Right);
+        QTest::keyClick(&pane.rose(), Qt::Key_Return);
+        QVERIFY(!pane.grab().isNull());
+    }
+};
+
+QTEST_MAIN(tst_Bearings)
+#include "tst_bearings.moc"

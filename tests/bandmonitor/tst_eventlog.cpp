@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+#include "support/testguard.h"
+
+#include <model/eventlog.h>
+#include <panes/eventlogpane.h>
+
+#include <guibase/lists/sortlistview.h>
+#include <guibase/services/guibase.h>
+#include <valueframework/valueselection.h>
+
+#include <QLabel>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <optional>
+
+using namespace bandmonitor;
+
+class tst_EventLog : public QObject
+{
+    Q_OBJECT
+    std::optional<TestGuard> m_guard;
+    std::unique_ptr<EventLog> m_log;
+    std::unique_ptr<EventLogPane> m_pane;
+
+    /// Events named by their numbers, a second apart.
+    void add(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            m_log->add(i % 2 == 0 ? EventKind::Signal : EventKind::Job,
+                       QStringLiteral("event %1.").arg(m_log->end()), m_log->end() * 1'000'000);
+    }
+    SortListView& list() const { return m_pane->list(); }
+    QString lastText() const
+    {
+        const int count = list().topLevelItemCount();
+        return count > 0 ? list().topLevelItem(count - 1)->text(EventLogPane::Text) : QString();
+    }
+    QString nameOfLast() const { return QStringLiteral("event %1.").arg(m_log->end() - 1); }
+    bool isAtEnd() const
+    {
+        const QScrollBar* bar = list().verticalScrollBar();
+        return bar->value() == bar->maximum();
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_guard.emplace();
+        GuiBase::Instance().GetTimeZone()->SetValue(0);
+        m_log = std::make_unique<EventLog>(100);
+        m_pane = std::make_unique<EventLogPane>(m_log.get());
+        m_pane->setUpdateInterval(std::chrono::milliseconds(0));
+        m_pane->resize(500, 250);
+        m_pane->show();
+    }
+
+    void cleanup()
+    {
+        m_pane.reset();
+        m_log.reset();
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+
+    void ringKeepsTheLatest_data()
+    {
+        QTest::addColumn<std::size_t>("capacity");
+        QTest::addColumn<int>("added");
+        QTest::newRow("no room") << std::size_t(0) << 3;
+        QTest::newRow("not full") << std::size_t(5) << 4;
+        QTest::newRow("just full") << std::size_t(5) << 5;
+        QTest::newRow("one more") << std::size_t(5) << 6;
+        QTest::newRow("many rounds") << std::size_t(7) << 1000;
+    }
+
+    void ringKeepsTheLatest()
+    {
+        QFETCH(std::size_t, capacity);
+        QFETCH(int, added);
+        EventLog log(capacity);
+        for (const int cleared : {0, 2}) { // and again from a place in the middle
+            for (int i = 0; i < added + cleared; ++i)
+                log.add(EventKind::Job, QString::number(log.end()), log.end());
+            QCOMPARE(log.size(), std::min(log.capacity(), std::size_t(added + cleared)));
+            for (quint64 number = log.begin(); number < log.end(); ++number) {
+                QCOMPARE(log.event(number).number, number);
+                QCOMPARE(log.event(number).text, QString::number(number));
+            }
+            log.clear();
+            QCOMPARE(log.size(), std::size_t(0));
+        }
+    }
+
+    void listFollowsTheRing()
+    {
+        for (const int count : {1, 30, 90, 250}) { // also more than fit at once
+            add(count);
+            QTRY_COMPARE(lastText(), nameOfLast());
+            QCOMPARE(static_cast<std::size_t>(list().topLevelItemCount()), m_log->size());
+            QCOMPARE(list().topLevelItem(0)->text(EventLogPane::Text),
+                     m_log->event(m_log->begin()).text);
+        }
+        m_pane->hide();
+        add(5);
+        QCoreApplication::processEvents();
+        QVERIFY(lastText() != nameOfLast());
+        m_pane->show();
+        QTRY_COMPARE(lastText(), nameOfLast());
+        m_log->clear();
+        QTRY_COMPARE(list().topLevelItemCount(), 0);
+        QVERIFY(list().findChild<QLabel*>(QStringLiteral("emptyHint"))->isVisible());
+    }
+
+    void followsTheEndUnlessScrolledAway()
+    {
+        add(60);
+        QTRY_COMPARE(lastText(), nameOfLast());
+        QVERIFY(list().verticalScrollBar()->maximum() > 0);
+        QTRY_VERIFY(isAtEnd());
+        list().verticalScrollBar()->setValue(10);
+        add(10);
+        QTRY_COMPARE(lastText(), nameOfLast());
+        QCOMPARE(list().verticalScrollBar()->value(), 10);
+        list().verticalScrollBar()->setValue(list().verticalScrollBar()->maximum());
+        add(10);
+        QTRY_COMPARE(lastText(), nameOfLast());
+        QTRY_VERIFY(isAtEnd());
+        list().verticalScrollBar()->setValue(30);
+        add(40); // rows go above
+        QTRY_COMPARE(lastText(), nameOfLast());
+        QCOMPARE(list().itemAt(0, 0)->text(EventLogPane::Text), QStringLiteral("event 30."));
+    }
+
+    void oldRowsGoWhateverTheOrder()
+    {
+        add(100);
+        QTRY_COMPARE(list().topLevelItemCount(), 100);
+        list().setSorting(EventLogPane::Time, Qt::DescendingOrder);
+        add(30);
+        QTRY_COMPARE(list().topLevelItem(0)->text(EventLogPane::Text), nameOfLast());
+        QCOMPARE(list().topLevelItemCount(), 100);
+        QCOMPARE(lastText(), m_log->event(m_log->begin()).text);
+    }
+
+    void filterCopyAndSave()
+    {
+        add(40);
+        m_pane->setFilter(QStringLiteral("EVENT 3"));
+        QTRY_COMPARE(list().topLevelItemCount(), 11); // 3 and 30 to 39
+        add(10);
+        m_log->add(EventKind::Mode, QStringLiteral("an event 3\nin two lines"), 0);
+        QTRY_COMPARE(lastText(), QStringLiteral("an event 3 in two lines"));
+        QCOMPARE(list().topLevelItemCount(), 12);
+        const QString first = QStringLiteral("1970-01-01 00:00:03\tJob\tevent 3.\n");
+        QVERIFY(m_pane->text().startsWith(first));
+        QCOMPARE(m_pane->text().count(QLatin1Char('\n')), 12);
+        list().topLevelItem(0)->setSelected(true);
+        QCOMPARE(m_pane->text(), first);
+        QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("events.txt")));
+        QCOMPARE(m_pane->saveTo(file.fileName()), std::nullopt);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().count('\n'), 12); // the shown ones, selected or not
+        QVERIFY(m_pane->saveTo(folder.filePath(QStringLiteral("none/events.txt"))).has_value());
+    }
+
+    void logMayGoBeforeItsPane()
+    {
+        add(10);
+        QTRY_COMPARE(list().topLevelItemCount(), 10);
+        add(10); // an update is under way
+        m_log.reset();
+        QCOMPARE(list().topLevelItemCount(), 0);
+        m_pane->setFilter(QStringLiteral("event"));
+        m_pane->refreshTexts();
+        QTest::keyClick(&list(), Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+        QCoreApplication::processEvents();
+        QCOMPARE(m_pane->text(), QString());
+    }
+};
+
+QTEST_MAIN(tst_EventLog)
+#include "tst_eventlog.moc"
