@@ -8,6 +8,8 @@
 
 #include <QLocale>
 
+#include <utility>
+
 namespace bandmonitor {
 
 EventRecorder::EventRecorder(EventLog* log, const Jobs* jobs, const Modes* modes,
@@ -30,6 +32,7 @@ void EventRecorder::refreshTexts()
 
 void EventRecorder::recordingOpened(const QString& fileName, qint64 sweeps, qint64 skippedLines)
 {
+    m_hasBegun = false;
     const QLocale locale;
     QString text = tr("%1 opened: %2 sweeps").arg(fileName, locale.toString(sweeps));
     if (skippedLines > 0)
@@ -82,11 +85,13 @@ void EventRecorder::sweepShown()
     for (const SignalTrack& track : m_watch->tracks())
         now.emplace(track.id, track.signal);
     if (m_watch->hasBegunAnew()) {
-        if (!now.empty())
-            m_log->add(EventKind::Signal, tr("Signals at the beginning: %1").arg(now.size()));
+        // Once, however far the replay is put back step by step.
+        if (!now.empty() && !std::exchange(m_hasBegun, true))
+            m_log->add(EventKind::Signal, tr("The signals are followed anew"));
         m_known = std::move(now);
         return;
     }
+    m_hasBegun = false;
     // In the order of frequency.
     for (const SignalTrack& track : m_watch->tracks()) {
         if (!m_known.contains(track.id))

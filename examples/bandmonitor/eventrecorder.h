@@ -30,7 +30,7 @@ public Q_SLOTS:
     void recordingOpened(const QString& fileName, qint64 sweeps, qint64 skippedLines);
     void recordingFailed(const QString& text);
     /// The watch has taken in another sweep: writes which followed signals came and which ones are
-    /// no longer followed. At a beginning, when all signals are new, it writes their number only.
+    /// no longer followed. At a beginning, when all signals are new, it only writes that they are.
     void sweepShown();
     /// Unit or resolution have changed.
     void refreshTexts();
@@ -45,6 +45,7 @@ private:
     const SignalWatch* m_watch;
     FrequencyText m_text;
     std::unordered_map<std::uint32_t, Signal> m_known; ///< By the number of the track.
+    bool m_hasBegun = false; ///< That the signals are followed anew was the last about them.
 };
 
 } // namespace bandmonitor

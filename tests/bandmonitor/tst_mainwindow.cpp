@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "jobs.h"
 #include "mainwindow.h"
 #include "manual.h"
 #include "model/samplegenerator.h"
 #include "panes/bandview.h"
+#include "panes/signalspane.h"
 #include "support/testguard.h"
 
+#include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
 #include <jtbase/trovos.h>
 
@@ -101,6 +104,64 @@ private Q_SLOTS:
         m_window.reset();
         QCOMPARE(m_guard->finish(), QString());
         m_guard.reset();
+    }
+
+    void eventLogTellsWhatHappens()
+    {
+        // After a few sweeps the signals of one band go, and those of another one come.
+        SampleSettings second;
+        second.seed = 2;
+        second.sweeps = 80;
+        SampleSettings first;
+        first.sweeps = 5;
+        second.startTimeUs = first.startTimeUs + 5 * first.sweepIntervalUs;
+        QSignalSpy opened(m_window.get(), &MainWindow::recordingOpened);
+        m_window->open(
+            write(QStringLiteral("two bands.csv"),
+                  SampleGenerator(first).remaining() + SampleGenerator(second).remaining()));
+        QVERIFY(opened.wait());
+        const EventLog& log = m_window->eventLog();
+        const auto count = [&log](EventKind kind, const QString& part) {
+            int found = 0;
+            for (quint64 number = log.begin(); number < log.end(); ++number) {
+                const Event& event = log.event(number);
+                found += event.kind == kind && event.text.contains(part) ? 1 : 0;
+            }
+            return found;
+        };
+        QCOMPARE(count(EventKind::Recording, QStringLiteral("two bands.csv opened: 85 sweeps")), 1);
+        QCOMPARE(count(EventKind::Recording, QStringLiteral("sample.csv opened: 120 sweeps")), 1);
+        const QString beginning = QStringLiteral("followed anew");
+        QCOMPARE(count(EventKind::Signal, beginning), 2); // one for each recording
+        // All that came and did not go is in the list.
+        const SortListView& list = m_window->signalsPane().list();
+        int followed = list.topLevelItemCount();
+        QVERIFY(followed > 0);
+        for (int sweep = 1; sweep < 85; ++sweep)
+            m_window->replay().stepForward();
+        const int gone = count(EventKind::Signal, QStringLiteral("Disappeared: "));
+        QVERIFY(gone > 0);
+        followed += count(EventKind::Signal, QStringLiteral("Appeared: ")) - gone;
+        QTRY_COMPARE(list.topLevelItemCount(), followed);
+        for (int step = 0; step < 3; ++step) // it begins anew, and nothing came or went
+            m_window->replay().stepBackward();
+        QCOMPARE(count(EventKind::Signal, beginning), 3);
+        QCOMPARE(count(EventKind::Signal, QStringLiteral("Disappeared: ")), gone);
+
+        for (const Job& job : m_window->jobs().list().jobs()) {
+            if (!job.name.contains(QStringLiteral("above the reference")))
+                continue;
+            m_window->jobs().run(job.id);
+            m_window->jobs().run(job.id);
+        }
+        QCOMPARE(count(EventKind::Job, QStringLiteral(": started")), 1);
+        QCOMPARE(count(EventKind::Job, QStringLiteral(": called off")), 1);
+        m_window->modes().setMode(Mode::Measure);
+        QCOMPARE(count(EventKind::Mode, QStringLiteral("Measure")), 1);
+        QSignalSpy failed(m_window.get(), &MainWindow::openFailed);
+        m_window->open(m_folder.filePath(QStringLiteral("none.csv")), MainWindow::OnFailure::Tell);
+        QVERIFY(failed.wait());
+        QCOMPARE(count(EventKind::Recording, QStringLiteral("Not opened: ")), 1);
     }
 
     void titleTellsFileAndSweep()
