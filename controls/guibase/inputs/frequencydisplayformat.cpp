@@ -55,6 +55,16 @@ std::optional<qint64> scaled(const TypedNumber::Ascii& ascii, int exponent)
     return TypedNumber::fromAscii<qint64>(digits);
 }
 
+/// As TypedNumber::normalize(), but a single point is the decimal one where hertz are left over.
+TypedNumber::Outcome normalize(const QString& text, QChar decimalPoint, int exponent,
+                               TypedNumber::Ascii& ascii)
+{
+    const TypedNumber::Outcome outcome = TypedNumber::normalize(text, decimalPoint, ascii);
+    return outcome == TypedNumber::Outcome::Ambiguous && exponent > 0
+               ? TypedNumber::normalize(text, u'.', ascii)
+               : outcome;
+}
+
 } // namespace
 
 FrequencyDisplayFormat::FrequencyDisplayFormat(UnitPrefix::ESuffix unit)
@@ -86,8 +96,7 @@ qint64 FrequencyDisplayFormat::valueFromText(const QString& text, bool* ok) cons
 {
     TypedNumber::Ascii ascii;
     std::optional<qint64> value;
-    if (TypedNumber::normalize(text, notation().decimalPoint, ascii) ==
-        TypedNumber::Outcome::Number)
+    if (normalize(text, notation().decimalPoint, exponent(), ascii) == TypedNumber::Outcome::Number)
         value = scaled(ascii, exponent());
     if (ok != nullptr)
         *ok = value.has_value();
@@ -120,7 +129,7 @@ QString FrequencyDisplayFormat::refusalReason(const QString& text) const
 {
     TypedNumber::Ascii ascii;
     const QChar point = notation().decimalPoint;
-    if (TypedNumber::normalize(text, point, ascii) != TypedNumber::Outcome::Number)
+    if (normalize(text, point, exponent(), ascii) != TypedNumber::Outcome::Number)
         return TypedNumber::refusalReason(text, point);
     return QCoreApplication::translate("DisplayFormat",
                                        "Enter a whole number of hertz, at most %1 %2.")

@@ -8,8 +8,10 @@
 /// frequency passes through a floating-point number.
 ///
 /// Written are as many decimals as the frequency has, in the locale. Read is a decimal number with
-/// point or comma, followed by the unit, its first letter (in either case), or nothing; for
-/// doubtful separators see RealNumberDisplayFormat. Fractions of a hertz are refused.
+/// point or comma, followed by the unit, its first letter (in either case), or nothing. A single
+/// point is the decimal one in kHz, MHz and GHz in every locale, since radio frequencies are written
+/// so everywhere ("14.225 MHz") and never with a single group; for other doubtful separators see
+/// RealNumberDisplayFormat. Fractions of a hertz are refused.
 class GUIBASE_EXPORT FrequencyDisplayFormat : public ValueDisplayFormatBase<qint64>
 {
 public:

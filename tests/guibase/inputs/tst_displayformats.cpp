@@ -401,6 +401,20 @@ private Q_SLOTS:
         format.setMinimumDecimals(3);
         QCOMPARE(format.fullTextFromValue(0).size(), unit == 1 ? 4 : 9);
     }
+    void readsTheDecimalPointOfFrequenciesEverywhere()
+    {
+        FrequencyDisplayFormat megahertz(UnitPrefix::Mega);
+        FrequencyDisplayFormat hertz(UnitPrefix::BaseUnit);
+        for (FrequencyDisplayFormat* format : {&megahertz, &hertz}) {
+            format->setLocale(ungrouped(QStringLiteral("de_DE")));
+            format->setUseLocale(true);
+        }
+        for (const char* text : {"14.225 MHz", "14,225", "14,225m"})
+            QCOMPARE(echoed(megahertz, QString::fromLatin1(text)), QStringLiteral("14,225 MHz"));
+        QCOMPARE(echoed(megahertz, QStringLiteral("1.014,5")), QStringLiteral("1014,5 MHz"));
+        QCOMPARE(echoed(hertz, QStringLiteral("14.225.000")), QStringLiteral("14225000 Hz"));
+        QCOMPARE(echoed(hertz, QStringLiteral("14.225")), QStringLiteral("-"));
+    }
     void survivesAnyText()
     {
         RandomBytes random("survivesAnyText");
