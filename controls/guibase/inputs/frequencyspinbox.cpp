@@ -14,6 +14,10 @@ FrequencySpinBox::FrequencySpinBox(QWidget* parent)
     using enum UnitPrefix::ESuffix;
     for (const UnitPrefix::ESuffix unit : {BaseUnit, Kilo, Mega, Giga})
         addDisplayFormat(std::make_unique<FrequencyDisplayFormat>(unit));
+    connect(this, &AbstractSpinBox::currentDisplayFormatIndexChanged, this, [this](int current) {
+        for (int index = 0; index < countDisplayFormats(); ++index)
+            displayFormatAt(index)->setSuffixRequired(index != current);
+    });
     setRange(0, defaultMaximum);
     setSingleStep(defaultStep);
     setFollowingFrequencyUnit(true);

@@ -98,7 +98,10 @@ T ValueDisplayFormatBase<T>::valueFromFullText(const QString& text, bool* ok) co
     const Range range = bareRange(text);
     const bool isWhole = range.start == 0 && range.end == text.size();
     bool read = false;
-    T value = valueFromText(isWhole ? text : text.mid(range.start, range.end - range.start), &read);
+    T value{};
+    if (!m_suffixRequired || suffixMatch(text))
+        value =
+            valueFromText(isWhole ? text : text.mid(range.start, range.end - range.start), &read);
     if (read) {
         value = m_valueConverter(value, FromDisplay);
         read = isUsable(value);

@@ -104,6 +104,11 @@ public:
     QRegularExpression suffixPattern() const { return m_suffix.pattern(); }
     void setSuffixPattern(const QRegularExpression& pattern) { m_suffix.setPattern(pattern); }
 
+    /// Whether a text without the suffix is refused; not at first. For formats that differ in the
+    /// suffix only, so that a bare number is never read in another unit than the one shown.
+    bool isSuffixRequired() const { return m_suffixRequired; }
+    void setSuffixRequired(bool required) { m_suffixRequired = required; }
+
     /// At first the identity.
     const ValueConverter& valueConverter() const { return m_valueConverter; }
     void setValueConverter(ValueConverter converter) { m_valueConverter = std::move(converter); }
@@ -121,6 +126,7 @@ private:
     bool m_useLocale = false;
     DisplayAffix m_prefix;
     DisplayAffix m_suffix;
+    bool m_suffixRequired = false;
     ValueConverter m_valueConverter;
 };
 

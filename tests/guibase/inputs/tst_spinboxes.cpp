@@ -544,9 +544,12 @@ private Q_SLOTS:
             QCOMPARE(box.value(), Q_INT64_C(5000001000));
             QVERIFY2(!box.inputRefusal().isEmpty(), bad);
         }
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::BaseUnit);
+        entered("14.5");
+        QCOMPARE(box.value(), Q_INT64_C(5000001000));
         box.setFollowingFrequencyUnit(false);
         GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
-        QCOMPARE(box.currentDisplayFormatIndex(), 3);
+        QCOMPARE(box.currentDisplayFormatIndex(), 0);
     }
 };
 
