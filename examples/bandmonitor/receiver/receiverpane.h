@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "receiver/receiversettings.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QFormLayout;
+
+namespace ComboBoxes {
+class DoubleComboBox;
+}
+namespace SpinBoxes {
+class DoubleSpinBox;
+class FrequencySpinBox;
+class Int8SpinBox;
+class QDateTimeSpinBox;
+class UInt32SpinBox;
+class UInt64SpinBox;
+} // namespace SpinBoxes
+
+namespace bandmonitor {
+
+/// The form in which the user sets the receiver. Signals come only from what the user does.
+class ReceiverPane : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit ReceiverPane(QWidget* parent);
+    ~ReceiverPane() override;
+
+    ReceiverSettings settings() const;
+    /// Shows them, clamped.
+    void setSettings(const ReceiverSettings& settings);
+    /// The part of the band that is shown now. A field in which the user is typing stays.
+    void showWindow(qint64 centreHz, qint64 spanHz);
+    /// The time of the current sweep. A field in which the user is typing stays.
+    void showTime(const QDateTime& time);
+    /// How many samples one sweep more is.
+    void setSamplesOfSweep(quint64 samples);
+
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void centreEdited(qint64 hertz);
+    void spanEdited(qint64 hertz);
+    void startTimeEdited(const QDateTime& time);
+    /// Anything else.
+    void edited();
+
+private:
+    SpinBoxes::FrequencySpinBox* addFrequency(const QString& label, const char* name,
+                                              const QString& toolTip);
+    template <typename Input>
+    Input* add(Input* input, const QString& label, const char* name, const QString& toolTip,
+               QWidget* field = nullptr);
+    void addLevels();
+    void addAddress();
+    void addStartTime();
+    void addThreshold();
+    void connectInputs();
+    void showAddressFormat(bool hexadecimal);
+
+    QFormLayout* m_form;
+    QWidget* m_content;
+    SpinBoxes::FrequencySpinBox* m_centre = nullptr;
+    SpinBoxes::FrequencySpinBox* m_span = nullptr;
+    SpinBoxes::FrequencySpinBox* m_resolution = nullptr;
+    SpinBoxes::DoubleSpinBox* m_gain = nullptr;
+    SpinBoxes::Int8SpinBox* m_attenuation = nullptr;
+    SpinBoxes::UInt64SpinBox* m_samples = nullptr;
+    SpinBoxes::UInt32SpinBox* m_address = nullptr;
+    QCheckBox* m_hexadecimal = nullptr;
+    SpinBoxes::QDateTimeSpinBox* m_startTime = nullptr;
+    ComboBoxes::DoubleComboBox* m_threshold = nullptr;
+    bool m_isShowing = false;
+};
+
+} // namespace bandmonitor
