@@ -6,6 +6,7 @@
 #include "panes/bandview.h"
 #include "panes/levelspane.h"
 #include "panes/signalspane.h"
+#include "receiver/receivercontrol.h"
 #include "settings.h"
 
 #include <guibase/services/guibase.h>
@@ -52,7 +53,8 @@ std::optional<JobState> MainWindow::exportSweep()
     const Sweep sweep = m_replay.sweep();
     if (sweep.isEmpty())
         return JobState::Failed;
-    const QByteArray text = sweepText(sweep);
+    const QByteArray text =
+        receiverRemark(m_receiverControl->settings().addressText()) + sweepText(sweep);
     QFileDialog dialog(this, tr("Export the sweep"), Settings::lastFolder(),
                        tr("Recordings (*.csv)"));
     dialog.setOptions(GuiBase::Instance().UseNativeDialogs());

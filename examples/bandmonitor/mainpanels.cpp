@@ -5,6 +5,7 @@
 #include "panes/jobspane.h"
 #include "panes/levelspane.h"
 #include "panes/signalspane.h"
+#include "receiver/receiverpane.h"
 
 #include <QStyle>
 
@@ -12,6 +13,7 @@ namespace bandmonitor {
 
 namespace {
 
+constexpr auto left = Qt::LeftDockWidgetArea;
 constexpr auto right = Qt::RightDockWidgetArea;
 constexpr auto bottom = Qt::BottomDockWidgetArea;
 
@@ -52,6 +54,8 @@ void MainWindow::buildPanels()
          {hidden(right), hidden(right), beside(right, 360, 500)}},
         {name("bearings"), tr("&Bearings"), icon(QStyle::SP_BrowserReload), m_bearingsPane,
          {hidden(right), beside(right, 260, 500), tabbed(right)}},
+        {name("receiver"), tr("Re&ceiver"), icon(QStyle::SP_ComputerIcon), m_receiverPane,
+         {beside(left, 240, 500), beside(left, 240, 500), hidden(left)}},
         // clang-format on
     };
     for (const Panel& row : rows)

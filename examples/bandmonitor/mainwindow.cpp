@@ -11,6 +11,8 @@
 #include "panes/levelspane.h"
 #include "panes/signalspane.h"
 #include "panes/spectrumpane.h"
+#include "receiver/receivercontrol.h"
+#include "receiver/receiverpane.h"
 #include "replaybar.h"
 #include "settings.h"
 
@@ -50,6 +52,8 @@ MainWindow::MainWindow(QWidget* parent)
     , m_bearingsPane(new BearingsPane(&m_bearings, this))
     , m_eventsPane(new EventLogPane(&m_events, this))
     , m_recorder(new EventRecorder(&m_events, m_jobs, m_modes, &m_watch, this))
+    , m_receiverPane(new ReceiverPane(this))
+    , m_receiverControl(new ReceiverControl(m_receiverPane, m_bandView, &m_replay, &m_watch, this))
 {
     setObjectName(QStringLiteral("bandmonitor"));
     setAcceptDrops(true);
@@ -98,6 +102,10 @@ void MainWindow::connectPanes()
     connect(m_signals, &SignalsPane::signalChosen, m_bandView, &BandView::showFrequency);
     connect(m_signals, &SignalsPane::followedMoved, m_bandView, &BandView::showFrequency);
     connect(m_bearingsPane, &BearingsPane::signalChosen, m_bandView, &BandView::showFrequency);
+    connect(this, &MainWindow::recordingOpened, m_receiverControl,
+            &ReceiverControl::recordingOpened);
+    connect(m_receiverControl, &ReceiverControl::detectionChanged, this,
+            [this] { showSweep(m_replay.position(), -1); });
     connect(m_jobs, &Jobs::report, this,
             [this](const QString& text) { statusBar()->showMessage(text, 8000); });
 }

@@ -30,6 +30,8 @@ class EventRecorder;
 class Jobs;
 class JobsPane;
 class LevelsPane;
+class ReceiverControl;
+class ReceiverPane;
 class ReplayBar;
 class SignalsPane;
 
@@ -62,6 +64,7 @@ public:
     Panels& panels() { return *m_panels; }
     Modes& modes() { return *m_modes; }
     Jobs& jobs() { return *m_jobs; }
+    ReceiverPane& receiverPane() { return *m_receiverPane; }
     EventLog& eventLog() { return m_events; }
     /// What the user can choose; "1 Hz" and "1 kHz".
     ValueSelection& frequencyResolution() { return m_resolution; }
@@ -144,6 +147,8 @@ private:
     BearingsPane* m_bearingsPane;
     EventLogPane* m_eventsPane;
     EventRecorder* m_recorder;
+    ReceiverPane* m_receiverPane;
+    ReceiverControl* m_receiverControl;
     QLabel* m_report = nullptr;
     QLabel* m_receiver = nullptr;
     QProgressBar* m_progress = nullptr;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "receiver/receiversettings.h"
+
 #include <guibase/services/unitprefix.h>
 
 #include <QString>
@@ -33,6 +35,10 @@ void setWaterfallShown(const QString& mode, bool shown);
 /// How the jobs are sorted.
 int jobOrder();
 void setJobOrder(int order);
+
+/// What was set in the receiver panel, within its limits.
+ReceiverSettings receiver();
+void setReceiver(const ReceiverSettings& settings);
 
 /// The position of the receiver in degrees; NaN where the configuration has no number.
 struct Position

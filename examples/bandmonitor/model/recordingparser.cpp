@@ -125,7 +125,7 @@ void RecordingParser::readLine(std::string_view line)
     if (m_lineCount == 1 && line.starts_with(byteOrderMark))
         line.remove_prefix(byteOrderMark.size());
     line = withoutLineEnd(line);
-    if (line.empty())
+    if (line.empty() || line.front() == '#')
         return;
 
     RecordingFields fields(line);

@@ -51,6 +51,7 @@ struct SkippedLine
 /// - Receivers round the step to two decimals: up to what that explains, the number of levels
 ///   counts, and the step is worked out from it. One level more than fits is a repetition of the
 ///   last bin, and is dropped.
+/// - Lines that begin with `#` are remarks.
 /// - Every other line is skipped, counted and kept in mind for the report; a sweep keeps its good
 ///   hops. Memory follows the length of the text, whatever the numbers in it say.
 class RecordingParser

@@ -80,6 +80,11 @@ void appendSweepText(QByteArray& text, const Sweep& sweep)
     }
 }
 
+QByteArray receiverRemark(const QString& address)
+{
+    return address.isEmpty() ? QByteArray() : "# receiver " + address.toLatin1() + '\n';
+}
+
 QByteArray sweepText(const Sweep& sweep)
 {
     QByteArray text;

@@ -4,6 +4,7 @@
 #include "recording.h"
 
 #include <QByteArray>
+#include <QString>
 
 namespace bandmonitor {
 
@@ -11,6 +12,10 @@ namespace bandmonitor {
 /// ended by a line feed. Reading it again gives the same sweep: levels and steps are written with
 /// as many decimals as that takes (two at least), a bin without a level as `nan`.
 void appendSweepText(QByteArray& text, const Sweep& sweep);
+
+/// A line that RecordingParser takes for a remark, naming the receiver at `address`; empty without
+/// one.
+QByteArray receiverRemark(const QString& address);
 
 /// The whole of `sweep` as text; see appendSweepText().
 QByteArray sweepText(const Sweep& sweep);

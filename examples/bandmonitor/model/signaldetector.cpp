@@ -73,9 +73,12 @@ void SignalDetector::smooth(std::span<const float> levels, const Noise& noise)
 
 void SignalDetector::detectIn(const Segment& segment, const Noise& noise)
 {
-    smooth(segment.levels, noise);
+    if (!m_thresholdDb)
+        smooth(segment.levels, noise);
     const auto reaches = [&](std::size_t bin, double deviations) {
         const double level = static_cast<double>(segment.levels[bin]);
+        if (m_thresholdDb)
+            return level >= *m_thresholdDb;
         return level >= noise.floorDb + deviations * noise.deviationDb ||
                static_cast<double>(m_means[bin]) >= deviations;
     };

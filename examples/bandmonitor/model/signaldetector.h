@@ -3,6 +3,7 @@
 
 #include "recording.h"
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -34,6 +35,9 @@ struct Signal
 /// above the floor; up to `joinBins` bins between two parts belong to the signal, also at the seam
 /// of two hops. The occupied band ends at the outermost bins that are at most `bandwidthDb` below
 /// the peak.
+///
+/// With a threshold a signal is, instead, what reaches that level, joined and bounded in the same
+/// way, whatever the noise.
 class SignalDetector
 {
 public:
@@ -46,6 +50,10 @@ public:
     static constexpr double smallestDeviationDb = 0.2;
     /// A sweep with more signals keeps the strongest ones.
     static constexpr std::size_t maximumSignals = 500;
+
+    /// In dB, of the recorded levels; nothing at first: what stands out of the noise counts.
+    void setThreshold(std::optional<double> levelDb) { m_thresholdDb = levelDb; }
+    std::optional<double> threshold() const { return m_thresholdDb; }
 
     /// In order of the lower ends. Valid until the next call.
     std::span<const Signal> detect(const Sweep& sweep);
@@ -69,6 +77,7 @@ private:
     void addFound(const Segment& segment, std::size_t first, std::size_t last, const Noise& noise);
     void joinAll();
 
+    std::optional<double> m_thresholdDb;
     std::vector<float> m_scratch;
     std::vector<float> m_means; ///< In deviations above the floor.
     std::vector<Found> m_found;

@@ -13,6 +13,14 @@ void SignalWatch::setRecording(std::shared_ptr<const Recording> recording)
     m_begins = true;
 }
 
+bool SignalWatch::setThreshold(std::optional<double> levelDb)
+{
+    if (levelDb == m_detector.threshold())
+        return false;
+    m_detector.setThreshold(levelDb);
+    return true;
+}
+
 void SignalWatch::showSweep(qsizetype position, qsizetype previous)
 {
     if (!m_recording || position < 0 || position >= m_recording->count())

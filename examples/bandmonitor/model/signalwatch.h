@@ -13,6 +13,9 @@ class SignalWatch
 public:
     /// Begins anew; null for none.
     void setRecording(std::shared_ptr<const Recording> recording);
+    /// See SignalDetector::setThreshold(); false when it is this one already. Sweeps that were
+    /// taken in stay: show the current one again.
+    bool setThreshold(std::optional<double> levelDb);
     /// Takes in the sweeps after `previous` up to `position`, or only that one when `previous` is
     /// -1 or not before it. Begins anew when `position` is not behind the last one.
     void showSweep(qsizetype position, qsizetype previous);

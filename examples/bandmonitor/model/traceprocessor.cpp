@@ -44,6 +44,12 @@ Sweep TraceProcessor::process(const Recording& recording, qsizetype position)
         return recorded;
     }
     const qsizetype first = firstOfAverage(recording, position);
+    const auto staysAsRecorded = [this](const Segment& hop) {
+        return binsOf(hop, m_settings.resolutionHz) == hop.levels.size();
+    };
+    if (first == position && m_settings.offsetDb == 0 &&
+        std::ranges::all_of(recorded.segments, staysAsRecorded))
+        return recorded;
     std::erase_if(m_powers, [first, position](const auto& entry) {
         return entry.first < first || entry.first > position;
     });

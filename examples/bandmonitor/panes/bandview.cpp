@@ -11,6 +11,7 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 
 namespace bandmonitor {
@@ -18,6 +19,16 @@ namespace bandmonitor {
 namespace {
 constexpr double levelStep = 10; // the level axis begins and ends at multiples of it, in dB
 constexpr double levelMargin = 3;
+
+double axisBegin(double low)
+{
+    return std::floor((low - levelMargin) / levelStep) * levelStep;
+}
+
+double axisEnd(double high)
+{
+    return std::ceil((high + levelMargin) / levelStep) * levelStep;
+}
 } // namespace
 
 BandView::BandView(QWidget* parent)
@@ -76,7 +87,9 @@ void BandView::setRecording(std::shared_ptr<const Recording> recording)
 {
     m_recording = std::move(recording);
     m_position = -1;
+    m_pyramid.reset();
     m_hold.clear();
+    m_processor.forget();
     // The panes must let go of the former recording's levels before it may go.
     m_spectrum->setSweep({}, nullptr);
     m_spectrum->setHold({}, nullptr);
@@ -94,9 +107,20 @@ void BandView::fitLevels()
 {
     const double low = static_cast<double>(m_recording->minimumLevel().value_or(-120));
     const double high = static_cast<double>(m_recording->maximumLevel().value_or(0));
-    m_spectrum->setLevelRange(std::floor((low - levelMargin) / levelStep) * levelStep,
-                              std::ceil((high + levelMargin) / levelStep) * levelStep);
+    m_spectrum->setLevelRange(axisBegin(low), axisEnd(high));
     m_waterfall->setLevelRange(low, high);
+    m_levelAxis->update();
+}
+
+/// So that a trace that is made of the sweeps does not leave the pane.
+void BandView::widenLevels(LevelRange levels)
+{
+    const double low = static_cast<double>(levels.minimum);
+    const double high = static_cast<double>(levels.maximum);
+    if (levels.isEmpty() || (low >= m_spectrum->lowLevel() && high <= m_spectrum->highLevel()))
+        return;
+    m_spectrum->setLevelRange(std::min(m_spectrum->lowLevel(), axisBegin(low)),
+                              std::max(m_spectrum->highLevel(), axisEnd(high)));
     m_levelAxis->update();
 }
 
@@ -105,15 +129,36 @@ void BandView::showSweep(qsizetype position, qsizetype previous)
     if (!m_recording || position < 0 || position >= m_recording->count())
         return;
     m_position = position;
-    const Sweep sweep = m_recording->sweep(position);
-    const auto pyramid = std::make_shared<const LevelPyramid>(sweep);
-    m_spectrum->setSweep(sweep, pyramid);
-    m_waterfall->setPosition(position, pyramid);
-    const qsizetype first = previous < 0 || previous >= position ? position : previous + 1;
-    for (qsizetype held = first; held <= position; ++held)
-        m_hold.add(m_recording->sweep(held));
-    m_spectrum->setHold(m_hold.sweep(), std::make_shared<const LevelPyramid>(m_hold.sweep()));
+    m_pyramid = std::make_shared<const LevelPyramid>(m_recording->sweep(position));
+    showTrace(previous < 0 || previous >= position ? position : previous + 1);
+    m_waterfall->setPosition(position, m_pyramid);
     m_timeAxis->update();
+}
+
+void BandView::showTrace(qsizetype firstHeld)
+{
+    for (qsizetype held = firstHeld; held < m_position; ++held)
+        m_hold.add(m_processor.process(*m_recording, held));
+    const Sweep shown = m_processor.process(*m_recording, m_position);
+    m_hold.add(shown);
+    auto pyramid = m_pyramid;
+    if (shown.segments.data() != m_recording->sweep(m_position).segments.data()) {
+        pyramid = std::make_shared<const LevelPyramid>(shown);
+        widenLevels(pyramid->levels());
+    }
+    m_spectrum->setSweep(shown, std::move(pyramid));
+    m_spectrum->setHold(m_hold.sweep(), std::make_shared<const LevelPyramid>(m_hold.sweep()));
+}
+
+void BandView::setTrace(const TraceSettings& settings)
+{
+    if (settings == m_processor.settings())
+        return;
+    m_processor.setSettings(settings);
+    if (!m_recording || m_position < 0)
+        return;
+    fitLevels();
+    resetHold();
 }
 
 void BandView::showFrequency(double hertz)
@@ -132,8 +177,9 @@ void BandView::resetHold()
 {
     m_hold.clear();
     if (m_recording && m_position >= 0)
-        m_hold.add(m_recording->sweep(m_position));
-    m_spectrum->setHold(m_hold.sweep(), std::make_shared<const LevelPyramid>(m_hold.sweep()));
+        showTrace(m_position);
+    else
+        m_spectrum->setHold({}, nullptr);
 }
 
 void BandView::refreshTexts()

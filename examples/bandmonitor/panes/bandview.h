@@ -3,6 +3,7 @@
 
 #include "model/holdmaximum.h"
 #include "model/recording.h"
+#include "model/traceprocessor.h"
 #include "panes/frequencytext.h"
 #include "panes/frequencyview.h"
 
@@ -15,6 +16,7 @@ class Splitter;
 namespace bandmonitor {
 
 class FrequencyAxis;
+class LevelPyramid;
 class SideAxis;
 class SpectrumPane;
 class WaterfallPane;
@@ -44,6 +46,9 @@ public:
     void showSweep(qsizetype position, qsizetype previous);
     qsizetype position() const { return m_position; }
 
+    /// What the spectrum makes of the recorded sweeps; the waterfall shows them as they are. The
+    /// hold maximum starts anew when it changes.
+    void setTrace(const TraceSettings& settings);
     void setHoldVisible(bool visible);
     /// The hold maximum starts anew from the current sweep.
     void resetHold();
@@ -56,11 +61,16 @@ public Q_SLOTS:
 private:
     void buildLayout();
     void fitLevels();
+    void widenLevels(LevelRange levels);
+    /// Shows the current sweep; the hold maximum takes in those from `firstHeld` on.
+    void showTrace(qsizetype firstHeld);
 
     FrequencyView m_view;
     FrequencyText m_text;
     HoldMaximum m_hold;
+    TraceProcessor m_processor;
     std::shared_ptr<const Recording> m_recording;
+    std::shared_ptr<const LevelPyramid> m_pyramid; ///< Of the current sweep, as recorded.
     qsizetype m_position = -1;
     Splitter* m_splitter = nullptr;
     QWidget* m_waterfallRow = nullptr;

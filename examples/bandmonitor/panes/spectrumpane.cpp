@@ -66,6 +66,19 @@ void SpectrumPane::setReferenceLevels(std::vector<LevelPoint> points)
     update();
 }
 
+void SpectrumPane::setThreshold(std::optional<double> levelDb)
+{
+    m_thresholdDb = levelDb;
+    update();
+}
+
+void SpectrumPane::setCaption(const QString& caption)
+{
+    m_caption = caption;
+    setAccessibleDescription(caption);
+    update();
+}
+
 void SpectrumPane::setLevelRange(double low, double high)
 {
     if (!std::isfinite(low) || !std::isfinite(high))
@@ -131,8 +144,10 @@ void SpectrumPane::paintEvent(QPaintEvent* event)
         paintHold(painter, first, last);
     paintCurve(painter, first, last);
     paintReferenceLevels(painter);
+    paintThreshold(painter);
     paintOverlay(painter);
     paintPinNumbers(painter);
+    paintCaption(painter);
     paintReadOut(painter);
 }
 
@@ -283,6 +298,22 @@ void SpectrumPane::paintReadOut(QPainter& painter) const
     painter.drawText(place.adjusted(readOutMargin, readOutMargin / 2, 0, 0),
                      Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip,
                      readOut().join(QLatin1Char('\n')));
+}
+
+void SpectrumPane::paintThreshold(QPainter& painter) const
+{
+    if (!m_thresholdDb || *m_thresholdDb < m_lowLevel || *m_thresholdDb > m_highLevel)
+        return;
+    painter.setPen(QPen(paneColor(PaneSlot::ReferenceLine), 1, Qt::DashLine));
+    const int y = yOf(*m_thresholdDb);
+    painter.drawLine(0, y, width() - 1, y);
+}
+
+void SpectrumPane::paintCaption(QPainter& painter) const
+{
+    painter.setPen(paneColor(PaneSlot::ReadOut));
+    painter.drawText(rect().adjusted(0, readOutMargin, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
+                     m_caption);
 }
 
 void SpectrumPane::updateAround(double hertz)

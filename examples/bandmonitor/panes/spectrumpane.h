@@ -40,6 +40,14 @@ public:
     /// The line of reference levels, in order of frequency; empty for none.
     void setReferenceLevels(std::vector<LevelPoint> points);
 
+    /// A level that is drawn as a dashed line, in dB; nothing for none.
+    void setThreshold(std::optional<double> levelDb);
+    /// Stands at the top; empty for none.
+    void setCaption(const QString& caption);
+    const QString& caption() const { return m_caption; }
+
+    double lowLevel() const { return m_lowLevel; }
+    double highLevel() const { return m_highLevel; }
     /// The levels at the bottom and the top of the pane, in dB; 10 dB apart at least.
     void setLevelRange(double low, double high);
     /// Ticks of the level axis for a scale of `pixels` pixels.
@@ -78,7 +86,9 @@ private:
     void paintHold(QPainter& painter, int first, int last) const;
     void paintCurve(QPainter& painter, int first, int last) const;
     void paintReferenceLevels(QPainter& painter) const;
+    void paintThreshold(QPainter& painter) const;
     void paintPinNumbers(QPainter& painter) const;
+    void paintCaption(QPainter& painter) const;
     void paintReadOut(QPainter& painter) const;
     QString readOutLine(const QString& title, double hertz) const;
     QRect readOutRect() const;
@@ -89,6 +99,8 @@ private:
     Trace m_curve;
     Trace m_hold;
     std::vector<LevelPoint> m_referenceLevels;
+    std::optional<double> m_thresholdDb;
+    QString m_caption;
     bool m_holdVisible = true;
     double m_lowLevel = -120;
     double m_highLevel = 0;

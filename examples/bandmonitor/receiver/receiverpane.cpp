@@ -60,14 +60,6 @@ public:
     }
 };
 
-/// Shows a value that has changed elsewhere, unless the user is typing another one.
-template <typename Input, typename T>
-void follow(Input& input, const T& value)
-{
-    if (!(input.hasFocus() && input.inputLineEdit()->isModified()))
-        input.setValue(value);
-}
-
 } // namespace
 
 ReceiverPane::ReceiverPane(QWidget* parent)
@@ -202,8 +194,10 @@ void ReceiverPane::connectInputs()
 {
     const auto unlessShowing = [this](auto signal) {
         return [this, signal](const auto& value) {
-            if (!m_isShowing)
-                Q_EMIT(this->*signal)(value);
+            if (m_isShowing)
+                return;
+            const QScopedValueRollback telling(m_isTelling, true);
+            Q_EMIT(this->*signal)(value);
         };
     };
     using namespace SpinBoxes;
@@ -264,6 +258,15 @@ void ReceiverPane::setSettings(const ReceiverSettings& settings)
     showAddressFormat(shown.isAddressHexadecimal);
     m_startTime->setValue(shown.startTime);
     m_threshold->setValue(shown.thresholdDb.value_or(m_threshold->specialValue()));
+}
+
+/// Shows a value that has changed elsewhere, unless the user is typing another one.
+template <typename Input, typename T>
+void ReceiverPane::follow(Input& input, const T& value) const
+{
+    const bool isTyping = input.hasFocus() && input.inputLineEdit()->text() != input.textValue();
+    if (m_isTelling || !isTyping)
+        input.setValue(value);
 }
 
 void ReceiverPane::showWindow(qint64 centreHz, qint64 spanHz)

@@ -52,6 +52,8 @@ Q_SIGNALS:
 private:
     SpinBoxes::FrequencySpinBox* addFrequency(const QString& label, const char* name,
                                               const QString& toolTip);
+    template <typename Input, typename T>
+    void follow(Input& input, const T& value) const;
     template <typename Input>
     Input* add(Input* input, const QString& label, const char* name, const QString& toolTip,
                QWidget* field = nullptr);
@@ -75,6 +77,7 @@ private:
     SpinBoxes::QDateTimeSpinBox* m_startTime = nullptr;
     ComboBoxes::DoubleComboBox* m_threshold = nullptr;
     bool m_isShowing = false;
+    bool m_isTelling = false;
 };
 
 } // namespace bandmonitor

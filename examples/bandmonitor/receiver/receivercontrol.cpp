@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "receivercontrol.h"
+
+#include "model/replay.h"
+#include "model/signalwatch.h"
+#include "panes/bandview.h"
+#include "panes/spectrumpane.h"
+#include "receiver/receiverpane.h"
+#include "settings.h"
+
+#include <cmath>
+
+namespace bandmonitor {
+
+namespace {
+
+constexpr quint64 microsecondsPerMillisecond = 1000;
+
+QDateTime timeOf(const Sweep& sweep)
+{
+    return QDateTime::fromMSecsSinceEpoch(
+        static_cast<qint64>(sweep.timeUs / microsecondsPerMillisecond), Qt::UTC);
+}
+
+} // namespace
+
+ReceiverControl::ReceiverControl(ReceiverPane* pane, BandView* band, Replay* replay,
+                                 SignalWatch* watch, QObject* parent)
+    : QObject(parent)
+    , m_pane(pane)
+    , m_band(band)
+    , m_replay(replay)
+    , m_watch(watch)
+    , m_settings(Settings::receiver())
+{
+    m_pane->setSettings(m_settings);
+    apply();
+    connect(m_pane, &ReceiverPane::centreEdited, this, &ReceiverControl::centreEdited);
+    connect(m_pane, &ReceiverPane::spanEdited, this, &ReceiverControl::spanEdited);
+    connect(m_pane, &ReceiverPane::startTimeEdited, this, &ReceiverControl::startTimeEdited);
+    connect(m_pane, &ReceiverPane::edited, this, &ReceiverControl::edited);
+    connect(&m_band->view(), &FrequencyView::rangeChanged, this, &ReceiverControl::followWindow);
+    connect(m_replay, &Replay::positionChanged, this, &ReceiverControl::followReplay);
+}
+
+ReceiverControl::~ReceiverControl() = default;
+
+void ReceiverControl::recordingOpened()
+{
+    if (!m_hasRecording) {
+        restoreWindow();
+        restoreStartTime();
+    }
+    m_hasRecording = true;
+    const Sweep sweep = m_replay->sweep();
+    if (!sweep.isEmpty())
+        m_pane->setSamplesOfSweep(sweep.segments.front().samples);
+    followWindow();
+    followReplay();
+}
+
+void ReceiverControl::restoreWindow()
+{
+    FrequencyView& view = m_band->view();
+    const auto centre = static_cast<double>(m_settings.centreHz);
+    const double half = static_cast<double>(m_settings.spanHz) / 2;
+    if (half > 0 && centre + half > view.bandLow() && centre - half < view.bandHigh())
+        view.setVisible(centre - half, centre + half);
+}
+
+void ReceiverControl::restoreStartTime()
+{
+    const QDateTime& time = m_settings.startTime;
+    const auto recording = m_replay->recording();
+    if (time.isValid() && recording && time >= timeOf(recording->sweep(0)) &&
+        time <= timeOf(recording->sweep(recording->count() - 1)))
+        goTo(time);
+}
+
+void ReceiverControl::centreEdited(qint64 hertz)
+{
+    FrequencyView& view = m_band->view();
+    const double half = (view.high() - view.low()) / 2;
+    view.setVisible(static_cast<double>(hertz) - half, static_cast<double>(hertz) + half);
+    followWindow();
+}
+
+void ReceiverControl::spanEdited(qint64 hertz)
+{
+    FrequencyView& view = m_band->view();
+    const double centre = (view.low() + view.high()) / 2;
+    const double half = static_cast<double>(hertz) / 2;
+    if (hertz == 0)
+        view.showAll();
+    else
+        view.setVisible(centre - half, centre + half);
+    followWindow();
+}
+
+void ReceiverControl::followWindow()
+{
+    if (!m_hasRecording)
+        return;
+    const FrequencyView& view = m_band->view();
+    const qint64 span = std::llround(view.high() - view.low());
+    m_settings.centreHz = std::llround((view.low() + view.high()) / 2);
+    m_settings.spanHz = view.showsAll() ? 0 : span;
+    m_pane->showWindow(m_settings.centreHz, span);
+    Settings::setReceiver(m_settings);
+}
+
+void ReceiverControl::startTimeEdited(const QDateTime& time)
+{
+    m_settings.startTime = time;
+    Settings::setReceiver(m_settings);
+    goTo(time);
+    followReplay();
+}
+
+void ReceiverControl::goTo(const QDateTime& time)
+{
+    const auto recording = m_replay->recording();
+    if (!recording)
+        return;
+    qsizetype position = 0; // times may run backward
+    while (position < recording->count() - 1 && timeOf(recording->sweep(position)) < time)
+        ++position;
+    m_replay->jump(position);
+}
+
+void ReceiverControl::followReplay()
+{
+    const Sweep sweep = m_replay->sweep();
+    if (m_hasRecording && !sweep.isEmpty())
+        m_pane->showTime(timeOf(sweep));
+}
+
+void ReceiverControl::edited()
+{
+    ReceiverSettings settings = m_pane->settings();
+    settings.centreHz = m_settings.centreHz;
+    settings.spanHz = m_settings.spanHz;
+    settings.startTime = m_settings.startTime;
+    if (settings == m_settings)
+        return;
+    m_settings = settings;
+    Settings::setReceiver(m_settings);
+    apply();
+}
+
+void ReceiverControl::apply()
+{
+    m_band->setTrace(m_settings.trace());
+    SpectrumPane& spectrum = m_band->spectrum();
+    spectrum.setThreshold(m_settings.thresholdDb);
+    const QString address = m_settings.addressText();
+    spectrum.setCaption(address.isEmpty() ? address : tr("Receiver %1").arg(address));
+    if (m_watch->setThreshold(m_settings.recordedThresholdDb()))
+        Q_EMIT detectionChanged();
+}
+
+} // namespace bandmonitor
