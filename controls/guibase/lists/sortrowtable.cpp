@@ -15,8 +15,10 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <map>
 #include <optional>
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -49,6 +51,24 @@ public:
         return text() < other.text();
     }
 };
+
+/// Words between blanks, where a word behind a number that is no number itself is its unit:
+/// "100.5 MHz -30 dBm" holds the values "100.5 MHz" and "-30 dBm".
+QStringList valuesBetweenBlanks(QStringView line)
+{
+    QStringList values;
+    bool mayHaveUnit = false;
+    const QStringList words = line.toString().simplified().split(u' ', Qt::SkipEmptyParts);
+    for (const QString& word : words) {
+        const bool isNumber = leadingNumber(word).has_value();
+        if (mayHaveUnit && !isNumber)
+            values.last() += u' ' + word;
+        else
+            values.append(word);
+        mayHaveUnit = isNumber;
+    }
+    return values;
+}
 
 /// Keeps the table from sorting while rows are added.
 class SortingPause
@@ -130,9 +150,10 @@ void SortRowTable::slotNew()
 QList<int> SortRowTable::rowsToDelete() const
 {
     std::set<int> rows;
-    const QList<QTableWidgetItem*> selected = selectedItems();
-    for (const QTableWidgetItem* item : selected)
-        rows.insert(item->row());
+    // Not the selected items: a cell without text may have none.
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    for (const QModelIndex& cell : selected)
+        rows.insert(cell.row());
     if (rows.empty() && currentRow() >= 0)
         rows.insert(currentRow());
     return {rows.begin(), rows.end()};
@@ -175,53 +196,59 @@ void SortRowTable::slotClearAll()
     setRowCount(0);
 }
 
-QList<QPair<QString, QString>> SortRowTable::parseRows(const QString& text)
+QList<QPair<QString, QString>> SortRowTable::parseRows(const QString& text, qsizetype* left)
 {
     static const QRegularExpression lineEnd(QStringLiteral("\r\n|\n|\r"));
-    static const QRegularExpression blanks(QStringLiteral("\\s+"));
     const auto unquoted = [](QStringView value) {
         value = value.trimmed();
         const bool quoted = value.size() > 1 && value.front() == u'"' && value.back() == u'"';
         return (quoted ? value.sliced(1, value.size() - 2) : value).toString();
     };
     QList<QPair<QString, QString>> rows;
+    qsizetype leftRows = 0;
     const QStringView all(text);
     const QList<QStringView> lines = all.split(lineEnd, Qt::SkipEmptyParts);
     for (const QStringView line : lines) {
-        if (rows.size() >= maximumPastedRows)
-            break;
-        QList<QStringView> values;
-        if (line.contains(u'\t'))
-            values = line.split(u'\t');
-        else if (line.contains(u';'))
-            values = line.split(u';');
-        else
-            values = line.trimmed().split(blanks);
-        const QPair<QString, QString> row(unquoted(values.value(frequencyColumn)),
-                                          unquoted(values.value(levelColumn)));
-        if (!row.first.isEmpty() || !row.second.isEmpty())
+        QStringList values;
+        if (line.contains(u'\t') || line.contains(u';')) {
+            for (const QStringView value : line.split(line.contains(u'\t') ? u'\t' : u';'))
+                values.append(unquoted(value));
+        } else {
+            values = valuesBetweenBlanks(line);
+        }
+        const QPair<QString, QString> row(values.value(frequencyColumn), values.value(levelColumn));
+        if (row.first.isEmpty() && row.second.isEmpty())
+            continue;
+        if (rows.size() < maximumPastedRows)
             rows.append(row);
+        else
+            ++leftRows;
     }
+    if (left != nullptr)
+        *left = leftRows;
     return rows;
 }
 
 QString SortRowTable::selectionAsText() const
 {
+    std::map<int, std::map<int, QString>> rows; // by row and shown column
+    int first = columnCount();
+    int last = -1;
+    const QModelIndexList cells = selectionModel()->selectedIndexes();
+    for (const QModelIndex& cell : cells) {
+        const int column = visualColumn(cell.column());
+        rows[cell.row()][column] = cell.data().toString();
+        first = std::min(first, column);
+        last = std::max(last, column);
+    }
+    if (cells.size() > 1)
+        first = 0;
     QStringList lines;
-    int lastRow = -1;
-    QModelIndexList cells = selectionModel()->selectedIndexes();
-    const auto place = [this](const QModelIndex& cell) {
-        return qMakePair(cell.row(), visualColumn(cell.column()));
-    };
-    std::sort(cells.begin(), cells.end(),
-              [&](const QModelIndex& a, const QModelIndex& b) { return place(a) < place(b); });
-    for (const QModelIndex& cell : std::as_const(cells)) {
-        const QString text = cell.data().toString();
-        if (cell.row() == lastRow)
-            lines.last() += u'\t' + text;
-        else
-            lines.append(text);
-        lastRow = cell.row();
+    for (auto& [row, texts] : rows) {
+        QStringList line;
+        for (int column = first; column <= last; ++column)
+            line.append(texts[column]);
+        lines.append(line.join(u'\t'));
     }
     return lines.join(u'\n');
 }
@@ -235,12 +262,21 @@ void SortRowTable::slotCopy()
 
 void SortRowTable::slotPaste()
 {
-    const QList<QPair<QString, QString>> rows = parseRows(QGuiApplication::clipboard()->text());
+    qsizetype left = 0;
+    const QList<QPair<QString, QString>> rows =
+        parseRows(QGuiApplication::clipboard()->text(), &left);
     const bool isSingleValue = rows.size() == 1 && rows.first().second.isEmpty();
     if (isSingleValue && currentItem() != nullptr)
         currentItem()->setText(rows.first().first);
     else
         addRows(rows);
+    if (left > 0)
+        ModalDialogs::show(this, {QMessageBox::Warning, tr("Paste"),
+                                  tr("%1 rows were added. %2 more rows on the clipboard were left "
+                                     "out; paste them in smaller blocks.")
+                                      .arg(rows.size())
+                                      .arg(left),
+                                  QMessageBox::Ok, QMessageBox::Ok});
 }
 
 void SortRowTable::keyPressEvent(QKeyEvent* event)
@@ -255,13 +291,21 @@ void SortRowTable::keyPressEvent(QKeyEvent* event)
 
 bool SortRowTable::eventFilter(QObject* object, QEvent* event)
 {
-    if (event->type() != QEvent::KeyRelease || state() == QAbstractItemView::EditingState)
+    const auto type = event->type();
+    if (type != QEvent::KeyRelease && type != QEvent::KeyPress && type != QEvent::ShortcutOverride)
         return QTableWidget::eventFilter(object, event);
     const auto* const keyEvent = static_cast<QKeyEvent*>(event);
-    const bool isDelete = keyEvent->key() == Qt::Key_Delete;
-    if ((!isDelete && keyEvent->key() != Qt::Key_Insert) || keyEvent->isAutoRepeat())
+    const int key = keyEvent->key();
+    const bool isOurs = key == Qt::Key_Delete || key == Qt::Key_Insert;
+    const bool isModified = (keyEvent->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
+    if (isOurs && type != QEvent::KeyRelease)
+        m_modifiedKey = isModified ? key : 0;
+    if (!isOurs || type != QEvent::KeyRelease || keyEvent->isAutoRepeat())
         return QTableWidget::eventFilter(object, event);
-    if (isDelete)
+    const bool wasModified = std::exchange(m_modifiedKey, 0) == key;
+    if (isModified || wasModified || state() == QAbstractItemView::EditingState)
+        return QTableWidget::eventFilter(object, event);
+    if (key == Qt::Key_Delete)
         slotDelete();
     else
         slotNew();

@@ -13,11 +13,11 @@
 /// Texts that are numbers (with a point or a comma, a unit behind a blank may follow) sort as
 /// numbers, before all other texts.
 ///
-/// Decisions: the keys Insert and Delete add and delete rows, unless a cell is being edited. Copy
-/// puts the selected cells on the clipboard, columns parted by tabs. Paste adds a row for every
-/// line of the clipboard's text and never overwrites one; a single value goes into the current
-/// cell. The delete question offers Yes, No, Yes to All and No to All; rows are asked for from the
-/// top down.
+/// Decisions: the keys Insert and Delete, without modifiers, add and delete rows, unless a cell is
+/// being edited. Copy puts the selected cells on the clipboard, columns parted by tabs. Paste adds
+/// a row for every line of the clipboard's text and never overwrites one; a single value goes into
+/// the current cell; a message tells of lines that were left out. The delete question offers Yes,
+/// No, Yes to All and No to All; rows are asked for from the top down.
 class GUIBASE_EXPORT SortRowTable : public QTableWidget
 {
     Q_OBJECT
@@ -30,12 +30,16 @@ public:
     ~SortRowTable() override;
 
     /// The lines of a text with up to two values each, parted by a tab, a semicolon or, where there
-    /// is neither, blanks. Lines without a value are left out.
-    static QList<QPair<QString, QString>> parseRows(const QString& text);
+    /// is neither, blanks; a unit behind a blank belongs to its number. Lines without a value are
+    /// left out, and so is what is beyond `maximumPastedRows`: `left`, if given, is set to the
+    /// number of these rows.
+    static QList<QPair<QString, QString>> parseRows(const QString& text, qsizetype* left = nullptr);
 
     /// Appends rows in one step, sorted once.
     void addRows(const QList<QPair<QString, QString>>& rows);
-    /// The selected cells as text, in the order in which they are shown.
+    /// The selected cells as text, in the order in which they are shown. Unselected cells between
+    /// and before them, from the first column on, are empty, so that each value is pasted into the
+    /// column it came from; a single cell stands alone.
     QString selectionAsText() const;
 
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -54,4 +58,7 @@ private:
     void init(const char* name);
     QTableWidgetItem* appendRow(const QString& frequency, const QString& level);
     QList<int> rowsToDelete() const;
+
+    /// Insert or Delete from its press with modifiers, which may be let go first, to its release.
+    int m_modifiedKey = 0;
 };

@@ -75,6 +75,9 @@ private Q_SLOTS:
     void parsing_data();
     void parsing();
     void copyAndPaste();
+    void tooManyLines();
+    void modifiedKeys();
+    void deletingWithoutItems();
 
 private:
     void fill(std::initializer_list<const char*> frequencies)
@@ -164,6 +167,8 @@ void SortRowTables::parsing_data()
                             << "a b/c";
     QTest::newRow("blanks") << "  1   2  3 "
                             << "1/2";
+    QTest::newRow("units") << "100.5 MHz\n101,5  MHz -30 dBm\n102 -40 dBm\na b"
+                           << "100.5 MHz/ 101,5 MHz/-30 dBm 102/-40 dBm a/b";
     QTest::newRow("nothing") << " \n\t\n;;"
                              << "";
 }
@@ -191,6 +196,42 @@ void SortRowTables::copyAndPaste()
     clipboard->setText(QStringLiteral("55"));
     m_table->slotPaste();
     QCOMPARE(rowsOf(*m_table), QStringLiteral("1/55 2/7 3/0 4/8"));
+    // Values go back into the columns they came from.
+    m_table->clearSelection();
+    m_table->item(0, 0)->setSelected(true);
+    m_table->item(2, 1)->setSelected(true);
+    QCOMPARE(m_table->selectionAsText(), QStringLiteral("1\t\n\t0"));
+    m_table->item(0, 0)->setSelected(false);
+    QCOMPARE(m_table->selectionAsText(), QStringLiteral("0"));
+}
+
+void SortRowTables::tooManyLines()
+{
+    const QString line = QStringLiteral("1\n");
+    QGuiApplication::clipboard()->setText(line.repeated(SortRowTable::maximumPastedRows + 2));
+    const Answers given([](QMessageBox& box, int) { box.button(QMessageBox::Ok)->click(); });
+    m_table->slotPaste();
+    QCOMPARE(m_table->rowCount(), SortRowTable::maximumPastedRows);
+    QVERIFY(given.texts.value(0).contains(QStringLiteral(" 2 more rows")));
+}
+
+void SortRowTables::modifiedKeys()
+{
+    fill({"1"});
+    QGuiApplication::clipboard()->setText(QStringLiteral("2\n3"));
+    QTest::keyPress(m_table.get(), Qt::Key_Insert, Qt::ShiftModifier); // pastes
+    QTest::keyRelease(m_table.get(), Qt::Key_Insert, Qt::NoModifier);
+    QTest::keyClick(m_table.get(), Qt::Key_Delete, Qt::ShiftModifier);
+    QCOMPARE(rowsOf(*m_table), QStringLiteral("1/0 2/ 3/"));
+}
+
+void SortRowTables::deletingWithoutItems()
+{
+    m_table->setRowCount(3);
+    m_table->selectAll();
+    const Answers given([](QMessageBox& box, int) { box.button(QMessageBox::YesToAll)->click(); });
+    m_table->slotDelete();
+    QCOMPARE(m_table->rowCount(), 0);
 }
 
 QTEST_MAIN(SortRowTables)
