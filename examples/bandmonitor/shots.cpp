@@ -6,11 +6,13 @@
 #include "panes/levelspane.h"
 #include "panes/panecolors.h"
 #include "panes/signalspane.h"
+#include "receiver/receiverpane.h"
 
 #include <guibase/colors/colorset.h>
 #include <guibase/docks/autohidesupport.h>
 #include <guibase/docks/tabifysupport.h>
 #include <guibase/docks/tilesupport.h>
+#include <guibase/inputs/typedinput.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortrowtable.h>
 #include <guibase/services/guibase.h>
@@ -134,6 +136,7 @@ bool ShotSeries::run()
     takeDialog(QStringLiteral("keyboard.png"), "slotShowHotKeysInMenu", &GuiBase::Instance());
     takeUnits();
     takeColors();
+    takeReceiver();
     takeMessage();
     return m_failure.isEmpty();
 }
@@ -261,6 +264,21 @@ void ShotSeries::takeColors()
     QFile::remove(file); // and so the next start must not look for it
     colors.slotRestoreFactoryColors();
     GuiBase::Instance().emit_signalColorsChanged();
+}
+
+void ShotSeries::takeReceiver()
+{
+    const std::pair<const char*, QVariant> entries[] = {
+        {"centreFrequency", 98'500'123},  {"span", 12'000'000}, {"gain", 12.5},
+        {"resolutionBandwidth", 100'000}, {"attenuation", -3},  {"sampleCount", 200'000},
+        {"deviceAddress", 0xC0FFEE},      {"threshold", -30},
+    };
+    GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
+    for (const auto& [field, value] : entries) {
+        auto* input = m_window.receiverPane().findChild<QWidget*>(QLatin1String(field));
+        dynamic_cast<TypedInput&>(*input).setInputValue(value);
+    }
+    write(QStringLiteral("receiver.png"));
 }
 
 void ShotSeries::takeMessage()

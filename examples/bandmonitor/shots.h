@@ -13,8 +13,8 @@ namespace bandmonitor {
 class MainWindow;
 
 /// Works through the window as a user would and writes a picture of each stage: "main.png",
-/// "zoom.png", "signals.png", "measure.png", "plan.png", "panels-….png", "units.png", "colors.png",
-/// the open menus, the dialogs. The same recording gives the same content every time.
+/// "zoom.png", "signals.png", "measure.png", "plan.png", "panels-….png",
+/// "units.png", "colors.png", "receiver.png", the open menus, the dialogs. The same recording gives the same content every time.
 class ShotSeries
 {
 public:
@@ -33,6 +33,7 @@ private:
     void takePanels();
     void takeUnits();
     void takeColors();
+    void takeReceiver();
     void takeMenus();
     void takeDialog(const QString& name, const char* slot, QObject* receiver);
     void takeMessage();

@@ -147,7 +147,6 @@ void SpectrumPane::paintEvent(QPaintEvent* event)
     paintThreshold(painter);
     paintOverlay(painter);
     paintPinNumbers(painter);
-    paintCaption(painter);
     paintReadOut(painter);
 }
 
@@ -271,6 +270,8 @@ QStringList SpectrumPane::readOut() const
     QStringList lines{readOutLine(tr("Cursor"), view().cursor())};
     for (const double pin : view().pins())
         lines << readOutLine(tr("Pin %1").arg(lines.size()), pin);
+    if (!m_caption.isEmpty())
+        lines.prepend(m_caption);
     return lines;
 }
 
@@ -307,13 +308,6 @@ void SpectrumPane::paintThreshold(QPainter& painter) const
     painter.setPen(QPen(paneColor(PaneSlot::ReferenceLine), 1, Qt::DashLine));
     const int y = yOf(*m_thresholdDb);
     painter.drawLine(0, y, width() - 1, y);
-}
-
-void SpectrumPane::paintCaption(QPainter& painter) const
-{
-    painter.setPen(paneColor(PaneSlot::ReadOut));
-    painter.drawText(rect().adjusted(0, readOutMargin, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
-                     m_caption);
 }
 
 void SpectrumPane::updateAround(double hertz)

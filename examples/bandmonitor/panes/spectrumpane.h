@@ -42,7 +42,7 @@ public:
 
     /// A level that is drawn as a dashed line, in dB; nothing for none.
     void setThreshold(std::optional<double> levelDb);
-    /// Stands at the top; empty for none.
+    /// The first line of the read-out; empty for none.
     void setCaption(const QString& caption);
     const QString& caption() const { return m_caption; }
 
@@ -55,7 +55,7 @@ public:
 
     /// The level of the bin at the frequency; nothing where the sweep has none.
     std::optional<float> levelAt(double hertz) const { return m_curve.sweep.levelAt(hertz); }
-    /// The lines of the read-out: the cursor, then the pins.
+    /// The lines of the read-out: the caption, the cursor, then the pins.
     QStringList readOut() const;
 
     QSize sizeHint() const override { return {960, 320}; }
@@ -88,7 +88,6 @@ private:
     void paintReferenceLevels(QPainter& painter) const;
     void paintThreshold(QPainter& painter) const;
     void paintPinNumbers(QPainter& painter) const;
-    void paintCaption(QPainter& painter) const;
     void paintReadOut(QPainter& painter) const;
     QString readOutLine(const QString& title, double hertz) const;
     QRect readOutRect() const;

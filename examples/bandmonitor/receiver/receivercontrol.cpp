@@ -8,6 +8,7 @@
 #include "receiver/receiverpane.h"
 #include "settings.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace bandmonitor {
@@ -80,8 +81,11 @@ void ReceiverControl::restoreStartTime()
 void ReceiverControl::centreEdited(qint64 hertz)
 {
     FrequencyView& view = m_band->view();
-    const double half = (view.high() - view.low()) / 2;
-    view.setVisible(static_cast<double>(hertz) - half, static_cast<double>(hertz) + half);
+    const double centre = std::clamp(static_cast<double>(hertz), view.bandLow(), view.bandHigh());
+    // The span gives way at the ends of the band: else the whole band could not be left.
+    const double half = std::min(
+        {(view.high() - view.low()) / 2, centre - view.bandLow(), view.bandHigh() - centre});
+    view.setVisible(centre - half, centre + half);
     followWindow();
 }
 

@@ -71,7 +71,6 @@ ReceiverPane::ReceiverPane(QWidget* parent)
     setAccessibleName(tr("Receiver"));
     m_content->setLayout(m_form);
     m_form->setContentsMargins(margin, margin, margin, margin);
-    m_form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     m_centre = addFrequency(tr("Centre frequenc&y:"), "centreFrequency",
                             tr("The middle of what the spectrum shows"));
@@ -103,6 +102,14 @@ ReceiverPane::~ReceiverPane() = default;
 QSize ReceiverPane::sizeHint() const
 {
     return m_content->sizeHint();
+}
+
+void ReceiverPane::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_form->setRowWrapPolicy(QFormLayout::DontWrapRows);
+    if (m_form->minimumSize().width() > width())
+        m_form->setRowWrapPolicy(QFormLayout::WrapAllRows);
 }
 
 template <typename Input>
@@ -180,6 +187,7 @@ void ReceiverPane::addThreshold()
                       tr("Signals are what reaches this level; without it, what stands out of "
                          "the noise"));
     m_threshold->setEditable(true);
+    m_threshold->lineEdit()->setAlignment(m_gain->alignment()); // in line with the other fields
     m_threshold->addDisplayFormat(realDecibels());
     m_threshold->setCurrentDisplayFormatIndex(0);
     m_threshold->setRange(-ReceiverSettings::largestThresholdDb,

@@ -49,6 +49,10 @@ Q_SIGNALS:
     /// Anything else.
     void edited();
 
+protected:
+    /// Puts the labels above the fields when there is no room beside them.
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     SpinBoxes::FrequencySpinBox* addFrequency(const QString& label, const char* name,
                                               const QString& toolTip);

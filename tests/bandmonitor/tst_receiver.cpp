@@ -1,0 +1,334 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow.h"
+#include "model/samplegenerator.h"
+#include "panes/bandview.h"
+#include "panes/signalspane.h"
+#include "panes/spectrumpane.h"
+#include "receiver/receiverpane.h"
+#include "recordings.h"
+#include "settings.h"
+#include "support/testguard.h"
+
+#include <guibase/inputs/typedinput.h>
+#include <guibase/lists/sortlistview.h>
+#include <guibase/services/guibase.h>
+#include <trovappstartup/cfgcenter.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <cmath>
+#include <optional>
+
+using namespace bandmonitor;
+
+namespace {
+
+/// A recording of hops with one line each; levels that are NaN are bins without a level.
+std::shared_ptr<Recording> record(const std::vector<std::vector<float>>& sweeps, quint64 samples)
+{
+    auto recording = std::make_shared<Recording>();
+    for (const std::vector<float>& levels : sweeps) {
+        const Segment hop{1000, 10, samples, levels};
+        recording->append(static_cast<quint64>(recording->count()), {&hop, 1});
+    }
+    return recording;
+}
+
+QString text(const Sweep& sweep)
+{
+    QString result;
+    for (const float level : sweep.segments.front().levels)
+        result += QString::number(static_cast<double>(level), 'f', 1) + QLatin1Char(' ');
+    return result.trimmed();
+}
+
+} // namespace
+
+class tst_Receiver : public QObject
+{
+    Q_OBJECT
+    std::optional<TestGuard> m_guard;
+    std::unique_ptr<MainWindow> m_window;
+
+    void openWindow()
+    {
+        m_window = std::make_unique<MainWindow>();
+        m_window->resize(1100, 800);
+        m_window->show();
+        QSignalSpy opened(m_window.get(), &MainWindow::recordingOpened);
+        m_window->open(samplePath());
+        QVERIFY(opened.wait());
+        m_window->activateWindow();
+        QTRY_VERIFY(m_window->isActiveWindow());
+    }
+
+    QWidget* field(const char* name) const
+    {
+        return m_window->receiverPane().findChild<QWidget*>(QLatin1String(name));
+    }
+
+    QString shown(const char* name) const
+    {
+        return dynamic_cast<TypedInput&>(*field(name)).inputLineEdit()->text();
+    }
+
+    void enter(const char* name, const QString& typed) const
+    {
+        field(name)->setFocus();
+        dynamic_cast<TypedInput&>(*field(name)).inputLineEdit()->selectAll();
+        QTest::keyClicks(field(name), typed);
+        QTest::keyClick(field(name), Qt::Key_Return);
+    }
+
+private Q_SLOTS:
+    void init() { m_guard.emplace(); }
+
+    void cleanup()
+    {
+        m_window.reset();
+        QLocale::setDefault(QLocale::c());
+        QCOMPARE(m_guard->finish(), QString());
+        m_guard.reset();
+    }
+
+    void traces_data()
+    {
+        QTest::addColumn<double>("resolution");
+        QTest::addColumn<double>("offset");
+        QTest::addColumn<quint64>("samples");
+        QTest::addColumn<QString>("expected");
+        // Sweeps of 100 samples: -30 everywhere, then -20 in the first bin, then as below.
+        const auto row = [](const char* name, double resolution, double offset, int samples,
+                            const char* expected) {
+            QTest::newRow(name) << resolution << offset << static_cast<quint64>(samples)
+                                << QString::fromLatin1(expected);
+        };
+        row("neutral", 0, 0, 0, "-10.0 -30.0 nan -30.0 -30.0 -30.0");
+        row("offset", 0, -2.5, 0, "-12.5 -32.5 nan -32.5 -32.5 -32.5");
+        row("finer than recorded", 9, 0, 0, "-10.0 -30.0 nan -30.0 -30.0 -30.0");
+        row("pairs: noise rises, carrier stays", 20, 0, 0, "-10.0 -27.0 -27.0");
+        row("not a whole number of bins", 24, 0, 0, "-10.0 -27.0 -27.0");
+        row("split bins", 15, 0, 0, "-10.0 -28.2 -28.2 -28.2");
+        row("wider than the hop", 1e6, 0, 0, "-9.0");
+        row("fewer samples than a sweep", 0, 0, 99, "-10.0 -30.0 nan -30.0 -30.0 -30.0");
+        row("two sweeps", 0, 0, 101, "-12.6 -30.0 -30.0 -30.0 -30.0 -30.0");
+        row("more than there are", 0, 10, 100000, "-4.3 -20.0 -20.0 -20.0 -20.0 -20.0");
+    }
+
+    void traces()
+    {
+        QFETCH(double, resolution);
+        QFETCH(double, offset);
+        QFETCH(quint64, samples);
+        QFETCH(QString, expected);
+        const auto recording = record({{-30, -30, -30, -30, -30, -30},
+                                       {-20, -30, -30, -30, -30, -30},
+                                       {-10, -30, NAN, -30, -30, -30}},
+                                      100);
+        TraceProcessor processor;
+        processor.setSettings({resolution, offset, samples});
+        processor.process(*recording, 0); // must leave no traces
+        const Sweep trace = processor.process(*recording, 2);
+        QCOMPARE(text(trace), expected);
+        QCOMPARE(trace.highHz, recording->sweep(2).highHz);
+        const bool isRecorded = trace.segments.data() == recording->sweep(2).segments.data();
+        QCOMPARE(isRecorded, expected == text(recording->sweep(2)));
+    }
+
+    void settingsComeBackWithinTheirLimits()
+    {
+        ReceiverSettings settings;
+        settings.centreHz = 98'500'000;
+        settings.spanHz = 3'000'001;
+        settings.resolutionHz = 25;
+        settings.gainDb = 0.1;
+        settings.attenuationDb = -7;
+        settings.samples = std::numeric_limits<quint64>::max();
+        settings.address = std::numeric_limits<quint32>::max();
+        settings.isAddressHexadecimal = false;
+        settings.startTime = QDateTime::fromMSecsSinceEpoch(1'700'000'000'123, Qt::UTC);
+        settings.thresholdDb = -62.5;
+        Settings::setReceiver(settings);
+        QVERIFY(Settings::receiver() == settings);
+        Settings::setReceiver({});
+        QVERIFY(Settings::receiver() == ReceiverSettings());
+
+        const auto cfg = CfgCenter::GetAppCfg(SettingsView)
+                             ->OpenSubCfg(QStringLiteral("Bandmonitor"))
+                             ->OpenSubCfg(QStringLiteral("Receiver"));
+        for (const char* key : {"Centre", "Span", "Resolution", "Gain", "Attenuation", "Threshold"})
+            cfg->SetString(QLatin1String(key), QStringLiteral("-20000000"));
+        cfg->SetString(QStringLiteral("Address"), QStringLiteral("tomorrow"));
+        const ReceiverSettings clamped = Settings::receiver();
+        QCOMPARE(clamped.centreHz + clamped.spanHz + clamped.resolutionHz, 0);
+        QCOMPARE(clamped.gainDb, -100.0);
+        QCOMPARE(clamped.attenuationDb, -100);
+        QCOMPARE(clamped.thresholdDb, -1000.0);
+        QCOMPARE(clamped.address, 0U);
+        cfg->SetString(QStringLiteral("Gain"), QStringLiteral("nan"));
+        QCOMPARE(Settings::receiver().gainDb, 0.0);
+    }
+
+    void panelAndSpectrumFollowEachOther()
+    {
+        openWindow();
+        BandView& band = m_window->bandView();
+        FrequencyView& view = band.view();
+        const double bandLow = view.bandLow();
+        QCOMPARE(shown("span"), QStringLiteral("30 MHz"));
+        enter("centreFrequency", QStringLiteral("85.5")); // the span gives way
+        QCOMPARE((view.low() + view.high()) / 2, 85.5e6);
+        QCOMPARE(view.low(), bandLow);
+        enter("span", QStringLiteral("2000k"));
+        QCOMPARE(view.low(), 84.5e6);
+        QCOMPARE(view.high(), 86.5e6);
+        view.pan(1e6);
+        view.zoom(2, view.low());
+        QCOMPARE(shown("centreFrequency"), QStringLiteral("86 MHz"));
+        QCOMPARE(shown("span"), QStringLiteral("1 MHz"));
+        enter("centreFrequency", QStringLiteral("5 GHz")); // out of the band
+        QCOMPARE(view.high(), view.bandHigh());
+        QVERIFY(shown("centreFrequency") != QLatin1String("5 GHz"));
+        QTest::keyClicks(field("centreFrequency"), QStringLiteral("95.")); // typing goes on
+        view.showAll();
+        QVERIFY(shown("centreFrequency").endsWith(QLatin1String("95.")));
+
+        Replay& replay = m_window->replay();
+        GuiBase::Instance().GetTimeZone()->SetValue(0);
+        replay.jump(20);
+        const QString later = shown("startTime");
+        replay.jump(3);
+        QVERIFY(shown("startTime") < later);
+        enter("startTime", later);
+        QCOMPARE(replay.position(), 20);
+        enter("startTime", QStringLiteral("2100-01-01 00:00:00.000"));
+        QCOMPARE(replay.position(), replay.count() - 1);
+        enter("startTime", later);
+
+        const SpectrumPane& spectrum = band.spectrum();
+        const double hertz = 90.01e6;
+        const auto level = [&] { return static_cast<double>(*spectrum.levelAt(hertz)); };
+        const double recorded = level();
+        enter("gain", QStringLiteral("40.5"));
+        enter("attenuation", QStringLiteral("-3"));
+        QVERIFY(std::abs(level() - recorded - 43.5) < 0.01);
+        QVERIFY(spectrum.highLevel() > 0); // the trace is still in the pane
+        enter("attenuation", QStringLiteral("40"));
+        enter("gain", QStringLiteral("40"));
+        QCOMPARE(level(), recorded);
+        enter("deviceAddress", QStringLiteral("1F"));
+        QCOMPARE(spectrum.readOut().first(), QStringLiteral("Receiver 0x1F"));
+    }
+
+    void thresholdDetectsWhatTheSpectrumShowsAboveIt()
+    {
+        openWindow();
+        m_window->signalsPane().setUpdateInterval(std::chrono::milliseconds(0));
+        const auto peaks = [this] {
+            QCoreApplication::processEvents();
+            const SortListView& list = m_window->signalsPane().list();
+            QList<double> result;
+            for (int row = 0; row < list.topLevelItemCount(); ++row)
+                result << list.topLevelItem(row)->text(SignalsPane::Level).chopped(3).toDouble();
+            return result;
+        };
+        m_window->replay().stepForward();
+        m_window->replay().stepBackward(); // the signals of this sweep alone
+        const QList<double> automatic = peaks();
+        const auto count = [&](double limit) {
+            return std::ranges::count_if(automatic, [=](double peak) { return peak >= limit; });
+        };
+        QVERIFY(count(-45) > 0 && count(-45) < count(-48));
+        enter("threshold", QStringLiteral("-45"));
+        QCOMPARE(peaks().size(), count(-45));
+        enter("attenuation", QStringLiteral("3"));
+        enter("threshold", QStringLiteral("-51"));
+        QCOMPARE(peaks().size(), count(-48));
+        enter("threshold", QStringLiteral("off"));
+        QCOMPARE(peaks(), automatic);
+    }
+
+    void keyboardFillsTheForm_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("decimalPoint");
+        QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedStates) << ".";
+        QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany) << ",";
+    }
+
+    void keyboardFillsTheForm()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(QString, decimalPoint);
+        QLocale::setDefault(locale);
+        openWindow();
+        GuiBase::Instance().GetTimeZone()->SetValue(0);
+        field("centreFrequency")->setFocus(Qt::TabFocusReason);
+        struct Step
+        {
+            const char* name;
+            QString typed;
+            QString shown;
+        };
+        const auto local = [&](const char* text) {
+            return QString::fromLatin1(text).replace(QLatin1Char('.'), decimalPoint);
+        };
+        const Step steps[] = {
+            {"centreFrequency", local("98.500123"), local("98.500123 MHz")},
+            {"span", local("7500 k"), local("7.5 MHz")},
+            {"resolutionBandwidth", local("0.1"), local("0.1 MHz")},
+            {"gain", local("12.5"), local("12.5 dB")},
+            {"attenuation", QStringLiteral("-3"), QStringLiteral("-3 dB")},
+            {"sampleCount", QStringLiteral("18446744073709551615"),
+             QStringLiteral("18446744073709551615")},
+            {"deviceAddress", QStringLiteral("0xc0ffee"), QStringLiteral("0xC0FFEE")},
+            {"hexadecimal", QStringLiteral(" "), {}},
+            {"startTime", QStringLiteral("2026-01-01 00:00:30.500"), {}},
+            {"threshold", local("-62.5"), local("-62.5 dB")},
+        };
+        for (const Step& step : steps) {
+            QWidget* focus = QApplication::focusWidget();
+            QCOMPARE(focus->objectName(), QLatin1String(step.name));
+            QTest::keyClicks(focus, step.typed); // replaces what Tab has selected
+            QTest::keyClick(focus, Qt::Key_Return);
+            if (!step.shown.isEmpty())
+                QCOMPARE(shown(step.name), step.shown);
+            QTest::keyClick(focus, Qt::Key_Tab);
+        }
+        QCOMPARE(shown("deviceAddress"), QStringLiteral("12648430"));
+        QVERIFY(!m_window->replay().isPlaying()); // nothing of it was taken for a short cut
+        const QDateTime start(QDate(2026, 1, 1), QTime(0, 0, 30, 500), Qt::UTC);
+        const qsizetype position = m_window->replay().position();
+        const auto timeAt = [&](qsizetype at) {
+            return static_cast<qint64>(m_window->replay().recording()->sweep(at).timeUs / 1000);
+        };
+        QVERIFY(timeAt(position) >= start.toMSecsSinceEpoch());
+        QVERIFY(timeAt(position - 1) < start.toMSecsSinceEpoch());
+
+        ReceiverSettings expected;
+        expected.centreHz = 98'500'123;
+        expected.spanHz = 7'500'000;
+        expected.resolutionHz = 100'000;
+        expected.gainDb = 12.5;
+        expected.attenuationDb = -3;
+        expected.samples = std::numeric_limits<quint64>::max();
+        expected.address = 0xC0FFEE;
+        expected.isAddressHexadecimal = false;
+        expected.startTime = start;
+        expected.thresholdDb = -62.5;
+        QVERIFY(Settings::receiver() == expected);
+        m_window.reset();
+        openWindow();
+        QCOMPARE(m_window->replay().position(), position);
+        QCOMPARE(shown("centreFrequency"), local("98.500123 MHz"));
+        QCOMPARE(shown("span"), local("7.5 MHz"));
+        expected.startTime = m_window->receiverPane().settings().startTime; // that of the sweep
+        QVERIFY(m_window->receiverPane().settings() == expected);
+    }
+};
+
+QTEST_MAIN(tst_Receiver)
+#include "tst_receiver.moc"
