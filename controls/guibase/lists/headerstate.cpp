@@ -2,7 +2,8 @@
 #include "headerstate_p.h"
 
 #include <QDataStream>
-#include <QList>
+#include <QHash>
+#include <QHeaderView>
 
 #include <algorithm>
 #include <limits>
@@ -82,29 +83,36 @@ bool areInverse(const QList<qint32>& visual, const QList<qint32>& logical)
     return true;
 }
 
-/// The runs of equal sections must add up to all of them.
-void walkRuns(Walk& walk, qint32 sections)
+/// The sizes of the sections by their places. The runs of equal sections, each with the length of
+/// all its sections, must add up to all of them.
+QList<qint32> readRuns(Walk& walk, qint32 sections)
 {
+    QList<qint32> sizes;
     const qint32 runs = walk.number(0, sections);
-    qint32 covered = 0;
     qint32 length = 0;
     for (qint32 run = 0; run < runs && walk.isFine(); ++run) {
-        length += walk.number(0, maximumLength - length);
-        covered += walk.number(1, sections - covered);
+        const qint32 runLength = walk.number(0, maximumLength - length);
+        const qint32 count = walk.number(1, sections - static_cast<qint32>(sizes.size()));
+        length += runLength;
+        for (qint32 i = 0; i < count; ++i)
+            sizes.append(runLength / count);
         walk.number(0, lastResizeMode);
     }
-    if (covered != sections)
+    if (sizes.size() != sections)
         walk.fail();
+    return sizes;
 }
 
-/// What the toolkit keeps of hidden sections: pairs of section and former size.
-void walkHiddenSizes(Walk& walk, qint32 sections)
+/// What the toolkit keeps of hidden sections: section and former size.
+QHash<qint32, qint32> readHiddenSizes(Walk& walk)
 {
+    QHash<qint32, qint32> sizes;
     const qint32 hidden = walk.count();
     for (qint32 i = 0; i < hidden && walk.isFine(); ++i) {
-        walk.number(0, sections - 1);
-        walk.number(0, maximumLength);
+        const qint32 section = walk.number(0, maximumSections - 1);
+        sizes.insert(section, walk.number(0, maximumLength));
     }
+    return sizes;
 }
 
 /// Fields that were added to the state over time; older states end before any of them.
@@ -124,23 +132,25 @@ void walkAdditions(Walk& walk)
 
 } // namespace
 
-bool HeaderState::isValid(const QByteArray& state, Qt::Orientation orientation, int sections)
+std::optional<HeaderState> HeaderState::fromBytes(const QByteArray& bytes,
+                                                  Qt::Orientation orientation)
 {
-    Walk walk(state);
-    const qint32 limit = std::min(sections, maximumSections);
+    Walk walk(bytes);
+    HeaderState state;
     walk.number(stateMarker, stateMarker);
     walk.number(stateVersion, stateVersion);
     walk.number(orientation, orientation);
-    walk.number(Qt::AscendingOrder, Qt::DescendingOrder);
-    walk.number(-1, limit); // sort section; the toolkit's default is 0, sections or not
-    walk.flags(1);          // sort indicator shown
+    state.sortOrder = Qt::SortOrder(walk.number(Qt::AscendingOrder, Qt::DescendingOrder));
+    // The toolkit's default is 0, sections or not.
+    state.sortSection = walk.number(-1, maximumSections);
+    walk.flags(1); // sort indicator shown
     const QList<qint32> visual = walk.numbers(walk.count());
     const QList<qint32> logical = walk.numbers(walk.count());
     const qint32 hiddenBits = walk.count();
     walk.flags((hiddenBits + 7) / 8);
-    walkHiddenSizes(walk, limit);
+    const QHash<qint32, qint32> hiddenSizes = readHiddenSizes(walk);
     walk.number(0, maximumLength);
-    const qint32 stored = walk.number(0, limit);
+    const qint32 stored = walk.count();
     walk.flags(5);                  // movable, clickable, highlight, stretch last, cascading
     walk.number(0, stored);         // sections that stretch
     walk.number(0, stored);         // sections that follow their contents
@@ -148,8 +158,40 @@ bool HeaderState::isValid(const QByteArray& state, Qt::Orientation orientation, 
     walk.number(-1, maximumLength); // minimum size
     walk.number();                  // alignment
     walk.number(0, lastResizeMode);
-    walkRuns(walk, stored);
+    const QList<qint32> sizes = readRuns(walk, stored);
     walkAdditions(walk);
-    return walk.isFine() && hiddenBits <= stored && areInverse(visual, logical) &&
-           (visual.isEmpty() || visual.size() == stored);
+    const bool areHiddenKnown = std::all_of(hiddenSizes.keyBegin(), hiddenSizes.keyEnd(),
+                                            [stored](qint32 section) { return section < stored; });
+    if (!walk.isFine() || hiddenBits > stored || !areHiddenKnown || !areInverse(visual, logical) ||
+        (!visual.isEmpty() && visual.size() != stored))
+        return std::nullopt;
+    for (qint32 section = 0; section < stored; ++section) {
+        const qint32 place = visual.isEmpty() ? section : visual.at(section);
+        const bool isHidden = hiddenSizes.contains(section);
+        state.sections.append(
+            {isHidden ? hiddenSizes.value(section) : sizes.at(place), place, isHidden});
+    }
+    return state;
+}
+
+void HeaderState::applyTo(QHeaderView& header, int first) const
+{
+    const int count = std::min(header.count(), static_cast<int>(sections.size()));
+    for (int section = first; section < count; ++section) {
+        const Section& stored = sections.at(section);
+        if (stored.size > 0)
+            header.resizeSection(section, stored.size);
+        header.setSectionHidden(section, stored.isHidden);
+        int place = 0;
+        for (int other = 0; other < section; ++other) {
+            if (sections.at(other).place < stored.place)
+                place = std::max(place, header.visualIndex(other) + 1);
+        }
+        const int from = header.visualIndex(section);
+        header.moveSection(from, place > from ? place - 1 : place);
+    }
+    if (header.count() > 0 && header.hiddenSectionCount() == header.count())
+        header.showSection(header.logicalIndex(0));
+    if (sortSection >= first && sortSection < count)
+        header.setSortIndicator(sortSection, sortOrder);
 }

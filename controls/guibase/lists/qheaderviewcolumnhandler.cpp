@@ -3,11 +3,14 @@
 
 #include "headerstate_p.h"
 
+#include <guibase/services/geometryrecord_p.h>
+
 #include <jtbase/errorhandler.h>
 #include <trovappstartup/cfgcenter.h>
 
 #include <QAbstractItemModel>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMenu>
 
 namespace {
@@ -38,6 +41,10 @@ QHeaderViewColumnHandler::QHeaderViewColumnHandler(const QString& name, QHeaderV
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(header, &QWidget::customContextMenuRequested, this,
             &QHeaderViewColumnHandler::sl_contextMenu);
+    connect(header, &QHeaderView::sectionCountChanged, this,
+            &QHeaderViewColumnHandler::restoreAwaited);
+    header->installEventFilter(this);
+    watchView();
 }
 
 QHeaderViewColumnHandler::~QHeaderViewColumnHandler() = default;
@@ -63,20 +70,68 @@ void QHeaderViewColumnHandler::restoreColumnStatus()
         return;
     const ICfg* const cfg = CfgCenter::GetAppCfg(SettingsView);
     const QByteArray geometry = fromStoredText(cfg->GetString(key("_GEOM")));
-    if (!geometry.isEmpty())
+    // A view places its headers itself.
+    if (m_header->isWindow() && GeometryRecord::fromBytes(geometry))
         m_header->restoreGeometry(geometry);
     const QString stateText = cfg->GetString(key("_STATE"));
-    if (stateText.isEmpty())
+    if (!stateText.isEmpty())
+        restoreState(fromStoredText(stateText), 0);
+}
+
+void QHeaderViewColumnHandler::restoreState(const QByteArray& bytes, int firstSection)
+{
+    m_awaitedState.clear();
+    const auto state = HeaderState::fromBytes(bytes, m_header->orientation());
+    if (!state) {
+        ErrorHandler::Trace(ErrorHandler::TraceGuiBase, "controls/guibase/qheaderviewcolumnhandler",
+                            __LINE__,
+                            QStringLiteral("The stored state of header \"%1\" is damaged; the "
+                                           "header stays as it is.")
+                                .arg(objectName()));
         return;
-    const QByteArray state = fromStoredText(stateText);
-    if (HeaderState::isValid(state, m_header->orientation(), m_header->count()))
-        m_header->restoreState(state);
+    }
+    const bool isWhole = state->sections.size() <= m_header->count();
+    if (isWhole && firstSection == 0 && state->sortSection <= m_header->count())
+        m_header->restoreState(bytes);
     else
-        ErrorHandler::Trace(
-            ErrorHandler::TraceGuiBase, "controls/guibase/qheaderviewcolumnhandler", __LINE__,
-            QStringLiteral("The stored state of header \"%1\" is damaged; the header "
-                           "stays as it is.")
-                .arg(objectName()));
+        state->applyTo(*m_header, firstSection);
+    if (!isWhole)
+        m_awaitedState = bytes;
+}
+
+void QHeaderViewColumnHandler::restoreAwaited(int oldCount, int newCount)
+{
+    if (newCount > oldCount && !m_awaitedState.isEmpty())
+        restoreState(QByteArray(m_awaitedState), oldCount);
+}
+
+void QHeaderViewColumnHandler::watchView()
+{
+    if (m_view)
+        m_view->removeEventFilter(this);
+    m_view = m_header->parentWidget();
+    if (m_view)
+        m_view->installEventFilter(this);
+}
+
+bool QHeaderViewColumnHandler::eventFilter(QObject* object, QEvent* event)
+{
+    // Other events come while the header is being destroyed, too, and is none any more.
+    const bool isParentChange = event->type() == QEvent::ParentChange;
+    if ((!isParentChange && event->type() != QEvent::KeyPress) || !m_header)
+        return false;
+    if (isParentChange) {
+        if (object == m_header)
+            watchView();
+        return false;
+    }
+    const auto* const keyEvent = static_cast<QKeyEvent*>(event);
+    const int menuKey = m_header->orientation() == Qt::Horizontal ? Qt::Key_H : Qt::Key_V;
+    if (keyEvent->key() != menuKey ||
+        keyEvent->modifiers() != (Qt::ControlModifier | Qt::AltModifier))
+        return false;
+    sl_contextMenu(QPoint(0, 0));
+    return true;
 }
 
 void QHeaderViewColumnHandler::sl_contextMenu(QPoint position)

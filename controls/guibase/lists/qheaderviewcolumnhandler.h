@@ -3,21 +3,24 @@
 
 #include <guibase/guibase_export.h>
 
+#include <QByteArray>
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
 #include <QString>
 
 class QHeaderView;
+class QWidget;
 
 namespace guiHelper {
 
 /// Gives a header a menu that hides and shows its sections, and keeps its state in the application
 /// configuration under the handler's name.
 ///
-/// The handler is a child of the header. The menu opens on a right click and with the menu key.
-/// What is stored is checked before the header sees it: text that is no state of a header view
-/// leaves the header as it is.
+/// The handler is a child of the header. The menu opens on a right click, and with Ctrl+Alt+H for a
+/// horizontal header or Ctrl+Alt+V for a vertical one while its view has the focus; headers do not
+/// get it themselves. What is stored is checked before the header sees it: text that is no state of
+/// a header view leaves the header as it is.
 class GUIBASE_EXPORT QHeaderViewColumnHandler : public QObject
 {
     Q_OBJECT
@@ -27,17 +30,25 @@ public:
 
     /// Writes geometry and state into the configuration and stores it.
     void saveColumnStatus();
-    /// A state with more sections than the header has is not taken. Sections that it does not know
-    /// get the default size, behind the others.
+    /// Sections that the state does not know get the default size, behind the others. Sections that
+    /// the header does not have yet are arranged when they come. The geometry counts only for a
+    /// header that is a window of its own.
     void restoreColumnStatus();
+
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private Q_SLOTS:
     void sl_contextMenu(QPoint position);
 
 private:
     QString key(const char* suffix) const;
+    void restoreState(const QByteArray& bytes, int firstSection);
+    void restoreAwaited(int oldCount, int newCount);
+    void watchView();
 
     QPointer<QHeaderView> m_header;
+    QPointer<QWidget> m_view;
+    QByteArray m_awaitedState; ///< Restored while sections that it knows were missing.
 };
 
 } // namespace guiHelper

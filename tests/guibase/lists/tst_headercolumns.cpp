@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QStandardItemModel>
+#include <QTableView>
 #include <QTest>
 
 #include <memory>
@@ -102,6 +103,7 @@ private Q_SLOTS:
     void statesComeBack();
     void otherHeadersStates();
     void hostileStates();
+    void headerInView();
 
 private:
     std::unique_ptr<TestGuard> m_guard;
@@ -145,17 +147,27 @@ void HeaderColumns::statesComeBack()
         const auto orientation = random.below(2) == 0 ? Qt::Horizontal : Qt::Vertical;
         const int sections = random.below(20);
         const int added = random.below(3);
+        const int late = random.below(sections + 1);
         Header stored(sections, orientation);
-        Header restored(sections + added, orientation);
+        Header restored(sections + added - late, orientation);
         disarrange(*stored.view, random);
+        stored.view->showSection(0);
         disarrange(*restored.view, random);
         storeState(stored.view->saveState());
         restored.handler->restoreColumnStatus();
+        QVERIFY(isSound(*restored.view, sections + added - late));
+        for (int section = 0; section < late; ++section) {
+            const int count = restored.view->count();
+            orientation == Qt::Horizontal ? restored.model.insertColumn(count)
+                                          : restored.model.insertRow(count);
+        }
         QVERIFY(isSound(*restored.view, sections + added));
         for (int section = 0; section < sections; ++section) {
-            QCOMPARE(restored.view->visualIndex(section), stored.view->visualIndex(section));
             QCOMPARE(restored.view->isSectionHidden(section),
                      stored.view->isSectionHidden(section));
+            for (int other = 0; other < section; ++other)
+                QCOMPARE(restored.view->visualIndex(other) < restored.view->visualIndex(section),
+                         stored.view->visualIndex(other) < stored.view->visualIndex(section));
         }
     }
 }
@@ -166,11 +178,10 @@ void HeaderColumns::otherHeadersStates()
     header.view->moveSection(0, 2);
     header.handler->saveColumnStatus();
     const QByteArray state = header.view->saveState();
-    Header fewer(2, Qt::Horizontal);
     Header upright(3, Qt::Vertical);
     Header stranger(3, Qt::Horizontal);
     stranger.handler->setObjectName(QStringLiteral("stranger"));
-    for (Header* other : {&fewer, &upright, &stranger}) {
+    for (Header* other : {&upright, &stranger}) {
         const QByteArray before = other->view->saveState();
         other->handler->restoreColumnStatus();
         QCOMPARE(other->view->saveState(), before);
@@ -207,6 +218,28 @@ void HeaderColumns::hostileStates()
     }
     CfgCenter::GetAppCfg(SettingsView)->SetString(stateKey, QStringLiteral("no base64!"));
     original.handler->restoreColumnStatus();
+}
+
+void HeaderColumns::headerInView()
+{
+    QTableView view;
+    auto* const handler =
+        new QHeaderViewColumnHandler(QStringLiteral("name"), view.horizontalHeader());
+    QStandardItemModel model(2, 3);
+    view.setModel(&model);
+    view.setColumnWidth(1, 55);
+    view.show();
+    handler->saveColumnStatus();
+    const QRect place = view.horizontalHeader()->geometry();
+    handler->restoreColumnStatus();
+    QCOMPARE(view.horizontalHeader()->geometry(), place);
+    view.setModel(nullptr);
+    handler->restoreColumnStatus();
+    view.setModel(&model);
+    QCOMPARE(view.columnWidth(1), 55);
+    const MenuVisitor visitor([](QMenu& menu) { MenuVisitor::choose(menu, 1); });
+    QTest::keyClick(&view, Qt::Key_H, Qt::ControlModifier | Qt::AltModifier);
+    QVERIFY(visitor.hasSeenMenu() && view.isColumnHidden(1));
 }
 
 QTEST_MAIN(HeaderColumns)
