@@ -535,26 +535,38 @@ bool SortListView::handleColumnKey(int key, Qt::KeyboardModifiers modifiers)
     const bool choose = modifiers == Qt::AltModifier;
     const bool change = modifiers == (Qt::AltModifier | Qt::ShiftModifier);
     const int step = (key == Qt::Key_Left) == isRightToLeft() ? 1 : -1;
+    const int column = chosenColumn();
     if (key == Qt::Key_H && modifiers == (Qt::ControlModifier | Qt::AltModifier) && m_hasColumnMenu)
         slotHeaderContextMenuRequested(QPoint(0, header()->height()));
     else if (choose && (key == Qt::Key_Left || key == Qt::Key_Right))
-        chooseColumn(step);
+        chooseColumn(nextVisiblePlace(*header(), header()->visualIndex(column), step));
     else if (change && (key == Qt::Key_Left || key == Qt::Key_Right))
-        moveColumn(currentColumn(), step);
-    else if (change && (key == Qt::Key_Up || key == Qt::Key_Down) && hasColumn(currentColumn()))
-        setSorting(currentColumn(), key == Qt::Key_Up);
+        moveColumn(column, step);
+    else if (change && (key == Qt::Key_Up || key == Qt::Key_Down) && hasColumn(column))
+        setSorting(column, key == Qt::Key_Up);
     else
         return false;
     return true;
 }
 
-void SortListView::chooseColumn(int step)
+int SortListView::chosenColumn() const
 {
-    QTreeWidgetItem* const item = QTreeWidget::currentItem();
-    const int place = nextVisiblePlace(*header(), header()->visualIndex(currentColumn()), step);
-    if (item == nullptr || place < 0)
+    if (QTreeWidget::currentItem() != nullptr)
+        return currentColumn();
+    const bool isShown = hasColumn(m_chosenColumn) && !isColumnHidden(m_chosenColumn);
+    const int first = nextVisiblePlace(*header(), -1, 1);
+    return isShown || first < 0 ? m_chosenColumn : header()->logicalIndex(first);
+}
+
+void SortListView::chooseColumn(int place)
+{
+    if (place < 0)
         return;
-    const QModelIndex index = indexFromItem(item, header()->logicalIndex(place));
+    m_chosenColumn = header()->logicalIndex(place);
+    QTreeWidgetItem* const item = QTreeWidget::currentItem();
+    if (item == nullptr)
+        return;
+    const QModelIndex index = indexFromItem(item, m_chosenColumn);
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     scrollTo(index);
 }

@@ -36,7 +36,7 @@ class QMenu;
 ///
 /// Keys: Ctrl+Alt+H opens the column menu, when that is switched on; Alt+Left and Alt+Right choose
 /// the current column, Alt+Shift+Left and Alt+Shift+Right move it, Alt+Shift+Up and Alt+Shift+Down
-/// sort by it in ascending and descending order.
+/// sort by it in ascending and descending order; all of them also in a list without rows.
 ///
 /// Operations on columns that do not exist, and on null items or items of other views, do nothing
 /// and return null, false or an empty value.
@@ -168,7 +168,8 @@ private:
     void connectSignals();
     bool handleColumnKey(int key, Qt::KeyboardModifiers modifiers);
     void moveColumn(int column, int step);
-    void chooseColumn(int step);
+    int chosenColumn() const;
+    void chooseColumn(int place);
     void updateColumnActions();
 
     std::vector<CompareFunction> m_compareFunctions;
@@ -184,5 +185,6 @@ private:
     QList<QAction*> m_columnActions;
     QPointer<QMenu> m_contextMenu;
     int m_childCursor = 0;
+    int m_chosenColumn = 0; ///< By keys, for the time without a current item.
     std::unique_ptr<ListSorter> m_sorter;
 };

@@ -168,6 +168,12 @@ void SortListViews::keyboard()
     const MenuVisitor visitor([](QMenu& menu) { MenuVisitor::choose(menu, 0); });
     press(Qt::Key_H, Qt::ControlModifier | Qt::AltModifier);
     QVERIFY(visitor.hasSeenMenu() && m_list->isColumnHidden(0));
+    m_list->clear(); // columns can be arranged without rows, too
+    press(Qt::Key_Left, Qt::AltModifier);
+    press(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+    QCOMPARE(m_list->header()->sortIndicatorSection(), 2);
+    press(Qt::Key_Right, Qt::AltModifier | Qt::ShiftModifier);
+    QCOMPARE(m_list->header()->visualIndex(2), 2);
 }
 
 void SortListViews::selection()
