@@ -6,6 +6,9 @@
 #include <QIODevice>
 #include <QtEndian>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 /// Marks the format, and tells the version of the toolkit that it was first written with.
@@ -49,6 +52,14 @@ std::optional<StateRecord::Layouts> parsed(const QByteArray& bytes)
     return layouts;
 }
 
+bool isWithinLimits(const StateRecord::Layouts& layouts, const QByteArray& bytes,
+                    const QByteArray& packed)
+{
+    return layouts.size() <= StateRecord::maximumModes &&
+           bytes.size() <= qsizetype{StateRecord::maximumBytes} &&
+           packed.size() <= StateRecord::maximumPackedBytes;
+}
+
 } // namespace
 
 QString StateRecord::encode(const Layouts& layouts)
@@ -59,12 +70,21 @@ QString StateRecord::encode(const Layouts& layouts)
     stream << static_cast<quint32>(layouts.size());
     for (const auto& [mode, text] : layouts)
         stream << mode << text;
-    return tag + QLatin1String(qCompress(bytes).toBase64());
+    const QByteArray packed = qCompress(bytes);
+    if (isWithinLimits(layouts, bytes, packed))
+        return tag + QLatin1String(packed.toBase64());
+    const std::size_t most = std::min<std::size_t>(layouts.size(), 2 * maximumModes);
+    return encode(Layouts(layouts.begin(), std::next(layouts.begin(), std::ptrdiff_t(most / 2))));
+}
+
+bool StateRecord::isTagged(const QString& text)
+{
+    return text.startsWith(tag);
 }
 
 std::optional<StateRecord::Layouts> StateRecord::decode(const QString& text)
 {
-    if (!text.startsWith(tag))
+    if (!isTagged(text))
         return std::nullopt;
     const auto packed = QByteArray::fromBase64Encoding(QStringView(text).mid(tag.size()).toLatin1(),
                                                        QByteArray::AbortOnBase64DecodingErrors);

@@ -15,7 +15,11 @@ namespace StateRecord {
 /// Layout texts by mode number.
 using Layouts = std::map<quint32, QString>;
 
+/// Layouts that would go beyond one of the limits below are left out, those of the highest mode
+/// numbers first.
 QString encode(const Layouts& layouts);
+/// Whether the text begins with the tag.
+bool isTagged(const QString& text);
 /// Nothing for a text that encode() does not make: without the tag, damaged, or beyond one of the
 /// limits below.
 std::optional<Layouts> decode(const QString& text);
