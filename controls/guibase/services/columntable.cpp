@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "columntable_p.h"
 
+#include "damagedrecords_p.h"
+
 #include <guibase/lists/sortlistview.h>
 
 #include <jtbase/geometryarrayparser.h>
 #include <trovappstartup/cfgcenter.h>
 
 #include <QHeaderView>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -30,6 +33,7 @@ QList<ColumnRecord> columnsOf(const QTreeView& list, const QList<ColumnRecord>& 
         }
         columns.append(record);
     }
+    columns += known.mid(columns.size());
     return columns;
 }
 
@@ -58,7 +62,9 @@ void applyColumns(QTreeView& list, QList<ColumnRecord> columns)
         columns.size() == header.count() &&
         std::all_of(columns.cbegin(), columns.cend(), [](const auto& c) { return c.isHidden; });
     for (int column = 0; column < columns.size(); ++column) {
-        list.setColumnWidth(column, columns.at(column).width);
+        // Nobody could grip a column without width.
+        if (columns.at(column).width > 0)
+            list.setColumnWidth(column, columns.at(column).width);
         // Without any column there would be no header to bring the others back with.
         list.setColumnHidden(column, columns.at(column).isHidden && !(isAllHidden && column == 0));
     }
@@ -82,7 +88,7 @@ std::optional<QList<ColumnRecord>> ColumnText::parse(const QString& text)
         return std::nullopt;
     QList<ColumnRecord> columns;
     for (const QList<int>& row : *rows) {
-        if (row.size() != 3)
+        if (row.size() != 3 || row.at(0) > largestWidth)
             return std::nullopt;
         columns.append({row.at(0), row.at(1), row.at(2) != 0});
     }
@@ -91,20 +97,31 @@ std::optional<QList<ColumnRecord>> ColumnText::parse(const QString& text)
 
 void ColumnTable::store(const QString& name, const SortListView* list)
 {
-    if (list == nullptr || !list->isVisible())
+    if (list == nullptr || list == m_applied || !list->isVisible())
         return;
-    QList<ColumnRecord>& columns = m_columns[name];
-    columns = columnsOf(*list, columns);
+    QList<ColumnRecord>& known = m_columns[name];
+    QList<ColumnRecord> columns = columnsOf(*list, known);
+    if (columns == known)
+        return;
+    known = std::move(columns);
     write(name);
 }
 
 void ColumnTable::apply(const QString& name, SortListView* list)
 {
-    const std::unique_ptr<ICfg> cfg = configuration();
-    const auto columns = ColumnText::parse(cfg->GetString(name));
-    if (list == nullptr || !columns || columns->isEmpty())
+    if (list == nullptr)
         return;
+    const std::unique_ptr<ICfg> cfg = configuration();
+    const QString text = cfg->GetString(name);
+    const auto columns = ColumnText::parse(text);
+    if (!columns)
+        DamagedRecords::keepAside(*cfg, name, text, QStringLiteral("the columns are damaged"));
+    if (!columns || columns->isEmpty()) {
+        m_columns.erase(name);
+        return;
+    }
     m_columns[name] = *columns;
+    const QScopedValueRollback applied(m_applied, static_cast<const SortListView*>(list));
     applyColumns(*list, *columns);
 }
 

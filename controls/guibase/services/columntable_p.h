@@ -25,8 +25,11 @@ struct ColumnRecord
 namespace ColumnText {
 
 QString format(const QList<ColumnRecord>& columns);
-/// Nothing for a text with anything but rows of three numbers.
+/// Nothing for a text with anything but rows of three numbers, and for a column of more than
+/// `largestWidth` pixels.
 std::optional<QList<ColumnRecord>> parse(const QString& text);
+
+inline constexpr int largestWidth = 1 << 14;
 
 } // namespace ColumnText
 
@@ -35,11 +38,13 @@ std::optional<QList<ColumnRecord>> parse(const QString& text);
 class ColumnTable
 {
 public:
-    /// Takes the columns of a visible list over; nothing for others. A hidden column keeps the
-    /// width that is known for it.
+    /// Takes the columns of a visible list over; nothing for others, and while the list gets its
+    /// columns. A hidden column keeps the width that is known for it; columns beyond those of the
+    /// list, which may come later, stay known. Cheap enough to be called with every change.
     void store(const QString& name, const SortListView* list);
     /// Gives the list the columns that the configuration has for the name. Columns that it does not
-    /// know stay as they are, and so does everything when the text there is damaged.
+    /// know stay as they are, and so do columns without a width. A damaged text changes nothing and
+    /// is kept aside. May be called again when the list has got more columns.
     void apply(const QString& name, SortListView* list);
     void writeConfiguration() const;
 
@@ -47,4 +52,5 @@ private:
     void write(const QString& name) const;
 
     std::map<QString, QList<ColumnRecord>> m_columns;
+    const SortListView* m_applied = nullptr; ///< The list that gets its columns just now.
 };

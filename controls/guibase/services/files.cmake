@@ -11,6 +11,8 @@ set(services_sources
     applicationsetup_p.h
     columntable.cpp
     columntable_p.h
+    damagedrecords.cpp
+    damagedrecords_p.h
     displaysettings.cpp
     displaysettings_p.h
     dockrestore.cpp

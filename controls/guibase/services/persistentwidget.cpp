@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "persistentwidget_p.h"
 
+#include "damagedrecords_p.h"
 #include "dockrestore_p.h"
 #include "dockstatecheck_p.h"
 #include "hexadecimal_p.h"
 #include "widgetplacement_p.h"
 
-#include <jtbase/errorhandler.h>
 #include <jtbase/qtimerhelpers.h>
 #include <trovappstartup/cfgcenter.h>
 
@@ -18,8 +18,6 @@
 #include <QScopedValueRollback>
 
 namespace {
-
-constexpr char module[] = "guibase/services/persistentwidget";
 
 /// How long window managers take to give a window its stored size, in milliseconds.
 constexpr int sizeMilliseconds = 2000;
@@ -148,7 +146,8 @@ void PersistentWidget::takeLayoutsFromRecord()
 {
     std::optional<StateRecord::Layouts> layouts = StateRecord::decode(m_stateText);
     if (!layouts) {
-        if (!m_stateText.isEmpty())
+        // Without the tag it is somebody else's text.
+        if (StateRecord::isTagged(m_stateText))
             keepAside(QStringLiteral("the dock layouts cannot be read"));
         layouts.emplace();
     }
@@ -169,18 +168,15 @@ void PersistentWidget::takeGeometryFromRecord()
     }
 }
 
-/// Only the last damaged record of a widget is kept, and of an endless one only the beginning.
 void PersistentWidget::keepAside(const QString& reason)
 {
-    constexpr qsizetype longestText = 1 << 20;
-    const QString name = m_record.GetName() + QStringLiteral("_damaged");
-    const std::unique_ptr<ICfg> aside = CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(name);
-    aside->SetString(QStringLiteral("State"), m_stateText.left(longestText));
-    aside->SetString(QStringLiteral("Geometry"), m_geometryText.left(longestText));
-    aside->SetBool(QStringLiteral("Minimized"), m_isMinimized);
-    ErrorHandler::Trace(ErrorHandler::TraceGuiBase, module, __LINE__,
-                        QStringLiteral("Layout record \"%1\": %2; it is kept as \"%3\"")
-                            .arg(m_record.GetName(), reason, name));
+    const QString& name = m_record.GetName();
+    const std::unique_ptr<ICfg> place =
+        CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(DamagedRecords::asideName(name));
+    DamagedRecords::keepAside(
+        *place,
+        {{QStringLiteral("State"), m_stateText}, {QStringLiteral("Geometry"), m_geometryText}},
+        name, reason);
 }
 
 // --- Capturing -----------------------------------------------------------------------------------

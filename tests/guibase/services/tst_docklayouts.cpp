@@ -197,7 +197,7 @@ void TestDockLayouts::damagedRecord_data()
     const auto record = [](const char* hex) {
         return StateRecord::encode({{0, QLatin1String(hex)}, {1, QString()}});
     };
-    QTest::newRow("no state") << QStringLiteral("garbage") << QString();
+    QTest::newRow("no state") << QStringLiteral("DG906NC44LjY=garbage") << QString();
     QTest::newRow("endless docks")
         << record("000000ff00000001fd0000000100000000000000640000006403fc027fffffff") << QString();
     QTest::newRow("not hexadecimal") << record("000000ffx") << QString();
