@@ -3,6 +3,12 @@
 
 #include "guibase.h"
 #include "splitterhandle.h"
+#include "splitterstatecheck_p.h"
+
+#include <jtbase/qtimerhelpers.h>
+
+#include <QChildEvent>
+#include <QShowEvent>
 
 #include <algorithm>
 
@@ -41,18 +47,54 @@ void Splitter::init()
 void Splitter::setSizes(const QList<int>& sizes)
 {
     m_awaitedSizes = sizes.size() > count() ? sizes : QList<int>();
-    QList<int> all = sizes.first(std::min<qsizetype>(sizes.size(), count()));
-    for (int i = static_cast<int>(all.size()); i < count(); ++i) {
+    QSplitter::setSizes(withHints(sizes));
+}
+
+QList<int> Splitter::withHints(QList<int> sizes) const
+{
+    sizes.resize(std::min<qsizetype>(sizes.size(), count()));
+    for (int i = 0; i < count(); ++i) {
+        if (i < sizes.size() && sizes.at(i) >= 0)
+            continue;
         const QSize hint = widget(i)->sizeHint();
-        all.append(std::max(1, orientation() == Qt::Horizontal ? hint.width() : hint.height()));
+        const int size =
+            std::max(1, orientation() == Qt::Horizontal ? hint.width() : hint.height());
+        if (i < sizes.size())
+            sizes[i] = size;
+        else
+            sizes.append(size);
     }
-    QSplitter::setSizes(all);
+    return sizes;
 }
 
 void Splitter::addWidget(QWidget* widget)
 {
     QSplitter::addWidget(widget);
-    if (count() == 1)
+    placeNewWidgets();
+}
+
+void Splitter::insertWidget(int index, QWidget* widget)
+{
+    QSplitter::insertWidget(index, widget);
+    placeNewWidgets();
+}
+
+void Splitter::childEvent(QChildEvent* event)
+{
+    QSplitter::childEvent(event);
+    if (event->removed())
+        m_placedWidgets = std::min(m_placedWidgets, count());
+    else if (event->added() && event->child()->isWidgetType())
+        QTimerHelpers::singleShot(0, this, [this] { placeNewWidgets(); });
+}
+
+void Splitter::placeNewWidgets()
+{
+    if (count() <= m_placedWidgets)
+        return;
+    const bool isFirst = m_placedWidgets == 0;
+    m_placedWidgets = count();
+    if (isFirst)
         applyStored();
     else if (!m_awaitedSizes.isEmpty())
         setSizes(QList<int>(m_awaitedSizes));
@@ -88,7 +130,8 @@ void Splitter::slotKeepSettings(int, int)
 void Splitter::showEvent(QShowEvent* event)
 {
     QSplitter::showEvent(event);
-    applyStored();
+    if (!event->spontaneous())
+        applyStored();
 }
 
 QSplitterHandle* Splitter::createHandle()
@@ -119,13 +162,14 @@ int Splitter::minimumSizeOf(int widgetIndex) const
 
 void Splitter::moveBorder(const Neighbours& border, int sizeBefore, int index)
 {
-    QList<int> all = sizes();
+    QList<int> all = SplitterStateCheck::withHidden(
+        sizes(), SplitterStateCheck::sizes(saveState()).value_or(QList<int>()));
     const int total = all.at(border.before) + all.at(border.after);
     const int lowest = std::min(minimumSizeOf(border.before), total);
     const int highest = std::max(lowest, total - minimumSizeOf(border.after));
     all[border.before] = std::clamp(sizeBefore, lowest, highest);
     all[border.after] = total - all.at(border.before);
-    QSplitter::setSizes(all);
+    QSplitter::setSizes(withHints(all));
     const QPoint position = handle(index)->pos();
     Q_EMIT splitterMoved(orientation() == Qt::Horizontal ? position.x() : position.y(), index);
 }

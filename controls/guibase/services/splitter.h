@@ -9,8 +9,10 @@
 /// A splitter that keeps its positions from run to run, under its name followed by its variant.
 ///
 /// Positions are stored whenever the user moves a handle, and come back when the splitter gets its
-/// widgets, is shown, or gets another variant. An empty name means that nothing is kept. Resizing
-/// is not opaque: the widgets follow when the handle is let go. The handles are SplitterHandles.
+/// widgets, is shown, or gets another variant; but not when its window only comes back from being
+/// minimized, which would undo sizes that the application has set meanwhile. An empty name means
+/// that nothing is kept. Resizing is not opaque: the widgets follow when the handle is let go. The
+/// handles are SplitterHandles.
 class GUIBASE_EXPORT Splitter : public QSplitter
 {
     Q_OBJECT
@@ -22,10 +24,13 @@ public:
     ~Splitter() override;
 
     /// Sizes in pixels, by widget. Sizes beyond the widgets are kept for the widgets that are added
-    /// next, until the user moves a handle; widgets beyond the sizes get the size they ask for.
+    /// next, until the user moves a handle; widgets beyond the sizes, and with a negative one, get
+    /// the size they ask for.
     void setSizes(const QList<int>& sizes);
-    /// Also gives the widget the size that is stored or kept for it.
+    /// Also give the widget the size that is stored or kept for it; one that gets here as a child
+    /// gets it as soon as the event loop runs.
     void addWidget(QWidget* widget);
+    void insertWidget(int index, QWidget* widget);
     /// Applies the positions that are stored for the variant, here and in child splitters.
     void setVariant(const QString& variant);
 
@@ -42,6 +47,7 @@ public Q_SLOTS:
 protected:
     void init();
     void showEvent(QShowEvent* event) override;
+    void childEvent(QChildEvent* event) override;
     QSplitterHandle* createHandle() override;
 
 private:
@@ -56,9 +62,12 @@ private:
     Neighbours neighbours(int index) const;
     int minimumSizeOf(int widgetIndex) const;
     void moveBorder(const Neighbours& border, int sizeBefore, int index);
+    QList<int> withHints(QList<int> sizes) const;
     void applyStored();
+    void placeNewWidgets();
 
     QString m_name;
     QString m_variant;
     QList<int> m_awaitedSizes;
+    int m_placedWidgets = 0;
 };

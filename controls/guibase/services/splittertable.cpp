@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "splittertable_p.h"
 
+#include "damagedrecords_p.h"
 #include "hexadecimal_p.h"
 #include "splitter.h"
 #include "splitterstatecheck_p.h"
@@ -22,11 +23,20 @@ std::unique_ptr<ICfg> configuration()
     return CfgCenter::GetAppCfg(LayoutView)->OpenSubCfg(QStringLiteral("Splitter"));
 }
 
-bool isPlausible(const QList<int>& sizes)
+std::optional<QList<int>> stateSizes(const QString& text)
+{
+    const auto state = Hexadecimal::decode(text);
+    return state ? SplitterStateCheck::sizes(*state) : std::nullopt;
+}
+
+std::optional<QList<int>> parsedSizes(const QString& text)
 {
     constexpr int largest = 1 << 16;
-    return std::all_of(sizes.cbegin(), sizes.cend(),
-                       [](int size) { return size >= 0 && size <= largest; });
+    auto sizes = GeometryArrayParser::parseList(text);
+    const auto isPlausible = [](int size) { return size >= 0 && size <= largest; };
+    if (sizes && !std::all_of(sizes->cbegin(), sizes->cend(), isPlausible))
+        sizes.reset();
+    return sizes;
 }
 
 } // namespace
@@ -56,14 +66,30 @@ void SplitterTable::apply(const QString& key, Splitter* splitter) const
 {
     if (splitter == nullptr || splitter->count() == 0)
         return;
-    const auto state = Hexadecimal::decode(value(key + stateSuffix));
+    const auto checked = [this](const QString& name, bool (*isGood)(const QString&)) {
+        const QString text = value(name);
+        if (text.isEmpty() || isGood(text))
+            return text;
+        DamagedRecords::keepAside(*configuration(), name, text,
+                                  QStringLiteral("the splitter positions are damaged"));
+        return QString();
+    };
+    const QString state = checked(key + stateSuffix,
+                                  [](const QString& text) { return stateSizes(text).has_value(); });
+    const QString geometry = checked(key + geometrySuffix, [](const QString& text) {
+        return !WidgetPlacement::fromText(text).isEmpty();
+    });
+    const QString sizes = checked(
+        key + sizesSuffix, [](const QString& text) { return parsedSizes(text).has_value(); });
+
+    const QList<int> known = stateSizes(state).value_or(QList<int>());
     // A state that knows fewer widgets would collapse the others.
-    if (state && SplitterStateCheck::widgetCount(*state).value_or(0) >= splitter->count())
-        splitter->restoreState(*state);
-    WidgetPlacement::apply(*splitter, WidgetPlacement::fromText(value(key + geometrySuffix)));
-    const auto sizes = GeometryArrayParser::parseList(value(key + sizesSuffix));
-    if (sizes && sizes->size() >= 2 && isPlausible(*sizes))
-        splitter->setSizes(*sizes);
+    if (known.size() >= splitter->count())
+        splitter->restoreState(*Hexadecimal::decode(state));
+    WidgetPlacement::apply(*splitter, WidgetPlacement::fromText(geometry));
+    const QList<int> all = parsedSizes(sizes).value_or(QList<int>());
+    if (all.size() >= 2)
+        splitter->setSizes(SplitterStateCheck::withHidden(all, known));
 }
 
 void SplitterTable::writeConfiguration() const

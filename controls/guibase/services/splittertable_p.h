@@ -15,7 +15,7 @@ public:
     /// Takes the positions of a visible splitter over; nothing for others.
     void store(const QString& key, const Splitter* splitter);
     /// Gives the splitter the positions that were stored last, in this run or an earlier one.
-    /// Damaged ones change nothing. A splitter without widgets stays as it is.
+    /// Damaged ones change nothing and are kept aside. A splitter without widgets stays as it is.
     void apply(const QString& key, Splitter* splitter) const;
     void writeConfiguration() const;
 
