@@ -241,7 +241,9 @@ private Q_SLOTS:
         OwnedSegments odd;
         odd.add(1, 0.5, {noLevel, 1e-20F, -28.5F, 100, -28.12345F});
         ReadRecording oddReader;
-        oddReader.read(sweepText(odd.sweep()).toStdString());
+        const QByteArray remark = receiverRemark(QStringLiteral("0x1F"));
+        oddReader.read((remark + sweepText(odd.sweep())).toStdString());
+        QCOMPARE(oddReader.parser.report(), QString());
         QCOMPARE(oddReader.text(), sweepText(odd.sweep()) + '\n');
         QCOMPARE(sweepText(odd.sweep()),
                  QByteArray("1970-01-01, 00:00:00, 1, 3.50, 0.50, 1, nan, 0.00000000000000000001, "

@@ -90,6 +90,7 @@ ReceiverPane::ReceiverPane(QWidget* parent)
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(m_content);
+    m_scrollBar = area->verticalScrollBar();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(area);
@@ -108,7 +109,7 @@ void ReceiverPane::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     m_form->setRowWrapPolicy(QFormLayout::DontWrapRows);
-    if (m_form->minimumSize().width() > width())
+    if (m_form->minimumSize().width() > width() - m_scrollBar->sizeHint().width())
         m_form->setRowWrapPolicy(QFormLayout::WrapAllRows);
 }
 

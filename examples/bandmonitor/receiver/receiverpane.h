@@ -7,6 +7,7 @@
 
 class QCheckBox;
 class QFormLayout;
+class QScrollBar;
 
 namespace ComboBoxes {
 class DoubleComboBox;
@@ -70,6 +71,7 @@ private:
 
     QFormLayout* m_form;
     QWidget* m_content;
+    QScrollBar* m_scrollBar = nullptr;
     SpinBoxes::FrequencySpinBox* m_centre = nullptr;
     SpinBoxes::FrequencySpinBox* m_span = nullptr;
     SpinBoxes::FrequencySpinBox* m_resolution = nullptr;
