@@ -2,6 +2,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDockWidget>
+#include <QPointer>
+
+#include <vector>
 
 class QMainWindow;
 
@@ -11,8 +15,26 @@ namespace DockRestore {
 inline constexpr int stateVersion = 1;
 
 QByteArray save(const QMainWindow& window);
-/// Applies the layout. Docks that it does not know stay where they are. A state that
+/// Applies the layout. Docks and tool bars that it does not know stay where they are: in their
+/// area, tabs and line. Floating docks come back whole on a screen of today. A state that
 /// DockStateCheck refuses changes nothing.
 void restore(QMainWindow& window, const QByteArray& state);
+
+/// Where a dock is in its window, regardless of sizes.
+struct Place
+{
+    QPointer<QDockWidget> dock;
+    Qt::DockWidgetArea area;
+    bool isFloating;
+    bool isHidden;
+    qsizetype tabs; ///< How many other docks it shares its place with.
+
+    bool operator==(const Place&) const = default;
+};
+using Places = std::vector<Place>;
+
+Places places(const QMainWindow& window);
+/// Whether one of the docks is at another place by now. Docks that are gone do not count.
+bool isRearranged(const Places& places);
 
 } // namespace DockRestore

@@ -23,8 +23,10 @@ constexpr quint8 allFlags = 3;
 class DockWalk
 {
 public:
-    explicit DockWalk(const QByteArray& state)
+    /// Enters the names into `names` unless that is null.
+    DockWalk(const QByteArray& state, DockStateCheck::Names* names)
         : m_walk(state)
+        , m_names(names)
     {}
 
     bool state(int version);
@@ -42,6 +44,7 @@ private:
     qint32 count(qint32 lowest, int& total);
 
     StateWalk m_walk;
+    DockStateCheck::Names* m_names;
     int m_docks = 0;
     int m_toolBars = 0;
 };
@@ -101,7 +104,9 @@ void DockWalk::row(int depth)
 
 void DockWalk::dock()
 {
-    m_walk.text(longestName);
+    const QByteArrayView name = m_walk.text(longestName);
+    if (m_names != nullptr)
+        m_names->docks.insert(StateWalk::decoded(name));
     const quint8 flags = m_walk.byte(0, allFlags);
     if ((flags & floatingFlag) == 0) {
         extent();
@@ -135,7 +140,9 @@ void DockWalk::toolBars()
 
 void DockWalk::toolBar()
 {
-    m_walk.text(longestName);
+    const QByteArrayView name = m_walk.text(longestName);
+    if (m_names != nullptr)
+        m_names->toolBars.insert(StateWalk::decoded(name));
     m_walk.byte(0, allFlags); // shown, vertical
     m_walk.number(-farthest, farthest);
     m_walk.number(-1, farthest);
@@ -169,5 +176,13 @@ qint32 DockWalk::count(qint32 lowest, int& total)
 
 bool DockStateCheck::isValid(const QByteArray& state, int version)
 {
-    return state.size() <= maximumSize && DockWalk(state).state(version);
+    return state.size() <= maximumSize && DockWalk(state, nullptr).state(version);
+}
+
+std::optional<DockStateCheck::Names> DockStateCheck::names(const QByteArray& state, int version)
+{
+    Names result;
+    if (state.size() > maximumSize || !DockWalk(state, &result).state(version))
+        return std::nullopt;
+    return result;
 }

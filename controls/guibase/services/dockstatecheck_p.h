@@ -2,6 +2,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSet>
+#include <QString>
+
+#include <optional>
 
 /// Checks of stored main-window layouts. QMainWindow::restoreState() trusts positions, counts and
 /// nesting in a state, and may crash or never return on a damaged one; so a state is walked through
@@ -11,6 +15,15 @@ namespace DockStateCheck {
 /// Whether the bytes are a whole state as QMainWindow::saveState(version) writes it: the dock areas
 /// with their nested rows and tabs, groups of floating docks, and the tool-bar lines.
 bool isValid(const QByteArray& state, int version);
+
+/// The object names in a state.
+struct Names
+{
+    QSet<QString> docks;
+    QSet<QString> toolBars;
+};
+/// Nothing for a state that is not valid.
+std::optional<Names> names(const QByteArray& state, int version);
 
 inline constexpr int maximumSize = 1 << 20; ///< In bytes.
 inline constexpr int maximumDepth = 32;     ///< Of rows in rows.

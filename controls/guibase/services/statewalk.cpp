@@ -46,12 +46,20 @@ quint8 StateWalk::byte(quint8 lowest, quint8 highest)
     return expect(value >= lowest && value <= highest) ? value : quint8{0};
 }
 
-void StateWalk::text(qint32 maximumSize)
+QByteArrayView StateWalk::text(qint32 maximumSize)
 {
     constexpr qint32 nullText = -1;
     const qint32 bytes = number();
-    if (bytes == nullText)
-        return;
-    if (expect(bytes >= 0 && bytes % 2 == 0 && bytes / 2 <= maximumSize))
-        take(bytes);
+    if (bytes == nullText || !expect(bytes >= 0 && bytes % 2 == 0 && bytes / 2 <= maximumSize))
+        return {};
+    const char* start = take(bytes);
+    return start != nullptr ? QByteArrayView(start, bytes) : QByteArrayView();
+}
+
+QString StateWalk::decoded(QByteArrayView text)
+{
+    QString result(text.size() / 2, Qt::Uninitialized);
+    for (qsizetype i = 0; i < result.size(); ++i)
+        result[i] = QChar(qFromBigEndian<char16_t>(text.data() + 2 * i));
+    return result;
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
 #include <QtGlobal>
 
 /// Reads a stored state value by value and remembers whether all of them were there and as they may
@@ -18,8 +20,9 @@ public:
     quint8 byte();
     /// A byte from `lowest` to `highest`.
     quint8 byte(quint8 lowest, quint8 highest);
-    /// Passes over a text of at most so many UTF-16 units.
-    void text(qint32 maximumSize);
+    /// The bytes of a text of at most so many UTF-16 units, for decoded().
+    QByteArrayView text(qint32 maximumSize);
+    static QString decoded(QByteArrayView text);
     bool expect(bool condition);
     bool isFine() const { return m_isFine; }
     bool atEnd() const { return m_position == m_state.size(); }
