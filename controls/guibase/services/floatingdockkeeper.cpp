@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "floatingdockkeeper_p.h"
 
+#include "widgetplacement_p.h"
+
 #include <jtbase/qtimerhelpers.h>
 
 #include <QDockWidget>
@@ -18,7 +20,7 @@ FloatingDockKeeper::FloatingDockKeeper(QDockWidget& dock)
 void FloatingDockKeeper::keep(QDockWidget& dock)
 {
     delete dock.findChild<FloatingDockKeeper*>(QString(), Qt::FindDirectChildrenOnly);
-    new FloatingDockKeeper(dock);
+    (new FloatingDockKeeper(dock))->putBack();
 }
 
 bool FloatingDockKeeper::eventFilter(QObject*, QEvent* event)
@@ -45,8 +47,12 @@ bool FloatingDockKeeper::eventFilter(QObject*, QEvent* event)
 void FloatingDockKeeper::putBack()
 {
     const bool isKept = m_dock.isFloating() && !m_dock.isMaximized() && !m_dock.isMinimized();
-    if (m_timesLeft == 0 || !isKept || m_dock.geometry() == m_geometry)
+    if (m_timesLeft == 0 || !isKept)
+        return;
+    // Its frame may have come only now.
+    const QRect place = WidgetPlacement::reachableGeometry(m_geometry, m_dock);
+    if (m_dock.geometry() == place)
         return;
     --m_timesLeft;
-    m_dock.setGeometry(m_geometry);
+    m_dock.setGeometry(place);
 }

@@ -15,7 +15,8 @@ class FloatingDockKeeper : public QObject
 {
     Q_OBJECT
 public:
-    /// Holds the dock at its present geometry, instead of at a former one.
+    /// Holds the dock at its present geometry, or at the nearest one whole on a screen, instead of
+    /// at a former one.
     static void keep(QDockWidget& dock);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

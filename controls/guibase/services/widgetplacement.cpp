@@ -27,14 +27,20 @@ QMargins frameMargins(const QRect& outer, const QRect& inner)
             margin(outer.right() - inner.right()), margin(outer.bottom() - inner.bottom())};
 }
 
-/// The record for the screens of today. The toolkit refuses records from screens of another width,
-/// so the width is brought up to date too.
-GeometryRecord adapted(GeometryRecord record, const QWidget& window)
+QList<QRect> screenAreas()
 {
     const QList<QScreen*> screens = QGuiApplication::screens();
     QList<QRect> areas;
     for (const QScreen* screen : screens)
         areas.append(screen->availableGeometry());
+    return areas;
+}
+
+/// The record for the screens of today. The toolkit refuses records from screens of another width,
+/// so the width is brought up to date too.
+GeometryRecord adapted(GeometryRecord record, const QWidget& window)
+{
+    const QList<QRect> areas = screenAreas();
     if (record.normal.isEmpty())
         return record;
 
@@ -47,7 +53,7 @@ GeometryRecord adapted(GeometryRecord record, const QWidget& window)
     if (home >= 0) {
         record.screen = home;
         if (record.version >= 2)
-            record.screenWidth = screens.at(home)->geometry().width();
+            record.screenWidth = QGuiApplication::screens().at(home)->geometry().width();
     }
     if (reachable != frame) {
         record.normal = reachable - margins;
@@ -69,32 +75,44 @@ bool isPlacedByParent(QWidget& widget)
 
 } // namespace
 
-QByteArray WidgetPlacement::fromText(const QString& text)
+QByteArray WidgetPlacement::fromText(const QString& text, bool isWindow)
 {
     const QByteArray bytes = Hexadecimal::decode(text).value_or(QByteArray());
-    return GeometryRecord::fromBytes(bytes) ? bytes : QByteArray();
+    const auto record = GeometryRecord::fromBytes(bytes);
+    if (!record ||
+        (isWindow && std::min(record->normal.width(), record->normal.height()) < smallestWindow))
+        return {};
+    return bytes;
 }
 
-void WidgetPlacement::apply(QWidget& widget, const QByteArray& bytes)
+QSize WidgetPlacement::apply(QWidget& widget, const QByteArray& bytes)
 {
     std::optional<GeometryRecord> record = GeometryRecord::fromBytes(bytes);
     if (!record || isPlacedByParent(widget))
-        return;
+        return {};
     // Child widgets do not always know a normal place.
     if (record->normal.isEmpty())
         record->normal = record->geometry;
     if (widget.isWindow())
         record = adapted(*record, widget);
+    const QSize size = record->isNormal() ? record->normal.size() : record->geometry.size();
     const Qt::WindowStates large = (record->maximized ? Qt::WindowMaximized : Qt::WindowNoState) |
                                    (record->fullScreen ? Qt::WindowFullScreen : Qt::WindowNoState);
     constexpr Qt::WindowStates allLarge = Qt::WindowMaximized | Qt::WindowFullScreen;
     // The toolkit would shrink a window that is maximized already, and leave it so.
     if (widget.isVisible() && large && (widget.windowState() & allLarge) == large)
-        return;
+        return size;
     const QPointer<QWidget> guard(&widget);
     widget.restoreGeometry(record->toBytes());
     // The toolkit shifts and shrinks windows at the edges of the screen by a title bar's height.
     constexpr Qt::WindowStates notNormal = allLarge | Qt::WindowMinimized;
     if (guard && !(widget.windowState() & notNormal) && widget.geometry() != record->normal)
         widget.setGeometry(record->normal);
+    return size;
+}
+
+QRect WidgetPlacement::reachableGeometry(const QRect& geometry, const QWidget& window)
+{
+    const QMargins margins = frameMargins(window.frameGeometry(), window.geometry());
+    return ScreenPlacement::reachable(geometry + margins, screenAreas()) - margins;
 }
