@@ -2,7 +2,6 @@
 #include "persistentwidget_p.h"
 
 #include "damagedrecords_p.h"
-#include "dockrestore_p.h"
 #include "dockstatecheck_p.h"
 #include "hexadecimal_p.h"
 #include "widgetplacement_p.h"
@@ -16,6 +15,7 @@
 #include <QMdiSubWindow>
 #include <QRegularExpression>
 #include <QScopedValueRollback>
+#include <QTimer>
 
 namespace {
 
@@ -100,9 +100,14 @@ void PersistentWidget::read()
 void PersistentWidget::write()
 {
     // Captures on the way to the record are no news.
-    m_isChanged = true;
+    const QScopedValueRollback<bool> writing(m_isWriting, true);
     m_record.Write(QString());
     m_isChanged = false;
+}
+
+bool PersistentWidget::hasChanges() const
+{
+    return m_isChanged;
 }
 
 void PersistentWidget::writeChanges()
@@ -151,18 +156,23 @@ void PersistentWidget::takeLayoutsFromRecord()
             keepAside(QStringLiteral("the dock layouts cannot be read"));
         layouts.emplace();
     }
+    bool isWhole = !layouts->empty();
     for (auto& [mode, text] : *layouts) {
         if (text.isEmpty() || isDockLayout(text))
             continue;
         keepAside(QStringLiteral("the dock layout of mode %1 is damaged").arg(mode));
         text.clear();
+        isWhole = false;
     }
     m_modes.load(*layouts);
+    if (isWhole)
+        m_encodedLayouts = m_modes.texts();
 }
 
 void PersistentWidget::takeGeometryFromRecord()
 {
-    if (!m_geometryText.isEmpty() && WidgetPlacement::fromText(m_geometryText).isEmpty()) {
+    if (!m_geometryText.isEmpty() &&
+        WidgetPlacement::fromText(m_geometryText, m_widget->isWindow()).isEmpty()) {
         keepAside(QStringLiteral("the geometry is damaged"));
         m_geometryText.clear();
     }
@@ -192,7 +202,7 @@ void PersistentWidget::update(T& member, const T& value)
 
 void PersistentWidget::noteChange()
 {
-    if (m_isChanged)
+    if (m_isWriting)
         return;
     m_isChanged = true;
     Q_EMIT changed();
@@ -207,7 +217,12 @@ void PersistentWidget::capture()
     if (!m_widget->isMinimized())
         update(m_geometryText, Hexadecimal::encode(m_widget->saveGeometry()));
     update(m_isMinimized, m_widget->isMinimized());
-    if (docks != nullptr && m_awaitingState.isEmpty())
+    if (docks == nullptr || m_isRestoringDocks)
+        return;
+    // The application or the user has other plans than the layout that is awaited.
+    if (DockRestore::isRearranged(m_awaitedPlaces))
+        endAwaiting();
+    if (m_awaitingState.isEmpty())
         update(m_modes.current().stateText, Hexadecimal::encode(DockRestore::save(*docks)));
 }
 
@@ -230,6 +245,11 @@ bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
     case QEvent::LayoutRequest:
         // Docks come, go and move; their places are captured with the next write.
         noteChange();
+        break;
+    case QEvent::MouseButtonPress:
+    case QEvent::NonClientAreaMouseButtonPress:
+    case QEvent::KeyPress:
+        endAwaiting();
         break;
     case QEvent::ChildPolished: {
         QObject* child = static_cast<QChildEvent*>(event)->child();
@@ -280,13 +300,16 @@ void PersistentWidget::applyStart()
     const bool isStored = !m_geometryText.isEmpty();
     m_startGeometry =
         isStored ? WidgetPlacement::fromText(m_geometryText) : m_widget->saveGeometry();
+    QSize size;
     if (isStored)
-        WidgetPlacement::apply(*m_widget, m_startGeometry);
+        size = WidgetPlacement::apply(*m_widget, m_startGeometry);
     if (m_widget)
         m_widget->show();
     applyCurrentLayout();
-    if (isStored)
+    if (isStored) {
         restoreGeometryIfMoved(m_startGeometry);
+        awaitSize(size);
+    }
     if (m_startMinimized == StartMinimized::Unknown)
         m_startMinimized = m_isMinimized ? StartMinimized::Yes : StartMinimized::No;
     if (m_isMinimized)
@@ -308,7 +331,6 @@ void PersistentWidget::applyCurrentLayout()
         layout.programStartState = state.isEmpty() ? present : state;
     if (state != present)
         restoreDocks(state);
-    awaitStoredSize(state);
 }
 
 void PersistentWidget::restoreDocks(const QByteArray& state)
@@ -317,7 +339,6 @@ void PersistentWidget::restoreDocks(const QByteArray& state)
     if (docks == nullptr || state.isEmpty() || m_isRestoringDocks)
         return;
     const QScopedValueRollback<bool> restoring(m_isRestoringDocks, true);
-    m_awaitingState.clear();
     const bool isInner = docks != m_widget;
     if (isInner)
         docks->removeEventFilter(this);
@@ -328,26 +349,52 @@ void PersistentWidget::restoreDocks(const QByteArray& state)
 
 /// A window that is still on its way to its stored size, as maximized ones are, is too small for
 /// its docks: they would come back squeezed. They are put in place again with each resizing until
-/// the size is there.
-void PersistentWidget::awaitStoredSize(const QByteArray& state)
+/// the size is there, or somebody else arranges them.
+void PersistentWidget::awaitSize(const QSize& size)
 {
-    const auto geometry = GeometryRecord::fromBytes(m_startGeometry);
-    if (state.isEmpty() || !geometry || !m_widget || m_mainWindow != m_widget ||
-        m_widget->size() == geometry->geometry.size())
+    m_awaitedSize = size;
+    const QByteArray state =
+        Hexadecimal::decode(m_modes.current().stateText).value_or(QByteArray());
+    if (state.isEmpty() || !size.isValid() || m_mainWindow != m_widget || hasAwaitedSize())
         return;
     m_awaitingState = state;
-    m_awaitedSize = geometry->geometry.size();
-    QTimerHelpers::singleShot(sizeMilliseconds, this, [this] { m_awaitingState.clear(); });
+    m_awaitedPlaces = DockRestore::places(*mainWindow());
+    m_awaitingTimer = QTimerHelpers::singleShot(sizeMilliseconds, this, [this] {
+        m_awaitingTimer.clear(); // It deletes itself.
+        endAwaiting();
+    });
+}
+
+/// True also without a widget.
+bool PersistentWidget::hasAwaitedSize() const
+{
+    return !m_widget ||
+           m_widget->size() ==
+               m_awaitedSize.expandedTo(m_widget->minimumSize()).boundedTo(m_widget->maximumSize());
+}
+
+/// What has changed while the size was awaited is there to be captured now.
+void PersistentWidget::endAwaiting()
+{
+    if (m_awaitingState.isEmpty())
+        return;
+    m_awaitingState.clear();
+    m_awaitedPlaces.clear();
+    delete m_awaitingTimer;
+    noteChange();
 }
 
 void PersistentWidget::applyAwaited()
 {
-    const QByteArray state = m_awaitingState;
-    if (state.isEmpty())
+    if (DockRestore::isRearranged(m_awaitedPlaces))
+        endAwaiting();
+    if (m_awaitingState.isEmpty())
         return;
-    restoreDocks(state);
-    if (m_widget && m_widget->size() != m_awaitedSize)
-        m_awaitingState = state;
+    restoreDocks(m_awaitingState);
+    if (hasAwaitedSize() || mainWindow() == nullptr)
+        endAwaiting();
+    else if (!m_awaitingState.isEmpty())
+        m_awaitedPlaces = DockRestore::places(*mainWindow());
 }
 
 void PersistentWidget::restoreGeometryIfMoved(const QByteArray& geometry)
@@ -379,7 +426,7 @@ void PersistentWidget::restore(const QByteArray& geometry, QByteArray ModeLayout
 {
     if (!m_widget)
         return;
-    m_awaitingState.clear();
+    endAwaiting();
     m_modes.reset(state);
     unwatch();
     if (!geometry.isEmpty()) {
@@ -401,6 +448,8 @@ void PersistentWidget::restore(const QByteArray& geometry, QByteArray ModeLayout
 void PersistentWidget::setMode(quint32 mode)
 {
     capture();
+    const bool isAwaiting = !m_awaitingState.isEmpty();
+    endAwaiting();
     m_modes.setCurrent(mode);
     if (!m_widget)
         return;
@@ -408,6 +457,8 @@ void PersistentWidget::setMode(quint32 mode)
     unwatch();
     applyCurrentLayout();
     restoreGeometryIfMoved(geometry);
+    if (isAwaiting)
+        awaitSize(QSize(m_awaitedSize));
     watch();
     noteChange();
 }

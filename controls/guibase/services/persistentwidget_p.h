@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dockrestore_p.h"
 #include "modetable_p.h"
 
 #include <trovappstartup/savecomponentif.h>
@@ -13,9 +14,13 @@
 #include <QWidget>
 
 class QMainWindow;
+class QTimer;
 
 /// Keeps the geometry of one window, and its dock layout in each mode, from run to run, in a
 /// configuration record of its own.
+///
+/// A change of the mode changes the docks only. It does not show the window, which the user may
+/// have closed, nor minimize it, and the program start stays the one of the record.
 ///
 /// The widget is not owned. What it looked like last is remembered with every change, so that it
 /// can be written also after the widget is gone. A stored state that does not pass its check is not
@@ -37,14 +42,14 @@ public:
     /// Reads the record, applies it to the widget and shows the widget. To be called once.
     void read();
     void write();
+    bool hasChanges() const;
     /// Writes only if something has changed since the last write.
     void writeChanges();
     void restoreProgramStart();
     void restoreFactory();
     void capture();
     void applyAwaited();
-    /// Captures the dock layout of the current mode and applies that of another one. Neither shows
-    /// nor minimizes the widget.
+    /// Captures the dock layout of the current mode and applies that of another one.
     void setMode(quint32 mode);
     /// Makes the present dock layout the factory layout of the mode; the current mode stays.
     void storeFactory(quint32 mode);
@@ -61,7 +66,7 @@ public:
     static constexpr int minimizeMilliseconds = 1500;
 
 Q_SIGNALS:
-    /// There is something to write that was not there before.
+    /// There is something to write, with every change anew.
     void changed();
     /// The main window was resized while docks wait for that: applyAwaited() must be called, by
     /// somebody who keeps this object alive during the call.
@@ -81,7 +86,9 @@ private:
     void applyCurrentLayout();
     void restore(const QByteArray& geometry, QByteArray ModeLayout::*state);
     void restoreDocks(const QByteArray& state);
-    void awaitStoredSize(const QByteArray& state);
+    void awaitSize(const QSize& size);
+    bool hasAwaitedSize() const;
+    void endAwaiting();
     void restoreGeometryIfMoved(const QByteArray& geometry);
     void minimizeLater();
     void watch();
@@ -106,9 +113,13 @@ private:
     QString m_stateText;
     StateRecord::Layouts m_encodedLayouts; ///< What m_stateText holds; packing takes its time.
     bool m_isChanged = false;
+    bool m_isWriting = false;
     /// The toolkit cannot restore a main window from within its own restoring.
     bool m_isRestoringDocks = false;
-    /// A dock layout for a main window that has not got its stored size yet, and that size.
+    /// A dock layout for a main window that has not got its stored size yet, that size, and the
+    /// docks as the layout has put them.
     QByteArray m_awaitingState;
     QSize m_awaitedSize;
+    DockRestore::Places m_awaitedPlaces;
+    QPointer<QTimer> m_awaitingTimer;
 };

@@ -106,12 +106,21 @@ void PersistentWidgetRegistry::setWriteDelay(int milliseconds)
 {
     m_writeDelay = milliseconds;
     delete m_writeTimer;
+    if (std::any_of(m_widgets.cbegin(), m_widgets.cend(),
+                    [](const auto& entry) { return entry->hasChanges(); }))
+        scheduleWrite();
 }
 
 void PersistentWidgetRegistry::scheduleWrite()
 {
-    if (m_writeDelay < 0 || m_writeTimer)
+    if (m_writeDelay < 0)
         return;
+    if (m_writeTimer) {
+        const qint64 left = qint64{m_writeDelay} * longestDelays - m_sinceFirstChange.elapsed();
+        m_writeTimer->start(static_cast<int>(std::clamp<qint64>(left, 0, m_writeDelay)));
+        return;
+    }
+    m_sinceFirstChange.start();
     m_writeTimer = QTimerHelpers::singleShot(m_writeDelay, QCoreApplication::instance(),
                                              [this] { writeChanges(); });
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -17,7 +18,7 @@ class QWidget;
 ///
 /// Widgets are not owned. One that is destroyed has its last layout written; its entry goes with
 /// the next registration or unregistration. While the event loop runs, layouts are written a while
-/// after they have changed.
+/// after they have changed last; while they go on changing, after `longestDelays` such whiles.
 class PersistentWidgetRegistry : public QObject
 {
     Q_OBJECT
@@ -42,6 +43,7 @@ public:
     /// Time from a change to its writing in milliseconds; negative switches writing off.
     void setWriteDelay(int milliseconds);
     static constexpr int defaultWriteDelay = 2000;
+    static constexpr int longestDelays = 10;
 
 private:
     /// Calls the operation for every widget, also when an application's handler registers or
@@ -56,4 +58,5 @@ private:
     int m_writeDelay = defaultWriteDelay;
     /// Belongs to the application object, which may be gone before this object.
     QPointer<QTimer> m_writeTimer;
+    QElapsedTimer m_sinceFirstChange;
 };

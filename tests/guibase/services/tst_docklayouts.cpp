@@ -171,9 +171,15 @@ void TestDockLayouts::unknownDock()
         m_services->StoreWidgetSize();
     }
     Window window;
+    window.addToolBarBreak();
+    auto* bar = window.addToolBar(QStringLiteral("new"));
+    bar->setObjectName(QStringLiteral("new"));
     const Qt::DockWidgetArea area = window.dockWidgetArea(window.dock(added));
+    const auto tabs = window.tabifiedDockWidgets(window.dock(added));
     window.enlist();
     QCOMPARE(window.dockWidgetArea(window.dock(added)), area);
+    QCOMPARE(window.tabifiedDockWidgets(window.dock(added)), tabs);
+    QVERIFY(window.toolBarBreak(bar));
     QVERIFY(!window.dock(added)->isHidden());
     QVERIFY(window.dock("A")->isHidden());
 }
@@ -202,6 +208,10 @@ void TestDockLayouts::damagedRecord_data()
         << record("000000ff00000001fd0000000100000000000000640000006403fc027fffffff") << QString();
     QTest::newRow("not hexadecimal") << record("000000ffx") << QString();
     QTest::newRow("geometry") << QString() << QStringLiteral("01d9d0cb00030000");
+    Window tiny;
+    tiny.setMinimumSize(1, 1);
+    tiny.resize(1, 400);
+    QTest::newRow("too narrow") << QString() << QString::fromLatin1(tiny.saveGeometry().toHex());
 }
 
 /// What is damaged is not applied, and not lost.
