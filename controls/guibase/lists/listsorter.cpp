@@ -101,10 +101,10 @@ void ListSorter::Run::readKeys(QTreeWidgetItem& root, int column, const Run* ear
 
 void ListSorter::Run::rank(const std::vector<SortListViewItem*>& items)
 {
-    const std::optional<std::vector<quint32>> ranks = keys.ranks();
+    const std::optional<std::vector<double>> ranks = keys.ranks();
     isRanked = ranks.has_value();
     for (std::size_t i = 0; isRanked && i < items.size(); ++i)
-        items[i]->m_sortRank = ranks->at(i);
+        items[i]->m_sortRank = (*ranks)[i];
 }
 
 void ListSorter::sortAll(int column, Qt::SortOrder order)
@@ -155,7 +155,7 @@ void ListSorter::rowsInserted(const QModelIndex& parent, int, int last)
 void ListSorter::itemArrived(QTreeWidgetItem& item)
 {
     // It may have been in the list before, with other texts.
-    if (auto* const listItem = dynamic_cast<SortListViewItem*>(&item))
+    if (auto* const listItem = castItem(&item))
         listItem->m_sortRun = 0;
 }
 

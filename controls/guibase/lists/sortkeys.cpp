@@ -3,16 +3,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <limits>
 
 namespace {
-
-struct NumberAt
-{
-    double number;
-    quint32 row;
-};
 
 /// A text with its first characters as one number.
 struct TextAt
@@ -102,15 +95,15 @@ double numberOf(QStringView text)
 }
 
 /// The places of the rows among the sorted ones; rows that are equal have the same one.
-template <typename Row, typename Less>
-std::vector<quint32> sortedRanks(std::vector<Row> rows, Less less)
+template <typename Less>
+std::vector<double> sortedRanks(std::vector<TextAt> rows, Less less)
 {
     // In a list that rows were appended to, the others are sorted already.
     const auto sortedEnd = std::is_sorted_until(rows.begin(), rows.end(), less);
     std::sort(sortedEnd, rows.end(), less);
     std::inplace_merge(rows.begin(), sortedEnd, rows.end(), less);
-    std::vector<quint32> ranks(rows.size());
-    quint32 rank = 0;
+    std::vector<double> ranks(rows.size());
+    double rank = 0;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         if (i > 0 && less(rows[i - 1], rows[i]))
             ++rank;
@@ -218,22 +211,13 @@ bool SortKeys::isLess(const Values& values, quint32 a, quint32 b) const
     return m_function(values.texts[b], values.texts[a]) < 0;
 }
 
-std::optional<std::vector<quint32>> SortKeys::ranks() const
+std::optional<std::vector<double>> SortKeys::ranks() const
 {
     if (m_rule == Rule::Function || m_count == 0 || (m_keyCount > 0 && m_keyCount < m_count))
         return std::nullopt;
     const Values& values = m_keyCount > 0 ? m_keys : m_texts;
-    if (isNumeric()) {
-        std::vector<NumberAt> rows(m_count);
-        for (quint32 row = 0; row < m_count; ++row) {
-            if (std::isnan(values.numbers[row]))
-                return std::nullopt;
-            rows[row] = {values.numbers[row], row};
-        }
-        return sortedRanks(std::move(rows), [](const NumberAt& a, const NumberAt& b) {
-            return a.number < b.number;
-        });
-    }
+    if (isNumeric())
+        return values.numbers;
     return sortedRanks(withPrefixes(values.texts, m_rule == Rule::TextIgnoringCase),
                        [&](const TextAt& a, const TextAt& b) {
                            return a.prefix != b.prefix ? a.prefix < b.prefix

@@ -22,10 +22,10 @@ public:
     /// Adds a row of an earlier sort with the same function.
     void add(const SortKeys& earlier, quint32 row);
     bool isLess(quint32 a, quint32 b) const;
-    /// For every row a number that orders the rows as isLess() does; nothing where the comparison
-    /// may not be an order: when only some rows have sort keys, when a text is no number (it equals
-    /// all others), and for a function of the application.
-    std::optional<std::vector<quint32>> ranks() const;
+    /// For every row a number that is less than another's when isLess() says so of the rows;
+    /// nothing when only some rows have sort keys, and for a function of the application. NaN,
+    /// which equals all others, for a text that should be a number and is none.
+    std::optional<std::vector<double>> ranks() const;
 
     quint32 count() const { return m_count; }
 

@@ -17,6 +17,7 @@
 #include <QTreeWidgetItemIterator>
 
 #include <algorithm>
+#include <typeinfo>
 
 namespace {
 
@@ -58,6 +59,9 @@ void arrive(QTreeWidgetItem& item)
     if (item.type() != SortListViewItem::Type)
         return;
     ListSorter::itemArrived(item);
+    // Most rows are of this class, or will be of another only when they are whole.
+    if (typeid(item) == typeid(SortListViewItem))
+        return;
     if (auto* const checkItem = dynamic_cast<CheckSortListViewItem*>(&item))
         checkItem->restoreCheckBox();
 }

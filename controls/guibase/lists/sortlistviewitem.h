@@ -111,8 +111,8 @@ private:
 
     /// Sort keys, picture and child cursor, which few rows have.
     mutable std::unique_ptr<Extras> m_extras;
-    // The last sort that read this row, and the row's number and rank in it.
+    // The last sort that read this row, the row's number in it, and what orders the rows.
     quint32 m_sortRun = 0;
     quint32 m_sortRow = 0;
-    quint32 m_sortRank = 0;
+    double m_sortRank = 0;
 };
