@@ -87,6 +87,9 @@ SortListView::SortListView(QWidget* parent, const char* name)
 void SortListView::connectSignals()
 {
     connect(header(), &QHeaderView::sectionClicked, this, &SortListView::slotHeaderClicked);
+    connect(header(), &QHeaderView::sectionResized, this, &SortListView::keepColumns);
+    connect(header(), &QHeaderView::sectionMoved, this, &SortListView::keepColumns);
+    connect(header(), &QHeaderView::sectionCountChanged, this, &SortListView::applyColumns);
     connect(this, &SortListView::contextMenuRequested, this,
             &SortListView::slotContextMenuRequested);
     connect(this, &QTreeWidget::itemDoubleClicked, this, &SortListView::slotDoubleClicked);
@@ -99,6 +102,7 @@ void SortListView::connectSignals()
 SortListView::~SortListView()
 {
     saveColumnStatus();
+    disconnect(header(), nullptr, this, nullptr);
     disconnect(this, nullptr, this, nullptr);
     qDeleteAll(std::exchange(m_columnActions, {}));
 }
@@ -180,9 +184,22 @@ void SortListView::setColumnWidthMode(int column, QHeaderView::ResizeMode mode)
 
 void SortListView::SetColumnWidthPersistantName(const QString& name)
 {
+    if (name != m_persistantName)
+        saveColumnStatus();
     m_persistantName = name;
-    if (!name.isEmpty())
-        GuiBase::Instance().ApplyColumnWidth4(name, this);
+    applyColumns(0, columnCount());
+}
+
+void SortListView::applyColumns(int oldCount, int newCount)
+{
+    if (!m_persistantName.isEmpty() && newCount > oldCount)
+        GuiBase::Instance().ApplyColumnWidth4(m_persistantName, this, oldCount);
+}
+
+void SortListView::keepColumns()
+{
+    if (!m_persistantName.isEmpty())
+        GuiBase::Instance().KeepColumnWidth4(m_persistantName, this);
 }
 
 void SortListView::saveColumnStatus()
@@ -233,8 +250,9 @@ void SortListView::slotHeaderContextMenuRequested(QPoint pos)
         return;
     const bool hide = !isColumnHidden(column);
     if (hide)
-        saveColumnStatus();
+        saveColumnStatus(); // the width, which a hidden column does not have
     setColumnHidden(column, hide);
+    saveColumnStatus();
 }
 
 // --- Sorting
@@ -513,6 +531,12 @@ void SortListView::showEvent(QShowEvent* event)
     QTreeWidget::showEvent(event);
     if (m_allowSort)
         sort();
+}
+
+void SortListView::hideEvent(QHideEvent* event)
+{
+    QTreeWidget::hideEvent(event);
+    saveColumnStatus();
 }
 
 void SortListView::contextMenuEvent(QContextMenuEvent* event)

@@ -66,8 +66,10 @@ public:
     void applyAlignment(QTreeWidgetItem* item) const;
     void setColumnWidthMode(int column, QHeaderView::ResizeMode mode);
 
-    /// Stores the widths under this name when a column is hidden, at saveColumnStatus() and at the
-    /// end, and applies the stored ones now. Empty at start: nothing is stored.
+    /// Keeps widths, order and hidden columns of the shown list under this name: a while after a
+    /// change (GuiBase::SetLayoutWriteDelay()), when the list is hidden and at the end. Applies the
+    /// stored ones now, and to further columns when they are added. Empty at start: nothing is
+    /// kept.
     void SetColumnWidthPersistantName(const QString& name);
     void saveColumnStatus();
     /// Whether a right click on the header offers to hide and show the columns; off at start.
@@ -150,6 +152,7 @@ public Q_SLOTS:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void rowsInserted(const QModelIndex& parent, int first, int last) override;
@@ -171,6 +174,8 @@ private:
     int chosenColumn() const;
     void chooseColumn(int place);
     void updateColumnActions();
+    void applyColumns(int oldCount, int newCount);
+    void keepColumns();
 
     std::vector<CompareFunction> m_compareFunctions;
     QMenu* m_headerMenu;

@@ -6,18 +6,42 @@
 #include <guibase/lists/sortlistview.h>
 
 #include <jtbase/geometryarrayparser.h>
+#include <jtbase/qtimerhelpers.h>
 #include <trovappstartup/cfgcenter.h>
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
 std::unique_ptr<ICfg> configuration()
 {
     return CfgCenter::GetAppCfg(LayoutView)->OpenSubCfg(QStringLiteral("FreqStoreListView"));
+}
+
+/// Appends the known columns that the list does not have. They keep their places: the list's own
+/// columns share those that were theirs before.
+void keepOthers(QList<ColumnRecord>& columns, const QHeaderView& header,
+                const QList<ColumnRecord>& known)
+{
+    const int present = static_cast<int>(columns.size());
+    columns += known.mid(present);
+    if (columns.size() == present)
+        return;
+    QList<int> order(known.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(), [&known](int a, int b) {
+        return known.at(a).visualIndex < known.at(b).visualIndex;
+    });
+    int ownPlace = 0;
+    for (int place = 0; place < order.size(); ++place) {
+        const bool isOwn = order.at(place) < present;
+        columns[isOwn ? header.logicalIndex(ownPlace++) : order.at(place)].visualIndex = place;
+    }
 }
 
 QList<ColumnRecord> columnsOf(const QTreeView& list, const QList<ColumnRecord>& known)
@@ -33,7 +57,7 @@ QList<ColumnRecord> columnsOf(const QTreeView& list, const QList<ColumnRecord>& 
         }
         columns.append(record);
     }
-    columns += known.mid(columns.size());
+    keepOthers(columns, header, known);
     return columns;
 }
 
@@ -54,21 +78,50 @@ void applyOrder(QHeaderView& header, const QList<ColumnRecord>& columns)
         header.moveSection(header.visualIndex(column), place);
 }
 
-void applyColumns(QTreeView& list, QList<ColumnRecord> columns)
+/// The places that columns have among one another when others are missing.
+void closeRanks(QList<ColumnRecord>& columns)
+{
+    QList<int> places;
+    for (const ColumnRecord& column : std::as_const(columns))
+        places.append(column.visualIndex);
+    std::sort(places.begin(), places.end());
+    for (ColumnRecord& column : columns)
+        column.visualIndex = static_cast<int>(places.indexOf(column.visualIndex));
+}
+
+/// Moves a column that came late in front of the first one that belongs behind it.
+void insertColumn(QHeaderView& header, const QList<ColumnRecord>& columns, int column)
+{
+    for (int place = 0; place < header.count(); ++place) {
+        const int other = header.logicalIndex(place);
+        if (other < column && columns.at(other).visualIndex > columns.at(column).visualIndex) {
+            header.moveSection(header.visualIndex(column), place);
+            return;
+        }
+    }
+}
+
+void applyColumns(QTreeView& list, QList<ColumnRecord> columns, int first)
 {
     QHeaderView& header = *list.header();
-    columns.resize(std::min<qsizetype>(columns.size(), header.count()));
+    if (columns.size() > header.count()) {
+        columns.resize(header.count());
+        closeRanks(columns);
+    }
     const bool isAllHidden =
         columns.size() == header.count() &&
         std::all_of(columns.cbegin(), columns.cend(), [](const auto& c) { return c.isHidden; });
-    for (int column = 0; column < columns.size(); ++column) {
+    for (int column = first; column < columns.size(); ++column) {
         // Nobody could grip a column without width.
         if (columns.at(column).width > 0)
             list.setColumnWidth(column, columns.at(column).width);
         // Without any column there would be no header to bring the others back with.
         list.setColumnHidden(column, columns.at(column).isHidden && !(isAllHidden && column == 0));
+        if (first > 0)
+            insertColumn(header, columns, column);
     }
-    applyOrder(header, columns);
+    if (first == 0)
+        applyOrder(header, columns);
 }
 
 } // namespace
@@ -95,19 +148,67 @@ std::optional<QList<ColumnRecord>> ColumnText::parse(const QString& text)
     return columns;
 }
 
-void ColumnTable::store(const QString& name, const SortListView* list)
+ColumnTable::~ColumnTable()
+{
+    delete m_writeTimer;
+}
+
+void ColumnTable::noteChange(const QString& name, SortListView* list)
 {
     if (list == nullptr || list == m_applied || !list->isVisible())
         return;
-    QList<ColumnRecord>& known = m_columns[name];
-    QList<ColumnRecord> columns = columnsOf(*list, known);
+    m_changed[name] = list;
+    scheduleWrite();
+}
+
+void ColumnTable::setWriteDelay(int milliseconds)
+{
+    m_writeDelay = milliseconds;
+    delete m_writeTimer;
+    if (!m_changed.empty())
+        scheduleWrite();
+}
+
+void ColumnTable::scheduleWrite()
+{
+    if (m_writeDelay < 0)
+        return;
+    if (m_writeTimer)
+        m_writeTimer->start(); // anew: while the user drags, nothing is written
+    else
+        m_writeTimer =
+            QTimerHelpers::singleShot(m_writeDelay, QCoreApplication::instance(), [this] {
+                m_writeTimer.clear(); // it deletes itself
+                storeChanges();
+            });
+}
+
+void ColumnTable::storeChanges()
+{
+    const auto changed = m_changed;
+    for (const auto& [name, list] : changed)
+        store(name, list);
+    m_changed.clear();
+}
+
+void ColumnTable::store(const QString& name, const SortListView* list)
+{
+    const auto changed = m_changed.find(name);
+    const bool hasChanged = changed != m_changed.end() && changed->second == list;
+    if (list == nullptr || list == m_applied || (!list->isVisible() && !hasChanged))
+        return;
+    if (hasChanged)
+        m_changed.erase(changed);
+    // Not what this table has: another list, or process, may have stored meanwhile.
+    const auto known = ColumnText::parse(configuration()->GetString(name));
+    QList<ColumnRecord> columns = columnsOf(*list, known.value_or(QList<ColumnRecord>()));
     if (columns == known)
         return;
-    known = std::move(columns);
+    m_columns[name] = std::move(columns);
     write(name);
 }
 
-void ColumnTable::apply(const QString& name, SortListView* list)
+void ColumnTable::apply(const QString& name, SortListView* list, int firstColumn)
 {
     if (list == nullptr)
         return;
@@ -122,7 +223,7 @@ void ColumnTable::apply(const QString& name, SortListView* list)
     }
     m_columns[name] = *columns;
     const QScopedValueRollback applied(m_applied, static_cast<const SortListView*>(list));
-    applyColumns(*list, *columns);
+    applyColumns(*list, *columns, std::max(firstColumn, 0));
 }
 
 void ColumnTable::write(const QString& name) const
@@ -130,8 +231,9 @@ void ColumnTable::write(const QString& name) const
     configuration()->SetString(name, ColumnText::format(m_columns.at(name)));
 }
 
-void ColumnTable::writeConfiguration() const
+void ColumnTable::writeConfiguration()
 {
+    storeChanges();
     for (const auto& [name, columns] : m_columns)
         write(name);
 }

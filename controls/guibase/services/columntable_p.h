@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "persistentwidgetregistry_p.h"
+
+#include <guibase/lists/sortlistview.h>
+
 #include <QList>
+#include <QPointer>
 #include <QString>
+#include <QTimer>
 
 #include <map>
 #include <optional>
-
-class QTreeView;
-class SortListView;
 
 /// How a column of a list looked: width in pixels, place in the header, and whether it was hidden.
 struct ColumnRecord
@@ -38,19 +41,36 @@ inline constexpr int largestWidth = 1 << 14;
 class ColumnTable
 {
 public:
-    /// Takes the columns of a visible list over; nothing for others, and while the list gets its
-    /// columns. A hidden column keeps the width that is known for it; columns beyond those of the
-    /// list, which may come later, stay known. Cheap enough to be called with every change.
+    ColumnTable() = default;
+    ~ColumnTable();
+    ColumnTable(const ColumnTable&) = delete;
+    ColumnTable& operator=(const ColumnTable&) = delete;
+
+    /// The columns of a visible list have changed: they are stored when nothing has changed for the
+    /// write delay, and at the latest by writeConfiguration(). Nothing for lists that are not
+    /// visible, and while the list gets its columns.
+    void noteChange(const QString& name, SortListView* list);
+    /// In milliseconds; negative: noted changes wait for store() and writeConfiguration().
+    void setWriteDelay(int milliseconds);
+    /// Takes the columns of a list over that is visible, or has noted changes from when it was. A
+    /// hidden column keeps the width that is known for it; columns beyond those of the list, which
+    /// may come later, stay known.
     void store(const QString& name, const SortListView* list);
-    /// Gives the list the columns that the configuration has for the name. Columns that it does not
-    /// know stay as they are, and so do columns without a width. A damaged text changes nothing and
-    /// is kept aside. May be called again when the list has got more columns.
-    void apply(const QString& name, SortListView* list);
-    void writeConfiguration() const;
+    /// Gives the list, from a column on, what the configuration has for the name. Columns that it
+    /// does not know stay as they are, and so do widths of columns without one. A damaged text
+    /// changes nothing and is kept aside.
+    void apply(const QString& name, SortListView* list, int firstColumn);
+    void writeConfiguration();
 
 private:
+    void scheduleWrite();
+    void storeChanges();
     void write(const QString& name) const;
 
     std::map<QString, QList<ColumnRecord>> m_columns;
+    std::map<QString, QPointer<SortListView>> m_changed;
     const SortListView* m_applied = nullptr; ///< The list that gets its columns just now.
+    int m_writeDelay = PersistentWidgetRegistry::defaultWriteDelay;
+    /// Belongs to the application object, which may be gone before this object.
+    QPointer<QTimer> m_writeTimer;
 };

@@ -370,11 +370,17 @@ void GuiBase::storeFactoryDefaultWidgets(long mode)
 void GuiBase::SetLayoutWriteDelay(int milliseconds)
 {
     d->persistentWidgets.setWriteDelay(milliseconds);
+    d->columns.setWriteDelay(milliseconds);
 }
 
-void GuiBase::ApplyColumnWidth4(const QString& name, SortListView* list)
+void GuiBase::ApplyColumnWidth4(const QString& name, SortListView* list, int firstColumn)
 {
-    d->columns.apply(name, list);
+    d->columns.apply(name, list, firstColumn);
+}
+
+void GuiBase::KeepColumnWidth4(const QString& name, SortListView* list)
+{
+    d->columns.noteChange(name, list);
 }
 
 void GuiBase::StoreColumnWidth4(const QString& name, SortListView* list)

@@ -133,9 +133,13 @@ public:
     void setMode(long mode);
     /// Makes the present dock layouts the factory layouts of the mode.
     void storeFactoryDefaultWidgets(long mode);
-    /// Columns of lists, by the lists' names: applied as the configuration has them; stored only
-    /// while the list is visible. Null lists are ignored.
-    void ApplyColumnWidth4(const QString& name, SortListView* list);
+    /// Columns of lists, by the lists' names: applied as the configuration has them, from the first
+    /// column or a later one on; stored only while the list is visible. Null lists are ignored.
+    void ApplyColumnWidth4(const QString& name, SortListView* list, int firstColumn = 0);
+    /// The columns of a visible list have changed: they are stored after the write delay of layouts
+    /// and when the application ends; before that StoreColumnWidth4() stores them also when the
+    /// list has become invisible. A SortListView with a name calls it by itself.
+    void KeepColumnWidth4(const QString& name, SortListView* list);
     void StoreColumnWidth4(const QString& name, SortListView* list);
     void StoreColumnSizes2Cfg();
     /// Positions of splitters, by their storage names; see Splitter. Stored only while the splitter

@@ -86,10 +86,7 @@ SignalsPane::SignalsPane(const SignalWatch* watch, QWidget* parent)
     connect(&GuiBase::Instance(), &GuiBase::signalColorsChanged, this, &SignalsPane::refreshTexts);
 }
 
-SignalsPane::~SignalsPane()
-{
-    m_list->saveColumnStatus(); // later it is not seen any more, and does not store
-}
+SignalsPane::~SignalsPane() = default;
 
 void SignalsPane::buildColumns()
 {
@@ -109,11 +106,6 @@ void SignalsPane::buildColumns()
     m_list->header()->setSortIndicator(Frequency, Qt::AscendingOrder);
     m_list->setColumnSelectionMenu(true);
     m_list->SetColumnWidthPersistantName(QStringLiteral("BandmonitorSignals"));
-    m_keepColumns.setSingleShot(true);
-    const auto keepLater = [this] { m_keepColumns.start(); };
-    connect(&m_keepColumns, &QTimer::timeout, m_list, &SortListView::saveColumnStatus);
-    connect(m_list->header(), &QHeaderView::sectionResized, this, keepLater);
-    connect(m_list->header(), &QHeaderView::sectionMoved, this, keepLater);
 }
 
 void SignalsPane::setUpdateInterval(std::chrono::milliseconds interval)

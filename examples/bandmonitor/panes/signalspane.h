@@ -80,7 +80,6 @@ private:
     std::unordered_map<std::uint32_t, Row> m_rows;
     std::map<char, QIcon> m_typeIcons;
     QTimer m_rest;
-    QTimer m_keepColumns;
     std::uint32_t m_followed = 0;
     Signal m_followedSignal; ///< As it was last seen.
     bool m_isStale = false;
