@@ -3,9 +3,9 @@
 
 #include "headerstate_p.h"
 
+#include <guibase/services/damagedrecords_p.h>
 #include <guibase/services/geometryrecord_p.h>
 
-#include <jtbase/errorhandler.h>
 #include <trovappstartup/cfgcenter.h>
 
 #include <QAbstractItemModel>
@@ -75,19 +75,17 @@ void QHeaderViewColumnHandler::restoreColumnStatus()
         m_header->restoreGeometry(geometry);
     const QString stateText = cfg->GetString(key("_STATE"));
     if (!stateText.isEmpty())
-        restoreState(fromStoredText(stateText), 0);
+        restoreState(stateText, 0);
 }
 
-void QHeaderViewColumnHandler::restoreState(const QByteArray& bytes, int firstSection)
+void QHeaderViewColumnHandler::restoreState(const QString& text, int firstSection)
 {
     m_awaitedState.clear();
+    const QByteArray bytes = fromStoredText(text);
     const auto state = HeaderState::fromBytes(bytes, m_header->orientation());
     if (!state) {
-        ErrorHandler::Trace(ErrorHandler::TraceGuiBase, "controls/guibase/qheaderviewcolumnhandler",
-                            __LINE__,
-                            QStringLiteral("The stored state of header \"%1\" is damaged; the "
-                                           "header stays as it is.")
-                                .arg(objectName()));
+        DamagedRecords::keepAside(*CfgCenter::GetAppCfg(SettingsView), key("_STATE"), text,
+                                  QStringLiteral("it is no state of such a header"));
         return;
     }
     const bool isWhole = state->sections.size() <= m_header->count();
@@ -96,13 +94,13 @@ void QHeaderViewColumnHandler::restoreState(const QByteArray& bytes, int firstSe
     else
         state->applyTo(*m_header, firstSection);
     if (!isWhole)
-        m_awaitedState = bytes;
+        m_awaitedState = text;
 }
 
 void QHeaderViewColumnHandler::restoreAwaited(int oldCount, int newCount)
 {
     if (newCount > oldCount && !m_awaitedState.isEmpty())
-        restoreState(QByteArray(m_awaitedState), oldCount);
+        restoreState(QString(m_awaitedState), oldCount);
 }
 
 void QHeaderViewColumnHandler::watchView()

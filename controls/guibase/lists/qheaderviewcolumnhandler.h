@@ -3,7 +3,6 @@
 
 #include <guibase/guibase_export.h>
 
-#include <QByteArray>
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
@@ -20,7 +19,8 @@ namespace guiHelper {
 /// The handler is a child of the header. The menu opens on a right click, and with Ctrl+Alt+H for a
 /// horizontal header or Ctrl+Alt+V for a vertical one while its view has the focus; headers do not
 /// get it themselves. What is stored is checked before the header sees it: text that is no state of
-/// a header view leaves the header as it is.
+/// such a header leaves the header as it is, and is kept aside under its key followed by
+/// "_damaged".
 class GUIBASE_EXPORT QHeaderViewColumnHandler : public QObject
 {
     Q_OBJECT
@@ -42,13 +42,13 @@ private Q_SLOTS:
 
 private:
     QString key(const char* suffix) const;
-    void restoreState(const QByteArray& bytes, int firstSection);
+    void restoreState(const QString& text, int firstSection);
     void restoreAwaited(int oldCount, int newCount);
     void watchView();
 
     QPointer<QHeaderView> m_header;
     QPointer<QWidget> m_view;
-    QByteArray m_awaitedState; ///< Restored while sections that it knows were missing.
+    QString m_awaitedState; ///< Restored while sections that it knows were missing.
 };
 
 } // namespace guiHelper

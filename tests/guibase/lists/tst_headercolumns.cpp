@@ -218,6 +218,9 @@ void HeaderColumns::hostileStates()
     }
     CfgCenter::GetAppCfg(SettingsView)->SetString(stateKey, QStringLiteral("no base64!"));
     original.handler->restoreColumnStatus();
+    original.handler->saveColumnStatus();
+    QCOMPARE(CfgCenter::GetAppCfg(SettingsView)->GetString(stateKey + QStringLiteral("_damaged")),
+             QStringLiteral("no base64!"));
 }
 
 void HeaderColumns::headerInView()
