@@ -5,8 +5,10 @@
 
 #include <QAbstractItemModel>
 #include <QElapsedTimer>
+#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <chrono>
@@ -34,6 +36,36 @@ SortListViewItem* castItem(QTreeWidgetItem* item)
     return typeid(*item) == typeid(SortListViewItem) ? static_cast<SortListViewItem*>(item)
                                                      : dynamic_cast<SortListViewItem*>(item);
 }
+
+/// Keeps the row at the view's upper edge there while others move. A view that shows its first row
+/// goes on doing so.
+class UpperEdge
+{
+public:
+    explicit UpperEdge(QTreeView& view)
+        : m_view(view)
+    {
+        if (view.verticalScrollBar()->value() == view.verticalScrollBar()->minimum())
+            return;
+        m_row = view.indexAt(QPoint(view.isRightToLeft() ? view.viewport()->width() - 1 : 0, 0));
+        m_top = view.visualRect(m_row).top();
+    }
+    void restore() const
+    {
+        if (!m_row.isValid() || m_view.visualRect(m_row).top() == m_top)
+            return;
+        const int left = m_view.horizontalScrollBar()->value();
+        m_view.scrollTo(m_row, QAbstractItemView::PositionAtTop);
+        if (m_view.verticalScrollMode() == QAbstractItemView::ScrollPerPixel)
+            m_view.verticalScrollBar()->setValue(m_view.verticalScrollBar()->value() - m_top);
+        m_view.horizontalScrollBar()->setValue(left);
+    }
+
+private:
+    QTreeView& m_view;
+    QPersistentModelIndex m_row;
+    int m_top = 0;
+};
 
 } // namespace
 
@@ -167,7 +199,10 @@ void ListSorter::placeArrivals()
     const std::shared_ptr<const Run> earlier = m_lastRun;
     QElapsedTimer time;
     time.start();
+    const UpperEdge edge(m_view);
     sortRows(m_column, m_order, earlier.get());
+    if (self)
+        edge.restore();
     if (self)
         m_arrivals.setInterval(std::min(milliseconds(pauseFactor * time.elapsed()), longestPause));
 }

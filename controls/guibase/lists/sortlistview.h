@@ -29,7 +29,8 @@ class QMenu;
 ///
 /// Decisions: rows that are appended to a shown list which the view has sorted go to their places
 /// together, in the next pass of the event loop, or a little later when sorting takes long. The
-/// others do not move then, even if their texts have changed since they were sorted. A row
+/// others do not move then, even if their texts have changed since they were sorted, and the row at
+/// the upper edge of a view that was scrolled stays there. A row
 /// that is put anywhere else (on top, after another row, with SortListViewItem::moveItem()) stays
 /// there, and so do rows appended after it, until the list is sorted again. Nothing is put in place
 /// while a sort callback is set.

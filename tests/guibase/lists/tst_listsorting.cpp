@@ -280,6 +280,17 @@ void ListSorting::keepsWhatTheUserSees()
              QSet<QTreeWidgetItem*>(selected.begin(), selected.end()));
     QVERIFY(current->isExpanded() && hidden->isHidden());
     QCOMPARE(list.verticalScrollBar()->value(), 20);
+    // Arrivals above do not push the others down.
+    for (const auto mode : {QAbstractItemView::ScrollPerItem, QAbstractItemView::ScrollPerPixel}) {
+        list.setVerticalScrollMode(mode);
+        list.verticalScrollBar()->setValue(50);
+        const QTreeWidgetItem* const top = list.itemAt(QPoint(0, 0));
+        const QRect place = list.visualItemRect(top);
+        const QString text(mode == QAbstractItemView::ScrollPerItem ? u'y' : u'z');
+        fill(list, text.repeated(4));
+        QTRY_COMPARE(list.topLevelItem(3)->text(0), text);
+        QCOMPARE(list.visualItemRect(top), place);
+    }
 }
 
 void ListSorting::subclassesMayCompare()
