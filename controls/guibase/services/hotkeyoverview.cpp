@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QMetaEnum>
+#include <QScreen>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -16,6 +17,7 @@
 namespace {
 
 constexpr int minimumDialogWidth = 600;
+constexpr int frameWidth = 40; ///< In pixels, with the title bar.
 constexpr int firstModifierColumn = 1;
 constexpr int lastModifierColumn = 3;
 
@@ -55,7 +57,10 @@ QWidget* HotKeyOverview::createList(const QList<HotKey>& hotKeys, QWidget* paren
         for (int column = firstModifierColumn; column <= lastModifierColumn; ++column)
             row->setTextAlignment(column, Qt::AlignCenter);
     }
+    for (int column = 0; column < list->columnCount(); ++column)
+        list->resizeColumnToContents(column);
     list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    list->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     return list;
 }
 
@@ -79,5 +84,9 @@ void HotKeyOverview::exec(const QList<HotKey>& hotKeys, QWidget* parent)
     layout->addWidget(buttons);
     QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    // As large as the keys need; the toolkit itself would stop at two thirds of the screen.
+    const QSize frame(frameWidth, frameWidth);
+    dialog->resize(
+        dialog->sizeHint().boundedTo(dialog->screen()->availableGeometry().size() - 2 * frame));
     dialog->exec();
 }

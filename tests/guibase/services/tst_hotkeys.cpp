@@ -11,11 +11,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
 #include <QTreeWidget>
-#include <QVBoxLayout>
 #include <QWindow>
 
 #include <memory>
@@ -83,42 +83,27 @@ private Q_SLOTS:
         QCOMPARE(m_services->handleHotKeyEvent(qApp, &event), consumed);
         QCOMPARE(fired.contains(QList<QVariant>{id}), fires);
     }
-    void receiverIsCalledOnce()
-    {
-        HotKeyReceiver receiver;
-        const int first = add(Qt::Key_F3, 0, &receiver);
-        const int second = add(Qt::Key_F3, 0, &receiver);
-        QCOMPARE(second, first + 1);
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_F3, Qt::NoModifier);
-        m_services->handleHotKeyEvent(qApp, &press);
-        QVERIFY(receiver.ids.isEmpty());
-        QTRY_COMPARE(receiver.ids, QList<int>({first, second}));
-    }
-    void unfitReceivers()
+    void receivers()
     {
         QObject withoutSlot;
-        add(Qt::Key_F4, 0, &withoutSlot);
+        HotKeyReceiver receiver;
         auto dying = std::make_unique<HotKeyReceiver>();
-        const int id = add(Qt::Key_F4, 0, dying.get());
+        add(Qt::Key_F3, 0, &withoutSlot);
+        const int first = add(Qt::Key_F3, 0, &receiver);
+        const int second = add(Qt::Key_F3, 0, &receiver);
+        const int last = add(Qt::Key_F3, 0, dying.get());
         QSignalSpy fired(m_services, &GuiBase::signalHotKey);
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier);
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_F3, Qt::NoModifier);
         m_services->handleHotKeyEvent(qApp, &press);
         dying.reset();
-        QCoreApplication::processEvents();
-        m_services->handleHotKeyEvent(qApp, &press);
+        QVERIFY(receiver.ids.isEmpty());
+        QTRY_COMPARE(receiver.ids, QList<int>({first - 1, first, second, last}));
         QCOMPARE(fired.count(), 4);
-        QCOMPARE(fired.last().first().toInt(), id);
-    }
-    void oneKeyFiresOnce_data()
-    {
-        TestRows<bool> row;
-        row("to the widget", false);
-        row("through the window", true);
+        QCOMPARE(fired.last().first().toInt(), last);
     }
     /// The toolkit delivers an ignored key to the label, then to the boxes around it.
     void oneKeyFiresOnce()
     {
-        const bool throughWindow = std::get<bool>(TestRows<bool>::fetch());
         QWidget window;
         auto* box = new QWidget(&window);
         auto* label = new QLabel(box);
@@ -127,18 +112,13 @@ private Q_SLOTS:
         window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         label->setFocus();
-        const int id = add(Qt::Key_F6, 0);
+        const QVariantList id{add(Qt::Key_F6, 0)};
         QSignalSpy fired(m_services, &GuiBase::signalHotKey);
-        for (int time = 0; time < 3; ++time) {
-            if (throughWindow)
-                QTest::keyClick(window.windowHandle(), Qt::Key_F6);
-            else
-                QTest::keyClick(label, Qt::Key_F6);
+        for (int time = 1; time <= 3; ++time) {
+            QTest::keyClick(window.windowHandle(), Qt::Key_F6);
+            QTest::keyClick(label, Qt::Key_F6);
+            QCOMPARE(fired.count(id), 2 * time);
         }
-        const auto ours = std::count_if(fired.cbegin(), fired.cend(), [id](const auto& arguments) {
-            return arguments.first().toInt() == id;
-        });
-        QCOMPARE(ours, 3);
     }
     void keysDuringHandlingAreNotExamined()
     {
@@ -166,13 +146,12 @@ private Q_SLOTS:
     }
     void overview()
     {
-        QAction action(QStringLiteral("&Search && replace"));
+        const QString comment(150, QLatin1Char('c'));
+        QAction action(QStringLiteral("&Search && ") + comment);
         action.setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Insert);
-        m_services->ShowHotKeyFrom(&action, QStringLiteral("Lists"));
-        m_services->ShowHotKeyFrom(&action, QStringLiteral("Lists"));
-        const QAction withoutShortcut(QStringLiteral("Nothing"));
-        m_services->ShowHotKeyFrom(const_cast<QAction*>(&withoutShortcut), QStringLiteral("Lists"));
-        m_services->ShowHotKeyFrom(nullptr, QString());
+        QAction withoutShortcut(QStringLiteral("Nothing"));
+        for (QAction* each : {&action, &action, &withoutShortcut, static_cast<QAction*>(nullptr)})
+            m_services->ShowHotKeyFrom(each, QStringLiteral("Lists"));
         add(Qt::Key_Insert, Qt::AltModifier, nullptr, true, QStringLiteral("hidden"), false);
 
         QSignalSpy fired(m_services, &GuiBase::signalHotKey);
@@ -181,9 +160,7 @@ private Q_SLOTS:
         QCOMPARE(fired.count(), 0);
 
         QWidget parent;
-        const ModalDialogCloser closer([](const QDialog& dialog) {
-            QCOMPARE(dialog.windowTitle(), QStringLiteral("Keyboard - Hotkeys Overview"));
-            QVERIFY(dialog.width() >= 600);
+        const ModalDialogCloser closer([&](const QDialog& dialog) {
             QCOMPARE(dialog.findChild<QTabWidget*>()->tabText(0), QStringLiteral("&Hotkeys"));
             const auto* list = dialog.findChild<QTreeWidget*>(QStringLiteral("HotKeysCtrl"));
             const auto rows = list->findItems(QStringLiteral("Insert"), Qt::MatchExactly);
@@ -192,16 +169,14 @@ private Q_SLOTS:
             for (int column = 0; column < list->columnCount(); ++column)
                 texts << rows.first()->text(column);
             QCOMPARE(texts.join(QLatin1Char('|')),
-                     QStringLiteral("Insert|X| |X|Lists|Search & replace"));
+                     QStringLiteral("Insert|X| |X|Lists|Search & ") + comment);
+            // The comment is not cut off where the screen has room for it.
+            const int width = dialog.fontMetrics().horizontalAdvance(comment);
+            QVERIFY(dialog.width() >= std::min(width, dialog.screen()->size().width() - 100));
+            QVERIFY(dialog.screen()->availableGeometry().width() >= dialog.width());
         });
         m_services->ExecHotKeysDialog(&parent);
         QVERIFY(closer.hasSeenDialog());
-
-        // Windows may close, and take the dialog with them, while it is open.
-        auto dyingParent = std::make_unique<QWidget>();
-        QTimer::singleShot(0, this, [&] { dyingParent.reset(); });
-        m_services->ExecHotKeysDialog(dyingParent.get());
-        QCOMPARE(dyingParent, nullptr);
     }
 
 private:
