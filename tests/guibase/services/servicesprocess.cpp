@@ -111,7 +111,6 @@ int runLayouts(int argc, char** argv)
         dock->hide();
         window.resize(654, 432);
         list->setColumnWidth(0, 77);
-        list->saveColumnStatus();
         splitter->setSizes({1, 1});
         splitter->shiftHandle(1, -100);
     });

@@ -459,7 +459,7 @@ private Q_SLOTS:
             QTRY_VERIFY(written());
         }
         // Changes that follow one another are written when they pause.
-        m_services->SetLayoutWriteDelay(400);
+        m_services->SetLayoutWriteDelay(500);
         for (int width = 500; width < 520; ++width) {
             window.resize(width, 400);
             QTest::qWait(30);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
+#include "support/testrows.h"
 
 #include <guibase/colors/colorset.h>
 #include <guibase/services/guibase.h>
@@ -12,12 +13,11 @@
 #include <QTest>
 #include <QTimer>
 
-#include <functional>
-
 /// What the services touch may die while they are at work on it.
 class TestDyingObjects : public GuardedTest
 {
     Q_OBJECT
+    using Dialogs = TestRows<void (*)(QWidget*)>;
 
 private Q_SLOTS:
     // Must be first to set an application: reading the settings then asks about the missing file.
@@ -48,24 +48,21 @@ private Q_SLOTS:
 
     void parentOfOpenDialog_data()
     {
-        using Open = std::function<void(QWidget*)>;
-        QTest::addColumn<Open>("open");
-        QTest::newRow("help warning") << Open([](QWidget* parent) {
+        Dialogs row;
+        row("help warning", [](QWidget* parent) {
             GuiBase::Instance().CreateHelpMenu(parent, {}, nullptr, nullptr, parent, nullptr);
             GuiBase::Instance().slotHelpContents();
         });
-        QTest::newRow("hot keys") << Open(
-            [](QWidget* parent) { GuiBase::Instance().ExecHotKeysDialog(parent); });
-        QTest::newRow("save colours") << Open([](QWidget* parent) {
-            ColorSet::Instance().Save(parent, QStringLiteral("**"));
-        });
-        QTest::newRow("load colours") << Open([](QWidget* parent) {
+        row("hot keys", [](QWidget* parent) { GuiBase::Instance().ExecHotKeysDialog(parent); });
+        row("save colours",
+            [](QWidget* parent) { ColorSet::Instance().Save(parent, QStringLiteral("**")); });
+        row("load colours", [](QWidget* parent) {
             ColorSet::Instance().Load(parent, QStringLiteral("/missing/set.cst"));
         });
     }
     void parentOfOpenDialog()
     {
-        QFETCH(const std::function<void(QWidget*)>, open);
+        const auto& [open] = Dialogs::fetch();
         QPointer<QWidget> parent(new QWidget);
         bool wasOpen = false;
         QTimer timer;

@@ -66,15 +66,12 @@ private Q_SLOTS:
         const QString all = QStringLiteral("F1 Ctrl+F1 Ctrl+Q");
         const QString noInfo = QStringLiteral("F1 Ctrl+F1");
         row("all", true, info, nullptr, all, "-");
-        row("not normalized", true, "1 showInfo( )", nullptr, all, "-");
         row("own manual", true, info, SLOT(showManual(bool)), all, "-");
         row("no receiver", false, info, nullptr, noInfo, "-");
         row("manual without receiver", false, nullptr, info, "Ctrl+F1", "-");
         row("manual not there", true, info, SLOT(noSlot()), "Ctrl+F1 Ctrl+Q", "noSlot()");
         row("info not there", true, SLOT(noSlot()), nullptr, noInfo, "noSlot()");
         row("null", true, nullptr, nullptr, noInfo, "");
-        row("empty", true, "", nullptr, noInfo, "");
-        row("digit only", true, "1", nullptr, noInfo, "");
         row("garbage", true, "1)<(,,*&\xff", nullptr, noInfo, ")<(");
         row("signal", true, SIGNAL(changed()), nullptr, noInfo, "changed()");
         row("other arguments", true, SLOT(showPage(int)), nullptr, noInfo, "showPage(int)");
@@ -94,13 +91,10 @@ private Q_SLOTS:
         QCOMPARE(shortcuts.join(u' '), expected);
         const QString traces = takeTraces();
         QCOMPARE(traces.count(u'\n'), missing == QLatin1String("-") ? 0 : 1);
-        QVERIFY2(
-            traces.isEmpty() ||
-                traces.contains(
-                    QStringLiteral(
-                        "controls/guibase/guibase(1699): GuiBase::CreateHelpMenu(): 'InfoReceiver' has no slot '") +
-                    missing),
-            qPrintable(traces));
+        const QString trace =
+            QStringLiteral("controls/guibase/guibase(1699): "
+                           "GuiBase::CreateHelpMenu(): 'InfoReceiver' has no slot '");
+        QVERIFY2(traces.isEmpty() || traces.contains(trace + missing), qPrintable(traces));
     }
     void entriesCallTheirSlots()
     {
@@ -126,17 +120,10 @@ private Q_SLOTS:
     void menuDiesWithItsParent()
     {
         auto parent = std::make_unique<QWidget>();
-        auto messageParent = std::make_unique<QWidget>();
-        m_services->CreateHelpMenu(parent.get(), QString(), nullptr, nullptr, messageParent.get(),
-                                   nullptr);
+        m_services->CreateHelpMenu(parent.get(), QString(), nullptr, nullptr, nullptr, nullptr);
         QVERIFY(m_services->GetHelpMenu() != nullptr);
         parent.reset();
-        messageParent.reset();
         QCOMPARE(m_services->GetHelpMenu(), nullptr);
-        const ModalDialogCloser closer(
-            [](const QDialog& dialog) { QCOMPARE(dialog.parentWidget(), nullptr); });
-        m_services->slotHelpContents();
-        QVERIFY(closer.hasSeenDialog());
     }
     void manual_data()
     {
