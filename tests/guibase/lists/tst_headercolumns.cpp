@@ -95,7 +95,6 @@ private Q_SLOTS:
     void menu();
     void handlerAndHeaderMayGo();
     void statesComeBack();
-    void otherHeadersStates();
     void hostileStates();
     void headerInView();
 };
@@ -160,20 +159,6 @@ void HeaderColumns::statesComeBack()
                 QCOMPARE(restored.view->visualIndex(other) < restored.view->visualIndex(section),
                          stored.view->visualIndex(other) < stored.view->visualIndex(section));
         }
-    }
-}
-
-void HeaderColumns::otherHeadersStates()
-{
-    Header header(3, Qt::Horizontal);
-    header.view->moveSection(0, 2);
-    header.handler->saveColumnStatus();
-    Header upright(3, Qt::Vertical);
-    Header stranger(3, Qt::Horizontal);
-    stranger.handler->setObjectName(QStringLiteral("stranger"));
-    for (Header* other : {&upright, &stranger}) {
-        other->handler->restoreColumnStatus();
-        QCOMPARE(other->view->visualIndex(0), 0);
     }
 }
 

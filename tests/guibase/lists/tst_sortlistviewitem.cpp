@@ -37,7 +37,6 @@ class SortListViewItems : public GuardedTest
 private Q_SLOTS:
     void construction();
     void navigation();
-    void pixmaps();
     void moving();
     void checkBoxes_data();
     void checkBoxes();
@@ -92,17 +91,6 @@ void SortListViewItems::navigation()
     list.takeItem(child);
     delete child;
     QCOMPARE(first->childCount(), 1);
-}
-
-void SortListViewItems::pixmaps()
-{
-    SortListViewItem item(static_cast<QTreeWidget*>(nullptr));
-    QPixmap picture(100, 50);
-    picture.fill(Qt::red);
-    item.setPixmap(0, picture);
-    const QPixmap* const shown = item.pixmap(0);
-    QCOMPARE(shown->size(), QSize(22, 11));
-    QVERIFY(item.pixmap(1)->isNull() && shown->isNull());
 }
 
 void SortListViewItems::moving()
