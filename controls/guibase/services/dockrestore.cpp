@@ -108,7 +108,7 @@ void DockRestore::restore(QMainWindow& window, const QByteArray& state)
         if (guard)
             putBack(window, former);
         if (former.dock && former.dock->isFloating() && former.dock->isVisible())
-            FloatingDockKeeper::keep(*former.dock);
+            FloatingDockKeeper::keep(*former.dock, FloatingDockKeeper::Place::OnScreen);
     }
     for (const FormerToolBar& former : toolBars) {
         if (guard)

@@ -15,19 +15,23 @@ class FloatingDockKeeper : public QObject
 {
     Q_OBJECT
 public:
-    /// Holds the dock at its present geometry, or at the nearest one whole on a screen, instead of
-    /// at a former one.
-    static void keep(QDockWidget& dock);
+    /// Where docks are held: at their present geometry, or at the nearest one that is whole on a
+    /// screen with its frame, also with one that comes only later.
+    enum class Place { AsItIs, OnScreen };
+    /// Instead of at a former geometry.
+    static void keep(QDockWidget& dock, Place place = Place::AsItIs);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     static constexpr int milliseconds = 2000;
 
 private:
-    explicit FloatingDockKeeper(QDockWidget& dock);
+    FloatingDockKeeper(QDockWidget& dock, Place place);
     void putBack();
 
     QDockWidget& m_dock;
     QRect m_geometry;
+    Place m_place;
     int m_timesLeft = 3;
+    bool m_isPuttingBack = false;
 };
