@@ -117,19 +117,21 @@ public:
     /// layout of a main window, or of one in an MDI sub-window) from now on. Not owned. Nothing for
     /// null and for a widget that is registered.
     ///
-    /// Layouts are written when the application ends, and a while after each change. Windows whose
-    /// place is not on today's screens come back whole on the nearest one. Stored bytes that are
-    /// damaged are not applied; the record is kept aside under its name followed by "_damaged".
+    /// Layouts are written when the application ends, and a while after the last change. Windows
+    /// whose place is not on today's screens come back whole on the nearest one. Stored bytes that
+    /// are damaged are not applied; the record is kept aside under its name followed by "_damaged".
     void RegisterPersistentWidget(QWidget* widget, const QString& name);
     void UnregisterPersistentWidget(QWidget* widget);
-    /// Time from a change of a layout to its writing in milliseconds; negative switches writing off
-    /// until the application ends. Default 2000.
+    /// Time from the last change of a layout to its writing in milliseconds, at most ten times as
+    /// long from the first one; negative switches writing off until the application ends. Default
+    /// 2000.
     void SetLayoutWriteDelay(int milliseconds);
     /// Actions for menus, which reset all windows; they belong to `parent`.
     QAction* CreateResetWidgetViewAction(QObject* parent);
     QAction* CreateResetFactoryViewAction(QObject* parent);
     /// Gives every registered main window the dock layout that it had in the mode last; a mode that
-    /// is new to it starts with the present layout.
+    /// is new to it starts with the present layout. Only docks change: no window is shown, moved or
+    /// minimized.
     void setMode(long mode);
     /// Makes the present dock layouts the factory layouts of the mode.
     void storeFactoryDefaultWidgets(long mode);
