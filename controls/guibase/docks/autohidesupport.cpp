@@ -113,15 +113,17 @@ void AutoHideSupportPrivate::connectAutoHideAction(QDockWidget& dock)
     entry->autoHideAction = action;
     if (action == nullptr)
         return;
-    const auto toggled = [this, guarded = DockPointer(&dock)](bool checked) {
-        if (guarded)
-            q.onAutoHideActionToggled(*guarded, checked);
+    // The dock may have left by the time that the second one runs.
+    const auto follow = [this, guarded = DockPointer(&dock)] {
+        const auto* current = guarded ? entryOf(guarded.get()) : nullptr;
+        if (current != nullptr && current->autoHideAction)
+            q.onAutoHideActionToggled(*guarded, current->autoHideAction->isChecked());
     };
-    QObject::connect(action, &QAction::toggled, &q, toggled);
+    QObject::connect(action, &QAction::toggled, &q, follow);
     if (isOn(dock))
         action->setChecked(true);
     else if (action->isChecked())
-        QTimerHelpers::singleShot(0, action, [toggled, action] { toggled(action->isChecked()); });
+        QTimerHelpers::singleShot(0, &q, follow);
 }
 
 Qt::ToolBarArea AutoHideSupportPrivate::usableArea(Qt::ToolBarArea wanted) const

@@ -12,20 +12,6 @@ namespace DockSizes {
 
 namespace {
 
-/// The minimum size without what the layout of the window imposes: set as the window's own, that
-/// would stay for good.
-QSize ownMinimumSize(const QMainWindow& mainWindow)
-{
-    mainWindow.layout()->activate();
-    QSize own = mainWindow.minimumSize();
-    const QSize imposed = mainWindow.layout()->totalMinimumSize();
-    if (own.width() == imposed.width())
-        own.setWidth(0);
-    if (own.height() == imposed.height())
-        own.setHeight(0);
-    return own;
-}
-
 /// The sizes that bound a dock, put back at the end of its squeezing.
 struct DockBounds
 {
@@ -81,19 +67,19 @@ FrozenWindow::FrozenWindow(QMainWindow& mainWindow)
     : m_window(&mainWindow)
     , m_blocker(mainWindow)
     , m_geometry(mainWindow.geometry())
-    , m_minimum(ownMinimumSize(mainWindow))
-    , m_maximum(mainWindow.maximumSize())
+    , m_constraint(mainWindow.layout()->sizeConstraint())
 {
-    mainWindow.setFixedSize(mainWindow.size());
+    // Keeps docks that are held at a size from making the window larger. Bounds for the window
+    // itself would end its being maximized.
+    mainWindow.layout()->setSizeConstraint(QLayout::SetNoConstraint);
 }
 
 FrozenWindow::~FrozenWindow()
 {
     if (m_window) {
-        m_window->setGeometry(m_geometry);
-        m_window->setMinimumSize(m_minimum);
-        m_window->setMaximumSize(m_maximum);
-        m_window->layout()->update(); // imposes the minimum size of the contents again
+        if (m_window->geometry() != m_geometry)
+            m_window->setGeometry(m_geometry);
+        m_window->layout()->setSizeConstraint(m_constraint);
     }
     settleLayout();
 }

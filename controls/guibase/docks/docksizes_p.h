@@ -3,6 +3,7 @@
 
 #include "updatesblocker_p.h"
 
+#include <QLayout>
 #include <QList>
 #include <QMainWindow>
 #include <QPair>
@@ -39,8 +40,7 @@ private:
     QPointer<QMainWindow> m_window;
     UpdatesBlocker m_blocker;
     QRect m_geometry;
-    QSize m_minimum;
-    QSize m_maximum;
+    QLayout::SizeConstraint m_constraint;
 };
 
 } // namespace DockSizes

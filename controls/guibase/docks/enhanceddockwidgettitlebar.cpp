@@ -260,6 +260,7 @@ TitleBarButton& EnhancedDockWidgetTitleBar::Private::buttonFor(QAction& action)
 
 void EnhancedDockWidgetTitleBar::Private::removeButton(QAction* action)
 {
+    actionsInMenu.removeOne(action);
     const auto found = buttons.find(action);
     if (found == buttons.end())
         return;

@@ -34,13 +34,10 @@ QList<Child*> childrenOfWindow(const QMainWindow& mainWindow,
     return accepted;
 }
 
-/// The dock of the current tab. The toolkit notes each tab's dock in the tab's data; the title is
+/// The dock of a tab. The toolkit notes each tab's dock in the tab's data; the title is
 /// what remains for tab bars that somebody else has filled.
-QDockWidget* currentDockOf(const QTabBar& tabBar, const QMainWindow& mainWindow)
+QDockWidget* dockOfTab(const QTabBar& tabBar, int index, const QMainWindow& mainWindow)
 {
-    const int index = tabBar.currentIndex();
-    if (index < 0)
-        return nullptr;
     const auto noted = tabBar.tabData(index).value<quintptr>();
     const QList<QDockWidget*> docks = dockWidgets(
         mainWindow,
@@ -129,7 +126,8 @@ QDockWidget* findParentDockWidget(const QWidget& widget, const QMainWindow* main
     if (const auto* tabBar = qobject_cast<const QTabBar*>(&widget)) {
         const auto* window = qobject_cast<const QMainWindow*>(tabBar->parentWidget());
         if (isWindowOrAny(window, mainWindow))
-            return currentDockOf(*tabBar, *window);
+            return tabBar->currentIndex() < 0 ? nullptr
+                                              : dockOfTab(*tabBar, tabBar->currentIndex(), *window);
     }
     for (const QWidget* ancestor = &widget; ancestor != nullptr;
          ancestor = ancestor->parentWidget()) {
@@ -147,20 +145,17 @@ QList<QTabBar*> tabBarsInDockWidgetArea(const QMainWindow& mainWindow, Qt::DockW
     const auto any = [](const QTabBar&) { return true; };
     if (childrenOfWindow<QTabBar>(mainWindow, any, 1).isEmpty())
         return {};
-    QSet<QString> titles;
     const QSet<QDockWidget*> docks = tabbedDocks(mainWindow, area);
-    for (const QDockWidget* dock : docks)
-        titles.insert(dock->windowTitle());
-    if (titles.isEmpty())
+    if (docks.isEmpty())
         return {};
-    const auto hasTitle = [&titles](const QTabBar& tabBar) {
+    const auto hasDock = [&](const QTabBar& tabBar) {
         for (int i = 0; i < tabBar.count(); ++i) {
-            if (titles.contains(tabBar.tabText(i)))
+            if (docks.contains(dockOfTab(tabBar, i, mainWindow)))
                 return true;
         }
         return false;
     };
-    return childrenOfWindow<QTabBar>(mainWindow, hasTitle, -1);
+    return childrenOfWindow<QTabBar>(mainWindow, hasDock, -1);
 }
 
 QRect dockWidgetAreaGeometry(const QMainWindow& mainWindow, Qt::DockWidgetArea area)

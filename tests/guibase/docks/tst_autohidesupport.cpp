@@ -346,6 +346,18 @@ private Q_SLOTS:
         delete brief;
         QTRY_COMPARE(w.bar(Qt::RightToolBarArea)->width(), 0);
     }
+    void dockLeavesBeforeItsCheckedActionCounts()
+    {
+        Window w;
+        DockWindow other;
+        auto* dock = new QDockWidget;
+        AutoHideSupport::createAutoHideAction(*dock)->setChecked(true);
+        w.window->addDockWidget(Qt::LeftDockWidgetArea, dock);
+        other.addDockWidget(Qt::LeftDockWidgetArea, dock);
+        w.window.reset();
+        settle();
+        QVERIFY(!dock->isFloating());
+    }
     void windowDiesWithPendingDock()
     {
         auto w = std::make_unique<Window>();

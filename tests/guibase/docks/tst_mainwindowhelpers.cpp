@@ -107,6 +107,34 @@ private Q_SLOTS:
         setDockWidgetSize(window, *docks[0], 0, 0);
         QVERIFY(!window.updatesEnabled());
     }
+    void leavesAMaximizedWindowMaximized()
+    {
+        DockWindow window;
+        QDockWidget* dock = window.addDock(u"a"_s);
+        window.showMaximized();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        settle();
+        const QRect geometry = window.geometry();
+        setDockWidgetSize(window, *dock, 300, 0);
+        settle();
+        QVERIFY(window.isMaximized());
+        QCOMPARE(window.geometry(), geometry);
+        QCOMPARE(dock->width(), 300);
+    }
+    void tellsDocksOfOneTitleApart()
+    {
+        DockWindow window;
+        const auto left = window.addDocks({u"a[*]"_s, u"b"_s});
+        const auto right = window.addDocks({u"a[*]"_s, u"c"_s}, Qt::RightDockWidgetArea);
+        for (const auto& docks : {left, right})
+            window.tabifyDockWidget(docks[0], docks[1]);
+        window.show();
+        settle();
+        for (const auto area : {Qt::LeftDockWidgetArea, Qt::RightDockWidgetArea}) {
+            QCOMPARE(tabBarsInDockWidgetArea(window, area).size(), 1);
+            QVERIFY(dockWidgetAreaGeometry(window, area).width() < window.width() / 2);
+        }
+    }
     void survivesDeathsWhileSizing()
     {
         QPointer<DockWindow> window = new DockWindow;
