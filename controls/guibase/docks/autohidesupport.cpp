@@ -52,7 +52,15 @@ void AutoHideSupportPrivate::registerDock(QDockWidget& dock)
         return;
     Entry& entry = entries[&dock];
     entry.dock = &dock;
+    entry.name = dock.objectName();
     dock.installEventFilter(&q);
+    QObject::connect(&dock, &QObject::objectNameChanged, &q,
+                     [this, key = static_cast<const QObject*>(&dock)](const QString& name) {
+                         if (Entry* named = entryOf(key))
+                             named->name = name;
+                     });
+    QObject::connect(&dock, &QDockWidget::topLevelChanged, &q,
+                     [this, &dock] { leaveWhenGone(dock); });
     addButtons(dock, entry);
     connectAutoHideAction(dock);
     // The dock may be in the middle of being shown, and not have its name yet.
@@ -92,6 +100,9 @@ void AutoHideSupportPrivate::unregisterDock(const QObject* key, QDockWidget* doc
         dock->disconnect(&q);
         if (entry.autoHideAction)
             entry.autoHideAction->setChecked(false);
+        // In its new window nothing else would bring it out again.
+        if (wasOn && entry.hiddenByMode)
+            QTimerHelpers::singleShot(0, dock, [dock] { dock->show(); });
     } else if (wasOn && !entry.name.isEmpty() && !storageName.isEmpty()) {
         // It is the end of the program, perhaps: in the next run the dock comes back as it was.
         remembered.insert(entry.name, side);
@@ -160,7 +171,11 @@ void AutoHideSupportPrivate::enable(QDockWidget& dock, Qt::ToolBarArea area)
     q.setDockWidgetActionVisibility(dock, area);
     q.updateToolBarVisibility();
     autoHideDocks.append(&dock);
-    entryOf(&dock)->name = dock.objectName();
+    // Shown now, it would stand alone on the screen.
+    if (!mainWindow.isVisible() && !dock.isHidden()) {
+        entryOf(&dock)->hiddenByMode = true;
+        dock.hide();
+    }
     setActionChecked(dock, true);
     if (alive && guarded && isOn(dock) && syncWithFloating && !dock.isFloating()) {
         dock.setFloating(true);
@@ -192,6 +207,11 @@ void AutoHideSupportPrivate::restore(QDockWidget& dock, Qt::ToolBarArea area)
     if (alive && guarded && isOn(dock)) {
         entryOf(&dock)->hiddenByMode = true;
         dock.hide();
+        // The window's layout, restored next, may show it as it was at the end of the program.
+        QTimerHelpers::singleShot(0, &q, [this, guarded] {
+            if (guarded && isOn(*guarded) && guarded->isFloating())
+                hideDock(*guarded);
+        });
     }
 }
 

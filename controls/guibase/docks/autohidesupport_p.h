@@ -25,8 +25,10 @@ struct AutoHideSupportPrivate
         DockPointer dock;
         QMap<Qt::ToolBarArea, QAction*> proxies;
         QPointer<QAction> autoHideAction; ///< The one that is connected.
-        QString name;                     ///< The object name when the dock entered the mode.
+        QString name;                     ///< The object name, known when the dock dies too.
         bool hiddenByMode = false;
+        bool isClosed = false; ///< By the user or the application, not by the mode.
+        bool willHide = false; ///< Once what it has open is closed.
     };
 
     AutoHideSupportPrivate(AutoHideSupport& support, QMainWindow& served,
@@ -52,14 +54,18 @@ struct AutoHideSupportPrivate
     void restore(QDockWidget& dock, Qt::ToolBarArea area);
     void setActionChecked(const QDockWidget& dock, bool checked);
 
-    /// Hides the dock unless something of its own is open.
+    /// Hides the dock, or does so later if something of its own is open.
     void hideDock(QDockWidget& dock);
+    void hideLater(QDockWidget& dock);
+    /// Ends the mode of a dock that was closed, docked while hidden, or taken out of the window.
+    void leaveWhenGone(QDockWidget& dock);
     void hideOther(QDockWidget* pending, const QDockWidget& dock);
     void dockShown(QDockWidget& dock);
     /// Keeps the shown docks against their tool bars.
     void followMainWindow();
     void showByKey(QDockWidget& dock);
     void dismissByKey(QDockWidget& dock);
+    void dismissAll();
 
     AutoHideState state() const;
     void apply(const AutoHideState& state);

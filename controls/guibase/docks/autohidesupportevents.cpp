@@ -16,7 +16,10 @@
 #include <QCursor>
 #include <QKeyEvent>
 #include <QLayout>
+#include <QMenu>
+#include <QPushButton>
 #include <QStyle>
+#include <QTextDocument>
 #include <QWidgetAction>
 
 #include <algorithm>
@@ -32,6 +35,7 @@ constexpr const char* buttonProperty = "QMainWindowHelpers_AutoHideSupport_toggl
 
 constexpr int expandedExtent = 24;
 constexpr int popupButtonExtent = 24;
+constexpr int titleMargins = 6;
 
 bool isAtSide(Qt::ToolBarArea area)
 {
@@ -79,11 +83,33 @@ bool isInside(const QWidget* widget, const QWidget& ancestor)
     return widget != nullptr;
 }
 
-/// Whether a menu, list or modal dialog that belongs to the dock is open.
+/// Whether the dock has a button that opens this menu, which may belong to anybody.
+bool hasButtonOf(const QDockWidget& dock, const QWidget& menu)
+{
+    const QList<QAbstractButton*> buttons = dock.findChildren<QAbstractButton*>();
+    return std::any_of(buttons.cbegin(), buttons.cend(), [&menu](const QAbstractButton* button) {
+        const auto* tool = qobject_cast<const QToolButton*>(button);
+        const auto* push = qobject_cast<const QPushButton*>(button);
+        return (tool != nullptr && tool->menu() == &menu) ||
+               (push != nullptr && push->menu() == &menu);
+    });
+}
+
+/// Whether a menu, list or dialog is open that belongs to the dock, or that may: those without a
+/// parent do not tell whose they are.
 bool hasOpenWindow(const QDockWidget& dock)
 {
-    return isInside(QApplication::activePopupWidget(), dock) ||
-           isInside(QApplication::activeModalWidget(), dock);
+    const QWidget* popup = QApplication::activePopupWidget();
+    const QWidget* modal = QApplication::activeModalWidget();
+    if ((popup != nullptr && (popup->parentWidget() == nullptr || hasButtonOf(dock, *popup))) ||
+        (modal != nullptr && modal->parentWidget() == nullptr))
+        return true;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.cbegin(), windows.cend(), [&dock](const QWidget* window) {
+        const Qt::WindowType type = window->windowType();
+        const bool counts = type == Qt::Dialog || type == Qt::Sheet || type == Qt::Popup;
+        return counts && window->isVisible() && isInside(window, dock);
+    });
 }
 
 bool isUnderCursor(const QDockWidget& dock)
@@ -143,7 +169,8 @@ void AutoHideSupportPrivate::followDock(const QDockWidget& dock)
     const bool hasIcon = dock.testAttribute(Qt::WA_SetWindowIcon);
     for (QAction* proxy : entry->proxies) {
         proxy->setText(title);
-        proxy->setToolTip(title.isEmpty() ? dock.objectName() : title);
+        const QString tip = title.isEmpty() ? dock.objectName() : title;
+        proxy->setToolTip(Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip);
         // A window without an icon of its own would give that of its parents.
         proxy->setIcon(hasIcon ? dock.windowIcon() : QIcon());
         proxy->setIconText(dock.windowIconText());
@@ -152,11 +179,48 @@ void AutoHideSupportPrivate::followDock(const QDockWidget& dock)
 
 void AutoHideSupportPrivate::hideDock(QDockWidget& dock)
 {
-    if (hasOpenWindow(dock))
+    if (!dock.isVisible())
         return;
+    if (hasOpenWindow(dock)) {
+        hideLater(dock);
+        return;
+    }
     if (Entry* entry = entryOf(&dock))
         entry->hiddenByMode = true;
     dock.hide();
+}
+
+void AutoHideSupportPrivate::hideLater(QDockWidget& dock)
+{
+    Entry* entry = entryOf(&dock);
+    if (entry == nullptr || std::exchange(entry->willHide, true))
+        return;
+    QTimerHelpers::singleShot(delay, &q, [this, key = static_cast<const QObject*>(&dock)] {
+        Entry* waiting = entryOf(key);
+        if (waiting == nullptr)
+            return;
+        waiting->willHide = false;
+        // Otherwise the user has come back to it, or it will be hidden in its turn.
+        if (waiting->dock && isOn(*waiting->dock) && !(pending == key) &&
+            !isUnderCursor(*waiting->dock))
+            hideDock(*waiting->dock);
+    });
+}
+
+void AutoHideSupportPrivate::leaveWhenGone(QDockWidget& dock)
+{
+    QTimerHelpers::singleShot(0, &q, [this, guarded = DockPointer(&dock)] {
+        if (!guarded || !isOn(*guarded) || guarded->isVisible() || !mainWindow.isVisible())
+            return;
+        const bool isRemoved = mainWindow.dockWidgetArea(guarded.get()) == Qt::NoDockWidgetArea;
+        const bool isDocked = !guarded->isFloating() && syncWithFloating && !allowNonFloating;
+        Entry* entry = entryOf(guarded.get());
+        const bool isClosed = entry != nullptr && std::exchange(entry->isClosed, false);
+        if (isClosed || isRemoved)
+            entry->hiddenByMode = false;
+        if (isClosed || isRemoved || isDocked)
+            q.disableAutoHide(*guarded);
+    });
 }
 
 void AutoHideSupportPrivate::hideOther(QDockWidget* other, const QDockWidget& dock)
@@ -168,7 +232,7 @@ void AutoHideSupportPrivate::hideOther(QDockWidget* other, const QDockWidget& do
 void AutoHideSupportPrivate::dockShown(QDockWidget& dock)
 {
     if (Entry* entry = entryOf(&dock))
-        entry->hiddenByMode = false;
+        entry->hiddenByMode = entry->isClosed = false;
     if (dock.isFloating() || (isOn(dock) && allowNonFloating)) {
         if (const QToolBar* toolBar = q.toolBarResponsibleFor(dock))
             q.moveDockWidget(dock, *toolBar);
@@ -224,6 +288,18 @@ void AutoHideSupportPrivate::dismissByKey(QDockWidget& dock)
     }
 }
 
+void AutoHideSupportPrivate::dismissAll()
+{
+    QList<DockPointer> shown;
+    for (const auto& [key, entry] : entries)
+        if (entry.dock && isOn(*entry.dock) && entry.dock->isVisible() && entry.dock->isFloating())
+            shown << entry.dock;
+    const QPointer<AutoHideSupport> alive(&q);
+    for (const DockPointer& dock : std::as_const(shown))
+        if (alive && dock)
+            hideDock(*dock);
+}
+
 bool AutoHideSupport::eventFilter(QObject* watched, QEvent* event)
 {
     const SurvivalCheck receiver(watched);
@@ -265,6 +341,10 @@ void AutoHideSupport::mainWindowEvent(const QEvent& event)
 {
     if (event.type() == QEvent::Resize || event.type() == QEvent::Move)
         d->followMainWindow();
+    // A dock that the mouse has shown does not have the focus.
+    if (event.type() == QEvent::KeyPress &&
+        static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape)
+        d->dismissAll();
     // A dock may have been registered before it was announced.
     if (event.type() == QEvent::ChildRemoved) {
         const QObject* child = static_cast<const QChildEvent&>(event).child();
@@ -291,6 +371,14 @@ void AutoHideSupport::dockWidgetEvent(QDockWidget& dock, const QEvent& event)
         // The window system's own shows, after minimizing, change nothing.
         if (!event.spontaneous())
             d->dockShown(dock);
+        break;
+    case QEvent::Close:
+        if (auto* entry = d->entryOf(&dock); isOn && entry != nullptr)
+            entry->isClosed = true;
+        [[fallthrough]];
+    case QEvent::Hide:
+        if (isOn)
+            d->leaveWhenGone(dock);
         break;
     case QEvent::KeyPress:
         if (isOn && dock.isVisible() &&
@@ -372,6 +460,7 @@ void AutoHideSupport::createDockWidgetTabToolBars()
         toolBar->setMovable(false);
         toolBar->toggleViewAction()->setVisible(false);
         toolBar->layout()->setSpacing(5);
+        toolBar->layout()->setContentsMargins({}); // The buttons need all of the extent.
         const int icon = toolBar->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, toolBar);
         toolBar->setIconSize(QSize(icon, icon));
         toolBar->addAction(d->popupOnHover);
@@ -440,7 +529,9 @@ void AutoHideSupport::updateToolBarVisibility()
 void AutoHideSupport::setToolBarVisible(QToolBar& toolBar, bool visible)
 {
     // A collapsed tool bar keeps its place in the main window's layout, a hidden one would not.
-    const int extent = visible ? expandedExtent : 0;
+    // Titles in a large font need more room than usual.
+    const int wanted = std::max(expandedExtent, toolBar.fontMetrics().height() + titleMargins);
+    const int extent = visible ? wanted : 0;
     if (toolBar.orientation() == Qt::Vertical)
         toolBar.setMaximumWidth(extent);
     else

@@ -235,10 +235,12 @@ private Q_SLOTS:
         QMenu menu(w.left->widget());
         menu.addAction(u"entry"_s);
         QDialog dialog(w.left);
-        dialog.setModal(true);
-        for (QWidget* own : {static_cast<QWidget*>(&menu), static_cast<QWidget*>(&dialog)}) {
+        QMenu parentless;
+        parentless.addAction(u"entry"_s);
+        for (QWidget* own : {static_cast<QWidget*>(&menu), static_cast<QWidget*>(&parentless),
+                             static_cast<QWidget*>(&dialog)}) {
             w.left->show();
-            if (own == &menu && QGuiApplication::platformName() == u"offscreen"_s)
+            if (own != &dialog && QGuiApplication::platformName() == u"offscreen"_s)
                 QTest::ignoreMessage(QtWarningMsg,
                                      "This plugin does not support grabbing the keyboard");
             own->show();
@@ -314,6 +316,30 @@ private Q_SLOTS:
         w.left->hide();
         w.left->show();
         QVERIFY(w.isOn(w.left));
+    }
+    void nothingIsLeftOfClosedDocks()
+    {
+        Window w;
+        const auto hides = [&w](QDockWidget* dock) {
+            w.support->enableAutoHide(*dock);
+            dock->hide();
+            settle();
+            QVERIFY(w.isOn(dock) && !w.buttons(dock).isEmpty());
+        };
+        hides(w.left);
+        w.left->show();
+        w.left->close();
+        hides(w.right);
+        w.right->setFloating(false);
+        settle();
+        for (QDockWidget* dock : {w.left, w.right})
+            QVERIFY(!w.isOn(dock) && w.buttons(dock).isEmpty());
+        QVERIFY(!w.left->isVisible());
+        hides(w.right);
+        w.right->show();
+        w.window->removeDockWidget(w.right);
+        settle();
+        QVERIFY(!w.isOn(w.right) && w.buttons(w.right).isEmpty());
     }
     void docksThatComeAndGo()
     {
