@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QPixmapCache>
 #include <QPolygonF>
+#include <QWidget>
 
 #include <algorithm>
 #include <array>
@@ -190,37 +191,56 @@ constexpr bool inEnumeratorOrder()
 }
 static_assert(inEnumeratorOrder());
 
-QColor inkOf(QIcon::Mode mode)
+QColor inkOf(QIcon::Mode mode, const QPalette& palette)
 {
-    const QPalette palette = QGuiApplication::palette();
     if (mode == QIcon::Selected)
         return palette.color(QPalette::Active, QPalette::HighlightedText);
     return palette.color(mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active,
                          QPalette::ButtonText);
 }
 
-class DockIconEngine : public QIconEngine
+/// Draws in the text colour of the widget that is painted on, or of the application where that is
+/// not known.
+class InkIconEngine : public QIconEngine
+{
+public:
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const QPaintDevice* device = painter->device();
+        const bool isWidget = device->devType() == QInternal::Widget;
+        const QColor ink = inkOf(mode, isWidget ? static_cast<const QWidget*>(device)->palette()
+                                                : QGuiApplication::palette());
+        const qreal ratio = device->devicePixelRatioF();
+        QPixmap picture = drawn((QSizeF(rect.size()) * ratio).toSize(), state, ink);
+        picture.setDevicePixelRatio(ratio);
+        painter->drawPixmap(rect.topLeft(), picture);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return drawn(size, state, inkOf(mode, QGuiApplication::palette()));
+    }
+    bool isNull() override { return false; }
+
+protected:
+    virtual QPixmap drawn(const QSize& size, QIcon::State state, const QColor& ink) = 0;
+};
+
+class DockIconEngine : public InkIconEngine
 {
 public:
     DockIconEngine(DockIcon off, DockIcon on)
         : m_off(off)
         , m_on(on)
     {}
+    QIconEngine* clone() const override { return new DockIconEngine(m_off, m_on); }
+    QString key() const override { return QStringLiteral("DockIcon"); }
 
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
-    {
-        const qreal ratio = painter->device()->devicePixelRatioF();
-        QPixmap picture = pixmap((QSizeF(rect.size()) * ratio).toSize(), mode, state);
-        picture.setDevicePixelRatio(ratio);
-        painter->drawPixmap(rect.topLeft(), picture);
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+protected:
+    QPixmap drawn(const QSize& size, QIcon::State state, const QColor& ink) override
     {
         if (size.isEmpty())
             return {};
         const DockIcon kind = state == QIcon::On ? m_on : m_off;
-        const QColor ink = inkOf(mode);
         const auto character = [](auto value) { return QChar(static_cast<char16_t>(value)); };
         const QString cacheKey = QStringLiteral("GuiBase_DockIcon_") + character(kind) +
                                  character(size.width()) + character(size.height()) +
@@ -238,13 +258,39 @@ public:
         return picture;
     }
 
-    QIconEngine* clone() const override { return new DockIconEngine(m_off, m_on); }
-    QString key() const override { return QStringLiteral("DockIcon"); }
-    bool isNull() override { return false; }
-
 private:
     DockIcon m_off;
     DockIcon m_on;
+};
+
+class TintedIconEngine : public InkIconEngine
+{
+public:
+    explicit TintedIconEngine(const QIcon& shape)
+        : m_shape(shape)
+    {}
+    QIconEngine* clone() const override { return new TintedIconEngine(m_shape); }
+    QString key() const override { return QStringLiteral("TintedIcon"); }
+
+protected:
+    QPixmap drawn(const QSize& size, QIcon::State state, const QColor& ink) override
+    {
+        const QPixmap shape = m_shape.pixmap(size, 1.0, QIcon::Normal, state);
+        if (shape.isNull() || size.isEmpty())
+            return {};
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.drawPixmap((size.width() - shape.width()) / 2, (size.height() - shape.height()) / 2,
+                           shape);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(picture.rect(), ink);
+        painter.end();
+        return picture;
+    }
+
+private:
+    QIcon m_shape;
 };
 
 } // namespace
@@ -257,4 +303,9 @@ QIcon makeDockIcon(DockIcon kind)
 QIcon makeDockIcon(DockIcon off, DockIcon on)
 {
     return QIcon(new DockIconEngine(off, on));
+}
+
+QIcon makeTintedIcon(const QIcon& shape)
+{
+    return QIcon(new TintedIconEngine(shape));
 }

@@ -23,8 +23,10 @@ enum class DockIcon {
     More,
 };
 
-/// An icon that is drawn when it is needed, in the size that is needed and in the text colour of
-/// the application's palette as it is then.
+/// An icon that is drawn when it is needed, in the size that is needed and in the text colour that
+/// the widget has then: painted with QIcon::paint(), otherwise that of the application's palette.
 QIcon makeDockIcon(DockIcon kind);
 /// The same with different pictures for the Off and On states of an action.
 QIcon makeDockIcon(DockIcon off, DockIcon on);
+/// The shape of an icon of one colour, such as those of a style, in the same ink.
+QIcon makeTintedIcon(const QIcon& shape);

@@ -37,7 +37,11 @@ void addActionToTitleBar(QDockWidget& dockWidget, QAction& action, int index)
     auto* titleBar = qobject_cast<EnhancedDockWidgetTitleBar*>(dockWidget.titleBarWidget());
     if (titleBar == nullptr) {
         QWidget* former = dockWidget.titleBarWidget();
-        titleBar = new EnhancedDockWidgetTitleBar(dockWidget);
+        // One that was put aside is used again: two would both answer for the dock.
+        titleBar = dockWidget.findChild<EnhancedDockWidgetTitleBar*>(QString(),
+                                                                     Qt::FindDirectChildrenOnly);
+        if (titleBar == nullptr)
+            titleBar = new EnhancedDockWidgetTitleBar(dockWidget);
         dockWidget.setTitleBarWidget(titleBar);
         if (former != nullptr)
             former->hide();

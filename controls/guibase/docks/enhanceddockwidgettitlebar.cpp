@@ -82,7 +82,15 @@ protected:
         initStyleOption(&option);
         // The picture says it already.
         option.features &= ~QStyleOptionToolButton::HasMenu;
+        // The style would draw the icon without knowing on what.
+        option.icon = QIcon();
+        option.text.clear();
         painter.drawComplexControl(QStyle::CC_ToolButton, option);
+        QRect place(QPoint(), iconSize());
+        place.moveCenter(rect().center());
+        icon().paint(&painter, place, Qt::AlignCenter,
+                     isEnabled() ? QIcon::Normal : QIcon::Disabled,
+                     isChecked() ? QIcon::On : QIcon::Off);
     }
 };
 
@@ -235,7 +243,11 @@ void EnhancedDockWidgetTitleBar::Private::followDock()
 QList<QAction*> EnhancedDockWidgetTitleBar::Private::visibleActions() const
 {
     QList<QAction*> visible = bar.actions();
-    visible.removeIf([](const QAction* action) { return !action->isVisible(); });
+    visible.removeIf(
+        [](const QAction* action) { return !action->isVisible() || action->isSeparator(); });
+    // A text does not fit on a button: such actions are in the menu.
+    std::stable_partition(visible.begin(), visible.end(),
+                          [](const QAction* action) { return !action->icon().isNull(); });
     return visible;
 }
 
@@ -253,6 +265,8 @@ TitleBarButton& EnhancedDockWidgetTitleBar::Private::buttonFor(QAction& action)
     if (button == nullptr) {
         button = new TitleBarButton(&bar);
         button->setDefaultAction(&action);
+        if (action.menu() != nullptr)
+            button->setPopupMode(QToolButton::InstantPopup);
         button->setName(nameOf(action));
     }
     return *button;
@@ -284,8 +298,12 @@ void EnhancedDockWidgetTitleBar::Private::arrange()
     const int kept =
         std::min(titleWidth, keptTitleCharacters * bar.fontMetrics().averageCharWidth());
     const int room = std::max(0, (end - begin - kept) / button - fixedButtonCount());
-    const bool needsMenu = actions.size() > room;
-    const qsizetype asButtons = needsMenu ? std::max(0, room - 1) : actions.size();
+    const qsizetype withIcon =
+        std::count_if(actions.cbegin(), actions.cend(),
+                      [](const QAction* action) { return !action->icon().isNull(); });
+    const bool needsMenu = actions.size() > room || withIcon < actions.size();
+    const qsizetype asButtons =
+        needsMenu ? std::min<qsizetype>(withIcon, std::max(0, room - 1)) : actions.size();
     actionsInMenu = actions.mid(asButtons);
 
     shownButtons.clear();
@@ -317,6 +335,10 @@ void EnhancedDockWidgetTitleBar::Private::arrange()
     for (TitleBarButton* each : {menuButton, floatButton, closeButton})
         showOrHide(each);
     updateTabStop(nullptr);
+    if (bar.hasFocus())
+        for (TitleBarButton* shown : std::as_const(shownButtons))
+            if (shown->focusPolicy() == Qt::TabFocus)
+                shown->setFocus(Qt::OtherFocusReason);
     bar.update();
 }
 
@@ -340,9 +362,12 @@ void EnhancedDockWidgetTitleBar::Private::fillMenu()
             menu->addAction(action);
             continue;
         }
-        QAction* named =
-            menu->addAction(action->icon(), nameOf(*action), action, &QAction::trigger);
+        QAction* named = menu->addAction(
+            action->icon(), nameOf(*action).replace(QLatin1Char('&'), QStringLiteral("&&")), action,
+            &QAction::trigger);
         named->setEnabled(action->isEnabled());
+        named->setCheckable(action->isCheckable());
+        named->setChecked(action->isChecked());
     }
 }
 
@@ -446,8 +471,12 @@ void EnhancedDockWidgetTitleBar::actionEvent(QActionEvent* event)
         d->removeButton(event->action());
     } else if (const auto button = d->buttons.find(event->action()); button != d->buttons.end()) {
         button->second->setName(nameOf(*event->action()));
-        if (!event->action()->isVisible())
+        if (!event->action()->isVisible()) {
+            // The focus stays on the bar and goes to the button that comes instead.
+            if (button->second->hasFocus())
+                setFocus(Qt::OtherFocusReason);
             button->second->hide();
+        }
     }
     // The action may go because the window is being destroyed: no time for new buttons.
     if (!std::exchange(d->willArrange, true))

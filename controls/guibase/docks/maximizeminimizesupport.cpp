@@ -2,6 +2,7 @@
 #include "maximizeminimizesupport.h"
 
 #include "attachedhelper_p.h"
+#include "dockicons_p.h"
 #include "survivalcheck_p.h"
 #include "updatesblocker_p.h"
 
@@ -186,14 +187,15 @@ private:
     State::Type m_state;
 };
 
-/// The style makes a standard icon from its image files every time; it is kept with the style.
+/// The style makes a standard icon from its image files every time; it is kept with the style. Some
+/// styles have dark ones only.
 QIcon standardIconOf(const QDockWidget& dock, QStyle::StandardPixmap kind)
 {
     QStyle* style = dock.style();
     const QByteArray name = "GuiBase_standardIcon_" + QByteArray::number(int(kind));
     QVariant kept = style->property(name.constData());
     if (!kept.isValid()) {
-        kept = style->standardIcon(kind, nullptr, &dock);
+        kept = makeTintedIcon(style->standardIcon(kind, nullptr, &dock));
         style->setProperty(name.constData(), kept);
     }
     return kept.value<QIcon>();

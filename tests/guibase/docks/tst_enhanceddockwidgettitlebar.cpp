@@ -49,6 +49,15 @@ private Q_SLOTS:
         connect(two, &QAction::triggered, m_dock, [two] { delete two; });
         QTest::mouseClick(button(u"two"_s), Qt::LeftButton);
         QCOMPARE(shown().join(u' '), u"uno Float Close"_s);
+        // The keys stay on the bar when their button goes.
+        m_window->activateWindow();
+        button(u"uno"_s)->setFocus();
+        one->setVisible(false);
+        QTRY_COMPARE(QApplication::focusWidget(), button(u"Float"_s));
+        // There is no room for a text on a button.
+        one->setIcon(QIcon());
+        one->setVisible(true);
+        QTRY_COMPARE(shown().join(u' '), u"More Float Close"_s);
     }
     void actionsMayOutliveAndUnderliveTheWindow()
     {
@@ -61,7 +70,7 @@ private Q_SLOTS:
             auto* bar = new EnhancedDockWidgetTitleBar(*dock);
             dock->setTitleBarWidget(bar);
             for (int i = 0; i < 30; ++i) // more than there is room for
-                bar->addTitleBarAction(*new QAction(QString::number(i), early.get()), -1);
+                bar->addTitleBarAction(*new QAction(m_icon, QString::number(i), early.get()), -1);
             window.addDockWidget(Qt::LeftDockWidgetArea, dock);
             window.show();
             if (actionsFirst)
@@ -203,13 +212,14 @@ private:
     }
     QAction* addAction(const QString& name, int index)
     {
-        auto* action = new QAction(name, m_dock);
+        auto* action = new QAction(m_icon, name, m_dock);
         m_bar->addTitleBarAction(*action, index);
         return action;
     }
 
     std::unique_ptr<DockWindow> m_window;
     QDockWidget* m_dock = nullptr;
+    const QIcon m_icon{QPixmap(16, 16)}; // of any content
     EnhancedDockWidgetTitleBar* m_bar = nullptr;
 };
 
