@@ -146,6 +146,9 @@ bool ActiveDockWidgetSupport::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::MouseButtonRelease:
         d->mouseButtonPressed = false;
+        if (d->active && !d->active->isVisible()) // hidden while the button was down
+            d->hiddenCheck =
+                QTimerHelpers::singleShot(0, this, [this] { d->handleHidden(d->active); });
         if (auto* widget = qobject_cast<QWidget*>(watched))
             d->handleRelease(*widget);
         break;

@@ -46,7 +46,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The current answers; sent whenever the docks may have changed, also with the same answer.
+    /// The current answers; sent whenever the docks may have changed, also with the same answer. A
+    /// receiver may be called from within the window's layout: what changes or deletes the window
+    /// belongs into a queued connection.
     void isTabifyDockWidgetsPossibleChanged(Qt::DockWidgetArea area, bool possible);
     void isTabifyDockWidgetsPossibleInLeftDockWidgetAreaChanged(bool possible);
     void isTabifyDockWidgetsPossibleInRightDockWidgetAreaChanged(bool possible);

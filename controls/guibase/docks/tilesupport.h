@@ -47,7 +47,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The current answers; sent whenever the docks may have changed, also with the same answer.
+    /// The current answers; sent whenever the docks may have changed, also with the same answer. A
+    /// receiver may be called from within the window's layout: what changes or deletes the window
+    /// belongs into a queued connection.
     void isTileDockWidgetsPossibleChanged(Qt::DockWidgetArea area, bool possible);
     void isTileDockWidgetsPossibleInLeftDockWidgetAreaChanged(bool possible);
     void isTileDockWidgetsPossibleInRightDockWidgetAreaChanged(bool possible);
