@@ -3,17 +3,19 @@
 #include "mainwindow.h"
 #include "model/levelline.h"
 #include "model/recordingwriter.h"
+#include "model/textfile.h"
 #include "panes/bandview.h"
 #include "panes/levelspane.h"
 #include "panes/signalspane.h"
 #include "receiver/receivercontrol.h"
+#include "recentrecordings.h"
 #include "settings.h"
 
 #include <guibase/services/guibase.h>
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QStatusBar>
 
 namespace bandmonitor {
 
@@ -48,13 +50,17 @@ void MainWindow::addJobs()
     m_jobs->addPause(tr("Pause above the reference levels"), pauseAbove);
 }
 
+QByteArray MainWindow::exportText(const Sweep& sweep) const
+{
+    return receiverRemark(m_receiverControl->settings().addressText()) + sweepText(sweep);
+}
+
 std::optional<JobState> MainWindow::exportSweep()
 {
     const Sweep sweep = m_replay.sweep();
     if (sweep.isEmpty())
         return JobState::Failed;
-    const QByteArray text =
-        receiverRemark(m_receiverControl->settings().addressText()) + sweepText(sweep);
+    const QByteArray text = exportText(sweep);
     QFileDialog dialog(this, tr("Export the sweep"), Settings::lastFolder(),
                        tr("Recordings (*.csv)"));
     dialog.setOptions(GuiBase::Instance().UseNativeDialogs());
@@ -62,14 +68,27 @@ std::optional<JobState> MainWindow::exportSweep()
     dialog.setDefaultSuffix(QStringLiteral("csv"));
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    QSaveFile file(dialog.selectedFiles().constFirst());
-    // The commit alone does not tell of a full disk.
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush()) {
-        file.cancelWriting();
+    const QString path = dialog.selectedFiles().constFirst();
+    if (writeTextFile(path, text))
         return JobState::Failed;
+    Settings::setLastFolder(QFileInfo(path).absolutePath());
+    return JobState::Done;
+}
+
+/// As recorded, like all that is exported: opened again, it is shown like the sweep it came from.
+void MainWindow::saveVisibleSweep()
+{
+    const Sweep sweep = m_replay.sweep();
+    const FrequencyView& view = m_bandView->view();
+    const std::vector<Segment> hops = hopsBetween(sweep, view.low(), view.high());
+    if (hops.empty()) {
+        statusBar()->showMessage(tr("No levels are shown that could be saved."), messageTime);
+        return;
     }
-    Settings::setLastFolder(QFileInfo(file.fileName()).absolutePath());
-    return file.commit() ? JobState::Done : JobState::Failed;
+    const QString name = tr("%1 sweep %2.csv")
+                             .arg(QFileInfo(m_fileName).completeBaseName())
+                             .arg(m_replay.position() + 1);
+    m_recordings->saveAs(name, exportText(makeSweep(sweep.timeUs, hops)));
 }
 
 } // namespace bandmonitor

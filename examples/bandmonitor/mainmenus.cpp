@@ -10,6 +10,7 @@
 #include "panes/eventlogpane.h"
 #include "panes/jobspane.h"
 #include "panes/levelspane.h"
+#include "recentrecordings.h"
 #include "replaybar.h"
 #include "selectionactions.h"
 #include "settings.h"
@@ -19,7 +20,6 @@
 
 #include <QActionGroup>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -81,7 +81,15 @@ void MainWindow::buildFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     connect(addEntry(menu, tr("&Open…"), {QKeySequence(QKeySequence::Open)}, false),
-            &QAction::triggered, this, &MainWindow::chooseFile);
+            &QAction::triggered, m_recordings, &RecentRecordings::choose);
+    QMenu* recent = m_recordings->menu();
+    menu->addMenu(recent);
+    QAction* save = addEntry(menu, tr("&Save visible sweep as…"), {Qt::CTRL | Qt::Key_S}, false);
+    save->setEnabled(false);
+    connect(save, &QAction::triggered, this, &MainWindow::saveVisibleSweep);
+    connect(this, &MainWindow::recordingOpened, save, [save] { save->setEnabled(true); });
+    connect(menu, &QMenu::aboutToShow, recent,
+            [recent] { recent->menuAction()->setEnabled(!recent->isEmpty()); });
     menu->addSeparator();
     // Control+Q belongs to the info dialog of the family's help menu.
     connect(addEntry(menu, tr("&Quit"), {QKeySequence(Qt::CTRL | Qt::Key_W)}, false),
@@ -183,18 +191,6 @@ void MainWindow::buildHelpMenu()
 {
     menuBar()->addMenu(GuiBase::Instance().CreateHelpMenu(this, manualFile(), this,
                                                           SLOT(showInfo()), this, nullptr));
-}
-
-void MainWindow::chooseFile()
-{
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Open recording"), Settings::lastFolder(),
-                                     tr("Recordings (*.csv *.txt);;All files (*)"), nullptr,
-                                     GuiBase::Instance().UseNativeDialogs());
-    if (path.isEmpty())
-        return;
-    Settings::setLastFolder(QFileInfo(path).absolutePath());
-    open(path);
 }
 
 void MainWindow::loadColors()

@@ -13,6 +13,7 @@
 #include "panes/spectrumpane.h"
 #include "receiver/receivercontrol.h"
 #include "receiver/receiverpane.h"
+#include "recentrecordings.h"
 #include "replaybar.h"
 #include "settings.h"
 
@@ -54,6 +55,7 @@ MainWindow::MainWindow(QWidget* parent)
     , m_recorder(new EventRecorder(&m_events, m_jobs, m_modes, &m_watch, this))
     , m_receiverPane(new ReceiverPane(this))
     , m_receiverControl(new ReceiverControl(m_receiverPane, m_bandView, &m_replay, &m_watch, this))
+    , m_recordings(new RecentRecordings(this))
 {
     setObjectName(QStringLiteral("bandmonitor"));
     setAcceptDrops(true);
@@ -66,6 +68,7 @@ MainWindow::MainWindow(QWidget* parent)
     buildMenus();
     buildStatusBar();
     connectLoader();
+    connectRecordings();
     connectPanes();
     resize(normalSize.boundedTo(screen()->availableGeometry().size()));
     layout()->activate();
@@ -107,7 +110,7 @@ void MainWindow::connectPanes()
     connect(m_receiverControl, &ReceiverControl::detectionChanged, this,
             [this] { showSweep(m_replay.position(), -1); });
     connect(m_jobs, &Jobs::report, this,
-            [this](const QString& text) { statusBar()->showMessage(text, 8000); });
+            [this](const QString& text) { statusBar()->showMessage(text, messageTime); });
 }
 
 void MainWindow::refreshTexts()
@@ -165,10 +168,24 @@ void MainWindow::connectLoader()
     connect(&m_loader, &RecordingLoader::failed, this, [this](const QString& text) {
         setLoadingShown(false);
         m_recorder->recordingFailed(text);
+        m_recordings->failed(m_loader.path());
         Q_EMIT openFailed(text);
         if (m_onFailure == OnFailure::ShowMessage)
             showMessage(tr("Recording not opened"), text, m_loader.report());
     });
+}
+
+void MainWindow::connectRecordings()
+{
+    connect(m_recordings, &RecentRecordings::chosen, this,
+            [this](const QString& path) { open(path); });
+    connect(m_recordings, &RecentRecordings::saved, this, [this](const QString& path) {
+        statusBar()->showMessage(tr("Saved as %1").arg(path), messageTime);
+    });
+    connect(m_recordings, &RecentRecordings::notSaved, this,
+            [this](const QString& path, const QString& reason) {
+                showMessage(tr("Sweep not saved"), tr("%1 cannot be written.").arg(path), reason);
+            });
 }
 
 void MainWindow::open(const QString& path, OnFailure onFailure)
@@ -199,6 +216,7 @@ void MainWindow::takeOverRecording()
 {
     setLoadingShown(false);
     m_fileName = QFileInfo(m_loader.path()).fileName();
+    m_recordings->opened(m_loader.path());
     const std::shared_ptr<const Recording> recording = m_loader.recording();
     m_bandView->setRecording(recording);
     m_watch.setRecording(recording);

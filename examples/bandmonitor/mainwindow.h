@@ -32,6 +32,7 @@ class JobsPane;
 class LevelsPane;
 class ReceiverControl;
 class ReceiverPane;
+class RecentRecordings;
 class ReplayBar;
 class SignalsPane;
 
@@ -105,12 +106,15 @@ private:
     // mainjobs.cpp
     void addJobs();
     std::optional<JobState> exportSweep();
+    void saveVisibleSweep();
+    QByteArray exportText(const Sweep& sweep) const;
 
     void buildCentre();
     void connectPanes();
     void refreshTexts();
     void buildStatusBar();
     void connectLoader();
+    void connectRecordings();
     void restoreSettings();
     void takeOverRecording();
     void reportSkippedLines();
@@ -120,13 +124,14 @@ private:
     void updateTitle();
     void updatePosition();
 
-    void chooseFile();
     void loadColors();
     void saveColors();
     void restoreFactoryColors();
     void frequencyUnitChanged();
     void frequencyResolutionChanged();
     void timeZoneChanged();
+
+    static constexpr int messageTime = 8000; // of the status bar, in milliseconds
 
     ValueSelection m_resolution;
     RecordingLoader m_loader;
@@ -149,6 +154,7 @@ private:
     EventRecorder* m_recorder;
     ReceiverPane* m_receiverPane;
     ReceiverControl* m_receiverControl;
+    RecentRecordings* m_recordings;
     QLabel* m_report = nullptr;
     QLabel* m_receiver = nullptr;
     QProgressBar* m_progress = nullptr;

@@ -57,6 +57,19 @@ void FileOpenManager::InitMenu(int position)
     m_controller->Init();
 }
 
+void FileOpenManager::addRecentFile(const QString& name)
+{
+    select(name);
+}
+
+void FileOpenManager::removeRecentFile(const QString& name)
+{
+    if (m_controller == nullptr)
+        return;
+    m_controller->Erase(name);
+    m_controller->Save();
+}
+
 void FileOpenManager::InsertItem(int index, const QString& name)
 {
     m_menu->insert(index, name);

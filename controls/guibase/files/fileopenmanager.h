@@ -42,6 +42,14 @@ public:
     void InitMenu(int position);
     int menuPosition() const { return m_menuPosition; }
 
+    /// Makes the file the most recent one, for files that are opened in other ways. Like the next
+    /// one it does nothing before InitMenu().
+    void addRecentFile(const QString& name);
+    /// Takes the file out of the list, for files that are gone.
+    void removeRecentFile(const QString& name);
+    /// Where the next dialog starts: a folder, or a file that is proposed.
+    void setLastDirectory(const QString& path) { m_lastDirectory = path; }
+
     /// The entry with the text "&<index + 1> <name>"; long names are shortened while the menu is
     /// open.
     void InsertItem(int index, const QString& name) override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "recordingwriter.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <chrono>
@@ -90,6 +91,24 @@ QByteArray sweepText(const Sweep& sweep)
     QByteArray text;
     appendSweepText(text, sweep);
     return text;
+}
+
+std::vector<Segment> hopsBetween(const Sweep& sweep, double lowHz, double highHz)
+{
+    std::vector<Segment> result;
+    for (const Segment& hop : sweep.segments) {
+        const auto bins = static_cast<double>(hop.levels.size());
+        const double first = std::clamp(std::floor((lowHz - hop.startHz) / hop.stepHz), 0.0, bins);
+        const double end = std::clamp(std::ceil((highHz - hop.startHz) / hop.stepHz), first, bins);
+        if (end == first)
+            continue;
+        Segment& part = result.emplace_back(hop);
+        part.startHz += first * hop.stepHz;
+        part.levels = hop.levels.subspan(static_cast<std::size_t>(first),
+                                         static_cast<std::size_t>(end - first));
+    }
+    std::ranges::stable_sort(result, {}, &Segment::startHz); // hops may overlap
+    return result;
 }
 
 } // namespace bandmonitor

@@ -20,4 +20,8 @@ QByteArray receiverRemark(const QString& address);
 /// The whole of `sweep` as text; see appendSweepText().
 QByteArray sweepText(const Sweep& sweep);
 
+/// The hops of `sweep` with those of their bins that lie in part or whole between the frequencies;
+/// valid as long as the sweep is.
+std::vector<Segment> hopsBetween(const Sweep& sweep, double lowHz, double highHz);
+
 } // namespace bandmonitor

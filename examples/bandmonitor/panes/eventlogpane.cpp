@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panes/eventlogpane.h"
 
+#include "model/textfile.h"
 #include "panes/emptyhint.h"
 #include "panes/paneactions.h"
 #include "settings.h"
@@ -20,7 +21,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
-#include <QSaveFile>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -333,14 +333,8 @@ std::optional<QString> EventLogPane::saveTo(const QString& path) const
     QString all;
     for (int i = 0; i < m_list->topLevelItemCount(); ++i)
         all += lineOf(*m_list->topLevelItem(i));
-    const QByteArray bytes = all.toUtf8();
-    QSaveFile file(path);
-    // The commit alone does not tell of a full disk.
-    if (file.open(QIODevice::WriteOnly | QIODevice::Text) && file.write(bytes) == bytes.size() &&
-        file.flush() && file.commit())
-        return std::nullopt;
-    file.cancelWriting();
-    return tr("The events cannot be written to %1: %2").arg(path, file.errorString());
+    const std::optional<QString> problem = writeTextFile(path, all.toUtf8(), QIODevice::Text);
+    return problem ? tr("The events cannot be written to %1: %2").arg(path, *problem) : problem;
 }
 
 void EventLogPane::save()

@@ -7,6 +7,7 @@
 
 #include "dialogscript.h"
 #include "support/files.h"
+#include "support/filesizelimit.h"
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
 #include "support/testrows.h"
@@ -18,9 +19,7 @@
 #include <QTest>
 #include <QtEndian>
 
-#include <csignal>
 #include <memory>
-#include <sys/resource.h>
 
 using enum IColorBase::ECOLOR;
 
@@ -55,30 +54,6 @@ void makeDirty()
 {
     colors().SetColor(AxisText, Colors::Instance().GetColorDefinition(1012), false);
 }
-
-/// Lets this process write no file beyond `size` bytes, like a full disk.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t size)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_former);
-        const rlimit limit{size, m_former.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_former);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    rlimit m_former{};
-    void (*m_handler)(int);
-};
 
 } // namespace
 

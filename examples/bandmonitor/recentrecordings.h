@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/files/ifileopener.h>
+
+#include <QByteArray>
+#include <QObject>
+
+#include <memory>
+
+class FileOpenManager;
+class ICfg;
+class QMenu;
+class QWidget;
+
+namespace bandmonitor {
+
+/// Asks for recordings to open and to save, and keeps the recent ones in a menu and in the
+/// configuration.
+class RecentRecordings : public QObject, public IFileOpener
+{
+    Q_OBJECT
+public:
+    static constexpr int maximumCount = 9; // as many as have a digit to choose them by
+
+    explicit RecentRecordings(QWidget* parent);
+    ~RecentRecordings() override;
+
+    /// Lists them; the parent owns it.
+    QMenu* menu() const { return m_menu; }
+    /// The recording at `path` was opened, in whatever way. Those that lie in the program itself
+    /// are not listed.
+    void opened(const QString& path);
+    /// It could not be opened or saved. When there is no such file it is taken out of the list.
+    void failed(const QString& path);
+    /// Asks for a recording.
+    void choose();
+    /// Asks where to save `content`, proposing a file name, and saves it. A file that is replaced
+    /// stays as it is when that fails.
+    void saveAs(const QString& fileName, const QByteArray& content);
+
+Q_SIGNALS:
+    /// The user has chosen a recording, from the list or by its name.
+    void chosen(const QString& path);
+    void saved(const QString& path);
+    void notSaved(const QString& path, const QString& reason);
+
+private:
+    void Open(const QString& fileName) override;
+    void SaveAs(const QString& fileName) override;
+    void startAt(const QString& fileName);
+
+    QMenu* m_menu;
+    std::unique_ptr<ICfg> m_cfg;
+    std::unique_ptr<FileOpenManager> m_manager; ///< Uses the configuration until it dies.
+    QByteArray m_content;
+};
+
+} // namespace bandmonitor

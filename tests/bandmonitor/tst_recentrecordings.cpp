@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include "guibase/colors/dialogscript.h"
+#include "mainwindow.h"
+#include "model/samplegenerator.h"
+#include "model/textfile.h"
+#include "panes/bandview.h"
+#include "receiver/receiverpane.h"
+#include "recordings.h"
+#include "settings.h"
+#include "support/files.h"
+#include "support/filesizelimit.h"
+#include "support/guardedtest.h"
+
+#include <QDir>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace bandmonitor;
+
+class TestRecentRecordings : public GuardedTest
+{
+    Q_OBJECT
+    QTemporaryDir m_folder;
+    std::unique_ptr<MainWindow> m_window;
+
+    QMenu* fileMenu() const { return m_window->menuBar()->actions().constFirst()->menu(); }
+    QMenu* recent() const
+    {
+        return m_window->findChild<QMenu*>(QStringLiteral("recentRecordings"));
+    }
+    QString names() const
+    {
+        QString result;
+        for (const QAction* action : recent()->actions())
+            result += action->text().remove(m_folder.path() + u'/') + u',';
+        return result;
+    }
+    QAction* entry(QLatin1String text) const
+    {
+        for (QAction* action : fileMenu()->actions()) {
+            if (action->text().contains(text))
+                return action;
+        }
+        return nullptr;
+    }
+    QString title() const { return m_window->windowTitle().section(QStringLiteral(" – "), 0, 0); }
+
+    void openWindow()
+    {
+        m_window = std::make_unique<MainWindow>();
+        m_window->show();
+        QSignalSpy opened(m_window.get(), &MainWindow::recordingOpened);
+        m_window->open(samplePath());
+        QVERIFY(opened.wait());
+    }
+
+protected:
+    void tidy() override { m_window.reset(); }
+
+private Q_SLOTS:
+    void listsWhatWasOpened()
+    {
+        for (const char* name : {"a.csv", "b.csv", "c.csv"})
+            QVERIFY(
+                writeFile(m_folder.filePath(QLatin1String(name)), SampleGenerator().nextSweep()));
+        openWindow();
+        Q_EMIT fileMenu()->aboutToShow();
+        QVERIFY(!recent()->menuAction()->isEnabled()); // the sample is none of the user's files
+        for (const char* name : {"a.csv", "b.csv"}) {
+            m_window->open(m_folder.filePath(QLatin1String(name)));
+            QTRY_COMPARE(title(), QLatin1String(name));
+        }
+        QTRY_COMPARE(names(), QStringLiteral("&1 b.csv,&2 a.csv,"));
+        Q_EMIT fileMenu()->aboutToShow();
+        QVERIFY(recent()->menuAction()->isEnabled());
+
+        DialogScript dialogs({m_folder.filePath(QStringLiteral("c.csv"))}); // then only Escape
+        entry(QLatin1String("Open"))->trigger();
+        QTRY_COMPARE(title(), QStringLiteral("c.csv"));
+        openWindow();
+        QTRY_COMPARE(names(), QStringLiteral("&1 c.csv,&2 b.csv,&3 a.csv,"));
+        recent()->actions().at(2)->trigger();
+        QTRY_COMPARE(title(), QStringLiteral("a.csv"));
+        QTRY_COMPARE(names(), QStringLiteral("&1 a.csv,&2 c.csv,&3 b.csv,"));
+
+        // What is gone goes from the list, what cannot be read stays.
+        QVERIFY(QFile::remove(m_folder.filePath(QStringLiteral("b.csv"))));
+        recent()->actions().at(2)->trigger();
+        QTRY_COMPARE(names(), QStringLiteral("&1 a.csv,&2 c.csv,"));
+        QVERIFY(writeFile(m_folder.filePath(QStringLiteral("c.csv")), "no recording"));
+        recent()->actions().at(1)->trigger();
+        QTRY_COMPARE(names(), QStringLiteral("&1 c.csv,&2 a.csv,"));
+        QTRY_COMPARE(dialogs.shown().filter(QStringLiteral("Recording not opened")).size(), 2);
+        QCOMPARE(title(), QStringLiteral("a.csv"));
+    }
+
+    void savesWhatIsVisible()
+    {
+        openWindow();
+        ReceiverSettings receiver; // changes what is shown, not what is saved
+        receiver.gainDb = 20;
+        receiver.address = 0x1F;
+        Settings::setReceiver(receiver);
+        openWindow();
+        m_window->replay().jump(3);
+        const Sweep sweep = m_window->replay().sweep();
+        FrequencyView& view = m_window->bandView().view();
+        view.setVisible(97.01e6, 98.99e6);
+        const QString file = m_folder.filePath(QStringLiteral("part"));
+        const QString unwritable = QStringLiteral("/dev/null/part.csv");
+        DialogScript dialogs(
+            {file, unwritable, QStringLiteral("Escape"), QStringLiteral("Escape")});
+        QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
+        const QByteArray text = readFile(file + QStringLiteral(".csv"));
+        QVERIFY2(text.startsWith("# receiver 0x1F\n2026-01-01, "), text.left(60).constData());
+        ReadRecording part;
+        part.read(text.toStdString());
+        QCOMPARE(part.parser.report(), QString());
+        QCOMPARE(part.recording->count(), 1);
+        const Sweep saved = part.recording->sweep(0);
+        QCOMPARE(saved.timeUs, sweep.timeUs);
+        const double step = sweep.segments.front().stepHz;
+        QVERIFY(saved.lowHz <= view.low() && saved.lowHz > view.low() - step);
+        QVERIFY(saved.highHz >= view.high() && saved.highHz < view.high() + step);
+        QCOMPARE(static_cast<double>(saved.binCount), (saved.highHz - saved.lowHz) / step);
+        for (double hertz = saved.lowHz + step / 2; hertz < saved.highHz; hertz += step)
+            QCOMPARE(saved.levelAt(hertz), sweep.levelAt(hertz));
+
+        QTRY_COMPARE(names(), QStringLiteral("&1 part.csv,"));
+        entry(QLatin1String("Save"))->trigger();
+        QTRY_COMPARE(dialogs.shown().size(), 3);
+        QVERIFY(dialogs.shown().constLast().startsWith(QLatin1String("Sweep not saved")));
+        QTRY_COMPARE(names(), QStringLiteral("&1 part.csv,"));
+    }
+
+    void cutsHopsAtBins()
+    {
+        OwnedSegments hops;
+        hops.add(0, 10, {1, 2, 3});
+        hops.add(1, 7, {4, 5, 6, 7});
+        hops.add(100, 1, {8});
+        const auto cut = [&hops](double low, double high) {
+            QByteArray result;
+            for (const Segment& hop : hopsBetween(hops.sweep(), low, high)) {
+                result += QByteArray::number(hop.startHz) + ':';
+                for (const float level : hop.levels)
+                    result += ' ' + QByteArray::number(level);
+                result += ',';
+            }
+            return result;
+        };
+        QCOMPARE(cut(-1e300, 1e300), QByteArray("0: 1 2 3,1: 4 5 6 7,100: 8,"));
+        QCOMPARE(cut(21, 22), QByteArray("15: 6,20: 3,")); // in order, though hops overlap
+        QCOMPARE(cut(10, 20), QByteArray("8: 5 6,10: 2,"));
+        QCOMPARE(cut(30, 100), QByteArray());
+    }
+
+    void fullDiskLeavesTheOldFile()
+    {
+        const QString file = m_folder.filePath(QStringLiteral("old.csv"));
+        QVERIFY(writeFile(file, "old"));
+        {
+            const FileSizeLimit full(8192);
+            QVERIFY(writeTextFile(file, QByteArray(8193, 'x')).has_value());
+        }
+        QCOMPARE(readFile(file), QByteArray("old"));
+        QCOMPARE(QDir(m_folder.path()).entryList({QStringLiteral("old.csv?*")}), QStringList());
+        QVERIFY(!writeTextFile(file, "new"));
+        QCOMPARE(readFile(file), QByteArray("new"));
+    }
+};
+
+QTEST_MAIN(TestRecentRecordings)
+#include "tst_recentrecordings.moc"
