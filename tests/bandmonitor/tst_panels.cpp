@@ -5,12 +5,14 @@
 
 #include <guibase/docks/autohidesupport.h>
 #include <guibase/docks/mainwindowhelpers.h>
+#include <guibase/docks/tabifysupport.h>
 #include <guibase/services/guibase.h>
 #include <guibase/services/splitter.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <optional>
@@ -75,6 +77,19 @@ private Q_SLOTS:
         closeWindow();
         QCOMPARE(m_guard->finish(), QString());
         m_guard.reset();
+    }
+
+    void layoutComesToRest()
+    {
+        QSignalSpy laidOut(QMainWindowHelpers::TabifySupport::get(*m_window),
+                           &QMainWindowHelpers::TabifySupport::isTabifyDockWidgetsPossibleChanged);
+        const auto isAtRest = [&laidOut] {
+            laidOut.clear();
+            for (int round = 0; round < 10; ++round)
+                QCoreApplication::processEvents();
+            return laidOut.isEmpty();
+        };
+        QTRY_VERIFY(isAtRest());
     }
 
     void modesKeepTheirLayouts()

@@ -54,7 +54,9 @@ void AreaActions::refresh()
         if (!possible)
             return;
         action->setText(model.text());
-        action->setIcon(model.icon());
+        // A new icon makes a new layout even when it is the same one, and that leads here again.
+        if (action->icon().cacheKey() != model.icon().cacheKey())
+            action->setIcon(model.icon());
     };
     show(m_tabify, tabify->tabifyDockWidgetsAction(area()),
          tabify->isTabifyDockWidgetsPossible(area()));
