@@ -4,10 +4,9 @@
 #include "panes/eventlogpane.h"
 #include "panes/jobspane.h"
 #include "panes/levelspane.h"
+#include "panes/pictures.h"
 #include "panes/signalspane.h"
 #include "receiver/receiverpane.h"
-
-#include <QStyle>
 
 namespace bandmonitor {
 
@@ -38,23 +37,20 @@ PanelPlace tabbed(Qt::DockWidgetArea area)
 void MainWindow::buildPanels()
 {
     const auto name = [](const char* text) { return QString::fromLatin1(text); };
-    const auto icon = [this](QStyle::StandardPixmap picture) {
-        return style()->standardIcon(picture);
-    };
     // Name, title, icon, widget, and the places in the modes Search, Measure and Plan.
     const Panel rows[] = {
         // clang-format off
-        {name("signals"), tr("&Signals"), icon(QStyle::SP_FileDialogListView), m_signals,
+        {name("signals"), tr("&Signals"), makePicture(Picture::Signals), m_signals,
          {beside(bottom, 1100, 220), hidden(bottom), beside(bottom, 770, 220)}},
-        {name("events"), tr("&Event log"), icon(QStyle::SP_FileDialogContentsView), m_eventsPane,
+        {name("events"), tr("&Event log"), makePicture(Picture::Events), m_eventsPane,
          {tabbed(bottom), hidden(bottom), tabbed(bottom)}},
-        {name("levels"), tr("&Reference levels"), icon(QStyle::SP_FileDialogDetailedView), m_levels,
+        {name("levels"), tr("&Reference levels"), makePicture(Picture::Levels), m_levels,
          {hidden(bottom), beside(bottom, 1100, 200), beside(bottom, 330, 220)}},
-        {name("jobs"), tr("&Jobs"), icon(QStyle::SP_FileDialogInfoView), m_jobsPane,
-         {hidden(right), hidden(right), beside(right, 360, 500)}},
-        {name("bearings"), tr("&Bearings"), icon(QStyle::SP_BrowserReload), m_bearingsPane,
+        {name("jobs"), tr("&Jobs"), makePicture(Picture::Jobs), m_jobsPane,
+         {hidden(right), hidden(right), beside(right, 430, 500)}},
+        {name("bearings"), tr("&Bearings"), makePicture(Picture::Bearings), m_bearingsPane,
          {hidden(right), beside(right, 260, 500), tabbed(right)}},
-        {name("receiver"), tr("Re&ceiver"), icon(QStyle::SP_ComputerIcon), m_receiverPane,
+        {name("receiver"), tr("Re&ceiver"), makePicture(Picture::Receiver), m_receiverPane,
          {beside(left, 240, 500), beside(left, 240, 500), hidden(left)}},
         // clang-format on
     };

@@ -11,7 +11,6 @@
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QSlider>
-#include <QStyle>
 #include <QToolButton>
 
 #include <limits>
@@ -21,13 +20,11 @@ namespace bandmonitor {
 ReplayBar::ReplayBar(Replay* replay, QWidget* parent)
     : QWidget(parent)
     , m_replay(replay)
-    , m_first(makeAction(tr("&First sweep"), QStyle::SP_MediaSkipBackward,
-                         QKeySequence(Qt::CTRL | Qt::Key_Home)))
-    , m_back(
-          makeAction(tr("Step &back"), QStyle::SP_MediaSeekBackward, QKeySequence(Qt::Key_Comma)))
-    , m_play(makeAction(tr("&Play"), QStyle::SP_MediaPlay, QKeySequence(Qt::Key_Space)))
-    , m_forward(makeAction(tr("Step f&orward"), QStyle::SP_MediaSeekForward,
-                           QKeySequence(Qt::Key_Period)))
+    , m_first(
+          makeAction(tr("&First sweep"), Picture::ToStart, QKeySequence(Qt::CTRL | Qt::Key_Home)))
+    , m_back(makeAction(tr("Step &back"), Picture::Backward, QKeySequence(Qt::Key_Comma)))
+    , m_play(makeAction(tr("&Play"), Picture::Play, QKeySequence(Qt::Key_Space)))
+    , m_forward(makeAction(tr("Step f&orward"), Picture::Forward, QKeySequence(Qt::Key_Period)))
     , m_slider(new QSlider(Qt::Horizontal, this))
     , m_speed(new QDoubleSpinBox(this))
     , m_time(new QLabel(this))
@@ -47,10 +44,9 @@ ReplayBar::ReplayBar(Replay* replay, QWidget* parent)
 
 ReplayBar::~ReplayBar() = default;
 
-QAction* ReplayBar::makeAction(const QString& text, int standardIcon, const QKeySequence& key)
+QAction* ReplayBar::makeAction(const QString& text, Picture picture, const QKeySequence& key)
 {
-    const auto pixmap = static_cast<QStyle::StandardPixmap>(standardIcon);
-    auto* action = new QAction(style()->standardIcon(pixmap), text, this);
+    auto* action = new QAction(makePicture(picture), text, this);
     action->setShortcut(key);
     return action;
 }
@@ -103,7 +99,7 @@ void ReplayBar::refresh()
 void ReplayBar::showPlaying(bool playing)
 {
     m_play->setText(playing ? tr("&Pause") : tr("&Play"));
-    m_play->setIcon(style()->standardIcon(playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+    m_play->setIcon(makePicture(playing ? Picture::Pause : Picture::Play));
 }
 
 void ReplayBar::showPosition()

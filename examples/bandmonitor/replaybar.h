@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "panes/pictures.h"
+
 #include <QWidget>
 
 class QAction;
@@ -36,7 +38,7 @@ public Q_SLOTS:
     void refresh();
 
 private:
-    QAction* makeAction(const QString& text, int standardIcon, const QKeySequence& key);
+    QAction* makeAction(const QString& text, Picture picture, const QKeySequence& key);
     void buildLayout();
     void showPlaying(bool playing);
     void showPosition();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panes/levelspane.h"
 
+#include "panes/emptyhint.h"
 #include "panes/paneactions.h"
 #include "panes/referencelevels.h"
 #include "settings.h"
@@ -53,6 +54,7 @@ LevelsPane::LevelsPane(QWidget* parent)
     connect(m_actions[1], &QAction::triggered, m_table, &SortRowTable::slotDelete);
     connect(m_actions[2], &QAction::triggered, this, &LevelsPane::clearAll);
     buildLayout();
+    new EmptyHint(tr("Reference levels appear here, and as a line in the spectrum."), m_table);
     m_readLater.setSingleShot(true);
     connect(&m_readLater, &QTimer::timeout, this, &LevelsPane::readRows);
     restoreRows();
