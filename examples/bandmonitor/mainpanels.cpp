@@ -47,7 +47,7 @@ void MainWindow::buildPanels()
         {name("levels"), tr("&Reference levels"), makePicture(Picture::Levels), m_levels,
          {hidden(bottom), beside(bottom, 1100, 200), beside(bottom, 330, 220)}},
         {name("jobs"), tr("&Jobs"), makePicture(Picture::Jobs), m_jobsPane,
-         {hidden(right), hidden(right), beside(right, 430, 500)}},
+         {hidden(right), hidden(right), beside(right, 360, 500)}},
         {name("bearings"), tr("&Bearings"), makePicture(Picture::Bearings), m_bearingsPane,
          {hidden(right), beside(right, 260, 500), tabbed(right)}},
         {name("receiver"), tr("Re&ceiver"), makePicture(Picture::Receiver), m_receiverPane,

@@ -136,6 +136,9 @@ void JobsPane::buildList()
     m_list->setColumnWidth(State, widest + cellPadding);
     for (const Column column : {Name, Started, Ended})
         m_list->setColumnWidthMode(column, QHeaderView::ResizeToContents);
+    // The time line shows both; who wants them in figures has the menu of the header.
+    for (const Column column : {Started, Ended})
+        m_list->setColumnHidden(column, true);
     m_list->header()->setStretchLastSection(false);
     m_list->header()->setMinimumSectionSize(smallestColumn);
     m_list->setColumnWidthMode(TimeLine, QHeaderView::Stretch);
