@@ -10,8 +10,11 @@
 #include "support/files.h"
 #include "support/filesizelimit.h"
 #include "support/guardedtest.h"
+#include "support/modaldialogcloser.h"
 
 #include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSignalSpy>
@@ -109,11 +112,19 @@ private Q_SLOTS:
         const Sweep sweep = m_window->replay().sweep();
         FrequencyView& view = m_window->bandView().view();
         view.setVisible(97.01e6, 98.99e6);
+        QString proposed;
+        {
+            const ModalDialogCloser closer([&proposed](QDialog& dialog) {
+                proposed = static_cast<QFileDialog&>(dialog).selectedFiles().value(0);
+            });
+            QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
+        }
+        QCOMPARE(QFileInfo(proposed).fileName(), QStringLiteral("sample sweep 4.csv"));
         const QString file = m_folder.filePath(QStringLiteral("part"));
         const QString unwritable = QStringLiteral("/dev/null/part.csv");
         DialogScript dialogs(
             {file, unwritable, QStringLiteral("Escape"), QStringLiteral("Escape")});
-        QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
+        entry(QLatin1String("Save"))->trigger();
         const QByteArray text = readFile(file + QStringLiteral(".csv"));
         QVERIFY2(text.startsWith("# receiver 0x1F\n2026-01-01, "), text.left(60).constData());
         ReadRecording part;

@@ -39,7 +39,7 @@ BearingsPane::BearingsPane(const Bearings* bearings, QWidget* parent)
     m_heading->setObjectName(QStringLiteral("heading"));
     m_heading->setAccessibleName(tr("Heading"));
     m_heading->setToolTip(tr("The direction of the bow, clockwise from north"));
-    auto* headingLabel = new QLabel(tr("&Heading:"), this);
+    auto* headingLabel = new QLabel(tr("Hea&ding:"), this);
     headingLabel->setBuddy(m_heading);
     m_headingUp->setObjectName(QStringLiteral("headingUp"));
     m_headingUp->setCheckable(true);
