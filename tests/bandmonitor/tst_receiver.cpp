@@ -195,6 +195,9 @@ private Q_SLOTS:
         QTest::keyClicks(field("centreFrequency"), QStringLiteral("95.")); // typing goes on
         view.showAll();
         QVERIFY(shown("centreFrequency").endsWith(QLatin1String("95.")));
+        enter("centreFrequency", QStringLiteral("nowhere")); // nothing to go to
+        field("gain")->setFocus();
+        QCOMPARE(shown("centreFrequency"), QStringLiteral("95 MHz"));
 
         Replay& replay = m_window->replay();
         GuiBase::Instance().GetTimeZone()->SetValue(0);

@@ -40,6 +40,8 @@ ReceiverControl::ReceiverControl(ReceiverPane* pane, BandView* band, Replay* rep
     connect(m_pane, &ReceiverPane::spanEdited, this, &ReceiverControl::spanEdited);
     connect(m_pane, &ReceiverPane::startTimeEdited, this, &ReceiverControl::startTimeEdited);
     connect(m_pane, &ReceiverPane::edited, this, &ReceiverControl::edited);
+    connect(m_pane, &ReceiverPane::editingFinished, this, &ReceiverControl::followWindow);
+    connect(m_pane, &ReceiverPane::editingFinished, this, &ReceiverControl::followReplay);
     connect(&m_band->view(), &FrequencyView::rangeChanged, this, &ReceiverControl::followWindow);
     connect(m_replay, &Replay::positionChanged, this, &ReceiverControl::followReplay);
 }

@@ -216,6 +216,10 @@ void ReceiverPane::connectInputs()
             unlessShowing(&ReceiverPane::spanEdited));
     connect(m_startTime, &QDateTimeSpinBox::valueChanged, this,
             unlessShowing(&ReceiverPane::startTimeEdited));
+    for (const AbstractSpinBox* input :
+         {static_cast<AbstractSpinBox*>(m_centre), static_cast<AbstractSpinBox*>(m_span),
+          static_cast<AbstractSpinBox*>(m_startTime)})
+        connect(input, &AbstractSpinBox::editingFinished, this, &ReceiverPane::editingFinished);
     const auto tell = [this] {
         if (!m_isShowing)
             Q_EMIT edited();

@@ -49,6 +49,9 @@ Q_SIGNALS:
     void startTimeEdited(const QDateTime& time);
     /// Anything else.
     void edited();
+    /// The user has left a field that follows the spectrum or the replay, which may have gone on
+    /// without it.
+    void editingFinished();
 
 protected:
     /// Puts the labels above the fields when there is no room beside them.
