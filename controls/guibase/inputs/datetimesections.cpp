@@ -2,18 +2,11 @@
 #include "datetimesections_p.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace {
 
 using DateTimeSections::Section;
-
-/// A run of a format that is written as one piece.
-struct Token
-{
-    QString format;
-    Section section;
-};
+using DateTimeSections::Token;
 
 struct Letter
 {
@@ -25,7 +18,7 @@ struct Letter
 constexpr Letter letters[] = {
     {u'y', Section::Year, 4},   {u'M', Section::Month, 4},       {u'd', Section::Day, 4},
     {u'h', Section::Hour, 2},   {u'H', Section::Hour, 2},        {u'm', Section::Minute, 2},
-    {u's', Section::Second, 2}, {u'z', Section::Millisecond, 3}, {u't', Section::None, 4},
+    {u's', Section::Second, 2}, {u'z', Section::Millisecond, 3}, {u't', Section::Zone, 4},
 };
 
 qsizetype runLength(const QString& format, qsizetype start, qsizetype longest)
@@ -63,18 +56,16 @@ Token tokenAt(const QString& format, qsizetype start)
         return {format.mid(start, isPair ? 2 : 1), Section::HalfDay};
     }
     for (const Letter& letter : letters) {
-        if (c == letter.letter)
-            return {format.mid(start, runLength(format, start, letter.longest)), letter.section};
+        if (c != letter.letter)
+            continue;
+        const qsizetype length = runLength(format, start, letter.longest);
+        if (letter.section != Section::Year)
+            return {format.mid(start, length), letter.section};
+        // Years have two or four digits.
+        return {format.mid(start, length == 3 ? 2 : length),
+                length == 1 ? Section::None : Section::Year};
     }
     return {QString(c), Section::None};
-}
-
-std::vector<Token> tokensOf(const QString& format)
-{
-    std::vector<Token> tokens;
-    for (qsizetype i = 0; i < format.size(); i += tokens.back().format.size())
-        tokens.push_back(tokenAt(format, i));
-    return tokens;
 }
 
 /// How the token is written; hours need to know of the half of the day.
@@ -88,6 +79,26 @@ QString written(const Token& token, const QDateTime& time, bool hasHalves, const
 
 } // namespace
 
+std::vector<DateTimeSections::Token> DateTimeSections::tokensOf(const QString& format)
+{
+    std::vector<Token> tokens;
+    for (qsizetype i = 0; i < format.size(); i += tokens.back().format.size())
+        tokens.push_back(tokenAt(format, i));
+    return tokens;
+}
+
+QString DateTimeSections::literalOf(const Token& token)
+{
+    const QString& format = token.format;
+    if (!format.startsWith(u'\''))
+        return format;
+    if (format.size() == 2)
+        return QStringLiteral("'");
+    const bool isClosed = format.size() > 1 && format.endsWith(u'\'');
+    return format.mid(1, format.size() - (isClosed ? 2 : 1))
+        .replace(QStringLiteral("''"), QStringLiteral("'"));
+}
+
 DateTimeSections::Section DateTimeSections::at(const QString& text, qsizetype cursor,
                                                const QDateTime& time, const QString& format,
                                                const QLocale& locale)
@@ -100,7 +111,8 @@ DateTimeSections::Section DateTimeSections::at(const QString& text, qsizetype cu
     QString all;
     for (const Token& token : tokens) {
         const bool isReached = all.size() <= cursor;
-        if (token.section != Section::None && (isReached || found == Section::None))
+        const bool hasSteps = token.section != Section::None && token.section != Section::Zone;
+        if (hasSteps && (isReached || found == Section::None))
             found = token.section;
         all += written(token, time, hasHalves, locale);
     }
@@ -127,6 +139,7 @@ QDateTime DateTimeSections::stepped(const QDateTime& time, Section section, qint
     case Section::Millisecond:
         return time.addMSecs(steps);
     case Section::None:
+    case Section::Zone:
     case Section::Day:
         break;
     }

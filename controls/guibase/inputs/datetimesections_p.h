@@ -5,10 +5,23 @@
 #include <QLocale>
 #include <QString>
 
-/// Finds and steps the section of a written date-time (year, minute, ...) that a cursor stands in.
+#include <vector>
+
+/// Knows the sections (year, minute, ...) of date-time formats; finds and steps the one that a
+/// cursor stands in.
 namespace DateTimeSections {
 
-enum class Section { None, Year, Month, Day, HalfDay, Hour, Minute, Second, Millisecond };
+enum class Section { None, Year, Month, Day, HalfDay, Hour, Minute, Second, Millisecond, Zone };
+
+/// A run of a format that is written as one piece.
+struct Token
+{
+    QString format;
+    Section section; ///< Day for weekdays ("ddd") as well.
+};
+std::vector<Token> tokensOf(const QString& format);
+/// What a token without section stands for.
+QString literalOf(const Token& token);
 
 /// The section of `text` at or nearest before the cursor, else the first one. `text` is what
 /// `locale` writes for `time` in the format; Day when the text is anything else.

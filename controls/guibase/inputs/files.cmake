@@ -33,6 +33,8 @@ set(inputs_sources
     closestitem_p.h
     comboboxdisplayer.cpp
     comboboxes.cpp
+    datetimereader.cpp
+    datetimereader_p.h
     datetimesections.cpp
     datetimesections_p.h
     digitatcursor.cpp

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "qdatetimedisplayformat.h"
 
+#include "datetimereader_p.h"
+
 #include <QCoreApplication>
 
 QDateTimeDisplayFormat::QDateTimeDisplayFormat() = default;
@@ -17,8 +19,7 @@ QDateTime QDateTimeDisplayFormat::valueFromText(const QString& text, bool* ok) c
     const QDateTime value =
         text.size() > longestText
             ? QDateTime()
-            : (m_dateTimeFormat.isNull() ? locale().toDateTime(text, QLocale::LongFormat)
-                                         : locale().toDateTime(text, m_dateTimeFormat));
+            : DateTimeReader::read(text, effectiveDateTimeFormat(), shownPresentTime(), locale());
     if (ok != nullptr)
         *ok = value.isValid();
     return value.isValid() ? value : QDateTime();
@@ -32,8 +33,15 @@ QString QDateTimeDisplayFormat::textFromValue(QDateTime value) const
 
 QString QDateTimeDisplayFormat::refusalReason(const QString&) const
 {
-    return QCoreApplication::translate("DisplayFormat", "Enter date and time as \"%1\".")
-        .arg(effectiveDateTimeFormat());
+    return QCoreApplication::translate("DisplayFormat", "Enter date and time as in \"%1\".")
+        .arg(textFromValue(m_presentTime.isValid() ? m_presentTime : QDateTime::currentDateTime()));
+}
+
+QDateTime QDateTimeDisplayFormat::shownPresentTime() const
+{
+    const QDateTime shown =
+        m_presentTime.isValid() ? valueConverter()(m_presentTime, ToDisplay) : QDateTime();
+    return shown.isValid() ? shown : QDate(1900, 1, 1).startOfDay();
 }
 
 QString QDateTimeDisplayFormat::effectiveDateTimeFormat() const

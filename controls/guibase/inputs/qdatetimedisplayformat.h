@@ -11,7 +11,8 @@ public:
     ~QDateTimeDisplayFormat() override;
 
     std::unique_ptr<ValueDisplayFormatBase<QDateTime>> clone() const override;
-    /// A text without a zone is taken for local time.
+    /// Reads what textFromValue() writes, typed over: with a weekday that does not fit, without
+    /// leading zeros, or without the zone. What the text does not tell is that of presentTime().
     QDateTime valueFromText(const QString& text, bool* ok) const override;
     QString textFromValue(QDateTime value) const override;
     QString refusalReason(const QString& text) const override;
@@ -20,6 +21,12 @@ public:
     /// the locale.
     const QString& dateTimeFormat() const { return m_dateTimeFormat; }
     void setDateTimeFormat(const QString& format) { m_dateTimeFormat = format; }
+    /// The stored value that a text is typed over. Its are the zone of texts without one, the
+    /// sections that the format does not show, and the century of years of two digits; where clocks
+    /// show a time twice, its offset decides. At first null, which stands for the start of the year
+    /// 1900 in local time.
+    const QDateTime& presentTime() const { return m_presentTime; }
+    void setPresentTime(const QDateTime& time) { m_presentTime = time; }
     /// Longer texts are refused unread.
     static constexpr qsizetype longestText = 1024;
 
@@ -27,5 +34,8 @@ public:
     QString effectiveDateTimeFormat() const;
 
 private:
+    QDateTime shownPresentTime() const;
+
     QString m_dateTimeFormat;
+    QDateTime m_presentTime;
 };

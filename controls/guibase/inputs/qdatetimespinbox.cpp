@@ -48,9 +48,15 @@ QString QDateTimeSpinBox::textFromValue(QDateTime value) const
 
 QDateTimeSpinBox::Reading QDateTimeSpinBox::readText(const QString& text) const
 {
+    for (int index = -1; index < countDisplayFormats(); ++index) {
+        if (auto* format = dynamic_cast<QDateTimeDisplayFormat*>(displayFormats().current(index)))
+            format->setPresentTime(inChosenZone(value()));
+    }
     Reading reading = SpinBoxBase<QDateTime>::readText(text);
+    // Formats of the application's own class know nothing of the chosen zone.
+    const auto* format = displayFormats().current(reading.index);
     if (reading.outcome == Reading::Read && reading.value.timeSpec() == Qt::LocalTime &&
-        isUtcChosen())
+        isUtcChosen() && dynamic_cast<const QDateTimeDisplayFormat*>(format) == nullptr)
         reading.value.setTimeSpec(Qt::UTC);
     return reading;
 }

@@ -13,7 +13,8 @@ namespace SpinBoxes {
 /// Enters a point in time, shown in the time zone that the application has chosen
 /// (GuiBase::GetTimeZone()).
 ///
-/// A typed text without a zone is taken for that zone, one with a zone for its own. Steps change
+/// A typed text without a zone is taken for that zone, one with a zone for its own; what the format
+/// does not show stays as it is (see QDateTimeDisplayFormat::presentTime()). Steps change
 /// the section (year, minute, ...) at the cursor, in the chosen zone.
 class GUIBASE_EXPORT QDateTimeSpinBox : public SpinBoxBase<QDateTime>
 {

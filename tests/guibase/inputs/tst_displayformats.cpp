@@ -125,6 +125,7 @@ class TestDisplayFormats : public GuardedTest
     using Numbers = TestRows<QString, QString, QString, QString>;
     using Orders = TestRows<int, int, QList<int>>;
     using Frequencies = TestRows<int, QString, QString>;
+    using Dates = TestRows<QString, QString, QString, QString>;
 
 private Q_SLOTS:
     void framesNumbers_data()
@@ -370,7 +371,72 @@ private Q_SLOTS:
             QVERIFY(!format.valueFromFullText(QString::fromUtf8(bad), &ok).isValid());
             QVERIFY(!ok);
         }
-        QVERIFY(format.refusalReason(QString()).contains(QStringLiteral("yyyy")));
+        format.setPresentTime(time);
+        QVERIFY(format.refusalReason(QString()).contains(QStringLiteral("2024-02-29 13:05:07")));
+    }
+    void readsEveryLongFormat()
+    {
+        const QTimeZone berlin("Europe/Berlin");
+        QDateTimeDisplayFormat format;
+        for (const QLocale& locale : QLocale::matchingLocales(
+                 QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry)) {
+            format.setLocale(locale);
+            for (const QDateTime& time : {QDateTime(QDate(2026, 7, 21), QTime(11, 30), berlin),
+                                          QDateTime(QDate(2026, 11, 8), QTime(23, 5), Qt::UTC)}) {
+                format.setPresentTime(time);
+                const QString text = format.textFromValue(time);
+                bool ok = false;
+                QVERIFY2(format.valueFromText(text, &ok) == time && ok,
+                         qPrintable(locale.name() + u' ' + text));
+            }
+        }
+    }
+    void readsWhatIsTypedOverDates_data()
+    {
+        Dates row; // present time in Berlin, format (long one of en_US), text, result in UTC
+        row("hours only", "2026-11-21 12:30:15", "hh:mm", "7:31", "2026-11-21T06:31:15Z");
+        row("half days", "2026-11-21 12:30:00", "h AP", "3 pm", "2026-11-21T14:30:00Z");
+        row("no such half", "2026-11-21 12:30:00", "h AP", "13 PM", "");
+        row("century", "2026-11-21 12:30:00", "dd.MM.yy", "1.2.27", "2027-02-01T11:30:00Z");
+        row("shorter month", "2026-01-31 12:00:00", "MM/yyyy", "02/2026", "2026-02-28T11:00:00Z");
+        row("no such day", "2026-01-31 12:00:00", "dd.MM.yyyy", "29.02.2026", "");
+        row("without separators", "2026-01-31 12:00:00", "ddMMyyyy", "0102027", "");
+        row("twice", "2026-01-31 12:00:00", "dd dd", "01 02", "");
+        row("quotes", "2026-01-31 12:00:00", "h 'o''clock'", "5 O'CLOCK", "2026-01-31T04:00:00Z");
+        row("fraction", "2026-01-31 12:00:00", "s.z", "1.25", "2026-01-31T11:00:01.250Z");
+        row("other weekday", "2026-11-21 12:00:00", "",
+            "Saturday, November 22, 2026 12:00:00 PM CET", "2026-11-22T11:00:00Z");
+        row("winter to summer", "2026-01-21 12:00:00", "d.M.yyyy h t", "21.7.2026 12 CET",
+            "2026-07-21T10:00:00Z");
+        row("its own zone", "2026-01-21 12:00:00", "d.M.yyyy h t", "21.7.2026 12 CEST",
+            "2026-07-21T10:00:00Z");
+        row("no zone", "2026-01-21 12:00:00", "h t", "12", "2026-01-21T11:00:00Z");
+        row("UTC", "2026-01-21 12:00:00", "h t", "12 utc", "2026-01-21T12:00:00Z");
+        row("offset", "2026-01-21 12:00:00", "h t", "12 UTC-05:30", "2026-01-21T17:30:00Z");
+        row("far zone", "2026-01-21 12:00:00", "h t", "12 Asia/Tokyo", "2026-01-21T03:00:00Z");
+        row("unknown zone", "2026-01-21 12:00:00", "h t", "12 XYZT", "");
+        row("no such hour", "2026-03-29 12:00:00", "hh:mm", "02:30", "");
+        row("first of two", "2026-10-25 00:30:00Z", "hh:mm", "02:31", "2026-10-25T00:31:00Z");
+        row("second of two", "2026-10-25 01:30:00Z", "hh:mm", "02:31", "2026-10-25T01:31:00Z");
+        row("told by the zone", "2026-10-25 01:30:00Z", "hh:mm t", "02:31 CEST",
+            "2026-10-25T00:31:00Z");
+    }
+    void readsWhatIsTypedOverDates()
+    {
+        const auto& [present, pattern, text, expected] = Dates::fetch();
+        const QTimeZone berlin("Europe/Berlin");
+        QDateTime time = QDateTime::fromString(present, Qt::ISODate);
+        if (time.timeSpec() == Qt::LocalTime)
+            time = QDateTime(time.date(), time.time(), berlin);
+        QDateTimeDisplayFormat format;
+        format.setLocale(QLocale(QLocale::English));
+        format.setPresentTime(time.toTimeZone(berlin));
+        if (!pattern.isEmpty())
+            format.setDateTimeFormat(pattern);
+        bool ok = false;
+        const QDateTime read = format.valueFromFullText(text, &ok);
+        QCOMPARE(ok ? read.toUTC() : QDateTime(),
+                 QDateTime::fromString(expected, Qt::ISODateWithMs));
     }
     void readsFrequencies_data()
     {
