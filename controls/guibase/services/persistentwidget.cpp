@@ -15,12 +15,15 @@
 #include <QMdiSubWindow>
 #include <QRegularExpression>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QTimer>
 
 namespace {
 
 /// How long window managers take to give a window its stored size, in milliseconds.
 constexpr int sizeMilliseconds = 2000;
+/// So long after the first showing, a move is that of the window manager.
+constexpr int placeMilliseconds = 1000;
 
 QMainWindow* mainWindowOf(QWidget* widget)
 {
@@ -235,6 +238,8 @@ bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Resize:
     case QEvent::Close:
     case QEvent::WindowStateChange:
+        if (watched == m_widget && m_awaitsPlace && event->type() == QEvent::Move)
+            m_startGeometry = m_widget->saveGeometry();
         if (isWindow)
             capture();
         else
@@ -295,8 +300,12 @@ void PersistentWidget::watchDocks()
 void PersistentWidget::applyStart()
 {
     unwatch();
-    if (m_factoryGeometry.isEmpty())
+    const bool isPlaced =
+        !m_widget->isWindow() || m_widget->isVisible() || m_widget->testAttribute(Qt::WA_Moved);
+    if (m_factoryGeometry.isEmpty()) {
         m_factoryGeometry = m_widget->saveGeometry();
+        m_isFactoryPlaced = isPlaced;
+    }
     const bool isStored = !m_geometryText.isEmpty();
     m_startGeometry =
         isStored ? WidgetPlacement::fromText(m_geometryText) : m_widget->saveGeometry();
@@ -309,6 +318,10 @@ void PersistentWidget::applyStart()
     if (isStored) {
         restoreGeometryIfMoved(m_startGeometry);
         awaitSize(size);
+    }
+    if (!isStored && !isPlaced) {
+        m_awaitsPlace = true;
+        QTimerHelpers::singleShot(placeMilliseconds, this, [this] { m_awaitsPlace = false; });
     }
     if (m_startMinimized == StartMinimized::Unknown)
         m_startMinimized = m_isMinimized ? StartMinimized::Yes : StartMinimized::No;
@@ -420,6 +433,11 @@ void PersistentWidget::restoreProgramStart()
 void PersistentWidget::restoreFactory()
 {
     restore(m_factoryGeometry, &ModeLayout::factoryState);
+    if (m_widget && !m_isFactoryPlaced) {
+        QRect frame = m_widget->frameGeometry();
+        frame.moveCenter(m_widget->screen()->availableGeometry().center());
+        m_widget->move(frame.topLeft());
+    }
 }
 
 void PersistentWidget::restore(const QByteArray& geometry, QByteArray ModeLayout::*state)

@@ -108,6 +108,10 @@ private:
     StartMinimized m_startMinimized = StartMinimized::Unknown;
     QByteArray m_startGeometry;
     QByteArray m_factoryGeometry;
+    /// Whether the application gave the window a place; otherwise the window manager does, and the
+    /// factory's place is the middle of the screen.
+    bool m_isFactoryPlaced = true;
+    bool m_awaitsPlace = false; ///< The window manager's, which counts as that of program start.
     QString m_geometryText;
     ModeTable m_modes;
     QString m_stateText;

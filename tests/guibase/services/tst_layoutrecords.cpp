@@ -61,7 +61,7 @@ private Q_SLOTS:
             const auto read = StateRecord::decode(StateRecord::encode(layouts));
             QVERIFY(read && read->size() >= 2 && read->contains(0));
             for (quint32 mode = 0; mode < 8; ++mode) // too large when packed
-                layouts[mode] = QString::fromLatin1(random.bytes(200'000).toHex());
+                layouts[mode] = QString::fromLatin1(random.bytes(80'000).toHex());
         }
     }
     void refusedStates_data()
