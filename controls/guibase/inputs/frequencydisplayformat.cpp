@@ -15,16 +15,16 @@ namespace {
 struct Unit
 {
     QLatin1StringView name;
-    QLatin1StringView pattern;
+    QStringView pattern;
 };
 
 /// By ESuffix.
 constexpr std::array<Unit, 5> units{{
-    {QLatin1StringView("Hz"), QLatin1StringView("[hH][zZ]?")},
-    {QLatin1StringView("Hz"), QLatin1StringView("[hH][zZ]?")},
-    {QLatin1StringView("kHz"), QLatin1StringView("[kK]([hH][zZ])?")},
-    {QLatin1StringView("MHz"), QLatin1StringView("[mM]([hH][zZ])?")},
-    {QLatin1StringView("GHz"), QLatin1StringView("[gG]([hH][zZ])?")},
+    {QLatin1StringView("Hz"), u"[hH\uFF48\uFF28][zZ\uFF5A\uFF3A]?"},
+    {QLatin1StringView("Hz"), u"[hH\uFF48\uFF28][zZ\uFF5A\uFF3A]?"},
+    {QLatin1StringView("kHz"), u"[kK\uFF4B\uFF2B]([hH\uFF48\uFF28][zZ\uFF5A\uFF3A])?"},
+    {QLatin1StringView("MHz"), u"[mM\uFF4D\uFF2D]([hH\uFF48\uFF28][zZ\uFF5A\uFF3A])?"},
+    {QLatin1StringView("GHz"), u"[gG\uFF47\uFF27]([hH\uFF48\uFF28][zZ\uFF5A\uFF3A])?"},
 }};
 
 UnitPrefix::ESuffix knownUnit(UnitPrefix::ESuffix unit)
@@ -55,12 +55,16 @@ std::optional<qint64> scaled(const TypedNumber::Ascii& ascii, int exponent)
     return TypedNumber::fromAscii<qint64>(digits);
 }
 
-/// As TypedNumber::normalize(), but a single point is the decimal one where hertz are left over.
-TypedNumber::Outcome normalize(const QString& text, QChar decimalPoint, int exponent,
-                               TypedNumber::Ascii& ascii)
+/// As TypedNumber::normalize(), but of points knows what they mean on radios.
+TypedNumber::Outcome normalize(const QString& text, const QLocale& locale, QChar decimalPoint,
+                               int exponent, TypedNumber::Ascii& ascii)
 {
+    constexpr int kilo = 3;
+    if (exponent > 0 && text.count(u'.') + text.count(u'\uFF0E') > 1 && !text.contains(u','))
+        return TypedNumber::Outcome::Ambiguous;
     const TypedNumber::Outcome outcome = TypedNumber::normalize(text, decimalPoint, ascii);
-    return outcome == TypedNumber::Outcome::Ambiguous && exponent > 0
+    const bool isDecimal = exponent > kilo || (exponent == kilo && locale.groupSeparator() != u".");
+    return outcome == TypedNumber::Outcome::Ambiguous && isDecimal
                ? TypedNumber::normalize(text, u'.', ascii)
                : outcome;
 }
@@ -72,7 +76,7 @@ FrequencyDisplayFormat::FrequencyDisplayFormat(UnitPrefix::ESuffix unit)
 {
     const Unit& row = units[static_cast<std::size_t>(m_unit)];
     setSuffix(QString(row.name));
-    setSuffixPattern(QRegularExpression(QString(row.pattern)));
+    setSuffixPattern(QRegularExpression(row.pattern.toString()));
 }
 
 FrequencyDisplayFormat::~FrequencyDisplayFormat() = default;
@@ -96,7 +100,8 @@ qint64 FrequencyDisplayFormat::valueFromText(const QString& text, bool* ok) cons
 {
     TypedNumber::Ascii ascii;
     std::optional<qint64> value;
-    if (normalize(text, notation().decimalPoint, exponent(), ascii) == TypedNumber::Outcome::Number)
+    if (normalize(text, locale(), notation().decimalPoint, exponent(), ascii) ==
+        TypedNumber::Outcome::Number)
         value = scaled(ascii, exponent());
     if (ok != nullptr)
         *ok = value.has_value();
@@ -129,7 +134,12 @@ QString FrequencyDisplayFormat::refusalReason(const QString& text) const
 {
     TypedNumber::Ascii ascii;
     const QChar point = notation().decimalPoint;
-    if (normalize(text, point, exponent(), ascii) != TypedNumber::Outcome::Number)
+    const TypedNumber::Outcome outcome = normalize(text, locale(), point, exponent(), ascii);
+    if (outcome == TypedNumber::Outcome::Ambiguous && text.count(u'.') > 1)
+        return QCoreApplication::translate("DisplayFormat",
+                                           "\"%1\" may be meant in hertz. Leave the groups out.")
+            .arg(text.trimmed().left(40));
+    if (outcome != TypedNumber::Outcome::Number)
         return TypedNumber::refusalReason(text, point);
     return QCoreApplication::translate("DisplayFormat",
                                        "Enter a whole number of hertz, at most %1 %2.")

@@ -9,9 +9,10 @@
 ///
 /// Written are as many decimals as the frequency has, in the locale. Read is a decimal number with
 /// point or comma, followed by the unit, its first letter (in either case), or nothing. A single
-/// point is the decimal one in kHz, MHz and GHz in every locale, since radio frequencies are written
-/// so everywhere ("14.225 MHz") and never with a single group; for other doubtful separators see
-/// RealNumberDisplayFormat. Fractions of a hertz are refused.
+/// point is the decimal one in MHz and GHz in every locale, since radio frequencies are written so
+/// everywhere ("14.225 MHz"), and in kHz unless the locale parts thousands with points. Several
+/// points without a comma are refused but in Hz, since radios show hertz so ("7.074.000"); for
+/// other doubtful separators see RealNumberDisplayFormat. Fractions of a hertz are refused.
 class GUIBASE_EXPORT FrequencyDisplayFormat : public ValueDisplayFormatBase<qint64>
 {
 public:

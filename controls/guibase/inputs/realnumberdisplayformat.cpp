@@ -10,12 +10,18 @@
 
 namespace {
 
-/// A point is the decimal sign of the C locale; where people use another one it may be meant to
-/// part thousands.
-bool isDoubtfulPoint(const QString& text, QChar decimalPoint)
+/// A point is the decimal sign of the C locale; where people part thousands with it it is doubtful.
+bool isDoubtfulPoint(const QString& text, const QLocale& locale, QChar decimalPoint)
 {
-    return decimalPoint != u'.' && text.contains(u'.') &&
+    return decimalPoint != u'.' && text.contains(u'.') && locale.groupSeparator() == u"." &&
            TypedNumber::isAmbiguous(text, decimalPoint);
+}
+
+/// "0.500" has no thousands, whatever the locale parts them with.
+bool hasZeroGroup(const QString& text, const QLocale& locale)
+{
+    return !locale.numberOptions().testFlag(QLocale::RejectGroupSeparator) &&
+           QStringView(text).trimmed().startsWith(u'0') && text.contains(locale.groupSeparator());
 }
 
 std::optional<double> readReal(const QString& text, const QLocale& locale, bool useLocale,
@@ -29,14 +35,19 @@ std::optional<double> readReal(const QString& text, const QLocale& locale, bool 
     bool ok = false;
     double value = useLocale ? NumberHelpers::parse<double>(text, locale, &ok)
                              : NumberHelpers::parse<double>(text, &ok);
-    if (ok && (useLocale || !isDoubtfulPoint(text, decimalPoint)))
+    if (ok && (useLocale || !isDoubtfulPoint(text, locale, decimalPoint)) &&
+        !hasZeroGroup(text, locale))
         return value;
     // What is written in the locale can be read in any case.
     value = NumberHelpers::parse<double>(text, locale, &ok);
-    if (ok)
+    if (ok && !hasZeroGroup(text, locale))
         return value;
     TypedNumber::Ascii ascii;
-    if (TypedNumber::normalize(text, decimalPoint, ascii) != TypedNumber::Outcome::Number)
+    TypedNumber::Outcome outcome = TypedNumber::normalize(text, decimalPoint, ascii);
+    if (outcome == TypedNumber::Outcome::Ambiguous && text.contains(u'.') &&
+        locale.groupSeparator() != u"." && decimalPoint != u'.')
+        outcome = TypedNumber::normalize(text, u'.', ascii);
+    if (outcome != TypedNumber::Outcome::Number)
         return std::nullopt;
     return TypedNumber::realFromAscii(ascii);
 }

@@ -13,7 +13,9 @@
 /// - full-width characters and the typographic minus.
 ///
 /// A single point or comma between one to three and exactly three digits ("1,500") may mean
-/// thousands and is refused, unless it is the locale's decimal sign. So are infinity and NaN.
+/// thousands and is refused, unless it is the locale's decimal sign, or a point where the locale
+/// parts thousands with something else than points. So are infinity, NaN, and groups that begin
+/// with a zero ("0,475,500"). Digits may be of any script.
 template <typename T>
 class GUIBASE_EXPORT RealNumberDisplayFormat : public NumberDisplayFormatBase<T>
 {

@@ -21,11 +21,10 @@ char meaningOf(char16_t c)
 {
     if (c >= u'0' && c <= u'9')
         return static_cast<char>(c);
-    if (c >= u'\uFF10' && c <= u'\uFF19')
-        return static_cast<char>(c - u'\uFF10' + '0');
     switch (c) {
     case u'.':
     case u'\uFF0E':
+    case u'\u066B':
         return '.';
     case u',':
     case u'\uFF0C':
@@ -43,6 +42,7 @@ char meaningOf(char16_t c)
         return 'e';
     case u'\'':
     case u'\u2019':
+    case u'\u066C':
         return '\'';
     case u' ':
     case u'\u00A0':
@@ -51,7 +51,7 @@ char meaningOf(char16_t c)
     case u'\u202F':
         return ' ';
     default:
-        return '\0';
+        return QChar::isDigit(c) ? static_cast<char>('0' + QChar::digitValue(c)) : '\0';
     }
 }
 
@@ -65,6 +65,8 @@ bool translate(QStringView text, Ascii& ascii)
     ascii.clear();
     ascii.reserve(text.size());
     for (const QChar c : text) {
+        if (c == u'\u200E' || c == u'\u200F' || c == u'\u061C') // Marks of direction at signs.
+            continue;
         const char meaning = meaningOf(c.unicode());
         if (meaning == '\0')
             return false;
@@ -100,7 +102,8 @@ Separators::Separators(const Ascii& ascii, qsizetype begin, qsizetype end)
     }
 }
 
-/// Takes the separator out of groups of three digits; false when they are not.
+/// Takes the separator out of groups of three digits; false when they are not, or begin with a
+/// zero, which thousands never do.
 bool removeGroups(Ascii& ascii, qsizetype begin, qsizetype& end, char separator)
 {
     qsizetype out = begin;
@@ -108,7 +111,7 @@ bool removeGroups(Ascii& ascii, qsizetype begin, qsizetype& end, char separator)
     bool isFirst = true;
     for (qsizetype i = begin; i < end; ++i) {
         if (ascii[i] == separator) {
-            if (run < 1 || run > groupSize || (!isFirst && run != groupSize))
+            if (run < 1 || run > groupSize || ascii[begin] == '0' || (!isFirst && run != groupSize))
                 return false;
             isFirst = false;
             run = 0;

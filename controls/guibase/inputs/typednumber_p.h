@@ -20,7 +20,7 @@ using Ascii = QVarLengthArray<char, 128>;
 
 /// Writes the decimal number to `ascii` in C notation: '-', digits, '.', 'e', without groups. It
 /// need not be a number in all points: digits may be missing. A single separator that is
-/// `decimalPoint` is the decimal one.
+/// `decimalPoint` is the decimal one. Digits may be of any script.
 Outcome normalize(QStringView text, QChar decimalPoint, Ascii& ascii);
 
 /// Whether a text that the C locale reads would be ambiguous where `decimalPoint` is the decimal

@@ -180,6 +180,9 @@ private Q_SLOTS:
         row.add("C", "1 234 567", "1234567", "1234567.000000");
         row.add("C", "1\u202f234,500", "-", "1234.500000");
         row.add("C", "1'500", "1500", "1500.000000");
+        row.add("C", "0.475.500", "-", "-");
+        row.add("C", "0,475.500", "-", "-");
+        row.add("C", "0 475", "-", "-");
         row.add("C", "1 23", "-", "-");
         row.add("C", "1 234'567", "-", "-");
         row.add("C", "1,5e3", "-", "1500.000000");
@@ -196,6 +199,8 @@ private Q_SLOTS:
         row.add("de_DE", "1.500", "-", "-");
         row.add("de_DE", "1.5", "-", "1.500000");
         row.add("de_DE", "1.234,5", "-", "1234.500000");
+        row.add("fr_FR", "14.225", "-", "14.225000");
+        row.add("C", "\u0967\u0968", "12", "12.000000");
         row.add("ar_EG", "\u0661\u0665", "15", "15.000000");
     }
     void readsNumbers()
@@ -458,6 +463,10 @@ private Q_SLOTS:
         row.add(4, "-9223372036.854775808", "-9223372036.854775808 GHz");
         row.add(4, "9223372036.854775808", "-");
         row.add(2, "1e3", "-");
+        row.add(2, "7.074.000", "-"); // Hertz?
+        row.add(1, "7.074.000", "7074000 Hz");
+        row.add(3, "0.475.500", "-");
+        row.add(2, "\uff11\uff14\uff12\uff12\uff15\uff4b", "14225 kHz");
     }
     void readsFrequencies()
     {
@@ -480,6 +489,17 @@ private Q_SLOTS:
         QCOMPARE(echoed(megahertz, QStringLiteral("1.014,5")), QStringLiteral("1014,5 MHz"));
         QCOMPARE(echoed(hertz, QStringLiteral("14.225.000")), QStringLiteral("14225000 Hz"));
         QCOMPARE(echoed(hertz, QStringLiteral("14.225")), QStringLiteral("-"));
+        FrequencyDisplayFormat kilohertz(UnitPrefix::Kilo);
+        kilohertz.setLocale(megahertz.locale());
+        QCOMPARE(echoed(kilohertz, QStringLiteral("7.074")), QStringLiteral("-"));
+        kilohertz.setLocale(ungrouped(QStringLiteral("fr_FR")));
+        QCOMPARE(echoed(kilohertz, QStringLiteral("7.074")), QStringLiteral("7,074 kHz"));
+        for (const char* name : {"ar_EG", "fa_IR", "ckb_IQ", "ps_AF"}) {
+            megahertz.setLocale(ungrouped(QString::fromLatin1(name)));
+            bool ok = false;
+            const QString text = megahertz.fullTextFromValue(-14225000);
+            QVERIFY2(megahertz.valueFromFullText(text, &ok) == -14225000 && ok, qPrintable(text));
+        }
     }
     void survivesAnyText()
     {
