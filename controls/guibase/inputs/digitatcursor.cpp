@@ -15,7 +15,8 @@ bool isDigit(QChar c, int base)
 
 } // namespace
 
-std::optional<DigitAtCursor> DigitAtCursor::find(const QString& bare, qsizetype cursor, int base)
+std::optional<DigitAtCursor> DigitAtCursor::find(const QString& bare, qsizetype cursor, int base,
+                                                 const QString& groupSeparator)
 {
     qsizetype end = bare.size();
     if (base == 10) {
@@ -43,5 +44,9 @@ std::optional<DigitAtCursor> DigitAtCursor::find(const QString& bare, qsizetype 
             result.one[i] = result.zero[i] = u'0';
     }
     result.one[digit] = u'1';
+    if (!groupSeparator.isEmpty()) {
+        result.one.remove(groupSeparator);
+        result.zero.remove(groupSeparator);
+    }
     return result;
 }

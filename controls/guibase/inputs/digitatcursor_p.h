@@ -14,6 +14,8 @@ struct DigitAtCursor
 
     /// The digit behind the cursor or, where there is none, the nearest one before it, else the
     /// first one. `bare` is a number in `base` without prefix and suffix; nothing without digits.
-    /// Exponents of decimal numbers have no steps.
-    static std::optional<DigitAtCursor> find(const QString& bare, qsizetype cursor, int base);
+    /// Exponents of decimal numbers have no steps. `groupSeparator` (may be empty) is left out of
+    /// both results, since no group may begin with zeros.
+    static std::optional<DigitAtCursor> find(const QString& bare, qsizetype cursor, int base,
+                                             const QString& groupSeparator = {});
 };

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 #include <type_traits>
@@ -17,6 +18,34 @@ namespace {
 /// The widest type with the signedness of T.
 template <typename T>
 using Widest = std::conditional_t<std::is_signed_v<T>, qint64, quint64>;
+
+/// The text with ASCII characters in place of full-width ones and of the typographic minus.
+QString folded(QString text)
+{
+    for (QChar& c : text) {
+        if (c >= u'\uFF01' && c <= u'\uFF5E')
+            c = QChar(static_cast<char16_t>(c.unicode() - 0xFEE0));
+        else if (c == u'\u2212' || c == u'\u2013')
+            c = u'-';
+    }
+    return text.trimmed();
+}
+
+/// Whether this is a number in the base, be it too long for any type.
+bool isInBase(const QString& text, int base)
+{
+    QString digits = folded(text).toLower();
+    if (digits.startsWith(u'-') || digits.startsWith(u'+'))
+        digits.remove(0, 1);
+    if (base == 16 && digits.startsWith(u"0x"))
+        digits.remove(0, 2);
+    return !digits.isEmpty() && std::all_of(digits.begin(), digits.end(), [base](QChar c) {
+        const int digit = c >= u'a' && c <= u'z' ? c.unicode() - u'a' + 10
+                          : c.unicode() < 0x80   ? c.digitValue()
+                                                 : -1;
+        return digit >= 0 && digit < base;
+    });
+}
 
 /// What the toolkit reads beyond digits: base prefixes.
 template <typename T>
@@ -49,7 +78,7 @@ std::optional<T> readInteger(const QString& text, int base, const QLocale& local
     if (ok)
         return value;
     if (base != 10)
-        return readWithBasePrefix<T>(text, base);
+        return readWithBasePrefix<T>(folded(text), base);
     TypedNumber::Ascii ascii;
     if (TypedNumber::normalize(text, decimalPoint, ascii) != TypedNumber::Outcome::Number)
         return std::nullopt;
@@ -92,11 +121,12 @@ QString IntegralNumberDisplayFormat<T>::refusalReason(const QString& text) const
 {
     TypedNumber::Ascii ascii;
     const QChar point = this->notation().decimalPoint;
-    if (m_base == 10 &&
-        TypedNumber::normalize(text, point, ascii) == TypedNumber::Outcome::Number) {
-        if (ascii.contains('.'))
-            return QCoreApplication::translate("DisplayFormat",
-                                               "Only whole numbers can be entered.");
+    const bool isNumber =
+        m_base == 10 ? TypedNumber::normalize(text, point, ascii) == TypedNumber::Outcome::Number
+                     : isInBase(text, m_base);
+    if (ascii.contains('.') && isNumber)
+        return QCoreApplication::translate("DisplayFormat", "Only whole numbers can be entered.");
+    if (isNumber) {
         return QCoreApplication::translate("DisplayFormat", "The number must lie from %1 to %2.")
             .arg(textFromValue(std::numeric_limits<T>::min()),
                  textFromValue(std::numeric_limits<T>::max()));

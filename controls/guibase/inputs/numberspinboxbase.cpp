@@ -79,9 +79,11 @@ void NumberSpinBoxBase<T>::stepAtCursor(int steps)
     const int index = this->currentDisplayFormatIndex();
     const auto* format = this->currentDisplayFormat();
     const auto range = format->bareRange(text);
-    const std::optional<DigitAtCursor> digit =
-        DigitAtCursor::find(text.mid(range.start, range.end - range.start),
-                            edit->cursorPosition() - range.start, baseOf(format));
+    const QLocale& locale = format->locale();
+    const bool isGrouped = !locale.numberOptions().testFlag(QLocale::OmitGroupSeparator);
+    const std::optional<DigitAtCursor> digit = DigitAtCursor::find(
+        text.mid(range.start, range.end - range.start), edit->cursorPosition() - range.start,
+        baseOf(format), isGrouped ? locale.groupSeparator() : QString());
     if (!digit)
         return;
     const std::optional<T> one = this->displayFormats().readWith(index, digit->one);

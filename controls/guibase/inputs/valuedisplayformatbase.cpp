@@ -96,12 +96,10 @@ template <typename T>
 T ValueDisplayFormatBase<T>::valueFromFullText(const QString& text, bool* ok) const
 {
     const Range range = bareRange(text);
-    const bool isWhole = range.start == 0 && range.end == text.size();
     bool read = false;
     T value{};
     if (!m_suffixRequired || suffixMatch(text))
-        value =
-            valueFromText(isWhole ? text : text.mid(range.start, range.end - range.start), &read);
+        value = bareValue(text, range, &read);
     if (read) {
         value = m_valueConverter(value, FromDisplay);
         read = isUsable(value);
@@ -115,6 +113,27 @@ template <typename T>
 DisplayAffix::Match ValueDisplayFormatBase<T>::suffixMatch(const QString& text) const
 {
     return m_suffix.matchEndingAt(text, dropBlanks(text, text.size()));
+}
+
+template <typename T>
+T ValueDisplayFormatBase<T>::bareValue(const QString& text, Range range, bool* read) const
+{
+    const auto part = [&text](Range bare) {
+        const bool isWhole = bare.start == 0 && bare.end == text.size();
+        return isWhole ? text : text.mid(bare.start, bare.end - bare.start);
+    };
+    // What stands at the number without a blank may be digits of it.
+    Range wider = range;
+    if (range.start > 0 && !text[range.start - 1].isSpace())
+        wider.start = skipBlanks(text, 0);
+    if (range.end < text.size() && !text[range.end].isSpace())
+        wider.end = dropBlanks(text, text.size());
+    if (!m_suffixRequired && (wider.start != range.start || wider.end != range.end)) {
+        T value = valueFromText(part(wider), read);
+        if (*read)
+            return value;
+    }
+    return valueFromText(part(range), read);
 }
 
 template <typename T>

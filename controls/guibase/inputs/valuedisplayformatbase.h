@@ -73,8 +73,10 @@ public:
     /// The text with prefix and suffix. Exceptions of the converter pass through; an empty
     /// converter throws std::bad_function_call.
     QString fullTextFromValue(const T& value) const;
-    /// Reads a text with or without prefix and suffix. A converter that returns no finite number,
-    /// or no valid date, makes the reading fail; its exceptions pass through. `ok` may be null.
+    /// Reads a text with or without prefix and suffix. An affix that is not parted from the number
+    /// by a blank is one only where the text cannot be read with it: "1B" in base 16. A converter
+    /// that returns no finite number, or no valid date, makes the reading fail; its exceptions pass
+    /// through. `ok` may be null.
     T valueFromFullText(const QString& text, bool* ok) const;
     /// The suffix at the end of the text, behind which there may be blanks only.
     DisplayAffix::Match suffixMatch(const QString& text) const;
@@ -121,6 +123,8 @@ protected:
     const LocaleNotation& notation() const { return m_notation; }
 
 private:
+    T bareValue(const QString& text, Range range, bool* read) const;
+
     QLocale m_locale;
     LocaleNotation m_notation;
     bool m_useLocale = false;

@@ -139,7 +139,7 @@ private Q_SLOTS:
         row("prefix twice", "", "f= f= 5", "-");
         row("other case", "", "5 mhz", "-");
         row("own pattern", "[mM]([hH]z)?", "5m", "f= 5 MHz");
-        row("matches all", ".*", "51", "f= 5 MHz");
+        row("matches all", ".*", "51", "f= 51 MHz");
         row("matches nothing", "(?!)", "5", "f= 5 MHz");
         row("invalid", "(", "5", "f= 5 MHz");
         row("suffix only", "", "MHz", "-");
@@ -235,6 +235,18 @@ private Q_SLOTS:
                  QStringLiteral("fffffffffffffffe"));
         format.setBase(1);
         QCOMPARE(format.base(), 16);
+        IntegralNumberDisplayFormat<int> hexadecimal;
+        hexadecimal.setBase(16);
+        QCOMPARE(echoed(hexadecimal, QString::fromUtf8("\u22120x80")), QStringLiteral("-80"));
+        QCOMPARE(echoed(hexadecimal, QString::fromUtf8("\uff21\uff42")), QStringLiteral("ab"));
+        QVERIFY(hexadecimal.refusalReason(QStringLiteral("fffffffff"))
+                    .contains(QStringLiteral("7fffffff")));
+        // The affixes may be digits.
+        hexadecimal.setPrefix(QStringLiteral("f"));
+        hexadecimal.setSuffix(QStringLiteral("B"));
+        QCOMPARE(echoed(hexadecimal, QStringLiteral("f 1B")), QStringLiteral("f 1b B"));
+        QCOMPARE(echoed(hexadecimal, QStringLiteral("ff")), QStringLiteral("f ff B"));
+        QCOMPARE(echoed(hexadecimal, QStringLiteral("f 1 B")), QStringLiteral("f 1 B"));
         RealNumberDisplayFormat<double> real;
         bool ok = false;
         for (const double value : {DBL_MAX, -DBL_MAX, 0.0}) {
