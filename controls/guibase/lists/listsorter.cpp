@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <limits>
 #include <typeinfo>
 #include <vector>
 
@@ -24,10 +25,13 @@ using std::chrono::milliseconds;
 constexpr int pauseFactor = 4;
 constexpr milliseconds longestPause(1000);
 
+constexpr quint32 noRun = std::numeric_limits<quint32>::max(); ///< No item has this number.
+
 quint32 nextRunNumber()
 {
     static quint32 number = 0;
-    return ++number == 0 ? ++number : number; // 0 stands for "never sorted"
+    number = number + 1 < noRun ? number + 1 : 1; // 0 stands for "never sorted"
+    return number;
 }
 
 SortListViewItem* castItem(QTreeWidgetItem* item)
@@ -86,7 +90,22 @@ struct ListSorter::Run
     bool hasOtherItems = false; ///< There are items that are no SortListViewItems.
 };
 
+/// While it lives, the items are compared by the keys of the run.
+class ListSorter::Running
+{
+public:
+    explicit Running(const Run& run)
+        : m_run(s_run, &run)
+        , m_rankedRun(s_rankedRun, run.isRanked && !run.hasOtherItems ? run.number : noRun)
+    {}
+
+private:
+    QScopedValueRollback<const Run*> m_run;
+    QScopedValueRollback<quint32> m_rankedRun;
+};
+
 const ListSorter::Run* ListSorter::s_run = nullptr;
+quint32 ListSorter::s_rankedRun = noRun;
 
 ListSorter::ListSorter(SortListView& view)
     : m_view(view)
@@ -156,7 +175,7 @@ void ListSorter::sortRows(int column, Qt::SortOrder order, const Run* earlier)
     m_order = order;
     m_column = column;
     m_lastRun = run;
-    const QScopedValueRollback<const Run*> running(s_run, run.get());
+    const Running running(*run);
     m_view.QTreeWidget::sortItems(column, order);
 }
 
@@ -165,7 +184,7 @@ void ListSorter::sortChildren(QTreeWidgetItem& parent, int column, Qt::SortOrder
     Run run(m_view.compareFunction(column));
     if (m_view.maySort())
         run.readKeys(parent, column, nullptr);
-    const QScopedValueRollback<const Run*> running(s_run, &run);
+    const Running running(run);
     parent.sortChildren(column, order);
 }
 

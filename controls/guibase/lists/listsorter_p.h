@@ -35,14 +35,20 @@ public:
     /// The comparison by the keys of the running sort; nothing when there is none or it does not
     /// have both items.
     static std::optional<bool> isLess(const SortListViewItem& a, const QTreeWidgetItem& b);
+    /// The rank of the item in the running sort that the first item is in; null when it has none.
+    static const double* rankBeside(const SortListViewItem& first, const QTreeWidgetItem& item);
 
 private:
     struct Run;
+
+    class Running;
 
     void sortRows(int column, Qt::SortOrder order, const Run* earlier);
     void placeArrivals();
 
     static const Run* s_run;
+    /// The number of the running sort while all of its items have ranks, else none.
+    static quint32 s_rankedRun;
     SortListView& m_view;
     /// The last sort; null when the list is not sorted, appended rows apart.
     std::shared_ptr<const Run> m_lastRun;
@@ -50,3 +56,14 @@ private:
     Qt::SortOrder m_order = Qt::AscendingOrder;
     QTimer m_arrivals;
 };
+
+// Called for most comparisons of a sort, of which there are hundreds of thousands.
+inline const double* ListSorter::rankBeside(const SortListViewItem& first,
+                                            const QTreeWidgetItem& item)
+{
+    if (first.m_sortRun != s_rankedRun || item.type() != SortListViewItem::Type ||
+        item.treeWidget() != first.treeWidget())
+        return nullptr;
+    const auto& other = static_cast<const SortListViewItem&>(item);
+    return other.m_sortRun == s_rankedRun ? &other.m_sortRank : nullptr;
+}

@@ -616,7 +616,10 @@ void SortListView::rowsInserted(const QModelIndex& parent, int first, int last)
     const QTreeWidgetItem* const owner =
         parent.isValid() ? itemFromIndex(parent) : invisibleRootItem();
     for (int row = first; row <= last && owner != nullptr; ++row) {
-        if (QTreeWidgetItem* const item = owner->child(row))
+        QTreeWidgetItem* const item = owner->child(row);
+        if (item != nullptr && item->childCount() == 0)
+            arrive(*item);
+        else if (item != nullptr)
             ItemWalk::visitAll(*item, arrive);
     }
 }

@@ -106,6 +106,8 @@ void SortListViewItem::insertInto(QTreeWidget* tree, int row)
 
 bool SortListViewItem::operator<(const QTreeWidgetItem& other) const
 {
+    if (const double* const rank = ListSorter::rankBeside(*this, other))
+        return m_sortRank < *rank;
     if (const std::optional<bool> isLess = ListSorter::isLess(*this, other))
         return *isLess;
     const QTreeWidget* const tree = treeWidget();
