@@ -48,6 +48,7 @@ set(inputs_sources
     numberdisplayformatbase.cpp
     numbercomboboxbase.cpp
     numberspinboxbase.cpp
+    letterset_p.h
     lineedittext.cpp
     lineedittext_p.h
     numbertext.cpp

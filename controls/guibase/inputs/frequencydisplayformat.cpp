@@ -145,3 +145,11 @@ QString FrequencyDisplayFormat::refusalReason(const QString& text) const
                                        "Enter a whole number of hertz, at most %1 %2.")
         .arg(textFromValue(std::numeric_limits<qint64>::max()), suffix());
 }
+
+std::vector<qint64> FrequencyDisplayFormat::widestValues(const qint64& minimum,
+                                                         const qint64& maximum) const
+{
+    if (minimum == maximum)
+        return {minimum};
+    return {minimum, minimum + 1, maximum - 1, maximum};
+}

@@ -24,6 +24,8 @@ public:
     qint64 valueFromText(const QString& text, bool* ok) const override;
     QString textFromValue(qint64 value) const override;
     QString refusalReason(const QString& text) const override;
+    /// The bounds with all decimals down to single hertz.
+    std::vector<qint64> widestValues(const qint64& minimum, const qint64& maximum) const override;
 
     UnitPrefix::ESuffix unit() const { return m_unit; }
     /// Trailing zeros are written up to so many decimals; 0 at first, at most down to single hertz.

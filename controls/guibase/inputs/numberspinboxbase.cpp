@@ -30,7 +30,9 @@ namespace SpinBoxes {
 template <typename T>
 NumberSpinBoxBase<T>::NumberSpinBoxBase(QWidget* parent)
     : SpinBoxBase<T>(parent)
-{}
+{
+    this->setAlignment(Qt::AlignRight); // As combo boxes for numbers are.
+}
 
 template <typename T>
 NumberSpinBoxBase<T>::~NumberSpinBoxBase() = default;

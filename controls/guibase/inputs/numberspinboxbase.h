@@ -5,7 +5,8 @@
 
 namespace SpinBoxes {
 
-/// A spin box for numbers: it adds the single step, and the rounding to a multiple of it.
+/// A spin box for numbers: it adds the single step, and the rounding to a multiple of it. Numbers
+/// stand at the right at first.
 template <typename T>
 class GUIBASE_EXPORT NumberSpinBoxBase : public SpinBoxBase<T>
 {

@@ -89,4 +89,21 @@ QString RealNumberDisplayFormat<T>::refusalReason(const QString& text) const
     return TypedNumber::refusalReason(text, this->notation().decimalPoint);
 }
 
+template <typename T>
+std::vector<T> RealNumberDisplayFormat<T>::widestValues(const T& minimum, const T& maximum) const
+{
+    std::vector<T> values{minimum, maximum};
+    const bool hasFixedDecimals =
+        this->format() != 'g' && this->format() != 'G' && this->precision() >= -1;
+    if (hasFixedDecimals)
+        return values;
+    // The longest texts without an exponent begin with four zeros.
+    constexpr double longText = 1.2345678901234567e-4;
+    for (const T& value : {minimum / 3, maximum / 3, -longText, longText}) {
+        if (value >= minimum && value <= maximum)
+            values.push_back(value);
+    }
+    return values;
+}
+
 template class RealNumberDisplayFormat<double>;

@@ -27,6 +27,8 @@ public:
     T valueFromText(const QString& text, bool* ok) const override;
     QString textFromValue(T value) const override;
     QString refusalReason(const QString& text) const override;
+    /// The bounds and, where texts are as long as the number is odd, numbers with all digits.
+    std::vector<T> widestValues(const T& minimum, const T& maximum) const override;
 };
 
 extern template class RealNumberDisplayFormat<double>;

@@ -14,9 +14,9 @@
 
 namespace {
 
-/// The width of a field is that of at most so many characters.
-constexpr qsizetype longestNumberSample = 18;
-constexpr qsizetype longestDateSample = 48;
+/// Real numbers can have hundreds of digits: the width of a field is that of at most so many
+/// characters.
+constexpr qsizetype longestRealSample = 18;
 
 template <typename T>
 T initialValue()
@@ -284,9 +284,14 @@ void SpinBoxBase<T>::interpret()
 template <typename T>
 QStringList SpinBoxBase<T>::sizeSamples() const
 {
-    const qsizetype longest =
-        std::is_same_v<T, QDateTime> ? longestDateSample : longestNumberSample;
-    return {textFromValue(m_minimum).left(longest), textFromValue(m_maximum).left(longest)};
+    QStringList samples;
+    for (const T& value : currentDisplayFormat()->widestValues(m_minimum, m_maximum))
+        samples << textFromValue(value);
+    if constexpr (std::is_same_v<T, double>) {
+        for (QString& sample : samples)
+            sample.truncate(longestRealSample);
+    }
+    return samples;
 }
 
 template <typename T>

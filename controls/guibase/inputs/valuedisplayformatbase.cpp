@@ -77,6 +77,12 @@ QString ValueDisplayFormatBase<T>::refusalReason(const QString&) const
 }
 
 template <typename T>
+std::vector<T> ValueDisplayFormatBase<T>::widestValues(const T& minimum, const T& maximum) const
+{
+    return {minimum, maximum};
+}
+
+template <typename T>
 QString ValueDisplayFormatBase<T>::fullTextFromValue(const T& value) const
 {
     const QString bare = textFromValue(m_valueConverter(value, ToDisplay));

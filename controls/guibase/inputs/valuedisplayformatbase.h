@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 /// Calls `MACRO(T)` for every number type that the typed inputs hold.
 #define GUIBASE_FOR_EACH_INPUT_INTEGER(MACRO)                                                      \
@@ -67,6 +68,9 @@ public:
     virtual QString textFromValue(T value) const = 0;
     /// Tells the user why valueFromText() does not read this text.
     virtual QString refusalReason(const QString& text) const;
+    /// Stored values from `minimum` to `maximum` whose texts are as wide as any between them; by
+    /// default the two bounds.
+    virtual std::vector<T> widestValues(const T& minimum, const T& maximum) const;
 
     virtual ~ValueDisplayFormatBase();
 

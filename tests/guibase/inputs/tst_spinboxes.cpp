@@ -520,6 +520,33 @@ private Q_SLOTS:
             QCOMPARE(box.inputLineEdit()->text(), QString::fromLatin1(text));
         }
     }
+    void isWideEnoughForAllValues()
+    {
+        const auto room = [](AbstractSpinBox& box) {
+            box.resize(box.sizeHint());
+            box.grab(); // Lays the line edit out.
+            return box.inputLineEdit()->width();
+        };
+        const auto width = [](const AbstractSpinBox& box) {
+            return box.fontMetrics().horizontalAdvance(box.textValue());
+        };
+        FrequencySpinBox frequency;
+        frequency.setRange(0, 30'000'000);
+        frequency.setValue(29'888'888);
+        QVERIFY(room(frequency) >= width(frequency));
+        Int64SpinBox whole;
+        whole.setValue(whole.minimum());
+        QVERIFY(room(whole) >= width(whole));
+        auto format = std::make_unique<RealNumberDisplayFormat<double>>();
+        format->setFormat('g');
+        DoubleSpinBox real;
+        real.addDisplayFormat(std::move(format));
+        real.setCurrentDisplayFormatIndex(0);
+        real.setRange(-1, 10);
+        real.setValue(-0.000222222);
+        QVERIFY(room(real) >= width(real));
+        QCOMPARE(real.alignment(), Qt::AlignRight);
+    }
     void entersFrequencies()
     {
         FrequencySpinBox box;
