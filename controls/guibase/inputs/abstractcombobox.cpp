@@ -173,10 +173,8 @@ void AbstractComboBox::keyPressEvent(QKeyEvent* event)
 
 void AbstractComboBox::focusInEvent(QFocusEvent* event)
 {
-    QTimer::singleShot(0, this, [this] {
-        if (QLineEdit* edit = lineEdit())
-            edit->selectAll();
-    });
+    if (QLineEdit* edit = lineEdit())
+        selectAllOnFocus(*edit, event->reason());
     QComboBox::focusInEvent(event);
 }
 

@@ -157,8 +157,15 @@ void AbstractSpinBox::keyPressEvent(QKeyEvent* event)
 
 void AbstractSpinBox::focusInEvent(QFocusEvent* event)
 {
-    QTimer::singleShot(0, this, &AbstractSpinBox::selectAll);
+    selectAllOnFocus(*lineEdit(), event->reason());
     QAbstractSpinBox::focusInEvent(event);
+}
+
+void AbstractSpinBox::mousePressEvent(QMouseEvent* event)
+{
+    // Whether a button can be pressed depends on the value that was typed.
+    interpretIfTextChanged();
+    QAbstractSpinBox::mousePressEvent(event);
 }
 
 void AbstractSpinBox::wheelEvent(QWheelEvent* event)

@@ -70,7 +70,7 @@ AccessibleInput::~AccessibleInput() = default;
 QString AccessibleInput::text(QAccessible::Text kind) const
 {
     if (kind == QAccessible::Value)
-        return m_input.inputLineEdit()->text();
+        return m_input.inputLineEdit() != nullptr ? m_input.inputLineEdit()->text() : QString();
     const QString refusal = m_input.inputRefusal();
     if (kind == QAccessible::Description && !refusal.isEmpty())
         return refusal;
@@ -114,7 +114,8 @@ void* AccessibleInput::interface_cast(QAccessible::InterfaceType type)
     if (type == QAccessible::ValueInterface)
         return static_cast<QAccessibleValueInterface*>(this);
     if (type == QAccessible::TextInterface || type == QAccessible::EditableTextInterface) {
-        QAccessibleInterface* edit = lineEditInterface(*m_input.inputLineEdit());
+        QLineEdit* lineEdit = m_input.inputLineEdit(); // none in a combo box that is not editable
+        QAccessibleInterface* edit = lineEdit != nullptr ? lineEditInterface(*lineEdit) : nullptr;
         return edit != nullptr ? edit->interface_cast(type) : nullptr;
     }
     return QAccessibleWidget::interface_cast(type);

@@ -37,6 +37,7 @@ void FrequencySpinBox::setFollowingFrequencyUnit(bool follow)
 
 void FrequencySpinBox::adoptFrequencyUnit()
 {
+    interpretIfTextChanged(); // what is being typed counts in the unit that is shown
     const double unit = GuiBase::Instance().GetFrequencyUnit()->GetValue();
     setCurrentDisplayFormatIndex(static_cast<int>(unit) - UnitPrefix::BaseUnit);
 }

@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QTimer>
 
 void showLineEditText(QLineEdit& edit, const QString& text, bool isInUse)
 {
@@ -17,4 +18,19 @@ void showLineEditText(QLineEdit& edit, const QString& text, bool isInUse)
         edit.selectAll();
     else if (!wasAtEnd && isInUse)
         edit.setCursorPosition(cursor);
+}
+
+void selectAllOnFocus(QLineEdit& edit, Qt::FocusReason reason)
+{
+    if (reason == Qt::PopupFocusReason)
+        return;
+    auto* timer = new QTimer(&edit);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, &edit, &QLineEdit::selectAll);
+    QObject::connect(timer, &QTimer::timeout, timer, &QObject::deleteLater);
+    QObject::connect(&edit, &QLineEdit::textEdited, timer, [timer] {
+        timer->stop();
+        timer->deleteLater();
+    });
+    timer->start(0);
 }

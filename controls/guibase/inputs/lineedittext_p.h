@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <Qt>
+
 class QLineEdit;
 class QString;
 
 /// Shows the text without signals. A selection grows over all of it; otherwise the cursor stays
 /// where the user has put it (`isInUse`), unless it was at the end.
 void showLineEditText(QLineEdit& edit, const QString& text, bool isInUse);
+
+/// Selects all once the event loop runs, unless the user types before that: the next key would
+/// take that away. After a menu of the edit nothing is selected, because it may have pasted.
+void selectAllOnFocus(QLineEdit& edit, Qt::FocusReason reason);

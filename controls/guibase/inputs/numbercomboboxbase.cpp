@@ -236,6 +236,8 @@ void NumberComboBoxBase<T>::readItems()
 template <typename T>
 void NumberComboBoxBase<T>::selectClosestIndexForValue(T value)
 {
+    if (count() == 0)
+        return;
     if (takeItemsChanged())
         readItems();
     for (const StandIn& standIn : m_standIns)

@@ -547,6 +547,28 @@ private Q_SLOTS:
         QVERIFY(room(real) >= width(real));
         QCOMPARE(real.alignment(), Qt::AlignRight);
     }
+    void keepsWhatIsTypedAtOnce()
+    {
+        Int32SpinBox box;
+        box.setRange(0, 99);
+        activate(box);
+        QLineEdit* edit = box.inputLineEdit();
+        // Keys come before all is selected, and a menu has pasted.
+        for (const auto reason : {Qt::OtherFocusReason, Qt::PopupFocusReason}) {
+            edit->setText(QStringLiteral("5"));
+            QFocusEvent focus(QEvent::FocusIn, reason);
+            QCoreApplication::sendEvent(&box, &focus);
+            QTest::keyClick(&box, Qt::Key_1);
+            QCoreApplication::processEvents();
+            QTest::keyClick(&box, Qt::Key_2);
+            QCOMPARE(edit->text(), QStringLiteral("512"));
+        }
+        // The buttons step from what was typed.
+        box.setValue(99);
+        edit->setText(QStringLiteral("50"));
+        QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(box.width() - 5, 4));
+        QCOMPARE(box.value(), 51);
+    }
     void entersFrequencies()
     {
         FrequencySpinBox box;
@@ -561,6 +583,12 @@ private Q_SLOTS:
         QCOMPARE(entered("7.05"), Q_INT64_C(7050000));
         QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7.05 MHz"));
         QCOMPARE(entered("998999.999999"), Q_INT64_C(998999999999));
+        // What is being typed counts in the unit that is shown.
+        box.inputLineEdit()->setText(QStringLiteral("7.1"));
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
+        QCOMPARE(box.value(), Q_INT64_C(7100000));
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
+        entered("998999.999999");
         GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Giga);
         QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("998.999999999 GHz"));
         QCOMPARE(entered("5"), Q_INT64_C(5000000000));
