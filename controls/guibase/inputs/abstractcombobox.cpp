@@ -7,6 +7,7 @@
 #include <QAbstractItemModel>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -31,7 +32,7 @@ AbstractComboBox::AbstractComboBox(QWidget* parent)
     connect(this, &QComboBox::currentIndexChanged, this,
             qOverload<int>(&AbstractComboBox::interpret));
     // The same item chosen again shows its text without any other signal.
-    connect(this, &QComboBox::activated, this, &AbstractComboBox::interpretIfTextChanged);
+    connect(this, &QComboBox::activated, this, &AbstractComboBox::chooseItem);
     QTimer::singleShot(0, this, &AbstractComboBox::updateEdit);
 }
 
@@ -73,7 +74,11 @@ QLineEdit* AbstractComboBox::inputLineEdit() const
 
 void AbstractComboBox::interpret()
 {
+    const QPointer<AbstractComboBox> guard(this);
+    m_isCommitting = true;
     interpret(currentIndex());
+    if (guard)
+        m_isCommitting = false;
 }
 
 void AbstractComboBox::updateEdit()
@@ -149,13 +154,16 @@ bool AbstractComboBox::takeItemsChanged()
 
 void AbstractComboBox::keyPressEvent(QKeyEvent* event)
 {
+    const QPointer<AbstractComboBox> guard(this);
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
+        event->ignore();
         interpret();
+        if (!guard)
+            return;
         if (QLineEdit* edit = lineEdit())
             edit->selectAll();
-        event->ignore();
         Q_EMIT editingFinished();
         return;
     case Qt::Key_Up:

@@ -77,6 +77,10 @@ protected:
     /// Whether the text has changed since it was shown.
     bool isTextChanged() const;
     void interpretIfTextChanged();
+    /// Whether the text is committed by whoever typed it, instead of by a change of items.
+    bool isCommitting() const { return m_isCommitting; }
+    /// Takes the value of an item that the user has chosen.
+    virtual void chooseItem(int itemIndex) = 0;
     RefusalMark& refusalMark() { return m_mark; }
     void tellAccessibleValue();
 
@@ -99,6 +103,7 @@ private:
     DisplayFormatSwitch<AbstractComboBox> m_formatSwitch;
     QString m_specialValueText;
     RefusalMark m_mark;
+    bool m_isCommitting = false;
     QString m_shownText; ///< The text that showValue() has shown last.
     mutable bool m_areItemsKnown = false;
     QPointer<QAbstractItemModel> m_watchedModel;

@@ -6,6 +6,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
 #include <QTimer>
@@ -127,12 +128,15 @@ QSize AbstractSpinBox::minimumSizeHint() const
 
 void AbstractSpinBox::keyPressEvent(QKeyEvent* event)
 {
+    const QPointer<AbstractSpinBox> guard(this);
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        interpret();
-        selectAll();
         event->ignore();
+        interpret();
+        if (!guard)
+            return;
+        selectAll();
         Q_EMIT editingFinished();
         return;
     case Qt::Key_Up:

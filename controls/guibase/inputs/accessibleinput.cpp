@@ -77,15 +77,28 @@ QString AccessibleInput::text(QAccessible::Text kind) const
     return QAccessibleWidget::text(kind);
 }
 
+void AccessibleInput::setText(QAccessible::Text kind, const QString& text)
+{
+    QLineEdit* edit = m_input.inputLineEdit();
+    if (kind != QAccessible::Value || edit == nullptr) {
+        QAccessibleWidget::setText(kind, text);
+    } else if (widget()->isEnabled() && !edit->isReadOnly()) {
+        edit->setText(text);
+        Q_EMIT edit->editingFinished();
+    }
+}
+
 QAccessible::State AccessibleInput::state() const
 {
     QAccessible::State state = QAccessibleWidget::state();
+    const QLineEdit* edit = m_input.inputLineEdit();
+    state.readOnly = edit == nullptr || edit->isReadOnly();
+    state.editable = !state.readOnly;
     if (const auto* box = qobject_cast<QComboBox*>(object())) {
         state.expandable = true;
         state.hasPopup = true;
         state.expanded = isOpen(*box);
         state.collapsed = !state.expanded;
-        state.editable = true;
     }
     return state;
 }

@@ -20,6 +20,8 @@ public:
     ~AccessibleInput() override;
 
     QString text(QAccessible::Text kind) const override;
+    /// A value is committed at once.
+    void setText(QAccessible::Text kind, const QString& text) override;
     QAccessible::State state() const override;
     QStringList actionNames() const override;
     void doAction(const QString& name) override;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 /// Which format an input shows its value in, and which one the user typed last.
 ///
@@ -27,9 +28,12 @@ public:
         if (index == m_current)
             return;
         m_current = index;
+        const QPointer<QObject> guard(&m_input);
         Q_EMIT m_input.currentDisplayFormatIndexChanged(index);
-        setLastUsed(index);
-        m_input.updateEdit();
+        if (guard)
+            setLastUsed(index);
+        if (guard)
+            m_input.updateEdit();
     }
 
     void setLastUsed(int index)
@@ -37,8 +41,10 @@ public:
         if (index == m_lastUsed)
             return;
         m_lastUsed = index;
+        const QPointer<QObject> guard(&m_input);
         Q_EMIT m_input.lastUsedDisplayFormatIndexChanged(index);
-        switchIfAutomatic();
+        if (guard)
+            switchIfAutomatic();
     }
 
     void setAutomatic(bool automatic)

@@ -6,6 +6,8 @@
 
 #include <guibase/services/guibase.h>
 
+#include <QPointer>
+
 namespace SpinBoxes {
 
 FrequencySpinBox::FrequencySpinBox(QWidget* parent)
@@ -35,9 +37,20 @@ void FrequencySpinBox::setFollowingFrequencyUnit(bool follow)
     adoptFrequencyUnit();
 }
 
+void FrequencySpinBox::interpret()
+{
+    const QPointer<QObject> guard(this);
+    Int64SpinBox::interpret();
+    if (guard && m_isUnitPending && isFollowingFrequencyUnit())
+        adoptFrequencyUnit();
+}
+
 void FrequencySpinBox::adoptFrequencyUnit()
 {
-    interpretIfTextChanged(); // what is being typed counts in the unit that is shown
+    // What is being typed counts in the unit that is shown.
+    m_isUnitPending = isTextChanged();
+    if (m_isUnitPending)
+        return;
     const double unit = GuiBase::Instance().GetFrequencyUnit()->GetValue();
     setCurrentDisplayFormatIndex(static_cast<int>(unit) - UnitPrefix::BaseUnit);
 }

@@ -14,7 +14,8 @@ namespace SpinBoxes {
 ///
 /// It has four formats: Hz, kHz, MHz and GHz with the indexes 0 to 3. The current one follows
 /// GuiBase::GetFrequencyUnit(), and a bare number counts in its unit; a unit that is typed
-/// ("14225k", "1,2 GHz") counts for this number only, unless automatic switching is on. At first
+/// ("14225k", "1,2 GHz") counts for this number only, unless automatic switching is on. While a
+/// number is typed, a new unit waits until it is committed. At first
 /// the range is 0 to 999,999,999,999 Hz and the single step 1 kHz.
 class GUIBASE_EXPORT FrequencySpinBox : public Int64SpinBox
 {
@@ -30,10 +31,13 @@ public:
     bool isFollowingFrequencyUnit() const { return m_follower != nullptr; }
     void setFollowingFrequencyUnit(bool follow);
 
+    void interpret() override;
+
 private:
     void adoptFrequencyUnit();
 
     std::unique_ptr<SelectionFollower> m_follower;
+    bool m_isUnitPending = false;
 };
 
 } // namespace SpinBoxes

@@ -6,6 +6,7 @@
 #include "typedvalue_p.h"
 
 #include <QLineEdit>
+#include <QPointer>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -46,7 +47,10 @@ void NumberComboBoxBase<T>::setValue(T value)
     }
     m_value = value;
     refusalMark().clear();
+    const QPointer<QObject> guard(this);
     switchDisplayFormatIfAutomatic();
+    if (!guard)
+        return;
     showValue();
     tellAccessibleValue();
     valueChanged(value);
@@ -79,17 +83,21 @@ void NumberComboBoxBase<T>::setRange(T first, T second)
         return;
     m_minimum = first;
     m_maximum = second;
+    const QPointer<QObject> guard(this);
     if (minimumIsNew) {
         if (m_value < m_minimum)
             moveTo(hasSpecialValue() ? m_specialValue : m_minimum);
-        minimumChanged(m_minimum);
+        if (guard)
+            minimumChanged(m_minimum);
     }
-    if (maximumIsNew) {
+    if (guard && maximumIsNew) {
         if (m_maximum < m_value)
             moveTo(m_maximum);
-        maximumChanged(m_maximum);
+        if (guard)
+            maximumChanged(m_maximum);
     }
-    rangeChanged(m_minimum, m_maximum);
+    if (guard)
+        rangeChanged(m_minimum, m_maximum);
 }
 
 template <typename T>
@@ -205,15 +213,32 @@ void NumberComboBoxBase<T>::interpret(int itemIndex)
     const QString text = lineEdit()->displayText();
     const Reading reading = readText(text);
     // The text that goes with the last item is nobody's input.
-    const bool isInput = wasChanged && !(itemIndex < 0 && text.isEmpty() && !hasFocus());
+    const bool isInput = wasChanged && (itemIndex >= 0 || !text.isEmpty() || isCommitting());
     const QString refusal = isInput ? m_formats.refusal(text, reading) : QString();
+    const QPointer<QObject> guard(this);
     if (wasChanged) {
         refusalMark().clear();
         setValue(reading.value);
     }
-    setLastUsedDisplayFormatIndex(reading.index);
+    if (guard)
+        setLastUsedDisplayFormatIndex(reading.index);
+    if (!guard)
+        return;
     showValue();
     refusalMark().show(refusal);
+}
+
+template <typename T>
+void NumberComboBoxBase<T>::chooseItem(int itemIndex)
+{
+    if (isTextChanged()) {
+        interpret(itemIndex);
+        return;
+    }
+    // The value may differ from the item's although both are shown by the same text.
+    const Reading reading = readText(itemText(itemIndex));
+    if (reading.outcome == Reading::Read)
+        setValue(reading.value);
 }
 
 template <typename T>

@@ -94,6 +94,7 @@ protected:
     typename DisplayFormatList<T>::Pairs buildDisplayFormatIndexPairs() const;
 
     bool isReadable(const QString& text) const override;
+    void chooseItem(int itemIndex) override;
 
 private:
     struct StandIn

@@ -9,6 +9,7 @@
 #include <jtbase/datetime.h>
 
 #include <QLineEdit>
+#include <QPointer>
 
 namespace SpinBoxes {
 
@@ -30,33 +31,51 @@ QString patternOf(const ValueDisplayFormatBase<QDateTime>& format)
 
 QDateTimeSpinBox::QDateTimeSpinBox(QWidget* parent)
     : SpinBoxBase<QDateTime>(parent)
+    , m_isUtc(isUtcChosen())
     , m_follower(std::make_unique<SelectionFollower>(GuiBase::Instance().GetTimeZone(),
-                                                     [this] { updateEdit(); }))
+                                                     [this] { adoptTimeZone(); }))
 {}
 
 QDateTimeSpinBox::~QDateTimeSpinBox() = default;
 
-QDateTime QDateTimeSpinBox::inChosenZone(const QDateTime& time)
+void QDateTimeSpinBox::adoptTimeZone()
 {
-    return isUtcChosen() ? time.toUTC() : time.toLocalTime();
+    // What is being typed counts in the zone that is shown.
+    if (isTextChanged())
+        return;
+    m_isUtc = isUtcChosen();
+    updateEdit();
+}
+
+void QDateTimeSpinBox::interpret()
+{
+    const QPointer<QObject> guard(this);
+    SpinBoxBase<QDateTime>::interpret();
+    if (guard && m_isUtc != isUtcChosen())
+        adoptTimeZone();
+}
+
+QDateTime QDateTimeSpinBox::inShownZone(const QDateTime& time) const
+{
+    return m_isUtc ? time.toUTC() : time.toLocalTime();
 }
 
 QString QDateTimeSpinBox::textFromValue(QDateTime value) const
 {
-    return SpinBoxBase<QDateTime>::textFromValue(inChosenZone(value));
+    return SpinBoxBase<QDateTime>::textFromValue(inShownZone(value));
 }
 
 QDateTimeSpinBox::Reading QDateTimeSpinBox::readText(const QString& text) const
 {
     for (int index = -1; index < countDisplayFormats(); ++index) {
         if (auto* format = dynamic_cast<QDateTimeDisplayFormat*>(displayFormats().current(index)))
-            format->setPresentTime(inChosenZone(value()));
+            format->setPresentTime(inShownZone(value()));
     }
     Reading reading = SpinBoxBase<QDateTime>::readText(text);
-    // Formats of the application's own class know nothing of the chosen zone.
+    // Formats of the application's own class know nothing of the zone.
     const auto* format = displayFormats().current(reading.index);
-    if (reading.outcome == Reading::Read && reading.value.timeSpec() == Qt::LocalTime &&
-        isUtcChosen() && dynamic_cast<const QDateTimeDisplayFormat*>(format) == nullptr)
+    if (reading.outcome == Reading::Read && reading.value.timeSpec() == Qt::LocalTime && m_isUtc &&
+        dynamic_cast<const QDateTimeDisplayFormat*>(format) == nullptr)
         reading.value.setTimeSpec(Qt::UTC);
     return reading;
 }
@@ -69,7 +88,7 @@ void QDateTimeSpinBox::stepBy(int steps)
     const int cursor = edit->cursorPosition();
     const ValueDisplayFormatBase<QDateTime>& format = *currentDisplayFormat();
     const auto range = format.bareRange(text);
-    const QDateTime time = inChosenZone(value());
+    const QDateTime time = inShownZone(value());
     const DateTimeSections::Section section =
         DateTimeSections::at(text.mid(range.start, range.end - range.start), cursor - range.start,
                              time, patternOf(format), format.locale());

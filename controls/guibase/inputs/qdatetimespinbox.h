@@ -14,7 +14,8 @@ namespace SpinBoxes {
 /// (GuiBase::GetTimeZone()).
 ///
 /// A typed text without a zone is taken for that zone, one with a zone for its own; what the format
-/// does not show stays as it is (see QDateTimeDisplayFormat::presentTime()). Steps change
+/// does not show stays as it is (see QDateTimeDisplayFormat::presentTime()). While a text is typed,
+/// a new choice of the zone waits until it is committed. Steps change
 /// the section (year, minute, ...) at the cursor, in the chosen zone.
 class GUIBASE_EXPORT QDateTimeSpinBox : public SpinBoxBase<QDateTime>
 {
@@ -24,6 +25,7 @@ public:
     ~QDateTimeSpinBox() override;
 
     void stepBy(int steps) override;
+    void interpret() override;
 
 protected:
     Reading readText(const QString& text) const override;
@@ -31,8 +33,10 @@ protected:
     void stepAtCursor(int steps) override;
 
 private:
-    static QDateTime inChosenZone(const QDateTime& time);
+    void adoptTimeZone();
+    QDateTime inShownZone(const QDateTime& time) const;
 
+    bool m_isUtc; ///< The zone that is shown.
     std::unique_ptr<SelectionFollower> m_follower;
 };
 

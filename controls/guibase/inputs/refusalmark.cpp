@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "refusalmark.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QWidget>
 
@@ -17,7 +18,7 @@ void RefusalMark::show(const QString& reason)
     m_reason = reason;
     // The text may hold what was typed, which is not to be taken for markup.
     m_host.setToolTip(QStringLiteral("<qt>%1</qt>").arg(reason.toHtmlEscaped()));
-    m_host.update();
+    update();
 }
 
 void RefusalMark::clear()
@@ -27,7 +28,14 @@ void RefusalMark::clear()
     if (m_host.toolTip() == QStringLiteral("<qt>%1</qt>").arg(m_reason.toHtmlEscaped()))
         m_host.setToolTip(m_formerToolTip);
     m_reason.clear();
+    update();
+}
+
+void RefusalMark::update()
+{
     m_host.update();
+    QAccessibleEvent event(&m_host, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&event);
 }
 
 void RefusalMark::paint() const

@@ -31,6 +31,8 @@ public:
     static QColor color(const QPalette& palette);
 
 private:
+    void update();
+
     QWidget& m_host;
     QString m_reason;
     QString m_formerToolTip;

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QLineEdit>
+#include <QPointer>
 
 #include <algorithm>
 #include <cmath>
@@ -92,7 +93,10 @@ void SpinBoxBase<T>::setValue(T value)
     }
     m_value = value;
     refusalMark().clear();
+    const QPointer<QObject> guard(this);
     switchDisplayFormatIfAutomatic();
+    if (!guard)
+        return;
     updateEdit();
     tellAccessibleValue();
     valueChanged(value);
@@ -125,17 +129,21 @@ void SpinBoxBase<T>::setRange(T first, T second)
     m_maximum = second;
     updateGeometry();
     updateButtons();
+    const QPointer<QObject> guard(this);
     if (minimumIsNew) {
         if (m_value < m_minimum)
             moveToBound(m_minimum);
-        minimumChanged(m_minimum);
+        if (guard)
+            minimumChanged(m_minimum);
     }
-    if (maximumIsNew) {
+    if (guard && maximumIsNew) {
         if (m_maximum < m_value)
             moveToBound(m_maximum);
-        maximumChanged(m_maximum);
+        if (guard)
+            maximumChanged(m_maximum);
     }
-    rangeChanged(m_minimum, m_maximum);
+    if (guard)
+        rangeChanged(m_minimum, m_maximum);
 }
 
 template <typename T>
@@ -247,14 +255,18 @@ void SpinBoxBase<T>::stepBeyondLimit(bool up)
 template <typename T>
 QString SpinBoxBase<T>::refusalOf(const QString& text, const Reading& reading) const
 {
-    if (reading.outcome == Reading::Read) {
-        if (correctionMode() != QAbstractSpinBox::CorrectToPreviousValue ||
-            isInRange(normalized(reading.value)))
-            return {};
-        return QCoreApplication::translate("SpinBox", "Enter a value from %1 to %2.")
-            .arg(textFromValue(m_minimum), textFromValue(m_maximum));
-    }
-    return m_formats.refusal(text, reading);
+    return reading.outcome == Reading::Read ? refusalOf(reading.value)
+                                            : m_formats.refusal(text, reading);
+}
+
+template <typename T>
+QString SpinBoxBase<T>::refusalOf(const T& value) const
+{
+    if (correctionMode() != QAbstractSpinBox::CorrectToPreviousValue ||
+        isInRange(normalized(value)))
+        return {};
+    return QCoreApplication::translate("SpinBox", "Enter a value from %1 to %2.")
+        .arg(textFromValue(m_minimum), textFromValue(m_maximum));
 }
 
 template <typename T>
@@ -272,11 +284,15 @@ void SpinBoxBase<T>::interpret()
         }
     }
     const QString refusal = wasChanged ? refusalOf(text, reading) : QString();
+    const QPointer<QObject> guard(this);
     if (wasChanged) {
         refusalMark().clear();
         setValue(reading.value);
     }
-    setLastUsedDisplayFormatIndex(reading.index);
+    if (guard)
+        setLastUsedDisplayFormatIndex(reading.index);
+    if (!guard)
+        return;
     updateEdit();
     refusalMark().show(refusal);
 }
@@ -315,6 +331,11 @@ bool SpinBoxBase<T>::setInputValue(const QVariant& value)
 {
     const std::optional<T> typed = TypedInputVariant::fromVariant<T>(value);
     if (!typed || isReadOnly() || !isEnabled())
+        return false;
+    const QString refusal = refusalOf(*typed);
+    refusalMark().clear();
+    refusalMark().show(refusal);
+    if (!refusal.isEmpty())
         return false;
     setValue(*typed);
     return true;

@@ -97,6 +97,7 @@ protected:
 private:
     void moveToBound(const T& bound);
     QString refusalOf(const QString& text, const Reading& reading) const;
+    QString refusalOf(const T& value) const;
     T normalized(T value) const;
 
     T m_value;

@@ -23,6 +23,7 @@ public:
     /// Sets the value as the user would; false, with nothing changed, for a variant that the type
     /// cannot hold exactly (integers), or at all.
     virtual bool setInputValue(const QVariant& value) = 0;
+    /// Null for a combo box that is not editable any more.
     virtual QLineEdit* inputLineEdit() const = 0;
     /// Why the last text was refused; empty when it was not.
     virtual QString inputRefusal() const = 0;

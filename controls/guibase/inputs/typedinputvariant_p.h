@@ -36,6 +36,9 @@ std::optional<T> integerFromReal(double value)
     // Both bounds are powers of two, and as such exact in a double.
     const double beyond = std::ldexp(1.0, std::numeric_limits<T>::digits);
     const double lowest = std::is_signed_v<T> ? -beyond : 0.0;
+    // The highest number as a double, which is all that some assistive technologies can tell.
+    if (std::numeric_limits<T>::digits > std::numeric_limits<double>::digits && value == beyond)
+        return std::numeric_limits<T>::max();
     if (!(value >= lowest && value < beyond) || std::trunc(value) != value)
         return std::nullopt;
     return static_cast<T>(value);

@@ -450,9 +450,19 @@ private Q_SLOTS:
             interface->valueInterface()->setCurrentValue(bad);
             QCOMPARE(interface->valueInterface()->currentValue(), QVariant(highest - 1));
         }
-        box.inputLineEdit()->setText(QStringLiteral("x"));
-        box.interpret();
+        interface->valueInterface()->setCurrentValue(static_cast<double>(highest));
+        QCOMPARE(box.value(), highest);
+        interface->setText(QAccessible::Value, QStringLiteral("7"));
+        QCOMPARE(box.value(), 7U);
+        interface->setText(QAccessible::Value, QStringLiteral("x"));
+        QVERIFY(!box.inputRefusal().isEmpty());
         QCOMPARE(interface->text(QAccessible::Description), box.inputRefusal());
+        box.setMaximum(10);
+        interface->valueInterface()->setCurrentValue(20);
+        QVERIFY(interface->text(QAccessible::Description).contains(QStringLiteral("to 10")));
+        box.setReadOnly(true);
+        interface->setText(QAccessible::Value, QStringLiteral("8"));
+        QVERIFY(interface->state().readOnly && box.value() == 7U);
         Int8SpinBox small;
         QCOMPARE(accessible(small)->valueInterface()->minimumValue(), QVariant(qlonglong(-128)));
         QCOMPARE(accessible(small)->valueInterface()->minimumStepSize(), QVariant(qlonglong(1)));
@@ -487,7 +497,11 @@ private Q_SLOTS:
         edit->setCursorPosition(0);
         QTest::keyClick(&box, Qt::Key_Up, Qt::ControlModifier);
         QCOMPARE(edit->text(), QStringLiteral("2025-06-22 at 12:01:00"));
+        // What is being typed counts in the zone that is shown.
+        edit->setText(QStringLiteral("2025-06-22 at 12:00:30"));
         zone.SetValue(Trov::DateTime::Local_TimeZone);
+        QTest::keyClick(&box, Qt::Key_Return);
+        QCOMPARE(box.value(), QDateTime(QDate(2025, 6, 22), QTime(12, 0, 30), Qt::UTC));
         enter(box, QStringLiteral("2025-06-22 at 12:02:00"));
         QCOMPARE(box.value(), QDateTime(QDate(2025, 6, 22), QTime(12, 2)));
         enter(box, QStringLiteral("2025-02-30 at 12:02:00"));
@@ -519,6 +533,42 @@ private Q_SLOTS:
             box.stepBy(1);
             QCOMPARE(box.inputLineEdit()->text(), QString::fromLatin1(text));
         }
+    }
+    void survivesItsEndInItsSignals()
+    {
+        const std::function<void(Int32SpinBox&)> changes[] = {
+            [](auto& box) { box.setRange(50, 40); },
+            [](auto& box) { box.setValue(5); },
+            [](auto& box) { box.setCurrentDisplayFormatIndex(1); },
+            [](auto& box) {
+                box.inputLineEdit()->setText(QStringLiteral("3 km"));
+                box.interpret();
+            },
+        };
+        std::unique_ptr<Int32SpinBox> box;
+        const auto end = [&box] { box.reset(); };
+        const std::function<void()> triggers[] = {
+            [&] { connect(box.get(), &Int32SpinBox::valueChanged, this, end); },
+            [&] { connect(box.get(), &Int32SpinBox::minimumChanged, this, end); },
+            [&] { connect(box.get(), &Int32SpinBox::maximumChanged, this, end); },
+            [&] { connect(box.get(), &Int32SpinBox::rangeChanged, this, end); },
+            [&] { connect(box.get(), &Int32SpinBox::currentDisplayFormatIndexChanged, this, end); },
+            [&] {
+                connect(box.get(), &Int32SpinBox::lastUsedDisplayFormatIndexChanged, this, end);
+            },
+        };
+        int ends = 0;
+        for (const auto& trigger : triggers) {
+            for (const auto& change : changes) {
+                box = std::make_unique<Int32SpinBox>();
+                box->addDisplayFormat(kiloFormat());
+                box->setAutoSwitchDisplayFormat(true);
+                trigger();
+                change(*box);
+                ends += box == nullptr ? 1 : 0;
+            }
+        }
+        QCOMPARE(ends, 10);
     }
     void isWideEnoughForAllValues()
     {
@@ -586,7 +636,9 @@ private Q_SLOTS:
         // What is being typed counts in the unit that is shown.
         box.inputLineEdit()->setText(QStringLiteral("7.1"));
         GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
-        QCOMPARE(box.value(), Q_INT64_C(7100000));
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7.1"));
+        QTest::keyClick(&box, Qt::Key_Return);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7100 kHz"));
         GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
         entered("998999.999999");
         GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Giga);
