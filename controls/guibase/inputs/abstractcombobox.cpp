@@ -26,6 +26,7 @@ AbstractComboBox::AbstractComboBox(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     QLineEdit* edit = lineEdit();
     edit->setValidator(nullptr);
+    edit->setMaxLength(TypedInput::longestText + 1); // A text that is cut is another number.
     edit->setAlignment(Qt::AlignRight);
     connect(edit, &QLineEdit::editingFinished, this, qOverload<>(&AbstractComboBox::interpret));
     connect(edit, &QLineEdit::textEdited, this, &AbstractComboBox::clearMarkIfReadable);

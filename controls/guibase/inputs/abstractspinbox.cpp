@@ -26,6 +26,7 @@ AbstractSpinBox::AbstractSpinBox(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     QLineEdit* edit = lineEdit();
     edit->setValidator(nullptr);
+    edit->setMaxLength(TypedInput::longestText + 1); // A text that is cut is another number.
     connect(edit, &QLineEdit::editingFinished, this, &AbstractSpinBox::interpret);
     connect(edit, &QLineEdit::textEdited, this, &AbstractSpinBox::clearMarkIfReadable);
     QTimer::singleShot(0, this, &AbstractSpinBox::updateEdit);

@@ -4,6 +4,7 @@
 #include "integralnumberdisplayformat.h"
 #include "qdatetimedisplayformat.h"
 #include "realnumberdisplayformat.h"
+#include "typedinput.h"
 
 #include <jtbase/errorhandler.h>
 
@@ -97,6 +98,8 @@ template <typename T>
 typename DisplayFormatList<T>::Reading
 DisplayFormatList<T>::read(const QString& text, int currentIndex, const T& currentValue) const
 {
+    if (text.size() > TypedInput::longestText)
+        return {currentValue, currentIndex, Reading::Unreadable};
     const Pairs pairs = trialOrder(currentIndex);
     for (const auto& [format, index] : pairs) {
         const auto step = [&, tried = format] { return readText(*tried, text); };

@@ -37,6 +37,28 @@ QString QDateTimeDisplayFormat::refusalReason(const QString&) const
         .arg(textFromValue(m_presentTime.isValid() ? m_presentTime : QDateTime::currentDateTime()));
 }
 
+std::vector<QDateTime> QDateTimeDisplayFormat::widestValues(const QDateTime& minimum,
+                                                            const QDateTime& maximum) const
+{
+    constexpr int lastDay = 28;
+    const QTime time(22, 58, 58, 888);
+    std::vector<QDateTime> values{minimum, maximum};
+    int longest = 1;
+    for (int day = 2; day <= 7; ++day) {
+        if (locale().dayName(day).size() > locale().dayName(longest).size())
+            longest = day;
+    }
+    const int firstYear = minimum.date().year();
+    for (int month = 0; month < 24; ++month) {
+        QDate date(firstYear + month / 12, month % 12 + 1, lastDay);
+        date = date.addDays(-((date.dayOfWeek() - longest + 7) % 7));
+        const QDateTime value(date, time, Qt::UTC);
+        if (value > minimum && value < maximum)
+            values.push_back(value);
+    }
+    return values;
+}
+
 QDateTime QDateTimeDisplayFormat::shownPresentTime() const
 {
     const QDateTime shown =

@@ -16,6 +16,9 @@ public:
     QDateTime valueFromText(const QString& text, bool* ok) const override;
     QString textFromValue(QDateTime value) const override;
     QString refusalReason(const QString& text) const override;
+    /// A day of each month, with the longest name of a weekday.
+    std::vector<QDateTime> widestValues(const QDateTime& minimum,
+                                        const QDateTime& maximum) const override;
 
     /// As QLocale::toString(QDateTime, QString) takes it; null (at first) means the long format of
     /// the locale.
