@@ -151,9 +151,10 @@ std::optional<HeaderState> HeaderState::fromBytes(const QByteArray& bytes,
     const QHash<qint32, qint32> hiddenSizes = readHiddenSizes(walk);
     walk.number(0, maximumLength);
     const qint32 stored = walk.count();
-    walk.flags(5);                  // movable, clickable, highlight, stretch last, cascading
-    walk.number(0, stored);         // sections that stretch
-    walk.number(0, stored);         // sections that follow their contents
+    walk.flags(5); // movable, clickable, highlight, stretch last, cascading
+    // Sections that stretch or follow their contents; the toolkit miscounts hidden ones.
+    walk.number();
+    walk.number();
     walk.number(-1, maximumLength); // default size
     walk.number(-1, maximumLength); // minimum size
     walk.number();                  // alignment
