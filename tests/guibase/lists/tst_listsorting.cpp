@@ -56,11 +56,11 @@ QString randomText(RandomBytes& random, int kind)
     }
 }
 
-QString firstTexts(const QTreeWidget& list)
+QString columnTexts(const QTreeWidget& list, int column = 0)
 {
     QString texts;
     for (int i = 0; i < list.topLevelItemCount(); ++i)
-        texts += list.topLevelItem(i)->text(0);
+        texts += list.topLevelItem(i)->text(column);
     return texts;
 }
 
@@ -94,281 +94,248 @@ class ListSorting : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void sortsAsStated();
-    void compareFunctions();
-    void keepsWhatTheUserSees();
-    void subclassesMayCompare();
-    void sortsOnlyWhenItMay();
-    void callbackDecides();
-    void headerClicks();
-    void arrivalsGoToTheirPlaces();
-    void rowsPlacedByHandStay();
-};
-
-void ListSorting::sortsAsStated()
-{
-    RandomBytes random("sorted lists");
-    const std::array<SortListView::CompareFunction, 5> functions{
-        nullptr, SortListView::_compStandardString, SortListView::_compStandardNumeric,
-        SortListView::_compNumericWithSuffix, byLength};
-    for (int round = RandomBytes::rounds(300); round > 0; --round) {
-        const auto function = functions[std::size_t(random.below(int(functions.size())))];
-        const int textKind = random.below(4);
-        const int keyShare = random.below(3); // none, some, all
-        const auto order = random.below(2) == 0 ? Qt::AscendingOrder : Qt::DescendingOrder;
+    void sortsAsStated()
+    {
+        RandomBytes random("sorted lists");
+        const std::array<SortListView::CompareFunction, 5> functions{
+            nullptr, SortListView::_compStandardString, SortListView::_compStandardNumeric,
+            SortListView::_compNumericWithSuffix, byLength};
+        for (int round = RandomBytes::rounds(300); round > 0; --round) {
+            const auto function = functions[std::size_t(random.below(int(functions.size())))];
+            const int textKind = random.below(4);
+            const int keyShare = random.below(3); // none, some, all
+            const auto order = random.below(2) == 0 ? Qt::AscendingOrder : Qt::DescendingOrder;
+            SortListView list;
+            list.setColumnCount(2);
+            list.SetCompareFunctionLength(1);
+            list.SetCompareFunction(0, function);
+            list.show();
+            std::vector<Row> rows;
+            const auto addRows = [&](int count) {
+                for (; count > 0; --count) {
+                    const QString key =
+                        random.below(2) < keyShare ? randomText(random, 0) : QString();
+                    rows.push_back(
+                        {randomText(random, textKind), key, QString::number(rows.size()) + u' '});
+                    auto* const item =
+                        new SortListViewItem(&list, rows.back().text, rows.back().number);
+                    item->SetColCount(1);
+                    item->SetSortKey(0, key);
+                }
+            };
+            const auto isSorted = [&](Qt::SortOrder direction) {
+                std::stable_sort(rows.begin(), rows.end(), [&](const Row& a, const Row& b) {
+                    const bool isUp = direction == Qt::AscendingOrder;
+                    return isUp ? isLess(function, a, b) : isLess(function, b, a);
+                });
+                QString numbers;
+                for (const Row& row : rows)
+                    numbers += row.number;
+                return columnTexts(list, 1) == numbers;
+            };
+            addRows(random.below(60));
+            list.sortByColumn(0, order);
+            QVERIFY(isSorted(order));
+            addRows(1 + random.below(10));
+            QCoreApplication::processEvents();
+            QVERIFY(isSorted(order));
+            list.sortByColumn(0, Qt::AscendingOrder);
+            QVERIFY(isSorted(Qt::AscendingOrder));
+            list.QTreeWidget::sortItems(0, order); // without keys that were read before
+            QVERIFY(isSorted(order));
+        }
+    }
+    void compareFunctions()
+    {
+        struct
+        {
+            SortListView::CompareFunction function;
+            QString a;
+            QString b;
+            int expected; ///< Sign of a against b.
+        } const cases[] = {
+            {SortListView::_compStandardString, QStringLiteral("b"), QStringLiteral("A"), 1},
+            {SortListView::_compStandardNumeric, QStringLiteral("10"), QStringLiteral("9"), 1},
+            {SortListView::_compStandardNumeric, QStringLiteral("9 Hz"), QStringLiteral("10"), 0},
+            {SortListView::_compNumericWithSuffix, QStringLiteral("3"), QStringLiteral("12.5 k"),
+             -1},
+            {SortListView::_compNumericWithSuffix, QStringLiteral("MHz"), QStringLiteral("3"), 0},
+            {SortListView::_compNumericWithSuffix, QStringLiteral(" 4"), QStringLiteral("3"), 0},
+        };
+        SortListView list;
+        list.SetCompareFunctionLength(1);
+        for (const auto& [function, a, b, expected] : cases) {
+            list.SetCompareFunction(0, function);
+            list.hide();
+            QCOMPARE(list.SortFunction(0, a, b), 0);
+            list.show();
+            const int result = list.SortFunction(0, a, b);
+            QCOMPARE((result > 0) - (result < 0), expected);
+        }
+    }
+    void keepsWhatTheUserSees()
+    {
+        SortListView list;
+        list.setColumnCount(1);
+        list.resize(200, 150);
+        list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+        for (int i = 0; i < 200; ++i)
+            new SortListViewItem(&list, QString::number(i * 7919 % 1000));
+        list.show();
+        QCoreApplication::processEvents();
+        QTreeWidgetItem* const current = list.topLevelItem(50);
+        new SortListViewItem(current, QStringLiteral("child"));
+        list.setCurrentItem(current);
+        list.topLevelItem(3)->setSelected(true);
+        current->setExpanded(true);
+        list.topLevelItem(7)->setHidden(true);
+        const QTreeWidgetItem* const hidden = list.topLevelItem(7);
+        list.verticalScrollBar()->setValue(20);
+        const QList<QTreeWidgetItem*> selected = list.selectedItems();
+        list.setSorting(0, Qt::DescendingOrder);
+        QCoreApplication::processEvents();
+        QVERIFY(list.indexOfTopLevelItem(current) != 50);
+        QCOMPARE(list.currentItem(), current);
+        const QList<QTreeWidgetItem*> after = list.selectedItems();
+        QCOMPARE(QSet<QTreeWidgetItem*>(after.begin(), after.end()),
+                 QSet<QTreeWidgetItem*>(selected.begin(), selected.end()));
+        QVERIFY(current->isExpanded() && hidden->isHidden());
+        QCOMPARE(list.verticalScrollBar()->value(), 20);
+        // Arrivals above do not push the others down.
+        for (const auto mode :
+             {QAbstractItemView::ScrollPerItem, QAbstractItemView::ScrollPerPixel}) {
+            list.setVerticalScrollMode(mode);
+            list.verticalScrollBar()->setValue(50);
+            const QTreeWidgetItem* const top = list.itemAt(QPoint(0, 0));
+            const QRect place = list.visualItemRect(top);
+            const QString text(mode == QAbstractItemView::ScrollPerItem ? u'y' : u'z');
+            fill(list, text.repeated(4));
+            QTRY_COMPARE(list.topLevelItem(3)->text(0), text);
+            QCOMPARE(list.visualItemRect(top), place);
+        }
+    }
+    void subclassesMayCompare()
+    {
+        class Backwards : public SortListViewItem
+        {
+        public:
+            using SortListViewItem::SortListViewItem;
+            bool operator<(const QTreeWidgetItem& other) const override
+            {
+                return other.text(0) < text(0);
+            }
+        };
+        SortListView list;
+        list.setColumnCount(1);
+        for (const QChar letter : QStringLiteral("bca"))
+            new Backwards(&list, QString(letter));
+        list.show();
+        QCOMPARE(columnTexts(list), QStringLiteral("cba"));
+        // Rows of another kind are compared by their texts.
+        list.addTopLevelItem(new QTreeWidgetItem({QStringLiteral("d")}));
+        fill(list, QStringLiteral("e"));
+        list.setSorting(0, false);
+        list.setSorting(0, true);
+        QCOMPARE(list.topLevelItemCount(), 5);
+        delete list.takeTopLevelItem(0);
+    }
+    void sortsOnlyWhenItMay()
+    {
+        SortListView list;
+        list.setColumnCount(1);
+        fill(list, QStringLiteral("bca"));
+        list.setSorting(0, Qt::DescendingOrder);
+        list.sortItems(0, Qt::AscendingOrder);
+        QCOMPARE(columnTexts(list), QStringLiteral("bca"));
+        list.show();
+        QCOMPARE(columnTexts(list), QStringLiteral("cba"));
+        list.AllowSort(false);
+        list.setSorting(0, true);
+        list.hide();
+        list.show();
+        QCOMPARE(columnTexts(list), QStringLiteral("cba"));
+        list.AllowSort(true);
+        for (const int column : {-1, 1, 4000}) {
+            list.setSorting(column, false);
+            QCOMPARE(columnTexts(list), QStringLiteral("cba"));
+        }
+        QCOMPARE(list.GetColumnSortingOrder(), Qt::DescendingOrder);
+        list.setSorting(0, true);
+        QCOMPARE(columnTexts(list), QStringLiteral("abc"));
+    }
+    void callbackDecides()
+    {
+        Callback sorts(true);
+        Callback declines(false);
         SortListView list;
         list.setColumnCount(2);
         list.SetCompareFunctionLength(1);
-        list.SetCompareFunction(0, function);
+        list.SetCompareFunction(0, SortListView::_compStandardString);
+        fill(list, QStringLiteral("bca"));
+        list.SetSortCallback(&sorts);
         list.show();
-        std::vector<Row> rows;
-        const auto addRows = [&](int count) {
-            for (; count > 0; --count) {
-                const QString key = random.below(2) < keyShare ? randomText(random, 0) : QString();
-                rows.push_back({randomText(random, textKind), key, QString::number(rows.size())});
-                auto* const item =
-                    new SortListViewItem(&list, rows.back().text, rows.back().number);
-                item->SetColCount(1);
-                item->SetSortKey(0, key);
-            }
-        };
-        const auto isSorted = [&](Qt::SortOrder direction) {
-            std::stable_sort(rows.begin(), rows.end(), [&](const Row& a, const Row& b) {
-                return direction == Qt::AscendingOrder ? isLess(function, a, b)
-                                                       : isLess(function, b, a);
-            });
-            for (int i = 0; i < list.topLevelItemCount(); ++i) {
-                if (list.topLevelItem(i)->text(1) != rows[std::size_t(i)].number)
-                    return false;
-            }
-            return list.topLevelItemCount() == int(rows.size());
-        };
-        addRows(random.below(60));
-        list.sortByColumn(0, order);
-        QVERIFY(isSorted(order));
-        addRows(1 + random.below(10));
-        QCoreApplication::processEvents();
-        QVERIFY(isSorted(order));
-        list.sortByColumn(0, Qt::AscendingOrder);
-        QVERIFY(isSorted(Qt::AscendingOrder));
-        list.QTreeWidget::sortItems(0, order); // without keys that were read before
-        QVERIFY(isSorted(order));
+        list.setSorting(1, false);
+        QCOMPARE(sorts.calls, QStringList({QStringLiteral("0+"), QStringLiteral("1-")}));
+        list.SetSortCallback(&declines);
+        QVERIFY(!list.HasSortFunction(0));
+        list.setSorting(0, true);
+        QCOMPARE(declines.calls, QStringList{QStringLiteral("0+")});
+        QCOMPARE(columnTexts(list), QStringLiteral("bca"));
+        list.SetSortCallback(nullptr);
+        list.slotHeaderClicked(1); // the direction stays for another column
+        QCOMPARE(list.header()->sortIndicatorSection(), 1);
+        list.slotHeaderClicked(0);
+        QCOMPARE(columnTexts(list), QStringLiteral("abc"));
+        list.slotHeaderClicked(0);
+        QCOMPARE(columnTexts(list), QStringLiteral("cba"));
     }
-}
-
-void ListSorting::compareFunctions()
-{
-    struct
+    void arrivalsGoToTheirPlaces()
     {
-        SortListView::CompareFunction function;
-        QString a;
-        QString b;
-        int expected; ///< Sign of a against b.
-    } const cases[] = {
-        {SortListView::_compStandardString, QStringLiteral("b"), QStringLiteral("A"), 1},
-        {SortListView::_compStandardNumeric, QStringLiteral("10"), QStringLiteral("9"), 1},
-        {SortListView::_compStandardNumeric, QStringLiteral("9 Hz"), QStringLiteral("10"), 0},
-        {SortListView::_compNumericWithSuffix, QStringLiteral("3"), QStringLiteral("12.5 k"), -1},
-        {SortListView::_compNumericWithSuffix, QStringLiteral("MHz"), QStringLiteral("3"), 0},
-        {SortListView::_compNumericWithSuffix, QStringLiteral(" 4"), QStringLiteral("3"), 0},
-    };
-    SortListView list;
-    list.SetCompareFunctionLength(1);
-    for (const auto& [function, a, b, expected] : cases) {
-        list.SetCompareFunction(0, function);
-        list.hide();
-        QCOMPARE(list.SortFunction(0, a, b), 0);
+        SortListView list;
+        list.setColumnCount(1);
         list.show();
-        const int result = list.SortFunction(0, a, b);
-        QCOMPARE((result > 0) - (result < 0), expected);
+        fill(list, QStringLiteral("dbf"));
+        list.setCurrentItem(list.topLevelItem(0));
+        QCOMPARE(columnTexts(list), QStringLiteral("dbf"));
+        QTRY_COMPARE(columnTexts(list), QStringLiteral("bdf"));
+        QCOMPARE(list.currentItem()->text(0), QStringLiteral("d"));
+        // A row that comes back with another text is read again.
+        QTreeWidgetItem* const item = list.takeTopLevelItem(0);
+        item->setText(0, QStringLiteral("z"));
+        list.addTopLevelItem(item);
+        fill(list, QStringLiteral("e"));
+        QTRY_COMPARE(columnTexts(list), QStringLiteral("defz"));
+        new SortListViewItem(list.topLevelItem(0), QStringLiteral("2"));
+        new SortListViewItem(list.topLevelItem(0), QStringLiteral("1"));
+        QTRY_COMPARE(list.topLevelItem(0)->child(0)->text(0), QStringLiteral("1"));
+        fill(list, QStringLiteral("a"));
+        list.clear();
+        QCoreApplication::processEvents();
+        auto doomed = std::make_unique<SortListView>();
+        doomed->setColumnCount(1);
+        doomed->show();
+        fill(*doomed, QStringLiteral("ba"));
+        doomed.reset();
+        QCoreApplication::processEvents();
     }
-}
-
-void ListSorting::keepsWhatTheUserSees()
-{
-    SortListView list;
-    list.setColumnCount(1);
-    list.resize(200, 150);
-    list.setSelectionMode(QAbstractItemView::ExtendedSelection);
-    for (int i = 0; i < 200; ++i)
-        new SortListViewItem(&list, QString::number(i * 7919 % 1000));
-    list.show();
-    QCoreApplication::processEvents();
-    QTreeWidgetItem* const current = list.topLevelItem(50);
-    new SortListViewItem(current, QStringLiteral("child"));
-    list.setCurrentItem(current);
-    list.topLevelItem(3)->setSelected(true);
-    current->setExpanded(true);
-    list.topLevelItem(7)->setHidden(true);
-    const QTreeWidgetItem* const hidden = list.topLevelItem(7);
-    list.verticalScrollBar()->setValue(20);
-    const QList<QTreeWidgetItem*> selected = list.selectedItems();
-    list.setSorting(0, Qt::DescendingOrder);
-    QCoreApplication::processEvents();
-    QVERIFY(list.indexOfTopLevelItem(current) != 50);
-    QCOMPARE(list.currentItem(), current);
-    const QList<QTreeWidgetItem*> after = list.selectedItems();
-    QCOMPARE(QSet<QTreeWidgetItem*>(after.begin(), after.end()),
-             QSet<QTreeWidgetItem*>(selected.begin(), selected.end()));
-    QVERIFY(current->isExpanded() && hidden->isHidden());
-    QCOMPARE(list.verticalScrollBar()->value(), 20);
-    // Arrivals above do not push the others down.
-    for (const auto mode : {QAbstractItemView::ScrollPerItem, QAbstractItemView::ScrollPerPixel}) {
-        list.setVerticalScrollMode(mode);
-        list.verticalScrollBar()->setValue(50);
-        const QTreeWidgetItem* const top = list.itemAt(QPoint(0, 0));
-        const QRect place = list.visualItemRect(top);
-        const QString text(mode == QAbstractItemView::ScrollPerItem ? u'y' : u'z');
-        fill(list, text.repeated(4));
-        QTRY_COMPARE(list.topLevelItem(3)->text(0), text);
-        QCOMPARE(list.visualItemRect(top), place);
-    }
-}
-
-void ListSorting::subclassesMayCompare()
-{
-    class Backwards : public SortListViewItem
+    void rowsPlacedByHandStay()
     {
-    public:
-        using SortListViewItem::SortListViewItem;
-        bool operator<(const QTreeWidgetItem& other) const override
-        {
-            return other.text(0) < text(0);
-        }
-    };
-    SortListView list;
-    list.setColumnCount(1);
-    for (const QChar letter : QStringLiteral("bca"))
-        new Backwards(&list, QString(letter));
-    list.show();
-    QCOMPARE(firstTexts(list), QStringLiteral("cba"));
-    // Rows of another kind are compared by their texts.
-    list.addTopLevelItem(new QTreeWidgetItem({QStringLiteral("d")}));
-    fill(list, QStringLiteral("e"));
-    list.setSorting(0, false);
-    list.setSorting(0, true);
-    QCOMPARE(list.topLevelItemCount(), 5);
-    delete list.takeTopLevelItem(0);
-
-    QTreeWidget plain;
-    plain.setColumnCount(1);
-    for (const QChar letter : QStringLiteral("bca"))
-        new SortListViewItem(&plain, QString(letter));
-    plain.sortItems(0, Qt::AscendingOrder);
-    QCOMPARE(firstTexts(plain), QStringLiteral("abc"));
-}
-
-void ListSorting::sortsOnlyWhenItMay()
-{
-    SortListView list;
-    list.setColumnCount(1);
-    fill(list, QStringLiteral("bca"));
-    list.setSorting(0, Qt::DescendingOrder);
-    list.sortItems(0, Qt::AscendingOrder);
-    QCOMPARE(firstTexts(list), QStringLiteral("bca"));
-    list.show();
-    QCOMPARE(firstTexts(list), QStringLiteral("cba"));
-    list.AllowSort(false);
-    list.setSorting(0, true);
-    list.hide();
-    list.show();
-    QCOMPARE(firstTexts(list), QStringLiteral("cba"));
-    list.AllowSort(true);
-    for (const int column : {-1, 1, 4000}) {
-        list.setSorting(column, false);
-        QCOMPARE(firstTexts(list), QStringLiteral("cba"));
+        SortListView list;
+        list.setColumnCount(1);
+        fill(list, QStringLiteral("bca"));
+        list.show();
+        new SortListViewItem(&list, QStringLiteral("z"), {}, {}, {}, {}, {}, {}, {}, true);
+        fill(list, QStringLiteral("0"));
+        for (int i = 0; i < 5; ++i)
+            QCoreApplication::processEvents();
+        QCOMPARE(columnTexts(list), QStringLiteral("zabc0"));
+        list.sort();
+        static_cast<SortListViewItem*>(list.topLevelItem(0))->moveItem(list.topLevelItem(4));
+        for (int i = 0; i < 5; ++i)
+            QCoreApplication::processEvents();
+        QCOMPARE(columnTexts(list), QStringLiteral("abcz0"));
     }
-    QCOMPARE(list.GetColumnSortingOrder(), Qt::DescendingOrder);
-    list.setSorting(0, true);
-    QCOMPARE(firstTexts(list), QStringLiteral("abc"));
-}
-
-void ListSorting::callbackDecides()
-{
-    Callback sorts(true);
-    Callback declines(false);
-    SortListView list;
-    list.setColumnCount(2);
-    list.SetCompareFunctionLength(1);
-    list.SetCompareFunction(0, SortListView::_compStandardString);
-    fill(list, QStringLiteral("bca"));
-    list.SetSortCallback(&sorts);
-    list.show();
-    list.setSorting(1, false);
-    QCOMPARE(sorts.calls, QStringList({QStringLiteral("0+"), QStringLiteral("1-")}));
-    list.SetSortCallback(&declines);
-    QVERIFY(!list.HasSortFunction(0));
-    list.setSorting(0, true);
-    QCOMPARE(declines.calls, QStringList{QStringLiteral("0+")});
-    QCOMPARE(firstTexts(list), QStringLiteral("bca"));
-    list.SetSortCallback(nullptr);
-    list.sort();
-    QCOMPARE(firstTexts(list), QStringLiteral("abc"));
-}
-
-void ListSorting::headerClicks()
-{
-    SortListView list;
-    list.setColumnCount(2);
-    fill(list, QStringLiteral("bca"));
-    list.show();
-    for (const int column : {0, 1}) {
-        list.slotHeaderClicked(column); // the direction stays for another column
-        QCOMPARE(list.header()->sortIndicatorSection(), column);
-        QCOMPARE(list.GetColumnSortingOrder(), Qt::DescendingOrder);
-    }
-    list.slotHeaderClicked(1);
-    list.slotHeaderClicked(0);
-    QCOMPARE(firstTexts(list), QStringLiteral("abc"));
-}
-
-void ListSorting::arrivalsGoToTheirPlaces()
-{
-    SortListView list;
-    list.setColumnCount(1);
-    list.show();
-    fill(list, QStringLiteral("dbf"));
-    list.setCurrentItem(list.topLevelItem(0));
-    QCOMPARE(firstTexts(list), QStringLiteral("dbf"));
-    QTRY_COMPARE(firstTexts(list), QStringLiteral("bdf"));
-    QCOMPARE(list.currentItem()->text(0), QStringLiteral("d"));
-    // A row that comes back with another text is read again.
-    QTreeWidgetItem* const item = list.takeTopLevelItem(0);
-    item->setText(0, QStringLiteral("z"));
-    list.addTopLevelItem(item);
-    fill(list, QStringLiteral("e"));
-    QTRY_COMPARE(firstTexts(list), QStringLiteral("defz"));
-    new SortListViewItem(list.topLevelItem(0), QStringLiteral("2"));
-    new SortListViewItem(list.topLevelItem(0), QStringLiteral("1"));
-    QTRY_COMPARE(list.topLevelItem(0)->child(0)->text(0), QStringLiteral("1"));
-    fill(list, QStringLiteral("a"));
-    list.clear();
-    QCoreApplication::processEvents();
-    auto doomed = std::make_unique<SortListView>();
-    doomed->setColumnCount(1);
-    doomed->show();
-    fill(*doomed, QStringLiteral("ba"));
-    doomed.reset();
-    QCoreApplication::processEvents();
-}
-
-void ListSorting::rowsPlacedByHandStay()
-{
-    SortListView list;
-    list.setColumnCount(1);
-    fill(list, QStringLiteral("bca"));
-    list.show();
-    new SortListViewItem(&list, QStringLiteral("z"), {}, {}, {}, {}, {}, {}, {}, true);
-    fill(list, QStringLiteral("0"));
-    for (int i = 0; i < 5; ++i)
-        QCoreApplication::processEvents();
-    QCOMPARE(firstTexts(list), QStringLiteral("zabc0"));
-    list.sort();
-    static_cast<SortListViewItem*>(list.topLevelItem(0))->moveItem(list.topLevelItem(4));
-    for (int i = 0; i < 5; ++i)
-        QCoreApplication::processEvents();
-    QCOMPARE(firstTexts(list), QStringLiteral("abcz0"));
-}
+};
 
 QTEST_MAIN(ListSorting)
 #include "tst_listsorting.moc"

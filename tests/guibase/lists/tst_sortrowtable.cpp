@@ -2,6 +2,7 @@
 #include <guibase/lists/sortrowtable.h>
 
 #include "support/guardedtest.h"
+#include "support/testrows.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -53,17 +54,120 @@ QString rowsOf(const QTableWidget& table)
 class SortRowTables : public GuardedTest
 {
     Q_OBJECT
+    using Deletions = TestRows<QList<int>, int, QString>;
+    using Texts = TestRows<QString, QString>;
+
 private Q_SLOTS:
-    void newRow();
-    void sorting();
-    void deleting_data();
-    void deleting();
-    void tableDiesInQuestion();
-    void parsing_data();
-    void parsing();
-    void copyAndPaste();
-    void tooManyLines();
-    void modifiedKeys();
+    void newRow()
+    {
+        QTest::keyClick(m_table.get(), Qt::Key_Insert);
+        QCOMPARE(rowsOf(*m_table), QStringLiteral("/0"));
+        QTRY_VERIFY(m_table->findChild<QLineEdit*>() != nullptr);
+        auto* const editor = m_table->findChild<QLineEdit*>();
+        QTest::keyClicks(editor, QStringLiteral("12"));
+        QTest::keyClick(editor, Qt::Key_Delete);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_COMPARE(rowsOf(*m_table), QStringLiteral("12/0"));
+        m_table->slotClearAll();
+        QCOMPARE(m_table->rowCount(), 0);
+    }
+    void sorting()
+    {
+        fill({"b", "100", "9.5 MHz", "a", "-3"});
+        QCOMPARE(rowsOf(*m_table), QStringLiteral("-3/0 9.5 MHz/0 100/0 a/0 b/0"));
+        m_table->sortByColumn(0, Qt::DescendingOrder);
+        QCOMPARE(m_table->item(0, 0)->text(), QStringLiteral("b"));
+    }
+    void deleting_data()
+    {
+        // The answers, the number of questions, and the rows that are left.
+        Deletions row;
+        constexpr int yes = QMessageBox::Yes, no = QMessageBox::No;
+        row("yes", {yes, yes, yes}, 3, "4/0");
+        row("no", {yes, no, yes}, 3, "2/0 4/0");
+        row("yes to all", {no, QMessageBox::YesToAll}, 2, "1/0 4/0");
+        row("no to all", {yes, QMessageBox::NoToAll}, 2, "2/0 3/0 4/0");
+    }
+    void deleting()
+    {
+        const auto& [answers, questions, left] = Deletions::fetch();
+        fill({"1", "2", "3", "4"});
+        m_table->setRangeSelected(QTableWidgetSelectionRange(0, 0, 2, 1), true);
+        const Answers given([answers = answers](QMessageBox& box, int question) {
+            QCOMPARE(box.defaultButton(), box.button(QMessageBox::Yes));
+            box.button(QMessageBox::StandardButton(answers.value(question, QMessageBox::NoToAll)))
+                ->click();
+        });
+        QTest::keyRelease(m_table.get(), Qt::Key_Delete);
+        QCOMPARE(rowsOf(*m_table), left);
+        QCOMPARE(given.texts.size(), questions);
+        QCOMPARE(given.texts.first(), QStringLiteral("Do you want to delete item \"1, 0\"?"));
+    }
+    void tableDiesInQuestion()
+    {
+        m_table->setRowCount(2); // rows without items
+        m_table->selectAll();
+        const Answers given([this](QMessageBox& box, int question) {
+            question == 0 ? box.button(QMessageBox::Yes)->click() : m_table.reset();
+        });
+        m_table->slotDelete();
+        QVERIFY(!m_table);
+    }
+    void parsing_data()
+    {
+        Texts row;
+        row("tabs", "1\t2\n3\t\n", "1/2 3/");
+        row("semicolons, line ends", "1;2\r\n;4\r\r5", "1/2 /4 5/");
+        row("quoted", "\"a b\"\t\"c\"", "a b/c");
+        row("blanks", "  1   2  3 ", "1/2");
+        row("units", "100.5 MHz\n101,5  MHz -30 dBm\n102 -40 dBm\na b",
+            "100.5 MHz/ 101,5 MHz/-30 dBm 102/-40 dBm a/b");
+        row("nothing", " \n\t\n;;", "");
+    }
+    void parsing()
+    {
+        const auto& [text, expected] = Texts::fetch();
+        QStringList rows;
+        for (const auto& [frequency, level] : SortRowTable::parseRows(text))
+            rows << frequency + u'/' + level;
+        QCOMPARE(rows.join(u' '), expected);
+    }
+    void copyAndPaste()
+    {
+        fill({"3", "1"});
+        QClipboard* const clipboard = QGuiApplication::clipboard();
+        m_table->selectAll();
+        QTest::keySequence(m_table.get(), QKeySequence::Copy);
+        QCOMPARE(clipboard->text(), QStringLiteral("1\t0\n3\t0"));
+        clipboard->setText(QStringLiteral("2\t7\n4;8"));
+        QTest::keySequence(m_table.get(), QKeySequence::Paste);
+        QCOMPARE(rowsOf(*m_table), QStringLiteral("1/0 2/7 3/0 4/8"));
+        QTest::keyPress(m_table.get(), Qt::Key_Insert, Qt::ShiftModifier); // pastes
+        QTest::keyRelease(m_table.get(), Qt::Key_Insert, Qt::NoModifier);
+        QTest::keyClick(m_table.get(), Qt::Key_Delete, Qt::ShiftModifier);
+        QCOMPARE(m_table->rowCount(), 6);
+        m_table->setRowCount(4);
+        m_table->setCurrentCell(0, 1);
+        clipboard->setText(QStringLiteral("55"));
+        m_table->slotPaste();
+        QVERIFY(rowsOf(*m_table).startsWith(QStringLiteral("1/55 2/7 ")));
+        // Values go back into the columns they came from.
+        m_table->clearSelection();
+        m_table->item(0, 0)->setSelected(true);
+        m_table->item(2, 1)->setSelected(true);
+        QCOMPARE(m_table->selectionAsText(), QStringLiteral("1\t\n\t7"));
+        m_table->item(0, 0)->setSelected(false);
+        QCOMPARE(m_table->selectionAsText(), QStringLiteral("7"));
+    }
+    void tooManyLines()
+    {
+        const QString line = QStringLiteral("1\n");
+        QGuiApplication::clipboard()->setText(line.repeated(SortRowTable::maximumPastedRows + 2));
+        const Answers given([](QMessageBox& box, int) { box.button(QMessageBox::Ok)->click(); });
+        m_table->slotPaste();
+        QCOMPARE(m_table->rowCount(), SortRowTable::maximumPastedRows);
+        QVERIFY(given.texts.value(0).contains(QStringLiteral(" 2 more rows")));
+    }
 
 private:
     void prepare() override
@@ -83,138 +187,6 @@ private:
 
     std::unique_ptr<SortRowTable> m_table;
 };
-
-void SortRowTables::newRow()
-{
-    QTest::keyClick(m_table.get(), Qt::Key_Insert);
-    QCOMPARE(rowsOf(*m_table), QStringLiteral("/0"));
-    QTRY_VERIFY(m_table->findChild<QLineEdit*>() != nullptr);
-    auto* const editor = m_table->findChild<QLineEdit*>();
-    QTest::keyClicks(editor, QStringLiteral("12"));
-    QTest::keyClick(editor, Qt::Key_Delete);
-    QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_COMPARE(rowsOf(*m_table), QStringLiteral("12/0"));
-    m_table->slotClearAll();
-    QCOMPARE(m_table->rowCount(), 0);
-}
-
-void SortRowTables::sorting()
-{
-    fill({"b", "100", "9.5 MHz", "a", "-3"});
-    QCOMPARE(rowsOf(*m_table), QStringLiteral("-3/0 9.5 MHz/0 100/0 a/0 b/0"));
-    m_table->sortByColumn(0, Qt::DescendingOrder);
-    QCOMPARE(m_table->item(0, 0)->text(), QStringLiteral("b"));
-}
-
-void SortRowTables::deleting_data()
-{
-    QTest::addColumn<QList<int>>("answers");
-    QTest::addColumn<int>("questions");
-    QTest::addColumn<QString>("left");
-    constexpr int yes = QMessageBox::Yes;
-    constexpr int no = QMessageBox::No;
-    QTest::newRow("yes") << QList<int>{yes, yes, yes} << 3 << "4/0";
-    QTest::newRow("no") << QList<int>{yes, no, yes} << 3 << "2/0 4/0";
-    QTest::newRow("yes to all") << QList<int>{no, QMessageBox::YesToAll} << 2 << "1/0 4/0";
-    QTest::newRow("no to all") << QList<int>{yes, QMessageBox::NoToAll} << 2 << "2/0 3/0 4/0";
-}
-
-void SortRowTables::deleting()
-{
-    QFETCH(QList<int>, answers);
-    fill({"1", "2", "3", "4"});
-    m_table->setRangeSelected(QTableWidgetSelectionRange(0, 0, 2, 1), true);
-    const Answers given([&answers](QMessageBox& box, int question) {
-        QCOMPARE(box.defaultButton(), box.button(QMessageBox::Yes));
-        box.button(QMessageBox::StandardButton(answers.value(question, QMessageBox::NoToAll)))
-            ->click();
-    });
-    QTest::keyRelease(m_table.get(), Qt::Key_Delete);
-    QTEST(rowsOf(*m_table), "left");
-    QTEST(int(given.texts.size()), "questions");
-    QCOMPARE(given.texts.first(), QStringLiteral("Do you want to delete item \"1, 0\"?"));
-}
-
-void SortRowTables::tableDiesInQuestion()
-{
-    m_table->setRowCount(2); // rows without items
-    m_table->selectAll();
-    const Answers given([this](QMessageBox& box, int question) {
-        question == 0 ? box.button(QMessageBox::Yes)->click() : m_table.reset();
-    });
-    m_table->slotDelete();
-    QVERIFY(!m_table);
-}
-
-void SortRowTables::parsing_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("rows");
-    QTest::newRow("tabs") << "1\t2\n3\t\n"
-                          << "1/2 3/";
-    QTest::newRow("semicolons, line ends") << "1;2\r\n;4\r\r5"
-                                           << "1/2 /4 5/";
-    QTest::newRow("quoted") << "\"a b\"\t\"c\""
-                            << "a b/c";
-    QTest::newRow("blanks") << "  1   2  3 "
-                            << "1/2";
-    QTest::newRow("units") << "100.5 MHz\n101,5  MHz -30 dBm\n102 -40 dBm\na b"
-                           << "100.5 MHz/ 101,5 MHz/-30 dBm 102/-40 dBm a/b";
-    QTest::newRow("nothing") << " \n\t\n;;"
-                             << "";
-}
-
-void SortRowTables::parsing()
-{
-    QFETCH(QString, text);
-    QStringList rows;
-    for (const auto& [frequency, level] : SortRowTable::parseRows(text))
-        rows << frequency + u'/' + level;
-    QTEST(rows.join(u' '), "rows");
-}
-
-void SortRowTables::copyAndPaste()
-{
-    fill({"3", "1"});
-    QClipboard* const clipboard = QGuiApplication::clipboard();
-    m_table->selectAll();
-    QTest::keySequence(m_table.get(), QKeySequence::Copy);
-    QCOMPARE(clipboard->text(), QStringLiteral("1\t0\n3\t0"));
-    clipboard->setText(QStringLiteral("2\t7\n4;8"));
-    QTest::keySequence(m_table.get(), QKeySequence::Paste);
-    QCOMPARE(rowsOf(*m_table), QStringLiteral("1/0 2/7 3/0 4/8"));
-    m_table->setCurrentCell(0, 1);
-    clipboard->setText(QStringLiteral("55"));
-    m_table->slotPaste();
-    QCOMPARE(rowsOf(*m_table), QStringLiteral("1/55 2/7 3/0 4/8"));
-    // Values go back into the columns they came from.
-    m_table->clearSelection();
-    m_table->item(0, 0)->setSelected(true);
-    m_table->item(2, 1)->setSelected(true);
-    QCOMPARE(m_table->selectionAsText(), QStringLiteral("1\t\n\t0"));
-    m_table->item(0, 0)->setSelected(false);
-    QCOMPARE(m_table->selectionAsText(), QStringLiteral("0"));
-}
-
-void SortRowTables::tooManyLines()
-{
-    const QString line = QStringLiteral("1\n");
-    QGuiApplication::clipboard()->setText(line.repeated(SortRowTable::maximumPastedRows + 2));
-    const Answers given([](QMessageBox& box, int) { box.button(QMessageBox::Ok)->click(); });
-    m_table->slotPaste();
-    QCOMPARE(m_table->rowCount(), SortRowTable::maximumPastedRows);
-    QVERIFY(given.texts.value(0).contains(QStringLiteral(" 2 more rows")));
-}
-
-void SortRowTables::modifiedKeys()
-{
-    fill({"1"});
-    QGuiApplication::clipboard()->setText(QStringLiteral("2\n3"));
-    QTest::keyPress(m_table.get(), Qt::Key_Insert, Qt::ShiftModifier); // pastes
-    QTest::keyRelease(m_table.get(), Qt::Key_Insert, Qt::NoModifier);
-    QTest::keyClick(m_table.get(), Qt::Key_Delete, Qt::ShiftModifier);
-    QCOMPARE(rowsOf(*m_table), QStringLiteral("1/0 2/ 3/"));
-}
 
 QTEST_MAIN(SortRowTables)
 #include "tst_sortrowtable.moc"

@@ -71,8 +71,6 @@ private Q_SLOTS:
         QCOMPARE(storedBy(makeList(columns, text)), expected);
         QCOMPARE(configuration()->GetString(listName + QStringLiteral("_damaged")),
                  isDamaged ? text : QString());
-        GuiBase::Instance().StoreColumnWidth4(listName, nullptr);
-        GuiBase::Instance().ApplyColumnWidth4(listName, nullptr);
     }
     void everyOrder()
     {

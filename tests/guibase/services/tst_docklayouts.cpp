@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/files.h"
 #include "support/guardedtest.h"
-#include "support/randombytes.h"
 #include "support/testrows.h"
 
 #include <guibase/services/guibase.h>
@@ -229,17 +228,6 @@ private Q_SLOTS:
         QCOMPARE(readFile(traces).count("Layout record \"GuiBase_docks\""), isDamaged ? 1 : 0);
         QCOMPARE(storedLayout(0), hexadecimal(window.saveState(1)));
     }
-    void hostileGeometries()
-    {
-        const QByteArray good = Window().saveGeometry();
-        RandomBytes random("geometries");
-        for (int round = 0; round < RandomBytes::rounds(200); ++round) {
-            record()->SetString(QStringLiteral("Geometry"), hexadecimal(random.mutated(good)));
-            QWidget widget;
-            m_services->RegisterPersistentWidget(&widget, QStringLiteral("docks"));
-            m_services->UnregisterPersistentWidget(&widget);
-        }
-    }
     void recordNames_data()
     {
         Docks row;
@@ -299,16 +287,9 @@ private Q_SLOTS:
         QCOMPARE(starts.count(), 1);
         QCOMPARE(factories.count(), 2);
     }
-    void changesBeforeTheSizeIsThere_data()
-    {
-        TestRows<bool> row;
-        row("in the mode at start", false);
-        row("in another mode", true);
-    }
     /// A maximized window from a larger screen never gets its stored size.
     void changesBeforeTheSizeIsThere()
     {
-        const bool changeMode = std::get<bool>(TestRows<bool>::fetch());
         {
             Window window;
             window.enlist();
@@ -322,8 +303,7 @@ private Q_SLOTS:
         Window window;
         window.enlist();
         QTRY_VERIFY(window.isMaximized());
-        if (changeMode)
-            m_services->setMode(3);
+        m_services->setMode(3);
         QVERIFY(!window.dock("A")->isHidden());
         window.dock("A")->hide();
         window.showNormal();
@@ -331,7 +311,7 @@ private Q_SLOTS:
         QTest::qWait(50);
         QVERIFY(window.dock("A")->isHidden());
         m_services->StoreWidgetSize();
-        QCOMPARE(storedLayout(changeMode ? 3 : 0), hexadecimal(window.saveState(1)));
+        QCOMPARE(storedLayout(3), hexadecimal(window.saveState(1)));
     }
     void minimizedWindow()
     {
@@ -458,14 +438,6 @@ private Q_SLOTS:
             QVERIFY(!written());
             QTRY_VERIFY(written());
         }
-        // Changes that follow one another are written when they pause.
-        m_services->SetLayoutWriteDelay(500);
-        for (int width = 500; width < 520; ++width) {
-            window.resize(width, 400);
-            QTest::qWait(30);
-            QVERIFY(!written());
-        }
-        QTRY_VERIFY(written());
     }
     // The last function: afterwards the services take no part in the save cycle.
     void terminationStoresAndForgets()

@@ -14,10 +14,8 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -244,19 +242,6 @@ private Q_SLOTS:
         m_services->ForceFinishEditing();
         QCOMPARE(ends.count(), 1);
         QCOMPARE(ends.at(0).at(0).value<QWidget*>(), &editor);
-    }
-    void dock()
-    {
-        QMainWindow window;
-        auto* content = new QLabel;
-        QDockWidget* dock = GuiBase::AddAsDockWidget(content, QStringLiteral("Levels"), &window,
-                                                     Qt::RightDockWidgetArea);
-        QCOMPARE(dock->objectName(), QStringLiteral("Levels"));
-        QCOMPARE(window.dockWidgetArea(dock), Qt::RightDockWidgetArea);
-        const auto* frame = qobject_cast<QFrame*>(dock->widget());
-        QCOMPARE(content->parentWidget(), frame);
-        QCOMPARE(GuiBase::AddAsDockWidget(nullptr, QString(), &window, Qt::LeftDockWidgetArea),
-                 nullptr);
     }
     void splash()
     {

@@ -161,15 +161,6 @@ private Q_SLOTS:
         QCOMPARE(asked, opened);
         QVERIFY(QDir::setCurrent(formerFolder));
     }
-    void deprecatedSplash()
-    {
-        m_services->ShowSplash(3U);
-        m_services->ShowSplash(QPixmap());
-        const QString traces = takeTraces();
-        QCOMPARE(traces.count(QStringLiteral(
-                     "controls/guibase/guibase(1043): GuiBase::ShowSplash(...) is deprecated!\n")),
-                 2);
-    }
 
 private:
     QString traceFileName() const { return m_folder.filePath(QStringLiteral("trace.txt")); }
