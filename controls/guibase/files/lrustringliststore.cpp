@@ -4,6 +4,8 @@
 #include <trovappstartup/cfgcenter.h>
 
 #include <QDeadlineTimer>
+#include <QDir>
+#include <QFileInfo>
 #include <QLockFile>
 #include <QThread>
 
@@ -83,7 +85,9 @@ void LruStringListStore::save(LruStringList& list)
 {
     if (m_cfg == nullptr)
         return;
-    QLockFile lock(CfgCenter::GetAppCfgFileName() + QStringLiteral(".lists.lock"));
+    const QString file = CfgCenter::GetAppCfgFileName();
+    QDir().mkpath(QFileInfo(file).absolutePath()); // Else programs that save first have no lock.
+    QLockFile lock(file + QStringLiteral(".lists.lock"));
     waitFor(lock);
     const bool isFresh = refresh();
     list.Clear();

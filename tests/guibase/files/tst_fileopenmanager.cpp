@@ -56,6 +56,32 @@ QString storedList(const QString& prefix = QStringLiteral("RecentFile"))
     return entries.join(u',');
 }
 
+/// Keeps nothing, and looks whether the list is locked while it is stored.
+class LockObserver : public ICfg
+{
+public:
+    bool Store() override
+    {
+        seen << QFile::exists(CfgCenter::GetAppCfgFileName() + QStringLiteral(".lists.lock"));
+        return true;
+    }
+    QString GetString(const QString&, const QString& other) const override { return other; }
+    int GetInt(const QString&, int other) const override { return other; }
+    bool GetBool(const QString&, bool other) const override { return other; }
+    void SetString(const QString&, const QString&) override {}
+    void SetInt(const QString&, int) override {}
+    void SetBool(const QString&, bool) override {}
+    bool Contains(const QString&) const override { return false; }
+    void Remove(const QString&) override {}
+    QStringList GetKeys() const override { return {}; }
+    bool HasSubCfg(const QString&) const override { return false; }
+    std::unique_ptr<ICfg> OpenSubCfg(const QString&) override { return nullptr; }
+    QStringList GetSubCfgNames() const override { return {}; }
+    void RemoveSubCfg(const QString&) override {}
+
+    QList<bool> seen;
+};
+
 void storeList(const QStringList& names)
 {
     for (int i = 0; i < names.size(); ++i)
@@ -135,6 +161,15 @@ private Q_SLOTS:
         list.Erase(QStringLiteral("b"));
         QTRY_COMPARE(storedList(), QStringLiteral("0=m,1=x"));
         QVERIFY(readFile(CfgCenter::GetAppCfgFileName()).contains("\"RecentFile1\": \"x\"\n"));
+    }
+    void locksTheListFromTheFirstSaveOn()
+    {
+        QVERIFY(QDir(configDir()).removeRecursively());
+        LockObserver observer;
+        LruStringListController list(nullptr, 4, &observer, QStringLiteral("RecentFile"));
+        list.Select(QStringLiteral("a"));
+        list.Save();
+        QCOMPARE(observer.seen, QList<bool>({true, true})); // before it is read, and written
     }
     void keepsChangesThatCannotBeStored()
     {
