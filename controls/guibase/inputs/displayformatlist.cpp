@@ -8,6 +8,8 @@
 
 #include <jtbase/errorhandler.h>
 
+#include <QCoreApplication>
+
 #include <exception>
 #include <type_traits>
 
@@ -138,6 +140,8 @@ QString DisplayFormatList<T>::refusal(const QString& text, const Reading& readin
 {
     if (reading.outcome == Reading::Read)
         return {};
+    if (text.size() > TypedInput::longestText)
+        return QCoreApplication::translate("DisplayFormat", "This text is too long.");
     const Format* format = current(reading.index);
     const auto range = format->bareRange(text);
     if (reading.outcome == Reading::SuffixOnly && range.start == range.end)

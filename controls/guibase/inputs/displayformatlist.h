@@ -25,6 +25,13 @@ struct DisplayFormatReading
 
     /// Whether text and format are known, be it without a new value.
     bool isKnown() const { return outcome != Unreadable; }
+    /// The parts that callers without this struct ask for; `ok` is isKnown().
+    T unpacked(bool& ok, int& formatIndex) const
+    {
+        ok = isKnown();
+        formatIndex = index;
+        return value;
+    }
 };
 
 /// The formats of one input: the built-in default format, which has the index -1, and those that

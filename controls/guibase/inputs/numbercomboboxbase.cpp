@@ -15,7 +15,6 @@
 
 namespace ComboBoxes {
 
-using TypedValue::finiteBound;
 using TypedValue::isValue;
 
 template <typename T>
@@ -71,26 +70,18 @@ void NumberComboBoxBase<T>::moveTo(T value)
 template <typename T>
 void NumberComboBoxBase<T>::setRange(T first, T second)
 {
-    if (!isValue(first) || !isValue(second))
+    const TypedValue::RangeChange change =
+        TypedValue::changeRange(m_minimum, m_maximum, first, second);
+    if (!change)
         return;
-    first = finiteBound(first);
-    second = finiteBound(second);
-    if (second < first)
-        std::swap(first, second);
-    const bool minimumIsNew = first != m_minimum;
-    const bool maximumIsNew = second != m_maximum;
-    if (!minimumIsNew && !maximumIsNew)
-        return;
-    m_minimum = first;
-    m_maximum = second;
     const QPointer<QObject> guard(this);
-    if (minimumIsNew) {
+    if (change.ofMinimum) {
         if (m_value < m_minimum)
             moveTo(hasSpecialValue() ? m_specialValue : m_minimum);
         if (guard)
             minimumChanged(m_minimum);
     }
-    if (guard && maximumIsNew) {
+    if (guard && change.ofMaximum) {
         if (m_maximum < m_value)
             moveTo(m_maximum);
         if (guard)
@@ -176,10 +167,7 @@ QString NumberComboBoxBase<T>::textFromValue(T value) const
 template <typename T>
 T NumberComboBoxBase<T>::valueFromText(const QString& text, bool& ok, int& index) const
 {
-    const Reading reading = readText(text);
-    ok = reading.isKnown();
-    index = reading.index;
-    return reading.value;
+    return readText(text).unpacked(ok, index);
 }
 
 template <typename T>
@@ -285,17 +273,7 @@ T NumberComboBoxBase<T>::itemValue(int index, bool& ok) const
 template <typename T>
 QVariant NumberComboBoxBase<T>::inputQuantity(Quantity quantity) const
 {
-    switch (quantity) {
-    case Quantity::Value:
-        return TypedInputVariant::toVariant(m_value);
-    case Quantity::Minimum:
-        return TypedInputVariant::toVariant(m_minimum);
-    case Quantity::Maximum:
-        return TypedInputVariant::toVariant(m_maximum);
-    case Quantity::SingleStep:
-        break;
-    }
-    return {};
+    return TypedInputVariant::quantityOf(quantity, m_value, m_minimum, m_maximum);
 }
 
 template <typename T>

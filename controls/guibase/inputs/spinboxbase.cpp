@@ -32,7 +32,6 @@ T initialValue()
 
 namespace SpinBoxes {
 
-using TypedValue::finiteBound;
 using TypedValue::isValue;
 
 template <typename T>
@@ -115,28 +114,20 @@ void SpinBoxBase<T>::moveToBound(const T& bound)
 template <typename T>
 void SpinBoxBase<T>::setRange(T first, T second)
 {
-    if (!isValue(first) || !isValue(second))
+    const TypedValue::RangeChange change =
+        TypedValue::changeRange(m_minimum, m_maximum, first, second);
+    if (!change)
         return;
-    first = finiteBound(first);
-    second = finiteBound(second);
-    if (second < first)
-        std::swap(first, second);
-    const bool minimumIsNew = first != m_minimum;
-    const bool maximumIsNew = second != m_maximum;
-    if (!minimumIsNew && !maximumIsNew)
-        return;
-    m_minimum = first;
-    m_maximum = second;
     updateGeometry();
     updateButtons();
     const QPointer<QObject> guard(this);
-    if (minimumIsNew) {
+    if (change.ofMinimum) {
         if (m_value < m_minimum)
             moveToBound(m_minimum);
         if (guard)
             minimumChanged(m_minimum);
     }
-    if (guard && maximumIsNew) {
+    if (guard && change.ofMaximum) {
         if (m_maximum < m_value)
             moveToBound(m_maximum);
         if (guard)
@@ -195,10 +186,7 @@ QString SpinBoxBase<T>::textFromValue(T value) const
 template <typename T>
 T SpinBoxBase<T>::valueFromText(const QString& text, bool& ok, int& index) const
 {
-    const Reading reading = readText(text);
-    ok = reading.isKnown();
-    index = reading.index;
-    return reading.value;
+    return readText(text).unpacked(ok, index);
 }
 
 template <typename T>
@@ -313,17 +301,7 @@ QStringList SpinBoxBase<T>::sizeSamples() const
 template <typename T>
 QVariant SpinBoxBase<T>::inputQuantity(Quantity quantity) const
 {
-    switch (quantity) {
-    case Quantity::Value:
-        return TypedInputVariant::toVariant(m_value);
-    case Quantity::Minimum:
-        return TypedInputVariant::toVariant(m_minimum);
-    case Quantity::Maximum:
-        return TypedInputVariant::toVariant(m_maximum);
-    case Quantity::SingleStep:
-        break;
-    }
-    return {};
+    return TypedInputVariant::quantityOf(quantity, m_value, m_minimum, m_maximum);
 }
 
 template <typename T>

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
 /// What the typed inputs take for a value of their type.
 namespace TypedValue {
@@ -31,6 +32,29 @@ T finiteBound(T bound)
         return std::clamp(bound, std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max());
     else
         return bound;
+}
+
+struct RangeChange
+{
+    bool ofMinimum = false;
+    bool ofMaximum = false;
+    explicit operator bool() const { return ofMinimum || ofMaximum; }
+};
+
+/// Takes the bounds in any order; changes nothing when one is no value.
+template <typename T>
+RangeChange changeRange(T& minimum, T& maximum, T first, T second)
+{
+    if (!isValue(first) || !isValue(second))
+        return {};
+    first = finiteBound(first);
+    second = finiteBound(second);
+    if (second < first)
+        std::swap(first, second);
+    const RangeChange change{first != minimum, second != maximum};
+    minimum = first;
+    maximum = second;
+    return change;
 }
 
 } // namespace TypedValue

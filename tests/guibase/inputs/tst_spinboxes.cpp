@@ -126,7 +126,7 @@ QAccessibleInterface* accessible(QWidget& widget)
 class TestSpinBoxes : public GuardedTest
 {
     Q_OBJECT
-    using Texts = TestRows<QString, QString, bool>;
+    using Texts = TestRows<QString, QString>;
     using Rounded = TestRows<int, int, int>;
     using Digits = TestRows<QString, int, int, QString>;
 
@@ -283,18 +283,18 @@ private Q_SLOTS:
     }
     void marksRefusedTexts_data()
     {
-        Texts row; // text, what the reason tells, whether a value in reach makes the mark go
-        row("ambiguous", "1,500", "thousands", true);
-        row("no number", "abc", "cannot be read", true);
-        row("empty", "", "missing", true);
-        row("beyond the range", "2000", "from 0.000000 to 1000.000000", true);
-        row("markup", "<b>1</b>", "&lt;b", true);
-        row("long", QString(1000000, u'9'), "from", false);
-        row("not to be cut", QString(40000, u'0') + u'5', "from", false);
+        Texts row; // text, what the reason tells
+        row("ambiguous", "1,500", "thousands");
+        row("no number", "abc", "cannot be read");
+        row("empty", "", "missing");
+        row("beyond the range", "2000", "from 0.000000 to 1000.000000");
+        row("markup", "<b>1</b>", "&lt;b");
+        row("long", QString(1000000, u'9'), "too long");
+        row("not to be cut", QString(40000, u'0') + u'5', "too long");
     }
     void marksRefusedTexts()
     {
-        const auto& [text, reason, isShort] = Texts::fetch();
+        const auto& [text, reason] = Texts::fetch();
         DoubleSpinBox box;
         box.setToolTip(QStringLiteral("Level"));
         box.setRange(0, 1000);
@@ -305,8 +305,7 @@ private Q_SLOTS:
         enter(box, text);
         QCOMPARE(box.value(), 7.0);
         QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7.000000"));
-        QVERIFY2(box.toolTip().contains(isShort ? reason : QStringLiteral("<qt>")),
-                 qPrintable(box.toolTip()));
+        QVERIFY2(box.toolTip().contains(reason), qPrintable(box.toolTip()));
         const auto mark = [&box] { return box.grab().toImage().pixelColor(box.width() / 2, 0); };
         QCOMPARE(mark(), RefusalMark::color(box.palette()));
         QPalette dark = box.palette();
