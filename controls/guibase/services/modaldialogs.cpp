@@ -4,16 +4,34 @@
 #include "guibase.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QPointer>
 
+#include <chrono>
+#include <future>
 #include <memory>
+#include <thread>
 
 namespace {
 
 bool hasWidgets()
 {
     return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
+}
+
+/// Whether the file system answers for the path. A server that is gone would not, for minutes, and
+/// the dialog would hang with it: nobody waits for the thread that asks.
+bool isReachable(const QString& path)
+{
+    constexpr std::chrono::milliseconds patience(500);
+    const auto answer = std::make_shared<std::promise<void>>();
+    const std::future<void> answered = answer->get_future();
+    std::thread([answer, path] {
+        QFileInfo::exists(path);
+        answer->set_value();
+    }).detach();
+    return answered.wait_for(patience) == std::future_status::ready;
 }
 
 /// Runs the dialog, which may die meanwhile, takes the answer, and deletes it.
@@ -46,14 +64,17 @@ QString ModalDialogs::askForFile(QWidget* parent, const FileQuestion& question)
 {
     if (!hasWidgets())
         return {};
-    auto* const dialog = new QFileDialog(parent, question.title, question.startAt, question.filter);
+    const QString startAt = question.startAt.isEmpty() || isReachable(question.startAt)
+                                ? question.startAt
+                                : QDir::homePath();
+    auto* const dialog = new QFileDialog(parent, question.title, startAt, question.filter);
     dialog->setOptions(GuiBase::Instance().UseNativeDialogs());
     dialog->setAcceptMode(question.mode);
     dialog->setDefaultSuffix(question.defaultSuffix);
     dialog->setFileMode(question.mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
                                                                  : QFileDialog::AnyFile);
-    if (QFileInfo(question.startAt).isFile())
-        dialog->selectFile(question.startAt);
+    if (QFileInfo(startAt).isFile())
+        dialog->selectFile(startAt);
     return run(dialog, [](const QFileDialog& shown, int result) {
         return result == QDialog::Accepted ? shown.selectedFiles().value(0) : QString();
     });
