@@ -144,6 +144,20 @@ private Q_SLOTS:
         }
     }
 
+    void activeDockIsInFront()
+    {
+        m_window->modes().setMode(Mode::Measure);
+        m_window->activateWindow();
+        m_window->bandView().setFocus();
+        const QWidget* focus = QApplication::focusWidget();
+        QTest::mouseClick(dock("bearings").widget(), Qt::LeftButton);
+        QCOMPARE(m_window->panels().activeDock(), &dock("bearings"));
+        m_window->modes().setMode(Mode::Plan); // where it is behind the jobs
+        QTRY_COMPARE(m_window->panels().activeDock(), &dock("jobs"));
+        QVERIFY(dock("jobs").titleBarWidget()->property("active").toBool());
+        QCOMPARE(QApplication::focusWidget(), focus);
+    }
+
     void keyboardReachesAll()
     {
         m_window->modes().setMode(Mode::Plan);

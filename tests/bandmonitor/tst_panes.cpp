@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "panes/bandview.h"
+#include "panes/panecolors.h"
 #include "panes/spectrumpane.h"
 #include "panes/waterfallpane.h"
 #include "support/testguard.h"
@@ -183,7 +184,14 @@ private Q_SLOTS:
         m_pane->setHoldVisible(false);
         const QImage spectrum = m_pane->spectrum().grab().toImage();
         QVERIFY(spectrum.pixelColor(20, spectrum.height() - 3).blue() > 240); // end of a gradient
+        const auto corner = [this] { return m_pane->grab().toImage().pixelColor(0, 0); };
+        const QColor dark(40, 40, 40);
+        m_pane->setPalette(QPalette(dark, dark));
+        QCOMPARE(corner(), paneColor(PaneSlot::LevelAxisBackground)); // the user's set
         colors.slotRestoreFactoryColors();
+        QCOMPARE(corner(), dark);
+        m_pane->setPalette(QPalette());
+        QCOMPARE(corner(), paneColor(PaneSlot::LevelAxisBackground));
         GuiBase::Instance().emit_signalColorsChanged();
         QCOMPARE(m_pane->waterfall().colorOf(-100), before);
     }

@@ -9,11 +9,15 @@
 #include <guibase/docks/dockwidgethelpers.h>
 #include <guibase/docks/enhanceddockwidgettitlebar.h>
 #include <guibase/docks/mainwindowconfigurator.h>
+#include <guibase/docks/mainwindowhelpers.h>
 #include <guibase/services/guibase.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QDockWidget>
 #include <QMainWindow>
+#include <QPointer>
+#include <QTabBar>
 
 using QDockWidgetHelpers::DockWidgetConfigurator;
 using QMainWindowHelpers::ActiveDockWidgetSupport;
@@ -72,6 +76,8 @@ Panels::Panels(QMainWindow& window)
     m_autoHideAtStart.fill(m_nothingHides);
     connect(ActiveDockWidgetSupport::get(window), &ActiveDockWidgetSupport::activeDockWidgetChanged,
             this, &Panels::markActive);
+    m_activateFront.setSingleShot(true);
+    connect(&m_activateFront, &QTimer::timeout, this, &Panels::activateFront);
 }
 
 Panels::~Panels() = default;
@@ -117,6 +123,27 @@ void Panels::markActive(QDockWidget* active)
     for (QDockWidget* dock : m_docks) {
         if (auto* bar = qobject_cast<EnhancedDockWidgetTitleBar*>(dock->titleBarWidget()))
             bar->setActive(dock == active);
+    }
+}
+
+void Panels::activateFront()
+{
+    QDockWidget* active = activeDock();
+    if (active == nullptr)
+        return;
+    const QList<QDockWidget*> beside = m_window.tabifiedDockWidgets(active);
+    const QList<QTabBar*> bars =
+        QMainWindowHelpers::tabBarsInDockWidgetArea(m_window, m_window.dockWidgetArea(active));
+    for (const QTabBar* bar : bars) {
+        QDockWidget* front = QMainWindowHelpers::findParentDockWidget(*bar, &m_window);
+        if (!beside.contains(front))
+            continue;
+        // The focus stays where the user left it.
+        const QPointer<QWidget> focus = QApplication::focusWidget();
+        ActiveDockWidgetSupport::get(m_window)->bringToFront(*front);
+        if (focus)
+            focus->setFocus();
+        return;
     }
 }
 
@@ -187,6 +214,7 @@ void Panels::showMode(Mode mode)
 
 void Panels::show(Mode mode, const QByteArray* autoHide)
 {
+    m_activateFront.start();        // once the active dock is found for what is hidden now
     m_autoHide->setStorageName({}); // what follows is no wish of the user
     GuiBase::Instance().setMode(static_cast<long>(mode));
     const QByteArray layout = m_window.saveState();

@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QSize>
 #include <QString>
+#include <QTimer>
 
 #include <vector>
 
@@ -83,6 +84,8 @@ public:
 
 private:
     void markActive(QDockWidget* active);
+    /// Behind another tab nobody sees which dock is the active one: the one in front takes over.
+    void activateFront();
     /// With `autoHide` that is put in the place of what was kept.
     void show(Mode mode, const QByteArray* autoHide);
 
@@ -92,6 +95,7 @@ private:
     QMainWindowHelpers::AutoHideSupport* m_autoHide;
     QByteArray m_nothingHides;
     PerMode<QByteArray> m_autoHideAtStart;
+    QTimer m_activateFront;
 };
 
 } // namespace bandmonitor

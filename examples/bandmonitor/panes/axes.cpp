@@ -52,10 +52,10 @@ void FrequencyAxis::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     QLinearGradient background(0, 0, 0, height());
-    background.setColorAt(0, paneColor(PaneSlot::FrequencyAxisHigh));
-    background.setColorAt(1, paneColor(PaneSlot::FrequencyAxisLow));
+    background.setColorAt(0, axisColor(PaneSlot::FrequencyAxisHigh, palette()));
+    background.setColorAt(1, axisColor(PaneSlot::FrequencyAxisLow, palette()));
     painter.fillRect(rect(), background);
-    painter.setPen(paneColor(PaneSlot::FrequencyAxisText));
+    painter.setPen(axisColor(PaneSlot::FrequencyAxisText, palette()));
     painter.drawText(QRect(0, tickLength, m_indent - 2 * labelMargin, height() - tickLength),
                      Qt::AlignRight | Qt::AlignVCenter, m_text->unit());
     for (const AxisTick& tick : ticks(width() - m_indent)) {
@@ -92,8 +92,8 @@ QSize SideAxis::sizeHint() const
 void SideAxis::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), paneColor(PaneSlot::LevelAxisBackground));
-    painter.setPen(paneColor(PaneSlot::LevelAxisText));
+    painter.fillRect(rect(), axisColor(PaneSlot::LevelAxisBackground, palette()));
+    painter.setPen(axisColor(PaneSlot::LevelAxisText, palette()));
     const int textHeight = fontMetrics().height();
     const int textWidth = width() - tickLength - 2 * labelMargin;
     const int captionBottom = m_caption.isEmpty() ? 0 : textHeight + labelMargin;

@@ -13,6 +13,18 @@ QColor paneColor(IColorBase::ECOLOR slot)
     return ColorSet::Instance().GetColor(slot);
 }
 
+QColor axisColor(IColorBase::ECOLOR slot, const QPalette& palette)
+{
+    const ColorSet& colors = ColorSet::Instance();
+    const QColor ground = palette.color(QPalette::Window);
+    const QColor ink = palette.color(QPalette::WindowText);
+    const bool isFactory =
+        colors.GetName() == QLatin1String(ColorSet::factoryDefaultName) && !colors.GetDirty();
+    if (!isFactory || ground.lightness() >= ink.lightness())
+        return paneColor(slot);
+    return slot == PaneSlot::FrequencyAxisText || slot == PaneSlot::LevelAxisText ? ink : ground;
+}
+
 IColorBase::ECOLOR signalTypeSlot(char letter)
 {
     const int slot = IColorBase::SignalTypeA + (letter - 'a');

@@ -4,6 +4,7 @@
 #include <guibase/colors/icolorbase.h>
 
 #include <QColor>
+#include <QPalette>
 
 #include <array>
 
@@ -31,6 +32,10 @@ inline constexpr auto LevelAxisBackground = IColorBase::YAxisBackground;
 
 /// The colour that the slot has now. Ask again after GuiBase::signalColorsChanged().
 QColor paneColor(IColorBase::ECOLOR slot);
+
+/// The colour that the axis slot has now. As long as the user has chosen no colours, axes in a dark
+/// palette have the colours of the palette: the factory colours are light.
+QColor axisColor(IColorBase::ECOLOR slot, const QPalette& palette);
 
 /// The slot of a signal type, 'a' to 'q'; that of 'a' for any other letter.
 IColorBase::ECOLOR signalTypeSlot(char letter);
