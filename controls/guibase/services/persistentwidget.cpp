@@ -232,6 +232,8 @@ void PersistentWidget::capture()
 bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isWindow = watched == m_widget || watched == m_mainWindow;
+    if (watched == m_widget && (event->type() == QEvent::Close || event->type() == QEvent::Show))
+        m_isClosed = event->type() == QEvent::Close;
     switch (event->type()) {
     case QEvent::MouseButtonRelease:
     case QEvent::Move:
@@ -473,6 +475,8 @@ void PersistentWidget::setMode(quint32 mode)
         return;
     const QByteArray geometry = m_widget->saveGeometry();
     unwatch();
+    if (!m_isClosed)
+        m_widget->show();
     applyCurrentLayout();
     restoreGeometryIfMoved(geometry);
     if (isAwaiting)

@@ -19,8 +19,8 @@ class QTimer;
 /// Keeps the geometry of one window, and its dock layout in each mode, from run to run, in a
 /// configuration record of its own.
 ///
-/// A change of the mode changes the docks only. It does not show the window, which the user may
-/// have closed, nor minimize it, and the program start stays the one of the record.
+/// A change of the mode changes the docks and shows the window, unless the user has closed it. The
+/// program start stays the one of the record.
 ///
 /// The widget is not owned. What it looked like last is remembered with every change, so that it
 /// can be written also after the widget is gone. A stored state that does not pass its check is not
@@ -49,7 +49,8 @@ public:
     void restoreFactory();
     void capture();
     void applyAwaited();
-    /// Captures the dock layout of the current mode and applies that of another one.
+    /// Captures the dock layout of the current mode, applies that of another one and shows the widget
+    /// unless it was closed.
     void setMode(quint32 mode);
     /// Makes the present dock layout the factory layout of the mode; the current mode stays.
     void storeFactory(quint32 mode);
@@ -105,6 +106,7 @@ private:
     const QObject* m_identity;
     Persistant m_record;
     bool m_isMinimized = false;
+    bool m_isClosed = false; ///< By the user or with QWidget::close(), and not shown since.
     StartMinimized m_startMinimized = StartMinimized::Unknown;
     QByteArray m_startGeometry;
     QByteArray m_factoryGeometry;

@@ -270,6 +270,11 @@ private Q_SLOTS:
         window.dock("A")->show();
         window.resize(555, 444);
         window.hide();
+        m_services->setMode(-1);
+        QVERIFY(window.isVisible());
+        window.close();
+        m_services->setMode(-1);
+        QVERIFY(!window.isVisible());
 
         QSignalSpy starts(m_services, &GuiBase::signalResetToProgramStart);
         QSignalSpy factories(m_services, &GuiBase::signalResetToFactoryDefault);
