@@ -28,7 +28,10 @@ namespace {
 constexpr int windowCount = 50;
 constexpr int dockCount = 8; ///< Of each window, which has a tool bar too, unless told otherwise.
 constexpr int stateVersion = 1;
+/// As many as in the windows of the dock benchmarks.
+constexpr int manyDocks = 20;
 /// The compression has a fixed cost per record, which weighs more with fewer docks.
+constexpr double manyDocksRecordLimit = 0.03;
 constexpr double recordLimit = 0.035;
 constexpr double smallRecordLimit = 0.045;
 constexpr double compressionLimit = 1.3;
@@ -215,6 +218,7 @@ int main(int argc, char** argv)
             name, limit, [docks](benchmark::State& state) { codeRecords(state, docks); },
             [docks](benchmark::State& state) { restoreStates(state, docks); });
     };
+    compareRecords("records_of_50_windows_with_20_docks", manyDocksRecordLimit, manyDocks);
     compareRecords("records_of_50_windows_with_8_docks", recordLimit, 8);
     compareRecords("records_of_50_windows_with_6_docks", smallRecordLimit, 6);
     run.compare(
