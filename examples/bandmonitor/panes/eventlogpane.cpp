@@ -72,7 +72,7 @@ EventLogPane::EventLogPane(EventLog* log, QWidget* parent)
     m_filter->setPlaceholderText(tr("Filter"));
     m_filter->setAccessibleName(tr("Filter of the events"));
     m_filter->installEventFilter(this);
-    m_count->setObjectName(QStringLiteral("eventCount"));
+    m_count->setMargin(2); // from the edge of the window
     buildList();
     buildActions();
 
@@ -296,9 +296,8 @@ void EventLogPane::showCount()
     const std::size_t all = m_log ? m_log->size() : 0;
     m_count->setText(
         all == m_rows.size()
-            ? shown
-            : tr("%1 of %2").arg(shown, locale.toString(static_cast<qulonglong>(all))));
-    m_count->setToolTip(tr("Number of events"));
+            ? tr("Events: %1").arg(shown)
+            : tr("Events: %1 of %2").arg(shown, locale.toString(static_cast<qulonglong>(all))));
 }
 
 // --- Commands ------------------------------------------------------------------------------------
