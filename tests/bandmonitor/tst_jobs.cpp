@@ -1,33 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "jobs.h"
 #include "jobsmenu.h"
-#include "mainwindow.h"
+#include "mainwindowtest.h"
 #include "panes/bandview.h"
 #include "panes/levelspane.h"
 #include "recordings.h"
-#include "support/testguard.h"
+#include "support/testrows.h"
 
-#include <model/joblist.h>
 #include <model/levelline.h>
-#include <model/samplegenerator.h>
 
 #include <guibase/lists/sortrowtable.h>
-#include <guibase/services/guibase.h>
 
-#include <QMenu>
 #include <QShowEvent>
-#include <QSignalSpy>
-#include <QTest>
-
-#include <optional>
 
 using namespace bandmonitor;
 
-class tst_Jobs : public QObject
+class tst_Jobs : public MainWindowTest
 {
     Q_OBJECT
-    std::optional<TestGuard> m_guard;
-    std::unique_ptr<MainWindow> m_window;
+    using Lines = TestRows<QList<double>, double>;
+    using Orders = TestRows<JobOrder, QStringList>;
     qint64 m_clockUs = 0;
 
     int idOf(const QString& part) const
@@ -44,55 +36,33 @@ class tst_Jobs : public QObject
         return m_window->jobs().list().find(idOf(part))->state;
     }
 
-    void makeWindow()
+    void prepare() override
     {
-        m_window = std::make_unique<MainWindow>();
-        m_window->resize(700, 600); // fits on any screen with its frame
-        GuiBase::Instance().RegisterPersistentWidget(m_window.get(), QStringLiteral("main"));
-        m_window->announceModes();
-        m_window->show();
+        openWindow();
+        m_window->replay().setClock([this] { return m_clockUs += 1'700'000; });
+        m_window->replay().setTickInterval(std::chrono::milliseconds(0));
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.emplace();
-        makeWindow();
-        m_window->replay().setClock([this] { return m_clockUs += 1'700'000; });
-        m_window->replay().setTickInterval(std::chrono::milliseconds(0));
-        QSignalSpy opened(m_window.get(), &MainWindow::recordingOpened);
-        m_window->open(samplePath());
-        QVERIFY(opened.wait());
-    }
-
-    void cleanup()
-    {
-        GuiBase::Instance().UnregisterPersistentWidget(m_window.get());
-        m_window.reset();
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-
     void findsWhatIsAboveTheLine_data()
     {
         // Bins of 10 Hz from 0 on, each at -50 dB but the one from 200 to 210 Hz at -20 dB.
-        QTest::addColumn<QList<double>>("line");
-        QTest::addColumn<double>("found"); // 0: none
-        QTest::newRow("no line") << QList<double>() << 0.0;
-        QTest::newRow("point on the bin") << QList<double>{203, -30} << 205.0;
-        QTest::newRow("point beside it") << QList<double>{215, -30} << 0.0;
-        QTest::newRow("point as high") << QList<double>{203, -20} << 0.0;
-        QTest::newRow("slope above") << QList<double>{0, -40, 410, 20} << 0.0;
-        QTest::newRow("slope below") << QList<double>{0, -40, 410, -10} << 205.0;
-        QTest::newRow("second part") << QList<double>{0, 0, 100, 0, 190, -25, 300, -25} << 205.0;
-        QTest::newRow("step") << QList<double>{0, 0, 200, 0, 200, -30, 300, -30} << 205.0;
-        QTest::newRow("ends before") << QList<double>{0, -30, 150, -30} << 0.0;
-        QTest::newRow("outside") << QList<double>{1000, -90, 2000, -90} << 0.0;
+        Lines row; // the line; where the first bin above it is, 0 without
+        row("no line", {}, 0);
+        row("point on the bin", {203, -30}, 205);
+        row("point beside it", {215, -30}, 0);
+        row("point as high", {203, -20}, 0);
+        row("slope above", {0, -40, 410, 20}, 0);
+        row("slope below", {0, -40, 410, -10}, 205);
+        row("second part", {0, 0, 100, 0, 190, -25, 300, -25}, 205);
+        row("step", {0, 0, 200, 0, 200, -30, 300, -30}, 205);
+        row("ends before", {0, -30, 150, -30}, 0);
+        row("outside", {1000, -90, 2000, -90}, 0);
     }
 
     void findsWhatIsAboveTheLine()
     {
-        QFETCH(QList<double>, line);
+        const auto& [line, found] = Lines::fetch();
         std::vector<float> levels(40, -50);
         levels[20] = -20;
         levels[21] = noLevel;
@@ -102,26 +72,23 @@ private Q_SLOTS:
         std::vector<LevelPoint> points;
         for (qsizetype i = 0; i < line.size(); i += 2)
             points.push_back({line[i], line[i + 1]});
-        QTEST(firstAbove(segments.sweep(), points).value_or(0), "found");
+        QCOMPARE(firstAbove(segments.sweep(), points).value_or(0), found);
     }
 
     void menuIsSortedAsChosen_data()
     {
-        QTest::addColumn<int>("order");
-        QTest::addColumn<QStringList>("first");
         const QString jump = QStringLiteral("Jump");
         const QString hold = QStringLiteral("Start the hold");
         const QString pause = QStringLiteral("Pause above");
-        QTest::newRow("name") << int(JobOrder::Name)
-                              << QStringList{QStringLiteral("Export"), jump, pause};
-        QTest::newRow("state") << int(JobOrder::State) << QStringList{pause, jump, hold};
-        QTest::newRow("time") << int(JobOrder::Time) << QStringList{hold, pause, jump};
+        Orders row;
+        row("name", JobOrder::Name, {QStringLiteral("Export"), jump, pause});
+        row("state", JobOrder::State, {pause, jump, hold});
+        row("time", JobOrder::Time, {hold, pause, jump});
     }
 
     void menuIsSortedAsChosen()
     {
-        QFETCH(int, order);
-        QFETCH(QStringList, first);
+        const auto& [order, first] = Orders::fetch();
         Jobs& jobs = m_window->jobs();
         Replay& replay = m_window->replay();
         jobs.run(idOf(QStringLiteral("Jump")));
@@ -130,7 +97,7 @@ private Q_SLOTS:
         replay.pause();
         replay.jump(9);
         auto* menu = m_window->findChild<JobsMenu*>();
-        menu->setOrder(static_cast<JobOrder>(order));
+        menu->setOrder(order);
         // Chosen in the menu, and in its place the next time it is shown.
         menu->findItem(idOf(QStringLiteral("Start the hold")))->trigger();
         QShowEvent show;
@@ -140,8 +107,7 @@ private Q_SLOTS:
         QVERIFY(entries[5]->isSeparator() && entries[6]->menu() != nullptr);
         for (qsizetype i = 0; i < first.size(); ++i)
             QVERIFY2(entries[i]->text().startsWith(first[i]), qPrintable(entries[i]->text()));
-        JobsMenu again(&jobs, nullptr);
-        QCOMPARE(static_cast<int>(again.order()), order);
+        QCOMPARE(JobsMenu(&jobs, nullptr).order(), order);
         jobs.reset();
         QCOMPARE(stateOf(QStringLiteral("Jump")), JobState::Ready);
     }

@@ -1,42 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "jobs.h"
-#include "mainwindow.h"
-#include "manual.h"
-#include "model/samplegenerator.h"
+#include "mainwindowtest.h"
 #include "panes/bandview.h"
 #include "panes/signalspane.h"
-#include "support/testguard.h"
+#include "support/files.h"
+#include "support/modaldialogcloser.h"
 
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
 #include <jtbase/trovos.h>
 
-#include <QApplication>
-#include <QDialog>
-#include <QFile>
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-
-#include <optional>
 
 using namespace bandmonitor;
 
 namespace {
-
-QAction* entry(const MainWindow& window, const QString& text)
-{
-    const QList<QAction*> actions = window.findChildren<QAction*>();
-    for (QAction* action : actions) {
-        if (action->text().remove(QLatin1Char('&')) == text)
-            return action;
-    }
-    return nullptr;
-}
 
 /// Remembers what would have been opened.
 class RecordingOS : public TrovOS
@@ -57,55 +37,18 @@ private:
 
 } // namespace
 
-class tst_MainWindow : public QObject
+class tst_MainWindow : public MainWindowTest
 {
     Q_OBJECT
-    std::optional<TestGuard> m_guard;
     QTemporaryDir m_folder;
-    std::unique_ptr<MainWindow> m_window;
 
     QString write(const QString& name, const QByteArray& content)
     {
-        QFile file(m_folder.filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size()
-                   ? file.fileName()
-                   : QString();
+        return writeFile(m_folder.filePath(name), content) ? m_folder.filePath(name) : QString();
     }
-
-    /// Closes the next dialog and adds its text to `texts`.
-    void closeNextDialog(QString& text)
-    {
-        QTimer::singleShot(5, this, [this, &text] {
-            QWidget* dialog = QApplication::activeModalWidget();
-            if (dialog == nullptr) {
-                closeNextDialog(text);
-                return;
-            }
-            const QList<QLabel*> labels = dialog->findChildren<QLabel*>();
-            for (const QLabel* label : labels)
-                text += label->text() + QLatin1Char('\n');
-            dialog->close();
-        });
-    }
+    void prepare() override { openWindow(); }
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.emplace();
-        m_window = std::make_unique<MainWindow>();
-        m_window->show();
-        QSignalSpy opened(m_window.get(), &MainWindow::recordingOpened);
-        m_window->open(samplePath());
-        QVERIFY(opened.wait());
-    }
-
-    void cleanup()
-    {
-        m_window.reset();
-        QCOMPARE(m_guard->finish(), QString());
-        m_guard.reset();
-    }
-
     void eventLogTellsWhatHappens()
     {
         // After a few sweeps the signals of one band go, and those of another one come.
@@ -115,11 +58,8 @@ private Q_SLOTS:
         SampleSettings first;
         first.sweeps = 5;
         second.startTimeUs = first.startTimeUs + 5 * first.sweepIntervalUs;
-        QSignalSpy opened(m_window.get(), &MainWindow::recordingOpened);
-        m_window->open(
-            write(QStringLiteral("two bands.csv"),
-                  SampleGenerator(first).remaining() + SampleGenerator(second).remaining()));
-        QVERIFY(opened.wait());
+        open(write(QStringLiteral("two bands.csv"),
+                   SampleGenerator(first).remaining() + SampleGenerator(second).remaining()));
         const EventLog& log = m_window->eventLog();
         const auto count = [&log](EventKind kind, const QString& part) {
             int found = 0;
@@ -164,30 +104,22 @@ private Q_SLOTS:
         QCOMPARE(count(EventKind::Recording, QStringLiteral("Not opened: ")), 1);
     }
 
-    void titleTellsFileAndSweep()
+    void cancelledLoadLeavesTheFormerRecording()
     {
         QCOMPARE(m_window->windowTitle(),
                  QStringLiteral("sample.csv – sweep 1 of 120 – bandmonitor"));
-        m_window->replay().stepForward();
-        QVERIFY(m_window->windowTitle().contains(QLatin1String("sweep 2 of 120")));
-        QCOMPARE(m_window->bandView().position(), 1);
-    }
-
-    void cancelledLoadLeavesTheFormerRecording()
-    {
         SampleSettings settings;
         settings.binsPerHop = 4000;
         settings.sweeps = 100;
         const QString file =
             write(QStringLiteral("long.csv"), SampleGenerator(settings).remaining());
         m_window->open(file);
-        QVERIFY(m_window->isLoading());
         auto* cancel = m_window->findChild<QPushButton*>();
         QVERIFY(cancel->isVisible());
         QTest::mouseClick(cancel, Qt::LeftButton);
         QTRY_VERIFY(!cancel->isVisible());
-        QVERIFY(m_window->windowTitle().startsWith(QLatin1String("sample.csv")));
         m_window->replay().stepForward();
+        QVERIFY(m_window->windowTitle().startsWith(QStringLiteral("sample.csv – sweep 2")));
         QCOMPARE(m_window->bandView().position(), 1);
         // Closing in the middle of loading is safe as well.
         m_window->open(file);
@@ -195,21 +127,16 @@ private Q_SLOTS:
         m_window.reset();
     }
 
-    void badFilesAreReported()
+    void skippedLinesAreTold()
     {
         QString text;
-        closeNextDialog(text);
-        QSignalSpy failed(m_window.get(), &MainWindow::openFailed);
-        m_window->open(write(QStringLiteral("bad.csv"), "no recording at all\n"));
-        QTRY_COMPARE(failed.size(), 1);
-        QTRY_VERIFY(!text.isEmpty());
-        QVERIFY(m_window->windowTitle().startsWith(QLatin1String("sample.csv")));
-
-        text.clear();
-        closeNextDialog(text);
-        m_window->open(write(QStringLiteral("gaps.csv"),
-                             SampleGenerator().nextSweep() + "rubbish\nmore rubbish\n"));
-        QTRY_VERIFY(m_window->windowTitle().startsWith(QLatin1String("gaps.csv")));
+        const ModalDialogCloser closer([&text](QDialog& dialog) {
+            const QList<QLabel*> labels = dialog.findChildren<QLabel*>();
+            for (const QLabel* label : labels)
+                text += label->text() + QLatin1Char('\n');
+        });
+        open(write(QStringLiteral("gaps.csv"),
+                   SampleGenerator().nextSweep() + "rubbish\nmore rubbish\n"));
         QTRY_VERIFY2(text.contains(QLatin1String("2 lines")), qPrintable(text));
     }
 
@@ -217,17 +144,14 @@ private Q_SLOTS:
     {
         GuiBase& services = GuiBase::Instance();
         for (const char* name : {"3  MHz", "2  kHz", "1  Hz", "4  GHz"}) {
-            QAction* action = entry(*m_window, QString::fromLatin1(name));
-            QVERIFY(action != nullptr);
-            action->trigger();
+            entry(name)->trigger();
             QCOMPARE(services.GetFrequencyUnit()->GetCurrentIndex() + 1, name[0] - '0');
         }
         services.SetFrequencyUnit(UnitPrefix::Kilo);
-        QVERIFY(entry(*m_window, QStringLiteral("2  kHz"))->isChecked());
-        QVERIFY(!entry(*m_window, QStringLiteral("4  GHz"))->isChecked());
-        entry(*m_window, QStringLiteral("2  1 kHz"))->trigger();
+        QVERIFY(entry("2  kHz")->isChecked() && !entry("4  GHz")->isChecked());
+        entry("2  1 kHz")->trigger();
         QCOMPARE(services.GetFrequencyResolution(), UnitPrefix::Kilo);
-        entry(*m_window, QStringLiteral("1  1 Hz"))->trigger();
+        entry("1  1 Hz")->trigger();
         services.SetFrequencyUnit(UnitPrefix::Mega);
     }
 
@@ -235,11 +159,9 @@ private Q_SLOTS:
     {
         QString opened;
         TrovOS::Set(std::make_unique<RecordingOS>(opened));
-        entry(*m_window, QStringLiteral("Manual..."))->trigger();
+        entry("Manual...")->trigger();
         TrovOS::Set(nullptr);
-        QFile manual(opened);
-        QVERIFY2(manual.open(QIODevice::ReadOnly), qPrintable(opened));
-        QVERIFY(manual.readAll().contains("<h1>bandmonitor</h1>"));
+        QVERIFY2(readFile(opened).contains("<h1>bandmonitor</h1>"), qPrintable(opened));
     }
 };
 

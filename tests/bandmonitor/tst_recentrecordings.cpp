@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "guibase/colors/dialogscript.h"
-#include "mainwindow.h"
-#include "model/samplegenerator.h"
+#include "mainwindowtest.h"
 #include "model/textfile.h"
 #include "panes/bandview.h"
 #include "receiver/receiverpane.h"
@@ -9,7 +8,6 @@
 #include "settings.h"
 #include "support/files.h"
 #include "support/filesizelimit.h"
-#include "support/guardedtest.h"
 #include "support/modaldialogcloser.h"
 
 #include <QDir>
@@ -17,17 +15,14 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace bandmonitor;
 
-class TestRecentRecordings : public GuardedTest
+class TestRecentRecordings : public MainWindowTest
 {
     Q_OBJECT
     QTemporaryDir m_folder;
-    std::unique_ptr<MainWindow> m_window;
 
     QMenu* fileMenu() const { return m_window->menuBar()->actions().constFirst()->menu(); }
     QMenu* recent() const
@@ -41,27 +36,7 @@ class TestRecentRecordings : public GuardedTest
             result += action->text().remove(m_folder.path() + u'/') + u',';
         return result;
     }
-    QAction* entry(QLatin1String text) const
-    {
-        for (QAction* action : fileMenu()->actions()) {
-            if (action->text().contains(text))
-                return action;
-        }
-        return nullptr;
-    }
     QString title() const { return m_window->windowTitle().section(QStringLiteral(" – "), 0, 0); }
-
-    void openWindow()
-    {
-        m_window = std::make_unique<MainWindow>();
-        m_window->show();
-        QSignalSpy opened(m_window.get(), &MainWindow::recordingOpened);
-        m_window->open(samplePath());
-        QVERIFY(opened.wait());
-    }
-
-protected:
-    void tidy() override { m_window.reset(); }
 
 private Q_SLOTS:
     void listsWhatWasOpened()
@@ -72,16 +47,11 @@ private Q_SLOTS:
         openWindow();
         Q_EMIT fileMenu()->aboutToShow();
         QVERIFY(!recent()->menuAction()->isEnabled()); // the sample is none of the user's files
-        for (const char* name : {"a.csv", "b.csv"}) {
-            m_window->open(m_folder.filePath(QLatin1String(name)));
-            QTRY_COMPARE(title(), QLatin1String(name));
-        }
+        for (const char* name : {"a.csv", "b.csv"})
+            open(m_folder.filePath(QLatin1String(name)));
         QTRY_COMPARE(names(), QStringLiteral("&1 b.csv,&2 a.csv,"));
-        Q_EMIT fileMenu()->aboutToShow();
-        QVERIFY(recent()->menuAction()->isEnabled());
-
         DialogScript dialogs({m_folder.filePath(QStringLiteral("c.csv"))}); // then only Escape
-        entry(QLatin1String("Open"))->trigger();
+        entry("Open…")->trigger();
         QTRY_COMPARE(title(), QStringLiteral("c.csv"));
         openWindow();
         QTRY_COMPARE(names(), QStringLiteral("&1 c.csv,&2 b.csv,&3 a.csv,"));
@@ -102,7 +72,6 @@ private Q_SLOTS:
 
     void savesWhatIsVisible()
     {
-        openWindow();
         ReceiverSettings receiver; // changes what is shown, not what is saved
         receiver.gainDb = 20;
         receiver.address = 0x1F;
@@ -124,7 +93,7 @@ private Q_SLOTS:
         const QString unwritable = QStringLiteral("/dev/null/part.csv");
         DialogScript dialogs(
             {file, unwritable, QStringLiteral("Escape"), QStringLiteral("Escape")});
-        entry(QLatin1String("Save"))->trigger();
+        entry("Save visible sweep")->trigger();
         const QByteArray text = readFile(file + QStringLiteral(".csv"));
         QVERIFY2(text.startsWith("# receiver 0x1F\n2026-01-01, "), text.left(60).constData());
         ReadRecording part;
@@ -141,7 +110,7 @@ private Q_SLOTS:
             QCOMPARE(saved.levelAt(hertz), sweep.levelAt(hertz));
 
         QTRY_COMPARE(names(), QStringLiteral("&1 part.csv,"));
-        entry(QLatin1String("Save"))->trigger();
+        entry("Save visible sweep")->trigger();
         QTRY_COMPARE(dialogs.shown().size(), 3);
         QVERIFY(dialogs.shown().constLast().startsWith(QLatin1String("Sweep not saved")));
         QTRY_COMPARE(names(), QStringLiteral("&1 part.csv,"));
