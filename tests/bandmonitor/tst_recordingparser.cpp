@@ -10,7 +10,6 @@
 #include <QTest>
 
 #include <cmath>
-#include <map>
 
 using namespace bandmonitor;
 
@@ -19,23 +18,18 @@ class TestRecordingParser : public GuardedTest
     Q_OBJECT
     using Lines = TestRows<QByteArray, int, double>;
     using Hops = QList<std::pair<int, int>>;
-    using Sweeps = QList<QList<int>>;
-    using HopRows = TestRows<Hops, Sweeps>;
+    using HopRows = TestRows<Hops, QByteArray>;
 
 private Q_SLOTS:
     void lines_data()
     {
         Lines row; // text, bins, step in hertz
         const QByteArray head = "2018-11-18, 12:48:15, ";
-        row("plain", head + "100, 400, 100.00, 7, -1, -2, -3\n", 3, 100);
-        row("no line end", head + "100, 400, 100.00, 7, -1, -2, -3", 3, 100);
         row("CRLF", head + "100, 400, 100.00, 7, -1, -2, -3\r\n\r\n", 3, 100);
-        row("blanks", " \n\t " + head + "\t100 ,400,100.00 ,7,-1 ,-2\t, -3 \n", 3, 100);
-        row("comma at the end", head + "100, 400, 100, 7, -1, -2, -3, \n", 3, 100);
+        row("blanks", " \n\t " + head + "\t100 ,400,100.00 ,7,-1 ,-2\t, -3, \n", 3, 100);
         row("byte order mark", "\xEF\xBB\xBF" + head + "100, 400, 100, 7, 1, 2, 3\n", 3, 100);
         row("last bin repeated", head + "100, 400, 100, 7, -1, -2, -3, -3\n", 3, 100);
-        row("one bin", head + "100, 400, 300, 7, -1\n", 1, 300);
-        row("exponent", head + "1e6, 1.3e6, 1e5, 7e0, -1, -2, -3\n", 3, 1e5);
+        row("exponent", head + "1e6, 1.3e6, 1e5, 7e0, -1, -2, -3", 3, 1e5);
         // 1000 / 4096 Hz is written as 0.24
         const QByteArray rounded = head + "0, 1000, 0.24, 7" + QByteArray(", -1").repeated(4096);
         row("rounded step", rounded, 4096, 1000.0 / 4096);
@@ -55,36 +49,32 @@ private Q_SLOTS:
     }
     void badLines()
     {
-        std::map<LineFault, std::vector<std::string>> lines;
-        lines[LineFault::BadTime] = {"garbage",
-                                     "date, time, low, high, step, samples, dB",
-                                     "2018-11-18",
-                                     "2018-02-30, 12:48:15, 100, 300, 100, 7, 1, 2",
-                                     "1969-12-31, 23:59:59, 100, 300, 100, 7, 1, 2",
-                                     "2018-11-18, 24:00:00, 100, 300, 100, 7, 1, 2"};
-        const auto add = [&lines](LineFault fault, std::initializer_list<const char*> ends) {
-            for (const char* end : ends)
-                lines[fault].push_back(std::string("2018-11-18, 12:48:15") + end);
+        const std::pair<LineFault, QByteArrayList> groups[] = {
+            {LineFault::BadTime,
+             {"garbage", "2018-11-18", "2018-02-30, 12:48:15, 100, 300, 100, 7, 1, 2",
+              "1969-12-31, 23:59:59, 100, 300, 100, 7, 1, 2",
+              "2018-11-18, 24:00:00, 100, 300, 100, 7, 1, 2"}},
+            {LineFault::BadFrequency,
+             {"@", "@, -100, 100, 100, 7, 1, 2", "@, 300, 100, 100, 7, 1, 2",
+              "@, 100, 300, 0, 7, 1, 2", "@, 100, 300, -100, 7, 1, 2", "@, nan, 300, 100, 7, 1, 2",
+              "@, 100, inf, 100, 7, 1, 2", "@, 0, 1e18, 1, 7, 1, 2", "@, 1x, 300, 100, 7, 1, 2"}},
+            {LineFault::BadSamples, {"@, 100, 300, 100, -7, 1, 2", "@, 100, 300, 100"}},
+            {LineFault::NoLevels, {"@, 100, 300, 100, 7"}},
+            {LineFault::BadLevel,
+             {"@, 100, 300, 100, 7, 1, x", "@, 100, 300, 100, 7, 1, , 2",
+              "@, 100, 300, 100, 7, 1, -", "@, 100, 300, 100, 7, 1 2"}},
+            {LineFault::CountMismatch,
+             {"@, 100, 300, 100, 7, 1", "@, 100, 300, 100, 7, 1, 2, 3, 4",
+              "@, 0, 1e13, 0.001, 7, 1, 2"}},
         };
-        add(LineFault::BadFrequency,
-            {"", ", -100, 100, 100, 7, 1, 2", ", 300, 100, 100, 7, 1, 2", ", 100, 300, 0, 7, 1, 2",
-             ", 100, 300, -100, 7, 1, 2", ", nan, 300, 100, 7, 1, 2", ", 100, inf, 100, 7, 1, 2",
-             ", 0, 1e18, 1, 7, 1, 2", ", 1x, 300, 100, 7, 1, 2"});
-        add(LineFault::BadSamples, {", 100, 300, 100, -7, 1, 2", ", 100, 300, 100"});
-        add(LineFault::NoLevels, {", 100, 300, 100, 7"});
-        add(LineFault::BadLevel,
-            {", 100, 300, 100, 7, 1, x", ", 100, 300, 100, 7, 1, , 2", ", 100, 300, 100, 7, 1, -",
-             ", 100, 300, 100, 7, 1 2", ", 100, 300, 100, 7, 1, +-2"});
-        add(LineFault::CountMismatch, {", 100, 300, 100, 7, 1", ", 100, 300, 100, 7, 1, 2, 3, 4",
-                                       ", 0, 1e13, 0.001, 7, 1, 2"});
-        for (const auto& [fault, bad] : lines) {
-            for (const std::string& line : bad) {
+        for (const auto& [fault, lines] : groups) {
+            for (const QByteArray& line : lines) {
+                QByteArray text = '\n' + line + "\n@, 500, 700, 100, 7, 1, 2\n";
                 ReadRecording reader;
-                reader.read("\n" + line + "\n2018-11-18, 12:48:15, 500, 700, 100, 7, 1, 2\n");
+                reader.read(text.replace("@", "2018-11-18, 12:48:15").toStdString());
                 QCOMPARE(reader.parser.skippedCount(), 1);
                 QCOMPARE(reader.parser.skippedLines().at(0).number, 2);
-                QVERIFY2(reader.parser.skippedLines().at(0).fault == fault, line.c_str());
-                QCOMPARE(reader.recording->count(), 1);
+                QVERIFY2(reader.parser.skippedLines().at(0).fault == fault, line.constData());
                 QCOMPARE(reader.recording->sweep(0).lowHz, 500.0);
             }
         }
@@ -93,44 +83,25 @@ private Q_SLOTS:
     {
         ReadRecording reader;
         reader.read("1970-01-01, 00:00:00, 1, 2, 1, 1, 0\n"
-                    "2018-11-18, 12:48:15, 1, 2, 1, 1, 0\n"
                     "2018-11-18, 12:48:15.0000419, 1, 2, 1, 1, 0\n"
                     "2000-02-29, 23:59:60.5, 1, 2, 1, 1, 0\n");
-        QCOMPARE(reader.recording->count(), 4);
         QCOMPARE(reader.recording->sweep(0).timeUs, 0U);
-        QCOMPARE(reader.recording->sweep(1).timeUs, 1'542'545'295'000'000U);
-        QCOMPARE(reader.recording->sweep(2).timeUs, 1'542'545'295'000'041U);
-        QCOMPARE(reader.recording->sweep(3).timeUs, 951'868'800'500'000U);
+        QCOMPARE(reader.recording->sweep(1).timeUs, 1'542'545'295'000'041U);
+        QCOMPARE(reader.recording->sweep(2).timeUs, 951'868'800'500'000U);
     }
     void levels()
     {
-        std::vector<std::pair<const char*, float>> fields = {
-            {"-28.02", -28.02F},
-            {"0", 0.0F},
-            {".5", 0.5F},
-            {"-7.", -7.0F},
-            {"+3.25", 3.25F},
-            {"-1.5e1", -15.0F},
-            {"-123.456789012345678901234567890", -123.45679F},
-            {"0.00000000000000000000000012", 1.2e-25F},
-            {"1000", 1000.0F}};
-        for (const char* text : {"-1000.01", "1e300", "1e9999", "99999999999999999999999999", "nan",
-                                 "-nan", "NaN", "inf", "-inf", "-Infinity"})
-            fields.emplace_back(text, noLevel);
-        std::string line = "2018-11-18, 12:48:15, 0, " + std::to_string(fields.size()) + ", 1, 7";
-        for (const auto& [text, value] : fields)
-            line += std::string(", ") + text;
         ReadRecording reader;
-        reader.read(line);
+        reader.read("2018-11-18, 12:48:15, 0, 15, 1, 7, -28.02, .5, -7., +3.25, -1.5e1, "
+                    "-123.456789012345678901234567890, 0.00000000000000000000000012, 1000, "
+                    "-1000.01, 1e9999, 99999999999999999999999999, -nan, NaN, inf, -Infinity");
         QCOMPARE(reader.parser.report(), QString());
+        const float expected[] = {-28.02F, 0.5F, -7, 3.25F, -15, -123.45679F, 1.2e-25F, 1000};
         const Sweep sweep = reader.recording->sweep(0);
-        for (std::size_t i = 0; i < fields.size(); ++i) {
+        for (std::size_t i = 0; i < 15; ++i) {
             const float level = sweep.segments[0].levels[i];
-            QVERIFY2(level == fields[i].second ||
-                         (std::isnan(level) && std::isnan(fields[i].second)),
-                     qPrintable(QStringLiteral("%1 read as %2")
-                                    .arg(QString::fromLatin1(fields[i].first))
-                                    .arg(static_cast<double>(level))));
+            QVERIFY2(i < std::size(expected) ? level == expected[i] : std::isnan(level),
+                     qPrintable(QString::number(level)));
         }
         QCOMPARE(reader.recording->maximumLevel(), std::optional(1000.0F));
         QCOMPARE(reader.recording->minimumLevel(), std::optional(-123.45679F));
@@ -138,36 +109,29 @@ private Q_SLOTS:
     void sweepsFromHops_data()
     {
         HopRows row; // second and start of each hop; the starts in each sweep
-        row("three hops a sweep", {{1, 0}, {1, 10}, {1, 20}, {2, 0}, {2, 10}},
-            {{0, 10, 20}, {0, 10}});
-        row("out of order", {{1, 20}, {1, 0}, {1, 10}}, {{0, 10, 20}});
-        row("two a second", {{1, 0}, {1, 10}, {1, 0}, {1, 10}}, {{0, 10}, {0, 10}});
-        row("two, out of order", {{1, 10}, {1, 0}, {1, 10}, {1, 0}, {1, 0}},
-            {{0, 10}, {0, 10}, {0}});
-        row("overlapping", {{1, 0}, {1, 3}, {1, 1}}, {{0, 1, 3}});
-        row("backward in time", {{5, 0}, {4, 0}, {5, 10}}, {{0}, {0}, {10}});
+        row("three a sweep", {{1, 0}, {1, 10}, {1, 20}, {2, 0}, {2, 10}}, "0 10 20 | 0 10 | ");
+        row("out of order", {{1, 10}, {1, 0}, {1, 10}, {1, 0}, {1, 0}}, "0 10 | 0 10 | 0 | ");
+        row("overlapping", {{1, 0}, {1, 3}, {1, 1}}, "0 1 3 | ");
+        row("backward in time", {{5, 0}, {4, 0}, {5, 10}}, "0 | 0 | 10 | ");
     }
     void sweepsFromHops()
     {
         const auto& [hops, sweeps] = HopRows::fetch();
-        QByteArray text;
-        for (const auto& [second, start] : hops) {
-            text += QStringLiteral("2018-11-18, 12:48:%1, %2, %3, 1, 1, %2, %2, %2, %2, %2\n")
-                        .arg(second, 2, 10, QLatin1Char('0'))
+        QString text;
+        for (const auto& [second, start] : hops)
+            text += QStringLiteral("2018-11-18, 12:48:0%1, %2, %3, 1, 1, %2, %2, %2, %2, %2\n")
+                        .arg(second)
                         .arg(start)
-                        .arg(start + 5)
-                        .toLatin1();
-        }
+                        .arg(start + 5);
         ReadRecording reader;
         reader.read(text.toStdString());
-        QList<QList<int>> read;
+        QByteArray read;
         for (qsizetype i = 0; i < reader.recording->count(); ++i) {
-            QList<int> starts;
             for (const Segment& segment : reader.recording->sweep(i).segments) {
-                starts << static_cast<int>(segment.startHz);
+                read += QByteArray::number(segment.startHz) + ' ';
                 QCOMPARE(segment.levels[4], static_cast<float>(segment.startHz));
             }
-            read << starts;
+            read += "| ";
         }
         QCOMPARE(read, sweeps);
     }
@@ -199,9 +163,8 @@ private Q_SLOTS:
     {
         ReadRecording reader;
         reader.parser.setMaximumLevels(5);
-        reader.read(
-            "2018-11-18, 12:48:15, 0, 2, 1, 1, 0, 0\n2018-11-18, 12:48:16, 0, 2, 1, 1, 0, 0\n"
-            "2018-11-18, 12:48:17, 0, 2, 1, 1, 0, 0\n");
+        for (int line = 0; line < 3; ++line)
+            reader.read("2018-11-18, 12:48:15, 0, 2, 1, 1, 0, 0\n");
         QCOMPARE(reader.recording->levelCount(), 4U);
         QVERIFY(reader.parser.isFull());
     }
@@ -217,24 +180,17 @@ private Q_SLOTS:
         QCOMPARE(reader.recording->count(), 1);
         const Sweep sweep = reader.recording->sweep(0);
         QCOMPARE(sweep.highHz, 2e12 + 1);
-        QCOMPARE(sweep.levelAt(1e12), std::optional(5.0F));
-        QCOMPARE(sweep.levelAt(1e12 + 1), std::optional<float>());
         QVERIFY(reader.recording->reservedBytes() < 4 * sweep.segments.size() * sizeof(Segment));
     }
     void writtenSweepReadsBack()
     {
         SampleSettings settings;
         settings.sweeps = 3;
-        settings.lowHz = 88'000'012.5;
         settings.stepHz = 1e6 / 3;
         settings.sweepIntervalUs = 250'000;
         const QByteArray text = SampleGenerator(settings).remaining();
-        QVERIFY(text.startsWith("2026-01-01, 00:00:00, 88000012.50, "));
-        QVERIFY(text.contains("2026-01-01, 00:00:00.250000, "));
         ReadRecording reader;
         reader.read(text.toStdString());
-        QCOMPARE(reader.parser.report(), QString());
-        QCOMPARE(reader.recording->count(), 3);
         QCOMPARE(reader.recording->sweep(2).segments[0].stepHz, settings.stepHz);
         QCOMPARE(reader.text().replace("\n\n", "\n"), text);
 
@@ -243,7 +199,6 @@ private Q_SLOTS:
         ReadRecording oddReader;
         const QByteArray remark = receiverRemark(QStringLiteral("0x1F"));
         oddReader.read((remark + sweepText(odd.sweep())).toStdString());
-        QCOMPARE(oddReader.parser.report(), QString());
         QCOMPARE(oddReader.text(), sweepText(odd.sweep()) + '\n');
         QCOMPARE(sweepText(odd.sweep()),
                  QByteArray("1970-01-01, 00:00:00, 1, 3.50, 0.50, 1, nan, 0.00000000000000000001, "
@@ -272,7 +227,6 @@ private Q_SLOTS:
             cut.parser.finish();
             QCOMPARE(cut.text(), whole.text());
             QCOMPARE(cut.parser.report(), whole.parser.report());
-            QCOMPARE(cut.parser.lineCount(), whole.parser.lineCount());
             // What was understood can be written and understood again.
             ReadRecording again;
             again.read(whole.text().toStdString());
