@@ -4,6 +4,8 @@
 #include <model/samplegenerator.h>
 #include <model/signalwatch.h>
 
+#include "support/testrows.h"
+
 #include <QTest>
 
 #include <cmath>
@@ -46,41 +48,40 @@ Signal signalAt(double hertz, double levelDb = -50, double bandwidth = 100)
     return signal;
 }
 
-using Script = std::vector<Signal> (*)(int sweep);
+std::vector<Signal> at(double hertz, bool isThere = true)
+{
+    return isThere ? std::vector{signalAt(hertz)} : std::vector<Signal>();
+}
 
 } // namespace
-Q_DECLARE_METATYPE(Script)
 
 class tst_Signals : public QObject
 {
     Q_OBJECT
+    using Spots = TestRows<int, int, float, int>;
+    using Script = std::vector<Signal> (*)(int sweep);
+    using Types = TestRows<int, QByteArray, Script>;
+
 private Q_SLOTS:
     void detects_data()
     {
         // First bin, bins and level of what is put on noise of -90 dB in two hops of 500 bins of
-        // 10 Hz, from 1000 Hz on; then the band that must be found, or none.
-        QTest::addColumn<int>("first");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<float>("level");
-        QTest::addColumn<int>("signalCount");
-        QTest::newRow("noise only") << 0 << 0 << -90.0F << 0;
-        QTest::newRow("carrier of one bin") << 200 << 1 << -70.0F << 1;
-        QTest::newRow("just above the noise") << 200 << 1 << -82.0F << 1;
-        QTest::newRow("wide and weak") << 200 << 40 << -87.0F << 1;
-        QTest::newRow("weak, but not wide") << 200 << 2 << -87.0F << 0;
-        QTest::newRow("over the seam") << 490 << 20 << -60.0F << 1;
-        QTest::newRow("first bin") << 0 << 3 << -60.0F << 1;
-        QTest::newRow("last bin") << 999 << 1 << -60.0F << 1;
-        QTest::newRow("fills a hop") << 500 << 500 << -60.0F << 1;
-        QTest::newRow("half a hop") << 0 << 250 << -60.0F << 1;
+        // 10 Hz, from 1000 Hz on; then how many signals must be found.
+        Spots row;
+        row("noise only", 0, 0, -90, 0);
+        row("just above the noise", 200, 1, -82, 1);
+        row("wide and weak", 200, 40, -87, 1);
+        row("weak, but not wide", 200, 2, -87, 0);
+        row("over the seam", 490, 20, -60, 1);
+        row("first bin", 0, 3, -60, 1);
+        row("last bin", 999, 1, -60, 1);
+        row("fills a hop", 500, 500, -60, 1);
+        row("half a hop", 0, 250, -60, 1);
     }
 
     void detects()
     {
-        QFETCH(int, first);
-        QFETCH(int, count);
-        QFETCH(float, level);
-        QFETCH(int, signalCount);
+        const auto& [first, count, level, signalCount] = Spots::fetch();
         std::vector<float> levels = noise(1000, -90);
         raise(levels, static_cast<std::size_t>(first), static_cast<std::size_t>(count), level);
         OwnedSegments segments;
@@ -95,10 +96,8 @@ private Q_SLOTS:
         const double slack = level < -65 ? 60 : 0.001;
         const double low = 1000 + 10.0 * first;
         const double high = low + 10.0 * count;
-        QVERIFY2(std::abs(found[0].lowHz - low) <= slack,
-                 qPrintable(QString::number(found[0].lowHz)));
-        QVERIFY2(std::abs(found[0].highHz - high) <= slack,
-                 qPrintable(QString::number(found[0].highHz)));
+        QVERIFY(std::abs(found[0].lowHz - low) <= slack);
+        QVERIFY(std::abs(found[0].highHz - high) <= slack);
         QVERIFY(std::abs(found[0].centreHz - (low + high) / 2) <= slack / 2 + 0.1);
         QCOMPARE(found[0].peakDb, static_cast<double>(level));
     }
@@ -143,58 +142,40 @@ private Q_SLOTS:
 
     void tellsTypes_data()
     {
-        QTest::addColumn<Script>("script");
-        QTest::addColumn<int>("sweeps");
-        QTest::addColumn<QByteArray>("types");
-        QTest::newRow("young") << Script([](int) { return std::vector{signalAt(5000)}; }) << 7
-                               << QByteArray("a");
-        QTest::newRow("fixed") << Script([](int sweep) {
-            return sweep % 8 == 5 ? std::vector<Signal>() : std::vector{signalAt(5000)};
-        }) << 20 << QByteArray("h");
-        QTest::newRow("trembling")
-            << Script([](int sweep) { return std::vector{signalAt(5000 + sweep * 37 % 50)}; }) << 60
-            << QByteArray("h");
-        QTest::newRow("one leap") << Script([](int sweep) {
-            return std::vector{signalAt(sweep < 12 ? 5000 : 5050)};
-        }) << 40 << QByteArray("h");
-        QTest::newRow("chirp that comes to rest") << Script([](int sweep) {
-            return std::vector{signalAt(5000 + 40 * std::min(sweep, 20))};
-        }) << 60 << QByteArray("i");
-        QTest::newRow("burst") << Script([](int sweep) {
-            return sweep % 16 < 2 ? std::vector{signalAt(5000)} : std::vector<Signal>();
-        }) << 40 << QByteArray("k");
-        QTest::newRow("now and then") << Script([](int sweep) {
-            return sweep % 16 < 8 ? std::vector{signalAt(5000)} : std::vector<Signal>();
-        }) << 40 << QByteArray("a");
-        QTest::newRow("hopper") << Script([](int sweep) {
-            return std::vector{signalAt(5000 + 1000 * (sweep * 5 % 7))};
-        }) << 40 << QByteArray("jjjjjjj");
-        QTest::newRow("bursts of unlike levels") << Script([](int sweep) {
+        Types row; // the number of sweeps, the types of the tracks, the signals of each sweep
+        row("young", 7, "a", [](int) { return at(5000); });
+        row("fixed", 20, "h", [](int sweep) { return at(5000, sweep % 8 != 5); });
+        row("trembling", 60, "h", [](int sweep) { return at(5000 + sweep * 37 % 50); });
+        row("one leap", 40, "h", [](int sweep) { return at(sweep < 12 ? 5000 : 5050); });
+        row("drift, then rest", 60, "i", [](int s) { return at(5000 + 40 * std::min(s, 20)); });
+        row("burst", 40, "k", [](int sweep) { return at(5000, sweep % 16 < 2); });
+        row("now and then", 40, "a", [](int sweep) { return at(5000, sweep % 16 < 8); });
+        row("hopper", 40, "jjjjjjj", [](int s) { return at(5000 + 1000 * (s * 5 % 7)); });
+        const auto unlikeLevels = [](int sweep) {
             const int place = sweep * 5 % 7;
             return std::vector{signalAt(5000 + 1000 * place, -20 - 10 * place)};
-        }) << 40 << QByteArray("kkkkkkk");
-        QTest::newRow("bursts at the same time") << Script([](int sweep) {
+        };
+        row("bursts of unlike levels", 40, "kkkkkkk", unlikeLevels);
+        const auto together = [](int sweep) {
             std::vector<Signal> all;
             for (int i = 0; i < 6 && sweep % 10 == 0; ++i)
                 all.push_back(signalAt(5000 + 1000 * i));
             return all;
-        }) << 40 << QByteArray("kkkkkk");
-        QTest::newRow("gone for long") << Script([](int sweep) {
-            return sweep < 9 ? std::vector{signalAt(5000)} : std::vector<Signal>();
-        }) << 80 << QByteArray();
+        };
+        row("bursts at the same time", 40, "kkkkkk", together);
+        row("gone for long", 80, "", [](int sweep) { return at(5000, sweep < 9); });
     }
 
     void tellsTypes()
     {
-        QFETCH(Script, script);
-        QFETCH(int, sweeps);
+        const auto& [sweeps, expected, script] = Types::fetch();
         SignalTracker tracker;
         for (int sweep = 0; sweep < sweeps; ++sweep)
             tracker.add(static_cast<quint64>(sweep), script(sweep));
         QByteArray types;
         for (const SignalTrack& track : tracker.tracks())
             types += track.type;
-        QTEST(types, "types");
+        QCOMPARE(types, expected);
     }
 
     void tracksAreBounded()
@@ -209,7 +190,6 @@ private Q_SLOTS:
         tracker.add(1, crowd(150, 0));
         tracker.add(2, crowd(500, 500)); // keeps the newly seen ones first, of these the older
         QCOMPARE(tracker.tracks().size(), SignalTracker::maximumTracks);
-        QCOMPARE(tracker.tracks().front().id, 1U);
         QCOMPARE(tracker.tracks().front().firstSeenUs, 1U);
         for (const SignalTrack& track : tracker.tracks())
             QVERIFY(track.isPresent());
@@ -229,9 +209,9 @@ private Q_SLOTS:
         for (const SignalTrack& track : watch.tracks())
             ++counts[track.type];
         QCOMPARE(counts['h'], 9); // the stations
-        QVERIFY2(counts['j'] >= 8, qPrintable(QString::number(counts['j'])));
+        QVERIFY(counts['j'] >= 8);
         QVERIFY(counts['i'] >= 1 && counts['i'] <= 2); // the drifting one, hidden for a while
-        QVERIFY2(watch.tracks().size() <= 24, qPrintable(QString::number(watch.tracks().size())));
+        QVERIFY(watch.tracks().size() <= 24);
         const std::uint32_t before = watch.tracks().back().id;
 
         watch.showSweep(10, -1); // back: all begins anew
