@@ -130,8 +130,8 @@ public:
     QAction* CreateResetWidgetViewAction(QObject* parent);
     QAction* CreateResetFactoryViewAction(QObject* parent);
     /// Gives every registered main window the dock layout that it had in the mode last; a mode that
-    /// is new to it starts with the present layout. Only docks change: no window is shown, moved or
-    /// minimized.
+    /// is new to it starts with the present layout. Shows the registered windows, except those that
+    /// the user has closed; none is moved.
     void setMode(long mode);
     /// Makes the present dock layouts the factory layouts of the mode.
     void storeFactoryDefaultWidgets(long mode);
