@@ -11,7 +11,8 @@ class UpdatesBlocker
 public:
     explicit UpdatesBlocker(QWidget& widget)
         : m_widget(&widget)
-        , m_wasEnabled(widget.updatesEnabled())
+        // What the widget itself was told, not what its parents have it do for the moment.
+        , m_wasEnabled(!widget.testAttribute(Qt::WA_ForceUpdatesDisabled))
     {
         widget.setUpdatesEnabled(false);
     }

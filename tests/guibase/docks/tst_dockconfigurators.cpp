@@ -76,6 +76,13 @@ private Q_SLOTS:
         QCOMPARE(dock.features(), QDockWidget::DockWidgetClosable);
         QVERIFY(dock.styleSheet().isEmpty());
         QVERIFY(!dock.updatesEnabled());
+
+        QMainWindow window;
+        QDockWidget inner(&window);
+        window.setUpdatesEnabled(false); // for the moment, and of the window only
+        configurator.configure(inner);
+        window.setUpdatesEnabled(true);
+        QVERIFY(inner.updatesEnabled());
     }
     void actionsComeInOrder_data()
     {
