@@ -14,9 +14,9 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDockWidget>
-#include <QEvent>
 #include <QStyle>
 #include <QTimer>
+#include <QWindowStateChangeEvent>
 
 #include <array>
 #include <utility>
@@ -122,7 +122,7 @@ struct MaximizeMinimizeSupportPrivate
     bool changeTo(State::Type newState, bool (*operation)(QDockWidget&));
     void announceLater(bool reapplyState);
     void reapply(QDockWidget& dock);
-    void takeNotice(const QEvent& stateChange);
+    void takeNotice(const QWindowStateChangeEvent& stateChange);
     void announcePossible(size_t operation);
     void announceChanges();
 
@@ -225,7 +225,8 @@ bool MaximizeMinimizeSupportPrivate::changeTo(State::Type newState, bool (*opera
         return false;
     const QPointer<Support> alive(&q);
     const Notifier notifier(*this, Notifier::ChangesOnly);
-    const QRect geometry = dock->geometry();
+    const QRect geometry =
+        Support::dockWidgetState(*dock) == State::Normal ? dock->geometry() : normalGeometry;
     const bool wasChanging = std::exchange(changing, true);
     const bool changed = operation(*dock);
     if (alive)
@@ -283,7 +284,7 @@ void MaximizeMinimizeSupportPrivate::reapply(QDockWidget& dock)
         normalGeometry = kept;
 }
 
-void MaximizeMinimizeSupportPrivate::takeNotice(const QEvent& stateChange)
+void MaximizeMinimizeSupportPrivate::takeNotice(const QWindowStateChangeEvent& stateChange)
 {
     QDockWidget* dock = q.dockWidget();
     // What the application itself does to the window stays.
@@ -300,6 +301,10 @@ void MaximizeMinimizeSupportPrivate::takeNotice(const QEvent& stateChange)
         insistence = deadline;
         timesToInsist = timesLeft;
     }
+    const Qt::WindowStates maximizedOrMinimized = Qt::WindowMaximized | Qt::WindowMinimized;
+    if (dock != nullptr && dock->isFloating() && Support::dockWidgetState(*dock) != State::Normal &&
+        !stateChange.oldState().testAnyFlags(maximizedOrMinimized))
+        normalGeometry = dock->normalGeometry();
     announceChanges();
 }
 
@@ -453,7 +458,7 @@ bool MaximizeMinimizeSupport::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Show)
         d->announceLater(!event->spontaneous());
     else if (event->type() == QEvent::WindowStateChange && !d->changing)
-        d->takeNotice(*event);
+        d->takeNotice(static_cast<const QWindowStateChangeEvent&>(*event));
     return receiver.hasDied();
 }
 

@@ -163,6 +163,12 @@ private Q_SLOTS:
         QTRY_COMPARE(f.visibleActions(), u"110"_s);
         settle();
         QVERIFY(!f.dock->isMinimized());
+        QTRY_COMPARE(f.dock->geometry(), f.geometry);
+        f.dock->setWindowState(Qt::WindowMaximized);
+        QTRY_VERIFY(f.dock->width() > 700);
+        QVERIFY(f.support->minimizeDockWidget());
+        QVERIFY(f.support->restoreDockWidget());
+        QTRY_COMPARE(f.dock->geometry(), f.geometry);
     }
     void survivesReceiversThatDestroy()
     {
