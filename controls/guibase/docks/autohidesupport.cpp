@@ -171,6 +171,7 @@ void AutoHideSupportPrivate::enable(QDockWidget& dock, Qt::ToolBarArea area)
     q.setDockWidgetActionVisibility(dock, area);
     q.updateToolBarVisibility();
     autoHideDocks.append(&dock);
+    entryOf(&dock)->hadArea = mainWindow.dockWidgetArea(&dock) != Qt::NoDockWidgetArea;
     // Shown now, it would stand alone on the screen.
     if (!mainWindow.isVisible() && !dock.isHidden()) {
         entryOf(&dock)->hiddenByMode = true;
@@ -220,9 +221,13 @@ AutoHideState AutoHideSupportPrivate::state() const
     AutoHideState state;
     state.popupOnHover = popupOnHover->isChecked();
     state.sides = remembered;
-    for (const auto& [key, entry] : entries)
-        if (entry.dock && isOn(*entry.dock) && !entry.dock->objectName().isEmpty())
-            state.sides.insert(entry.dock->objectName(), shownArea(*entry.dock));
+    for (const auto& [key, entry] : entries) {
+        const bool counts = entry.dock && isOn(*entry.dock) && !entry.dock->objectName().isEmpty();
+        // Somebody may have deleted the tool bar.
+        const Qt::ToolBarArea side = counts ? shownArea(*entry.dock) : Qt::NoToolBarArea;
+        if (side != Qt::NoToolBarArea)
+            state.sides.insert(entry.dock->objectName(), side);
+    }
     return state;
 }
 

@@ -29,6 +29,7 @@ struct AutoHideSupportPrivate
         bool hiddenByMode = false;
         bool isClosed = false; ///< By the user or the application, not by the mode.
         bool willHide = false; ///< Once what it has open is closed.
+        bool hadArea = false;  ///< When it entered the mode.
     };
 
     AutoHideSupportPrivate(AutoHideSupport& support, QMainWindow& served,

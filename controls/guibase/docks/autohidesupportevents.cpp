@@ -210,12 +210,16 @@ void AutoHideSupportPrivate::hideLater(QDockWidget& dock)
 void AutoHideSupportPrivate::leaveWhenGone(QDockWidget& dock)
 {
     QTimerHelpers::singleShot(0, &q, [this, guarded = DockPointer(&dock)] {
-        if (!guarded || !isOn(*guarded) || guarded->isVisible() || !mainWindow.isVisible())
+        Entry* entry = guarded ? entryOf(guarded.get()) : nullptr;
+        if (entry == nullptr)
             return;
-        const bool isRemoved = mainWindow.dockWidgetArea(guarded.get()) == Qt::NoDockWidgetArea;
+        // A dock that is still there has refused to be closed.
+        const bool isClosed = std::exchange(entry->isClosed, false);
+        if (!isOn(*guarded) || guarded->isVisible() || !mainWindow.isVisible())
+            return;
+        const bool isRemoved =
+            entry->hadArea && mainWindow.dockWidgetArea(guarded.get()) == Qt::NoDockWidgetArea;
         const bool isDocked = !guarded->isFloating() && syncWithFloating && !allowNonFloating;
-        Entry* entry = entryOf(guarded.get());
-        const bool isClosed = entry != nullptr && std::exchange(entry->isClosed, false);
         if (isClosed || isRemoved)
             entry->hiddenByMode = false;
         if (isClosed || isRemoved || isDocked)

@@ -328,6 +328,11 @@ private Q_SLOTS:
         };
         hides(w.left);
         w.left->show();
+        QCloseEvent refused;
+        QCoreApplication::sendEvent(w.left, &refused);
+        settle();
+        hides(w.left);
+        w.left->show();
         w.left->close();
         hides(w.right);
         w.right->setFloating(false);
