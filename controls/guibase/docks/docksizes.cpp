@@ -36,7 +36,7 @@ struct DockBounds
 /// Bounds the dock so that the layout can only give it this size.
 void squeezeDock(QDockWidget& dock, const QSize& size, Squeeze squeeze)
 {
-    const QSize wanted = size.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    const QSize wanted = size.boundedTo(QSize(QLAYOUTSIZE_MAX, QLAYOUTSIZE_MAX));
     const bool bothSides = squeeze == Squeeze::FromBothSides;
     const QSize minimum = dock.minimumSize();
     if (wanted.width() > 0) {
