@@ -18,7 +18,6 @@ private Q_SLOTS:
     {
         const std::pair<const char*, std::optional<Rows>> texts[] = {
             {"", Rows{}},
-            {"120,0,0;80,1,1;", Rows{{120, 0, 0}, {80, 1, 1}}},
             {" ;; -5 , 6 ; 7", Rows{{-5, 6}, {7}}},
             {"2147483647,-2147483648;", Rows{{2147483647, std::numeric_limits<int>::min()}}},
         };
@@ -45,8 +44,9 @@ private Q_SLOTS:
     void lists()
     {
         const QList<int> sizes{200, -350};
-        QCOMPARE(GeometryArrayParser::formatList(sizes), QStringLiteral("200;-350;"));
-        QCOMPARE(GeometryArrayParser::parseList(QStringLiteral("200;-350;")), std::optional(sizes));
+        const QString text = GeometryArrayParser::formatList(sizes);
+        QCOMPARE(text, QStringLiteral("200;-350;"));
+        QCOMPARE(GeometryArrayParser::parseList(text), std::optional(sizes));
         QVERIFY(!GeometryArrayParser::parseList(QStringLiteral("200;350,1;")));
         QVERIFY(!GeometryArrayParser::parseList(QStringLiteral("200;x;")));
     }

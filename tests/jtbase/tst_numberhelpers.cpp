@@ -21,45 +21,23 @@ std::optional<double> read(const QString& text, const QLocale& locale)
     return ok ? std::optional(static_cast<double>(value)) : std::nullopt;
 }
 
-/// The text of a magnitude greater by one, by hand as no type holds all of them.
-QString incremented(QString digits, int base)
-{
-    for (qsizetype i = digits.size(); i-- > 0;) {
-        const int digit = QStringView(digits).sliced(i, 1).toInt(nullptr, 36) + 1;
-        digits[i] = QString::number(digit % base, 36).front();
-        if (digit < base)
-            return digits;
-    }
-    return QLatin1Char('1') + digits;
-}
-
+/// Of types that are smaller than the largest one.
 template <typename T>
-void checkLimitsOf()
-{
-    constexpr T highest = std::numeric_limits<T>::max();
-    constexpr T lowest = std::numeric_limits<T>::min();
-    for (int base = 2; base <= 36; ++base) {
-        const QString high = QString::number(static_cast<quint64>(highest), base);
-        const QString low = lowest < 0 ? incremented(high, base) : QStringLiteral("0");
-        const QString minus(QLatin1Char('-'));
-        bool ok = false;
-        QCOMPARE(NumberHelpers::parse<T>(high.toUpper(), &ok, base), highest);
-        QVERIFY(ok);
-        QCOMPARE(NumberHelpers::parse<T>(minus + low, &ok, base), lowest);
-        QVERIFY(ok);
-        const QStringList outside = {incremented(high, base), high + high.back(),
-                                     minus + incremented(low, base)};
-        for (const QString& text : outside) {
-            QCOMPARE(NumberHelpers::parse<T>(text, &ok, base), T(0));
-            QVERIFY2(!ok, qPrintable(text));
-        }
-    }
-}
-
-template <typename... Types>
 void checkLimits()
 {
-    (checkLimitsOf<Types>(), ...);
+    const quint64 high = std::numeric_limits<T>::max();
+    const quint64 low = std::is_signed_v<T> ? high + 1 : 0; // without its sign
+    for (int base = 2; base <= 36; ++base) {
+        const auto text = [base](quint64 value) { return QString::number(value, base); };
+        bool ok = false;
+        QCOMPARE(NumberHelpers::parse<T>(text(high).toUpper(), &ok, base), T(high));
+        QCOMPARE(NumberHelpers::parse<T>(u'-' + text(low), &ok, base), T(low));
+        QVERIFY(ok);
+        for (const QString& outside : {text(high + 1), text(high) + u'0', u'-' + text(low + 1)}) {
+            QCOMPARE(NumberHelpers::parse<T>(outside, &ok, base), T(0));
+            QVERIFY2(!ok, qPrintable(outside));
+        }
+    }
 }
 
 QStringList words(const char* text)
@@ -85,20 +63,19 @@ class NumberHelpersTest : public GuardedTest
 private Q_SLOTS:
     void limitsOfIntegerTypes()
     {
-        checkLimits<signed char, unsigned char, short, unsigned short>();
-        checkLimits<int, unsigned int, qint64, quint64>();
-    }
-    void basesOutsideTheRange()
-    {
-        for (int base : {-10, 0, 1, 37}) {
-            bool ok = true;
-            QCOMPARE(NumberHelpers::parse<int>(u"1", &ok, base), 0);
-            QVERIFY(!ok);
+        checkLimits<signed char>();
+        checkLimits<unsigned short>();
+        checkLimits<qint64>();
+        bool ok = false;
+        const quint64 highest = std::numeric_limits<quint64>::max();
+        QCOMPARE(NumberHelpers::parse<quint64>(QString::number(highest, 7), &ok, 7), highest);
+        for (const QString& text : words("18446744073709551616|99999999999999999999|-1")) {
+            NumberHelpers::parse<quint64>(text, &ok);
+            QVERIFY2(!ok, qPrintable(text));
         }
-        bool ok = true;
-        QCOMPARE(NumberHelpers::parse<double>(u"1", &ok, 16), 0.0);
-        QVERIFY(!ok);
-        QCOMPARE(NumberHelpers::parse<int>(u"12", nullptr), 12);
+        for (int base : {-10, 0, 1, 37})
+            QCOMPARE(NumberHelpers::parse<int>(u"1", nullptr, base), 0);
+        QCOMPARE(NumberHelpers::parse<double>(u"1", nullptr, 16), 0.0);
     }
     void texts_data()
     {
@@ -114,17 +91,14 @@ private Q_SLOTS:
         row.add(german, "1.234.567", 1234567, 1234567);
         row.add(german, "1.234,5", none, 1234.5);
         row.add(german, "-,5e+2", none, -50);
-        row.add(german, "5,", none, 5);
         row.add(hindi, "12,34,567", 1234567, 1234567);
         row.add(hindi, "1,234,567", none, none);
         row.add(french, "12 345,5", none, 12345.5);
         row.add(french, "12\u202F345", 12345, 12345);
         row.add(french, "12\u00A0345", 12345, 12345);
-        row.add(french, "12 34", none, none);
         row.add(grouping(QStringLiteral("de_CH")), "1'234", 1234, 1234);
         row.add(grouping(QStringLiteral("es_ES")), "1.234", 1234, 1234);
-        row.add(arabic, "\u0661\u066C\u0662\u0663\u0664", 1234, 1234);
-        row.add(arabic, "\u0661\u066B\u0665", none, 1.5);
+        row.add(arabic, "\u0661\u066C\u0662\u0663\u0664\u066B\u0665", none, 1234.5);
         row.add(arabic, "1.5", none, 1.5);
         row.add(german, QString(QChar(0xD835)), none, none);
         for (const QString& text : words("|-|+-5|--5|- 5|5-|0x10|1 2|inf|nan|1e|e5|1.23|1.2345|"
@@ -178,7 +152,6 @@ private Q_SLOTS:
             expectedOk = expectedOk && integer.match(trimmed).hasMatch();
             QCOMPARE(NumberHelpers::parse<qint64>(text, &ok), expectedOk ? expected : 0);
             QCOMPARE(ok, expectedOk);
-
             const double expectedReal = trimmed.toDouble(&expectedOk);
             expectedOk = expectedOk && real.match(trimmed).hasMatch();
             QCOMPARE(NumberHelpers::parse<double>(text, &ok), expectedOk ? expectedReal : 0.0);
@@ -187,26 +160,16 @@ private Q_SLOTS:
             QVERIFY2(!expectedOk || (ok && decimal == expectedReal), qPrintable(text));
 
             const double value = std::bit_cast<double>(random.engine()());
-            if (!std::isfinite(value))
-                continue;
-            const QString exact = QString::number(value, 'g', 17);
-            QCOMPARE(NumberHelpers::parse<double>(exact), value);
-            QCOMPARE(Trov::toDoubleEx(exact), value);
+            if (std::isfinite(value))
+                QCOMPARE(Trov::toDoubleEx(QString::number(value, 'g', 17)), value);
         }
     }
     void decimalTexts()
     {
         const std::pair<const char*, double> texts[] = {
-            {"  145.5 ", 145.5},
-            {"145,5", 145.5},
-            {"1,234", 1.234},
-            {"1,234.5", 1234.5},
-            {"-1.234.567,25e-2", -12345.6725},
-            {"1,234,567", 1234567},
-            {"+.5E3", 500},
-            {"\u2212\uFF15\uFF0C\uFF15", -5.5},
-            {"4.9406564584124654e-324", 4.9406564584124654e-324},
-            {"1.7976931348623157e308", std::numeric_limits<double>::max()},
+            {" 145,5 ", 145.5},       {"1,234", 1.234},
+            {"1,234.5", 1234.5},      {"-1.234.567,25e-2", -12345.6725},
+            {"1,234,567", 1234567},   {"\u2212\uFF15\uFF0C\uFF15", -5.5},
             {"0e-999999999999", 0.0},
         };
         bool ok = false;
@@ -220,28 +183,19 @@ private Q_SLOTS:
             QCOMPARE(Trov::toDoubleEx(text, &ok), 0.0);
             QVERIFY2(!ok, qPrintable(text));
         }
-        QCOMPARE(Trov::toDoubleEx(QStringLiteral("1,5")), 1.5);
     }
     void hugeTexts()
     {
         constexpr qsizetype size = 1 << 20;
         const QString zeros(size, QLatin1Char('0'));
-        bool ok = false;
-        QCOMPARE(NumberHelpers::parse<signed char>(zeros + QStringLiteral("7"), &ok), 7);
-        QCOMPARE(NumberHelpers::parse<double>(zeros + QStringLiteral("7.") + zeros, &ok), 7.0);
-        QCOMPARE(Trov::toDoubleEx(zeros + QStringLiteral("7,") + zeros, &ok), 7.0);
-        QVERIFY(ok);
-        const QStringList refused = {
-            QString(size, QLatin1Char('9')), QString(size, QLatin1Char(',')),
-            QStringLiteral("0.") + zeros + QLatin1Char('1'), QString(size, QLatin1Char('-')),
-            QString(size, QLatin1Char(' '))};
-        for (const QString& text : refused) {
+        QCOMPARE(NumberHelpers::parse<signed char>(zeros + u'7'), 7);
+        QCOMPARE(NumberHelpers::parse<double>(zeros + u'7' + u'.' + zeros), 7.0);
+        QCOMPARE(Trov::toDoubleEx(zeros + u'7' + u',' + zeros), 7.0);
+        for (const QString& text : {QString(size, u'9'), QString(size, u','), QString(size, u' '),
+                                    QStringLiteral("0.") + zeros + u'1'}) {
+            bool ok = true;
             Trov::toDoubleEx(text, &ok);
-            QVERIFY(!ok);
-            NumberHelpers::parse<double>(text, QLocale(), &ok);
-            QVERIFY(!ok);
-            NumberHelpers::parse<quint64>(text, QLocale(), &ok);
-            QVERIFY(!ok);
+            QVERIFY(!ok && !read<double>(text, QLocale()) && !read<quint64>(text, QLocale()));
         }
     }
 };

@@ -38,11 +38,9 @@ private Q_SLOTS:
     {
         Receiver receiver;
         bool consume = true;
-        QPointer<EventFilter> filter =
-            new EventFilter(&receiver, [&](QObject* watched, QEvent* event) {
-                return watched == &receiver && event->type() == QEvent::User && consume;
-            });
-        QCOMPARE(filter->parent(), &receiver);
+        auto* filter = new EventFilter(&receiver, [&](QObject* watched, QEvent* event) {
+            return watched == &receiver && event->type() == QEvent::User && consume;
+        });
         send(&receiver);
         QCOMPARE(receiver.received, 0);
         consume = false;
@@ -50,11 +48,9 @@ private Q_SLOTS:
         QCOMPARE(receiver.received, 1);
         consume = true;
         delete filter;
-        send(&receiver);
-        QCOMPARE(receiver.received, 2);
         new EventFilter(&receiver, {});
         send(&receiver);
-        QCOMPARE(receiver.received, 3);
+        QCOMPARE(receiver.received, 2);
     }
     void filterHandlerMayDeleteFilter()
     {
@@ -86,14 +82,14 @@ private Q_SLOTS:
     {
         const QPointer<QObject> sender = new QObject;
         QString text;
-        const auto* handler = new SignalHandler(sender, SIGNAL(objectNameChanged(QString)),
-                                                [&sender, &text, kept = QString(50, u'x')] {
-                                                    sender->disconnect();
-                                                    sender->deleteLater();
-                                                    delete sender->findChild<SignalHandler*>();
-                                                    text = kept;
-                                                });
-        QVERIFY(handler->isConnected());
+        const auto end = [&sender, &text, kept = QString(50, u'x')] {
+            sender->disconnect();
+            sender->deleteLater();
+            delete sender->findChild<SignalHandler*>();
+            text = kept;
+        };
+        QVERIFY(
+            (new SignalHandler(sender, SIGNAL(objectNameChanged(QString)), end))->isConnected());
         sender->setObjectName(QStringLiteral("a"));
         QCOMPARE(text.size(), 50);
         QTRY_VERIFY(sender.isNull());
