@@ -10,12 +10,10 @@
 #include <QTimer>
 #include <QWidget>
 
-#include <csignal>
 #include <cstdio>
 #include <memory>
 #include <optional>
 
-#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
@@ -90,18 +88,6 @@ int storeForEver()
     }
 }
 
-/// A file of this process cannot grow over 8192 bytes, as if the disk were full.
-int storeOnFullDisk()
-{
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{8192, 8192};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    settings()->SetString(QStringLiteral("text"), QString(10000, u'x'));
-    const bool isTooLargeStored = CfgCenter::Store();
-    settings()->SetString(QStringLiteral("text"), QStringLiteral("small"));
-    return !isTooLargeStored && CfgCenter::Store() ? 0 : 1;
-}
-
 int holdLock()
 {
     QLockFile lock(CfgCenter::GetAppCfgFileName() + QStringLiteral(".lock"));
@@ -152,8 +138,6 @@ int main(int argc, char** argv)
         return writeKeys(QString::fromLocal8Bit(argv[3]), QByteArray(argv[4]).toInt());
     if (task == QLatin1String("store-forever"))
         return storeForEver();
-    if (task == QLatin1String("full"))
-        return storeOnFullDisk();
     if (task == QLatin1String("lock"))
         return holdLock();
     return runApplication(task, argc, argv);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/files.h"
+#include "support/filesizelimit.h"
 #include "support/guardedtest.h"
 #include "support/testrows.h"
 
@@ -56,56 +57,45 @@ private Q_SLOTS:
     void readsWhatWasStored()
     {
         const QString odd = QStringLiteral("\u20ac \" \\ / \n") + QChar(0) + QChar(0xD800);
-        const QString huge(3000000, u'\u00fc');
+        ICfg* const views[] = {settings, CfgCenter::GetAppCfg(LayoutView), CfgCenter::GetAppCfg(7),
+                               CfgCenter::GetAdminCfg(SettingsView)};
         settings->SetString(odd, odd);
-        settings->SetString(QStringLiteral("huge"), huge);
-        settings->SetInt(number, std::numeric_limits<int>::min());
-        settings->SetBool(QStringLiteral("yes"), true);
+        settings->SetBool(key, true);
         settings->SetInt(QString(), 1);
-        settings->OpenSubCfg(number)->SetInt(QStringLiteral("inner"), 2);
-        layout->SetInt(number, 3);
-        CfgCenter::GetAppCfg(7)->SetInt(number, 4);
-        CfgCenter::GetAdminCfg(SettingsView)->SetInt(number, 5);
-        QVERIFY(!settings->HasSubCfg(QStringLiteral("none")));
+        for (int i = 0; i < 4; ++i)
+            views[i]->SetInt(number, i + std::numeric_limits<int>::min());
+        settings->OpenSubCfg(number)->SetInt(key, 2);
         QVERIFY(!settings->OpenSubCfg(QString()));
         settings->OpenSubCfg(QStringLiteral("none"));
         QVERIFY(!QFile::exists(fileName));
-        QVERIFY(settings->Store());
-        QVERIFY(CfgCenter::Store());
+        QVERIFY(settings->Store() && CfgCenter::Store());
         CfgCenter::LoadAll();
 
         QCOMPARE(settings->GetString(odd), odd);
-        QCOMPARE(settings->GetString(QStringLiteral("huge")), huge);
-        QCOMPARE(settings->GetInt(number), std::numeric_limits<int>::min());
-        QCOMPARE(settings->GetBool(QStringLiteral("yes")), true);
-        QCOMPARE(settings->GetKeys().size(), 4);
+        QCOMPARE(settings->GetBool(key), true);
+        for (int i = 0; i < 4; ++i)
+            QCOMPARE(views[i]->GetInt(number), i + std::numeric_limits<int>::min());
+        QCOMPARE(settings->GetKeys().size(), 3);
         QCOMPARE(settings->GetSubCfgNames(), QStringList(number));
         const auto inner = settings->OpenSubCfg(number);
-        QCOMPARE(inner->GetInt(QStringLiteral("inner")), 2);
-        QCOMPARE(layout->GetInt(number), 3);
-        QCOMPARE(CfgCenter::GetAppCfg(7)->GetInt(number), 4);
-        QCOMPARE(CfgCenter::GetAdminCfg(SettingsView)->GetInt(number), 5);
+        QCOMPARE(inner->GetInt(key), 2);
 
         settings->RemoveSubCfg(number);
-        settings->Remove(QStringLiteral("yes"));
-        QVERIFY(!inner->Contains(QStringLiteral("inner")));
+        settings->Remove(key);
+        QVERIFY(!inner->Contains(key));
         QVERIFY(CfgCenter::Store());
         CfgCenter::LoadAll();
         QVERIFY(!settings->HasSubCfg(number));
-        QVERIFY(!settings->Contains(QStringLiteral("yes")));
-        QVERIFY(settings->Contains(number));
+        QCOMPARE(settings->GetKeys().size(), 2);
     }
     void readsValuesOfOtherKinds_data()
     {
         Kinds row;
-        row("number", "12", "-", 12, true);
         row("fraction", "1.5", "-", 7, true);
         row("too large", "2147483648", "-", 7, true);
         row("boolean", "false", "-", 7, false);
         row("text of number", "\"-12\"", "-12", -12, true);
-        row("text too large", "\"2147483648\"", "2147483648", 7, true);
         row("text of boolean", "\"False\"", "False", 7, false);
-        row("list", "[1]", "-", 7, true);
         row("object", "{\"a\": 1}", "-", 7, true);
     }
     void readsValuesOfOtherKinds()
@@ -119,12 +109,8 @@ private Q_SLOTS:
     void keepsDamagedFilesAside_data()
     {
         TestRows<Make> row;
-        const auto withText = [](const QByteArray& text) {
-            return [text](const QString& name) { return writeFile(name, text); };
-        };
-        row("empty", withText({}));
-        row("cut", withText("{\"settings\": {\"key\": 1"));
-        row("list", withText("[]"));
+        row("cut",
+            [](const QString& name) { return writeFile(name, "{\"settings\": {\"key\": 1"); });
         row("folder", [](const QString& name) { return QDir().mkpath(name); });
         row("pipe", [](const QString& name) {
             return QDir().mkpath(QFileInfo(name).path()) &&
@@ -150,23 +136,19 @@ private Q_SLOTS:
         QCOMPARE(after.isDir(), before.isDir());
         QCOMPARE(after.isFile() ? readFile(after.filePath()) : QByteArray(), text);
         QVERIFY(!QFileInfo::exists(fileName));
-        settings->SetInt(key, 1);
-        QVERIFY(CfgCenter::Store());
-        CfgCenter::LoadAll();
-        QCOMPARE(settings->GetInt(key), 1);
     }
     void keepsWhatItKnowsWhenTheFileGoesBad()
     {
-        settings->SetInt(QStringLiteral("old"), 1);
+        settings->SetInt(key, 1);
         QVERIFY(CfgCenter::Store());
         for (int round = 0; round < 2; ++round) { // both files are kept, even of the same second
             QVERIFY(writeFile(fileName, "damaged"));
-            settings->SetInt(QStringLiteral("new"), round + 1);
+            settings->SetInt(number, round + 1);
             expectTrace("is damaged .* renamed to");
             QVERIFY(CfgCenter::Store());
             CfgCenter::LoadAll();
-            QCOMPARE(settings->GetInt(QStringLiteral("old")), 1);
-            QCOMPARE(settings->GetInt(QStringLiteral("new")), round + 1);
+            QCOMPARE(settings->GetInt(key), 1);
+            QCOMPARE(settings->GetInt(number), round + 1);
         }
         QCOMPARE(QDir(configDir()).entryList({QStringLiteral("*.damaged-*")}).size(), 2);
     }
@@ -179,11 +161,24 @@ private Q_SLOTS:
         QVERIFY(!CfgCenter::Store());
         expectTrace("was not stored");
         CfgCenter::LoadAll();
-        QCOMPARE(settings->GetInt(key), 1);
         QCOMPARE(readFile(configDir()), QByteArray("a file"));
         QVERIFY(QFile::remove(configDir()));
         QVERIFY(CfgCenter::Store());
         QVERIFY(readFile(fileName).contains("\"key\": 1"));
+    }
+    void staysWholeOnAFullDisk()
+    {
+        settings->SetString(number, QString(2000, u'o'));
+        QVERIFY(CfgCenter::Store());
+        const FileSizeLimit full(8192);
+        settings->SetString(key, QString(10000, u'x'));
+        expectTrace("not all of it could be written");
+        QVERIFY(!CfgCenter::Store());
+        settings->SetString(key, QStringLiteral("small"));
+        QVERIFY(CfgCenter::Store());
+        CfgCenter::LoadAll();
+        QCOMPARE(settings->GetString(number), QString(2000, u'o'));
+        QCOMPARE(settings->GetString(key), QStringLiteral("small"));
     }
     void mergesWithWhatOthersStored()
     {
@@ -193,36 +188,29 @@ private Q_SLOTS:
         QVERIFY(writeFile(fileName, "{\"future\": [1], \"settings\": {\"a\": 2, \"c\": 2}}"));
         settings->SetInt(QStringLiteral("a"), 1); // not changed here, so the other one's stays
         settings->SetInt(QStringLiteral("d"), 3);
-        QCOMPARE(settings->GetInt(QStringLiteral("a")), 1);
         QVERIFY(CfgCenter::Store());
         QCOMPARE(settings->GetInt(QStringLiteral("a")), 2);
         QCOMPARE(settings->GetKeys().join(u' '), QStringLiteral("a c d"));
         QVERIFY(readFile(fileName).contains("future"));
         // Nothing changed: nothing is written.
-        const QByteArray odd = "{ }";
-        QVERIFY(writeFile(fileName, odd));
+        QVERIFY(writeFile(fileName, "{ }"));
         settings->SetInt(QStringLiteral("d"), 3);
         QVERIFY(CfgCenter::Store());
-        QCOMPARE(readFile(fileName), odd);
+        QCOMPARE(readFile(fileName), QByteArray("{ }"));
     }
     void storesByItself()
     {
-        CfgCenter::SetAutoStoreDelay(10);
-        settings->SetInt(key, 1);
-        QVERIFY(!QFile::exists(fileName));
-        QTRY_VERIFY(QFile::exists(fileName));
-
         // Changes that never pause for so long do not keep it from storing.
         CfgCenter::SetAutoStoreDelay(300);
-        int last = 1;
+        int last = 0;
         QTRY_VERIFY([&] {
             settings->SetInt(key, ++last);
-            return !readFile(fileName).contains("\"key\": 1\n");
+            return QFile::exists(fileName);
         }());
-
-        CfgCenter::SetAutoStoreDelay(10);
+        QVERIFY(last > 1);
 
         // While another process has the file it tries again.
+        CfgCenter::SetAutoStoreDelay(10);
         QTRY_VERIFY(readFile(fileName).contains("\"key\": " + QByteArray::number(last)));
         QLockFile lock(fileName + QStringLiteral(".lock"));
         QVERIFY(lock.lock());
@@ -244,9 +232,6 @@ private Q_SLOTS:
         CfgCenter::SetAppName(QStringLiteral("other"));
         QVERIFY(!settings->Contains(key));
         QVERIFY(CfgCenter::GetAppCfgFileName().endsWith(QLatin1String("/other.json")));
-    }
-    void namesItsFile()
-    {
         CfgCenter::SetAppName(QStringLiteral("../a\\b"));
         QCOMPARE(CfgCenter::GetAppName(), QStringLiteral(".._a_b"));
         CfgCenter::SetAppName(QString());
@@ -268,12 +253,10 @@ private Q_SLOTS:
         victim = std::make_unique<Component>([] { QFAIL("called after its end"); });
         Component last([this] { settings->SetInt(key, 1); });
         CfgCenter::RegisterSaveComponent(&last);
-        CfgCenter::RegisterSaveComponent(nullptr);
         QVERIFY(CfgCenter::SaveAll());
         QVERIFY(readFile(fileName).contains("\"key\": 1"));
         QCOMPARE(latecomer->calls, QString());
         QVERIFY(CfgCenter::CommitAll());
-        CfgCenter::UnregisterSaveComponent(&last);
         CfgCenter::UnregisterSaveComponent(&last);
         CfgCenter::LoadAll();
         QCOMPARE(first.calls, QStringLiteral("scl"));
@@ -288,12 +271,10 @@ private:
         fileName = CfgCenter::GetAppCfgFileName();
         QCOMPARE(fileName, configDir() + QStringLiteral("/test.json"));
         settings = CfgCenter::GetAppCfg(SettingsView);
-        layout = CfgCenter::GetAppCfg(LayoutView);
     }
 
     QString fileName;
     ICfg* settings = nullptr;
-    ICfg* layout = nullptr;
 };
 
 QTEST_GUILESS_MAIN(TestCfgCenter)
