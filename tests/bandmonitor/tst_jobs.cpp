@@ -22,18 +22,11 @@ class tst_Jobs : public MainWindowTest
     using Orders = TestRows<JobOrder, QStringList>;
     qint64 m_clockUs = 0;
 
-    int idOf(const QString& part) const
+    const Job& job(const char* part) const
     {
-        for (const Job& job : m_window->jobs().list().jobs()) {
-            if (job.name.contains(part))
-                return job.id;
-        }
-        return -1;
-    }
-
-    JobState stateOf(const QString& part) const
-    {
-        return m_window->jobs().list().find(idOf(part))->state;
+        const auto& jobs = m_window->jobs().list().jobs();
+        return *std::ranges::find_if(
+            jobs, [part](const Job& job) { return job.name.contains(QLatin1String(part)); });
     }
 
     void prepare() override
@@ -91,15 +84,15 @@ private Q_SLOTS:
         const auto& [order, first] = Orders::fetch();
         Jobs& jobs = m_window->jobs();
         Replay& replay = m_window->replay();
-        jobs.run(idOf(QStringLiteral("Jump")));
+        jobs.run(job("Jump").id);
         replay.jump(5);
-        jobs.run(idOf(QStringLiteral("Pause above")));
+        jobs.run(job("Pause above").id);
         replay.pause();
         replay.jump(9);
         auto* menu = m_window->findChild<JobsMenu*>();
         menu->setOrder(order);
         // Chosen in the menu, and in its place the next time it is shown.
-        menu->findItem(idOf(QStringLiteral("Start the hold")))->trigger();
+        menu->findItem(job("Start the hold").id)->trigger();
         QShowEvent show;
         QCoreApplication::sendEvent(menu, &show);
         const QList<QAction*> entries = menu->actions();
@@ -109,20 +102,20 @@ private Q_SLOTS:
             QVERIFY2(entries[i]->text().startsWith(first[i]), qPrintable(entries[i]->text()));
         QCOMPARE(JobsMenu(&jobs, nullptr).order(), order);
         jobs.reset();
-        QCOMPARE(stateOf(QStringLiteral("Jump")), JobState::Ready);
+        QCOMPARE(job("Jump").state, JobState::Ready);
     }
 
     void pausesAtANewSignal()
     {
-        const QString name = QStringLiteral("new signal");
-        m_window->jobs().run(idOf(name));
-        QCOMPARE(stateOf(name), JobState::Waiting);
-        QTRY_COMPARE(stateOf(name), JobState::Done);
+        const char* const name = "new signal";
+        m_window->jobs().run(job(name).id);
+        QCOMPARE(job(name).state, JobState::Waiting);
+        QTRY_COMPARE(job(name).state, JobState::Done);
         QVERIFY(!m_window->replay().isPlaying());
         QVERIFY(m_window->replay().position() < 10); // the hopper comes soon
-        m_window->jobs().run(idOf(name));
-        m_window->jobs().run(idOf(name)); // called off
-        QCOMPARE(stateOf(name), JobState::Ready);
+        m_window->jobs().run(job(name).id);
+        m_window->jobs().run(job(name).id); // called off
+        QCOMPARE(job(name).state, JobState::Ready);
     }
 
     void pausesAtTheSweepAboveTheLevels()
@@ -136,8 +129,8 @@ private Q_SLOTS:
             ++expected;
         QVERIFY(expected > 5);
         replay.setSpeed(7.3); // passes several sweeps at once
-        m_window->jobs().run(idOf(QStringLiteral("above")));
-        QTRY_COMPARE(stateOf(QStringLiteral("above")), JobState::Done);
+        m_window->jobs().run(job("above").id);
+        QTRY_COMPARE(job("above").state, JobState::Done);
         QCOMPARE(replay.position(), expected);
         QVERIFY(std::abs(m_window->bandView().view().cursor() - 99.25e6) < 25e3);
     }

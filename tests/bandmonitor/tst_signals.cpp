@@ -31,10 +31,9 @@ std::vector<float> noise(std::size_t bins, float floorDb, unsigned seed = 1)
     return levels;
 }
 
-void raise(std::vector<float>& levels, std::size_t first, std::size_t count, float levelDb)
+void raise(std::vector<float>& levels, int first, int count, float levelDb)
 {
-    for (std::size_t i = first; i < first + count; ++i)
-        levels[i] = levelDb;
+    std::fill_n(levels.begin() + first, count, levelDb);
 }
 
 Signal signalAt(double hertz, double levelDb = -50, double bandwidth = 100)
@@ -50,7 +49,7 @@ Signal signalAt(double hertz, double levelDb = -50, double bandwidth = 100)
 
 std::vector<Signal> at(double hertz, bool isThere = true)
 {
-    return isThere ? std::vector{signalAt(hertz)} : std::vector<Signal>();
+    return std::vector(isThere ? 1 : 0, signalAt(hertz));
 }
 
 } // namespace
@@ -83,7 +82,7 @@ private Q_SLOTS:
     {
         const auto& [first, count, level, signalCount] = Spots::fetch();
         std::vector<float> levels = noise(1000, -90);
-        raise(levels, static_cast<std::size_t>(first), static_cast<std::size_t>(count), level);
+        raise(levels, first, count, level);
         OwnedSegments segments;
         segments.add(1000, 10, {levels.begin(), levels.begin() + 500});
         segments.add(6000, 10, {levels.begin() + 500, levels.end()});
@@ -96,8 +95,8 @@ private Q_SLOTS:
         const double slack = level < -65 ? 60 : 0.001;
         const double low = 1000 + 10.0 * first;
         const double high = low + 10.0 * count;
-        QVERIFY(std::abs(found[0].lowHz - low) <= slack);
-        QVERIFY(std::abs(found[0].highHz - high) <= slack);
+        QVERIFY(std::abs(found[0].lowHz - low) <= slack &&
+                std::abs(found[0].highHz - high) <= slack);
         QVERIFY(std::abs(found[0].centreHz - (low + high) / 2) <= slack / 2 + 0.1);
         QCOMPARE(found[0].peakDb, static_cast<double>(level));
     }
@@ -191,8 +190,7 @@ private Q_SLOTS:
         tracker.add(2, crowd(500, 500)); // keeps the newly seen ones first, of these the older
         QCOMPARE(tracker.tracks().size(), SignalTracker::maximumTracks);
         QCOMPARE(tracker.tracks().front().firstSeenUs, 1U);
-        for (const SignalTrack& track : tracker.tracks())
-            QVERIFY(track.isPresent());
+        QVERIFY(std::ranges::all_of(tracker.tracks(), &SignalTrack::isPresent));
         QCOMPARE(tracker.tracks()[1].signal.centreHz, 1500.0);
     }
 
@@ -217,8 +215,8 @@ private Q_SLOTS:
         watch.showSweep(10, -1); // back: all begins anew
         QCOMPARE(watch.newcomer(), nullptr);
         QCOMPARE(watch.track(before), nullptr);
-        for (const SignalTrack& track : watch.tracks())
-            QCOMPARE(track.type, 'a');
+        QCOMPARE(std::ranges::count(watch.tracks(), 'a', &SignalTrack::type),
+                 std::ssize(watch.tracks()));
         for (qsizetype sweep = 11; sweep < 30 && watch.newcomer() == nullptr; ++sweep)
             watch.showSweep(sweep, sweep - 1);
         QVERIFY(watch.newcomer() != nullptr); // the hopper does not stand still
