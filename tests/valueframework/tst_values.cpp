@@ -6,8 +6,6 @@
 
 #include <QTest>
 
-#include <functional>
-
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -43,58 +41,62 @@ std::vector<SelectionItem> items(const QList<int>& keys)
     return result;
 }
 
+bool insert(ValueSelection& selection, int index)
+{
+    selection.InsertItem(index, SelectionItem(QStringLiteral("new"), true, 9));
+    return true;
+}
+
+bool refill(ValueSelection& selection, const QList<int>& keys)
+{
+    selection.SetItems(items(keys));
+    return true;
+}
+
 } // namespace
 
 class TestValues : public QObject
 {
     Q_OBJECT
-    using Action = std::function<bool(ValueSelection&)>;
-    using Rules = TestRows<QList<int>, int, Action, bool, int, QString>;
+    using S = ValueSelection&;
+    using Rules = TestRows<QList<int>, int, bool, int, QString, bool (*)(S)>;
     using Variants = TestRows<QVariant, QString>;
 
 private Q_SLOTS:
     void selectionRules_data()
     {
-        // Keys, current index, action, whether it is accepted; current index then, what is told.
-        Rules row;
-        row("first item becomes current", {}, -1, insert(5), true, 0, "8:9 3:9");
-        row("insert before current", {1, 2}, 1, insert(0), true, 2, "8:2");
-        row("insert at current", {1, 2}, 0, insert(0), true, 1, "8:1");
-        row("insert behind the end", {1, 2}, 1, insert(99), true, 1, "8:2");
-        row("insert before the start", {1, 2}, 1, insert(-7), true, 2, "8:2");
-        row("remove before current", {1, 2, 3}, 1, remove(0), true, 0, "9:2");
-        row("remove after current", {1, 2, 3}, 1, remove(2), true, 1, "9:2");
-        row("remove current", {1, 2, 3}, 1, remove(1), true, 1, "9:3 3:3");
-        row("remove current at the end", {1, 2, 3}, 2, remove(2), true, 1, "9:2 3:2");
-        row("remove the only item", {1}, 0, remove(0), true, -1, "9: 3:");
-        row("remove nothing", {1}, 0, remove(1), false, 0, "");
-        row("replace, item stays", {1, 2}, 1, replace({5, 2}), true, 1, "4:2");
-        row("replace, same key, other name", {1, 2}, 1, replace({2, 1}), true, 0, "4:2 3:2");
-        row("replace, key is gone", {1, 2}, 1, replace({7, 8}), true, 0, "4:7 3:7");
-        row("replace by nothing", {1, 2}, 1, replace({}), true, -1, "4: 3:");
-        row("key", {1, 2}, 0, key(2), true, 1, "3:2");
-        row("key that a former item has too", {2, 1, 2}, 2, key(2), true, 2, "");
-        row("unknown key", {1, 2}, 1, key(3), false, 1, "");
-        row("value", {1, 2, 3}, 0, value(1.5), true, 2, "3:3");
-        row("unknown value", {1, 2}, 0, value(1.25), false, 0, "");
-        row("no number", {1, 2}, 0, value(std::nan("")), false, 0, "");
-        row("index behind the end", {1, 2}, 0, index(2), false, 0, "");
-        row("no index", {1, 2}, 0, index(-1), false, 0, "");
+        Rules row; // keys, current index; whether it is accepted, current index then, what is told
+        row("first item", {}, -1, true, 0, "8:9 3:9", [](S s) { return insert(s, 5); });
+        row("insert at current", {1, 2}, 0, true, 1, "8:1", [](S s) { return insert(s, 0); });
+        row("insert behind the end", {1, 2}, 1, true, 1, "8:2", [](S s) { return insert(s, 99); });
+        row("insert first", {1, 2}, 1, true, 2, "8:2", [](S s) { return insert(s, -7); });
+        row("remove before", {1, 2, 3}, 1, true, 0, "9:2", [](S s) { return s.RemoveItem(0); });
+        row("remove after", {1, 2, 3}, 1, true, 1, "9:2", [](S s) { return s.RemoveItem(2); });
+        row("remove last", {1, 2, 3}, 2, true, 1, "9:2 3:2", [](S s) { return s.RemoveItem(2); });
+        row("remove all", {1}, 0, true, -1, "9: 3:", [](S s) { return s.RemoveItem(0); });
+        row("remove nothing", {1}, 0, false, 0, "", [](S s) { return s.RemoveItem(1); });
+        row("item stays", {1, 2}, 1, true, 1, "4:2", [](S s) { return refill(s, {5, 2}); });
+        row("other name", {1, 2}, 1, true, 0, "4:2 3:2", [](S s) { return refill(s, {2, 1}); });
+        row("key is gone", {1, 2}, 1, true, 0, "4:7 3:7", [](S s) { return refill(s, {7, 8}); });
+        row("replace by none", {1, 2}, 1, true, -1, "4: 3:", [](S s) { return refill(s, {}); });
+        row("same keys", {2, 1, 2}, 2, true, 2, "", [](S s) { return s.SetKey(2); });
+        row("unknown key", {1, 2}, 1, false, 1, "", [](S s) { return s.SetKey(3); });
+        row("value", {1, 2, 3}, 0, true, 2, "3:3", [](S s) { return s.SetValue(1.5); });
+        row("unknown value", {1, 2}, 0, false, 0, "", [](S s) { return s.SetValue(1.25); });
+        row("no number", {1, 2}, 0, false, 0, "", [](S s) { return s.SetValue(std::nan("")); });
     }
     void selectionRules()
     {
-        const auto& [keys, before, action, accepted, indexAfter, told] = Rules::fetch();
+        const auto& [keys, before, accepted, indexAfter, told, action] = Rules::fetch();
         ValueSelection selection(QStringLiteral("selection"));
-        QCOMPARE(selection.GetValue(), 0.0);
         for (const SelectionItem& item : items(keys))
             selection.AddItem(item);
         QCOMPARE(selection.GetCurrentIndex(), keys.isEmpty() ? -1 : 0);
-        selection.SetCurrentIndex(before);
+        QCOMPARE(selection.SetCurrentIndex(before), before >= 0);
         Recorder recorder(selection);
         QCOMPARE(action(selection), accepted);
         QCOMPARE(selection.GetCurrentIndex(), indexAfter);
         QCOMPARE(recorder.takeLog(), told);
-        QCOMPARE(selection.GetCurrentItem(), selection.GetItem(indexAfter));
     }
     void limits()
     {
@@ -125,10 +127,8 @@ private Q_SLOTS:
         Variants row; // accepted by bool, text, int, double and selection
         row("invalid", QVariant(), "-----");
         row("list", QVariantList{1}, "-----");
-        row("text", QStringLiteral("x"), "-t---");
         row("truth as text", QStringLiteral("True"), "bt---");
         row("key as text", QStringLiteral("1"), "btids");
-        row("other key", 7, "btid-");
         row("fraction", 1.5, "btid-");
         row("too large", 1e300, "btid-");
         row("not a number", std::nan(""), "bt---");
@@ -152,36 +152,6 @@ private Q_SLOTS:
             QVERIFY(fits || value->GetVariant() == before);
         }
         QCOMPARE(accepted, expected);
-    }
-
-private:
-    using S = ValueSelection&;
-    static Action insert(int index)
-    {
-        return [index](S s) {
-            s.InsertItem(index, SelectionItem(QStringLiteral("new"), true, 9));
-            return true;
-        };
-    }
-    static Action replace(const QList<int>& keys)
-    {
-        return [keys](S s) { return s.SetItems(items(keys)), true; };
-    }
-    static Action remove(int index)
-    {
-        return [index](S s) { return s.RemoveItem(index); };
-    }
-    static Action key(int key)
-    {
-        return [key](S s) { return s.SetKey(key); };
-    }
-    static Action value(double value)
-    {
-        return [value](S s) { return s.SetValue(value); };
-    }
-    static Action index(int index)
-    {
-        return [index](S s) { return s.SetCurrentIndex(index); };
     }
 };
 
