@@ -5,6 +5,10 @@
 #include <guibase/inputs/suffixeddouble.h>
 #include <guibase/services/guibase.h>
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+
 namespace bandmonitor {
 
 FrequencyText::FrequencyText()
@@ -31,9 +35,15 @@ QString FrequencyText::full(double hertz) const
     return m_number->GetString(hertz);
 }
 
-QString FrequencyText::shortest(double hertz) const
+QString FrequencyText::width(double hertz)
 {
-    return m_number->GetShortestString(hertz);
+    constexpr std::array units{"Hz", "kHz", "MHz", "GHz"};
+    const double step = std::pow(10, std::floor(std::log10(std::max(hertz, 1.0))) - 2);
+    double number = std::round(hertz / step) * step;
+    std::size_t unit = 0;
+    for (; number >= 1000 && unit + 1 < units.size(); ++unit)
+        number /= 1000;
+    return QStringLiteral("%1 %2").arg(number).arg(QLatin1String(units[unit]));
 }
 
 QString FrequencyText::unit() const

@@ -24,8 +24,8 @@ public:
     QString label(double hertz) const;
     /// The number with all its digits, and the unit.
     QString full(double hertz) const;
-    /// In the unit that makes the number shortest; for widths.
-    QString shortest(double hertz) const;
+    /// A width to three digits, in the unit that leaves one to three of them in front of the point.
+    static QString width(double hertz);
     QString unit() const;
     /// The smallest difference that the texts can express, in hertz.
     double resolution() const;

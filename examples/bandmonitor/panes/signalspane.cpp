@@ -217,7 +217,7 @@ bool SignalsPane::fillRow(Row& row, const SignalTrack& track, bool anew)
         [&] { return tr("%1 dB").arg(signal.peakDb, 0, 'f', 1); }, QString());
     cell(
         signal.bandwidthHz() != shown.signal.bandwidthHz(), Bandwidth,
-        [&] { return m_text.shortest(signal.bandwidthHz()); },
+        [&] { return FrequencyText::width(signal.bandwidthHz()); },
         QString::number(signal.bandwidthHz(), 'f', 3));
     cell(
         track.type != shown.type, Type,
