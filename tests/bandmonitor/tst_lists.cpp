@@ -4,6 +4,7 @@
 #include "support/testrows.h"
 
 #include <model/samplegenerator.h>
+#include <panes/frequencytext.h>
 #include <panes/levelspane.h>
 #include <panes/panecolors.h>
 #include <panes/referencelevels.h>
@@ -120,6 +121,8 @@ private Q_SLOTS:
         QTRY_COMPARE(item->text(SignalsPane::LastSeen), QStringLiteral("00:00:31"));
         QCOMPARE(itemOf(id), item);
 
+        QCOMPARE(FrequencyText::width(24'219), QStringLiteral("24.2 kHz"));
+        QCOMPARE(FrequencyText::width(999'900), QStringLiteral("1 MHz"));
         GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
         m_signals->refreshTexts();
         QVERIFY(item->text(SignalsPane::Frequency).endsWith(QLatin1String(" kHz")));
