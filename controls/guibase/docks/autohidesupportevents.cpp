@@ -36,6 +36,8 @@ constexpr const char* buttonProperty = "QMainWindowHelpers_AutoHideSupport_toggl
 constexpr int expandedExtent = 24;
 constexpr int popupButtonExtent = 24;
 constexpr int titleMargins = 6;
+/// Milliseconds, at least, until it is looked again whether a dock's menu or dialog is still open.
+constexpr int shortestWait = 50;
 
 bool isAtSide(Qt::ToolBarArea area)
 {
@@ -195,7 +197,8 @@ void AutoHideSupportPrivate::hideLater(QDockWidget& dock)
     Entry* entry = entryOf(&dock);
     if (entry == nullptr || std::exchange(entry->willHide, true))
         return;
-    QTimerHelpers::singleShot(delay, &q, [this, key = static_cast<const QObject*>(&dock)] {
+    const int wait = std::max(delay, shortestWait);
+    QTimerHelpers::singleShot(wait, &q, [this, key = static_cast<const QObject*>(&dock)] {
         Entry* waiting = entryOf(key);
         if (waiting == nullptr)
             return;
@@ -328,6 +331,7 @@ void AutoHideSupport::timerEvent(QTimerEvent* event)
         return;
     if (hasOpenWindow(*dock)) {
         activateAutoHideTimer(*dock);
+        d->hideTimer.start(std::max(d->delay, shortestWait), this);
         d->waitsForOpenWindow = true;
     } else if (!waited || !isUnderCursor(*dock)) {
         d->hideDock(*dock);
