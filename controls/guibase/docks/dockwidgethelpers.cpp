@@ -18,6 +18,8 @@ QDockWidget* makeDockWidgetFrom(QWidget& widget)
                                    ? QString()
                                    : widget.objectName() + QStringLiteral("_outerDockWidget");
     const Qt::WindowFlags windowFlags = widget.windowFlags();
+    // That of its parents it would give as well, and so does the dock.
+    const bool hasIcon = widget.testAttribute(Qt::WA_SetWindowIcon);
     const UpdatesBlocker blocker(widget);
     auto* dock = new QDockWidget(widget.parentWidget());
     widget.setParent(dock);
@@ -27,8 +29,8 @@ QDockWidget* makeDockWidgetFrom(QWidget& widget)
         .withFocusPolicy(widget.focusPolicy())
         .withWindowFlags(windowFlags)
         .withStyleSheet(widget.styleSheet())
-        .configure(*dock, noActions, objectName, widget.windowTitle(), widget.windowIcon(),
-                   widget.windowIconText());
+        .configure(*dock, noActions, objectName, widget.windowTitle(),
+                   hasIcon ? widget.windowIcon() : QIcon(), widget.windowIconText());
     return dock;
 }
 

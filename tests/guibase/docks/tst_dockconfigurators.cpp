@@ -140,6 +140,7 @@ private Q_SLOTS:
     void anyWidgetBecomesADock()
     {
         QMainWindow window;
+        window.setWindowIcon(QPixmap(16, 16));
         auto* viewer = new QWidget(&window);
         viewer->setObjectName(u"viewer"_s);
         viewer->setFocusPolicy(Qt::ClickFocus);
@@ -147,6 +148,7 @@ private Q_SLOTS:
         QDockWidget* dock = makeDockWidgetFrom(*viewer);
         QCOMPARE(dock->objectName(), u"viewer_outerDockWidget"_s);
         QCOMPARE(dock->widget(), viewer);
+        QVERIFY(!dock->testAttribute(Qt::WA_SetWindowIcon));
         QCOMPARE(dock->focusPolicy(), Qt::ClickFocus);
         QCOMPARE(dock->styleSheet(), u"color: red"_s);
         QCOMPARE(makeDockWidgetFrom(*dock), dock);
