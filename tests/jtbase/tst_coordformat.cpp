@@ -4,8 +4,6 @@
 
 #include <jtbase/coordformat.h>
 
-#include <QTest>
-
 class CoordFormatTest : public GuardedTest
 {
     Q_OBJECT

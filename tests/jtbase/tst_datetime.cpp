@@ -4,8 +4,6 @@
 
 #include <jtbase/datetime.h>
 
-#include <QTest>
-
 #include <limits>
 
 using Trov::DateTime;

@@ -7,9 +7,7 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 
-#include <memory>
 #include <thread>
 #include <vector>
 

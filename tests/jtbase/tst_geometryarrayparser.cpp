@@ -4,8 +4,6 @@
 
 #include <jtbase/geometryarrayparser.h>
 
-#include <QTest>
-
 #include <limits>
 
 using Rows = QList<QList<int>>;

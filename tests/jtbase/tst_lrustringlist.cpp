@@ -3,8 +3,6 @@
 
 #include <jtbase/lrustringlist.h>
 
-#include <QTest>
-
 namespace {
 
 QStringList letters(const char* text)

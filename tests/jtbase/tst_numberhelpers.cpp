@@ -6,7 +6,6 @@
 #include <jtbase/numberhelpers.h>
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <cmath>
 #include <limits>

@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QPointer>
-#include <QTest>
 
 using QObjectHelpers::EventFilter;
 using QObjectHelpers::SignalHandler;

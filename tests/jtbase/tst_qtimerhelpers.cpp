@@ -5,10 +5,7 @@
 
 #include <QEventLoop>
 #include <QPointer>
-#include <QTest>
 #include <QTimer>
-
-#include <memory>
 
 using QTimerHelpers::singleShot;
 

@@ -5,7 +5,6 @@
 
 #include <QDesktopServices>
 #include <QTemporaryFile>
-#include <QTest>
 #include <QUrl>
 
 class TrovOsTest : public GuardedTest

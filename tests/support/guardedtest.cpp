@@ -3,8 +3,6 @@
 
 #include "support/testguard.h"
 
-#include <QTest>
-
 GuardedTest::GuardedTest() = default;
 GuardedTest::~GuardedTest() = default;
 
