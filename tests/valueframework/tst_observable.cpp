@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "probe.h"
+
 #include <valueframework/tree.h>
 #include <valueframework/value.h>
 
@@ -15,24 +17,6 @@
 #include <vector>
 
 namespace {
-
-class Probe : public IObserver
-{
-public:
-    using Reaction = std::function<void(Probe*, Observable*, TChangeCode)>;
-
-    explicit Probe(Reaction reaction)
-        : m_reaction(std::move(reaction))
-    {}
-    void Update(Observable* observable, TChangeCode code) override
-    {
-        const Reaction reaction = m_reaction; // the reaction may destroy this object
-        reaction(this, observable, code);
-    }
-
-private:
-    Reaction m_reaction;
-};
 
 /// Observers that do at random, while they are told of a change, everything that is allowed, and a
 /// model of who has to be told of what.

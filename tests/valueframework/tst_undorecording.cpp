@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "probe.h"
+
 #include <valueframework/tree.h>
 #include <valueframework/undorecording.h>
 #include <valueframework/value.h>
@@ -12,33 +14,7 @@
 #include <deque>
 #include <memory>
 
-namespace {
-
 using Trigger = UndoRecordingTriggerByValueClient;
-
-/// A limit that follows another value, set by a part that records its own steps.
-class UpperLimit : public IObserver
-{
-public:
-    UpperLimit(ValueNumeric<int>& source, ValueNumeric<int>& limited)
-        : m_source(source)
-        , m_limited(limited)
-    {
-        source.Attach(this);
-    }
-    void Update(Observable*, TChangeCode) override
-    {
-        const Trigger trigger(QStringLiteral("base"), QStringLiteral("coupling"));
-        m_limited.SetRange(0, m_source.GetValue());
-        QVERIFY(!UndoRecording::Instance().undo() && !UndoRecording::Instance().redo());
-    }
-
-private:
-    ValueNumeric<int>& m_source;
-    ValueNumeric<int>& m_limited;
-};
-
-} // namespace
 
 class TestUndoRecording : public QObject
 {
@@ -82,7 +58,13 @@ private Q_SLOTS:
         ValueSelection selection(QStringLiteral("selection"));
         for (int i = 0; i < 3; ++i)
             selection.AddItem(SelectionItem(QString::number(i), false, i));
-        UpperLimit coupling(source, limited);
+        // A limit that follows another value, set by a part that records its own steps.
+        Probe coupling([&](auto...) {
+            const Trigger trigger(QStringLiteral("base"), QStringLiteral("coupling"));
+            limited.SetRange(0, source.GetValue());
+            QVERIFY(!m_undo.undo() && !m_undo.redo());
+        });
+        source.Attach(&coupling);
         const std::vector<ValueBase*> values{&source, &limited, &text, &selection};
         for (ValueBase* value : values)
             QVERIFY(Tree::Instance().Add(QStringLiteral("base/sub"), value));
