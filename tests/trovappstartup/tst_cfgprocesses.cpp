@@ -8,10 +8,8 @@
 #include <trovappstartup/cfgcenter.h>
 
 #include <QDir>
-#include <QTest>
 
 #include <csignal>
-#include <memory>
 #include <vector>
 
 /// What becomes of the configuration when several processes use it, and when they die.

@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
