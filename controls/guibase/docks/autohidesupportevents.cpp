@@ -16,8 +16,6 @@
 #include <QCursor>
 #include <QKeyEvent>
 #include <QLayout>
-#include <QMenu>
-#include <QPushButton>
 #include <QStyle>
 #include <QTextDocument>
 #include <QWidgetAction>
@@ -85,31 +83,17 @@ bool isInside(const QWidget* widget, const QWidget& ancestor)
     return widget != nullptr;
 }
 
-/// Whether the dock has a button that opens this menu, which may belong to anybody.
-bool hasButtonOf(const QDockWidget& dock, const QWidget& menu)
-{
-    const QList<QAbstractButton*> buttons = dock.findChildren<QAbstractButton*>();
-    return std::any_of(buttons.cbegin(), buttons.cend(), [&menu](const QAbstractButton* button) {
-        const auto* tool = qobject_cast<const QToolButton*>(button);
-        const auto* push = qobject_cast<const QPushButton*>(button);
-        return (tool != nullptr && tool->menu() == &menu) ||
-               (push != nullptr && push->menu() == &menu);
-    });
-}
-
-/// Whether a menu, list or dialog is open that belongs to the dock, or that may: those without a
-/// parent do not tell whose they are.
+/// Whether a menu, list or dialog is open that belongs to the dock, or that may: their parents do
+/// not tell from where menus and modal dialogs were opened.
 bool hasOpenWindow(const QDockWidget& dock)
 {
-    const QWidget* popup = QApplication::activePopupWidget();
-    const QWidget* modal = QApplication::activeModalWidget();
-    if ((popup != nullptr && (popup->parentWidget() == nullptr || hasButtonOf(dock, *popup))) ||
-        (modal != nullptr && modal->parentWidget() == nullptr))
+    if (QApplication::activePopupWidget() != nullptr ||
+        QApplication::activeModalWidget() != nullptr)
         return true;
     const QWidgetList windows = QApplication::topLevelWidgets();
     return std::any_of(windows.cbegin(), windows.cend(), [&dock](const QWidget* window) {
         const Qt::WindowType type = window->windowType();
-        const bool counts = type == Qt::Dialog || type == Qt::Sheet || type == Qt::Popup;
+        const bool counts = type == Qt::Dialog || type == Qt::Sheet;
         return counts && window->isVisible() && isInside(window, dock);
     });
 }
@@ -471,6 +455,7 @@ void AutoHideSupport::createDockWidgetTabToolBars()
         toolBar->layout()->setContentsMargins({}); // The buttons need all of the extent.
         const int icon = toolBar->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, toolBar);
         toolBar->setIconSize(QSize(icon, icon));
+        toolBar->setToolButtonStyle(Qt::ToolButtonIconOnly); // also where others show texts
         toolBar->addAction(d->popupOnHover);
         QWidget* button = toolBar->widgetForAction(d->popupOnHover);
         button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
