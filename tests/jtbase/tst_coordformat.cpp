@@ -50,15 +50,12 @@ private Q_SLOTS:
     }
     void everyPositionHasATextInEveryFormat()
     {
-        QHash<QString, int> zones;
+        QSet<QString> zones;
         for (int latitude = -80; latitude <= 84; latitude += 2) {
             for (int longitude = -180; longitude <= 180; longitude += 3) {
-                for (int format = 0; format < coordFormatCount; ++format) {
-                    const QString text = formatPosition(latitude, longitude, CoordFormat(format));
-                    QVERIFY(!text.isEmpty());
-                    if (CoordFormat(format) == CoordFormat::Mgrs)
-                        ++zones[text.first(3)];
-                }
+                for (int format = 0; format < coordFormatCount; ++format)
+                    QVERIFY(!formatPosition(latitude, longitude, CoordFormat(format)).isEmpty());
+                zones << formatPosition(latitude, longitude, CoordFormat::Mgrs).first(3);
             }
         }
         // 60 zones of 20 bands, of which three in the north of Svalbard are not used.

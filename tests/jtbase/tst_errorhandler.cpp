@@ -73,9 +73,8 @@ private Q_SLOTS:
         }
         qInstallMessageHandler(former);
         const QStringList lines = linesOf(traceFile());
-        QCOMPARE(lines.size(), 4 * 2000);
-        for (const QString& line : lines)
-            QVERIFY(line.endsWith(QStringLiteral("Z m(1): x")));
+        QCOMPARE(lines.filter(QRegularExpression(QStringLiteral("Z m\\(1\\): x$"))).size(), 8000);
+        QCOMPARE(lines.size(), 8000);
     }
     void assertionIsReported()
     {
