@@ -7,9 +7,6 @@
 
 #include <QAction>
 #include <QSignalSpy>
-#include <QTest>
-
-#include <memory>
 
 /// The base of test classes that work in the main window of the application.
 class MainWindowTest : public GuardedTest

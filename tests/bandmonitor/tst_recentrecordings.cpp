@@ -117,18 +117,13 @@ private Q_SLOTS:
         hops.add(1, 7, {4, 5, 6, 7});
         hops.add(100, 1, {8});
         const auto cut = [&hops](double low, double high) {
-            QByteArray result;
-            for (const Segment& hop : hopsBetween(hops.sweep(), low, high)) {
-                result += QByteArray::number(hop.startHz) + ':';
-                for (const float level : hop.levels)
-                    result += ' ' + QByteArray::number(level);
-                result += ',';
-            }
-            return result;
+            const auto segments = hopsBetween(hops.sweep(), low, high);
+            return sweepText(makeSweep(0, segments)).replace("1970-01-01, 00:00:00, ", "");
         };
-        QCOMPARE(cut(-1e300, 1e300), QByteArray("0: 1 2 3,1: 4 5 6 7,100: 8,"));
-        QCOMPARE(cut(21, 22), QByteArray("15: 6,20: 3,")); // in order, though hops overlap
-        QCOMPARE(cut(10, 20), QByteArray("8: 5 6,10: 2,"));
+        QCOMPARE(cut(-1e300, 1e300), sweepText(hops.sweep()).replace("1970-01-01, 00:00:00, ", ""));
+        // In order, though hops overlap.
+        QCOMPARE(cut(21, 22), QByteArray("15, 22, 7.00, 1, 6.00\n20, 30, 10.00, 1, 3.00\n"));
+        QCOMPARE(cut(10, 20), QByteArray("8, 22, 7.00, 1, 5.00, 6.00\n10, 20, 10.00, 1, 2.00\n"));
         QCOMPARE(cut(30, 100), QByteArray());
     }
 
