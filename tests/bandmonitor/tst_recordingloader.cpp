@@ -7,7 +7,6 @@
 #include "support/testrows.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace bandmonitor;
 
@@ -24,7 +23,7 @@ private Q_SLOTS:
         QVERIFY(m_loader->isLoading());
         QTRY_COMPARE(m_finished->count(), 1);
         QVERIFY(!m_loader->isLoading());
-        QCOMPARE(m_failed->count() + m_cancelled->count(), 0);
+        QCOMPARE(m_failed->count(), 0);
         QCOMPARE(m_loader->recording()->levelCount(), 120U * 3 * 400);
         QCOMPARE(m_loader->report(), QString());
         QVERIFY(progress.count() > 100);
@@ -51,21 +50,6 @@ private Q_SLOTS:
         QCOMPARE(m_failed->at(0).at(0).toString(), expected.arg(path));
         QVERIFY(!m_loader->isLoading());
     }
-    void cancel()
-    {
-        loadSlowly();
-        connect(m_loader.get(), &RecordingLoader::progress, this, [this](qint64 done) {
-            if (done >= 100 * 1024)
-                m_loader->cancel();
-        });
-        QTRY_COMPARE(m_cancelled->count(), 1);
-        QVERIFY(!m_loader->isLoading());
-        const qsizetype count = m_loader->recording()->count();
-        QVERIFY(count > 0 && count < 120);
-        QCoreApplication::processEvents();
-        QCOMPARE(m_loader->recording()->count(), count);
-        QCOMPARE(m_finished->count() + m_failed->count(), 0);
-    }
     void loadFromSlot()
     {
         loadSlowly();
@@ -78,7 +62,6 @@ private Q_SLOTS:
         QTRY_COMPARE(m_finished->count(), 1);
         QVERIFY(given->count() < 120);
         QCOMPARE(m_loader->recording()->count(), 120);
-        QCOMPARE(m_cancelled->count(), 0);
     }
     void destroyedWhileLoading()
     {
@@ -96,7 +79,6 @@ private:
         m_loader = std::make_unique<RecordingLoader>();
         m_finished = std::make_unique<QSignalSpy>(m_loader.get(), &RecordingLoader::finished);
         m_failed = std::make_unique<QSignalSpy>(m_loader.get(), &RecordingLoader::failed);
-        m_cancelled = std::make_unique<QSignalSpy>(m_loader.get(), &RecordingLoader::cancelled);
     }
     void tidy() override { m_loader.reset(); }
     /// Makes every slice one small piece.
@@ -110,7 +92,6 @@ private:
     std::unique_ptr<RecordingLoader> m_loader;
     std::unique_ptr<QSignalSpy> m_finished;
     std::unique_ptr<QSignalSpy> m_failed;
-    std::unique_ptr<QSignalSpy> m_cancelled;
 };
 
 QTEST_GUILESS_MAIN(TestRecordingLoader)

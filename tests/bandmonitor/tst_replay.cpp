@@ -4,7 +4,6 @@
 #include "support/guardedtest.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <array>
 
@@ -46,26 +45,20 @@ private Q_SLOTS:
             QCOMPARE(m_replay->position(), position);
         }
     }
-    void fastPlayTellsAllSweeps()
-    {
-        QSignalSpy moved(m_replay.get(), &Replay::positionChanged);
-        m_replay->setSpeed(5000); // cut to 1000
-        m_replay->play();
-        pass(2);
-        QCOMPARE(moved.count(), 1);
-        QCOMPARE(moved.at(0).at(0).toInt(), 3);
-        QCOMPARE(moved.at(0).at(1).toInt(), 0);
-    }
     void speedChangesKeepThePlace()
     {
+        QSignalSpy moved(m_replay.get(), &Replay::positionChanged);
         m_replay->play();
         pass(500);
         m_replay->setSpeed(0.0); // cut to 0.1
         m_replay->setSpeed(qQNaN());
         pass(4990);
-        QCOMPARE(m_replay->position(), 0);
-        pass(20);
-        QCOMPARE(m_replay->position(), 1);
+        QCOMPARE(moved.count(), 0);
+        m_replay->setSpeed(5000); // cut to 1000: passes several sweeps at once
+        pass(2);
+        QCOMPARE(moved.count(), 1);
+        QCOMPARE(moved.at(0).at(0).toInt(), 3);
+        QCOMPARE(moved.at(0).at(1).toInt(), 0);
     }
     void stallIsNotCaughtUp()
     {
