@@ -13,9 +13,6 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QSignalSpy>
-#include <QTest>
-
-#include <memory>
 
 using namespace bandmonitor;
 

@@ -8,10 +8,6 @@
 #include <guibase/colors/colorset.h>
 #include <guibase/services/guibase.h>
 
-#include <QTest>
-
-#include <memory>
-
 using namespace bandmonitor;
 
 namespace {

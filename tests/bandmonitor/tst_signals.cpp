@@ -6,8 +6,6 @@
 
 #include "support/testrows.h"
 
-#include <QTest>
-
 #include <cmath>
 #include <map>
 

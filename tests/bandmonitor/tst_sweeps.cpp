@@ -9,8 +9,6 @@
 #include "support/randombytes.h"
 #include "support/testrows.h"
 
-#include <QTest>
-
 #include <cmath>
 
 using namespace bandmonitor;
