@@ -18,7 +18,7 @@ LruStringListController::LruStringListController(ILruStringListDisplayer* displa
 
 LruStringListController::~LruStringListController()
 {
-    m_store->save(*m_list);
+    m_store->saveFinally(*m_list);
 }
 
 void LruStringListController::Init()
@@ -71,8 +71,14 @@ void LruStringListController::DisplayList()
 
 void LruStringListController::Save()
 {
-    if (m_store->hasChanges())
-        m_store->save(*m_list);
+    constexpr int patience = 100;
+    if (!m_store->hasChanges() || m_store->save(*m_list, patience) || m_isRetryScheduled)
+        return;
+    m_isRetryScheduled = true;
+    QTimer::singleShot(retryDelay, this, [this] {
+        m_isRetryScheduled = false;
+        Save();
+    });
 }
 
 void LruStringListController::SlotDisplayList()

@@ -24,6 +24,7 @@ class GUIBASE_EXPORT LruStringListController : public QObject
     Q_OBJECT
 public:
     static constexpr int displayDelay = 10; ///< Milliseconds.
+    static constexpr int retryDelay = 1000; ///< Milliseconds.
 
     /// Displayer and configuration must outlive the controller, and may be null. A limit below 1
     /// keeps the list empty. The list is empty until Init().
@@ -46,7 +47,8 @@ public:
 
     /// Saves and shows the list a moment later.
     void DisplayList();
-    /// Saves changes now rather than a moment later.
+    /// Saves changes now rather than a moment later. While another program holds the list for
+    /// longer than a tenth of a second, it is tried again every retryDelay.
     void Save();
 
 public Q_SLOTS:
@@ -59,4 +61,5 @@ private:
     std::unique_ptr<LruStringList> m_list;
     std::unique_ptr<LruStringListStore> m_store;
     bool m_isScheduled = false;
+    bool m_isRetryScheduled = false;
 };

@@ -11,15 +11,19 @@
 
 namespace {
 
-/// From reading to storing no other program may save its list. Where no lock can be had, a change
-/// of theirs in this moment may get lost.
-void waitFor(QLockFile& lock)
+/// From reading to storing no other program may save its list. False when one does for all the
+/// time; where no lock can be had at all, a change of theirs in this moment may get lost.
+bool waitFor(QLockFile& lock, int milliseconds)
 {
     // QLockFile itself waits with pauses that double, and starves among busy programs.
     constexpr unsigned long pauseMilliseconds = 3;
-    const QDeadlineTimer deadline(3000);
-    while (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError && !deadline.hasExpired())
+    const QDeadlineTimer deadline(milliseconds);
+    while (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) {
+        if (deadline.hasExpired())
+            return false;
         QThread::msleep(pauseMilliseconds);
+    }
+    return true;
 }
 
 } // namespace
@@ -81,14 +85,28 @@ void LruStringListStore::write(const LruStringList& list) const
     }
 }
 
-void LruStringListStore::save(LruStringList& list)
+void LruStringListStore::saveFinally(LruStringList& list)
+{
+    constexpr int patience = 3000;
+    if (!save(list, patience))
+        saveLocked(list);
+}
+
+bool LruStringListStore::save(LruStringList& list, int patience)
 {
     if (m_cfg == nullptr)
-        return;
+        return true;
     const QString file = CfgCenter::GetAppCfgFileName();
     QDir().mkpath(QFileInfo(file).absolutePath()); // Else programs that save first have no lock.
     QLockFile lock(file + QStringLiteral(".lists.lock"));
-    waitFor(lock);
+    if (!waitFor(lock, patience))
+        return false;
+    saveLocked(list);
+    return true;
+}
+
+void LruStringListStore::saveLocked(LruStringList& list)
+{
     const bool isFresh = refresh();
     list.Clear();
     read(list);

@@ -32,8 +32,12 @@ public:
     void read(LruStringList& list) const;
     bool hasChanges() const { return !m_changes.empty(); }
     /// Brings the stored list up to date, and `list` with it. When the configuration cannot be
-    /// stored, the changes are remembered for the next save.
-    void save(LruStringList& list);
+    /// stored, the changes are remembered for the next save. While another program saves its list
+    /// this waits so many milliseconds; then it returns false, with nothing done.
+    bool save(LruStringList& list, int patience);
+    /// As save() with much patience, but saves in any case: changes of another program that takes
+    /// longer may get lost.
+    void saveFinally(LruStringList& list);
 
 private:
     struct Change
@@ -43,6 +47,7 @@ private:
     };
 
     static void repeat(LruStringList& list, const Change& change);
+    void saveLocked(LruStringList& list);
     bool refresh() const;
     void write(const LruStringList& list) const;
     QString key(int index) const { return m_keyPrefix + QString::number(index); }

@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QHelpEvent>
 #include <QLineEdit>
+#include <QLockFile>
 #include <QMenu>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -170,6 +171,13 @@ private Q_SLOTS:
         list.Select(QStringLiteral("a"));
         list.Save();
         QCOMPARE(observer.seen, QList<bool>({true, true})); // before it is read, and written
+        QLockFile other(CfgCenter::GetAppCfgFileName() + QStringLiteral(".lists.lock"));
+        QVERIFY(other.tryLock());
+        list.Select(QStringLiteral("b"));
+        list.Save(); // Another program is at it: a moment later.
+        QCOMPARE(observer.seen.size(), 2);
+        other.unlock();
+        QTRY_VERIFY(observer.seen.size() > 2);
     }
     void keepsChangesThatCannotBeStored()
     {
