@@ -69,12 +69,12 @@ std::optional<T> readInteger(const QString& text, int base, const QLocale& local
     if (const std::optional<T> value = TypedNumber::readPlain<T>(text, base))
         return value;
     bool ok = false;
-    T value = useLocale ? NumberHelpers::parse<T>(text, locale, &ok, base)
-                        : NumberHelpers::parse<T>(text, &ok, base);
-    if (ok)
-        return value;
+    T value{};
+    if (!useLocale)
+        value = NumberHelpers::parse<T>(text, &ok, base);
     // What is written in the locale can be read in any case.
-    value = NumberHelpers::parse<T>(text, locale, &ok, base);
+    if (!ok && !TypedNumber::hasZeroGroup(text, locale))
+        value = NumberHelpers::parse<T>(text, locale, &ok, base);
     if (ok)
         return value;
     if (base != 10)
@@ -126,7 +126,7 @@ QString IntegralNumberDisplayFormat<T>::refusalReason(const QString& text) const
                      : isInBase(text, m_base);
     if (ascii.contains('.') && isNumber)
         return QCoreApplication::translate("DisplayFormat", "Only whole numbers can be entered.");
-    if (isNumber) {
+    if (isNumber && !ascii.contains('e')) {
         return QCoreApplication::translate("DisplayFormat", "The number must lie from %1 to %2.")
             .arg(textFromValue(std::numeric_limits<T>::min()),
                  textFromValue(std::numeric_limits<T>::max()));

@@ -17,13 +17,6 @@ bool isDoubtfulPoint(const QString& text, const QLocale& locale, QChar decimalPo
            TypedNumber::isAmbiguous(text, decimalPoint);
 }
 
-/// "0.500" has no thousands, whatever the locale parts them with.
-bool hasZeroGroup(const QString& text, const QLocale& locale)
-{
-    return !locale.numberOptions().testFlag(QLocale::RejectGroupSeparator) &&
-           QStringView(text).trimmed().startsWith(u'0') && text.contains(locale.groupSeparator());
-}
-
 std::optional<double> readReal(const QString& text, const QLocale& locale, bool useLocale,
                                QChar decimalPoint)
 {
@@ -36,11 +29,11 @@ std::optional<double> readReal(const QString& text, const QLocale& locale, bool 
     double value = useLocale ? NumberHelpers::parse<double>(text, locale, &ok)
                              : NumberHelpers::parse<double>(text, &ok);
     if (ok && (useLocale || !isDoubtfulPoint(text, locale, decimalPoint)) &&
-        !hasZeroGroup(text, locale))
+        !TypedNumber::hasZeroGroup(text, locale))
         return value;
     // What is written in the locale can be read in any case.
     value = NumberHelpers::parse<double>(text, locale, &ok);
-    if (ok && !hasZeroGroup(text, locale))
+    if (ok && !TypedNumber::hasZeroGroup(text, locale))
         return value;
     TypedNumber::Ascii ascii;
     TypedNumber::Outcome outcome = TypedNumber::normalize(text, decimalPoint, ascii);

@@ -2,6 +2,7 @@
 #include "typednumber_p.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QString>
 
 #include <algorithm>
@@ -213,6 +214,15 @@ bool TypedNumber::isAmbiguous(QStringView text, QChar decimalPoint)
 {
     Ascii ascii;
     return normalize(text, decimalPoint, ascii) == Outcome::Ambiguous;
+}
+
+bool TypedNumber::hasZeroGroup(QStringView text, const QLocale& locale)
+{
+    if (locale.numberOptions().testFlag(QLocale::RejectGroupSeparator) ||
+        !text.contains(locale.groupSeparator()))
+        return false;
+    const auto first = std::find_if(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
+    return first != text.end() && first->digitValue() == 0;
 }
 
 template <typename T>

@@ -7,6 +7,8 @@
 #include <concepts>
 #include <optional>
 
+class QLocale;
+
 /// Numbers as people type and paste them: what can be read in one way only is read.
 namespace TypedNumber {
 
@@ -26,6 +28,10 @@ Outcome normalize(QStringView text, QChar decimalPoint, Ascii& ascii);
 /// Whether a text that the C locale reads would be ambiguous where `decimalPoint` is the decimal
 /// sign.
 bool isAmbiguous(QStringView text, QChar decimalPoint);
+
+/// Whether a text with group separators that the locale accepts begins with a zero, which no
+/// thousands do: "0.500".
+bool hasZeroGroup(QStringView text, const QLocale& locale);
 
 /// The number in a text that consists of ASCII digits of the base, with a sign and blanks around
 /// it: what any locale reads, and fast. Nothing does not mean that the text is no number.

@@ -235,6 +235,9 @@ private Q_SLOTS:
                  QStringLiteral("fffffffffffffffe"));
         format.setBase(1);
         QCOMPARE(format.base(), 16);
+        format.setBase(10);
+        format.setLocale(QLocale(QStringLiteral("de_DE"))); // With groups, none of which is zero.
+        QCOMPARE(echoed(format, QStringLiteral("0.475.500")), QStringLiteral("-"));
         IntegralNumberDisplayFormat<int> hexadecimal;
         hexadecimal.setBase(16);
         QCOMPARE(echoed(hexadecimal, QString::fromUtf8("\u22120x80")), QStringLiteral("-80"));
@@ -248,6 +251,8 @@ private Q_SLOTS:
         QCOMPARE(echoed(hexadecimal, QStringLiteral("ff")), QStringLiteral("f ff B"));
         QCOMPARE(echoed(hexadecimal, QStringLiteral("f 1 B")), QStringLiteral("f 1 B"));
         RealNumberDisplayFormat<double> real;
+        real.setLocale(format.locale());
+        QCOMPARE(echoed(real, QStringLiteral("-0.500")), QStringLiteral("-0,500000"));
         bool ok = false;
         for (const double value : {DBL_MAX, -DBL_MAX, 0.0}) {
             QCOMPARE(real.valueFromFullText(real.fullTextFromValue(value), &ok), value);
