@@ -146,7 +146,9 @@ QString DisplayFormatList<T>::refusal(const QString& text, const Reading& readin
     const auto range = format->bareRange(text);
     if (reading.outcome == Reading::SuffixOnly && range.start == range.end)
         return {};
-    return format->refusalReason(text.mid(range.start, range.end - range.start));
+    const QString bare = text.mid(range.start, range.end - range.start);
+    return guarded([&] { return format->refusalReason(bare); },
+                   QCoreApplication::translate("DisplayFormat", "This cannot be read."));
 }
 
 #define INSTANTIATE(T) template class DisplayFormatList<T>;

@@ -34,7 +34,8 @@ QString QDateTimeDisplayFormat::textFromValue(QDateTime value) const
 QString QDateTimeDisplayFormat::refusalReason(const QString&) const
 {
     return QCoreApplication::translate("DisplayFormat", "Enter date and time as in \"%1\".")
-        .arg(textFromValue(m_presentTime.isValid() ? m_presentTime : QDateTime::currentDateTime()));
+        .arg(textFromValue(m_presentTime.isValid() ? shownPresentTime()
+                                                   : QDateTime::currentDateTime()));
 }
 
 std::vector<QDateTime> QDateTimeDisplayFormat::widestValues(const QDateTime& minimum,
