@@ -28,7 +28,7 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
 
 /// The interface of the line edit. The toolkit makes one without text operations for the line edits
 /// of spin boxes, which it tells by their name; once made, interfaces are kept.
-QAccessibleInterface* lineEditInterface(QLineEdit& edit)
+QAccessibleInterface* interfaceOf(QLineEdit& edit)
 {
     QAccessibleInterface* known = QAccessible::queryAccessibleInterface(&edit);
     if (known != nullptr && known->editableTextInterface() != nullptr)
@@ -127,11 +127,40 @@ void* AccessibleInput::interface_cast(QAccessible::InterfaceType type)
     if (type == QAccessible::ValueInterface)
         return static_cast<QAccessibleValueInterface*>(this);
     if (type == QAccessible::TextInterface || type == QAccessible::EditableTextInterface) {
-        QLineEdit* lineEdit = m_input.inputLineEdit(); // none in a combo box that is not editable
-        QAccessibleInterface* edit = lineEdit != nullptr ? lineEditInterface(*lineEdit) : nullptr;
+        QAccessibleInterface* edit = lineEditInterface();
+        if (edit != nullptr && type == QAccessible::EditableTextInterface)
+            return static_cast<QAccessibleEditableTextInterface*>(this);
         return edit != nullptr ? edit->interface_cast(type) : nullptr;
     }
     return QAccessibleWidget::interface_cast(type);
+}
+
+QAccessibleInterface* AccessibleInput::lineEditInterface() const
+{
+    QLineEdit* edit = m_input.inputLineEdit(); // None in a combo box that is not editable.
+    return edit != nullptr ? interfaceOf(*edit) : nullptr;
+}
+
+void AccessibleInput::deleteText(int start, int end)
+{
+    if (QAccessibleInterface* edit = lineEditInterface())
+        edit->editableTextInterface()->deleteText(start, end);
+}
+
+void AccessibleInput::insertText(int offset, const QString& text)
+{
+    if (QAccessibleInterface* edit = lineEditInterface())
+        edit->editableTextInterface()->insertText(offset, text);
+}
+
+void AccessibleInput::replaceText(int start, int end, const QString& text)
+{
+    QAccessibleInterface* edit = lineEditInterface();
+    if (edit == nullptr)
+        return;
+    edit->editableTextInterface()->replaceText(start, end, text);
+    if (!widget()->hasFocus())
+        Q_EMIT m_input.inputLineEdit()->editingFinished();
 }
 
 QVariant AccessibleInput::currentValue() const
