@@ -21,23 +21,40 @@ AbstractComboBox::AbstractComboBox(QWidget* parent)
     AccessibleInput::install();
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
-    setCompleter(nullptr); // It would rewrite what is being typed.
+    adoptLineEdit();
     // The wheel would give the focus, and then change the value.
     setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QComboBox::currentIndexChanged, this,
+            qOverload<int>(&AbstractComboBox::interpret));
+    // The same item chosen again shows its text without any other signal.
+    connect(this, &QComboBox::activated, this, &AbstractComboBox::chooseItem);
+}
+
+AbstractComboBox::~AbstractComboBox() = default;
+
+void AbstractComboBox::adoptLineEdit()
+{
     QLineEdit* edit = lineEdit();
+    if (edit == m_adoptedEdit)
+        return;
+    m_adoptedEdit = edit;
+    m_shownText = edit->text();
+    setCompleter(nullptr); // It would rewrite what is being typed.
     edit->setValidator(nullptr);
     edit->setMaxLength(TypedInput::longestText + 1); // A text that is cut is another number.
     edit->setAlignment(Qt::AlignRight);
     connect(edit, &QLineEdit::editingFinished, this, qOverload<>(&AbstractComboBox::interpret));
     connect(edit, &QLineEdit::textEdited, this, &AbstractComboBox::clearMarkIfReadable);
-    connect(this, &QComboBox::currentIndexChanged, this,
-            qOverload<int>(&AbstractComboBox::interpret));
-    // The same item chosen again shows its text without any other signal.
-    connect(this, &QComboBox::activated, this, &AbstractComboBox::chooseItem);
     QTimer::singleShot(0, this, &AbstractComboBox::updateEdit);
 }
 
-AbstractComboBox::~AbstractComboBox() = default;
+// Becoming editable again makes another line edit, which is not told of in any other way.
+void AbstractComboBox::childEvent(QChildEvent* event)
+{
+    QComboBox::childEvent(event);
+    if (event->polished() && event->child() == lineEdit())
+        adoptLineEdit();
+}
 
 void AbstractComboBox::setAutoSwitchDisplayFormat(bool automatic)
 {
@@ -100,10 +117,13 @@ bool AbstractComboBox::isTextChanged() const
     return lineEdit() != nullptr && lineEdit()->text() != m_shownText;
 }
 
-void AbstractComboBox::interpretIfTextChanged()
+bool AbstractComboBox::interpretIfTextChanged()
 {
-    if (isTextChanged())
-        interpret();
+    if (!isTextChanged())
+        return true;
+    const QPointer<QObject> guard(this);
+    interpret();
+    return guard && !m_mark.isShown();
 }
 
 void AbstractComboBox::clearMarkIfReadable(const QString& text)
@@ -172,7 +192,8 @@ void AbstractComboBox::keyPressEvent(QKeyEvent* event)
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
         // The next item is the one after the value that was typed.
-        interpretIfTextChanged();
+        if (!interpretIfTextChanged())
+            return;
         break;
     default:
         break;
@@ -193,8 +214,8 @@ void AbstractComboBox::wheelEvent(QWheelEvent* event)
         event->ignore();
         return;
     }
-    interpretIfTextChanged();
-    QComboBox::wheelEvent(event);
+    if (interpretIfTextChanged())
+        QComboBox::wheelEvent(event);
 }
 
 void AbstractComboBox::paintEvent(QPaintEvent* event)

@@ -76,7 +76,9 @@ protected:
     void showValue();
     /// Whether the text has changed since it was shown.
     bool isTextChanged() const;
-    void interpretIfTextChanged();
+    /// False when the text is refused, which the user is to see before anything else happens, or
+    /// when this object is gone.
+    bool interpretIfTextChanged();
     /// Whether the text is committed by whoever typed it, instead of by a change of items.
     bool isCommitting() const { return m_isCommitting; }
     /// Takes the value of an item that the user has chosen.
@@ -89,6 +91,7 @@ protected:
     /// Whether the items and what they read as may have changed since the last call.
     bool takeItemsChanged();
 
+    void childEvent(QChildEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -97,6 +100,7 @@ protected:
 private:
     friend class DisplayFormatSwitch<AbstractComboBox>;
 
+    void adoptLineEdit();
     void watchModel();
     void clearMarkIfReadable(const QString& text);
 
@@ -104,6 +108,7 @@ private:
     QString m_specialValueText;
     RefusalMark m_mark;
     bool m_isCommitting = false;
+    QPointer<QObject> m_adoptedEdit;
     QString m_shownText; ///< The text that showValue() has shown last.
     mutable bool m_areItemsKnown = false;
     QPointer<QAbstractItemModel> m_watchedModel;

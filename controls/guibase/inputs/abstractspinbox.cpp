@@ -86,10 +86,13 @@ bool AbstractSpinBox::isTextChanged() const
     return lineEdit()->text() != m_shownText;
 }
 
-void AbstractSpinBox::interpretIfTextChanged()
+bool AbstractSpinBox::interpretIfTextChanged()
 {
-    if (isTextChanged())
-        interpret();
+    if (!isTextChanged())
+        return true;
+    const QPointer<QObject> guard(this);
+    interpret();
+    return guard && !m_mark.isShown();
 }
 
 void AbstractSpinBox::clearMarkIfReadable(const QString& text)
@@ -152,7 +155,8 @@ void AbstractSpinBox::keyPressEvent(QKeyEvent* event)
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
         // Whether a step is possible depends on the value that was typed.
-        interpretIfTextChanged();
+        if (!interpretIfTextChanged())
+            return;
         break;
     default:
         break;
@@ -169,8 +173,8 @@ void AbstractSpinBox::focusInEvent(QFocusEvent* event)
 void AbstractSpinBox::mousePressEvent(QMouseEvent* event)
 {
     // Whether a button can be pressed depends on the value that was typed.
-    interpretIfTextChanged();
-    QAbstractSpinBox::mousePressEvent(event);
+    if (interpretIfTextChanged())
+        QAbstractSpinBox::mousePressEvent(event);
 }
 
 void AbstractSpinBox::wheelEvent(QWheelEvent* event)
@@ -179,8 +183,8 @@ void AbstractSpinBox::wheelEvent(QWheelEvent* event)
         event->ignore();
         return;
     }
-    interpretIfTextChanged();
-    QAbstractSpinBox::wheelEvent(event);
+    if (interpretIfTextChanged())
+        QAbstractSpinBox::wheelEvent(event);
 }
 
 void AbstractSpinBox::paintEvent(QPaintEvent* event)

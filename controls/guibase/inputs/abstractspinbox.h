@@ -72,7 +72,9 @@ protected:
 
     /// Whether the user has changed the text since it was shown.
     bool isTextChanged() const;
-    void interpretIfTextChanged();
+    /// False when the text is refused, which the user is to see before anything else happens, or
+    /// when this object is gone.
+    bool interpretIfTextChanged();
     RefusalMark& refusalMark() { return m_mark; }
     /// To be called when anything has changed that limits the steps.
     void updateButtons();

@@ -198,7 +198,7 @@ void NumberComboBoxBase<T>::interpret(int itemIndex)
     if (lineEdit() == nullptr)
         return;
     const bool wasChanged = isTextChanged();
-    const QString text = lineEdit()->displayText();
+    const QString text = lineEdit()->text(); // The displayed text has blanks for line breaks.
     const Reading reading = readText(text);
     // The text that goes with the last item is nobody's input.
     const bool isInput = wasChanged && (itemIndex >= 0 || !text.isEmpty() || isCommitting());

@@ -7,6 +7,7 @@
 #include "typedinputvariant_p.h"
 
 #include <QLineEdit>
+#include <QPointer>
 
 #include <cmath>
 #include <type_traits>
@@ -59,8 +60,8 @@ T NumberSpinBoxBase<T>::normalizeValueToMultipleOfStep(T value) const
 template <typename T>
 void NumberSpinBoxBase<T>::stepBy(int steps)
 {
-    this->interpretIfTextChanged();
-    step(steps, m_singleStep);
+    if (this->interpretIfTextChanged())
+        step(steps, m_singleStep);
 }
 
 template <typename T>
@@ -75,8 +76,9 @@ void NumberSpinBoxBase<T>::step(qint64 steps, T size)
 template <typename T>
 void NumberSpinBoxBase<T>::stepAtCursor(int steps)
 {
-    this->interpretIfTextChanged();
-    QLineEdit* edit = this->lineEdit();
+    if (!this->interpretIfTextChanged())
+        return;
+    const QPointer<QLineEdit> edit = this->lineEdit();
     const QString text = edit->text();
     const int index = this->currentDisplayFormatIndex();
     const auto* format = this->currentDisplayFormat();
@@ -98,7 +100,8 @@ void NumberSpinBoxBase<T>::stepAtCursor(int steps)
     // The place value has the sign of the number: up is up for negative numbers too.
     const int fromEnd = static_cast<int>(text.size()) - edit->cursorPosition();
     step(*size < T(0) ? -qint64(steps) : qint64(steps), *size);
-    edit->setCursorPosition(std::max(0, static_cast<int>(edit->text().size()) - fromEnd));
+    if (edit)
+        edit->setCursorPosition(std::max(0, static_cast<int>(edit->text().size()) - fromEnd));
 }
 
 template <typename T>

@@ -82,8 +82,9 @@ QDateTimeSpinBox::Reading QDateTimeSpinBox::readText(const QString& text) const
 
 void QDateTimeSpinBox::stepBy(int steps)
 {
-    interpretIfTextChanged();
-    QLineEdit* edit = lineEdit();
+    if (!interpretIfTextChanged())
+        return;
+    const QPointer<QLineEdit> edit = lineEdit();
     const QString text = edit->text();
     const int cursor = edit->cursorPosition();
     const ValueDisplayFormatBase<QDateTime>& format = *currentDisplayFormat();
@@ -97,7 +98,8 @@ void QDateTimeSpinBox::stepBy(int steps)
         setValue(result);
     else
         stepBeyondLimit(steps > 0);
-    edit->setCursorPosition(cursor);
+    if (edit)
+        edit->setCursorPosition(cursor);
 }
 
 void QDateTimeSpinBox::stepAtCursor(int steps)

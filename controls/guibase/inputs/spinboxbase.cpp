@@ -261,7 +261,7 @@ template <typename T>
 void SpinBoxBase<T>::interpret()
 {
     const bool wasChanged = isTextChanged();
-    QString text = lineEdit()->displayText();
+    QString text = lineEdit()->text(); // The displayed text has blanks for line breaks.
     Reading reading = readText(text);
     if (!reading.isKnown() || !isInRange(reading.value)) {
         QString corrected = text;

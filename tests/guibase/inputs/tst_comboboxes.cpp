@@ -285,6 +285,11 @@ private Q_SLOTS:
         QCOMPARE(box.value(), 10.0);
         QVERIFY(box.inputRefusal().isEmpty());
         QVERIFY(!box.inputLineEdit()->text().isEmpty());
+        box.setEditable(false);
+        box.setEditable(true); // With another line edit.
+        box.inputLineEdit()->setText(QStringLiteral("4"));
+        Q_EMIT box.inputLineEdit()->editingFinished();
+        QVERIFY(box.value() == 4.0 && box.completer() == nullptr);
     }
     void tellsAssistiveTechnologies()
     {
