@@ -333,6 +333,12 @@ void AutoHideSupport::mainWindowEvent(const QEvent& event)
 {
     if (event.type() == QEvent::Resize || event.type() == QEvent::Move)
         d->followMainWindow();
+    // All that a hidden dock's removal from the layout leads to.
+    if (event.type() == QEvent::LayoutRequest)
+        for (const auto& [key, entry] : d->entries)
+            if (entry.dock && d->isOn(*entry.dock) &&
+                d->mainWindow.dockWidgetArea(entry.dock.get()) == Qt::NoDockWidgetArea)
+                d->leaveWhenGone(*entry.dock);
     // A dock that the mouse has shown does not have the focus.
     if (event.type() == QEvent::KeyPress &&
         static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape)
