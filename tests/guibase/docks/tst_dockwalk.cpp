@@ -54,9 +54,11 @@ public:
             &Walk::change<&MaximizeMinimizeSupport::minimizeDockWidget>,
             &Walk::bringToFront};
         m_window = m_windows[size_t(m_random.below(2))].get();
-        const auto docks = m_window->findChildren<QDockWidget*>();
-        m_dock = docks.isEmpty() ? nullptr : docks[m_random.below(int(docks.size()))];
         m_area = Qt::DockWidgetArea(1 << m_random.below(4));
+        if (m_window->findChildren<QDockWidget*>().isEmpty())
+            add();
+        const auto docks = m_window->findChildren<QDockWidget*>();
+        m_dock = docks[m_random.below(int(docks.size()))];
         (this->*steps[size_t(m_random.below(int(steps.size())))])();
         if (m_random.below(500) == 0)
             open(m_windows[size_t(m_random.below(2))]);
@@ -93,18 +95,13 @@ private:
         m_window->addDockWidget(m_area, dock);
     }
     void remove() { delete m_dock; }
-    void toggleFloating()
-    {
-        if (m_dock)
-            m_dock->setFloating(!m_dock->isFloating());
-    }
+    void toggleFloating() { m_dock->setFloating(!m_dock->isFloating()); }
     void tabify() { TabifySupport::get(*m_window)->tabifyDockWidgets(m_area); }
     void tile() { TileSupport::get(*m_window)->tileDockWidgets(m_area); }
     template <auto function>
     void call()
     {
-        if (m_dock)
-            std::invoke(function, *m_dock);
+        std::invoke(function, *m_dock);
     }
     void save()
     {
@@ -116,29 +113,17 @@ private:
         m_state = m_window->saveState();
     }
     void restore() { m_window->restoreState(m_state); }
-    void move()
-    {
-        if (m_dock)
-            m_windows[size_t(m_random.below(2))]->addDockWidget(m_area, m_dock);
-    }
-    void click()
-    {
-        if (m_dock)
-            QTest::mouseClick(m_dock->widget(), Qt::LeftButton);
-    }
+    void move() { m_windows[size_t(m_random.below(2))]->addDockWidget(m_area, m_dock); }
+    void click() { QTest::mouseClick(m_dock->widget(), Qt::LeftButton); }
     /// Or back, when that is not possible.
     template <bool (MaximizeMinimizeSupport::*operation)()>
     void change()
     {
-        auto* support = m_dock ? MaximizeMinimizeSupport::get(*m_dock) : nullptr;
-        if (support != nullptr && !(support->*operation)())
+        auto* support = MaximizeMinimizeSupport::get(*m_dock);
+        if (!(support->*operation)())
             support->restoreDockWidget();
     }
-    void bringToFront()
-    {
-        if (m_dock)
-            ActiveDockWidgetSupport::get(*m_window)->bringToFront(*m_dock);
-    }
+    void bringToFront() { ActiveDockWidgetSupport::get(*m_window)->bringToFront(*m_dock); }
 
     static void check(DockWindow& window)
     {
