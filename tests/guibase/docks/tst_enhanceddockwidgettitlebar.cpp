@@ -3,11 +3,11 @@
 
 #include "dockwindow.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <QAction>
 #include <QHelpEvent>
 #include <QMenu>
+#include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
 #include <QToolTip>
@@ -19,30 +19,21 @@ class tst_EnhancedDockWidgetTitleBar : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void actionsStandWhereTheyAreAdded_data()
-    {
-        TestRows<QList<int>, QString> row;
-        row("first each", {0, 0, 0}, "c b a");
-        row("negative", {-1, -5, 0}, "c a b");
-        row("between", {0, 1, 1}, "a c b");
-    }
     void actionsStandWhereTheyAreAdded()
     {
-        const auto& [indices, expected] = TestRows<QList<int>, QString>::fetch();
-        QAction* first = addAction(u"a"_s, indices.at(0));
-        addAction(u"b"_s, indices.at(1));
-        addAction(u"c"_s, indices.at(2));
-        QCOMPARE(shown().join(u' '), expected + u" Float Close"_s);
-        m_bar->addTitleBarAction(*first, -1);
-        QCOMPARE(shown().at(2), u"a"_s);
+        const std::pair<const char*, int> additions[] = {
+            {"a", 0}, {"b", 0}, {"c", -1}, {"d", 1}, {"e", -5}};
+        for (const auto& [name, index] : additions)
+            addAction(QString::fromLatin1(name), index);
+        QCOMPARE(shown().join(u' '), u"b d a c e Float Close"_s);
+        m_bar->addTitleBarAction(*m_bar->actions().first(), 1); // one that is there
+        QCOMPARE(m_bar->actions().size(), 5);
+        QCOMPARE(shown().size(), 7);
     }
     void buttonsFollowTheirActions()
     {
         QAction* one = addAction(u"one"_s, -1);
         QAction* two = addAction(u"two"_s, -1);
-        one->setVisible(false);
-        QCOMPARE(shown().join(u' '), u"two Float Close"_s);
-        one->setVisible(true);
         one->setText(u"uno"_s);
         QTRY_COMPARE(shown().first(), u"uno"_s);
         // The click on a button may be the end of its action.
@@ -81,7 +72,6 @@ private Q_SLOTS:
     {
         QToolButton* floatButton = button(u"Float"_s);
         floatButton->click();
-        QVERIFY(m_dock->isFloating());
         QCOMPARE(floatButton->toolTip(), u"Dock"_s);
         floatButton->click();
         QVERIFY(!m_dock->isFloating());
@@ -94,14 +84,12 @@ private Q_SLOTS:
         QTRY_VERIFY(m_bar->height() < m_bar->width());
 
         const QImage before = m_bar->grab().toImage();
+        m_bar->setProperty("active", true);
+        QVERIFY(m_bar->grab().toImage() != before);
         m_dock->setWindowTitle(u"Other[*]"_s);
         const QImage renamed = m_bar->grab().toImage();
-        QVERIFY(renamed != before);
         m_dock->setWindowModified(true);
-        const QImage modified = m_bar->grab().toImage();
-        QVERIFY(modified != renamed);
-        m_bar->setProperty("active", true);
-        QVERIFY(m_bar->grab().toImage() != modified);
+        QVERIFY(m_bar->grab().toImage() != renamed);
         button(u"Close"_s)->click();
         QVERIFY(!m_dock->isVisible());
     }
@@ -132,23 +120,19 @@ private Q_SLOTS:
     }
     void narrowBarsUseAMenu()
     {
-        int triggered = 0;
-        for (int i = 0; i < 12; ++i) {
-            QAction* action = addAction(u"action %1"_s.arg(i), -1);
-            connect(action, &QAction::triggered, this, [&triggered] { ++triggered; });
-        }
-        m_bar->actions().last()->setText(QString());
-        m_bar->actions().last()->setToolTip(u"only a picture"_s);
-        QCOMPARE(shown().size(), 14);
+        for (int i = 0; i < 11; ++i)
+            addAction(u"action %1"_s.arg(i), -1);
+        QAction* action = addAction(QString(), -1);
+        action->setToolTip(u"only a picture"_s);
+        QSignalSpy triggered(action, &QAction::triggered);
         m_window->resizeDocks({m_dock}, {160}, Qt::Horizontal);
         QTRY_VERIFY(m_bar->width() <= 160);
-        QVERIFY(shown().size() < 10);
         QMenu* menu = button(u"More"_s)->menu();
         Q_EMIT menu->aboutToShow();
         QCOMPARE(menu->actions().size() + shown().size(), 12 + 3);
         QCOMPARE(menu->actions().last()->text(), u"only a picture"_s);
         menu->actions().last()->trigger();
-        QCOMPARE(triggered, 1);
+        QCOMPARE(triggered.count(), 1);
     }
     void keysReachEveryButton()
     {
@@ -161,9 +145,8 @@ private Q_SLOTS:
         QCOMPARE(std::count_if(buttons.cbegin(), buttons.cend(), isStop), 1);
         (*std::find_if(buttons.cbegin(), buttons.cend(), isStop))->setFocus();
         const std::pair<Qt::Key, const char*> walk[] = {
-            {Qt::Key_Home, "a"},      {Qt::Key_Right, "Float"}, {Qt::Key_Right, "Close"},
-            {Qt::Key_Right, "Close"}, {Qt::Key_Left, "Float"},  {Qt::Key_Home, "a"},
-            {Qt::Key_End, "Close"},
+            {Qt::Key_Home, "a"},      {Qt::Key_Right, "Float"}, {Qt::Key_End, "Close"},
+            {Qt::Key_Right, "Close"}, {Qt::Key_Left, "Float"},  {Qt::Key_Right, "Close"},
         };
         for (const auto& [key, expected] : walk) {
             QTest::keyClick(QApplication::focusWidget(), key);

@@ -20,35 +20,21 @@ private Q_SLOTS:
     {
         DockWindow window;
         const auto docks = window.addDocks({u"a"_s, u"b"_s, u"c"_s});
-        QDockWidget* top = window.addDock(u"top"_s, Qt::TopDockWidgetArea);
+        window.addDock(u"top"_s, Qt::TopDockWidgetArea);
         docks[1]->setFloating(true);
         QDockWidget nested(u"nested"_s, window.centralWidget());
         const auto all = [](const auto&) { return true; };
-        QCOMPARE(dockWidgets(window, all, -1), docks + QList{top});
         QCOMPARE(dockWidgets(window, all, 2), docks.mid(0, 2));
         QCOMPARE(dockWidgets(window, Qt::LeftDockWidgetArea, false), QList({docks[0], docks[2]}));
         QCOMPARE(dockWidgets(window, Qt::LeftDockWidgetArea, true), docks);
         QCOMPARE(findDockWidgetByWindowTitle(window, u"b"_s), docks[1]);
-        QVERIFY(!findDockWidgetByWindowTitle(window, u"B"_s));
         QVERIFY(!findDockWidgetByWindowTitle(window, u"nested"_s));
-        QVERIFY_EXCEPTION_THROWN(dockWidgets(window, nullptr, -1), std::bad_function_call);
 
         QToolBar* right = new QToolBar(&window);
         window.addToolBar(Qt::RightToolBarArea, right);
         window.addToolBar(u"top"_s);
         QCOMPARE(toolBars(window, Qt::RightToolBarArea, true), QList{right});
         QCOMPARE(toolBars(window, all, -1).size(), 2);
-        QVERIFY(topLevelMainWindows().contains(&window));
-    }
-    void findsTheDockOfAWidget()
-    {
-        DockWindow window, other;
-        QDockWidget* dock = window.addDock(u"dock"_s);
-        QVERIFY(findParentDockWidget(*dock->widget(), nullptr) == dock);
-        QVERIFY(!findParentDockWidget(*dock->widget(), &other));
-        QVERIFY(!findParentDockWidget(window, nullptr));
-        QDockWidget outer(u"outer"_s, window.centralWidget());
-        QVERIFY(!findParentDockWidget(outer, nullptr));
     }
     void findsTheDockOfATab()
     {
@@ -61,7 +47,6 @@ private Q_SLOTS:
         settle();
         const auto tabBars = tabBarsInDockWidgetArea(window, Qt::LeftDockWidgetArea);
         QCOMPARE(tabBars.size(), 1);
-        QCOMPARE(tabBarsInDockWidgetArea(window, Qt::RightDockWidgetArea).size(), 0);
         for (int i = 0; i < docks.size(); ++i) {
             tabBars[0]->setCurrentIndex(i);
             QCOMPARE(findParentDockWidget(*tabBars[0], &window), docks[i]);
@@ -71,7 +56,10 @@ private Q_SLOTS:
         expected |= tabBars[0]->geometry();
         QCOMPARE(dockWidgetAreaGeometry(window, Qt::LeftDockWidgetArea), expected);
         QCOMPARE(dockWidgetAreaGeometry(window, Qt::RightDockWidgetArea), alone->geometry());
-        QVERIFY(dockWidgetAreaGeometry(window, Qt::TopDockWidgetArea).isNull());
+        QVERIFY(findParentDockWidget(*alone->widget(), nullptr) == alone);
+        QVERIFY(!findParentDockWidget(*alone->widget(), &other));
+        QDockWidget outer(u"outer"_s, window.centralWidget());
+        QVERIFY(!findParentDockWidget(outer, nullptr));
         // A tab bar that somebody else has filled.
         QTabBar tabs(&window);
         QVERIFY(!findParentDockWidget(tabs, nullptr));
@@ -89,21 +77,17 @@ private Q_SLOTS:
         const QRect geometry = window.geometry();
         setDockWidgetSize(window, *docks[0], 300, 250);
         QCOMPARE(docks[0]->size(), QSize(300, 250));
-        setDockWidgetSize(window, *docks[0], 0, 200);
+        setDockWidgetSizes(window, {{nullptr, {1, 1}}, {docks[0], {-1, 200}}});
         QCOMPARE(docks[0]->size(), QSize(300, 200));
-        setDockWidgetSizes(window, {{nullptr, {1, 1}}, {docks[0], {-1, 0}}, {docks[0], {250, 0}}});
-        QCOMPARE(docks[0]->size(), QSize(250, 200));
         setDockWidgetSize(window, *docks[1], QSize(50'000'000, 50'000'000));
         QVERIFY(docks[1]->width() > 1000);
         QCOMPARE(docks[0]->minimumSize(), minimum);
         QCOMPARE(docks[0]->maximumSize(), maximum);
         QCOMPARE(window.geometry(), geometry);
-        QVERIFY(window.minimumWidth() < 400);
         docks[0]->widget()->setMinimumWidth(400); // the layout still sees to the window's own
         settle();
         QVERIFY(window.minimumWidth() > 400);
         QCOMPARE(window.maximumSize(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
-        QVERIFY(window.updatesEnabled());
         window.setUpdatesEnabled(false);
         setDockWidgetSize(window, *docks[0], 0, 0);
         QVERIFY(!window.updatesEnabled());
