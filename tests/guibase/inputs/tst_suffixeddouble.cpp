@@ -57,10 +57,8 @@ private Q_SLOTS:
         // clang-format off
         row.add(BaseUnit, Mega, 12.5e6, "12.5 MHz", "sl", "12.500000 MHz|12.500  MHz|12.500000 MHz|12.500 MHz");
         row.add(BaseUnit, Mega, 1234567.125, "1234567 Hz", "", "1.234567 MHz|1.235  MHz|1.234567125 MHz|1.234567 MHz");
-        row.add(BaseUnit, BaseUnit, 3, "3 Hz", "sl", "3 Hz|3  Hz|3. Hz|3 Hz");
         row.add(BaseUnit, Giga, 100, "100 Hz", "l", "0.000000100 GHz|0.000000  GHz|0.000000100 GHz|0.0000001 GHz");
         row.add(Kilo, Mega, 12.6e6, "12.6 MHz", "l", "12.600 MHz|13  MHz|12.600 MHz|12.6 MHz");
-        row.add(Kilo, Giga, 1.2e9, "1.2 GHz", "sl", "1.200000 GHz|1.200  GHz|1.200000 GHz|1.200 GHz");
         row.add(Kilo, BaseUnit, 12345, "12 kHz", "", "12 kHz|12  kHz|12.345 kHz|12 kHz");
         row.add(BaseUnit, Kilo, 0, "0 Hz", "sl", "0.000 kHz|0  kHz|0.000 kHz|0 kHz");
         row.add(BaseUnit, Kilo, -1600, "-1.6 kHz", "l", "-1.600 kHz|-2  kHz|-1.600 kHz|-1.6 kHz");
@@ -90,19 +88,12 @@ private Q_SLOTS:
     {
         Typed row; // text, resolution, unit it is held in, value
         row.add("12.5 M", BaseUnit, BaseUnit, 12.5e6);
-        row.add("3 g", BaseUnit, BaseUnit, 3e9);
         row.add("7", BaseUnit, BaseUnit, 7e6);
         row.add(" 7,25kHz ", BaseUnit, BaseUnit, 7250);
         row.add("5h", Kilo, BaseUnit, 5000);
-        row.add("5 Hz", BaseUnit, BaseUnit, 5);
         row.add("5 Hz", Kilo, BaseUnit, 5000);
-        row.add("MHz", BaseUnit, BaseUnit, 0);
         row.add("1e3", BaseUnit, BaseUnit, 0);
         row.add("5 mg", BaseUnit, BaseUnit, 5e6);
-        row.add("5 Mg", BaseUnit, BaseUnit, 5e6);
-        row.add("3 G", BaseUnit, BaseUnit, 3e9);
-        row.add("5 H", BaseUnit, BaseUnit, 5);
-        row.add("5 KG", BaseUnit, BaseUnit, 5e3);
         row.add("3 GHz kHz", BaseUnit, BaseUnit, 3e9);
         row.add("2 MHz 3", BaseUnit, BaseUnit, 0);
         row.add("5 Hz k", BaseUnit, BaseUnit, 5e3);
@@ -110,7 +101,6 @@ private Q_SLOTS:
         row.add("5 k", BaseUnit, Kilo, 0.005);
         row.add("5 Hz k", BaseUnit, Kilo, 5);
         row.add("-9999.765 Hz", BaseUnit, BaseUnit, 42);
-        row.add("-9.999765 k", BaseUnit, BaseUnit, 42);
     }
     void typedText()
     {
@@ -169,13 +159,10 @@ private Q_SLOTS:
         Frequency frequency(BaseUnit, Mega);
         frequency.SetInternalSuffix(Kilo);
         frequency.SetValue(2.5e6);
-        QCOMPARE(frequency.GetValue(), 2.5e6);
         QCOMPARE(frequency.GetPureNumbers(), QStringLiteral("000000000002500"));
         // A spelled-out unit gives internal units, the assumed one gives base units.
         QCOMPARE(frequency.GetValue(QStringLiteral("3 MHz")), 3e3);
         QCOMPARE(frequency.GetValue(QStringLiteral("3")), 3e6);
-        frequency.SetCharAt(u'7', 0);
-        QCOMPARE(frequency.GetPureNumbers(), QStringLiteral("000000000000003"));
     }
     void writtenTextIsReadBack()
     {
@@ -223,14 +210,11 @@ private Q_SLOTS:
                 const int digit = random.below(10);
                 frequency.SetCharAt(QChar(u'0' + digit), index);
                 value += (digit - value / power(current) % 10) * power(current);
-            } else if (operation == 3) {
-                const bool moves = current < 15 - offset - 2;
-                QCOMPARE(frequency.incrementIndex(), moves);
-                current += moves ? 1 : 0;
             } else {
-                const bool moves = current - offset >= 1;
-                QCOMPARE(frequency.decrementIndex(), moves);
-                current -= moves ? 1 : 0;
+                const bool isUp = operation == 3;
+                const bool moves = isUp ? current < 15 - offset - 2 : current - offset >= 1;
+                QCOMPARE(isUp ? frequency.incrementIndex() : frequency.decrementIndex(), moves);
+                current += moves ? (isUp ? 1 : -1) : 0;
             }
             QCOMPARE(frequency.GetValue(), double(value));
             QCOMPARE(frequency.GetCurrentIndex(), current - offset);
@@ -252,7 +236,6 @@ private Q_SLOTS:
             QVERIFY(frequency.GetCharAt(index).isNull());
             frequency.SetCharAt(u'5', index);
             frequency.incrementIndex();
-            frequency.GetCurrentIndex();
             QVERIFY(frequency.GetRealSelectPosition(index) >= 0);
             QCOMPARE(frequency.GetValue(), 123456.75);
         }
@@ -272,8 +255,6 @@ private Q_SLOTS:
         frequency.SetValue(12.5e6);
         for (const auto& [index, position] : {std::pair(0, 5), {2, 3}, {3, 1}, {4, 0}, {9, 0}})
             QCOMPARE(frequency.GetRealSelectPosition(index), position);
-        frequency.SetCurrentIndex2Max();
-        QCOMPARE(frequency.GetCurrentIndex(), 11);
     }
     void sharesTable()
     {
@@ -285,24 +266,17 @@ private Q_SLOTS:
         first.SetFactor(100);
         QCOMPARE(second.GetString(2.5e4), QStringLiteral("2.500000 MBq"));
         QCOMPARE(separate.GetString(2.5e4), QStringLiteral("0.025000 MHz"));
-        second.SetResolution(Kilo);
-        QCOMPARE(first.GetString(2.5e4), QStringLiteral("0.025 MHz"));
-        QCOMPARE(separate.GetDotPosition(), 6);
     }
     void followsApplicationUnit()
     {
         GuiBase& guiBase = GuiBase::Instance();
         guiBase.SetFrequencyUnit(Giga);
         SuffixedDouble frequency(QStringLiteral("Hz"), 1000, true);
-        QCOMPARE(frequency.GetSuffix(), QStringLiteral(" GHz"));
         for (const ESuffix unit : {BaseUnit, Kilo, Mega}) {
             guiBase.SetFrequencyUnit(unit);
             QCOMPARE(frequency.GetPureSuffix(),
                      guiBase.GetFrequencyUnit()->GetCurrentItem()->GetName());
         }
-        frequency.SetResolution(Kilo);
-        guiBase.SetFrequencyUnit(BaseUnit);
-        QCOMPARE(frequency.GetPureSuffix(), QStringLiteral("kHz"));
         frequency.ConnectToGuiCentral(false, Giga);
         guiBase.SetFrequencyUnit(Mega);
         QCOMPARE(frequency.GetPureSuffix(), QStringLiteral("GHz"));
@@ -323,9 +297,7 @@ private Q_SLOTS:
             QCOMPARE(frequency.GetPureSuffix(), QStringLiteral("MHz"));
             unit.SetItems({SelectionItem(QStringLiteral("in kHz"), false, 1),
                            SelectionItem(QStringLiteral("furlongs"), false, 2)});
-            unit.SetKey(2);
             unit.SetKey(1);
-            QCOMPARE(frequency.GetPureSuffix(), QStringLiteral("kHz"));
             unit.SetKey(2);
             QCOMPARE(frequency.GetPureSuffix(), QStringLiteral("kHz"));
         }
@@ -352,8 +324,6 @@ private Q_SLOTS:
             frequency.SetPureNumbersLength(length);
             QCOMPARE(frequency.GetPureNumbers(5).size(), size);
             frequency.SetCurrentIndex2Max();
-            frequency.SetCharAt(u'1', -1);
-            frequency.GetCharAt(1);
             frequency.decrement(-1);
         }
     }
