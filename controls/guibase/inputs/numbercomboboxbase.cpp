@@ -206,7 +206,8 @@ void NumberComboBoxBase<T>::interpret(int itemIndex)
     const QPointer<QObject> guard(this);
     if (wasChanged) {
         refusalMark().clear();
-        setValue(reading.value);
+        if (reading.outcome == Reading::Read)
+            setValue(reading.value);
     }
     if (guard)
         setLastUsedDisplayFormatIndex(reading.index);

@@ -275,7 +275,8 @@ void SpinBoxBase<T>::interpret()
     const QPointer<QObject> guard(this);
     if (wasChanged) {
         refusalMark().clear();
-        setValue(reading.value);
+        if (reading.outcome == Reading::Read)
+            setValue(reading.value);
     }
     if (guard)
         setLastUsedDisplayFormatIndex(reading.index);
