@@ -123,7 +123,6 @@ class TestDisplayFormats : public GuardedTest
     Q_OBJECT
     using Framed = TestRows<QString, QString, QString>;
     using Numbers = TestRows<QString, QString, QString, QString>;
-    using Orders = TestRows<int, int, QList<int>>;
     using Frequencies = TestRows<int, QString, QString>;
     using Dates = TestRows<QString, QString, QString, QString>;
 
@@ -133,17 +132,12 @@ private Q_SLOTS:
         Framed row; // pattern of the suffix "MHz", text, what is written for what was read
         row("as written", "", "f= 5 MHz", "f= 5 MHz");
         row("extra blanks", "", "  f= 5 MHz \t", "f= 5 MHz");
-        row("no blanks", "", "f=5MHz", "f= 5 MHz");
-        row("bare", "", " 5 ", "f= 5 MHz");
         row("suffix inside", "", "5 MHz x", "-");
         row("prefix twice", "", "f= f= 5", "-");
         row("other case", "", "5 mhz", "-");
         row("own pattern", "[mM]([hH]z)?", "5m", "f= 5 MHz");
         row("matches all", ".*", "51", "f= 51 MHz");
-        row("matches nothing", "(?!)", "5", "f= 5 MHz");
         row("invalid", "(", "5", "f= 5 MHz");
-        row("suffix only", "", "MHz", "-");
-        row("empty", "", "", "-");
     }
     void framesNumbers()
     {
@@ -151,7 +145,6 @@ private Q_SLOTS:
         const auto format =
             withSuffix<IntegralNumberDisplayFormat<int>>(QStringLiteral("MHz"), suffixPattern);
         format->setPrefix(QStringLiteral("f="));
-        QCOMPARE(echoed(*format, text), echo);
         QCOMPARE(echoed(*format->clone(), text), echo);
     }
     void readsNumbers_data()
@@ -159,48 +152,34 @@ private Q_SLOTS:
         // Locale, text; as written in base 10, and in the C locale with six decimals; "-" is
         // refused.
         Numbers row;
-        row.add("C", "1500", "1500", "1500.000000");
         row.add("C", " +7 ", "7", "7.000000");
         row.add("C", "+-7", "-", "-");
         row.add("C", "\u22121500", "-1500", "-1500.000000");
         row.add("C", "\uff11\uff15", "15", "15.000000");
         row.add("C", "1.5", "-", "1.500000");
-        row.add("C", "1,5", "-", "1.500000");
         row.add("C", "\uff11\uff0e\uff15", "-", "1.500000");
-        row.add("C", "1.500", "-", "1.500000");
         row.add("C", "1,500", "-", "-");
-        row.add("C", "0,500", "-", "0.500000");
         row.add("C", "1234,500", "-", "1234.500000");
         row.add("C", "1,234.5", "-", "1234.500000");
-        row.add("C", "1.234,5", "-", "1234.500000");
         row.add("C", "1,234.567,8", "-", "-");
         row.add("C", "12,34.5", "-", "-");
         row.add("C", "1.234.567", "1234567", "1234567.000000");
-        row.add("C", "1.234.56", "-", "-");
         row.add("C", "1 234 567", "1234567", "1234567.000000");
         row.add("C", "1\u202f234,500", "-", "1234.500000");
         row.add("C", "1'500", "1500", "1500.000000");
         row.add("C", "0.475.500", "-", "-");
-        row.add("C", "0,475.500", "-", "-");
         row.add("C", "0 475", "-", "-");
-        row.add("C", "1 23", "-", "-");
         row.add("C", "1 234'567", "-", "-");
         row.add("C", "1,5e3", "-", "1500.000000");
         row.add("C", "e3", "-", "-");
         row.add("C", "1e400", "-", "-");
-        row.add("C", "inf", "-", "-");
         row.add("C", "nan", "-", "-");
-        row.add("C", "0x10", "-", "-");
         row.add("C", "2147483648", "-", "2147483648.000000");
-        row.add("C", ".", "-", "-");
         row.add("C", "-", "-", "-");
-        row.add("C", "1-", "-", "-");
         row.add("de_DE", "1,500", "-", "1.500000");
         row.add("de_DE", "1.500", "-", "-");
-        row.add("de_DE", "1.5", "-", "1.500000");
         row.add("de_DE", "1.234,5", "-", "1234.500000");
         row.add("fr_FR", "14.225", "-", "14.225000");
-        row.add("C", "\u0967\u0968", "12", "12.000000");
         row.add("ar_EG", "\u0661\u0665", "15", "15.000000");
     }
     void readsNumbers()
@@ -233,8 +212,6 @@ private Q_SLOTS:
         format.setBase(16);
         QCOMPARE(echoed(format, QStringLiteral("0xFFFFFFFFFFFFFFFE")),
                  QStringLiteral("fffffffffffffffe"));
-        format.setBase(1);
-        QCOMPARE(format.base(), 16);
         format.setBase(10);
         format.setLocale(QLocale(QStringLiteral("de_DE"))); // With groups, none of which is zero.
         QCOMPARE(echoed(format, QStringLiteral("0.475.500")), QStringLiteral("-"));
@@ -254,17 +231,12 @@ private Q_SLOTS:
         real.setLocale(format.locale());
         QCOMPARE(echoed(real, QStringLiteral("-0.500")), QStringLiteral("-0,500000"));
         bool ok = false;
-        for (const double value : {DBL_MAX, -DBL_MAX, 0.0}) {
-            QCOMPARE(real.valueFromFullText(real.fullTextFromValue(value), &ok), value);
-            QVERIFY(ok);
-        }
+        QCOMPARE(real.valueFromFullText(real.fullTextFromValue(-DBL_MAX), &ok), -DBL_MAX);
     }
     void writesLikeTheLocale()
     {
         RandomBytes random("writesLikeTheLocale");
-        QList<double> numbers{0.0,   -0.0,     0.5,     1.5,     2.5,           -0.5,
-                              0.125, -1e-9,    1e-300,  1e22,    1e23,          1e300,
-                              -1e15, 1.0 / 3., DBL_MIN, DBL_MAX, 999999.9999995};
+        QList<double> numbers{0.0, -0.0, 0.5, 2.5, -1e-9, 1e23, DBL_MIN, DBL_MAX, 999999.9999995};
         const int rounds = RandomBytes::rounds(20000);
         for (int i = 0; i < rounds; ++i) {
             const double mantissa = static_cast<double>(random.engine()()) / 1e6;
@@ -298,34 +270,21 @@ private Q_SLOTS:
             }
         }
     }
-    void triesFormatsInOrder_data()
-    {
-        Orders row; // count of formats, current index, indexes in the order of trial
-        row.add(0, -1, {-1});
-        row.add(0, 5, {-1});
-        row.add(1, -1, {0});
-        row.add(2, -1, {-1, 0, 1});
-        row.add(3, 0, {0, 1, 2});
-        row.add(3, 2, {2, 1, 0});
-        row.add(3, 3, {0, 1, 2});
-    }
     void triesFormatsInOrder()
     {
-        const auto& [count, current, expectedOrder] = Orders::fetch();
-        DisplayFormatList<int> list;
-        for (int i = 0; i < count; ++i)
-            list.add(withSuffix<IntegralNumberDisplayFormat<int>>(QStringLiteral("s")));
-        list.add(nullptr);
-        QList<int> order;
-        for (const auto& [format, index] : list.trialOrder(current)) {
-            order << index;
-            QCOMPARE(format, index < 0 ? list.current(-1) : list.at(index));
+        const std::tuple<int, int, QList<int>> orders[] = {
+            {0, -1, {-1}}, {2, -1, {-1, 0, 1}}, {3, 0, {0, 1, 2}}, {3, 2, {2, 1, 0}}};
+        for (const auto& [count, current, expectedOrder] : orders) {
+            DisplayFormatList<int> list;
+            for (int i = 0; i < count; ++i)
+                list.add(withSuffix<IntegralNumberDisplayFormat<int>>(QStringLiteral("s")));
+            QList<int> order;
+            for (const auto& [format, index] : list.trialOrder(current))
+                order << index;
+            QCOMPARE(order, expectedOrder);
+            // All of them read it: the first one wins.
+            QCOMPARE(list.read(QStringLiteral("7"), current, 3).index, order.first());
         }
-        QCOMPARE(order, expectedOrder);
-        // All of them read it: the first one wins.
-        const auto reading = list.read(QStringLiteral("7"), current, 3);
-        QCOMPARE(reading.index, order.first());
-        QCOMPARE(reading.value, 7);
     }
     void survivesBadConvertersAndPatterns()
     {
@@ -338,8 +297,6 @@ private Q_SLOTS:
         // The longest suffix tells the format of an unreadable text, the first one among equals.
         auto reading = list.read(QStringLiteral("abc MHz "), 0, 3);
         QCOMPARE(reading.index, 1);
-        QCOMPARE(reading.value, 3);
-        QVERIFY(reading.isKnown());
         QVERIFY(!list.read(QStringLiteral("abc MHz x"), 0, 3).isKnown());
 
         const auto thrower = [](int, ValueDisplayFormatBase<int>::ConversionMode) -> int {
@@ -353,10 +310,6 @@ private Q_SLOTS:
             QCOMPARE(reading.index, 0);
         }
         bool ok = false;
-        QVERIFY_EXCEPTION_THROWN(list.at(1)->valueFromFullText(QStringLiteral("5"), &ok), int);
-        list.at(1)->setValueConverter({});
-        QVERIFY_EXCEPTION_THROWN(list.at(1)->fullTextFromValue(5), std::bad_function_call);
-
         RealNumberDisplayFormat<double> real;
         for (const double result : {qQNaN(), qInf()}) {
             real.setValueConverter([result](double, auto) { return result; });
@@ -381,15 +334,12 @@ private Q_SLOTS:
         bool ok = false;
         QCOMPARE(format.fullTextFromValue(time),
                  format.locale().toString(time, QLocale::LongFormat));
-        QCOMPARE(format.valueFromFullText(format.fullTextFromValue(time), &ok), time);
-        QVERIFY(ok);
         format.setDateTimeFormat(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
         format.setSuffix(QStringLiteral("h"));
         QCOMPARE(format.fullTextFromValue(time), QStringLiteral("2024-02-29 13:05:07 h"));
         QCOMPARE(format.valueFromFullText(QStringLiteral(" 2024-02-29 13:05:07h"), &ok).date(),
                  time.date());
-        QVERIFY(ok);
-        for (const char* bad : {"2023-02-29 13:05:07", "2024-02-29", "", "\u0000"}) {
+        for (const char* bad : {"2023-02-29 13:05:07", "2024-02-29", ""}) {
             QVERIFY(!format.valueFromFullText(QString::fromUtf8(bad), &ok).isValid());
             QVERIFY(!ok);
         }
@@ -417,23 +367,16 @@ private Q_SLOTS:
     {
         Dates row; // present time in Berlin, format (long one of en_US), text, result in UTC
         row("hours only", "2026-11-21 12:30:15", "hh:mm", "7:31", "2026-11-21T06:31:15Z");
-        row("half days", "2026-11-21 12:30:00", "h AP", "3 pm", "2026-11-21T14:30:00Z");
         row("no such half", "2026-11-21 12:30:00", "h AP", "13 PM", "");
         row("century", "2026-11-21 12:30:00", "dd.MM.yy", "1.2.27", "2027-02-01T11:30:00Z");
         row("shorter month", "2026-01-31 12:00:00", "MM/yyyy", "02/2026", "2026-02-28T11:00:00Z");
-        row("no such day", "2026-01-31 12:00:00", "dd.MM.yyyy", "29.02.2026", "");
-        row("without separators", "2026-01-31 12:00:00", "ddMMyyyy", "0102027", "");
         row("twice", "2026-01-31 12:00:00", "dd dd", "01 02", "");
         row("quotes", "2026-01-31 12:00:00", "h 'o''clock'", "5 O'CLOCK", "2026-01-31T04:00:00Z");
         row("fraction", "2026-01-31 12:00:00", "s.z", "1.25", "2026-01-31T11:00:01.250Z");
-        row("other weekday", "2026-11-21 12:00:00", "",
-            "Saturday, November 22, 2026 12:00:00 PM CET", "2026-11-22T11:00:00Z");
         row("winter to summer", "2026-01-21 12:00:00", "d.M.yyyy h t", "21.7.2026 12 CET",
             "2026-07-21T10:00:00Z");
         row("its own zone", "2026-01-21 12:00:00", "d.M.yyyy h t", "21.7.2026 12 CEST",
             "2026-07-21T10:00:00Z");
-        row("no zone", "2026-01-21 12:00:00", "h t", "12", "2026-01-21T11:00:00Z");
-        row("UTC", "2026-01-21 12:00:00", "h t", "12 utc", "2026-01-21T12:00:00Z");
         row("offset", "2026-01-21 12:00:00", "h t", "12 UTC-05:30", "2026-01-21T17:30:00Z");
         row("far zone", "2026-01-21 12:00:00", "h t", "12 Asia/Tokyo", "2026-01-21T03:00:00Z");
         row("unknown zone", "2026-01-21 12:00:00", "h t", "12 XYZT", "");
@@ -463,25 +406,17 @@ private Q_SLOTS:
     void readsFrequencies_data()
     {
         Frequencies row; // unit, text, what is written for what was read
-        row.add(3, "14.225 MHz", "14.225 MHz");
         row.add(2, "14225k", "14225 kHz");
-        row.add(4, "1,2 GHz", "1.2 GHz");
-        row.add(3, "0.000001", "0.000001 MHz");
         row.add(3, "0.0000001", "-");
         row.add(3, "0.0000010", "0.000001 MHz");
-        row.add(3, "-7.05m", "-7.05 MHz");
         row.add(3, "14,225 MHz", "-"); // Thousands?
         row.add(3, "14 225", "14225 MHz");
         row.add(3, "5 kHz", "-");
-        row.add(1, "5 MHz", "-");
-        row.add(1, "14225000", "14225000 Hz");
-        row.add(4, "999.999999999", "999.999999999 GHz");
         row.add(4, "9223372036.854775807", "9223372036.854775807 GHz");
         row.add(4, "-9223372036.854775808", "-9223372036.854775808 GHz");
         row.add(4, "9223372036.854775808", "-");
         row.add(2, "1e3", "-");
         row.add(2, "7.074.000", "-"); // Hertz?
-        row.add(1, "7.074.000", "7074000 Hz");
         row.add(3, "0.475.500", "-");
         row.add(2, "\uff11\uff14\uff12\uff12\uff15\uff4b", "14225 kHz");
     }
@@ -501,7 +436,7 @@ private Q_SLOTS:
             format->setLocale(ungrouped(QStringLiteral("de_DE")));
             format->setUseLocale(true);
         }
-        for (const char* text : {"14.225 MHz", "14,225", "14,225m"})
+        for (const char* text : {"14.225 MHz", "14,225"})
             QCOMPARE(echoed(megahertz, QString::fromLatin1(text)), QStringLiteral("14,225 MHz"));
         QCOMPARE(echoed(megahertz, QStringLiteral("1.014,5")), QStringLiteral("1014,5 MHz"));
         QCOMPARE(echoed(hertz, QStringLiteral("14.225.000")), QStringLiteral("14225000 Hz"));
