@@ -59,6 +59,7 @@ private Q_SLOTS:
     void showsTheSplashScreen()
     {
         TrovApplication application;
+        QCOMPARE(TrovApplication::m_pThis, &application);
         application.Write2Splash(QStringLiteral("nowhere"));
         application.SplashBusy();
         application.HideSplash();

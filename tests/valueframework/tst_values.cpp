@@ -117,6 +117,7 @@ private Q_SLOTS:
     {
         Variants row; // accepted by bool, text, int, double and selection
         row("list", QVariantList{1}, "-----");
+        row("text", QStringLiteral("x"), "-t---");
         row("truth as text", QStringLiteral("True"), "bt---");
         row("key as text", QStringLiteral("1"), "btids");
         row("fraction", 1.5, "btid-");
