@@ -41,6 +41,7 @@ private Q_SLOTS:
     {
         // Bins of 10 Hz from 0 on, each at -50 dB but the one from 200 to 210 Hz at -20 dB.
         Lines row; // the line; where the first bin above it is, 0 without
+        row("no line", {}, 0);
         row("point on the bin", {203, -30}, 205);
         row("point beside it", {215, -30}, 0);
         row("point as high", {203, -20}, 0);

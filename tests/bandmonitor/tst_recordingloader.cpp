@@ -50,6 +50,19 @@ private Q_SLOTS:
         QCOMPARE(m_failed->at(0).at(0).toString(), expected.arg(path));
         QVERIFY(!m_loader->isLoading());
     }
+    void cancelFromSlot()
+    {
+        loadSlowly();
+        connect(m_loader.get(), &RecordingLoader::progress, this, [this](qint64 done) {
+            if (done >= 100 * 1024)
+                m_loader->cancel();
+        });
+        QTRY_VERIFY(!m_loader->isLoading());
+        const qsizetype count = m_loader->recording()->count();
+        QCoreApplication::processEvents();
+        QVERIFY(count > 0 && m_loader->recording()->count() == count);
+        QCOMPARE(m_finished->count() + m_failed->count(), 0);
+    }
     void loadFromSlot()
     {
         loadSlowly();

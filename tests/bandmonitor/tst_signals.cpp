@@ -6,26 +6,22 @@
 
 #include "support/testrows.h"
 
+#include <algorithm>
 #include <cmath>
 #include <map>
+#include <random>
 
 using namespace bandmonitor;
 
 namespace {
 
-/// Noise that is the same every time, with a normal-like spread of 1 dB.
-std::vector<float> noise(std::size_t bins, float floorDb, unsigned seed = 1)
+/// Noise that is the same every time, with a spread of 1 dB.
+std::vector<float> noise(std::size_t bins, float floorDb)
 {
+    std::mt19937 engine;
+    std::normal_distribution<float> spread(floorDb, 1);
     std::vector<float> levels(bins);
-    quint64 state = seed;
-    for (float& level : levels) {
-        float sum = 0;
-        for (int i = 0; i < 6; ++i) {
-            state = state * 6364136223846793005U + 1442695040888963407U;
-            sum += static_cast<float>(state >> 40) / (1 << 24) - 0.5F;
-        }
-        level = floorDb + sum * 1.414F;
-    }
+    std::ranges::generate(levels, [&] { return spread(engine); });
     return levels;
 }
 
