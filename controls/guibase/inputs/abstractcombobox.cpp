@@ -85,6 +85,13 @@ void AbstractComboBox::setSpecialValueText(const QString& text)
         showValue();
 }
 
+void AbstractComboBox::setModel(QAbstractItemModel* model)
+{
+    QComboBox::setModel(model);
+    if (currentIndex() < 0) // The toolkit clears the text, and may not tell.
+        showValue();
+}
+
 QLineEdit* AbstractComboBox::inputLineEdit() const
 {
     return lineEdit();

@@ -45,6 +45,9 @@ public:
     /// The text of the current value.
     virtual QString textValue() const = 0;
 
+    /// A model without items leaves the value.
+    void setModel(QAbstractItemModel* model) override;
+
     QLineEdit* inputLineEdit() const override;
     QString inputRefusal() const override { return m_mark.reason(); }
 
