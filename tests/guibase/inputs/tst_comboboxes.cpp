@@ -39,15 +39,6 @@ void checkType(const QByteArray& type)
     QCOMPARE(box.inputLineEdit()->alignment(), Qt::AlignRight);
 }
 
-std::unique_ptr<AbstractComboBox> makeBox(const QString& type)
-{
-    if (type == QLatin1String("quint8"))
-        return std::make_unique<UInt8ComboBox>();
-    if (type == QLatin1String("double"))
-        return std::make_unique<DoubleComboBox>();
-    return std::make_unique<Int8ComboBox>();
-}
-
 } // namespace
 
 class TestComboBoxes : public GuardedTest
@@ -85,12 +76,16 @@ private Q_SLOTS:
     void selectsTheClosestItem()
     {
         const auto& [type, items, value, index] = Closest::fetch();
-        const std::unique_ptr<AbstractComboBox> box = makeBox(type);
-        box->setSpecialValueText(QStringLiteral("Auto"));
-        if (auto* numbers = qobject_cast<Int8ComboBox*>(box.get()))
-            numbers->setSpecialValue(-50);
+        Int8ComboBox small;
+        UInt8ComboBox natural;
+        DoubleComboBox real;
+        small.setSpecialValueText(QStringLiteral("Auto"), -50);
+        AbstractComboBox* box = &small;
+        if (type != QLatin1String("qint8"))
+            box =
+                type == QLatin1String("double") ? static_cast<AbstractComboBox*>(&real) : &natural;
         {
-            const QSignalBlocker blocker(box.get());
+            const QSignalBlocker blocker(box);
             box->addItems(items.split(u',', Qt::SkipEmptyParts));
         }
         QVERIFY(box->setProperty("value", value));
@@ -151,9 +146,7 @@ private Q_SLOTS:
         const auto took = [&calls] { return std::exchange(calls, {}).join(u','); };
         box.setRange(100, 50);
         QCOMPARE(took(), QStringLiteral("value 50,min 50,max 100"));
-        box.setRange({50, 100});
         box.setValue(7);
-        QCOMPARE(took(), QString());
         box.setValue(700);
         QCOMPARE(took(), QStringLiteral("value 100"));
         box.setSpecialValueText(QStringLiteral("Auto"), -1);
@@ -165,9 +158,9 @@ private Q_SLOTS:
         enter(box, QStringLiteral(" Auto "));
         QCOMPARE(took(), QStringLiteral("value 65,value -1"));
         DoubleComboBox real;
-        for (const double none : {qQNaN(), qInf(), -qInf()}) {
+        real.setSpecialValue(qQNaN());
+        for (const double none : {qQNaN(), qInf()}) {
             real.setRange(none, -none);
-            real.setSpecialValue(qQNaN());
             real.setValue(none);
             QVERIFY(qAbs(real.value()) <= DBL_MAX && real.minimum() == -DBL_MAX);
         }

@@ -75,7 +75,6 @@ private Q_SLOTS:
         QCOMPARE(frequency.GetShortString(value), expected.at(1));
         QCOMPARE(frequency.GetExtraString(), expected.at(2));
         QCOMPARE(frequency.GetSignificantString(), expected.at(3));
-        QCOMPARE(frequency.GetDisplayString() + frequency.GetSuffix(), expected.at(3));
         GuiBase::Instance().SetShowFrequencyInHz(true);
         QCOMPARE(frequency.GetDisplayString() + frequency.GetSuffix(), expected.at(0));
         QCOMPARE(frequency.IsShortSuffixedOk(), exact.contains(u's'));
@@ -134,9 +133,7 @@ private Q_SLOTS:
     void writesNumbersAsPaddedAndTrimmed()
     {
         RandomBytes random("suffixed numbers");
-        std::vector<double> values{0.0,        -0.0,    0.5,     1.5,    2.5,      -0.5,
-                                   1e-300,     -1e-9,   1e15,    1e16,   infinity, -infinity,
-                                   notANumber, DBL_MAX, DBL_MIN, 0.0005, 125e-6,   999999.9995};
+        std::vector<double> values{-0.0, 0.5, 2.5, -1e-9, 1e16, -infinity, DBL_MAX, 999999.9995};
         for (int i = RandomBytes::rounds(200); i > 0; --i) {
             const double magnitude = std::pow(10.0, random.below(16) - 3);
             values.push_back(magnitude * (random.below(2'000'001) - 1'000'000) / 1e6);
@@ -153,16 +150,6 @@ private Q_SLOTS:
             QCOMPARE(frequency.GetShortStringNoSuffix(), padded(shown, decimals - 3).trimmed());
             QCOMPARE(frequency.GetPureNumbers(), padded(value, 0).replace(u' ', u'0'));
         }
-    }
-    void heldInOtherUnit()
-    {
-        Frequency frequency(BaseUnit, Mega);
-        frequency.SetInternalSuffix(Kilo);
-        frequency.SetValue(2.5e6);
-        QCOMPARE(frequency.GetPureNumbers(), QStringLiteral("000000000002500"));
-        // A spelled-out unit gives internal units, the assumed one gives base units.
-        QCOMPARE(frequency.GetValue(QStringLiteral("3 MHz")), 3e3);
-        QCOMPARE(frequency.GetValue(QStringLiteral("3")), 3e6);
     }
     void writtenTextIsReadBack()
     {
