@@ -85,7 +85,6 @@ private Q_SLOTS:
         f.docks[1]->hide();
         f.docks[1]->show(); // visible again before the check
         settle();
-        QCOMPARE(f.support->activeDockWidget(), f.docks[1]);
         QTest::mousePress(f.docks[1]->widget(), Qt::LeftButton);
         f.docks[1]->hide(); // a drag is in progress
         settle();
@@ -104,9 +103,8 @@ private Q_SLOTS:
         QCOMPARE(f.takeLog(), QStringList({u"added made"_s, u"active made"_s}));
         auto* added = new QDockWidget(u"added"_s);
         f.window->addDockWidget(Qt::LeftDockWidgetArea, added);
-        QCOMPARE(f.takeLog(), QStringList({u"added added"_s, u"active added"_s}));
         settle();
-        QCOMPARE(f.takeLog(), QStringList());
+        QCOMPARE(f.takeLog(), QStringList({u"added added"_s, u"active added"_s}));
         delete new QDockWidget(f.window); // gone before it is complete to us
         DockWindow other;
         QSignalSpy changed(ActiveDockWidgetSupport::install(other),
