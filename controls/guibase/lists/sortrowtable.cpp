@@ -120,10 +120,10 @@ QTableWidgetItem* SortRowTable::appendRow(const QString& frequency, const QStrin
 {
     const int row = rowCount();
     insertRow(row);
-    auto* const item = new NumberItem(frequency);
-    setItem(row, frequencyColumn, item);
-    setItem(row, levelColumn, new NumberItem(level));
-    return item;
+    const QString texts[] = {frequency, level};
+    for (int column = frequencyColumn; column <= levelColumn && column < columnCount(); ++column)
+        setItem(row, column, new NumberItem(texts[column]));
+    return item(row, frequencyColumn);
 }
 
 void SortRowTable::addRows(const QList<QPair<QString, QString>>& rows)
@@ -142,6 +142,8 @@ void SortRowTable::slotNew()
         const SortingPause pause(*this);
         item = appendRow(QStringLiteral(""), QStringLiteral("0"));
     }
+    if (item == nullptr)
+        return;
     scrollToItem(item);
     setCurrentItem(item);
     QCoreApplication::postEvent(this, new QKeyEvent(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier));
@@ -171,22 +173,53 @@ void SortRowTable::slotDelete()
         return cell == nullptr ? QString() : cell->text();
     };
     const QPointer<SortRowTable> self(this);
-    QMessageBox::StandardButton answer = QMessageBox::Yes;
-    for (const QPersistentModelIndex& index : rows) {
-        if (!index.isValid())
+    while (!rows.isEmpty()) {
+        const QPersistentModelIndex index = rows.first();
+        if (!index.isValid()) {
+            rows.removeFirst();
             continue;
-        if (answer != QMessageBox::YesToAll)
-            answer = ModalDialogs::show(
-                this,
-                {QMessageBox::Warning, tr("Delete"),
-                 tr("Do you want to delete item \"%1, %2\"?")
-                     .arg(textAt(index.row(), frequencyColumn), textAt(index.row(), levelColumn)),
-                 QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll | QMessageBox::NoToAll,
-                 QMessageBox::Yes});
+        }
+        const auto answer = ModalDialogs::show(
+            this,
+            {QMessageBox::Warning, tr("Delete"),
+             tr("Do you want to delete item \"%1, %2\"?")
+                 .arg(textAt(index.row(), frequencyColumn), textAt(index.row(), levelColumn)),
+             QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll | QMessageBox::NoToAll,
+             QMessageBox::Yes});
         if (!self || answer == QMessageBox::NoToAll)
             return;
-        if ((answer == QMessageBox::Yes || answer == QMessageBox::YesToAll) && index.isValid())
+        if (answer == QMessageBox::YesToAll) {
+            removeRows(std::exchange(rows, {}));
+            return;
+        }
+        rows.removeFirst();
+        if (answer == QMessageBox::Yes && index.isValid())
             removeRow(index.row());
+    }
+}
+
+/// Removes neighbours together: one by one, many rows would take minutes.
+void SortRowTable::removeRows(QList<QPersistentModelIndex> rows)
+{
+    std::set<int> numbers;
+    for (const QPersistentModelIndex& row : std::as_const(rows)) {
+        if (row.isValid())
+            numbers.insert(row.row());
+    }
+    rows.clear(); // each of them would have to follow every removal
+    QList<QPair<QPersistentModelIndex, QPersistentModelIndex>> blocks;
+    int previous = -1;
+    for (const int row : numbers) {
+        const QPersistentModelIndex index(model()->index(row, frequencyColumn));
+        if (!blocks.isEmpty() && row == previous + 1)
+            blocks.last().second = index;
+        else
+            blocks.append({index, index});
+        previous = row;
+    }
+    for (const auto& [first, last] : std::as_const(blocks)) {
+        if (first.isValid() && last.isValid())
+            model()->removeRows(first.row(), last.row() - first.row() + 1);
     }
 }
 
@@ -266,8 +299,8 @@ void SortRowTable::slotPaste()
     const QList<QPair<QString, QString>> rows =
         parseRows(QGuiApplication::clipboard()->text(), &left);
     const bool isSingleValue = rows.size() == 1 && rows.first().second.isEmpty();
-    if (isSingleValue && currentItem() != nullptr)
-        currentItem()->setText(rows.first().first);
+    if (isSingleValue && currentIndex().isValid())
+        model()->setData(currentIndex(), rows.first().first);
     else
         addRows(rows);
     if (left > 0)

@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QPair>
+#include <QPersistentModelIndex>
 #include <QString>
 #include <QTableWidget>
 
@@ -56,7 +57,9 @@ protected:
 
 private:
     void init(const char* name);
+    /// Returns the item of the frequency; null without that column.
     QTableWidgetItem* appendRow(const QString& frequency, const QString& level);
+    void removeRows(QList<QPersistentModelIndex> rows);
     QList<int> rowsToDelete() const;
 
     /// Insert or Delete from its press with modifiers, which may be let go first, to its release.

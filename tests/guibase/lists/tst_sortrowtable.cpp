@@ -70,6 +70,7 @@ private Q_SLOTS:
         QTRY_COMPARE(rowsOf(*m_table), QStringLiteral("12/0"));
         m_table->slotClearAll();
         QCOMPARE(m_table->rowCount(), 0);
+        SortRowTable(0, 1).slotNew(); // without the second column
     }
     void sorting()
     {
@@ -148,6 +149,7 @@ private Q_SLOTS:
         QCOMPARE(m_table->rowCount(), 6);
         m_table->setRowCount(4);
         m_table->setCurrentCell(0, 1);
+        delete m_table->takeItem(0, 1); // a cell without item is one, too
         clipboard->setText(QStringLiteral("55"));
         m_table->slotPaste();
         QVERIFY(rowsOf(*m_table).startsWith(QStringLiteral("1/55 2/7 ")));
@@ -163,10 +165,15 @@ private Q_SLOTS:
     {
         const QString line = QStringLiteral("1\n");
         QGuiApplication::clipboard()->setText(line.repeated(SortRowTable::maximumPastedRows + 2));
-        const Answers given([](QMessageBox& box, int) { box.button(QMessageBox::Ok)->click(); });
+        const Answers given([](QMessageBox& box, int question) {
+            box.button(question == 0 ? QMessageBox::Ok : QMessageBox::YesToAll)->click();
+        });
         m_table->slotPaste();
         QCOMPARE(m_table->rowCount(), SortRowTable::maximumPastedRows);
         QVERIFY(given.texts.value(0).contains(QStringLiteral(" 2 more rows")));
+        m_table->selectAll();
+        m_table->slotDelete(); // row by row it would take minutes
+        QCOMPARE(m_table->rowCount(), 0);
     }
 
 private:
