@@ -191,8 +191,6 @@ void HeaderState::applyTo(QHeaderView& header, int first) const
         const int from = header.visualIndex(section);
         header.moveSection(from, place > from ? place - 1 : place);
     }
-    if (header.count() > 0 && header.hiddenSectionCount() == header.count())
-        header.showSection(header.logicalIndex(0));
     if (sortSection >= first && sortSection < count)
         header.setSortIndicator(sortSection, sortOrder);
 }

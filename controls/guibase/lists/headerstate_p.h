@@ -29,6 +29,6 @@ struct HeaderState
     static std::optional<HeaderState> fromBytes(const QByteArray& bytes,
                                                 Qt::Orientation orientation);
     /// Arranges the header's sections from `first` on, as far as the state knows them; those before
-    /// it stay as they are, and one section always stays visible.
+    /// it stay as they are.
     void applyTo(QHeaderView& header, int first) const;
 };

@@ -93,6 +93,9 @@ void QHeaderViewColumnHandler::restoreState(const QString& text, int firstSectio
         m_header->restoreState(bytes);
     else
         state->applyTo(*m_header, firstSection);
+    // Without any section there would be no header to bring the others back with.
+    if (m_header->count() > 0 && m_header->hiddenSectionCount() == m_header->count())
+        m_header->showSection(m_header->logicalIndex(0));
     if (!isWhole)
         m_awaitedState = text;
 }

@@ -31,8 +31,8 @@ public:
     /// Writes geometry and state into the configuration and stores it.
     void saveColumnStatus();
     /// Sections that the state does not know get the default size, behind the others. Sections that
-    /// the header does not have yet are arranged when they come. The geometry counts only for a
-    /// header that is a window of its own.
+    /// the header does not have yet are arranged when they come. One section always stays visible.
+    /// The geometry counts only for a header that is a window of its own.
     void restoreColumnStatus();
 
     bool eventFilter(QObject* object, QEvent* event) override;

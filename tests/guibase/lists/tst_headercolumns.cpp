@@ -98,6 +98,11 @@ private Q_SLOTS:
             MenuVisitor::choose(menu, 3);
         });
         QCOMPARE(header.view->hiddenSectionCount(), 0);
+        header.view->hideSection(0);
+        header.view->hideSection(1);
+        header.handler->saveColumnStatus();
+        header.handler->restoreColumnStatus();
+        QCOMPARE(header.view->hiddenSectionCount(), 1);
     }
     void handlerAndHeaderMayGo()
     {
