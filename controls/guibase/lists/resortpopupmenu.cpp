@@ -3,6 +3,8 @@
 
 #include "iupdatemenu.h"
 
+#include <guibase/services/widgetplacement_p.h>
+
 #include <QAction>
 #include <QCursor>
 #include <QMetaObject>
@@ -315,9 +317,13 @@ void ResortPopupMenu::showEvent(QShowEvent* event)
     m_cursorPositionOnShow = QCursor::pos();
     // A copy, for an updater may add or remove updaters.
     const std::vector<IUpdateMenu*> updaters = m_updaters;
+    const QSize placedSize = size();
     for (IUpdateMenu* updater : updaters) {
         if (std::find(m_updaters.begin(), m_updaters.end(), updater) != m_updaters.end())
             updater->UpdateMenu(this);
     }
+    // The toolkit has placed the menu with the entries it had before.
+    if (size() != placedSize)
+        setGeometry(WidgetPlacement::reachableGeometry(geometry(), *this));
     QMenu::showEvent(event);
 }

@@ -149,6 +149,12 @@ private Q_SLOTS:
         QCOMPARE(second.shows, 0);
         QCOMPARE(m_menu->GetCursorPosOnShow(), QPoint(40, 50));
         m_menu->close();
+        m_menu->clear();
+        MenuVisitor::announceKeyboardGrab();
+        const QRect screen = m_menu->screen()->availableGeometry();
+        m_menu->popup(screen.bottomRight());
+        QVERIFY(screen.contains(m_menu->geometry()));
+        m_menu->close();
     }
     void entriesGoWhileTheyAreTriggered()
     {
