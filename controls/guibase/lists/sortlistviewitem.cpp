@@ -11,6 +11,7 @@
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -20,6 +21,15 @@ SortListViewItem* cast(QTreeWidgetItem* item)
 {
     return dynamic_cast<SortListViewItem*>(item);
 }
+
+/// What the tree forgets of a row that is taken out.
+struct RowState
+{
+    QTreeWidgetItem* item;
+    bool isSelected;
+    bool isExpanded;
+    bool isCurrent;
+};
 
 } // namespace
 
@@ -200,9 +210,12 @@ void SortListViewItem::moveItem(QTreeWidgetItem* after)
     const int row = tree == nullptr ? -1 : tree->indexOfTopLevelItem(after);
     if (row < 0 || after == this)
         return;
-    const bool wasSelected = isSelected();
-    const bool wasExpanded = isExpanded();
-    const int currentColumn = tree->currentItem() == this ? tree->currentColumn() : -1;
+    std::vector<RowState> states;
+    const QTreeWidgetItem* const current = tree->currentItem();
+    const int currentColumn = tree->currentColumn();
+    ItemWalk::visitAll(*this, [&](QTreeWidgetItem& item) {
+        states.push_back({&item, item.isSelected(), item.isExpanded(), &item == current});
+    });
     if (SortListView* const list = listView())
         list->m_sorter->forgetOrder();
     // Selection and current item are the same afterwards; nobody shall see, and act on, what they
@@ -214,10 +227,12 @@ void SortListViewItem::moveItem(QTreeWidgetItem* after)
         tree->takeTopLevelItem(tree->indexOfTopLevelItem(this));
     tree->insertTopLevelItem(std::min(row, tree->topLevelItemCount()), this);
     ItemWalk::restoreCheckBoxes(*this);
-    setExpanded(wasExpanded);
-    setSelected(wasSelected);
-    if (currentColumn >= 0)
-        tree->setCurrentItem(this, currentColumn, QItemSelectionModel::NoUpdate);
+    for (const RowState& state : states) {
+        state.item->setExpanded(state.isExpanded);
+        state.item->setSelected(state.isSelected);
+        if (state.isCurrent)
+            tree->setCurrentItem(state.item, currentColumn, QItemSelectionModel::NoUpdate);
+    }
 }
 
 SortListViewItem* SortListViewItem::firstChild()

@@ -116,6 +116,13 @@ private Q_SLOTS:
         child->moveItem(list.topLevelItem(2));
         QCOMPARE(list.indexOfTopLevelItem(child), 2);
         QVERIFY(list.currentItem() == child && child->isSelected());
+        disconnect(&list, nullptr, &list, nullptr);
+        auto* const grandchild = new QTreeWidgetItem(new QTreeWidgetItem(child));
+        grandchild->parent()->setExpanded(true);
+        list.setCurrentItem(grandchild);
+        child->moveItem(list.topLevelItem(0));
+        QVERIFY(grandchild->isSelected() && grandchild->parent()->isExpanded());
+        QCOMPARE(list.QTreeWidget::currentItem(), grandchild);
     }
     void checkBoxes_data()
     {
