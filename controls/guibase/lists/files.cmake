@@ -14,6 +14,8 @@ set(lists_sources
     headerstate.cpp
     headerstate_p.h
     itemwalk_p.h
+    listcolumnkeys.cpp
+    listcolumnkeys_p.h
     listsorter.cpp
     listsorter_p.h
     qheaderviewcolumnhandler.cpp

@@ -4,6 +4,7 @@
 #include "checksortlistviewitem.h"
 #include "isortcallback.h"
 #include "itemwalk_p.h"
+#include "listcolumnkeys_p.h"
 #include "listsorter_p.h"
 #include "sortlistviewitem.h"
 
@@ -43,16 +44,6 @@ int compareNumbers(const QString& x, const QString& y, Part part)
     return xNumber != yNumber ? 1 : 0;
 }
 
-/// The next visual place with a visible section; -1 at the end.
-int nextVisiblePlace(const QHeaderView& header, int place, int step)
-{
-    do
-        place += step;
-    while (place >= 0 && place < header.count() &&
-           header.isSectionHidden(header.logicalIndex(place)));
-    return place < header.count() ? place : -1;
-}
-
 /// The item came into a view, by itself or with one above it.
 void arrive(QTreeWidgetItem& item)
 {
@@ -73,6 +64,7 @@ ISortCallback::~ISortCallback() = default;
 SortListView::SortListView(QWidget* parent, const char* name)
     : QTreeWidget(parent)
     , m_headerMenu(new QMenu(this))
+    , m_columnKeys(std::make_unique<ListColumnKeys>(*this))
     , m_sorter(std::make_unique<ListSorter>(*this))
 {
     if (name != nullptr)
@@ -480,18 +472,30 @@ void SortListView::slotHeaderClicked(int column)
         header()->setSortIndicator(column, order);
 }
 
+/// Null for none and for several. Like selectedItems(), which would list all of them, regardless of
+/// hidden rows.
+QTreeWidgetItem* SortListView::onlySelectedItem() const
+{
+    QTreeWidgetItem* only = nullptr;
+    const QItemSelection ranges = selectionModel()->selection();
+    for (const QItemSelectionRange& range : ranges) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            QTreeWidgetItem* const item = itemFromIndex(model()->index(row, 0, range.parent()));
+            if (item == nullptr || item == only || item->isHidden())
+                continue;
+            if (only != nullptr)
+                return nullptr;
+            only = item;
+        }
+    }
+    return only;
+}
+
 void SortListView::slotSelectionChanged()
 {
     if (!isVisible())
         return;
-    // Many selected rows are a few ranges: counting them first saves listing them.
-    const QItemSelection ranges = selectionModel()->selection();
-    if (std::any_of(ranges.begin(), ranges.end(),
-                    [](const QItemSelectionRange& range) { return range.height() > 1; }))
-        return;
-    const QList<QTreeWidgetItem*> items = selectedItems();
-    SortListViewItem* const item = items.size() == 1 ? cast(items.first()) : nullptr;
-    if (item != nullptr)
+    if (SortListViewItem* const item = cast(onlySelectedItem()))
         Q_EMIT selectionChanged(item);
 }
 
@@ -554,58 +558,12 @@ void SortListView::contextMenuEvent(QContextMenuEvent* event)
 
 void SortListView::keyPressEvent(QKeyEvent* event)
 {
-    if (!handleColumnKey(event->key(), event->modifiers() & ~Qt::KeypadModifier))
-        QTreeWidget::keyPressEvent(event);
-}
-
-bool SortListView::handleColumnKey(int key, Qt::KeyboardModifiers modifiers)
-{
-    const bool choose = modifiers == Qt::AltModifier;
-    const bool change = modifiers == (Qt::AltModifier | Qt::ShiftModifier);
-    const int step = (key == Qt::Key_Left) == isRightToLeft() ? 1 : -1;
-    const int column = chosenColumn();
-    if (key == Qt::Key_H && modifiers == (Qt::ControlModifier | Qt::AltModifier) && m_hasColumnMenu)
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (m_hasColumnMenu && event->key() == Qt::Key_H &&
+        modifiers == (Qt::ControlModifier | Qt::AltModifier))
         slotHeaderContextMenuRequested(QPoint(0, header()->height()));
-    else if (choose && (key == Qt::Key_Left || key == Qt::Key_Right))
-        chooseColumn(nextVisiblePlace(*header(), header()->visualIndex(column), step));
-    else if (change && (key == Qt::Key_Left || key == Qt::Key_Right))
-        moveColumn(column, step);
-    else if (change && (key == Qt::Key_Up || key == Qt::Key_Down) && hasColumn(column))
-        setSorting(column, key == Qt::Key_Up);
-    else
-        return false;
-    return true;
-}
-
-int SortListView::chosenColumn() const
-{
-    if (QTreeWidget::currentItem() != nullptr)
-        return currentColumn();
-    const bool isShown = hasColumn(m_chosenColumn) && !isColumnHidden(m_chosenColumn);
-    const int first = nextVisiblePlace(*header(), -1, 1);
-    return isShown || first < 0 ? m_chosenColumn : header()->logicalIndex(first);
-}
-
-void SortListView::chooseColumn(int place)
-{
-    if (place < 0)
-        return;
-    m_chosenColumn = header()->logicalIndex(place);
-    QTreeWidgetItem* const item = QTreeWidget::currentItem();
-    if (item == nullptr)
-        return;
-    const QModelIndex index = indexFromItem(item, m_chosenColumn);
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-    scrollTo(index);
-}
-
-void SortListView::moveColumn(int column, int step)
-{
-    if (!hasColumn(column) || !header()->sectionsMovable())
-        return;
-    const int place = nextVisiblePlace(*header(), header()->visualIndex(column), step);
-    if (place >= 0)
-        header()->moveSection(header()->visualIndex(column), place);
+    else if (!m_columnKeys->handle(event->key(), modifiers))
+        QTreeWidget::keyPressEvent(event);
 }
 
 void SortListView::rowsInserted(const QModelIndex& parent, int first, int last)

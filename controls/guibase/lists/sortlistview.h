@@ -15,6 +15,7 @@
 #include <vector>
 
 class ISortCallback;
+class ListColumnKeys;
 class ListSorter;
 class QAction;
 class QMenu;
@@ -166,14 +167,11 @@ private:
 
     bool hasColumn(int column) const;
     bool hasItem(const QTreeWidgetItem* item) const;
+    QTreeWidgetItem* onlySelectedItem() const;
     /// Whether the items compare at all at present.
     bool maySort() const;
     CompareFunction compareFunction(int column) const;
     void connectSignals();
-    bool handleColumnKey(int key, Qt::KeyboardModifiers modifiers);
-    void moveColumn(int column, int step);
-    int chosenColumn() const;
-    void chooseColumn(int place);
     void updateColumnActions();
     void applyColumns(int oldCount, int newCount);
     void keepColumns();
@@ -191,6 +189,6 @@ private:
     QList<QAction*> m_columnActions;
     QPointer<QMenu> m_contextMenu;
     int m_childCursor = 0;
-    int m_chosenColumn = 0; ///< By keys, for the time without a current item.
+    std::unique_ptr<ListColumnKeys> m_columnKeys;
     std::unique_ptr<ListSorter> m_sorter;
 };

@@ -120,6 +120,10 @@ private Q_SLOTS:
         m_list->clearSelection();
         m_list->topLevelItem(3)->setSelected(true);
         QCOMPARE(spy.size(), 1);
+        m_list->topLevelItem(2)->setHidden(true);
+        const auto index = [this](int row) { return m_list->model()->index(row, 0); };
+        m_list->selectionModel()->select({index(1), index(2)}, QItemSelectionModel::ClearAndSelect);
+        QCOMPARE(spy.size(), 2);
         QCOMPARE(spy.first().first().value<SortListViewItem*>(), m_list->topLevelItem(1));
         connect(m_list.get(), qOverload<SortListViewItem*>(&SortListView::selectionChanged),
                 m_list.get(), &QTreeWidget::clear);
