@@ -23,6 +23,16 @@ std::unique_ptr<ICfg> configuration()
     return CfgCenter::GetAppCfg(LayoutView)->OpenSubCfg(QStringLiteral("FreqStoreListView"));
 }
 
+/// Nothing for a damaged text, which is kept aside.
+std::optional<QList<ColumnRecord>> knownColumns(ICfg& cfg, const QString& name)
+{
+    const QString text = cfg.GetString(name);
+    auto columns = ColumnText::parse(text);
+    if (!columns)
+        DamagedRecords::keepAside(cfg, name, text, QStringLiteral("the columns are damaged"));
+    return columns;
+}
+
 /// Appends the known columns that the list does not have. They keep their places: the list's own
 /// columns share those that were theirs before.
 void keepOthers(QList<ColumnRecord>& columns, const QHeaderView& header,
@@ -200,7 +210,8 @@ void ColumnTable::store(const QString& name, const SortListView* list)
     if (hasChanged)
         m_changed.erase(changed);
     // Not what this table has: another list, or process, may have stored meanwhile.
-    const auto known = ColumnText::parse(configuration()->GetString(name));
+    const std::unique_ptr<ICfg> cfg = configuration();
+    const auto known = knownColumns(*cfg, name);
     QList<ColumnRecord> columns = columnsOf(*list, known.value_or(QList<ColumnRecord>()));
     if (columns == known)
         return;
@@ -213,10 +224,7 @@ void ColumnTable::apply(const QString& name, SortListView* list, int firstColumn
     if (list == nullptr)
         return;
     const std::unique_ptr<ICfg> cfg = configuration();
-    const QString text = cfg->GetString(name);
-    const auto columns = ColumnText::parse(text);
-    if (!columns)
-        DamagedRecords::keepAside(*cfg, name, text, QStringLiteral("the columns are damaged"));
+    const auto columns = knownColumns(*cfg, name);
     if (!columns || columns->isEmpty()) {
         m_columns.erase(name);
         return;

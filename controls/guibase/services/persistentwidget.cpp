@@ -421,8 +421,10 @@ void PersistentWidget::restoreGeometryIfMoved(const QByteArray& geometry)
 void PersistentWidget::minimizeLater()
 {
     if (m_widget)
-        QTimerHelpers::singleShot(minimizeMilliseconds, m_widget,
-                                  [widget = m_widget.data()] { widget->showMinimized(); });
+        QTimerHelpers::singleShot(minimizeMilliseconds, m_widget, [widget = m_widget.data()] {
+            if (!widget->isHidden()) // closed meanwhile
+                widget->showMinimized();
+        });
 }
 
 void PersistentWidget::restoreProgramStart()

@@ -22,9 +22,10 @@ class QTimer;
 /// A change of the mode changes the docks and shows the window, unless the user has closed it. The
 /// program start stays the one of the record.
 ///
-/// The widget is not owned. What it looked like last is remembered with every change, so that it
-/// can be written also after the widget is gone. A stored state that does not pass its check is not
-/// applied; the record is then kept aside, once, under its name followed by "_damaged".
+/// The widget is not owned. What it looked like last is remembered when its geometry changes, when
+/// it is closed and with every write, so that it can be written also after the widget is gone. A
+/// stored state that does not pass its check is not applied; the record is then kept aside, once,
+/// under its name followed by "_damaged".
 class PersistentWidget : public QObject, public PersistantOwner, public SaveComponentIf
 {
     Q_OBJECT
@@ -49,8 +50,8 @@ public:
     void restoreFactory();
     void capture();
     void applyAwaited();
-    /// Captures the dock layout of the current mode, applies that of another one and shows the widget
-    /// unless it was closed.
+    /// Captures the dock layout of the current mode, applies that of another one and shows the
+    /// widget unless it was closed.
     void setMode(quint32 mode);
     /// Makes the present dock layout the factory layout of the mode; the current mode stays.
     void storeFactory(quint32 mode);

@@ -95,6 +95,11 @@ private Q_SLOTS:
     }
     void damagedTexts()
     {
+        const QString damaged = QStringLiteral("x");
+        const auto unaware = makeList(1, QString());
+        configuration()->SetString(listName, damaged);
+        storedBy(unaware);
+        QCOMPARE(configuration()->GetString(listName + QStringLiteral("_damaged")), damaged);
         RandomBytes random("column texts");
         for (int round = 0; round < RandomBytes::rounds(500); ++round) {
             const QByteArray text = random.mutated("120,2,0;80,0,1;70,1,0;");

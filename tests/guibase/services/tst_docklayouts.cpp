@@ -333,11 +333,15 @@ private Q_SLOTS:
             window.close();
         }
         QCOMPARE(stored("Geometry"), geometry);
+        Window closed;
+        closed.enlist();
+        closed.close();
         Window window;
         window.enlist();
         QVERIFY(!window.isMinimized());
         QTRY_COMPARE(window.size(), QSize(640, 480));
         QTRY_VERIFY(window.isMinimized());
+        QVERIFY(closed.isHidden());
         window.showNormal();
         QVERIFY(m_services->RestoreWidgetSize());
         QTRY_VERIFY(window.isMinimized());
