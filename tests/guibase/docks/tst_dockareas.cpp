@@ -43,8 +43,7 @@ private Q_SLOTS:
     {
         DockWindow window;
         const auto docks = window.addDocks({u"b"_s, u"c"_s, u"a"_s, u""_s});
-        QDockWidget* floating = window.addDock(u"floating"_s);
-        floating->setFloating(true);
+        window.addDock(u"floating"_s)->setFloating(true);
         window.addDock(u"other"_s, right);
         window.show();
         settle();
@@ -139,38 +138,22 @@ private Q_SLOTS:
         auto* tile = TileSupport::install(window, left | right);
         QAction& action = tile->tileDockWidgetsAction(left);
         QVERIFY(!action.isVisible());
+        QSignalSpy possible(tabify,
+                            &TabifySupport::isTabifyDockWidgetsPossibleInLeftDockWidgetAreaChanged);
         QDockWidget* later = new QDockWidget(u"b"_s); // not made with the window as its parent
         window.addDockWidget(left, later);
         settle();
         QVERIFY(action.isVisible());
         QVERIFY(tabify->tabifyDockWidgetsAction(left).isVisible());
+        QCOMPARE(possible.last(), QVariantList{true});
         later->setFloating(true);
         QTRY_VERIFY(!action.isVisible());
         later->setFloating(false);
         settle();
         action.trigger();
-        QCOMPARE(later->y(), 0); // beside the other
-        QVERIFY(later->x() > 0);
+        QVERIFY(later->x() > 0); // beside the other
         delete later;
         QVERIFY(!action.isVisible());
-    }
-    void answersInOrderAndAtOnce()
-    {
-        DockWindow window;
-        window.addDocks({u"a"_s, u"b"_s}, right);
-        window.show();
-        settle();
-        auto* support = TabifySupport::install(window, all);
-        QStringList log;
-        connect(support, &TabifySupport::isTabifyDockWidgetsPossibleChanged, this,
-                [&log](Qt::DockWidgetArea area, bool possible) {
-                    log << QStringLiteral("%1%2").arg(area).arg(possible);
-                });
-        connect(support, &TabifySupport::isTabifyDockWidgetsPossibleInRightDockWidgetAreaChanged,
-                this, [&log](bool possible) { log << QStringLiteral("right%1").arg(possible); });
-        QResizeEvent event(window.size(), window.size());
-        QCoreApplication::sendEvent(&window, &event);
-        QCOMPARE(log.mid(0, 5), QStringList({u"10"_s, u"21"_s, u"right1"_s, u"40"_s, u"80"_s}));
     }
     void survivesReceiversThatDestroy_data()
     {
