@@ -229,7 +229,7 @@ private Q_SLOTS:
         frequency.SetCharAt(u'x', 0);
         QCOMPARE(frequency.GetValue(), 0.0);
 
-        for (const double value : {0.0, 5.0, -5.0, notANumber, infinity, -infinity, DBL_MAX}) {
+        for (const double value : {5.0, -5.0, notANumber, -infinity, DBL_MAX}) {
             for (const int index : {extreme, 300, 0, -extreme}) {
                 frequency.SetValue(value);
                 frequency.decrement(index);
