@@ -129,8 +129,8 @@ private Q_SLOTS:
             QTRY_VERIFY(!f.dock->windowHandle()->isExposed());
         settle();
         QCOMPARE(f.support->dockWidgetState(), State::Minimized);
-        QTRY_COMPARE(f.visibleActions(), u"101"_s);
-        f.dock->setWindowState(Qt::WindowNoState); // as from a task bar
+        QTRY_VERIFY(f.visibleActions().endsWith(u"01"_s)); // it may still pass for maximized, too
+        f.dock->setWindowState(Qt::WindowNoState);         // as from a task bar
         QTRY_COMPARE(f.visibleActions(), u"110"_s);
         settle();
         QVERIFY(!f.dock->isMinimized());
