@@ -10,7 +10,6 @@
 #include <trovappstartup/cfgcenter.h>
 
 #include <QAccessible>
-#include <QLineEdit>
 #include <QSignalSpy>
 #include <QStringListModel>
 #include <QTest>
@@ -30,10 +29,8 @@ void checkType(const QByteArray& type)
     using T = decltype(Box().value());
     Box box;
     const QMetaObject* meta = box.metaObject();
-    const QByteArray two = type + "," + type + ")";
     QVERIFY(meta->indexOfSignal("valueChanged(" + type + ")") >= 0);
-    QVERIFY(meta->indexOfSignal("rangeChanged(" + two) >= 0 &&
-            meta->indexOfSlot("setRange(" + two) >= 0);
+    QVERIFY(meta->indexOfSignal("rangeChanged(" + type + "," + type + ")") >= 0);
     QVERIFY(meta->indexOfSlot("selectClosestIndexForValue(" + type + ")") >= 0);
     QCOMPARE(box.specialValue(), std::numeric_limits<T>::lowest());
     QCOMPARE(box.inputLineEdit()->alignment(), Qt::AlignRight);

@@ -270,20 +270,16 @@ private Q_SLOTS:
     {
         using Format = IntegralNumberDisplayFormat<int>;
         DisplayFormatList<int> list;
-        const QString suffixes[] = {QStringLiteral("Hz"), QStringLiteral("MHz"),
-                                    QStringLiteral("MHz")};
-        for (const QString& suffix : suffixes)
-            list.add(withSuffix<Format>(suffix));
+        for (const char* suffix : {"Hz", "MHz", "MHz"})
+            list.add(withSuffix<Format>(QString::fromLatin1(suffix)));
         // The longest suffix tells the format of an unreadable text, the first one among equals.
         auto reading = list.read(QStringLiteral("abc MHz "), 0, 3);
         QCOMPARE(reading.index, 1);
         QVERIFY(!list.read(QStringLiteral("abc MHz x"), 0, 3).isKnown());
 
-        const auto thrower = [](int, ValueDisplayFormatBase<int>::ConversionMode) -> int {
-            throw 5;
-        };
-        for (const auto& converter : {ValueDisplayFormatBase<int>::ValueConverter(),
-                                      ValueDisplayFormatBase<int>::ValueConverter(thrower)}) {
+        const auto thrower = [](int, auto) -> int { throw 5; };
+        using Converter = ValueDisplayFormatBase<int>::ValueConverter;
+        for (const auto& converter : {Converter(), Converter(thrower)}) {
             list.at(1)->setValueConverter(converter);
             QCOMPARE(list.write(5, 1), QString());
             reading = list.read(QStringLiteral("5"), 1, 3);
