@@ -13,7 +13,6 @@
 #include <QLayout>
 #include <QPointer>
 #include <QTest>
-#include <QTextEdit>
 
 #include <array>
 #include <functional>
