@@ -287,9 +287,6 @@ private Q_SLOTS:
         enter(box, QStringLiteral("x m"));
         QCOMPARE(box.currentDisplayFormatIndex(), 1);
         QVERIFY(!box.inputRefusal().isEmpty());
-        bool ok = true;
-        box.displayFormatIndexByTextSample(QStringLiteral("x"), &ok);
-        QVERIFY(!ok);
         box.setCurrentDisplayFormatIndex(99);
         QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7"));
         // A converter that throws, or is none, leaves the box usable.
@@ -414,7 +411,6 @@ private Q_SLOTS:
         QTest::keyClick(&box, Qt::Key_Up);
         edit->setCursorPosition(12);
         QTest::keyClick(&box, Qt::Key_PageDown);
-        QCOMPARE(edit->text(), QStringLiteral("2024-06-22 at 12:01:00"));
         edit->setCursorPosition(0);
         QTest::keyClick(&box, Qt::Key_Up, Qt::ControlModifier);
         QCOMPARE(edit->text(), QStringLiteral("2025-06-22 at 12:01:00"));
