@@ -123,7 +123,8 @@ protected:
     void activateAutoHideTimer(QDockWidget& dock);
     /// The dock that was pending, or null.
     QDockWidget* deactivateAutoHideTimer();
-    /// Puts the dock against the inner edge of the tool bar, along its whole length.
+    /// Puts the dock against the inner edge of the tool bar, along its whole length and not beyond the
+    /// opposite edge of the main window.
     void moveDockWidget(QDockWidget& dock, const QToolBar& toolBar);
 
     void createDockWidgetTabToolBars();

@@ -439,7 +439,9 @@ void AutoHideSupport::moveDockWidget(QDockWidget& dock, const QToolBar& toolBar)
         return;
     QRect bar = toolBar.geometry();
     bar.moveTopLeft(frame->mapToGlobal(bar.topLeft()));
-    QRect geometry = popupGeometry(bar, area, dock.size());
+    // A dock that was as wide as the window would reach beyond it now.
+    QRect geometry = popupGeometry(
+        bar, area, dock.size().boundedTo(frame->size() - QSize(bar.width(), bar.height())));
     if (!dock.isWindow() && dock.parentWidget() != nullptr)
         geometry.moveTopLeft(dock.parentWidget()->mapFromGlobal(geometry.topLeft()));
     dock.setGeometry(geometry);

@@ -125,8 +125,10 @@ private Q_SLOTS:
             return beside.translated(bar->mapToGlobal(QPoint(0, 0)));
         };
         QTRY_COMPARE(w.right->geometry(), expected());
+        w.right->resize(2000, 100);
         w.window->resize(700, 400);
         QTRY_COMPARE(w.right->geometry(), expected());
+        QCOMPARE(w.right->width(), 700 - 24); // not beyond the window
         AutoHideSupport::autoHideAction(*w.right)->setChecked(false);
         QVERIFY(!w.right->isFloating());
         QTRY_COMPARE(bar->width(), 0);
