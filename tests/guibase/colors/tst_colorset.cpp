@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
+#include <guibase/colors/colorsetcodec.h>
 #include <guibase/services/guibase.h>
 
 #include <jtbase/errorhandler.h>
@@ -302,6 +303,14 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(path("Sprinter.cst")));
         QVERIFY(!colors().LoadPrinterSet());
     }
+    void readsNoMoreThanNeeded()
+    {
+        QFile file(path("huge.cst"));
+        QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+        QVERIFY(file.resize(Q_INT64_C(1) << 34)); // sparse
+        ColorSetCodec::read(file);
+        QCOMPARE(file.pos(), 600);
+    }
     void readsAnyBytes()
     {
         RandomBytes random("colour-set files");
@@ -316,6 +325,7 @@ private Q_SLOTS:
             colors().Load(nullptr, name);
             QCOMPARE(colors().GetName(), name);
             const QByteArray filled = bytes.left(600).leftJustified(600, '\0');
+            QCOMPARE(ColorSetCodec::encode(ColorSetCodec::decode(bytes)), filled);
             for (int slot = 0; slot < IColorBase::slotCount; ++slot) {
                 const int id = qFromLittleEndian<qint32>(filled.constData() + 4 * slot);
                 const bool known =
