@@ -20,11 +20,11 @@ private Q_SLOTS:
     void makesDefinitions_data()
     {
         Definitions row;
-        const QColor black(Qt::black), red(Qt::red), half(255, 0, 0, 128);
-        row("default", ColorDefinition(), "#000000", black, -1);
+        const QColor red(Qt::red), half(255, 0, 0, 128);
         row("color", ColorDefinition(red, 7, 128), "#ff0000", half, 7);
         row("alpha replaced", ColorDefinition(half, 7), "#ff0000", red, 7);
-        row("text kept", ColorDefinition(QStringLiteral("#000"), 1000), "#000", black, 1000);
+        row("text kept", ColorDefinition(QStringLiteral("#000"), 1000), "#000", QColor(Qt::black),
+            1000);
         row("no color", ColorDefinition(QStringLiteral("#12"), 3), "#12", QColor(), 3);
         row("alpha too big", ColorDefinition(red, 7, 999), "#ff0000", red, 7);
     }
