@@ -208,8 +208,10 @@ void MainWindow::saveColors()
     dialog.setOptions(GuiBase::Instance().UseNativeDialogs());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("cst")); // before it asks about an existing file
-    if (dialog.exec() == QDialog::Accepted)
-        ColorSet::Instance().Save(this, dialog.selectedFiles().constFirst());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    ColorSet::Instance().Save(this, dialog.selectedFiles().constFirst());
+    GuiBase::Instance().SavePersistant(); // the name of the set
 }
 
 void MainWindow::restoreFactoryColors()

@@ -57,8 +57,6 @@ set(inputs_sources
     qdatetimespinbox.cpp
     realnumberdisplayformat.cpp
     refusalmark.cpp
-    selectionfollower.cpp
-    selectionfollower_p.h
     spinboxbase.cpp
     spinboxes.cpp
     steparithmetic_p.h

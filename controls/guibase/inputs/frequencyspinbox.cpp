@@ -2,9 +2,9 @@
 #include "frequencyspinbox.h"
 
 #include "frequencydisplayformat.h"
-#include "selectionfollower_p.h"
 
 #include <guibase/services/guibase.h>
+#include <guibase/services/selectionfollower_p.h>
 
 #include <QPointer>
 

@@ -3,9 +3,9 @@
 
 #include "datetimesections_p.h"
 #include "qdatetimedisplayformat.h"
-#include "selectionfollower_p.h"
 
 #include <guibase/services/guibase.h>
+#include <guibase/services/selectionfollower_p.h>
 #include <jtbase/datetime.h>
 
 #include <QLineEdit>

@@ -6,10 +6,8 @@
 #include <guibase/lists/sortlistview.h>
 
 #include <jtbase/geometryarrayparser.h>
-#include <jtbase/qtimerhelpers.h>
 #include <trovappstartup/cfgcenter.h>
 
-#include <QCoreApplication>
 #include <QHeaderView>
 #include <QScopedValueRollback>
 
@@ -158,39 +156,17 @@ std::optional<QList<ColumnRecord>> ColumnText::parse(const QString& text)
     return columns;
 }
 
-ColumnTable::~ColumnTable()
-{
-    delete m_writeTimer;
-}
-
 void ColumnTable::noteChange(const QString& name, SortListView* list)
 {
     if (list == nullptr || list == m_applied || !list->isVisible())
         return;
     m_changed[name] = list;
-    scheduleWrite();
+    m_delayedWrite.noteChange();
 }
 
 void ColumnTable::setWriteDelay(int milliseconds)
 {
-    m_writeDelay = milliseconds;
-    delete m_writeTimer;
-    if (!m_changed.empty())
-        scheduleWrite();
-}
-
-void ColumnTable::scheduleWrite()
-{
-    if (m_writeDelay < 0)
-        return;
-    if (m_writeTimer)
-        m_writeTimer->start(); // anew: while the user drags, nothing is written
-    else
-        m_writeTimer =
-            QTimerHelpers::singleShot(m_writeDelay, QCoreApplication::instance(), [this] {
-                m_writeTimer.clear(); // it deletes itself
-                storeChanges();
-            });
+    m_delayedWrite.setDelay(milliseconds);
 }
 
 void ColumnTable::storeChanges()

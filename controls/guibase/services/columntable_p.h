@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "persistentwidgetregistry_p.h"
+#include "delayedwrite_p.h"
 
 #include <guibase/lists/sortlistview.h>
 
 #include <QList>
 #include <QPointer>
 #include <QString>
-#include <QTimer>
 
 #include <map>
 #include <optional>
@@ -42,7 +41,6 @@ class ColumnTable
 {
 public:
     ColumnTable() = default;
-    ~ColumnTable();
     ColumnTable(const ColumnTable&) = delete;
     ColumnTable& operator=(const ColumnTable&) = delete;
 
@@ -63,14 +61,11 @@ public:
     void writeConfiguration();
 
 private:
-    void scheduleWrite();
     void storeChanges();
     void write(const QString& name) const;
 
     std::map<QString, QList<ColumnRecord>> m_columns;
     std::map<QString, QPointer<SortListView>> m_changed;
     const SortListView* m_applied = nullptr; ///< The list that gets its columns just now.
-    int m_writeDelay = PersistentWidgetRegistry::defaultWriteDelay;
-    /// Belongs to the application object, which may be gone before this object.
-    QPointer<QTimer> m_writeTimer;
+    DelayedWrite m_delayedWrite{[this] { storeChanges(); }};
 };

@@ -13,6 +13,8 @@ set(services_sources
     columntable_p.h
     damagedrecords.cpp
     damagedrecords_p.h
+    delayedwrite.cpp
+    delayedwrite_p.h
     displaysettings.cpp
     displaysettings_p.h
     dockrestore.cpp
@@ -42,6 +44,10 @@ set(services_sources
     persistentwidgetregistry_p.h
     screenplacement.cpp
     screenplacement_p.h
+    selectionfollower.cpp
+    selectionfollower_p.h
+    settingsrecord.cpp
+    settingsrecord_p.h
     signaltypenames.cpp
     signaltypenames_p.h
     splashforwarder.cpp

@@ -9,6 +9,7 @@
 #include "hotkeyoverview_p.h"
 #include "hotkeyregistry_p.h"
 #include "persistentwidgetregistry_p.h"
+#include "settingsrecord_p.h"
 #include "signaltypenames_p.h"
 #include "splashforwarder_p.h"
 #include "splittertable_p.h"
@@ -23,7 +24,6 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QPointer>
-#include <QScopedValueRollback>
 
 #include <mutex>
 
@@ -33,32 +33,23 @@ public:
     explicit GuiBasePrivate(GuiBase& services);
 
     DisplaySettings settings;
+    SettingsRecord record;
     HelpMenu helpMenu;
     HotKeyRegistry hotKeys;
     PersistentWidgetRegistry persistentWidgets;
     ColumnTable columns;
     SplitterTable splitters;
-    QString colorDefinitionFile;
-    /// While the stored colour set is loaded, which may take a question to the user.
-    bool isLoadingColors = false;
     QPointer<QApplication> application;
     QPointer<QWidget> mainWidget;
     /// Tells the main widget from others also while it is destroyed; never dereferenced.
     const QObject* mainWidgetIdentity = nullptr;
     QMetaObject::Connection mainWidgetConnection;
-    Persistant record;
 };
 
 GuiBasePrivate::GuiBasePrivate(GuiBase& services)
-    : helpMenu(services)
-    , record(QStringLiteral("GuiCentral"), &services)
-{
-    record.Add(&colorDefinitionFile, QStringLiteral("ColorDefinitionFile"));
-    record.Add(&settings.timeZone, QStringLiteral("TimeZone"),
-               static_cast<int>(SelectionStorage::ByValue));
-    record.Add(&settings.positionFormat, QStringLiteral("PositionFormat"),
-               static_cast<int>(SelectionStorage::ByKey));
-}
+    : record(services, settings)
+    , helpMenu(services)
+{}
 
 // The colour set is made first, so that it is destroyed after the services: they ask for its name
 // when the application ends, which may be as late as the destruction of static objects.
@@ -93,10 +84,11 @@ void GuiBase::SetApplication(QApplication* application)
         d->settings.translateItems();
     ApplicationSetup::replaceMessageDialog();
     ApplicationColors::readSystemColors();
-    if (d->record.Exists()) {
+    if (d->record.exists()) {
         ApplicationColors::restoreFactoryColors();
         Load();
     }
+    d->record.followChoices();
 }
 
 QApplication* GuiBase::GetApplication() const
@@ -351,7 +343,7 @@ void GuiBase::StoreWidgetSize()
 
 void GuiBase::SavePersistant()
 {
-    d->record.Write(QString());
+    d->record.write();
     d->persistentWidgets.write();
     StoreColumnSizes2Cfg();
     StoreSplitterSizes2Cfg();
@@ -371,6 +363,7 @@ void GuiBase::SetLayoutWriteDelay(int milliseconds)
 {
     d->persistentWidgets.setWriteDelay(milliseconds);
     d->columns.setWriteDelay(milliseconds);
+    d->record.setWriteDelay(milliseconds);
 }
 
 void GuiBase::ApplyColumnWidth4(const QString& name, SortListView* list, int firstColumn)
@@ -495,6 +488,7 @@ QDockWidget* GuiBase::AddAsDockWidget(QWidget* widget, const QString& title,
 
 void GuiBase::emit_signalColorsChanged()
 {
+    d->record.noteChoice(); // It may be another colour set.
     Q_EMIT signalColorsChanged();
 }
 
@@ -564,19 +558,17 @@ void GuiBase::Write2Splash(QString text)
 
 void GuiBase::ApplyPersistantBeforeWrite()
 {
-    if (!d->isLoadingColors)
-        d->colorDefinitionFile = ApplicationColors::activeName();
+    d->record.beforeWrite();
 }
 
 void GuiBase::ApplyPersistantAfterRead()
 {
-    const QScopedValueRollback loading(d->isLoadingColors, true);
-    d->colorDefinitionFile = ApplicationColors::load(d->colorDefinitionFile);
+    d->record.afterRead();
 }
 
 void GuiBase::Load()
 {
-    d->record.Read(QString());
+    d->record.read();
 }
 
 void GuiBase::Save()

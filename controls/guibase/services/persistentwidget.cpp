@@ -108,11 +108,6 @@ void PersistentWidget::write()
     m_isChanged = false;
 }
 
-bool PersistentWidget::hasChanges() const
-{
-    return m_isChanged;
-}
-
 void PersistentWidget::writeChanges()
 {
     if (m_isChanged)

@@ -43,7 +43,6 @@ public:
     /// Reads the record, applies it to the widget and shows the widget. To be called once.
     void read();
     void write();
-    bool hasChanges() const;
     /// Writes only if something has changed since the last write.
     void writeChanges();
     void restoreProgramStart();

@@ -3,19 +3,13 @@
 
 #include "persistentwidget_p.h"
 
-#include <jtbase/qtimerhelpers.h>
-
-#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 #include <algorithm>
 
 PersistentWidgetRegistry::PersistentWidgetRegistry() = default;
 
-PersistentWidgetRegistry::~PersistentWidgetRegistry()
-{
-    delete m_writeTimer;
-}
+PersistentWidgetRegistry::~PersistentWidgetRegistry() = default;
 
 void PersistentWidgetRegistry::registerWidget(QWidget* widget, const QString& recordName)
 {
@@ -27,8 +21,7 @@ void PersistentWidgetRegistry::registerWidget(QWidget* widget, const QString& re
     std::erase_if(m_widgets, [](const auto& entry) { return entry->widget() == nullptr; });
     // Entered before it is read: reading shows the widget, whose handlers may come back here.
     const auto entry = std::make_shared<PersistentWidget>(widget, recordName);
-    connect(entry.get(), &PersistentWidget::changed, this,
-            &PersistentWidgetRegistry::scheduleWrite);
+    connect(entry.get(), &PersistentWidget::changed, this, [this] { m_delayedWrite.noteChange(); });
     connect(entry.get(), &PersistentWidget::resized, this, [weak = std::weak_ptr(entry)] {
         if (const auto resized = weak.lock())
             resized->applyAwaited();
@@ -51,7 +44,7 @@ void PersistentWidgetRegistry::unregisterWidget(const QObject* widget)
 
 void PersistentWidgetRegistry::clear()
 {
-    delete m_writeTimer;
+    m_delayedWrite.cancel();
     m_widgets.clear();
 }
 
@@ -104,33 +97,13 @@ bool PersistentWidgetRegistry::isRestoring() const
 
 void PersistentWidgetRegistry::setWriteDelay(int milliseconds)
 {
-    m_writeDelay = milliseconds;
-    delete m_writeTimer;
-    if (std::any_of(m_widgets.cbegin(), m_widgets.cend(),
-                    [](const auto& entry) { return entry->hasChanges(); }))
-        scheduleWrite();
-}
-
-void PersistentWidgetRegistry::scheduleWrite()
-{
-    if (m_writeDelay < 0)
-        return;
-    if (m_writeTimer) {
-        const qint64 left = qint64{m_writeDelay} * longestDelays - m_sinceFirstChange.elapsed();
-        m_writeTimer->start(static_cast<int>(std::clamp<qint64>(left, 0, m_writeDelay)));
-        return;
-    }
-    m_sinceFirstChange.start();
-    m_writeTimer = QTimerHelpers::singleShot(m_writeDelay, QCoreApplication::instance(),
-                                             [this] { writeChanges(); });
+    m_delayedWrite.setDelay(milliseconds);
 }
 
 void PersistentWidgetRegistry::writeChanges()
 {
-    // The timer deletes itself later; changes from now on need a new one.
-    m_writeTimer.clear();
     if (m_isRestoring)
-        scheduleWrite();
+        m_delayedWrite.noteChange();
     else
         forEachWidget(&PersistentWidget::writeChanges);
 }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QElapsedTimer>
+#include "delayedwrite_p.h"
+
 #include <QObject>
-#include <QPointer>
 #include <QString>
-#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -18,7 +17,7 @@ class QWidget;
 ///
 /// Widgets are not owned. One that is destroyed has its last layout written; its entry goes with
 /// the next registration or unregistration. While the event loop runs, layouts are written a while
-/// after they have changed last; while they go on changing, after `longestDelays` such whiles.
+/// after they have changed.
 class PersistentWidgetRegistry : public QObject
 {
     Q_OBJECT
@@ -42,21 +41,15 @@ public:
 
     /// Time from a change to its writing in milliseconds; negative switches writing off.
     void setWriteDelay(int milliseconds);
-    static constexpr int defaultWriteDelay = 2000;
-    static constexpr int longestDelays = 10;
 
 private:
     /// Calls the operation for every widget, also when an application's handler registers or
     /// unregisters widgets meanwhile.
     void forEachWidget(const std::function<void(PersistentWidget&)>& operation);
     bool restore(void (PersistentWidget::*operation)());
-    void scheduleWrite();
     void writeChanges();
 
     std::vector<std::shared_ptr<PersistentWidget>> m_widgets;
     bool m_isRestoring = false;
-    int m_writeDelay = defaultWriteDelay;
-    /// Belongs to the application object, which may be gone before this object.
-    QPointer<QTimer> m_writeTimer;
-    QElapsedTimer m_sinceFirstChange;
+    DelayedWrite m_delayedWrite{[this] { writeChanges(); }};
 };

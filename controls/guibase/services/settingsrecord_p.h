@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "delayedwrite_p.h"
+
+#include <valueframework/persistant.h>
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class DisplaySettings;
+class SelectionFollower;
+
+/// The record of what the user chose for the whole application: colour set, time zone and position
+/// format.
+class SettingsRecord
+{
+public:
+    /// The owner passes its two operations on to beforeWrite() and afterRead(). Neither it nor the
+    /// settings are owned.
+    SettingsRecord(PersistantOwner& owner, DisplaySettings& settings);
+    ~SettingsRecord();
+
+    bool exists() const;
+    void read();
+    void write();
+    /// From now on every choice is written after the write delay, so that a killed process loses
+    /// little.
+    void followChoices();
+    /// Something was chosen, if choices are followed and not just being read.
+    void noteChoice();
+    /// In milliseconds; negative: choices wait for write().
+    void setWriteDelay(int milliseconds);
+
+    void beforeWrite();
+    void afterRead();
+
+private:
+    QString m_colorDefinitionFile;
+    Persistant m_record;
+    bool m_isReading = false; ///< Which may take a question to the user about the colour set.
+    std::vector<ValueSelection*> m_selections;
+    std::vector<std::unique_ptr<SelectionFollower>> m_followers;
+    DelayedWrite m_delayedWrite{[this] { write(); }};
+};
