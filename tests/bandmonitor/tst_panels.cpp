@@ -183,6 +183,12 @@ private Q_SLOTS:
         QVERIFY(layout().contains(QLatin1String("hides itself")));
         QVERIFY(active->isHidden());
         QTRY_VERIFY(m_window->bandView().isAncestorOf(QApplication::focusWidget()));
+
+        QDockWidget& hidden = dock("levels");
+        hidden.close();
+        hidden.toggleViewAction()->trigger();
+        QTRY_VERIFY(hidden.isAncestorOf(QApplication::focusWidget()));
+        QCOMPARE(m_window->panels().activeDock(), &hidden);
     }
 };
 

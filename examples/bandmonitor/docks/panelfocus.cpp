@@ -29,6 +29,15 @@ QWidget* target(QWidget& panel)
     return nullptr;
 }
 
+void enter(const Panels& panels, QDockWidget& dock, Qt::FocusReason reason)
+{
+    QMainWindowHelpers::ActiveDockWidgetSupport::get(panels.window())->bringToFront(dock);
+    if (dock.isFloating())
+        dock.activateWindow();
+    if (QWidget* widget = target(*dock.widget()))
+        widget->setFocus(reason);
+}
+
 void cycle(const Panels& panels, QWidget& centre, bool forward)
 {
     QMainWindow& window = panels.window();
@@ -47,11 +56,7 @@ void cycle(const Panels& panels, QWidget& centre, bool forward)
         centre.setFocus(Qt::TabFocusReason);
         return;
     }
-    QMainWindowHelpers::ActiveDockWidgetSupport::get(window)->bringToFront(*next);
-    if (next->isFloating())
-        next->activateWindow();
-    if (QWidget* widget = target(*next->widget()))
-        widget->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    enter(panels, *next, forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
 } // namespace bandmonitor::PanelFocus

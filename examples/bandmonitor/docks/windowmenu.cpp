@@ -84,8 +84,12 @@ QAction* WindowMenu::addEntry(const QString& text, const QKeySequence& key,
 void WindowMenu::addPanels()
 {
     int key = firstPanelKey;
-    for (const QDockWidget* dock : m_panels->docks()) {
+    for (QDockWidget* dock : m_panels->docks()) {
         QAction* toggle = dock->toggleViewAction();
+        connect(toggle, &QAction::triggered, this, [this, dock](bool shown) {
+            if (shown)
+                PanelFocus::enter(*m_panels, *dock, Qt::ShortcutFocusReason);
+        });
         if (key <= lastPanelKey)
             toggle->setShortcut(Qt::ALT | static_cast<Qt::Key>(key++));
         addAction(toggle);
