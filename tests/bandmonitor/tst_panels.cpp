@@ -183,12 +183,21 @@ private Q_SLOTS:
         QVERIFY(layout().contains(QLatin1String("hides itself")));
         QVERIFY(active->isHidden());
         QTRY_VERIFY(m_window->bandView().isAncestorOf(QApplication::focusWidget()));
+    }
 
-        QDockWidget& hidden = dock("levels");
-        hidden.close();
-        hidden.toggleViewAction()->trigger();
-        QTRY_VERIFY(hidden.isAncestorOf(QApplication::focusWidget()));
-        QCOMPARE(m_window->panels().activeDock(), &hidden);
+    void keyShowsWhatIsNotSeen()
+    {
+        m_window->modes().setMode(Mode::Plan);
+        m_window->activateWindow();
+        QTRY_VERIFY(m_window->isActiveWindow());
+        m_window->bandView().setFocus();
+        const QDockWidget& bearings = dock("bearings"); // behind the jobs
+        for (const bool isSeen : {true, false, true}) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_6, Qt::AltModifier);
+            QTRY_COMPARE(bearings.isVisible() && !bearings.visibleRegion().isEmpty(), isSeen);
+            QCOMPARE(bearings.isAncestorOf(QApplication::focusWidget()), isSeen);
+        }
+        QCOMPARE(m_window->panels().activeDock(), &bearings);
     }
 };
 

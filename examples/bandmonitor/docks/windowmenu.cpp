@@ -85,15 +85,22 @@ void WindowMenu::addPanels()
 {
     int key = firstPanelKey;
     for (QDockWidget* dock : m_panels->docks()) {
-        QAction* toggle = dock->toggleViewAction();
-        connect(toggle, &QAction::triggered, this, [this, dock](bool shown) {
-            if (shown)
+        // Unlike the toolkit's own action this one does not close a panel behind another tab.
+        const QAction* toggle = dock->toggleViewAction();
+        QAction* action = addAction(toggle->text());
+        action->setCheckable(true);
+        action->setChecked(toggle->isChecked());
+        connect(toggle, &QAction::toggled, action, &QAction::setChecked);
+        connect(action, &QAction::triggered, this, [this, dock, action, toggle] {
+            if (dock->isVisible() && !dock->visibleRegion().isEmpty())
+                dock->close();
+            else
                 PanelFocus::enter(*m_panels, *dock, Qt::ShortcutFocusReason);
+            action->setChecked(toggle->isChecked());
         });
         if (key <= lastPanelKey)
-            toggle->setShortcut(Qt::ALT | static_cast<Qt::Key>(key++));
-        addAction(toggle);
-        listKey(toggle);
+            action->setShortcut(Qt::ALT | static_cast<Qt::Key>(key++));
+        listKey(action);
     }
 }
 
