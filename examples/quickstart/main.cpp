@@ -28,7 +28,7 @@ SortListView* makeStations(QWidget* parent)
     list->addColumn(QStringLiteral("Frequency"));
     list->SetCompareFunctionLength(2);
     list->SetCompareFunction(0, &SortListView::_compStandardString);
-    list->SetCompareFunction(1, &SortListView::_compNumericWithSuffix); // "9.5 MHz" < "10 MHz"
+    list->SetCompareFunction(1, &SortListView::_compNumericWithSuffix); // 9.5 < 10, all in MHz
     list->setSorting(1, Qt::AscendingOrder);
     list->setColumnSelectionMenu(true);
     list->SetColumnWidthPersistantName(QStringLiteral("Stations"));

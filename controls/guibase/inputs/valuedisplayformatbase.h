@@ -100,6 +100,7 @@ public:
     bool useLocale() const { return m_useLocale; }
     void setUseLocale(bool use) { m_useLocale = use; }
 
+    /// Given without the blank towards the number, which is always written: "dB" shows "-80 dB".
     /// The pattern follows the text until setPrefixPattern() sets another; so for the suffix.
     const QString& prefix() const { return m_prefix.text(); }
     void setPrefix(const QString& prefix) { m_prefix.setText(prefix); }

@@ -101,7 +101,8 @@ public:
     static int _compStandardString(const QString& x, const QString& y);
     /// Numbers as QString::toDouble() reads them; a text that is none equals all others.
     static int _compStandardNumeric(const QString& x, const QString& y);
-    /// The numbers in front of the first blank.
+    /// The numbers in front of the first blank. What follows does not count, so that all rows need
+    /// the same unit: "500 kHz" is above "1 MHz". For mixed units, set a function that reads them.
     static int _compNumericWithSuffix(const QString& x, const QString& y);
 
     // --- The older navigation interface ----------------------------------------------------------
