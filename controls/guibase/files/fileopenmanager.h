@@ -25,7 +25,8 @@ class GUIBASE_EXPORT FileOpenManager : public QObject, public ILruStringListDisp
 {
     Q_OBJECT
 public:
-    /// Opener, menu and configuration are not owned and may be null. Opener and menu may die first:
+    /// Opener, menu and configuration (usually CfgCenter::GetAppCfg(SettingsView)) are not owned
+    /// and may be null. Opener and menu may die first:
     /// without an opener nothing is asked. The filter is one for QFileDialog. A `maxCount` below 1
     /// keeps no recent files.
     ///

@@ -75,7 +75,7 @@ public:
     /// Trov::DateTime::toString().
     QString TimeString(quint64& time, QString format);
 
-    /// A number that the application gives a meaning; 1 at start. Only stored and returned.
+    /// A number that the application gives a meaning; 1 at start. Not kept over a restart.
     void SetDisplayMode(int mode);
     int GetDisplayMode();
     /// Whether frequency displays keep trailing zeros down to the resolution; false at start.
@@ -131,7 +131,8 @@ public:
     QAction* CreateResetFactoryViewAction(QObject* parent);
     /// Gives every registered main window the dock layout that it had in the mode last; a mode that
     /// is new to it starts with the present layout. Shows the registered windows, except those that
-    /// the user has closed; none is moved.
+    /// the user has closed; none is moved. The layouts of all modes are kept over a restart, but
+    /// not which one was the last: each start begins in mode 0.
     void setMode(long mode);
     /// Makes the present dock layouts the factory layouts of the mode.
     void storeFactoryDefaultWidgets(long mode);
@@ -152,8 +153,11 @@ public:
 
     // --- Hot keys ------------------------------------------------------------------------------
 
-    /// Registers a hot key; the receiver's slotHotKey(int) is called with the id that is returned.
-    /// `onPress` chooses the press of the key, else its release counts. The receiver is not owned.
+    /// Registers a hot key; the receiver's slot slotHotKey(int) is called, queued, with the id that
+    /// is returned. It is called for the keys of other receivers too: compare the ids.
+    /// `modifiers` are Qt::KeyboardModifiers. `onPress` chooses the press of the key, else its
+    /// release counts. `listed` shows it in the overview, with the comment, under the scope. The
+    /// receiver is not owned; one without the slot is reported by a trace.
     int AddHotKey(Qt::Key key, int modifiers, QObject* receiver, const QString& comment,
                   const QString& scope, bool onPress, bool listed);
     /// Enters the action's shortcut and text in the hot-key overview, under the scope.
@@ -220,6 +224,9 @@ public Q_SLOTS:
     void SavePersistant();
     void slotStyleChanged(int index);
     void slotRereadTimeZoneOffset();
+    /// Opens the manual with the program that the desktop has for it, or warns: the file given to
+    /// CreateHelpMenu(), or when that was empty the setting "HelpFile". A file that does not exist
+    /// as given is looked for beside the program.
     void slotHelpContents();
     void slotShowHotKeysInMenu();
 
