@@ -2,6 +2,7 @@
 #include "maximizeminimizesupport.h"
 
 #include "attachedhelper_p.h"
+#include "autohidesupport.h"
 #include "dockicons_p.h"
 #include "survivalcheck_p.h"
 #include "updatesblocker_p.h"
@@ -402,7 +403,9 @@ bool MaximizeMinimizeSupport::isMaximizeDockWidgetPossible(const QDockWidget& do
 
 bool MaximizeMinimizeSupport::isMinimizeDockWidgetPossible(const QDockWidget& dock)
 {
-    return dock.isFloating() && !dock.isMinimized();
+    const QAction* hidesAtEdge = QMainWindowHelpers::AutoHideSupport::autoHideAction(dock);
+    return dock.isFloating() && !dock.isMinimized() &&
+           (hidesAtEdge == nullptr || !hidesAtEdge->isChecked());
 }
 
 bool MaximizeMinimizeSupport::isRestoreDockWidgetPossible(const QDockWidget& dock)

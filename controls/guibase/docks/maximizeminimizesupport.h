@@ -40,7 +40,8 @@ struct GUIBASE_EXPORT MaximizeMinimizeSupport_DockWidgetState
 struct MaximizeMinimizeSupportPrivate;
 
 /// Lets a floating dock be maximized, minimized and restored like a window, with an action for each
-/// that shows only while it is possible. A docked widget can do none of the three.
+/// that shows only while it is possible. A docked widget can do none of the three, and one that
+/// hides at the edge is not minimized: it goes there by itself.
 ///
 /// The support belongs to its dock. It remembers the state it has put the dock into, and brings
 /// that state back when the dock floats again after having been docked or hidden.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <guibase/docks/autohidesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
+#include <guibase/docks/maximizeminimizesupport.h>
 
 #include "dockwindow.h"
 #include "support/guardedtest.h"
@@ -113,8 +114,11 @@ private Q_SLOTS:
     void enablingFloatsAndShowsOneButton()
     {
         Window w;
+        const auto* states = QDockWidgetHelpers::MaximizeMinimizeSupport::install(*w.right);
         AutoHideSupport::autoHideAction(*w.right)->setChecked(true);
         QVERIFY(w.right->isFloating());
+        QTRY_VERIFY(states->maximizeDockWidgetAction().isVisible());
+        QVERIFY(!states->minimizeDockWidgetAction().isVisible());
         QCOMPARE(w.buttons(w.right).size(), 1);
         QToolBar* bar = w.bar(Qt::RightToolBarArea);
         QCOMPARE(w.buttons(w.right).first()->arrowType(), Qt::LeftArrow);
