@@ -97,6 +97,7 @@ JobsPane::JobsPane(Jobs* jobs, const Replay* replay, QWidget* parent)
     m_extent->setObjectName(QStringLiteral("jobTimes"));
     m_extent->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_extent->setWordWrap(true);
+    m_extent->setMargin(2); // from the edge of the window
     QHBoxLayout* row = makeButtonRow(this, m_actions);
     row->addWidget(m_extent, 1);
     auto* column = new QVBoxLayout(this);
