@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ratio.h"
 
-#include <guibase/inputs/comboboxes.h>
+#include <guibase/inputs/comboboxes/comboboxes.h>
 
 #include <QApplication>
 #include <QVBoxLayout>

@@ -4,12 +4,12 @@
 // against few.
 #include "ratio.h"
 
-#include <guibase/docks/activedockwidgetsupport.h>
-#include <guibase/docks/autohidesupport.h>
+#include <guibase/docks/active/activedockwidgetsupport.h>
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/areas/tilesupport.h>
+#include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/mainwindowhelpers.h>
 #include <guibase/docks/maximizeminimizesupport.h>
-#include <guibase/docks/tabifysupport.h>
-#include <guibase/docks/tilesupport.h>
 
 #include <QApplication>
 #include <QDockWidget>

@@ -3,10 +3,10 @@
 // in their title bars ("ours") against the toolkit's plain docks ("theirs").
 #include "ratio.h"
 
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/areas/tilesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
 #include <guibase/docks/mainwindowconfigurator.h>
-#include <guibase/docks/tabifysupport.h>
-#include <guibase/docks/tilesupport.h>
 
 #include <QApplication>
 #include <QTextEdit>

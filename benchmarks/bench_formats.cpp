@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ratio.h"
 
-#include <guibase/inputs/integralnumberdisplayformat.h>
-#include <guibase/inputs/realnumberdisplayformat.h>
+#include <guibase/formats/integralnumberdisplayformat.h>
+#include <guibase/formats/realnumberdisplayformat.h>
 
 #include <QLocale>
 

@@ -3,11 +3,10 @@
 // the 50 windows of a large application.
 #include "ratio.h"
 
+#include <guibase/records/dockstatecheck.h>
+#include <guibase/records/hexadecimal.h>
+#include <guibase/records/staterecord.h>
 #include <guibase/services/guibase.h>
-
-#include <dockstatecheck_p.h>
-#include <hexadecimal_p.h>
-#include <staterecord_p.h>
 
 #include <trovappstartup/cfgcenter.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ratio.h"
 
-#include <guibase/inputs/spinboxes.h>
+#include <guibase/inputs/spinboxes/spinboxes.h>
 
 #include <QApplication>
 #include <QDoubleSpinBox>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ratio.h"
 
-#include <guibase/inputs/suffixeddouble.h>
+#include <guibase/frequencies/suffixeddouble.h>
 
 #include <QApplication>
 #include <QLocale>

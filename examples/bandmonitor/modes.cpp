@@ -5,7 +5,7 @@
 #include "settings.h"
 
 #include <guibase/services/guibase.h>
-#include <guibase/services/splitter.h>
+#include <guibase/splitters/splitter.h>
 
 #include <QAction>
 

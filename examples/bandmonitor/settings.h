@@ -3,7 +3,7 @@
 
 #include "receiver/receiversettings.h"
 
-#include <guibase/services/unitprefix.h>
+#include <guibase/frequencies/unitprefix.h>
 
 #include <QString>
 

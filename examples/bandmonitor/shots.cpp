@@ -9,13 +9,14 @@
 #include "receiver/receiverpane.h"
 
 #include <guibase/colors/colorset.h>
-#include <guibase/docks/autohidesupport.h>
-#include <guibase/docks/tabifysupport.h>
-#include <guibase/docks/tilesupport.h>
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/areas/tilesupport.h>
+#include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/inputs/typedinput.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortrowtable.h>
 #include <guibase/services/guibase.h>
+
 #include <jtbase/coordformat.h>
 #include <trovappstartup/cfgcenter.h>
 

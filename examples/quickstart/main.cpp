@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 // A window with a list, two panels and a frequency entry, which comes back as it was left.
-#include <guibase/docks/autohidesupport.h>
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/areas/tilesupport.h>
+#include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
 #include <guibase/docks/dockwidgethelpers.h>
 #include <guibase/docks/mainwindowconfigurator.h>
-#include <guibase/docks/tabifysupport.h>
-#include <guibase/docks/tilesupport.h>
-#include <guibase/inputs/frequencyspinbox.h>
+#include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortlistviewitem.h>
 #include <guibase/services/guibase.h>
+
 #include <trovappstartup/trovapplication.h>
 
 #include <QApplication>

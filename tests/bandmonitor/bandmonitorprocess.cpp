@@ -10,11 +10,12 @@
 #include "settings.h"
 
 #include <guibase/colors/colorset.h>
-#include <guibase/docks/autohidesupport.h>
+#include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortrowtable.h>
 #include <guibase/services/guibase.h>
-#include <guibase/services/splitter.h>
+#include <guibase/splitters/splitter.h>
+
 #include <trovappstartup/cfgcenter.h>
 #include <trovappstartup/trovapplication.h>
 

@@ -3,11 +3,11 @@
 #include "panes/bandview.h"
 #include "support/guardedtest.h"
 
-#include <guibase/docks/autohidesupport.h>
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/mainwindowhelpers.h>
-#include <guibase/docks/tabifysupport.h>
 #include <guibase/services/guibase.h>
-#include <guibase/services/splitter.h>
+#include <guibase/splitters/splitter.h>
 
 #include <QAction>
 #include <QApplication>

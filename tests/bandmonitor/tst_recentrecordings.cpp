@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "guibase/colors/dialogscript.h"
 #include "mainwindowtest.h"
 #include "model/textfile.h"
 #include "panes/bandview.h"
 #include "receiver/receiverpane.h"
 #include "recordings.h"
 #include "settings.h"
+#include "support/dialogscript.h"
 #include "support/files.h"
 #include "support/filesizelimit.h"
 #include "support/modaldialogcloser.h"

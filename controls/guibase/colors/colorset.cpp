@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <guibase/colors/colorset.h>
-
 #include <guibase/colors/colors.h>
-#include <guibase/colors/colorseteditor_p.h>
+#include <guibase/colors/colorset.h>
 #include <guibase/colors/colorsetfactory_p.h>
 #include <guibase/colors/colorsetfile_p.h>
+#include <guibase/colors/editor/colorseteditor.h>
 #include <guibase/services/guibase.h>
 
 #include <jtbase/errorhandler.h>

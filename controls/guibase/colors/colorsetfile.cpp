@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <guibase/colors/colorsetfile_p.h>
-
-#include <guibase/services/modaldialogs_p.h>
+#include <guibase/dialogs/modaldialogs.h>
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,24 +1,16 @@
 # SPDX-License-Identifier: MIT
-set(colors_headers
-    colordefinition.h
-    colordefinitionset.h
-    colors.h
-    colorset.h
-    colorsetcodec.h
-    colorslotgroups.h
-    icolorbase.h
-    ihaspropertypage.h)
-set(colors_sources
-    colorcatalogue_p.h
-    colordefinition.cpp
-    colordefinitionset.cpp
-    colors.cpp
-    colorset.cpp
-    colorsetcodec.cpp
-    colorseteditor.cpp
-    colorseteditor_p.h
-    colorsetfactory_p.h
-    colorsetfile.cpp
-    colorsetfile_p.h
-    icolorbase.cpp
-    ihaspropertypage.cpp)
+guibase_room(colors
+    PUBLIC
+        colordefinition.cpp colordefinition.h
+        colordefinitionset.cpp colordefinitionset.h
+        colors.cpp colors.h
+        colorset.cpp colorset.h
+        colorsetcodec.cpp colorsetcodec.h
+        colorslotgroups.h
+        icolorbase.cpp icolorbase.h
+        ihaspropertypage.cpp ihaspropertypage.h
+    INTERNAL
+        colorcatalogue_p.h
+        colorsetfactory_p.h
+        colorsetfile.cpp colorsetfile_p.h
+        signaltypenames.cpp signaltypenames.h)

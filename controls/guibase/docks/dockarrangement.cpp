@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "dockarrangement_p.h"
+#include "dockarrangement.h"
 
 #include "mainwindowhelpers.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "dockchildren_p.h"
+#include "dockchildren.h"
 
 #include "mainwindowhelpers.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "dockicons_p.h"
+#include "dockicons.h"
 
 #include <QGuiApplication>
 #include <QIconEngine>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "docksizes_p.h"
+#include "docksizes.h"
 
 #include <QCoreApplication>
 #include <QDockWidget>

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "dockwidgetconfigurator.h"
 
-#include "autohidesupport.h"
 #include "dockwidgethelpers.h"
 #include "mainwindowhelpers.h"
 #include "maximizeminimizesupport.h"
-#include "tabifysupport.h"
-#include "tilesupport.h"
-#include "updatesblocker_p.h"
+#include "updatesblocker.h"
 #include "windowidentity_p.h"
+
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/areas/tilesupport.h>
+#include <guibase/docks/autohide/autohidesupport.h>
 
 #include <QAction>
 

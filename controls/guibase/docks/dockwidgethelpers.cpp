@@ -3,7 +3,7 @@
 
 #include "dockwidgetconfigurator.h"
 #include "enhanceddockwidgettitlebar.h"
-#include "updatesblocker_p.h"
+#include "updatesblocker.h"
 
 #include <QAction>
 #include <QDockWidget>

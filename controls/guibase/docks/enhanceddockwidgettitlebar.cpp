@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "enhanceddockwidgettitlebar.h"
 
-#include "dockicons_p.h"
-#include "dockpointer_p.h"
-#include "docktitle_p.h"
+#include "dockicons.h"
+#include "dockpointer.h"
+#include "docktitle.h"
 
 #include <QAction>
 #include <QActionEvent>

@@ -1,49 +1,20 @@
 # SPDX-License-Identifier: MIT
-set(docks_headers
-    activedockwidgetsupport.h
-    autohidesupport.h
-    dockwidgetconfigurator.h
-    dockwidgethelpers.h
-    enhanceddockwidgettitlebar.h
-    mainwindowconfigurator.h
-    mainwindowhelpers.h
-    maximizeminimizesupport.h
-    tabifysupport.h
-    tilesupport.h)
-set(docks_sources
-    activedockkeeper_p.h
-    activedockwidgetsupport.cpp
-    applicationdockevents.cpp
-    applicationdockevents_p.h
-    attachedhelper_p.h
-    autohidebutton.cpp
-    autohidebutton_p.h
-    autohidestate.cpp
-    autohidestate_p.h
-    autohidesupport.cpp
-    autohidesupport_p.h
-    autohidesupportevents.cpp
-    dockareasupport_p.h
-    dockarrangement.cpp
-    dockarrangement_p.h
-    dockchildren.cpp
-    dockchildren_p.h
-    dockicons.cpp
-    dockicons_p.h
-    dockpointer_p.h
-    docksizes.cpp
-    docksizes_p.h
-    docktitle_p.h
-    dockwidgetconfigurator.cpp
-    dockwidgethelpers.cpp
-    enhanceddockwidgettitlebar.cpp
-    mainwindowconfigurator.cpp
-    mainwindowhelpers.cpp
-    maximizeminimizesupport.cpp
-    survivalcheck_p.h
-    tabifysupport.cpp
-    tilegrid.cpp
-    tilegrid_p.h
-    tilesupport.cpp
-    updatesblocker_p.h
-    windowidentity_p.h)
+guibase_room(docks
+    PUBLIC
+        dockwidgetconfigurator.cpp dockwidgetconfigurator.h
+        dockwidgethelpers.cpp dockwidgethelpers.h
+        enhanceddockwidgettitlebar.cpp enhanceddockwidgettitlebar.h
+        mainwindowconfigurator.cpp mainwindowconfigurator.h
+        mainwindowhelpers.cpp mainwindowhelpers.h
+        maximizeminimizesupport.cpp maximizeminimizesupport.h
+    INTERNAL
+        attachedhelper.h
+        dockarrangement.cpp dockarrangement.h
+        dockchildren.cpp dockchildren.h
+        dockicons.cpp dockicons.h
+        dockpointer.h
+        docksizes.cpp docksizes.h
+        docktitle.h
+        survivalcheck.h
+        updatesblocker.h
+        windowidentity_p.h)

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindowconfigurator.h"
 
-#include "activedockwidgetsupport.h"
-#include "autohidesupport.h"
 #include "mainwindowhelpers.h"
-#include "tabifysupport.h"
-#include "tilesupport.h"
 #include "windowidentity_p.h"
+
+#include <guibase/docks/active/activedockwidgetsupport.h>
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/areas/tilesupport.h>
+#include <guibase/docks/autohide/autohidesupport.h>
 
 namespace QMainWindowHelpers {
 

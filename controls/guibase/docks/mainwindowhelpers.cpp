@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindowhelpers.h"
 
-#include "dockarrangement_p.h"
-#include "docksizes_p.h"
+#include "dockarrangement.h"
+#include "docksizes.h"
 
 #include <QApplication>
 #include <QDockWidget>

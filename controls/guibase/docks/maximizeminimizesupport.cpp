@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "maximizeminimizesupport.h"
 
-#include "attachedhelper_p.h"
-#include "autohidesupport.h"
-#include "dockicons_p.h"
-#include "survivalcheck_p.h"
-#include "updatesblocker_p.h"
+#include "attachedhelper.h"
+#include "dockicons.h"
+#include "survivalcheck.h"
+#include "updatesblocker.h"
 
-#include <guibase/services/floatingdockkeeper_p.h>
+#include <guibase/docks/autohide/autohidesupport.h>
+#include <guibase/layouts/floatingdockkeeper.h>
 
 #include <jtbase/qtimerhelpers.h>
 

@@ -5,7 +5,8 @@
 #include "lrustringlistcontroller.h"
 #include "recentfilesmenu_p.h"
 
-#include <guibase/services/modaldialogs_p.h>
+#include <guibase/dialogs/modaldialogs.h>
+
 #include <jtbase/errorhandler.h>
 #include <trovappstartup/icfg.h>
 

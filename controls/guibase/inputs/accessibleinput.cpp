@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "accessibleinput_p.h"
+#include "accessibleinput.h"
 
 #include "typedinput.h"
 

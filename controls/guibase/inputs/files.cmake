@@ -1,73 +1,15 @@
 # SPDX-License-Identifier: MIT
-set(inputs_headers
-    abstractcombobox.h
-    abstractspinbox.h
-    comboboxdisplayer.h
-    comboboxes.h
-    displayaffix.h
-    displayformatlist.h
-    displayformatswitch.h
-    frequencydisplayformat.h
-    frequencyspinbox.h
-    frequencytoaxisstring.h
-    integralnumberdisplayformat.h
-    numberdisplayformatbase.h
-    numbercomboboxbase.h
-    numberspinboxbase.h
-    qdatetimedisplayformat.h
-    qdatetimespinbox.h
-    realnumberdisplayformat.h
-    refusalmark.h
-    spinboxbase.h
-    spinboxes.h
-    stringformatter.h
-    suffixeddouble.h
-    typedinput.h
-    typedinputmacros.h
-    valuedisplayformatbase.h)
-set(inputs_sources
-    abstractcombobox.cpp
-    abstractspinbox.cpp
-    accessibleinput.cpp
-    accessibleinput_p.h
-    closestitem_p.h
-    comboboxdisplayer.cpp
-    comboboxes.cpp
-    datetimereader.cpp
-    datetimereader_p.h
-    datetimesections.cpp
-    datetimesections_p.h
-    digitatcursor.cpp
-    digitatcursor_p.h
-    displayaffix.cpp
-    displayformatlist.cpp
-    frequencydisplayformat.cpp
-    frequencyspinbox.cpp
-    frequencytoaxisstring.cpp
-    integralnumberdisplayformat.cpp
-    numberdisplayformatbase.cpp
-    numbercomboboxbase.cpp
-    numberspinboxbase.cpp
-    letterset_p.h
-    lineedittext.cpp
-    lineedittext_p.h
-    numbertext.cpp
-    numbertext_p.h
-    qdatetimedisplayformat.cpp
-    qdatetimespinbox.cpp
-    realnumberdisplayformat.cpp
-    refusalmark.cpp
-    spinboxbase.cpp
-    spinboxes.cpp
-    steparithmetic_p.h
-    stringformatter.cpp
-    suffixeddouble.cpp
-    typedinput.cpp
-    typedinputvariant_p.h
-    typednumber.cpp
-    typednumber_p.h
-    typedvalue_p.h
-    valuedisplayformatbase.cpp)
+guibase_room(inputs
+    PUBLIC
+        displayformatswitch.h
+        refusalmark.cpp refusalmark.h
+        typedinput.cpp typedinput.h
+        typedinputmacros.h
+    INTERNAL
+        accessibleinput.cpp accessibleinput.h
+        lineedittext.cpp lineedittext.h
+        typedinputvariant.h
+        typedvalue.h)
 # The typed classes take Q_OBJECT from macros.
 list(APPEND CMAKE_AUTOMOC_MACRO_NAMES GUIBASE_NUMBER_COMBO_BOX GUIBASE_NUMBER_SPIN_BOX
     GUIBASE_TYPED_INPUT_MEMBERS)

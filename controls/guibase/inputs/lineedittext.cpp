@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "lineedittext_p.h"
+#include "lineedittext.h"
 
 #include <QLineEdit>
 #include <QSignalBlocker>

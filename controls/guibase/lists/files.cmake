@@ -1,27 +1,15 @@
 # SPDX-License-Identifier: MIT
-set(lists_headers
-    checksortlistviewitem.h
-    isortcallback.h
-    iupdatemenu.h
-    qheaderviewcolumnhandler.h
-    resortpopupmenu.h
-    sortlistview.h
-    sortlistviewitem.h
-    sortlistviewitemiterator.h
-    sortrowtable.h)
-set(lists_sources
-    checksortlistviewitem.cpp
-    headerstate.cpp
-    headerstate_p.h
-    itemwalk_p.h
-    listcolumnkeys.cpp
-    listcolumnkeys_p.h
-    listsorter.cpp
-    listsorter_p.h
-    qheaderviewcolumnhandler.cpp
-    resortpopupmenu.cpp
-    sortkeys.cpp
-    sortkeys_p.h
-    sortlistview.cpp
-    sortlistviewitem.cpp
-    sortrowtable.cpp)
+guibase_room(lists
+    PUBLIC
+        checksortlistviewitem.cpp checksortlistviewitem.h
+        isortcallback.h
+        iupdatemenu.h
+        resortpopupmenu.cpp resortpopupmenu.h
+        sortlistview.cpp sortlistview.h
+        sortlistviewitem.cpp sortlistviewitem.h
+        sortlistviewitemiterator.h
+        sortrowtable.cpp sortrowtable.h
+    INTERNAL
+        itemwalk_p.h
+        listsorter.cpp listsorter_p.h
+        sortkeys.cpp sortkeys_p.h)

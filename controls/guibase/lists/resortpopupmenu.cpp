@@ -3,7 +3,7 @@
 
 #include "iupdatemenu.h"
 
-#include <guibase/services/widgetplacement_p.h>
+#include <guibase/layouts/widgetplacement.h>
 
 #include <QAction>
 #include <QCursor>

@@ -4,10 +4,10 @@
 #include "checksortlistviewitem.h"
 #include "isortcallback.h"
 #include "itemwalk_p.h"
-#include "listcolumnkeys_p.h"
 #include "listsorter_p.h"
 #include "sortlistviewitem.h"
 
+#include <guibase/lists/columns/listcolumnkeys.h>
 #include <guibase/services/guibase.h>
 
 #include <QAction>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sortrowtable.h"
 
-#include <guibase/services/modaldialogs_p.h>
+#include <guibase/dialogs/modaldialogs.h>
 
 #include <jtbase/numberhelpers.h>
 

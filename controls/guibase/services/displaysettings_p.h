@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <guibase/services/unitprefix.h>
+#include <guibase/frequencies/unitprefix.h>
 
 #include <valueframework/valueselection.h>
 

@@ -1,71 +1,16 @@
 # SPDX-License-Identifier: MIT
-set(services_headers
-    guibase.h
-    splitter.h
-    splitterhandle.h
-    unitprefix.h)
-set(services_sources
-    applicationcolors.cpp
-    applicationcolors_p.h
-    applicationsetup.cpp
-    applicationsetup_p.h
-    columntable.cpp
-    columntable_p.h
-    damagedrecords.cpp
-    damagedrecords_p.h
-    delayedwrite.cpp
-    delayedwrite_p.h
-    displaysettings.cpp
-    displaysettings_p.h
-    dockrestore.cpp
-    dockrestore_p.h
-    dockstatecheck.cpp
-    dockstatecheck_p.h
-    floatingdockkeeper.cpp
-    floatingdockkeeper_p.h
-    geometryrecord.cpp
-    geometryrecord_p.h
-    guibase.cpp
-    helpmenu.cpp
-    helpmenu_p.h
-    hexadecimal.cpp
-    hexadecimal_p.h
-    hotkeyoverview.cpp
-    hotkeyoverview_p.h
-    hotkeyregistry.cpp
-    hotkeyregistry_p.h
-    modaldialogs.cpp
-    modaldialogs_p.h
-    modetable.cpp
-    modetable_p.h
-    persistentwidget.cpp
-    persistentwidget_p.h
-    persistentwidgetregistry.cpp
-    persistentwidgetregistry_p.h
-    screenplacement.cpp
-    screenplacement_p.h
-    selectionfollower.cpp
-    selectionfollower_p.h
-    settingsrecord.cpp
-    settingsrecord_p.h
-    signaltypenames.cpp
-    signaltypenames_p.h
-    splashforwarder.cpp
-    splashforwarder_p.h
-    splitter.cpp
-    splitterhandle.cpp
-    splitterstatecheck.cpp
-    splitterstatecheck_p.h
-    splittertable.cpp
-    splittertable_p.h
-    staterecord.cpp
-    staterecord_p.h
-    statewalk.cpp
-    statewalk_p.h
-    styleloader.cpp
-    styleloader_p.h
-    tracing_p.h
-    widgetplacement.cpp
-    widgetplacement_p.h
-    windowhelpers.cpp
-    windowhelpers_p.h)
+guibase_room(services
+    PUBLIC
+        guibase.cpp guibase.h guibase_p.h
+    INTERNAL
+        guibasesettings.cpp
+        applicationcolors.cpp applicationcolors_p.h
+        applicationsetup.cpp applicationsetup_p.h
+        displaysettings.cpp displaysettings_p.h
+        helpmenu.cpp helpmenu_p.h
+        selectionfollower.cpp selectionfollower.h
+        settingsrecord.cpp settingsrecord_p.h
+        splashforwarder.cpp splashforwarder_p.h
+        styleloader.cpp styleloader_p.h
+        tracing.h
+        windowhelpers.cpp windowhelpers_p.h)

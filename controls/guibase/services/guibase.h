@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <guibase/frequencies/unitprefix.h>
 #include <guibase/guibase_export.h>
-#include <guibase/services/unitprefix.h>
 
 #include <trovappstartup/savecomponentif.h>
 #include <valueframework/persistant.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "helpmenu_p.h"
 
-#include "modaldialogs_p.h"
-#include "tracing_p.h"
+#include "tracing.h"
 
+#include <guibase/dialogs/modaldialogs.h>
 #include <guibase/services/guibase.h>
 
 #include <jtbase/trovos.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "selectionfollower_p.h"
+#include "selectionfollower.h"
 
 SelectionFollower::SelectionFollower(ValueSelection* selection, std::function<void()> operation)
     : m_operation(std::move(operation))

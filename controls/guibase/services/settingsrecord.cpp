@@ -3,7 +3,7 @@
 
 #include "applicationcolors_p.h"
 #include "displaysettings_p.h"
-#include "selectionfollower_p.h"
+#include "selectionfollower.h"
 
 #include <QScopedValueRollback>
 

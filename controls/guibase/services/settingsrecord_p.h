@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "delayedwrite_p.h"
+#include <guibase/records/delayedwrite.h>
 
 #include <valueframework/persistant.h>
 

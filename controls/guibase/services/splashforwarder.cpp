@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "splashforwarder_p.h"
 
-#include "tracing_p.h"
+#include "tracing.h"
 
 #include <jtbase/qtimerhelpers.h>
 #include <trovappstartup/cfgcenter.h>

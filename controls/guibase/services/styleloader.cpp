@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "styleloader_p.h"
 
-#include "tracing_p.h"
+#include "tracing.h"
 
 #include <trovappstartup/cfgcenter.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "docks/areaactions.h"
 
-#include <guibase/docks/tabifysupport.h>
-#include <guibase/docks/tilesupport.h>
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/areas/tilesupport.h>
 
 #include <QAction>
 #include <QDockWidget>

@@ -3,7 +3,7 @@
 
 #include "docks/panels.h"
 
-#include <guibase/docks/activedockwidgetsupport.h>
+#include <guibase/docks/active/activedockwidgetsupport.h>
 #include <guibase/docks/mainwindowhelpers.h>
 
 #include <QApplication>

@@ -3,8 +3,8 @@
 
 #include "docks/areaactions.h"
 
-#include <guibase/docks/activedockwidgetsupport.h>
-#include <guibase/docks/autohidesupport.h>
+#include <guibase/docks/active/activedockwidgetsupport.h>
+#include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
 #include <guibase/docks/dockwidgethelpers.h>
 #include <guibase/docks/enhanceddockwidgettitlebar.h>

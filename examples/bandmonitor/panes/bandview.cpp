@@ -6,7 +6,7 @@
 #include "panes/waterfallpane.h"
 
 #include <guibase/services/guibase.h>
-#include <guibase/services/splitter.h>
+#include <guibase/splitters/splitter.h>
 
 #include <QGridLayout>
 #include <QVBoxLayout>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panes/frequencytext.h"
 
-#include <guibase/inputs/frequencytoaxisstring.h>
-#include <guibase/inputs/suffixeddouble.h>
+#include <guibase/frequencies/frequencytoaxisstring.h>
+#include <guibase/frequencies/suffixeddouble.h>
 #include <guibase/services/guibase.h>
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 
 #include "model/bearings.h"
 
-#include <guibase/inputs/integralnumberdisplayformat.h>
+#include <guibase/formats/integralnumberdisplayformat.h>
 
 namespace bandmonitor {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <guibase/inputs/spinboxes.h>
+#include <guibase/inputs/spinboxes/spinboxes.h>
 
 namespace bandmonitor {
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panes/referencelevels.h"
 
-#include <guibase/inputs/suffixeddouble.h>
+#include <guibase/frequencies/suffixeddouble.h>
+
 #include <jtbase/numberhelpers.h>
 
 #include <QRegularExpression>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "receiverpane.h"
 
-#include <guibase/inputs/comboboxes.h>
-#include <guibase/inputs/frequencyspinbox.h>
-#include <guibase/inputs/integralnumberdisplayformat.h>
-#include <guibase/inputs/qdatetimedisplayformat.h>
-#include <guibase/inputs/qdatetimespinbox.h>
-#include <guibase/inputs/realnumberdisplayformat.h>
-#include <guibase/inputs/spinboxes.h>
+#include <guibase/formats/integralnumberdisplayformat.h>
+#include <guibase/formats/qdatetimedisplayformat.h>
+#include <guibase/formats/realnumberdisplayformat.h>
+#include <guibase/inputs/comboboxes/comboboxes.h>
+#include <guibase/inputs/spinboxes/frequencyspinbox.h>
+#include <guibase/inputs/spinboxes/qdatetimespinbox.h>
+#include <guibase/inputs/spinboxes/spinboxes.h>
 
 #include <QCheckBox>
 #include <QFormLayout>

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
+#include "support/dialogscript.h"
+#include "support/files.h"
+#include "support/filesizelimit.h"
+#include "support/guardedtest.h"
+#include "support/randombytes.h"
+#include "support/testrows.h"
+
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
 #include <guibase/colors/colorsetcodec.h>
 #include <guibase/services/guibase.h>
 
 #include <jtbase/errorhandler.h>
-
-#include "dialogscript.h"
-#include "support/files.h"
-#include "support/filesizelimit.h"
-#include "support/guardedtest.h"
-#include "support/randombytes.h"
-#include "support/testrows.h"
 
 #include <QComboBox>
 #include <QDir>

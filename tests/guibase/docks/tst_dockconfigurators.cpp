@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include <guibase/docks/activedockwidgetsupport.h>
-#include <guibase/docks/autohidesupport.h>
+#include "support/dockwindow.h"
+#include "support/guardedtest.h"
+
+#include <guibase/docks/active/activedockwidgetsupport.h>
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/areas/tilesupport.h>
+#include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
 #include <guibase/docks/dockwidgethelpers.h>
 #include <guibase/docks/enhanceddockwidgettitlebar.h>
 #include <guibase/docks/mainwindowconfigurator.h>
-#include <guibase/docks/tabifysupport.h>
-#include <guibase/docks/tilesupport.h>
-
-#include "dockwindow.h"
-#include "support/guardedtest.h"
 
 #include <QAction>
 #include <QTest>

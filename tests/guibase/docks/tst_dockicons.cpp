@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "dockicons_p.h"
-
 #include "support/guardedtest.h"
+
+#include <guibase/docks/dockicons.h>
 
 #include <QApplication>
 #include <QImage>

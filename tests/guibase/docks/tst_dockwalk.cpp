@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include <guibase/docks/activedockwidgetsupport.h>
-#include <guibase/docks/mainwindowhelpers.h>
-#include <guibase/docks/maximizeminimizesupport.h>
-#include <guibase/docks/tabifysupport.h>
-#include <guibase/docks/tilesupport.h>
-
-#include "dockwindow.h"
+#include "support/dockwindow.h"
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
+
+#include <guibase/docks/active/activedockwidgetsupport.h>
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/areas/tilesupport.h>
+#include <guibase/docks/mainwindowhelpers.h>
+#include <guibase/docks/maximizeminimizesupport.h>
 
 #include <QAction>
 #include <QLayout>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <guibase/docks/enhanceddockwidgettitlebar.h>
-
-#include "dockwindow.h"
+#include "support/dockwindow.h"
 #include "support/guardedtest.h"
+
+#include <guibase/docks/enhanceddockwidgettitlebar.h>
 
 #include <QAction>
 #include <QHelpEvent>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include <guibase/files/fileopenmanager.h>
-#include <guibase/files/ifileopener.h>
-#include <guibase/files/lrustringlistcontroller.h>
-
-#include "guibase/colors/dialogscript.h"
+#include "support/dialogscript.h"
 #include "support/files.h"
 #include "support/guardedtest.h"
 #include "support/modaldialogcloser.h"
 #include "support/testrows.h"
+
+#include <guibase/files/fileopenmanager.h>
+#include <guibase/files/ifileopener.h>
+#include <guibase/files/lrustringlistcontroller.h>
 
 #include <trovappstartup/cfgcenter.h>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
+#include "support/menuvisitor.h"
+#include "support/testrows.h"
+
 #include <guibase/lists/iupdatemenu.h>
 #include <guibase/lists/resortpopupmenu.h>
-
-#include "menuvisitor.h"
-#include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <QSignalSpy>
 #include <QTest>

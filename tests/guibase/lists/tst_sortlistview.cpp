@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
+#include "support/menuvisitor.h"
+
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortlistviewitem.h>
-
-#include "menuvisitor.h"
-#include "support/guardedtest.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>

@@ -5,7 +5,7 @@
 #include <guibase/colors/colorset.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
-#include <guibase/services/splitter.h>
+#include <guibase/splitters/splitter.h>
 
 #include <jtbase/errorhandler.h>
 #include <trovappstartup/cfgcenter.h>

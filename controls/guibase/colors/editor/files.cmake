@@ -1,0 +1,4 @@
+# SPDX-License-Identifier: MIT
+guibase_room(colors/editor
+    INTERNAL
+        colorseteditor.cpp colorseteditor.h)

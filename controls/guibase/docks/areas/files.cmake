@@ -1,0 +1,8 @@
+# SPDX-License-Identifier: MIT
+guibase_room(docks/areas
+    PUBLIC
+        tabifysupport.cpp tabifysupport.h
+        tilesupport.cpp tilesupport.h
+    INTERNAL
+        dockareasupport_p.h
+        tilegrid.cpp tilegrid_p.h)

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/formats/valuedisplayformatbase.h>
+#include <guibase/frequencies/unitprefix.h>
+
+/// Writes and reads whole numbers of hertz in one of the units Hz, kHz, MHz and GHz, exactly: no
+/// frequency passes through a floating-point number.
+///
+/// Written are as many decimals as the frequency has, in the locale. Read is a decimal number with
+/// point or comma, followed by the unit, its first letter (in either case), or nothing. A single
+/// point is the decimal one in MHz and GHz in every locale, since radio frequencies are written so
+/// everywhere ("14.225 MHz"), and in kHz unless the locale parts thousands with points. Several
+/// points without a comma are refused but in Hz, since radios show hertz so ("7.074.000"); for
+/// other doubtful separators see RealNumberDisplayFormat. Fractions of a hertz are refused.
+class GUIBASE_EXPORT FrequencyDisplayFormat : public ValueDisplayFormatBase<qint64>
+{
+public:
+    /// NoSuffix counts as BaseUnit.
+    explicit FrequencyDisplayFormat(UnitPrefix::ESuffix unit);
+    ~FrequencyDisplayFormat() override;
+
+    std::unique_ptr<ValueDisplayFormatBase<qint64>> clone() const override;
+    qint64 valueFromText(const QString& text, bool* ok) const override;
+    QString textFromValue(qint64 value) const override;
+    QString refusalReason(const QString& text) const override;
+    /// The bounds with all decimals down to single hertz.
+    std::vector<qint64> widestValues(const qint64& minimum, const qint64& maximum) const override;
+
+    UnitPrefix::ESuffix unit() const { return m_unit; }
+    /// Trailing zeros are written up to so many decimals; 0 at first, at most down to single hertz.
+    int minimumDecimals() const { return m_minimumDecimals; }
+    void setMinimumDecimals(int decimals);
+
+private:
+    /// Decimals that the unit has above one hertz.
+    int exponent() const;
+
+    UnitPrefix::ESuffix m_unit;
+    int m_minimumDecimals = 0;
+};

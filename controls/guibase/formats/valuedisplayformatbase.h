@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/formats/displayaffix.h>
+#include <guibase/guibase_export.h>
+
+#include <QDateTime>
+#include <QLocale>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+/// Calls `MACRO(T)` for every number type that the typed inputs hold.
+#define GUIBASE_FOR_EACH_INPUT_INTEGER(MACRO)                                                      \
+    MACRO(signed char)                                                                             \
+    MACRO(unsigned char)                                                                           \
+    MACRO(short)                                                                                   \
+    MACRO(unsigned short)                                                                          \
+    MACRO(int)                                                                                     \
+    MACRO(unsigned int)                                                                            \
+    MACRO(qint64)                                                                                  \
+    MACRO(quint64)
+#define GUIBASE_FOR_EACH_INPUT_NUMBER(MACRO)                                                       \
+    GUIBASE_FOR_EACH_INPUT_INTEGER(MACRO)                                                          \
+    MACRO(double)
+#define GUIBASE_FOR_EACH_INPUT_TYPE(MACRO)                                                         \
+    GUIBASE_FOR_EACH_INPUT_NUMBER(MACRO)                                                           \
+    MACRO(QDateTime)
+
+/// The signs of a locale that numbers are written and read with.
+struct LocaleNotation
+{
+    LocaleNotation() = default;
+    explicit LocaleNotation(const QLocale& locale);
+
+    QChar decimalPoint = u'.';
+    /// ASCII digits and minus, no group separators, no other number options: such numbers can be
+    /// written without the help of the locale.
+    bool isPlain = false;
+};
+
+/// Writes a value as the text of an input, and reads such text.
+///
+/// A text is the prefix, a blank, the bare number or date, a blank, and the suffix; reading does
+/// without the affixes and the blanks. Between the stored and the shown value stands a converter,
+/// such as a scale. Formats know no widgets; they are values, copied by clone().
+///
+/// `T` is one of the types of GUIBASE_FOR_EACH_INPUT_TYPE.
+template <typename T>
+class GUIBASE_EXPORT ValueDisplayFormatBase
+{
+public:
+    using Value = T;
+    enum ConversionMode {
+        ToDisplay = 0,   ///< From the stored value to the shown one.
+        FromDisplay = 1, ///< From the shown value to the stored one.
+    };
+    using ValueConverter = std::function<T(T, ConversionMode)>;
+
+    /// A copy of the same class.
+    virtual std::unique_ptr<ValueDisplayFormatBase<T>> clone() const = 0;
+    /// Reads the bare number or date; blanks around it do not matter. `ok` may be null. Returns
+    /// T() on failure.
+    virtual T valueFromText(const QString& text, bool* ok) const = 0;
+    /// Writes the bare number or date.
+    virtual QString textFromValue(T value) const = 0;
+    /// Tells the user why valueFromText() does not read this text.
+    virtual QString refusalReason(const QString& text) const;
+    /// Stored values from `minimum` to `maximum` whose texts are as wide as any between them; by
+    /// default the two bounds.
+    virtual std::vector<T> widestValues(const T& minimum, const T& maximum) const;
+
+    virtual ~ValueDisplayFormatBase();
+
+    /// The text with prefix and suffix. Exceptions of the converter pass through; an empty
+    /// converter throws std::bad_function_call.
+    QString fullTextFromValue(const T& value) const;
+    /// Reads a text with or without prefix and suffix. An affix that is not parted from the number
+    /// by a blank is one only where the text cannot be read with it: "1B" in base 16. A converter
+    /// that returns no finite number, or no valid date, makes the reading fail; its exceptions pass
+    /// through. `ok` may be null.
+    T valueFromFullText(const QString& text, bool* ok) const;
+    /// The suffix at the end of the text, behind which there may be blanks only.
+    DisplayAffix::Match suffixMatch(const QString& text) const;
+
+    /// Where the bare number stands in a text with or without prefix and suffix.
+    struct Range
+    {
+        qsizetype start;
+        qsizetype end;
+    };
+    Range bareRange(const QString& text) const;
+
+    /// At first the default locale, without group separators in both directions.
+    const QLocale& locale() const { return m_locale; }
+    void setLocale(const QLocale& locale);
+    /// Whether numbers are read by the rules of locale(), or (at first) of the C locale.
+    bool useLocale() const { return m_useLocale; }
+    void setUseLocale(bool use) { m_useLocale = use; }
+
+    /// Given without the blank towards the number, which is always written: "dB" shows "-80 dB".
+    /// The pattern follows the text until setPrefixPattern() sets another; so for the suffix.
+    const QString& prefix() const { return m_prefix.text(); }
+    void setPrefix(const QString& prefix) { m_prefix.setText(prefix); }
+    QRegularExpression prefixPattern() const { return m_prefix.pattern(); }
+    void setPrefixPattern(const QRegularExpression& pattern) { m_prefix.setPattern(pattern); }
+    const QString& suffix() const { return m_suffix.text(); }
+    void setSuffix(const QString& suffix) { m_suffix.setText(suffix); }
+    QRegularExpression suffixPattern() const { return m_suffix.pattern(); }
+    void setSuffixPattern(const QRegularExpression& pattern) { m_suffix.setPattern(pattern); }
+
+    /// Whether a text without the suffix is refused; not at first. For formats that differ in the
+    /// suffix only, so that a bare number is never read in another unit than the one shown.
+    bool isSuffixRequired() const { return m_suffixRequired; }
+    void setSuffixRequired(bool required) { m_suffixRequired = required; }
+
+    /// At first the identity.
+    const ValueConverter& valueConverter() const { return m_valueConverter; }
+    void setValueConverter(ValueConverter converter) { m_valueConverter = std::move(converter); }
+
+protected:
+    ValueDisplayFormatBase();
+    ValueDisplayFormatBase(const ValueDisplayFormatBase& other);
+    ValueDisplayFormatBase& operator=(const ValueDisplayFormatBase& other);
+
+    const LocaleNotation& notation() const { return m_notation; }
+
+private:
+    T bareValue(const QString& text, Range range, bool* read) const;
+
+    QLocale m_locale;
+    LocaleNotation m_notation;
+    bool m_useLocale = false;
+    DisplayAffix m_prefix;
+    DisplayAffix m_suffix;
+    bool m_suffixRequired = false;
+    ValueConverter m_valueConverter;
+};
+
+#define GUIBASE_EXTERN_FORMAT(T) extern template class ValueDisplayFormatBase<T>;
+GUIBASE_FOR_EACH_INPUT_TYPE(GUIBASE_EXTERN_FORMAT)
+#undef GUIBASE_EXTERN_FORMAT

@@ -1,0 +1,9 @@
+# SPDX-License-Identifier: MIT
+guibase_room(frequencies
+    PUBLIC
+        frequencytoaxisstring.cpp frequencytoaxisstring.h
+        stringformatter.cpp stringformatter.h
+        suffixeddouble.cpp suffixeddouble.h
+        unitprefix.h
+    INTERNAL
+        letterset_p.h)

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/formats/displayformatlist.h>
+#include <guibase/inputs/comboboxes/abstractcombobox.h>
+
+#include <QPair>
+#include <QValidator>
+
+#include <memory>
+#include <vector>
+
+template <typename T>
+class SortedItems;
+
+namespace ComboBoxes {
+
+/// Value, range, special value, display formats and text handling of a combo box that holds a `T`.
+///
+/// The class has no meta-object: the signals are operations that the typed classes implement by
+/// declaring them as signals. NaN is ignored everywhere. A converter of a format that throws counts
+/// as a text that cannot be read or, when writing, leaves the field empty.
+template <typename T>
+class GUIBASE_EXPORT NumberComboBoxBase : public AbstractComboBox
+{
+public:
+    ~NumberComboBoxBase() override;
+
+    /// 0 at first.
+    T value() const { return m_value; }
+    /// The finite limits of the type at first.
+    T minimum() const { return m_minimum; }
+    T maximum() const { return m_maximum; }
+    QPair<T, T> range() const { return {m_minimum, m_maximum}; }
+
+    /// A value outside the range is replaced by the nearer bound; below the minimum by the special
+    /// value if there is a text for it. Selects the closest item.
+    virtual void setValue(T value);
+    /// The bounds in any order. A value outside moves to the nearer bound; below the minimum to the
+    /// special value if there is a text for it. The current item stays.
+    virtual void setRange(T first, T second);
+    void setRange(const QPair<T, T>& range) { setRange(range.first, range.second); }
+    void setMinimum(T minimum) { setRange(minimum, m_maximum); }
+    void setMaximum(T maximum) { setRange(m_minimum, maximum); }
+
+    /// What the special-value text stands for; the lowest value of the type at first.
+    T specialValue() const { return m_specialValue; }
+    void setSpecialValue(T value);
+    using AbstractComboBox::setSpecialValueText;
+    void setSpecialValueText(const QString& text, T value);
+
+    /// The box owns the format; its index is the count of formats before. Null is ignored.
+    void addDisplayFormat(std::unique_ptr<ValueDisplayFormatBase<T>> format);
+    int countDisplayFormats() const { return m_formats.count(); }
+    /// Null for an index out of range. Call updateEdit() after changing a format in use.
+    ValueDisplayFormatBase<T>* displayFormatAt(int index) const;
+    /// The default format when there is none at the current index.
+    ValueDisplayFormatBase<T>* currentDisplayFormat() const;
+    /// The index of the format that reads the sample or whose suffix it ends with. When `*ok` is
+    /// false, the current index. `ok` may be null.
+    virtual int displayFormatIndexByTextSample(const QString& sample, bool* ok) const;
+
+    /// Selects the item whose value lies closest; the later one of equal distances, but the first
+    /// one that is equal. Items that cannot be read count as the current value. Distances are those
+    /// of the type: where it is too small for one, the item counts as close.
+    ///
+    /// What the items read as is remembered until items or formats change.
+    virtual void selectClosestIndexForValue(T value);
+    /// The value that the item reads as; the current one, with `ok` false, when it cannot be read.
+    T itemValue(int index, bool& ok) const;
+
+    QString textValue() const override { return textFromValue(m_value); }
+    void interpret(int itemIndex) override;
+    using AbstractComboBox::interpret;
+
+    QVariant inputQuantity(Quantity quantity) const override;
+    bool setInputValue(const QVariant& value) override;
+
+    virtual void valueChanged(T value) = 0;
+    virtual void minimumChanged(T minimum) = 0;
+    virtual void maximumChanged(T maximum) = 0;
+    virtual void rangeChanged(T minimum, T maximum) = 0;
+
+protected:
+    using Reading = DisplayFormatReading<T>;
+
+    explicit NumberComboBoxBase(QWidget* parent);
+
+    QString textFromValue(T value) const;
+    /// The value of the text and the index of its format; when `ok` is false, the current ones.
+    T valueFromText(const QString& text, bool& ok, int& index) const;
+    T validateAndInterpret(QString& text, int& position, QValidator::State& state,
+                           int& index) const;
+    typename DisplayFormatList<T>::Pairs buildDisplayFormatIndexPairs() const;
+
+    bool isReadable(const QString& text) const override;
+    void chooseItem(int itemIndex) override;
+
+private:
+    struct StandIn
+    {
+        std::size_t index;
+        bool isSpecial; ///< Else the item cannot be read.
+    };
+
+    bool hasSpecialValue() const { return !specialValueText().isEmpty(); }
+    bool isSpecialText(const QString& text) const;
+    bool isInRange(T value) const { return !(value < m_minimum) && !(m_maximum < value); }
+    Reading readText(const QString& text) const;
+    void moveTo(T value);
+    void readItems();
+
+    T m_value = T(0);
+    T m_minimum;
+    T m_maximum;
+    T m_specialValue;
+    DisplayFormatList<T> m_formats;
+    std::vector<T> m_itemValues;
+    std::unique_ptr<SortedItems<T>> m_sortedItems;
+    std::vector<StandIn> m_standIns; ///< Items whose values are those of other members.
+};
+
+#define GUIBASE_EXTERN_COMBO_BOX(T) extern template class NumberComboBoxBase<T>;
+GUIBASE_FOR_EACH_INPUT_NUMBER(GUIBASE_EXTERN_COMBO_BOX)
+#undef GUIBASE_EXTERN_COMBO_BOX
+
+} // namespace ComboBoxes

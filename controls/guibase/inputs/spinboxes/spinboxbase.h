@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/formats/displayformatlist.h>
+#include <guibase/inputs/spinboxes/abstractspinbox.h>
+
+#include <QPair>
+#include <QValidator>
+
+namespace SpinBoxes {
+
+/// Value, range, display formats and text handling of a spin box that holds a `T`.
+///
+/// The class has no meta-object: the signals are operations that the typed classes implement by
+/// declaring them as signals. Values that are no values (NaN, invalid date-times) are ignored
+/// everywhere. A converter of a format that throws counts as a text that cannot be read or, when
+/// writing, leaves the field empty.
+template <typename T>
+class GUIBASE_EXPORT SpinBoxBase : public AbstractSpinBox
+{
+public:
+    ~SpinBoxBase() override;
+
+    /// 0 at first; for date-times the start of the year 1970 in UTC.
+    T value() const { return m_value; }
+    /// The limits of the type at first.
+    T minimum() const { return m_minimum; }
+    T maximum() const { return m_maximum; }
+    QPair<T, T> range() const { return {m_minimum, m_maximum}; }
+    /// What the type can hold: for real numbers the finite ones, for date-times
+    /// 1752-09-15T00:00:00Z to 9999-12-30T23:59:59.999Z, which have years of four digits in any
+    /// zone.
+    static T minimumLimit();
+    static T maximumLimit();
+
+    /// A value outside the range is ignored or, with QAbstractSpinBox::CorrectToNearestValue,
+    /// replaced by the nearer bound.
+    virtual void setValue(T value);
+    /// The bounds in any order. A value outside moves to the nearer bound.
+    void setRange(T first, T second);
+    void setRange(const QPair<T, T>& range) { setRange(range.first, range.second); }
+    void setMinimum(T minimum) { setRange(minimum, m_maximum); }
+    void setMaximum(T maximum) { setRange(m_minimum, maximum); }
+
+    /// Whether values are rounded to a multiple of the single step; false at first.
+    bool isNormalizeValueToMultipleOfStep() const { return m_normalize; }
+    void setNormalizeValueToMultipleOfStep(bool normalize);
+    /// The value as it would be stored; the same value where there is no single step.
+    virtual T normalizeValueToMultipleOfStep(T value) const;
+
+    /// The box owns the format; its index is the count of formats before. Null is ignored.
+    void addDisplayFormat(std::unique_ptr<ValueDisplayFormatBase<T>> format);
+    int countDisplayFormats() const { return m_formats.count(); }
+    /// Null for an index out of range. Call updateEdit() after changing a format in use.
+    ValueDisplayFormatBase<T>* displayFormatAt(int index) const { return m_formats.at(index); }
+    /// The default format when there is none at the current index.
+    ValueDisplayFormatBase<T>* currentDisplayFormat() const;
+    /// The index of the format that reads the sample or whose suffix it ends with. When `*ok` is
+    /// false, the current index. `ok` may be null.
+    int displayFormatIndexByTextSample(const QString& sample, bool* ok) const;
+
+    QString textValue() const override { return textFromValue(m_value); }
+    /// Acceptable or Invalid; changes neither text nor position.
+    QValidator::State validate(QString& text, int& position) const override;
+    StepEnabled stepEnabled() const override;
+    void interpret() override;
+
+    QVariant inputQuantity(Quantity quantity) const override;
+    bool setInputValue(const QVariant& value) override;
+
+    virtual void valueChanged(T value) = 0;
+    virtual void minimumChanged(T minimum) = 0;
+    virtual void maximumChanged(T maximum) = 0;
+    virtual void rangeChanged(T minimum, T maximum) = 0;
+
+protected:
+    using Reading = DisplayFormatReading<T>;
+
+    explicit SpinBoxBase(QWidget* parent);
+
+    /// Reads the text through the formats.
+    virtual Reading readText(const QString& text) const;
+    virtual QString textFromValue(T value) const;
+    /// The value of the text and the index of its format; when `ok` is false, the current ones.
+    T valueFromText(const QString& text, bool& ok, int& index) const;
+    T validateAndInterpret(QString& text, int& position, QValidator::State& state,
+                           int& index) const;
+    typename DisplayFormatList<T>::Pairs buildDisplayFormatIndexPairs() const;
+
+    bool isInRange(const T& value) const { return !(value < m_minimum) && !(m_maximum < value); }
+    bool isReadable(const QString& text) const override;
+    QStringList sizeSamples() const override;
+    /// After a step that leads out of the type: the bound, or nothing, as setValue() would do.
+    void stepBeyondLimit(bool up);
+    const DisplayFormatList<T>& displayFormats() const { return m_formats; }
+
+private:
+    void moveToBound(const T& bound);
+    QString refusalOf(const QString& text, const Reading& reading) const;
+    QString refusalOf(const T& value) const;
+    T normalized(T value) const;
+
+    T m_value;
+    T m_minimum;
+    T m_maximum;
+    bool m_normalize = false;
+    DisplayFormatList<T> m_formats;
+};
+
+#define GUIBASE_EXTERN_SPIN_BOX(T) extern template class SpinBoxBase<T>;
+GUIBASE_FOR_EACH_INPUT_TYPE(GUIBASE_EXTERN_SPIN_BOX)
+#undef GUIBASE_EXTERN_SPIN_BOX
+
+} // namespace SpinBoxes

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "dockrestore_p.h"
+
+#include "floatingdockkeeper.h"
+
+#include <guibase/records/dockstatecheck.h>
+
+#include <QMainWindow>
+#include <QToolBar>
+
+#include <algorithm>
+
+namespace {
+
+DockRestore::Place placeOf(const QMainWindow& window, QDockWidget& dock)
+{
+    return {&dock, window.dockWidgetArea(&dock), dock.isFloating(), dock.isHidden(),
+            window.tabifiedDockWidgets(&dock).size()};
+}
+
+struct FormerDock
+{
+    QPointer<QDockWidget> dock;
+    Qt::DockWidgetArea area;
+    QList<QPointer<QDockWidget>> tabs; ///< The others there, if the layout does not know the dock.
+};
+
+struct FormerToolBar
+{
+    QPointer<QToolBar> bar;
+    Qt::ToolBarArea area;
+    bool beginsLine;
+};
+
+std::vector<FormerDock> formerDocks(const QMainWindow& window, const QSet<QString>& known)
+{
+    std::vector<FormerDock> result;
+    const auto docks = window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QDockWidget* dock : docks) {
+        FormerDock former{dock, window.dockWidgetArea(dock), {}};
+        if (!known.contains(dock->objectName())) {
+            const auto tabs = window.tabifiedDockWidgets(dock);
+            former.tabs = {tabs.cbegin(), tabs.cend()};
+        }
+        result.push_back(std::move(former));
+    }
+    return result;
+}
+
+std::vector<FormerToolBar> unknownToolBars(const QMainWindow& window, const QSet<QString>& known)
+{
+    std::vector<FormerToolBar> result;
+    const auto bars = window.findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QToolBar* bar : bars) {
+        if (!known.contains(bar->objectName()))
+            result.push_back({bar, window.toolBarArea(bar), window.toolBarBreak(bar)});
+    }
+    return result;
+}
+
+/// The toolkit loses unknown docks whose place among the others is no more, and puts those that
+/// were behind a tab beside the others.
+void putBack(QMainWindow& window, const FormerDock& former)
+{
+    QDockWidget* dock = former.dock;
+    if (dock == nullptr || dock->parentWidget() != &window || former.area == Qt::NoDockWidgetArea)
+        return;
+    const bool wasHidden = dock->isHidden();
+    if (window.dockWidgetArea(dock) == Qt::NoDockWidgetArea)
+        window.addDockWidget(former.area, dock);
+    const auto tabs = window.tabifiedDockWidgets(dock);
+    const auto isThere = [&](QDockWidget* other) {
+        return other != nullptr && !other->isFloating() &&
+               window.dockWidgetArea(other) == former.area;
+    };
+    const auto other = std::find_if(former.tabs.cbegin(), former.tabs.cend(), isThere);
+    if (tabs.isEmpty() && !dock->isFloating() && other != former.tabs.cend())
+        window.tabifyDockWidget(*other, dock);
+    if (dock->isHidden() != wasHidden)
+        dock->setHidden(wasHidden);
+}
+
+/// The toolkit puts all unknown tool bars of an area into one line.
+void putBack(QMainWindow& window, const FormerToolBar& former)
+{
+    if (former.bar && former.beginsLine && window.toolBarArea(former.bar) == former.area &&
+        !window.toolBarBreak(former.bar))
+        window.insertToolBarBreak(former.bar);
+}
+
+} // namespace
+
+QByteArray DockRestore::save(const QMainWindow& window)
+{
+    return window.saveState(stateVersion);
+}
+
+void DockRestore::restore(QMainWindow& window, const QByteArray& state)
+{
+    const auto known = DockStateCheck::names(state, stateVersion);
+    if (!known)
+        return;
+    const std::vector<FormerDock> docks = formerDocks(window, known->docks);
+    const std::vector<FormerToolBar> toolBars = unknownToolBars(window, known->toolBars);
+
+    const QPointer<QMainWindow> guard(&window);
+    window.restoreState(state, stateVersion);
+    for (const FormerDock& former : docks) {
+        if (guard)
+            putBack(window, former);
+        if (former.dock && former.dock->isFloating() && former.dock->isVisible())
+            FloatingDockKeeper::keep(*former.dock, FloatingDockKeeper::Place::OnScreen);
+    }
+    for (const FormerToolBar& former : toolBars) {
+        if (guard)
+            putBack(window, former);
+    }
+}
+
+DockRestore::Places DockRestore::places(const QMainWindow& window)
+{
+    Places result;
+    const auto docks = window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QDockWidget* dock : docks)
+        result.push_back(placeOf(window, *dock));
+    return result;
+}
+
+bool DockRestore::isRearranged(const Places& places)
+{
+    return std::any_of(places.cbegin(), places.cend(), [](const Place& place) {
+        if (!place.dock)
+            return false;
+        const auto* window = qobject_cast<QMainWindow*>(place.dock->parentWidget());
+        return window == nullptr || !(placeOf(*window, *place.dock) == place);
+    });
+}

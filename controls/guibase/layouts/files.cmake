@@ -1,0 +1,10 @@
+# SPDX-License-Identifier: MIT
+guibase_room(layouts
+    INTERNAL
+        guibaselayouts.cpp
+        dockrestore.cpp dockrestore_p.h
+        floatingdockkeeper.cpp floatingdockkeeper.h
+        modetable.cpp modetable_p.h
+        persistentwidget.cpp persistentwidget_p.h
+        persistentwidgetregistry.cpp persistentwidgetregistry.h
+        widgetplacement.cpp widgetplacement.h)

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/records/geometryrecord.h>
+
+#include <QRect>
+#include <QSize>
+
+class QString;
+class QWidget;
+
+/// Puts widgets where a stored geometry says.
+namespace WidgetPlacement {
+
+/// The bytes of the geometry in the hexadecimal text, or nothing when the text is no geometry; for
+/// a window also nothing when nobody could see it, being narrower or lower than `smallestWindow`.
+QByteArray fromText(const QString& text, bool isWindow = false);
+
+/// Applies what QWidget::saveGeometry() has given. Windows come back to the pixel where they were,
+/// but always whole on a screen of today. Child widgets that a layout or a splitter places keep
+/// their place. Bytes that are no geometry change nothing. Returns the size in pixels that the
+/// widget should get, now or when its window manager has maximized it; none when nothing was done.
+QSize apply(QWidget& widget, const QByteArray& bytes);
+
+/// The geometry, moved and shrunk no more than needed for the window and the frame that it has now
+/// to lie whole on a screen.
+QRect reachableGeometry(const QRect& geometry, const QWidget& window);
+
+inline constexpr int smallestWindow = 16; ///< In pixels.
+
+} // namespace WidgetPlacement

@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+#include "splitter.h"
+
+#include "splitterhandle.h"
+
+#include <guibase/records/splitterstatecheck.h>
+#include <guibase/services/guibase.h>
+
+#include <jtbase/qtimerhelpers.h>
+
+#include <QChildEvent>
+#include <QShowEvent>
+
+#include <algorithm>
+
+Splitter::Splitter(QWidget* parent)
+    : QSplitter(parent)
+{
+    init();
+}
+
+Splitter::Splitter(Qt::Orientation orientation, QWidget* parent)
+    : QSplitter(orientation, parent)
+{
+    init();
+}
+
+Splitter::Splitter(Qt::Orientation orientation, QWidget* parent, const QString& objectName,
+                   const QString& name)
+    : QSplitter(orientation, parent)
+    , m_name(name)
+{
+    setObjectName(objectName);
+    init();
+}
+
+Splitter::~Splitter() = default;
+
+void Splitter::init()
+{
+    if (!m_name.isEmpty()) {
+        applyStored();
+        connect(this, &QSplitter::splitterMoved, this, &Splitter::slotKeepSettings);
+    }
+    setOpaqueResize(false);
+}
+
+void Splitter::setSizes(const QList<int>& sizes)
+{
+    m_awaitedSizes = sizes.size() > count() ? sizes : QList<int>();
+    QSplitter::setSizes(withHints(sizes));
+}
+
+QList<int> Splitter::withHints(QList<int> sizes) const
+{
+    sizes.resize(std::min<qsizetype>(sizes.size(), count()));
+    for (int i = 0; i < count(); ++i) {
+        if (i < sizes.size() && sizes.at(i) >= 0)
+            continue;
+        const QSize hint = widget(i)->sizeHint();
+        const int size =
+            std::max(1, orientation() == Qt::Horizontal ? hint.width() : hint.height());
+        if (i < sizes.size())
+            sizes[i] = size;
+        else
+            sizes.append(size);
+    }
+    return sizes;
+}
+
+void Splitter::addWidget(QWidget* widget)
+{
+    QSplitter::addWidget(widget);
+    placeNewWidgets();
+}
+
+void Splitter::insertWidget(int index, QWidget* widget)
+{
+    QSplitter::insertWidget(index, widget);
+    placeNewWidgets();
+}
+
+void Splitter::childEvent(QChildEvent* event)
+{
+    QSplitter::childEvent(event);
+    if (event->removed())
+        m_placedWidgets = std::min(m_placedWidgets, count());
+    else if (event->added() && event->child()->isWidgetType())
+        QTimerHelpers::singleShot(0, this, [this] { placeNewWidgets(); });
+}
+
+void Splitter::placeNewWidgets()
+{
+    if (count() <= m_placedWidgets)
+        return;
+    const bool isFirst = m_placedWidgets == 0;
+    m_placedWidgets = count();
+    if (isFirst)
+        applyStored();
+    else if (!m_awaitedSizes.isEmpty())
+        setSizes(QList<int>(m_awaitedSizes));
+}
+
+void Splitter::setVariant(const QString& variant)
+{
+    m_variant = variant;
+    const QObjectList all = children();
+    for (QObject* child : all) {
+        if (auto* splitter = qobject_cast<Splitter*>(child))
+            splitter->setVariant(variant);
+    }
+    applyStored();
+}
+
+void Splitter::applyStored()
+{
+    if (m_name.isEmpty())
+        return;
+    GuiBase::Instance().ApplySplitterSizes4(m_name + m_variant, this);
+    // Stored states tell how they were resized, too.
+    setOpaqueResize(false);
+}
+
+void Splitter::slotKeepSettings(int, int)
+{
+    m_awaitedSizes.clear();
+    if (!m_name.isEmpty())
+        GuiBase::Instance().StoreSplitterSizes4(m_name + m_variant, this);
+}
+
+void Splitter::showEvent(QShowEvent* event)
+{
+    QSplitter::showEvent(event);
+    if (!event->spontaneous())
+        applyStored();
+}
+
+QSplitterHandle* Splitter::createHandle()
+{
+    return new SplitterHandle(orientation(), this);
+}
+
+Splitter::Neighbours Splitter::neighbours(int index) const
+{
+    Neighbours result;
+    for (int i = 0; i < count(); ++i) {
+        if (widget(i)->isHidden())
+            continue;
+        if (i < index)
+            result.before = i;
+        else if (result.after < 0)
+            result.after = i;
+    }
+    return result;
+}
+
+int Splitter::minimumSizeOf(int widgetIndex) const
+{
+    const QWidget& one = *widget(widgetIndex);
+    const QSize size = one.minimumSizeHint().expandedTo(one.minimumSize());
+    return std::max(1, orientation() == Qt::Horizontal ? size.width() : size.height());
+}
+
+void Splitter::moveBorder(const Neighbours& border, int sizeBefore, int index)
+{
+    QList<int> all = SplitterStateCheck::withHidden(
+        sizes(), SplitterStateCheck::sizes(saveState()).value_or(QList<int>()));
+    const int total = all.at(border.before) + all.at(border.after);
+    const int lowest = std::min(minimumSizeOf(border.before), total);
+    const int highest = std::max(lowest, total - minimumSizeOf(border.after));
+    all[border.before] = std::clamp(sizeBefore, lowest, highest);
+    all[border.after] = total - all.at(border.before);
+    QSplitter::setSizes(withHints(all));
+    const QPoint position = handle(index)->pos();
+    Q_EMIT splitterMoved(orientation() == Qt::Horizontal ? position.x() : position.y(), index);
+}
+
+void Splitter::shiftHandle(int index, int pixels)
+{
+    const Neighbours border = neighbours(index);
+    if (border.isComplete())
+        moveBorder(border, sizes().at(border.before) + pixels, index);
+}
+
+void Splitter::equalizeNeighbours(int index)
+{
+    const Neighbours border = neighbours(index);
+    if (border.isComplete())
+        moveBorder(border, (sizes().at(border.before) + sizes().at(border.after)) / 2, index);
+}

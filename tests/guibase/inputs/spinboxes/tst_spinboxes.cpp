@@ -1,0 +1,568 @@
+// SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
+#include "support/testrows.h"
+#include "support/typing.h"
+
+#include <guibase/formats/qdatetimedisplayformat.h>
+#include <guibase/formats/realnumberdisplayformat.h>
+#include <guibase/inputs/spinboxes/frequencyspinbox.h>
+#include <guibase/inputs/spinboxes/qdatetimespinbox.h>
+#include <guibase/inputs/spinboxes/spinboxes.h>
+#include <guibase/services/guibase.h>
+
+#include <jtbase/datetime.h>
+#include <valueframework/valueselection.h>
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <cfloat>
+#include <limits>
+
+using namespace SpinBoxes;
+
+namespace {
+
+/// Shows the box with the focus, and the text selected.
+void activate(QAbstractSpinBox& box)
+{
+    box.show();
+    QVERIFY(QTest::qWaitForWindowActive(&box));
+    box.setFocus();
+    QTRY_VERIFY(box.hasFocus());
+    QTRY_VERIFY(box.findChild<QLineEdit*>()->hasSelectedText());
+}
+
+/// A meter that is scaled by a factor of 1000.
+std::unique_ptr<IntegralNumberDisplayFormat<int>> kiloFormat()
+{
+    auto format = std::make_unique<IntegralNumberDisplayFormat<int>>();
+    format->setSuffix(QStringLiteral("km"));
+    format->setValueConverter([](int value, auto mode) {
+        return mode == ValueDisplayFormatBase<int>::ToDisplay ? value / 1000 : value * 1000;
+    });
+    return format;
+}
+
+/// Every limit and its neighbour can be set, shown, typed, stepped to, and never passed.
+template <typename Box, typename T>
+void checkInteger(const char* typeName)
+{
+    constexpr T lowest = std::numeric_limits<T>::lowest();
+    constexpr T highest = std::numeric_limits<T>::max();
+    Box box;
+    const QMetaObject* meta = box.metaObject();
+    const QByteArray type(typeName);
+    QVERIFY(meta->indexOfSignal("valueChanged(" + type + ")") >= 0);
+    QVERIFY(meta->indexOfSignal("rangeChanged(" + type + "," + type + ")") >= 0);
+    QVERIFY(meta->indexOfSlot("setSingleStep(" + type + ")") >= 0);
+    box.addDisplayFormat(integerFormat<T>(16, "u"));
+    box.setCurrentDisplayFormatIndex(0);
+    for (const T value : {T(lowest + 1), lowest, T(highest - 1), highest}) {
+        box.setValue(value);
+        const QString text = box.textValue();
+        box.setValue(T(7));
+        enter(box, text);
+        QCOMPARE(box.value(), value);
+        QCOMPARE(box.inputQuantity(TypedInput::Quantity::Value).template value<T>(), value);
+    }
+    for (const int steps : {2, INT_MAX, INT_MIN}) {
+        const T start = steps < 0 ? lowest : T(highest - 1);
+        box.setSingleStep(steps < 0 ? highest : T(1));
+        box.setValue(start);
+        box.stepBy(steps);
+        QCOMPARE(box.value(), start);
+        box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+        box.stepBy(steps);
+        QCOMPARE(box.value(), steps < 0 ? lowest : highest);
+        box.setCorrectionMode(QAbstractSpinBox::CorrectToPreviousValue);
+    }
+}
+
+} // namespace
+
+class TestSpinBoxes : public GuardedTest
+{
+    Q_OBJECT
+    using Texts = TestRows<QString, QString>;
+    using Rounded = TestRows<int, int, int>;
+    using Digits = TestRows<QString, int, int, QString>;
+
+protected:
+    void prepare() override
+    {
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
+        GuiBase::Instance().GetTimeZone()->SetValue(Trov::DateTime::Local_TimeZone);
+    }
+
+private Q_SLOTS:
+    void integersKeepTheirLimits()
+    {
+        checkInteger<Int8SpinBox, qint8>("qint8");
+        checkInteger<UInt8SpinBox, quint8>("quint8");
+        checkInteger<Int16SpinBox, qint16>("qint16");
+        checkInteger<UInt16SpinBox, quint16>("quint16");
+        checkInteger<Int32SpinBox, int>("int");
+        checkInteger<UInt32SpinBox, quint32>("quint32");
+        checkInteger<Int64SpinBox, qint64>("qint64");
+        checkInteger<UInt64SpinBox, quint64>("quint64");
+    }
+    void roundsToMultiples_data()
+    {
+        Rounded row; // single step, value, multiple
+        row.add(5, 13, 15);
+        row.add(5, -12, -10);
+        row.add(10, -5, -10);
+        row.add(0, 13, 13);
+        row.add(1, INT_MAX, INT_MAX);
+        row.add(1000, INT_MAX, INT_MAX / 1000 * 1000);
+    }
+    void roundsToMultiples()
+    {
+        const auto& [step, value, expected] = Rounded::fetch();
+        Int32SpinBox box;
+        box.setSingleStep(step);
+        box.setValue(value);
+        QCOMPARE(box.value(), value);
+        box.setNormalizeValueToMultipleOfStep(true);
+        QCOMPARE(box.value(), expected);
+    }
+    void roundsWithoutLoss()
+    {
+        UInt64SpinBox large;
+        large.setSingleStep(2);
+        QCOMPARE(large.normalizeValueToMultipleOfStep(Q_UINT64_C(18446744073709551615)),
+                 Q_UINT64_C(18446744073709551614));
+        DoubleSpinBox real;
+        real.setSingleStep(0.1);
+        real.setNormalizeValueToMultipleOfStep(true);
+        real.setValue(0.29);
+        QVERIFY(real.value() == 0.3);
+        real.setNormalizeValueToMultipleOfStep(false);
+        for (int i = 0; i < 7; ++i)
+            real.stepBy(1);
+        QVERIFY(real.value() == 1.0);
+        real.setValue(DBL_MAX);
+        real.setSingleStep(DBL_MAX);
+        real.stepBy(1);
+        QVERIFY(real.value() == DBL_MAX);
+        for (const double none : {qQNaN(), qInf()}) {
+            real.setValue(none);
+            real.setSingleStep(none);
+            QVERIFY(real.value() == DBL_MAX && real.singleStep() == DBL_MAX);
+        }
+        real.setRange(-qInf(), qInf());
+        real.setRange(qQNaN(), 1);
+        QVERIFY(real.minimum() == -DBL_MAX && real.maximum() == DBL_MAX);
+    }
+    void followsItsRange()
+    {
+        Int32SpinBox box;
+        QStringList calls;
+        const auto log = [&calls](const char* name) {
+            return [&calls, name](int value) {
+                calls << QString::fromLatin1(name) + QString::number(value);
+            };
+        };
+        connect(&box, &Int32SpinBox::valueChanged, &box, log("value "));
+        connect(&box, &Int32SpinBox::minimumChanged, &box, log("min "));
+        connect(&box, &Int32SpinBox::maximumChanged, &box, log("max "));
+        connect(&box, &Int32SpinBox::rangeChanged, &box, log("range "));
+        const auto took = [&calls] { return std::exchange(calls, {}).join(u','); };
+        box.setRange(100, 50);
+        QCOMPARE(took(), QStringLiteral("value 50,min 50,max 100,range 50"));
+        box.setRange({50, 100});
+        box.setValue(101);
+        QCOMPARE(took(), QString());
+        box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+        box.setValue(101);
+        box.setValue(102);
+        QCOMPARE(took(), QStringLiteral("value 100"));
+        box.setMaximum(60);
+        QCOMPARE(took(), QStringLiteral("value 60,max 60,range 50"));
+        QCOMPARE(box.stepEnabled(), QAbstractSpinBox::StepDownEnabled);
+        box.setWrapping(true);
+        QCOMPARE(box.stepEnabled().toInt(), 3);
+        box.stepBy(1);
+        QCOMPARE(took(), QString());
+        box.setReadOnly(true);
+        QCOMPARE(box.stepEnabled(), QAbstractSpinBox::StepNone);
+    }
+    void keepsTypedTextUntilCommitted()
+    {
+        DoubleSpinBox box;
+        box.setRange(0, 10);
+        activate(box);
+        QLineEdit* edit = box.inputLineEdit();
+        QString expected;
+        const QString typed = QStringLiteral("12,5 kHz--5e+");
+        for (const QChar c : typed) {
+            QTest::keyClick(&box, c.toLatin1());
+            expected += c;
+            QCOMPARE(edit->text(), expected);
+            QCOMPARE(edit->cursorPosition(), expected.size());
+        }
+        edit->selectAll();
+        QGuiApplication::clipboard()->setText(QString::fromUtf8(" \u22121.000,5 "));
+        edit->paste();
+        QCOMPARE(box.value(), 0.0);
+        box.setRange(-2000, 10);
+        QSignalSpy finished(&box, &QAbstractSpinBox::editingFinished);
+        QTest::keyClick(&box, Qt::Key_Enter);
+        QCOMPARE(box.value(), -1000.5);
+        QCOMPARE(edit->text(), QStringLiteral("-1000.500000"));
+        QCOMPARE(edit->selectedText(), edit->text());
+        QCOMPARE(finished.count(), 1);
+        // Digits that are not shown survive when nothing was typed.
+        box.setValue(0.123456789);
+        box.interpret();
+        QCOMPARE(box.value(), 0.123456789);
+    }
+    void marksRefusedTexts_data()
+    {
+        Texts row; // text, what the reason tells
+        row("ambiguous", "1,500", "thousands");
+        row("beyond the range", "2000", "from 0.000000 to 1000.000000");
+        row("markup", "<b>1</b>", "&lt;b");
+        row("two lines", "1\n234", "cannot be read");
+        row("long", QString(1000000, u'9'), "too long");
+        row("not to be cut", QString(40000, u'0') + u'5', "too long");
+    }
+    void marksRefusedTexts()
+    {
+        const auto& [text, reason] = Texts::fetch();
+        DoubleSpinBox box;
+        box.setToolTip(QStringLiteral("Level"));
+        box.setRange(0, 1000);
+        activate(box);
+        enter(box, QStringLiteral("7"));
+        enter(box, text);
+        QCOMPARE(box.value(), 7.0);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7.000000"));
+        QVERIFY2(box.toolTip().contains(reason), qPrintable(box.toolTip()));
+        const auto mark = [&box] { return box.grab().toImage().pixelColor(box.width() / 2, 0); };
+        QCOMPARE(mark(), RefusalMark::color(box.palette()));
+        QPalette dark = box.palette();
+        dark.setColor(QPalette::Base, Qt::black);
+        box.setPalette(dark);
+        QVERIFY(mark().lightness() > 150);
+        box.inputLineEdit()->selectAll();
+        box.inputLineEdit()->insert(text);
+        QTest::keyClick(&box, Qt::Key_Up);
+        QCOMPARE(box.value(), 7.0);
+        // Enter again, on the text that came back, hides nothing; a good text does while typed.
+        QTest::keyClick(&box, Qt::Key_Return);
+        QVERIFY(!box.inputRefusal().isEmpty());
+        QTest::keyClicks(&box, QStringLiteral("8"));
+        QVERIFY(box.inputRefusal().isEmpty());
+        QCOMPARE(box.toolTip(), QStringLiteral("Level"));
+        QVERIFY(mark() != RefusalMark::color(box.palette()));
+    }
+    void switchesFormats()
+    {
+        Int32SpinBox box;
+        box.addDisplayFormat(kiloFormat());
+        auto meters = std::make_unique<IntegralNumberDisplayFormat<int>>();
+        meters->setSuffix(QStringLiteral("m"));
+        box.addDisplayFormat(std::move(meters));
+        activate(box);
+        QSignalSpy lastUsed(&box, &AbstractSpinBox::lastUsedDisplayFormatIndexChanged);
+        enter(box, QStringLiteral("5 km"));
+        QCOMPARE(box.value(), 5000);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("5000"));
+        QCOMPARE(lastUsed.count(), 1);
+        box.setAutoSwitchDisplayFormat(true);
+        QCOMPARE(box.currentDisplayFormatIndex(), 0);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("5 km"));
+        enter(box, QStringLiteral("7 m"));
+        enter(box, QStringLiteral("km")); // The unit alone: nothing is refused.
+        QCOMPARE(box.currentDisplayFormatIndex(), 0);
+        QCOMPARE(box.value(), 7);
+        QVERIFY(box.inputRefusal().isEmpty());
+        enter(box, QStringLiteral("x m"));
+        QCOMPARE(box.currentDisplayFormatIndex(), 1);
+        QVERIFY(!box.inputRefusal().isEmpty());
+        box.setCurrentDisplayFormatIndex(99);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7"));
+        // A converter that throws, or is none, leaves the box usable.
+        box.setCurrentDisplayFormatIndex(0);
+        box.displayFormatAt(0)->setValueConverter({});
+        box.setValue(8);
+        QCOMPARE(box.textValue(), QString());
+        QTest::keyClick(&box, Qt::Key_Up, Qt::ControlModifier);
+        enter(box, QStringLiteral("9 m"));
+        QCOMPARE(box.value(), 9);
+    }
+    void stepsTheDigitAtTheCursor_data()
+    {
+        Digits row; // text, position of the cursor, steps, text then
+        row.add("f= 123.45 MHz", 0, 1, "f= 223.45 MHz");
+        row.add("f= 123.45 MHz", 6, -1, "f= 122.45 MHz");
+        row.add("f= 123.45 MHz", 13, -6, "f= 123.39 MHz");
+        row.add("f= -123.45 MHz", 4, 1, "f= -23.45 MHz");
+        row.add("f= 999.99 MHz", 8, 1, "f= 1000.00 MHz");
+    }
+    void stepsTheDigitAtTheCursor()
+    {
+        const auto& [text, cursor, steps, expected] = Digits::fetch();
+        DoubleSpinBox box;
+        auto format = std::make_unique<RealNumberDisplayFormat<double>>();
+        format->setPrefix(QStringLiteral("f="));
+        format->setSuffix(QStringLiteral("MHz"));
+        format->setPrecision(2);
+        format->setValueConverter([](double value, auto mode) {
+            return mode == ValueDisplayFormatBase<double>::ToDisplay ? value / 1e6 : value * 1e6;
+        });
+        box.addDisplayFormat(std::move(format));
+        box.setCurrentDisplayFormatIndex(0);
+        activate(box);
+        box.inputLineEdit()->setText(text);
+        box.interpret();
+        box.inputLineEdit()->setCursorPosition(cursor);
+        for (int i = 0; i < qAbs(steps); ++i)
+            QTest::keyClick(&box, steps > 0 ? Qt::Key_Up : Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(box.inputLineEdit()->text(), expected);
+        QCOMPARE(box.inputLineEdit()->text().size() - box.inputLineEdit()->cursorPosition(),
+                 text.size() - cursor);
+    }
+    void stepsByKeysAndWheel()
+    {
+        Int8SpinBox box;
+        activate(box);
+        QTest::keyClicks(&box, QStringLiteral("100"));
+        QTest::keyClick(&box, Qt::Key_Up);
+        QCOMPARE(box.value(), qint8(101));
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(&box, Qt::Key_PageUp);
+        QCOMPARE(box.value(), qint8(121));
+        const auto turn = [&box] {
+            const QPointF center = QRectF(box.rect()).center();
+            QWheelEvent event(center, box.mapToGlobal(center), {}, {0, 120}, Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&box, &event);
+        };
+        turn();
+        QCOMPARE(box.value(), qint8(122));
+        box.clearFocus();
+        turn();
+        QCOMPARE(box.value(), qint8(122));
+        box.setReadOnly(true);
+        box.setFocus();
+        QTest::keyClick(&box, Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(box.value(), qint8(122));
+    }
+    void tellsAssistiveTechnologies()
+    {
+        UInt64SpinBox box;
+        box.setAccessibleName(QStringLiteral("Samples"));
+        QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&box);
+        QCOMPARE(interface->role(), QAccessible::SpinBox);
+        QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Samples"));
+        const qulonglong highest = std::numeric_limits<qulonglong>::max();
+        QCOMPARE(interface->valueInterface()->maximumValue(), QVariant(highest));
+        interface->valueInterface()->setCurrentValue(QVariant(highest - 1));
+        QCOMPARE(box.value(), highest - 1);
+        QCOMPARE(interface->text(QAccessible::Value), QStringLiteral("18446744073709551614"));
+        for (const QVariant& bad : {QVariant(-1), QVariant(0.5), QVariant(qQNaN()), QVariant()}) {
+            interface->valueInterface()->setCurrentValue(bad);
+            QCOMPARE(interface->valueInterface()->currentValue(), QVariant(highest - 1));
+        }
+        interface->valueInterface()->setCurrentValue(static_cast<double>(highest));
+        QCOMPARE(box.value(), highest);
+        interface->setText(QAccessible::Value, QStringLiteral("7"));
+        QCOMPARE(box.value(), 7U);
+        interface->setText(QAccessible::Value, QStringLiteral("x"));
+        QVERIFY(!box.inputRefusal().isEmpty());
+        QCOMPARE(interface->text(QAccessible::Description), box.inputRefusal());
+        interface->editableTextInterface()->replaceText(0, 1, QStringLiteral("9"));
+        QCOMPARE(box.value(), 9U);
+        interface->editableTextInterface()->replaceText(0, 1, QStringLiteral("7"));
+        box.setMaximum(10);
+        interface->valueInterface()->setCurrentValue(20);
+        QVERIFY(interface->text(QAccessible::Description).contains(QStringLiteral("to 10")));
+        box.setReadOnly(true);
+        interface->setText(QAccessible::Value, QStringLiteral("8"));
+        QVERIFY(interface->state().readOnly && box.value() == 7U);
+    }
+    void showsDatesInTheChosenZone()
+    {
+        QDateTimeSpinBox box;
+        auto format = std::make_unique<QDateTimeDisplayFormat>();
+        format->setDateTimeFormat(QStringLiteral("yyyy-MM-dd 'at' hh:mm:ss"));
+        box.addDisplayFormat(std::move(format));
+        box.setCurrentDisplayFormatIndex(0);
+        ValueSelection& zone = *GuiBase::Instance().GetTimeZone();
+        const QDateTime time(QDate(2024, 7, 1), QTime(12, 0), Qt::UTC);
+        box.setValue(time);
+        QCOMPARE(box.textValue(),
+                 time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd 'at' hh:mm:ss")));
+        activate(box);
+        zone.SetValue(Trov::DateTime::UTC_TimeZone);
+        QLineEdit* edit = box.inputLineEdit();
+        QCOMPARE(edit->text(), QStringLiteral("2024-07-01 at 12:00:00"));
+        enter(box, QStringLiteral("2024-07-02 at 12:00:00"));
+        QCOMPARE(box.value(), time.addDays(1));
+        edit->setCursorPosition(17); // Behind the hours.
+        QTest::keyClick(&box, Qt::Key_Up);
+        edit->setCursorPosition(12);
+        QTest::keyClick(&box, Qt::Key_PageDown);
+        edit->setCursorPosition(0);
+        QTest::keyClick(&box, Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(edit->text(), QStringLiteral("2025-06-22 at 12:01:00"));
+        // What is being typed counts in the zone that is shown.
+        edit->setText(QStringLiteral("2025-06-22 at 12:00:30"));
+        zone.SetValue(Trov::DateTime::Local_TimeZone);
+        QTest::keyClick(&box, Qt::Key_Return);
+        QCOMPARE(box.value(), QDateTime(QDate(2025, 6, 22), QTime(12, 0, 30), Qt::UTC));
+        enter(box, QStringLiteral("2025-02-30 at 12:02:00"));
+        QVERIFY(!box.inputRefusal().isEmpty());
+        box.setValue(QDateTime());
+        for (const QDateTime& limit : {box.minimumLimit(), box.maximumLimit()}) {
+            box.setValue(limit);
+            box.stepBy(limit.date().year() < 2000 ? -1 : 1);
+            QCOMPARE(box.value(), limit);
+        }
+    }
+    void findsHalfDaysAndQuotes()
+    {
+        QDateTimeSpinBox box;
+        auto format = std::make_unique<QDateTimeDisplayFormat>();
+        format->setDateTimeFormat(QStringLiteral("h:mm AP 'o''clock', MMMM d"));
+        box.addDisplayFormat(std::move(format));
+        box.setCurrentDisplayFormatIndex(0);
+        GuiBase::Instance().GetTimeZone()->SetValue(Trov::DateTime::UTC_TimeZone);
+        activate(box);
+        for (const int cursor : {0, 5, 20, 27}) {
+            box.inputLineEdit()->setCursorPosition(cursor);
+            box.stepBy(1);
+        }
+        QCOMPARE(box.textValue(), QStringLiteral("1:00 PM o'clock, February 2"));
+    }
+    void survivesItsEndInItsSignals()
+    {
+        const std::function<void(Int32SpinBox&)> changes[] = {
+            [](auto& box) { box.setRange(50, 40); },
+            [](auto& box) { box.setValue(5); },
+            [](auto& box) { box.setCurrentDisplayFormatIndex(1); },
+            [](auto& box) {
+                box.inputLineEdit()->setText(QStringLiteral("3 km"));
+                box.interpret();
+            },
+            [](auto& box) {
+                box.inputLineEdit()->setText(QStringLiteral("3 km"));
+                box.stepUp();
+            },
+        };
+        std::unique_ptr<Int32SpinBox> box;
+        const auto end = [&box] { box.reset(); };
+        const auto endIn = [&](auto signal) -> std::function<void()> {
+            return [&, signal] { connect(box.get(), signal, this, end); };
+        };
+        const std::function<void()> triggers[] = {
+            endIn(&Int32SpinBox::valueChanged),
+            endIn(&Int32SpinBox::minimumChanged),
+            endIn(&Int32SpinBox::maximumChanged),
+            endIn(qOverload<int, int>(&Int32SpinBox::rangeChanged)),
+            endIn(&Int32SpinBox::currentDisplayFormatIndexChanged),
+            endIn(&Int32SpinBox::lastUsedDisplayFormatIndexChanged),
+        };
+        int ends = 0;
+        for (const auto& trigger : triggers) {
+            for (const auto& change : changes) {
+                box = std::make_unique<Int32SpinBox>();
+                box->addDisplayFormat(kiloFormat());
+                box->setAutoSwitchDisplayFormat(true);
+                trigger();
+                change(*box);
+                ends += box == nullptr ? 1 : 0;
+            }
+        }
+        QCOMPARE(ends, 13);
+    }
+    void isWideEnoughForAllValues()
+    {
+        const auto fits = [](AbstractSpinBox& box) {
+            box.resize(box.sizeHint());
+            box.grab(); // Lays the line edit out.
+            return box.inputLineEdit()->width() >=
+                   box.fontMetrics().horizontalAdvance(box.textValue());
+        };
+        FrequencySpinBox frequency;
+        frequency.setRange(0, 30'000'000);
+        frequency.setValue(29'888'888);
+        QVERIFY(fits(frequency));
+        auto format = std::make_unique<RealNumberDisplayFormat<double>>();
+        format->setFormat('g');
+        DoubleSpinBox real;
+        real.addDisplayFormat(std::move(format));
+        real.setCurrentDisplayFormatIndex(0);
+        real.setRange(-1, 10);
+        real.setValue(-0.000222222);
+        QVERIFY(fits(real));
+        QDateTimeSpinBox date;
+        date.setValue(QDateTime(QDate(2025, 9, 24), QTime(20, 0), Qt::UTC)); // A Wednesday.
+        QVERIFY(fits(date));
+    }
+    void keepsWhatIsTypedAtOnce()
+    {
+        Int32SpinBox box;
+        box.setRange(0, 99);
+        activate(box);
+        QLineEdit* edit = box.inputLineEdit();
+        // Keys come before all is selected, and a menu has pasted.
+        for (const auto reason : {Qt::OtherFocusReason, Qt::PopupFocusReason}) {
+            edit->setText(QStringLiteral("5"));
+            QFocusEvent focus(QEvent::FocusIn, reason);
+            QCoreApplication::sendEvent(&box, &focus);
+            QTest::keyClick(&box, Qt::Key_1);
+            QCoreApplication::processEvents();
+            QTest::keyClick(&box, Qt::Key_2);
+            QCOMPARE(edit->text(), QStringLiteral("512"));
+        }
+        // The buttons step from what was typed.
+        box.setValue(99);
+        edit->setText(QStringLiteral("50"));
+        QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(box.width() - 5, 4));
+        QCOMPARE(box.value(), 51);
+    }
+    void entersFrequencies()
+    {
+        FrequencySpinBox box;
+        activate(box);
+        const auto entered = [&box](const char* text) {
+            enter(box, QString::fromLatin1(text));
+            return box.value();
+        };
+        QCOMPARE(entered("14226k"), Q_INT64_C(14226000));
+        QCOMPARE(entered("1,2 GHz"), Q_INT64_C(1200000000));
+        QCOMPARE(entered("7.05"), Q_INT64_C(7050000));
+        // What is being typed counts in the unit that is shown.
+        box.inputLineEdit()->setText(QStringLiteral("7.1"));
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
+        QTest::keyClick(&box, Qt::Key_Return);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("7100 kHz"));
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
+        entered("998999.999999");
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Giga);
+        QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("998.999999999 GHz"));
+        QCOMPARE(entered("5"), Q_INT64_C(5000000000));
+        QTest::keyClick(&box, Qt::Key_Up);
+        QCOMPARE(box.value(), Q_INT64_C(5000001000));
+        for (const char* bad : {"14,225 MHz", "1000", "-1 Hz"}) {
+            entered(bad);
+            QCOMPARE(box.value(), Q_INT64_C(5000001000));
+            QVERIFY2(!box.inputRefusal().isEmpty(), bad);
+        }
+        box.setFollowingFrequencyUnit(false);
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
+        QCOMPARE(box.currentDisplayFormatIndex(), 3);
+    }
+};
+
+QTEST_MAIN(TestSpinBoxes)
+#include "tst_spinboxes.moc"

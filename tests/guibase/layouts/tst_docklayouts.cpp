@@ -1,0 +1,478 @@
+// SPDX-License-Identifier: MIT
+#include "support/files.h"
+#include "support/guardedtest.h"
+#include "support/testrows.h"
+
+#include <guibase/records/geometryrecord.h>
+#include <guibase/records/staterecord.h>
+#include <guibase/services/guibase.h>
+
+#include <jtbase/errorhandler.h>
+#include <trovappstartup/cfgcenter.h>
+
+#include <QAction>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextEdit>
+#include <QToolBar>
+
+namespace {
+
+const QString recordName = QStringLiteral("GuiBase_docks");
+
+std::unique_ptr<ICfg> record(const QString& name = recordName)
+{
+    return CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(name);
+}
+
+QString stored(const char* key, const QString& name = recordName)
+{
+    return record(name)->GetString(QLatin1String(key));
+}
+
+QString storedLayout(quint32 mode)
+{
+    const auto layouts = StateRecord::decode(stored("State"));
+    return layouts && layouts->contains(mode) ? layouts->at(mode) : QString();
+}
+
+QString hexadecimal(const QByteArray& bytes)
+{
+    return QString::fromLatin1(bytes.toHex());
+}
+
+/// A main window with docks A and B on the left, C and D tabbed on the right, and a tool bar.
+class Window : public QMainWindow
+{
+public:
+    explicit Window(const QString& docks = QStringLiteral("ABCD"))
+    {
+        setCentralWidget(new QTextEdit);
+        setGeometry(40, 60, 700, 500);
+        for (const QChar name : docks) {
+            auto* dock = new QDockWidget(name, this);
+            dock->setObjectName(name);
+            dock->setWidget(new QTextEdit);
+            addDockWidget(
+                name < QLatin1Char('C') ? Qt::LeftDockWidgetArea : Qt::RightDockWidgetArea, dock);
+        }
+        if (dock("C") && dock("D"))
+            tabifyDockWidget(dock("C"), dock("D"));
+        addBar(QStringLiteral("bar"))->addAction(QStringLiteral("action"));
+    }
+
+    QDockWidget* dock(const char* name) const { return dock(QString::fromLatin1(name)); }
+    QDockWidget* dock(const QString& name) const { return findChild<QDockWidget*>(name); }
+    QToolBar* addBar(const QString& name)
+    {
+        QToolBar* bar = addToolBar(name);
+        bar->setObjectName(name);
+        return bar;
+    }
+    void enlist(const QString& name = QStringLiteral("docks"))
+    {
+        GuiBase::Instance().RegisterPersistentWidget(this, name);
+        QVERIFY(QTest::qWaitForWindowExposed(this));
+    }
+};
+
+/// Everything of the window that a user sees in place and size.
+QString looks(const Window& window)
+{
+    QString text;
+    QDebug out(&text);
+    out << window.windowState() << window.geometry() << window.centralWidget()->geometry();
+    for (const char* name : {"A", "B", "C", "D"}) {
+        if (const QDockWidget* dock = window.dock(name))
+            out << name << dock->isFloating() << dock->isVisible() << dock->geometry();
+    }
+    return text;
+}
+
+} // namespace
+
+class TestDockLayouts : public GuardedTest
+{
+    Q_OBJECT
+    using Cycles = TestRows<Qt::WindowState, bool>;
+    using Docks = TestRows<QString, QString>;
+    using Records = TestRows<QString, QString, bool>;
+
+private Q_SLOTS:
+    void tenCycles_data()
+    {
+        Cycles row;
+        row("normal", Qt::WindowNoState, false);
+        row("floating dock", Qt::WindowNoState, true);
+        row("maximized", Qt::WindowMaximized, false);
+        row("maximized, floating dock", Qt::WindowMaximized, true);
+    }
+    void tenCycles()
+    {
+        const auto [state, floating] = Cycles::fetch();
+        QString before;
+        {
+            Window window;
+            window.enlist();
+            window.setWindowState(state);
+            const int least = window.screen()->availableSize().width() - 10;
+            QTRY_VERIFY(window.windowState() == Qt::WindowNoState || window.width() >= least);
+            window.resizeDocks({window.dock("A"), window.dock("C")}, {233, 177}, Qt::Horizontal);
+            window.resizeDocks({window.dock("A"), window.dock("B")}, {211, 99}, Qt::Vertical);
+            if (floating) {
+                window.dock("B")->setFloating(true);
+                window.dock("B")->setGeometry(300, 260, 222, 188);
+            }
+            QTest::qWait(200); // Until the window manager has placed what was just shown.
+            before = looks(window);
+            m_services->StoreWidgetSize();
+        }
+        for (int cycle = 0; cycle < 10; ++cycle) {
+            Window window;
+            window.enlist();
+            QTRY_COMPARE(looks(window), before);
+            m_services->StoreWidgetSize();
+        }
+    }
+    void unknownDock_data()
+    {
+        Docks row;
+        row("left", "ACD", "B");
+        row("right, tabbed", "ABC", "D");
+        row("in an area that was empty", "AB", "C");
+    }
+    void unknownDock()
+    {
+        const auto& [known, added] = Docks::fetch();
+        {
+            Window window(known);
+            window.enlist();
+            window.dock("A")->hide();
+            m_services->StoreWidgetSize();
+        }
+        Window window;
+        window.addToolBarBreak();
+        const QToolBar* bar = window.addBar(QStringLiteral("new"));
+        QDockWidget* dock = window.dock(added);
+        const Qt::DockWidgetArea area = window.dockWidgetArea(dock);
+        const auto tabs = window.tabifiedDockWidgets(dock);
+        window.enlist();
+        QCOMPARE(window.dockWidgetArea(dock), area);
+        QCOMPARE(window.tabifiedDockWidgets(dock), tabs);
+        QVERIFY(window.toolBarBreak(const_cast<QToolBar*>(bar)));
+        QVERIFY(!dock->isHidden());
+        QVERIFY(window.dock("A")->isHidden());
+    }
+    void screenIsGone()
+    {
+        Window far;
+        far.dock("B")->setFloating(true);
+        far.dock("B")->setGeometry(9000, 5000, 3000, 2000);
+        far.setGeometry(9000, 5000, 8000, 400);
+        record()->SetString(QStringLiteral("Geometry"), hexadecimal(far.saveGeometry()));
+        record()->SetString(QStringLiteral("State"),
+                            StateRecord::encode({{0, hexadecimal(far.saveState(1))}}));
+        Window window;
+        window.enlist();
+        const QRect area = window.screen()->availableGeometry();
+        const auto text = [](const QRect& place) { return QDebug::toString(place).toLatin1(); };
+        QTRY_VERIFY2(area.contains(window.geometry()), text(window.geometry()));
+        const QDockWidget& dock = *window.dock("B");
+        QTRY_VERIFY2(area.contains(dock.frameGeometry()), text(dock.frameGeometry()));
+        for (const QWidget* widget :
+             {static_cast<const QWidget*>(&window), static_cast<const QWidget*>(&dock)})
+            QVERIFY(widget->width() > area.width() - 300);
+    }
+    void damagedRecord_data()
+    {
+        const auto state = [](const char* hex) {
+            return StateRecord::encode({{0, QLatin1String(hex)}, {1, QString()}});
+        };
+        QWidget narrow;
+        narrow.resize(1, 400);
+        const QString geometry = hexadecimal(narrow.saveGeometry());
+        Records row;
+        row("no state", "DG906NC44LjY=garbage", "", true);
+        row("without tag", "garbage", "", false);
+        row("endless docks",
+            state("000000ff00000001fd0000000100000000000000640000006403fc027fffffff"), "", true);
+        row("not hexadecimal", state("000000ffx"), "", true);
+        row("cut geometry", "", geometry.chopped(8), true);
+        row("no hexadecimal geometry", "", QStringLiteral("zz") + geometry, true);
+        row("too narrow", "", geometry, true);
+    }
+    /// What is damaged is not applied, and not lost.
+    void damagedRecord()
+    {
+        const auto& [state, geometry, isDamaged] = Records::fetch();
+        record()->SetString(QStringLiteral("State"), state);
+        record()->SetString(QStringLiteral("Geometry"), geometry);
+        const QString traces = m_folder.filePath(QString::fromLatin1(QTest::currentDataTag()));
+        QVERIFY(ErrorHandler::SetTraceFile(traces));
+        ErrorHandler::SetTraceFlags(ErrorHandler::TraceGuiBase);
+        Window window;
+        window.enlist();
+        QCOMPARE(window.size(), QSize(700, 500));
+        QVERIFY(window.dock("A")->isVisible() && window.dock("B")->isVisible());
+        m_services->StoreWidgetSize();
+        const QString aside = recordName + QStringLiteral("_damaged");
+        QCOMPARE(stored("State", aside), isDamaged ? state : QString());
+        QCOMPARE(stored("Geometry", aside), isDamaged ? geometry : QString());
+        QCOMPARE(readFile(traces).count("Layout record \"GuiBase_docks\""), isDamaged ? 1 : 0);
+        QCOMPARE(storedLayout(0), hexadecimal(window.saveState(1)));
+    }
+    void recordNames_data()
+    {
+        Docks row;
+        row("blanks and colon", "Main View: 1", "Main_View_1");
+        row("forbidden references", "a#xFFFEb#x7Fc", "a#xFFFEbc");
+        row("forbidden plane", "a#x2FFFFb", "ab");
+    }
+    void recordNames()
+    {
+        const auto& [name, cleaned] = Docks::fetch();
+        auto widget = std::make_unique<QWidget>();
+        for (const QString& each : {name, QStringLiteral("again")})
+            m_services->RegisterPersistentWidget(widget.get(), each);
+        m_services->RegisterPersistentWidget(nullptr, name);
+        widget->resize(456, 300);
+        const QString geometry = hexadecimal(widget->saveGeometry());
+        widget.reset();
+        QCOMPARE(stored("Geometry", QStringLiteral("GuiBase_") + cleaned), geometry);
+        m_services->StoreWidgetSize();
+        QVERIFY(stored("Geometry", QStringLiteral("GuiBase_again")).isEmpty());
+    }
+    void modesAndResets()
+    {
+        const auto isHidden = [](const Window& window) { return window.dock("A")->isHidden(); };
+        {
+            Window window;
+            window.enlist();
+            m_services->setMode(-1);
+            window.dock("A")->hide();
+            m_services->setMode(0);
+            QVERIFY(!isHidden(window));
+            m_services->StoreWidgetSize();
+            QVERIFY(!storedLayout(0xffffffff).isEmpty());
+        }
+        Window window;
+        window.enlist();
+        QVERIFY(!isHidden(window));
+        m_services->setMode(-1);
+        QVERIFY(isHidden(window));
+        window.dock("A")->show();
+        window.resize(555, 444);
+        window.hide();
+        m_services->setMode(-1);
+        QVERIFY(window.isVisible());
+        window.close();
+        m_services->setMode(-1);
+        QVERIFY(!window.isVisible());
+
+        QSignalSpy starts(m_services, &GuiBase::signalResetToProgramStart);
+        QSignalSpy factories(m_services, &GuiBase::signalResetToFactoryDefault);
+        m_services->CreateResetWidgetViewAction(&window)->trigger();
+        QVERIFY(isHidden(window) && window.isVisible());
+        QTRY_COMPARE(window.size(), QSize(700, 500));
+        m_services->setMode(0);
+        window.dock("A")->hide();
+        m_services->storeFactoryDefaultWidgets(5);
+        m_services->CreateResetFactoryViewAction(&window)->trigger();
+        QVERIFY(!isHidden(window));
+        m_services->setMode(5);
+        QVERIFY(m_services->RestoreFactoryWidgetSize());
+        QVERIFY(isHidden(window));
+        QCOMPARE(starts.count(), 1);
+        QCOMPARE(factories.count(), 2);
+    }
+    /// A maximized window from a larger screen never gets its stored size.
+    void changesBeforeTheSizeIsThere()
+    {
+        {
+            Window window;
+            window.enlist();
+            m_services->StoreWidgetSize();
+            auto geometry = GeometryRecord::fromBytes(window.saveGeometry());
+            geometry->maximized = 1;
+            geometry->geometry.setSize(QSize(5000, 4000));
+            m_services->UnregisterPersistentWidget(&window);
+            record()->SetString(QStringLiteral("Geometry"), hexadecimal(geometry->toBytes()));
+        }
+        Window window;
+        window.enlist();
+        QTRY_VERIFY(window.isMaximized());
+        m_services->setMode(3);
+        QVERIFY(!window.dock("A")->isHidden());
+        window.dock("A")->hide();
+        window.showNormal();
+        window.resize(610, 410);
+        QTest::qWait(50);
+        QVERIFY(window.dock("A")->isHidden());
+        m_services->StoreWidgetSize();
+        QCOMPARE(storedLayout(3), hexadecimal(window.saveState(1)));
+    }
+    void minimizedWindow()
+    {
+        QString geometry;
+        {
+            Window window;
+            window.enlist();
+            window.resize(640, 480);
+            QTest::qWait(100); // Until the window manager has done it.
+            m_services->StoreWidgetSize();
+            geometry = stored("Geometry");
+            window.showMinimized();
+            QTRY_VERIFY(window.isMinimized());
+            window.close();
+        }
+        QCOMPARE(stored("Geometry"), geometry);
+        Window closed;
+        closed.enlist();
+        closed.close();
+        Window window;
+        window.enlist();
+        QVERIFY(!window.isMinimized());
+        QTRY_COMPARE(window.size(), QSize(640, 480));
+        QTRY_VERIFY(window.isMinimized());
+        QVERIFY(closed.isHidden());
+        window.showNormal();
+        QVERIFY(m_services->RestoreWidgetSize());
+        QTRY_VERIFY(window.isMinimized());
+    }
+    void subWindow()
+    {
+        const auto makeSubWindow = [this](QMdiArea& area) {
+            auto* window = new Window;
+            QMdiSubWindow* subWindow = area.addSubWindow(window);
+            area.show();
+            m_services->RegisterPersistentWidget(subWindow, QStringLiteral("docks"));
+            return std::pair(subWindow, window);
+        };
+        const QRect place(11, 7, 510, 430);
+        {
+            QMdiArea area;
+            const auto [subWindow, window] = makeSubWindow(area);
+            subWindow->setGeometry(place);
+            window->dock("B")->hide();
+            m_services->StoreWidgetSize();
+            delete window;
+            m_services->StoreWidgetSize();
+        }
+        QMdiArea area;
+        const auto [subWindow, window] = makeSubWindow(area);
+        QCOMPARE(subWindow->geometry(), place);
+        QVERIFY(window->dock("B")->isHidden());
+    }
+    void destroyedMeanwhile_data()
+    {
+        TestRows<bool> row;
+        row("by registration", true);
+        row("by reset", false);
+    }
+    /// The application deletes, unregisters and registers windows while they come back.
+    void destroyedMeanwhile()
+    {
+        const bool byRegistration = std::get<bool>(TestRows<bool>::fetch());
+        {
+            Window window;
+            window.enlist();
+            m_services->StoreWidgetSize();
+        }
+        auto doomed = std::make_unique<Window>();
+        Window other;
+        class Handler : public QObject
+        {
+        public:
+            bool eventFilter(QObject*, QEvent* event) override
+            {
+                if (event->type() != QEvent::Show || !action)
+                    return false;
+                const auto once = std::exchange(action, nullptr);
+                isRefused = !GuiBase::Instance().RestoreWidgetSize();
+                once();
+                return false;
+            }
+            std::function<void()> action;
+            bool isRefused = false;
+        } handler;
+        if (!byRegistration) {
+            doomed->enlist();
+            other.enlist(QStringLiteral("other"));
+            doomed->hide();
+            other.hide();
+        }
+        doomed->dock("A")->installEventFilter(&handler);
+        doomed->dock("A")->hide();
+        handler.action = [&] {
+            m_services->UnregisterPersistentWidget(doomed.get());
+            doomed->dock("B")->deleteLater();
+            m_services->RegisterPersistentWidget(&other, QStringLiteral("other"));
+        };
+        if (byRegistration)
+            m_services->RegisterPersistentWidget(doomed.get(), QStringLiteral("docks"));
+        else
+            QVERIFY(m_services->RestoreWidgetSize());
+        QVERIFY(!handler.action);
+        QCOMPARE(handler.isRefused, !byRegistration);
+        doomed.reset();
+        m_services->StoreWidgetSize();
+        QVERIFY(!stored("State", QStringLiteral("GuiBase_other")).isEmpty());
+    }
+    void writtenWhileRunning()
+    {
+        Window window;
+        window.enlist();
+        QTest::qWait(50); // Until showing has come to its end.
+        m_services->StoreWidgetSize();
+        const auto written = [&] {
+            return storedLayout(0) == hexadecimal(window.saveState(1)) &&
+                   stored("Geometry") == hexadecimal(window.saveGeometry());
+        };
+        window.resize(620, 420);
+        QVERIFY(!written());
+        m_services->SetLayoutWriteDelay(10); // Also for the change that waits already.
+        QTRY_VERIFY(written());
+        for (const auto& change : std::initializer_list<std::function<void()>>{
+                 [&] { window.resize(610, 410); }, [&] { window.dock("A")->hide(); },
+                 [&] { window.dock("C")->setFloating(true); },
+                 [&] { window.dock("C")->move(333, 222); }}) {
+            change();
+            QVERIFY(!written());
+            QTRY_VERIFY(written());
+        }
+    }
+    // The last function: afterwards the services take no part in the save cycle.
+    void terminationStoresAndForgets()
+    {
+        Window window;
+        window.enlist();
+        m_services->aboutToTerminate();
+        const QString geometry = stored("Geometry");
+        QVERIFY(!geometry.isEmpty());
+        QVERIFY(CfgCenter::GetAppCfg(SettingsView)->HasSubCfg(QStringLiteral("GuiCentral")));
+        window.resize(456, 300);
+        m_services->StoreWidgetSize();
+        QCOMPARE(stored("Geometry"), geometry);
+    }
+
+private:
+    void prepare() override { m_services->SetLayoutWriteDelay(-1); }
+    void tidy() override
+    {
+        m_services->setMode(0);
+        ErrorHandler::SetTraceFlags(ErrorHandler::defaultTraceFlags);
+        ErrorHandler::SetTraceFile(QString());
+    }
+
+    QTemporaryDir m_folder;
+    GuiBase* m_services = &GuiBase::Instance();
+};
+
+QTEST_MAIN(TestDockLayouts)
+#include "tst_docklayouts.moc"

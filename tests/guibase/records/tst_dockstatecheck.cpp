@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
+#include "support/randombytes.h"
+#include "support/testrows.h"
+
+#include <guibase/records/dockstatecheck.h>
+#include <guibase/records/splitterstatecheck.h>
+
+#include <QDockWidget>
+#include <QElapsedTimer>
+#include <QMainWindow>
+#include <QSplitter>
+#include <QTest>
+#include <QTextEdit>
+#include <QToolBar>
+
+#include <memory>
+
+namespace {
+
+constexpr int version = 1;
+
+/// A shown main window with docks in rows, tabs and floating, and tool bars.
+class Window : public QMainWindow
+{
+public:
+    explicit Window(int docks)
+    {
+        setCentralWidget(new QTextEdit);
+        setDockOptions(AllowNestedDocks | AllowTabbedDocks | GroupedDragging);
+        resize(700, 500);
+        for (int i = 0; i < docks; ++i)
+            addDock(i);
+        for (const auto area : {Qt::TopToolBarArea, Qt::LeftToolBarArea, Qt::TopToolBarArea}) {
+            auto* bar = new QToolBar(this);
+            bar->setObjectName(QStringLiteral("bar%1").arg(area));
+            bar->addAction(QStringLiteral("action"));
+            addToolBar(area, bar);
+        }
+        if (docks > 0)
+            m_docks.last()->setFloating(true);
+        show();
+    }
+
+private:
+    void addDock(int number)
+    {
+        constexpr Qt::DockWidgetArea areas[] = {Qt::LeftDockWidgetArea, Qt::RightDockWidgetArea,
+                                                Qt::BottomDockWidgetArea};
+        auto* dock = new QDockWidget(QString::number(number), this);
+        dock->setObjectName(QStringLiteral("dock%1").arg(number));
+        dock->setWidget(new QWidget);
+        addDockWidget(areas[number % 3], dock);
+        if (number >= 3 && number % 2 == 0)
+            tabifyDockWidget(m_docks.at(number - 3), dock);
+        else if (number >= 3)
+            splitDockWidget(m_docks.at(number - 3), dock, Qt::Horizontal);
+        m_docks.append(dock);
+    }
+
+    QList<QDockWidget*> m_docks;
+};
+
+} // namespace
+
+class TestDockStateCheck : public GuardedTest
+{
+    Q_OBJECT
+    using States = TestRows<QByteArray>;
+
+private Q_SLOTS:
+    /// Cut or longer ones, and those of another version, are refused.
+    void realStates()
+    {
+        for (const int docks : {0, 1, 4, 12}) {
+            const Window window(docks);
+            const QByteArray state = window.saveState(version);
+            const auto names = DockStateCheck::names(state, version);
+            QVERIFY(names && names->docks.size() == docks && names->toolBars.size() == 2);
+            QVERIFY(names->toolBars.contains(QStringLiteral("bar1")));
+            QVERIFY(!DockStateCheck::isValid(state, version + 1));
+            QVERIFY(!DockStateCheck::isValid(state + '\0', version));
+            for (qsizetype size = 0; size < state.size(); ++size)
+                QVERIFY(!DockStateCheck::isValid(state.first(size), version));
+        }
+    }
+    /// What grouped dragging leaves behind: two tabs in a window of their own.
+    void floatingGroup()
+    {
+        const QByteArray tab("00300100000000ffffffff0000005900ffffff");
+        const QByteArray group =
+            head + "00000000" + sizes + "f9000000320000003200000100000000f0fa000000000100000002" +
+            "fb0000000a0064006f0063006b" + tab + "fb0000000a0064006f0063006b" + tab + toolBars;
+        QVERIFY(DockStateCheck::isValid(QByteArray::fromHex(group), version));
+    }
+    void hostileStates_data()
+    {
+        States row;
+        const QByteArray tail = sizes + toolBars;
+        const QByteArray area = head + "00000001000000000000006400000064";
+        const QByteArray dock("fb0000000200410100000000000000640000000000000000");
+        const auto add = [&row](const char* name, const QByteArray& hex) {
+            row(name, QByteArray::fromHex(hex));
+        };
+        QByteArray deep = area;
+        for (int depth = 0; depth < 100000; ++depth)
+            deep += "fc0200000001fc00000000ffffffff0000000000000000";
+        add("many areas", head + "7fffffff" + tail);
+        add("endless row", area + "fc027fffffff" + dock + tail);
+        add("empty row", area + "fc0200000000" + tail);
+        add("wrong orientation", area + "fc0000000001" + dock + tail);
+        add("tab that is none", area + "fa000000050200000001" + dock + tail);
+        add("very deep", deep);
+        add("long name", area + "fc0200000001fb7ffffffe0041" + tail);
+        add("endless tool-bar lines", head + "00000000" + sizes + "fc7fffffff");
+        add("no corner",
+            head + "00000000" + "000001000000010000000000000000040000000800000008" + toolBars);
+    }
+    void hostileStates()
+    {
+        QVERIFY(!DockStateCheck::isValid(std::get<0>(States::fetch()), version));
+    }
+    /// What passes the check, the toolkit must survive, quickly, and layouts must still be
+    /// possible.
+    void mutatedStates()
+    {
+        constexpr qint64 longest = 5000; // milliseconds
+        RandomBytes random("dock states");
+        QList<QByteArray> states;
+        for (const int docks : {1, 6, 12})
+            states.append(Window(docks).saveState(version));
+        auto window = std::make_unique<Window>(12);
+        const QByteArray good = states.last();
+        int passed = 0;
+        for (int round = 0; round < RandomBytes::rounds(1500); ++round) {
+            QByteArray state = states.at(random.below(static_cast<int>(states.size())));
+            if (round % 2 == 0)
+                state = random.mutated(state);
+            else
+                state[random.below(static_cast<int>(state.size()))] =
+                    static_cast<char>(random.below(256));
+            if (!DockStateCheck::isValid(state, version))
+                continue;
+            ++passed;
+            QElapsedTimer timer;
+            timer.start();
+            window->restoreState(state, version);
+            if (passed % 8 == 0) {
+                QCoreApplication::processEvents();
+                QVERIFY(DockStateCheck::isValid(window->saveState(version), version));
+                QVERIFY(window->restoreState(good, version));
+            }
+            if (passed % 100 == 0)
+                window = std::make_unique<Window>(12);
+            QVERIFY2(timer.elapsed() < longest, state.toHex().constData());
+        }
+        qInfo("%d of %d passed", passed, RandomBytes::rounds(1500));
+    }
+    void splitterStates()
+    {
+        QSplitter splitter;
+        for (int i = 0; i < 3; ++i)
+            splitter.addWidget(new QWidget);
+        splitter.show();
+        const QByteArray good = splitter.saveState();
+        QCOMPARE(SplitterStateCheck::sizes(good).value_or(QList<int>()).size(), 3);
+        for (qsizetype size = 0; size < good.size(); ++size)
+            QVERIFY(!SplitterStateCheck::sizes(good.first(size)));
+        RandomBytes random("splitter states");
+        for (int round = 0; round < RandomBytes::rounds(2000); ++round) {
+            const QByteArray state = random.mutated(good);
+            if (SplitterStateCheck::sizes(state)) {
+                splitter.restoreState(state);
+                QVERIFY(splitter.handleWidth() <= 256);
+            }
+        }
+    }
+
+private:
+    // Parts of states, hexadecimal: the beginning, the sizes behind the areas, no tool bars.
+    const QByteArray head{"000000ff00000001fd"};
+    const QByteArray sizes{"000001000000010000000004000000040000000800000008"};
+    const QByteArray toolBars{"fc00000000"};
+};
+
+QTEST_MAIN(TestDockStateCheck)
+#include "tst_dockstatecheck.moc"

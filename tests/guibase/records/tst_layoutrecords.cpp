@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
+#include "support/randombytes.h"
+#include "support/testrows.h"
+
+#include <guibase/records/geometryrecord.h>
+#include <guibase/records/screenplacement.h>
+#include <guibase/records/staterecord.h>
+
+#include <QTest>
+#include <QtEndian>
+
+using StateRecord::Layouts;
+
+namespace {
+
+const QString tag = QStringLiteral("DG906NC44LjY=");
+
+QString tagged(const QByteArray& packed)
+{
+    return tag + QString::fromLatin1(packed.toBase64());
+}
+
+QByteArray unpacked(const QString& record)
+{
+    return qUncompress(QByteArray::fromBase64(record.mid(tag.size()).toLatin1()));
+}
+
+QByteArray withLengthHeader(QByteArray packed, quint32 length)
+{
+    qToBigEndian(length, packed.data());
+    return packed;
+}
+
+} // namespace
+
+class TestLayoutRecords : public GuardedTest
+{
+    Q_OBJECT
+    using Texts = TestRows<QString>;
+    using Placements = TestRows<QRect, QList<QRect>, QRect>;
+
+private Q_SLOTS:
+    void stateFormat()
+    {
+        const Layouts layouts{{0, QStringLiteral("00ff")}, {7, QString()}, {0xffffffff, tag}};
+        const QString record = StateRecord::encode(layouts);
+        QCOMPARE(unpacked(record).first(20).toHex(' '),
+                 QByteArray("00 00 00 03 00 00 00 00 00 00 00 08 00 30 00 30 00 66 00 66"));
+        QVERIFY(StateRecord::decode(record) == layouts);
+        QVERIFY(StateRecord::decode(StateRecord::encode({})) == Layouts());
+    }
+    /// What is written must be readable, whatever there is to write.
+    void tooMuch()
+    {
+        RandomBytes random("texts");
+        Layouts layouts;
+        for (quint32 mode = 0; mode <= StateRecord::maximumModes; ++mode)
+            layouts[mode] = tag;
+        for (int i = 0; i < 2; ++i) {
+            const auto read = StateRecord::decode(StateRecord::encode(layouts));
+            QVERIFY(read && read->size() >= 2 && read->contains(0));
+            for (quint32 mode = 0; mode < 8; ++mode) // too large when packed
+                layouts[mode] = QString::fromLatin1(random.bytes(80'000).toHex());
+        }
+    }
+    void refusedStates_data()
+    {
+        Texts row;
+        const QString good = StateRecord::encode({{0, QStringLiteral("00ff")}, {1, tag}});
+        const QByteArray stream = unpacked(good);
+        const QByteArray packed = qCompress(stream);
+        const auto streamed = [](const QByteArray& bytes) { return tagged(qCompress(bytes)); };
+        row("no tag", good.mid(1));
+        row("tag only", tag);
+        row("not Base64", tag + QStringLiteral("*") + good.mid(tag.size()));
+        row("not Latin", good + QChar(0x4e00));
+        row("bytes after the stream", streamed(stream + '\0'));
+        row("cut stream", streamed(stream.chopped(1)));
+        row("many modes", streamed(QByteArray::fromHex("7fffffff") + stream.mid(4)));
+        row("long text", streamed(QByteArray::fromHex("00000001000000007ffffff00041")));
+        row("claims to be huge", tagged(withLengthHeader(packed, 0xfffffff0)));
+        row("claims to be shorter",
+            tagged(withLengthHeader(packed, static_cast<quint32>(stream.size()) - 1)));
+        row("claims to be empty", tagged(withLengthHeader(packed, 0)));
+        row("inflates to much more",
+            tagged(withLengthHeader(qCompress(QByteArray(1 << 20, '\0')), 16)));
+        row("packed too large",
+            tagged(withLengthHeader(QByteArray(StateRecord::maximumPackedBytes + 1, 'x'), 16)));
+    }
+    void refusedStates() { QVERIFY(!StateRecord::decode(std::get<0>(Texts::fetch()))); }
+    /// Texts and streams are damaged in turn; what is read must be written and read as the same.
+    void mutatedStates()
+    {
+        RandomBytes random("state records");
+        const QString good = StateRecord::encode({{0, QStringLiteral("00ff")}, {9, tag}});
+        const QByteArray stream = unpacked(good);
+        // The toolkit complains about each text that does not inflate.
+        const QtMessageHandler former =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+        int wrong = 0;
+        for (int round = 0; round < RandomBytes::rounds(2000); ++round) {
+            const auto layouts = StateRecord::decode(
+                round % 2 == 0 ? QString::fromLatin1(random.mutated(good.toLatin1()))
+                               : tagged(qCompress(random.mutated(stream))));
+            wrong += layouts && StateRecord::decode(StateRecord::encode(*layouts)) != layouts;
+        }
+        qInstallMessageHandler(former);
+        QCOMPARE(wrong, 0);
+    }
+    void mutatedGeometries()
+    {
+        RandomBytes random("geometry records");
+        for (quint16 version = 1; version <= 3; ++version) {
+            GeometryRecord record;
+            record.version = version;
+            record.frame = QRect(-5, 0, 810, 630);
+            record.normal = QRect(0, 25, 800, 600);
+            record.geometry = record.normal;
+            record.screenWidth = version >= 2 ? 1920 : 0;
+            const QByteArray good = record.toBytes();
+            QVERIFY(GeometryRecord::fromBytes(good) == record);
+            for (qsizetype size = 0; size < good.size(); ++size)
+                QVERIFY(!GeometryRecord::fromBytes(good.first(size)));
+            for (int round = 0; round < RandomBytes::rounds(500); ++round) {
+                const QByteArray bytes = random.mutated(good);
+                const auto read = GeometryRecord::fromBytes(bytes);
+                QVERIFY(!read || read->toBytes() == bytes);
+            }
+        }
+    }
+    void screenPlacement_data()
+    {
+        // The window, the screens, and where the window goes.
+        Placements row;
+        const QRect left(0, 0, 1000, 800), right(1000, 0, 1000, 800), across(900, 0, 500, 800);
+        const QList<QRect> both{left, right};
+        const QRect window(1200, 100, 500, 400), moved(500, 100, 500, 400);
+        row("stays", window, both, window);
+        row("across both", across, both, across);
+        row("whole screen", right, both, right);
+        row("screen gone", window, {left}, moved);
+        row("nearest of two", QRect(2500, -900, 500, 400), both, QRect(1500, 0, 500, 400));
+        row("too large", QRect(-50, -50, 3000, 900), {left}, left);
+        row("below the edge", QRect(10, 700, 500, 400), both, QRect(10, 400, 500, 400));
+        row("no screen", window, {}, window);
+        row("empty screen first", window, {QRect(), left}, moved);
+        row("far away", QRect(1 << 20, 1 << 20, 500, 400), both, QRect(1500, 400, 500, 400));
+    }
+    void screenPlacement()
+    {
+        const auto& [window, areas, expected] = Placements::fetch();
+        QCOMPARE(ScreenPlacement::reachable(window, areas), expected);
+        QCOMPARE(ScreenPlacement::reachable(expected, areas), expected);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestLayoutRecords)
+#include "tst_layoutrecords.moc"

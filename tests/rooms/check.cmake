@@ -1,0 +1,95 @@
+# SPDX-License-Identifier: MIT
+# Holds the walls between the rooms of a library: a header x_p.h is included only from its own room
+# (tests of the room are in it), and the headers of the rooms form no circle.
+#
+#   cmake -DPROJECT_DIR=... -DLIBRARY_DIR=... -P check.cmake
+# PROJECT_DIR is the source tree, LIBRARY_DIR the library's folder in it, whose name begins every
+# include path. The tests lie in <PROJECT_DIR>/tests/<name of the library's folder>.
+cmake_minimum_required(VERSION 3.25)
+cmake_path(GET LIBRARY_DIR FILENAME library)
+cmake_path(GET LIBRARY_DIR PARENT_PATH base_dir)
+set(tests_dir "${PROJECT_DIR}/tests/${library}")
+set(include_pattern "^[ \t]*#[ \t]*include[ \t]*[<\"]([^>\"]+)[>\"]")
+# Its members are defined in the rooms that do the duties, over this one private header.
+set(shared_private_headers "${library}/services/guibase_p.h")
+set(faults 0)
+
+macro(report text)
+    message("${text}")
+    math(EXPR faults "${faults} + 1")
+endmacro()
+
+# The room of a file below a folder, "" for the folder itself.
+function(room_of file folder out)
+    cmake_path(RELATIVE_PATH file BASE_DIRECTORY "${folder}" OUTPUT_VARIABLE path)
+    cmake_path(GET path PARENT_PATH path)
+    set(${out} "${path}" PARENT_SCOPE)
+endfunction()
+
+file(GLOB_RECURSE library_files "${LIBRARY_DIR}/*.h" "${LIBRARY_DIR}/*.cpp")
+file(GLOB_RECURSE test_files "${tests_dir}/*.h" "${tests_dir}/*.cpp")
+file(GLOB_RECURSE other_files "${PROJECT_DIR}/examples/*.h" "${PROJECT_DIR}/examples/*.cpp"
+    "${PROJECT_DIR}/benchmarks/*.h" "${PROJECT_DIR}/benchmarks/*.cpp")
+if(NOT library_files)
+    message(FATAL_ERROR "No files in ${LIBRARY_DIR}")
+endif()
+set(rooms "")
+foreach(file IN LISTS library_files test_files other_files)
+    cmake_path(IS_PREFIX LIBRARY_DIR "${file}" is_library)
+    cmake_path(IS_PREFIX tests_dir "${file}" is_test)
+    set(room "-")
+    if(is_library)
+        room_of("${file}" "${LIBRARY_DIR}" room)
+    elseif(is_test)
+        room_of("${file}" "${tests_dir}" room)
+    endif()
+    file(STRINGS "${file}" lines REGEX "${include_pattern}")
+    foreach(line IN LISTS lines)
+        string(REGEX MATCH "${include_pattern}" ignored "${line}")
+        set(header "${CMAKE_MATCH_1}")
+        if(NOT header MATCHES "^${library}/.+/")
+            continue() # Quoted: of the same room, where the compiler finds it.
+        endif()
+        set(header_path "${base_dir}/${header}")
+        room_of("${header_path}" "${LIBRARY_DIR}" header_room)
+        if(header MATCHES "_p\\.h$" AND NOT header_room STREQUAL room
+           AND NOT (is_library AND header IN_LIST shared_private_headers))
+            report("${file}: includes ${header}, which belongs to another room")
+        endif()
+        if(is_library AND file MATCHES "\\.h$" AND NOT header_room STREQUAL room)
+            list(APPEND rooms "${room}" "${header_room}")
+            list(APPEND needs_${room} "${header_room}")
+            list(REMOVE_DUPLICATES needs_${room})
+        endif()
+    endforeach()
+endforeach()
+
+# Rooms that need no other one are taken away until none is left, or only those of a circle.
+list(REMOVE_DUPLICATES rooms)
+set(taken TRUE)
+while(taken)
+    set(taken FALSE)
+    foreach(room IN LISTS rooms)
+        set(left ${needs_${room}})
+        list(FILTER left EXCLUDE REGEX "^$")
+        set(missing "")
+        foreach(need IN LISTS left)
+            if(need IN_LIST rooms)
+                list(APPEND missing "${need}")
+            endif()
+        endforeach()
+        if(NOT missing)
+            list(REMOVE_ITEM rooms "${room}")
+            set(taken TRUE)
+        endif()
+    endforeach()
+endwhile()
+foreach(room IN LISTS rooms)
+    report("the headers of ${room} are in a circle or above one: they need ${needs_${room}}")
+endforeach()
+
+list(LENGTH library_files count)
+if(faults GREATER 0)
+    message(FATAL_ERROR "${faults} faults in ${count} files of ${library}")
+endif()
+message("${count} files of ${library}: every wall holds")
