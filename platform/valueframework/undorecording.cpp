@@ -4,107 +4,130 @@
 #include <valueframework/tree.h>
 #include <valueframework/valuebase.h>
 
+#include <QHash>
 #include <QScopedValueRollback>
+#include <QStringList>
+#include <QUndoCommand>
+#include <QUndoStack>
+#include <QVariant>
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
+#include <vector>
 
-UndoRecording& UndoRecording::Instance()
+namespace {
+
+constexpr int defaultLimit = 100;
+
+struct Change
 {
-    static UndoRecording& recording = *new UndoRecording;
-    return recording;
+    QString path;
+    QVariant before;
+    QVariant after;
+};
+using Changes = std::vector<Change>;
+
+enum class Direction { Undo, Redo };
+
+} // namespace
+
+class UndoRecordingPrivate
+{
+public:
+    void begin(const QString& basePath, const QString& text);
+    void end(const QString& basePath);
+    void noteChange(const ValueBase& value);
+    void forget(const ValueBase& value);
+    void replay(const Changes& changes, Direction direction);
+    bool isBusy() const { return isReplaying || !basePaths.isEmpty(); }
+
+    QUndoStack stack;
+    QStringList basePaths; // of the living triggers
+    bool isReplaying = false;
+
+private:
+    struct Recorded
+    {
+        const ValueBase* value; // null when it has left the tree
+        QVariant before;
+    };
+
+    Changes takeChanges();
+
+    std::vector<Recorded> m_recorded;                  // in the order of the first change
+    QHash<const ValueBase*, std::size_t> m_recordedAt; // indexes of m_recorded
+    QString m_text;
+};
+
+namespace {
+
+class UndoStep : public QUndoCommand
+{
+public:
+    UndoStep(UndoRecordingPrivate& recording, const QString& text, Changes changes)
+        : QUndoCommand(text)
+        , m_recording(recording)
+        , m_changes(std::move(changes))
+    {}
+    void undo() override { m_recording.replay(m_changes, Direction::Undo); }
+    void redo() override
+    {
+        // The stack calls it for a new step too, whose changes are made already.
+        if (!std::exchange(m_isNew, false))
+            m_recording.replay(m_changes, Direction::Redo);
+    }
+
+private:
+    UndoRecordingPrivate& m_recording;
+    Changes m_changes;
+    bool m_isNew = true;
+};
+
+} // namespace
+
+void UndoRecordingPrivate::begin(const QString& basePath, const QString& text)
+{
+    if (basePaths.isEmpty())
+        m_text = text;
+    basePaths << basePath;
 }
 
-UndoRecording::UndoRecording() = default;
-UndoRecording::~UndoRecording() = default;
-
-void UndoRecording::setLimit(int steps)
+void UndoRecordingPrivate::end(const QString& basePath)
 {
-    m_limit = std::max(steps, 1);
-    const std::size_t before = m_undoSteps.size() + m_redoSteps.size();
-    trim(m_undoSteps);
-    trim(m_redoSteps);
-    if (m_undoSteps.size() + m_redoSteps.size() != before)
-        Q_EMIT changed();
-}
-
-bool UndoRecording::canUndo() const
-{
-    return !m_undoSteps.empty();
-}
-
-bool UndoRecording::canRedo() const
-{
-    return !m_redoSteps.empty();
-}
-
-QString UndoRecording::undoText() const
-{
-    return canUndo() ? m_undoSteps.back().text : QString();
-}
-
-QString UndoRecording::redoText() const
-{
-    return canRedo() ? m_redoSteps.back().text : QString();
-}
-
-bool UndoRecording::undo()
-{
-    return replay(m_undoSteps, m_redoSteps, true);
-}
-
-bool UndoRecording::redo()
-{
-    return replay(m_redoSteps, m_undoSteps, false);
-}
-
-void UndoRecording::clear()
-{
-    if (!canUndo() && !canRedo())
+    basePaths.removeOne(basePath);
+    if (!basePaths.isEmpty())
         return;
-    m_undoSteps.clear();
-    m_redoSteps.clear();
-    Q_EMIT changed();
+    Changes changes = takeChanges();
+    if (!changes.empty())
+        stack.push(new UndoStep(*this, m_text, std::move(changes)));
 }
 
-void UndoRecording::begin(const QString& basePath, const QString& text)
+Changes UndoRecordingPrivate::takeChanges()
 {
-    if (++m_depth > 1)
-        return;
-    m_basePath = Tree::NormalizedPath(basePath);
-    m_text = text;
-}
-
-void UndoRecording::end()
-{
-    if (--m_depth > 0)
-        return;
-    Step step{std::exchange(m_text, {}), {}};
+    Changes changes;
     for (Recorded& recorded : m_recorded) {
         if (recorded.value == nullptr)
             continue;
         QVariant after = recorded.value->GetVariant();
-        if (!after.isValid() || after == recorded.before)
-            continue;
-        step.changes.push_back(
-            {recorded.value->GetPathName(), std::move(recorded.before), std::move(after)});
+        if (after.isValid() && after != recorded.before) {
+            changes.push_back(
+                {recorded.value->GetPathName(), std::move(recorded.before), std::move(after)});
+        }
     }
     m_recorded.clear();
     m_recordedAt.clear();
-    if (step.changes.empty())
-        return;
-    m_redoSteps.clear();
-    m_undoSteps.push_back(std::move(step));
-    trim(m_undoSteps);
-    Q_EMIT changed();
+    return changes;
 }
 
-void UndoRecording::noteChange(const ValueBase& value)
+void UndoRecordingPrivate::noteChange(const ValueBase& value)
 {
-    if (m_depth == 0 || m_replaying || m_recordedAt.contains(&value) ||
-        !Tree::IsAtOrBelow(value.GetPathName(), m_basePath)) {
+    if (basePaths.isEmpty() || isReplaying || m_recordedAt.contains(&value))
         return;
-    }
+    const QString path = value.GetPathName();
+    const auto covers = [&](const QString& basePath) { return Tree::IsAtOrBelow(path, basePath); };
+    if (std::none_of(basePaths.cbegin(), basePaths.cend(), covers))
+        return;
     QVariant before = value.GetVariant();
     if (!before.isValid())
         return;
@@ -112,7 +135,7 @@ void UndoRecording::noteChange(const ValueBase& value)
     m_recorded.push_back({&value, std::move(before)});
 }
 
-void UndoRecording::forget(const ValueBase& value)
+void UndoRecordingPrivate::forget(const ValueBase& value)
 {
     const auto found = m_recordedAt.constFind(&value);
     if (found == m_recordedAt.constEnd())
@@ -121,44 +144,125 @@ void UndoRecording::forget(const ValueBase& value)
     m_recordedAt.erase(found);
 }
 
-bool UndoRecording::replay(std::vector<Step>& from, std::vector<Step>& to, bool backwards)
+void UndoRecordingPrivate::replay(const Changes& changes, Direction direction)
 {
-    if (from.empty() || m_depth > 0 || m_replaying)
-        return false;
-    std::vector<Change> changes = from.back().changes;
-    to.push_back(std::move(from.back()));
-    from.pop_back();
-    if (backwards)
-        std::reverse(changes.begin(), changes.end());
+    if (isReplaying)
+        return;
+    // A view of the stack can replay while a step is being recorded: the values of that step then
+    // start from what the replay makes of them.
+    const Changes recorded = takeChanges();
     {
-        const QScopedValueRollback<bool> replaying(m_replaying, true);
+        const QScopedValueRollback<bool> replaying(isReplaying, true);
+        const auto set = [direction](const Change& change) {
+            if (ValueBase* value = Tree::Instance().Find(change.path))
+                value->SetVariant(direction == Direction::Undo ? change.before : change.after);
+        };
         // Values can depend on each other through their observers (a limit that follows another
         // value); the second round sets what the first one could not.
         for (int round = 0; round < 2; ++round) {
-            for (const Change& change : changes) {
-                if (ValueBase* value = Tree::Instance().Find(change.path))
-                    value->SetVariant(backwards ? change.before : change.after);
-            }
+            if (direction == Direction::Undo)
+                std::for_each(changes.crbegin(), changes.crend(), set);
+            else
+                std::for_each(changes.cbegin(), changes.cend(), set);
         }
     }
-    Q_EMIT changed();
+    for (const Change& change : recorded) {
+        const ValueBase* value = Tree::Instance().Find(change.path);
+        if (value == nullptr || value->GetVariant() != change.after)
+            continue;
+        m_recordedAt.insert(value, m_recorded.size());
+        m_recorded.push_back({value, change.before});
+    }
+}
+
+UndoRecording& UndoRecording::Instance()
+{
+    static UndoRecording& recording = *new UndoRecording;
+    return recording;
+}
+
+UndoRecording::UndoRecording()
+    : d(std::make_unique<UndoRecordingPrivate>())
+{
+    d->stack.setUndoLimit(defaultLimit);
+    connect(&d->stack, &QUndoStack::indexChanged, this, &UndoRecording::changed);
+}
+
+UndoRecording::~UndoRecording() = default;
+
+QUndoStack* UndoRecording::stack() const
+{
+    return &d->stack;
+}
+
+void UndoRecording::setLimit(int steps)
+{
+    if (d->isReplaying)
+        return;
+    clear(); // The stack takes a limit only while it is empty.
+    d->stack.setUndoLimit(std::max(steps, 1));
+}
+
+bool UndoRecording::canUndo() const
+{
+    return d->stack.canUndo();
+}
+
+bool UndoRecording::canRedo() const
+{
+    return d->stack.canRedo();
+}
+
+QString UndoRecording::undoText() const
+{
+    return d->stack.undoText();
+}
+
+QString UndoRecording::redoText() const
+{
+    return d->stack.redoText();
+}
+
+bool UndoRecording::undo()
+{
+    if (d->isBusy() || !canUndo())
+        return false;
+    d->stack.undo();
     return true;
 }
 
-void UndoRecording::trim(std::vector<Step>& steps) const
+bool UndoRecording::redo()
 {
-    const auto limit = static_cast<std::size_t>(m_limit);
-    if (steps.size() > limit)
-        steps.erase(steps.begin(), steps.end() - m_limit);
+    if (d->isBusy() || !canRedo())
+        return false;
+    d->stack.redo();
+    return true;
+}
+
+void UndoRecording::clear()
+{
+    if (!d->isReplaying)
+        d->stack.clear();
+}
+
+void UndoRecording::noteChange(const ValueBase& value)
+{
+    d->noteChange(value);
+}
+
+void UndoRecording::forget(const ValueBase& value)
+{
+    d->forget(value);
 }
 
 UndoRecordingTriggerByValueClient::UndoRecordingTriggerByValueClient(const QString& basePath,
                                                                      const QString& text)
+    : m_basePath(Tree::NormalizedPath(basePath))
 {
-    UndoRecording::Instance().begin(basePath, text);
+    UndoRecording::Instance().d->begin(m_basePath, text);
 }
 
 UndoRecordingTriggerByValueClient::~UndoRecordingTriggerByValueClient()
 {
-    UndoRecording::Instance().end();
+    UndoRecording::Instance().d->end(m_basePath);
 }

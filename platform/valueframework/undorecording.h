@@ -3,24 +3,22 @@
 
 #include <valueframework/valueframework_export.h>
 
-#include <QHash>
 #include <QObject>
 #include <QString>
-#include <QVariant>
 
-#include <cstddef>
-#include <vector>
+#include <memory>
 
-class UndoRecordingTriggerByValueClient;
+class QUndoStack;
+class UndoRecordingPrivate;
 class ValueBase;
 
 /// The undo and redo steps of changes to values of the value tree.
 ///
 /// A step is recorded while an UndoRecordingTriggerByValueClient lives: for every value at or below
-/// the trigger's base path that changes meanwhile, the value before and after. Nested triggers
-/// record into the outermost one. An empty base path stands for the whole tree. Values that have
-/// left the tree are skipped, when a step is recorded and when it is replayed; what observers
-/// change during a replay is not recorded. GUI thread only.
+/// the trigger's base path that changes meanwhile, the value before and after. Triggers that live
+/// at the same time record one step together, with the text of the first one. An empty base path
+/// stands for the whole tree. Values that have left the tree are skipped, when a step is recorded
+/// and when it is replayed; what observers change during a replay is not recorded. GUI thread only.
 class VALUEFRAMEWORK_EXPORT UndoRecording : public QObject
 {
     Q_OBJECT
@@ -28,8 +26,12 @@ public:
     /// Never destroyed, so that values and triggers may outlive the application object.
     static UndoRecording& Instance();
 
-    /// The number of steps kept, for undo and for redo each; those farthest from the present state
-    /// are dropped. Default 100, at least 1.
+    /// The stack that holds the steps: for a QUndoView, for undo and redo actions, and for other
+    /// commands of the application. Owned by this object; it must not be cleared during a replay.
+    QUndoStack* stack() const;
+
+    /// The largest number of steps kept; the oldest one goes first. Default 100, at least 1. Steps
+    /// recorded until now are forgotten. Does nothing during a replay.
     void setLimit(int steps);
 
     bool canUndo() const;
@@ -39,9 +41,11 @@ public:
     QString redoText() const;
 
 public Q_SLOTS:
-    /// Both do nothing, and return false, without a step or while a step is being recorded.
+    /// Both do nothing, and return false, without a step, while one is being recorded and during a
+    /// replay.
     bool undo();
     bool redo();
+    /// Forgets all steps. Does nothing during a replay.
     void clear();
 
 Q_SIGNALS:
@@ -49,45 +53,16 @@ Q_SIGNALS:
     void changed();
 
 private:
-    struct Change
-    {
-        QString path;
-        QVariant before;
-        QVariant after;
-    };
-    struct Step
-    {
-        QString text;
-        std::vector<Change> changes;
-    };
-    struct Recorded
-    {
-        const ValueBase* value; // null when it has left the tree
-        QVariant before;
-    };
-
     UndoRecording();
     ~UndoRecording() override;
-    void begin(const QString& basePath, const QString& text);
-    void end();
     void noteChange(const ValueBase& value);
     void forget(const ValueBase& value);
-    bool replay(std::vector<Step>& from, std::vector<Step>& to, bool backwards);
-    void trim(std::vector<Step>& steps) const;
 
     friend class UndoRecordingTriggerByValueClient;
     friend class ValueBase;
     friend class Tree;
 
-    std::vector<Step> m_undoSteps;
-    std::vector<Step> m_redoSteps;
-    std::vector<Recorded> m_recorded;                  // in the order of the first change
-    QHash<const ValueBase*, std::size_t> m_recordedAt; // indexes of m_recorded
-    QString m_text;
-    QString m_basePath;
-    int m_depth = 0;
-    int m_limit = 100;
-    bool m_replaying = false;
+    std::unique_ptr<UndoRecordingPrivate> d;
 };
 
 /// Records one undo step for as long as it lives. A step without net changes is not kept; one that
@@ -99,4 +74,7 @@ public:
     ~UndoRecordingTriggerByValueClient();
     UndoRecordingTriggerByValueClient(const UndoRecordingTriggerByValueClient&) = delete;
     UndoRecordingTriggerByValueClient& operator=(const UndoRecordingTriggerByValueClient&) = delete;
+
+private:
+    QString m_basePath;
 };

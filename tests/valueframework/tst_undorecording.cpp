@@ -10,6 +10,7 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QUndoStack>
 
 #include <deque>
 #include <memory>
@@ -24,7 +25,6 @@ private Q_SLOTS:
     void cleanup()
     {
         m_undo.setLimit(100);
-        m_undo.clear();
     }
     void paths()
     {
@@ -79,13 +79,16 @@ private Q_SLOTS:
         std::size_t present = 0;
         RandomBytes random("undo");
         for (int round = RandomBytes::rounds(3000); round > 0; --round) {
-            const int action = random.below(4);
+            const int action = random.below(5);
             if (action == 0) {
                 QCOMPARE(m_undo.undo(), present > 0);
                 present -= present > 0 ? 1 : 0;
             } else if (action == 1) {
                 QCOMPARE(m_undo.redo(), present + 1 < history.size());
                 present += present + 1 < history.size() ? 1 : 0;
+            } else if (action == 2) {
+                present = static_cast<std::size_t>(random.below(static_cast<int>(history.size())));
+                m_undo.stack()->setIndex(static_cast<int>(present)); // as a view of it does
             } else {
                 const Trigger outer(QStringLiteral("/base/"), QString::number(round));
                 for (int i = random.below(5); i > 0; --i) {
@@ -93,7 +96,7 @@ private Q_SLOTS:
                         random.below(100));
                 }
             }
-            if (action > 1 && state() != history[present]) {
+            if (action > 2 && state() != history[present]) {
                 history.resize(present + 1);
                 history.push_back(state());
                 if (history.size() > limit + 1)
@@ -104,7 +107,34 @@ private Q_SLOTS:
             QCOMPARE(state(), history[present]);
             QCOMPARE(m_undo.canUndo(), present > 0);
             QCOMPARE(m_undo.canRedo(), present + 1 < history.size());
+            QCOMPARE(m_undo.stack()->index(), static_cast<int>(present));
         }
+    }
+    void overlappingTriggersAndReplays()
+    {
+        ValueNumeric<int> first(QStringLiteral("first"));
+        ValueNumeric<int> second(QStringLiteral("second"));
+        QVERIFY(Tree::Instance().Add(QStringLiteral("a"), &first));
+        QVERIFY(Tree::Instance().Add(QStringLiteral("b"), &second));
+        {
+            const Trigger trigger(QStringLiteral("a"), QString());
+            first.SetValue(1);
+            second.SetValue(1); // of no step
+        }
+        {
+            const Trigger outer(QStringLiteral("a"), QStringLiteral("outer"));
+            first.SetValue(2);
+            const Trigger inner(QStringLiteral("b"), QStringLiteral("inner"));
+            second.SetValue(2);
+            m_undo.stack()->undo(); // by a view; "first" starts from the state before its first step
+            QCOMPARE(first.GetValue(), 0);
+            first.SetValue(3);
+        }
+        QCOMPARE(m_undo.stack()->count(), 1);
+        QCOMPARE(m_undo.undoText(), QStringLiteral("outer"));
+        QVERIFY(m_undo.undo());
+        QCOMPARE(first.GetValue(), 0);
+        QCOMPARE(second.GetValue(), 1);
     }
     void valuesThatLeaveOrMove()
     {

@@ -8,7 +8,6 @@ guibase_room(services
         applicationsetup.cpp applicationsetup_p.h
         displaysettings.cpp displaysettings_p.h
         helpmenu.cpp helpmenu_p.h
-        selectionfollower.cpp selectionfollower.h
         settingsrecord.cpp settingsrecord_p.h
         splashforwarder.cpp splashforwarder_p.h
         styleloader.cpp styleloader_p.h

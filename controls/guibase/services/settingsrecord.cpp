@@ -3,7 +3,8 @@
 
 #include "applicationcolors_p.h"
 #include "displaysettings_p.h"
-#include "selectionfollower.h"
+
+#include <valueframework/selectionfollower.h>
 
 #include <QScopedValueRollback>
 

@@ -3,7 +3,8 @@
 
 #include <guibase/formats/frequencydisplayformat.h>
 #include <guibase/services/guibase.h>
-#include <guibase/services/selectionfollower.h>
+
+#include <valueframework/selectionfollower.h>
 
 #include <QPointer>
 

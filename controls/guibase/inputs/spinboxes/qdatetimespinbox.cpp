@@ -4,9 +4,9 @@
 #include <guibase/formats/datetimesections.h>
 #include <guibase/formats/qdatetimedisplayformat.h>
 #include <guibase/services/guibase.h>
-#include <guibase/services/selectionfollower.h>
 
 #include <jtbase/datetime.h>
+#include <valueframework/selectionfollower.h>
 
 #include <QLineEdit>
 #include <QPointer>

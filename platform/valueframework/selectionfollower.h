@@ -6,10 +6,11 @@
 #include <functional>
 
 /// Calls an operation whenever another item of a selection becomes current, until the selection or
-/// the follower dies.
-class SelectionFollower : public IObserver
+/// the follower dies. The operation may destroy both.
+class VALUEFRAMEWORK_EXPORT SelectionFollower : public IObserver
 {
 public:
+    /// The selection is not owned; null is never followed.
     SelectionFollower(ValueSelection* selection, std::function<void()> operation);
     ~SelectionFollower() override;
     SelectionFollower(const SelectionFollower&) = delete;
