@@ -21,7 +21,7 @@ public:
                 return;
             m_timer.stop();
             m_look(*dialog);
-            if (dialog != nullptr)
+            if (dialog != nullptr && dialog->isVisible())
                 dialog->reject();
         });
         m_timer.start(1);

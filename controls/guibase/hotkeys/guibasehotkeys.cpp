@@ -2,6 +2,7 @@
 // The members of GuiBase that deal with hot keys.
 #include "hotkeyoverview.h"
 #include "hotkeyregistry.h"
+#include "keynames.h"
 
 #include <guibase/services/guibase.h>
 #include <guibase/services/guibase_p.h>
@@ -18,8 +19,7 @@ int GuiBase::AddHotKey(Qt::Key key, int modifiers, QObject* receiver, const QStr
     if (receiver != nullptr && !d->hotKeys.hasReceiver(receiver))
         HotKeyRegistry::connectReceiver(*this, *receiver);
     HotKey hotKey;
-    hotKey.key = key;
-    hotKey.modifiers = modifiers;
+    hotKey.registered = {key, modifiers};
     hotKey.receiver = receiver;
     hotKey.comment = comment;
     hotKey.scope = scope;
@@ -28,15 +28,70 @@ int GuiBase::AddHotKey(Qt::Key key, int modifiers, QObject* receiver, const QStr
     return d->hotKeys.add(hotKey);
 }
 
+int GuiBase::GetIndex4HotKey(Qt::Key key, int modifiers)
+{
+    return d->hotKeys.indexOf({key, modifiers});
+}
+
+QString GuiBase::GetHotKeyComment(int id)
+{
+    const HotKey* hotKey = d->hotKeys.find(id);
+    return hotKey != nullptr ? hotKey->comment : QString();
+}
+
+QString GuiBase::GetHotKeyScope(int id)
+{
+    const HotKey* hotKey = d->hotKeys.find(id);
+    return hotKey != nullptr ? hotKey->scope : QString();
+}
+
+int GuiBase::RemoveHotKey(Qt::Key key, int modifiers)
+{
+    return d->hotKeys.unlist({key, modifiers});
+}
+
+void GuiBase::RemoveHotKey(int id, bool remove)
+{
+    d->hotKeys.setRemoved(id, remove);
+}
+
+void GuiBase::EnableHotKey(int id, bool enable)
+{
+    d->hotKeys.setEnabled(id, enable);
+}
+
+void GuiBase::RemoveHotKeyReceiver(QObject* receiver)
+{
+    if (receiver == nullptr || !d->hotKeys.hasReceiver(receiver))
+        return;
+    d->hotKeys.removeReceiver(receiver);
+    disconnect(this, SIGNAL(signalHotKey(int)), receiver, SLOT(slotHotKey(int)));
+}
+
+void GuiBase::ChangeHotKey(int id, Qt::Key key, int modifiers)
+{
+    d->hotKeys.assign(id, {key, modifiers});
+}
+
+QString GuiBase::GetKeyAsString(Qt::Key key)
+{
+    return KeyNames::displayName(key);
+}
+
 void GuiBase::ShowHotKeyFrom(QAction* action, const QString& scope)
 {
     if (action != nullptr)
         d->hotKeys.addAction(*action, scope);
 }
 
+QWidget* GuiBase::GetHotkeysCtrl(QWidget* parent)
+{
+    return HotKeyOverview::createList(d->hotKeys, parent);
+}
+
 void GuiBase::ExecHotKeysDialog(QWidget* parent)
 {
-    HotKeyOverview::exec(d->hotKeys.shownHotKeys(), parent);
+    HotKeyOverview::exec(d->hotKeys, parent);
 }
 
 bool GuiBase::eventFilter(QObject* object, QEvent* event)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hotkeyoverview.h"
 
+#include "hotkeylist_p.h"
 #include "hotkeyregistry.h"
 
 #include <guibase/dialogs/modaldialogs.h>
@@ -8,85 +9,115 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QMetaEnum>
+#include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 #include <QTabWidget>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int minimumDialogWidth = 600;
 constexpr int frameWidth = 40; ///< In pixels, with the title bar.
-constexpr int firstModifierColumn = 1;
-constexpr int lastModifierColumn = 3;
 
-QStringList rowOf(const HotKey& hotKey)
+/// The dialog around the list.
+class Overview : public QDialog
 {
-    const auto mark = [&hotKey](Qt::KeyboardModifier modifier) {
-        const bool held = (hotKey.modifiers & static_cast<int>(modifier)) != 0;
-        return held ? QStringLiteral("X") : QStringLiteral(" ");
-    };
-    return {HotKeyOverview::keyName(hotKey.key),
-            mark(Qt::ShiftModifier),
-            mark(Qt::AltModifier),
-            mark(Qt::ControlModifier),
-            hotKey.scope,
-            hotKey.comment};
+public:
+    Overview(HotKeyRegistry& registry, QWidget* parent);
+
+    void reject() override;
+
+private:
+    void addButtons();
+    void followList();
+
+    HotKeyRegistry& m_registry;
+    const QList<HotKey> m_before; ///< For Cancel.
+    HotKeyList* m_list;
+    QLabel* m_note;
+    QPushButton* m_change = nullptr;
+    QPushButton* m_reset = nullptr;
+};
+
+Overview::Overview(HotKeyRegistry& registry, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint)
+    , m_registry(registry)
+    , m_before(registry.shownHotKeys())
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(GuiBase::tr("Keyboard - Hotkeys Overview"));
+    setMinimumWidth(minimumDialogWidth);
+    auto* layout = new QVBoxLayout(this);
+    auto* tabs = new QTabWidget(this);
+    m_list = new HotKeyList(registry, tabs);
+    tabs->addTab(m_list, GuiBase::tr("&Hotkeys"));
+    layout->addWidget(tabs);
+    m_note = new QLabel(this);
+    m_note->setWordWrap(true);
+    layout->addWidget(m_note);
+    addButtons();
+    connect(m_list, &HotKeyList::hotKeyChanged, this, [this] { followList(); });
+    connect(m_list, &QTreeWidget::currentItemChanged, this, [this] { followList(); });
+    followList();
+    m_list->setFocus();
+    // As large as the keys need; the toolkit itself would stop at two thirds of the screen.
+    const QSize frame(frameWidth, frameWidth);
+    resize(sizeHint().boundedTo(screen()->availableGeometry().size() - 2 * frame));
+}
+
+void Overview::addButtons()
+{
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    m_change = buttons->addButton(GuiBase::tr("C&hange..."), QDialogButtonBox::ActionRole);
+    m_reset = buttons->addButton(GuiBase::tr("&Default"), QDialogButtonBox::ActionRole);
+    // Return belongs to the list.
+    for (QAbstractButton* button : buttons->buttons())
+        static_cast<QPushButton*>(button)->setAutoDefault(false);
+    connect(m_change, &QPushButton::clicked, m_list, &HotKeyList::editCurrent);
+    connect(m_reset, &QPushButton::clicked, m_list, &HotKeyList::resetCurrent);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout()->addWidget(buttons);
+}
+
+void Overview::followList()
+{
+    const HotKey* current = m_registry.find(m_list->currentId());
+    m_change->setEnabled(current != nullptr);
+    m_reset->setEnabled(current != nullptr && current->stroke != current->registered);
+    const int conflicts = m_list->conflictCount();
+    m_note->setText(conflicts == 0
+                        ? GuiBase::tr("Press Return on a row to give it another key.")
+                        : GuiBase::tr("%n hot key(s) share a key with another one. Both act when "
+                                      "it is pressed; give one of them another key.",
+                                      nullptr, conflicts));
+}
+
+void Overview::reject()
+{
+    for (const HotKey& before : m_before) {
+        const HotKey* now = m_registry.find(before.id);
+        if (now != nullptr && now->stroke != before.stroke)
+            m_registry.assign(before.id, before.stroke);
+    }
+    QDialog::reject();
 }
 
 } // namespace
 
-QString HotKeyOverview::keyName(Qt::Key key)
+QWidget* HotKeyOverview::createList(HotKeyRegistry& registry, QWidget* parent)
 {
-    const char* name = QMetaEnum::fromType<Qt::Key>().valueToKey(key);
-    if (name == nullptr)
-        return GuiBase::tr("unknown");
-    return QString::fromLatin1(name).mid(static_cast<int>(qstrlen("Key_")));
+    return new HotKeyList(registry, parent);
 }
 
-QWidget* HotKeyOverview::createList(const QList<HotKey>& hotKeys, QWidget* parent)
+void HotKeyOverview::exec(HotKeyRegistry& registry, QWidget* parent)
 {
-    auto* list = new QTreeWidget(parent);
-    list->setObjectName(QStringLiteral("HotKeysCtrl"));
-    list->setRootIsDecorated(false);
-    list->setHeaderLabels({GuiBase::tr("Key"), GuiBase::tr("Shift"), GuiBase::tr("Alt"),
-                           GuiBase::tr("Ctrl"), GuiBase::tr("Scope"), GuiBase::tr("Comment")});
-    for (const HotKey& hotKey : hotKeys) {
-        auto* row = new QTreeWidgetItem(list, rowOf(hotKey));
-        for (int column = firstModifierColumn; column <= lastModifierColumn; ++column)
-            row->setTextAlignment(column, Qt::AlignCenter);
-    }
-    for (int column = 0; column < list->columnCount(); ++column)
-        list->resizeColumnToContents(column);
-    list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    list->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    return list;
-}
-
-void HotKeyOverview::exec(const QList<HotKey>& hotKeys, QWidget* parent)
-{
-    if (hotKeys.isEmpty()) {
+    if (registry.isEmpty()) {
         ModalDialogs::show(parent, {QMessageBox::Information, GuiBase::tr("HotKeys"),
                                     GuiBase::tr("No Hotkeys applied")});
         return;
     }
     // On the heap, and deleted by itself: the parent may die while the dialog is open.
-    auto* dialog = new QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(GuiBase::tr("Keyboard - Hotkeys Overview"));
-    dialog->setMinimumWidth(minimumDialogWidth);
-    auto* layout = new QVBoxLayout(dialog);
-    auto* tabs = new QTabWidget(dialog);
-    tabs->addTab(createList(hotKeys, tabs), GuiBase::tr("&Hotkeys"));
-    layout->addWidget(tabs);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
-    layout->addWidget(buttons);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
-    // As large as the keys need; the toolkit itself would stop at two thirds of the screen.
-    const QSize frame(frameWidth, frameWidth);
-    dialog->resize(
-        dialog->sizeHint().boundedTo(dialog->screen()->availableGeometry().size() - 2 * frame));
-    dialog->exec();
+    (new Overview(registry, parent))->exec();
 }

@@ -1,24 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "hotkeyregistry.h"
 
+#include "hotkeyassignments.h"
+
 #include <guibase/services/guibase.h>
 #include <guibase/services/tracing.h>
 
-#include <QAction>
 #include <QKeyEvent>
 #include <QRegularExpression>
 #include <QWidget>
-#include <QWindow>
 
 #include <algorithm>
+#include <iterator>
+#include <set>
+#include <tuple>
 #include <utility>
 
 namespace {
 
-bool matchesModifiers(const HotKey& hotKey, Qt::KeyboardModifiers pressed)
+bool matchesModifiers(int wantedModifiers, Qt::KeyboardModifiers pressed)
 {
     // Where on the keyboard a key sits counts only for a hot key that asks for it.
-    const auto wanted = Qt::KeyboardModifiers::fromInt(static_cast<unsigned>(hotKey.modifiers));
+    const auto wanted = Qt::KeyboardModifiers::fromInt(static_cast<unsigned>(wantedModifiers));
     const Qt::KeyboardModifiers positional = Qt::KeypadModifier | Qt::GroupSwitchModifier;
     return (pressed & ~(positional & ~wanted)) == wanted;
 }
@@ -30,10 +33,13 @@ bool matchesAction(const HotKey& hotKey, const QKeyEvent& event)
     return event.type() == QEvent::KeyRelease && !event.isAutoRepeat();
 }
 
-bool showsTheSame(const HotKey& left, const HotKey& right)
+bool scopesOverlap(const QString& left, const QString& right)
 {
-    return left.key == right.key && left.modifiers == right.modifiers &&
-           left.comment == right.comment && left.scope == right.scope;
+    const QString everywhere = GuiBase::tr("Application Wide");
+    const auto isEverywhere = [&everywhere](const QString& scope) {
+        return scope.isEmpty() || scope == everywhere;
+    };
+    return left == right || isEverywhere(left) || isEverywhere(right);
 }
 
 bool isWidgetAround(const QObject* outer, const QObject* inner)
@@ -44,28 +50,71 @@ bool isWidgetAround(const QObject* outer, const QObject* inner)
            outerWidget->isAncestorOf(innerWidget);
 }
 
+QString textOf(const QAction& action)
+{
+    static const QRegularExpression mnemonicMark(QStringLiteral("&(.)"));
+    return action.text().replace(mnemonicMark, QStringLiteral("\\1"));
+}
+
+HotKeyStroke shortcutOf(const QAction& action)
+{
+    return action.shortcut().isEmpty() ? HotKeyStroke() : HotKeyStroke::of(action.shortcut()[0]);
+}
+
+/// Made for an action that was deleted since.
+bool isGone(const HotKey& hotKey)
+{
+    return hotKey.isShortcut && !hotKey.action;
+}
+
+/// An action may have got another shortcut since.
+HotKeyStroke strokeOf(const HotKey& hotKey)
+{
+    return hotKey.action ? shortcutOf(*hotKey.action) : hotKey.stroke;
+}
+
+void setShortcut(QAction& action, const HotKeyStroke& stroke)
+{
+    action.setShortcut(stroke.isNone() ? QKeySequence() : QKeySequence(stroke.combination()));
+}
+
 } // namespace
+
+HotKeyStroke HotKeyStroke::of(QKeyCombination combination)
+{
+    return {combination.key(), static_cast<int>(combination.keyboardModifiers().toInt())};
+}
+
+QKeyCombination HotKeyStroke::combination() const
+{
+    return QKeyCombination(Qt::KeyboardModifiers::fromInt(static_cast<unsigned>(modifiers)), key);
+}
 
 int HotKeyRegistry::add(HotKey hotKey)
 {
     hotKey.id = static_cast<int>(m_hotKeys.size()) + 1;
+    hotKey.stroke = HotKeyAssignments::read(hotKey).value_or(hotKey.registered);
     m_hotKeys.append(std::move(hotKey));
     return m_hotKeys.constLast().id;
 }
 
-void HotKeyRegistry::addAction(const QAction& action, const QString& scope)
+void HotKeyRegistry::addAction(QAction& action, const QString& scope)
 {
-    if (action.shortcut().isEmpty())
+    const bool isKnown =
+        std::any_of(m_hotKeys.cbegin(), m_hotKeys.cend(), [&action, &scope](const HotKey& hotKey) {
+            return hotKey.action == &action && hotKey.scope == scope;
+        });
+    if (action.shortcut().isEmpty() || isKnown)
         return;
-    static const QRegularExpression mnemonicMark(QStringLiteral("&(.)"));
-    const QKeyCombination combination = action.shortcut()[0];
     HotKey hotKey;
-    hotKey.key = combination.key();
-    hotKey.modifiers = static_cast<int>(combination.keyboardModifiers().toInt());
-    hotKey.comment = action.text().replace(mnemonicMark, QStringLiteral("\\1"));
+    hotKey.registered = shortcutOf(action);
+    hotKey.comment = textOf(action);
     hotKey.scope = scope;
-    hotKey.shownOnly = true;
-    add(hotKey);
+    hotKey.action = &action;
+    hotKey.isShortcut = true;
+    const HotKey& added = *find(add(std::move(hotKey)));
+    if (added.stroke != added.registered)
+        setShortcut(action, added.stroke);
 }
 
 bool HotKeyRegistry::hasReceiver(const QObject* receiver) const
@@ -88,27 +137,116 @@ void HotKeyRegistry::connectReceiver(const GuiBase& services, const QObject& rec
                             .arg(QString::fromLatin1(receiver.metaObject()->className())));
 }
 
+HotKey* HotKeyRegistry::entry(int id)
+{
+    return id >= 1 && id <= m_hotKeys.size() ? &m_hotKeys[id - 1] : nullptr;
+}
+
+const HotKey* HotKeyRegistry::find(int id) const
+{
+    return id >= 1 && id <= m_hotKeys.size() ? &m_hotKeys.at(id - 1) : nullptr;
+}
+
+HotKey HotKeyRegistry::current(const HotKey& hotKey)
+{
+    HotKey now = hotKey;
+    now.stroke = strokeOf(hotKey);
+    if (hotKey.action)
+        now.comment = textOf(*hotKey.action);
+    return now;
+}
+
+int HotKeyRegistry::indexOf(const HotKeyStroke& stroke) const
+{
+    const auto found =
+        std::find_if(m_hotKeys.cbegin(), m_hotKeys.cend(), [&stroke](const HotKey& hotKey) {
+            return hotKey.enabled && !isGone(hotKey) && strokeOf(hotKey) == stroke;
+        });
+    return found != m_hotKeys.cend() ? found->id : -1;
+}
+
+int HotKeyRegistry::unlist(const HotKeyStroke& stroke)
+{
+    int count = 0;
+    for (HotKey& hotKey : m_hotKeys) {
+        if (!isGone(hotKey) && strokeOf(hotKey) == stroke) {
+            hotKey.listed = false;
+            ++count;
+        }
+    }
+    return count;
+}
+
+void HotKeyRegistry::setRemoved(int id, bool removed)
+{
+    if (HotKey* hotKey = entry(id))
+        hotKey->enabled = hotKey->listed = !removed;
+}
+
+void HotKeyRegistry::setEnabled(int id, bool enabled)
+{
+    if (HotKey* hotKey = entry(id))
+        hotKey->enabled = enabled;
+}
+
+void HotKeyRegistry::removeReceiver(const QObject* receiver)
+{
+    for (HotKey& hotKey : m_hotKeys) {
+        if (hotKey.receiver == receiver)
+            hotKey.receiver.clear();
+    }
+}
+
+void HotKeyRegistry::assign(int id, const HotKeyStroke& stroke)
+{
+    HotKey* hotKey = entry(id);
+    if (hotKey == nullptr)
+        return;
+    hotKey->stroke = stroke;
+    if (hotKey->action)
+        setShortcut(*hotKey->action, stroke);
+    HotKeyAssignments::write(*hotKey);
+}
+
 QList<HotKey> HotKeyRegistry::shownHotKeys() const
 {
+    std::set<std::tuple<int, int, QString, QString, bool>> known;
     QList<HotKey> shown;
-    for (const HotKey& hotKey : m_hotKeys) {
-        if (!hotKey.enabled || !hotKey.listed)
+    for (const HotKey& each : m_hotKeys) {
+        if (isGone(each))
             continue;
-        const bool known = std::any_of(shown.cbegin(), shown.cend(), [&](const HotKey& earlier) {
-            return showsTheSame(earlier, hotKey);
-        });
-        if (!known)
+        const HotKey hotKey = current(each);
+        const bool isNew = known
+                               .emplace(hotKey.stroke.key, hotKey.stroke.modifiers, hotKey.comment,
+                                        hotKey.scope, hotKey.enabled)
+                               .second;
+        if (isNew && hotKey.enabled && hotKey.listed)
             shown.append(hotKey);
     }
     return shown;
+}
+
+QList<HotKey> HotKeyRegistry::conflicts(const HotKey& hotKey, const QList<HotKey>& shown)
+{
+    QList<HotKey> found;
+    if (hotKey.stroke.isNone())
+        return found;
+    std::copy_if(shown.cbegin(), shown.cend(), std::back_inserter(found),
+                 [&hotKey](const HotKey& other) {
+                     return other.id != hotKey.id && other.stroke == hotKey.stroke &&
+                            scopesOverlap(other.scope, hotKey.scope);
+                 });
+    return found;
 }
 
 QList<int> HotKeyRegistry::matches(const QKeyEvent& event) const
 {
     QList<int> ids;
     for (const HotKey& hotKey : m_hotKeys) {
-        if (hotKey.enabled && !hotKey.shownOnly && hotKey.key == event.key() &&
-            matchesModifiers(hotKey, event.modifiers()) && matchesAction(hotKey, event)) {
+        if (hotKey.stroke.key == event.key() && hotKey.enabled && !hotKey.isShortcut &&
+            !hotKey.stroke.isNone() &&
+            matchesModifiers(hotKey.stroke.modifiers, event.modifiers()) &&
+            matchesAction(hotKey, event)) {
             ids.append(hotKey.id);
         }
     }

@@ -33,7 +33,7 @@ class ValueSelection;
 /// One object per process, made by the first Instance() and destroyed at process exit, so that it
 /// usually outlives the application object; it owns nothing that needs one. Objects with static
 /// storage that use it in their destructors must call Instance() in their constructors. GUI thread
-/// only. The class is a façade: each duty is done by a class of its own in this folder.
+/// only. The class is a façade: each duty is done by a class of its own.
 class GUIBASE_EXPORT GuiBase : public QObject,
                                public PersistantOwner,
                                public SaveComponentIf,
@@ -102,10 +102,9 @@ public:
 
     /// Makes the Help menu: manual (F1), keyboard (Ctrl+F1) and info (Ctrl+Q). Slots are given as
     /// SLOT() makes them. The manual entry opens `helpFile` (see slotHelpContents()), or calls the
-    /// receiver's `manualSlot` when that is given; there is none with a manual slot, but without a
-    /// receiver that has it. The info entry calls `infoSlot`; there is none without a receiver that
-    /// has it. A slot that the receiver lacks is reported by a trace. Warnings get `messageParent`,
-    /// or `parent` when that is null. The menu belongs to `parent`.
+    /// receiver's `manualSlot` when one is given. The info entry calls the receiver's `infoSlot`. An
+    /// entry whose slot the receiver lacks is left out and reported by a trace. Warnings get
+    /// `messageParent`, or `parent` when that is null. The menu belongs to `parent`.
     QMenu* CreateHelpMenu(QWidget* parent, const QString& helpFile, QObject* infoReceiver,
                           const char* infoSlot, QWidget* messageParent, const char* manualSlot);
     QMenu* GetHelpMenu() const;
@@ -154,14 +153,38 @@ public:
     // --- Hot keys ------------------------------------------------------------------------------
 
     /// Registers a hot key; the receiver's slot slotHotKey(int) is called, queued, with the id that
-    /// is returned. It is called for the keys of other receivers too: compare the ids.
+    /// is returned (from 1). It is called for the keys of other receivers too: compare the ids.
     /// `modifiers` are Qt::KeyboardModifiers. `onPress` chooses the press of the key, else its
     /// release counts. `listed` shows it in the overview, with the comment, under the scope. The
-    /// receiver is not owned; one without the slot is reported by a trace.
+    /// receiver is not owned; one without the slot is reported by a trace. A key that the operator
+    /// has chosen for the hot key replaces the given one.
     int AddHotKey(Qt::Key key, int modifiers, QObject* receiver, const QString& comment,
                   const QString& scope, bool onPress, bool listed);
-    /// Enters the action's shortcut and text in the hot-key overview, under the scope.
+    /// The first enabled hot key with exactly this key and these modifiers; -1 without one.
+    int GetIndex4HotKey(Qt::Key key, int modifiers);
+    /// Empty for an id that was never given.
+    QString GetHotKeyComment(int id);
+    QString GetHotKeyScope(int id);
+    /// Takes all hot keys with this key out of the overview, but they still fire. Returns their
+    /// number.
+    int RemoveHotKey(Qt::Key key, int modifiers);
+    /// The hot key fires no more and is not shown; `remove` = false brings it back. Ids stay.
+    void RemoveHotKey(int id, bool remove);
+    /// A disabled hot key neither fires nor is shown.
+    void EnableHotKey(int id, bool enable);
+    /// The hot keys of the receiver stay, but call nobody any more.
+    void RemoveHotKeyReceiver(QObject* receiver);
+    /// Gives a hot key or listed shortcut another key, for this run and later ones, as the operator
+    /// does in the overview. Qt::Key(0): it has no key any more.
+    void ChangeHotKey(int id, Qt::Key key, int modifiers);
+    /// The display name, such as "F1"; "unknown" for a key that is not in the table of names.
+    static QString GetKeyAsString(Qt::Key key);
+    /// Enters the action's shortcut and text in the hot-key overview, under the scope. The operator
+    /// can change the shortcut there; a changed one is set when the action is entered.
     void ShowHotKeyFrom(QAction* action, const QString& scope);
+    /// The overview as a list, which belongs to `parent`.
+    QWidget* GetHotkeysCtrl(QWidget* parent);
+    /// The overview as a modal dialog; tells when there are no hot keys.
     void ExecHotKeysDialog(QWidget* parent);
     bool handleHotKeyEvent(QObject* object, QEvent* event);
 
@@ -192,11 +215,17 @@ public:
     void aboutToTerminate() override;
 
 Q_SIGNALS:
+    /// The colours of the application have changed: repaint.
     void signalColorsChanged();
+    /// The key of the hot key with this id was pressed or released.
     void signalHotKey(int id);
+    /// Escape was pressed, without modifiers.
     void hotkey_ESC_pressed();
+    /// All registered windows have been brought back to their places at program start.
     void signalResetToProgramStart();
+    /// All registered windows have been brought back to their first places.
     void signalResetToFactoryDefault();
+    /// The editor `widget`, which has the focus, must commit what was typed.
     void endEdit(QWidget* widget);
 
 public Q_SLOTS:

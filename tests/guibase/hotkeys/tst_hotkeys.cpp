@@ -144,6 +144,52 @@ private Q_SLOTS:
         QTest::keyRelease(&widget, Qt::Key_Escape);
         QCOMPARE(escapes.count(), 1);
     }
+    /// Removing by key only hides; by id it disables too; ids stay.
+    void lookupAndRemoval()
+    {
+        const int ctrl = Qt::ControlModifier;
+        HotKeyReceiver receiver;
+        const int first = add(Qt::Key_L, ctrl, &receiver, true, QStringLiteral("one"));
+        const int second = add(Qt::Key_L, ctrl, nullptr, true, QStringLiteral("two"));
+        QCOMPARE(m_services->GetIndex4HotKey(Qt::Key_L, ctrl), first);
+        QCOMPARE(m_services->RemoveHotKey(Qt::Key_L, ctrl), 2);
+        QCOMPARE(m_services->GetIndex4HotKey(Qt::Key_L, ctrl), first);
+        QVERIFY(overviewRows(QStringLiteral("L")).isEmpty());
+        m_services->RemoveHotKey(first, false);
+        QCOMPARE(overviewRows(QStringLiteral("L")), QStringList(QStringLiteral("one")));
+        m_services->EnableHotKey(first, false);
+        QCOMPARE(m_services->GetIndex4HotKey(Qt::Key_L, ctrl), second);
+        QVERIFY(overviewRows(QStringLiteral("L")).isEmpty());
+        QCOMPARE(m_services->GetHotKeyComment(first), QStringLiteral("one"));
+        QCOMPARE(m_services->GetHotKeyScope(first), QStringLiteral("Test"));
+        m_services->RemoveHotKey(second, true);
+        QCOMPARE(m_services->GetIndex4HotKey(Qt::Key_L, ctrl), -1);
+        for (const int nobody : {-1, 0, 1 << 30}) {
+            m_services->RemoveHotKey(nobody, true);
+            m_services->EnableHotKey(nobody, true);
+            QVERIFY(m_services->GetHotKeyComment(nobody).isNull());
+        }
+
+        // A receiver that was removed is called no more, and once again after it comes back.
+        m_services->EnableHotKey(first, true);
+        m_services->RemoveHotKeyReceiver(&receiver);
+        QWidget widget;
+        QTest::keyClick(&widget, Qt::Key_L, Qt::ControlModifier);
+        const int third = add(Qt::Key_M, ctrl, &receiver);
+        QTest::keyClick(&widget, Qt::Key_M, Qt::ControlModifier);
+        QTRY_COMPARE(receiver.ids, QList<int>{third});
+    }
+    /// A key without a code is no hot key, although events with it exist.
+    void unknownKeys()
+    {
+        QSignalSpy fired(m_services, &GuiBase::signalHotKey);
+        for (const Qt::Key key : {Qt::Key(0), Qt::Key_unknown}) {
+            add(key, 0);
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+            m_services->handleHotKeyEvent(qApp, &press);
+        }
+        QVERIFY(fired.isEmpty());
+    }
     void overview()
     {
         const QString comment(150, QLatin1Char('c'));
@@ -180,6 +226,16 @@ private Q_SLOTS:
     }
 
 private:
+    /// The comments of the rows for this key.
+    QStringList overviewRows(const QString& key)
+    {
+        const std::unique_ptr<QWidget> widget(m_services->GetHotkeysCtrl(nullptr));
+        QStringList comments;
+        for (const QTreeWidgetItem* row :
+             qobject_cast<QTreeWidget*>(widget.get())->findItems(key, Qt::MatchExactly))
+            comments << row->text(5);
+        return comments;
+    }
     int add(Qt::Key key, int modifiers, QObject* receiver = nullptr, bool onPress = true,
             const QString& comment = {}, bool listed = true)
     {
