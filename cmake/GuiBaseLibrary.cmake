@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Every library of the project is made by guibase_add_library(), so that all of them have an alias,
-# a generated export header, hidden visibility, a version and an installation rule.
+# a generated export header, hidden visibility, a version and an installation rule. Installed ones
+# find each other beside themselves: the run path of an application does not count for them.
 
 include(GenerateExportHeader)
 include(CMakePackageConfigHelpers)
@@ -43,6 +44,7 @@ function(guibase_add_library name)
     set_target_properties(${name} PROPERTIES
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
+        INSTALL_RPATH "$<IF:$<PLATFORM_ID:Darwin>,@loader_path,$ORIGIN>"
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR})
     install(TARGETS ${name} EXPORT GuiBaseTargets
