@@ -5,10 +5,10 @@
 #include "cfgstore_p.h"
 #include "savecomponentif.h"
 
+#include <jtbase/delayedcall.h>
+
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QStandardPaths>
-#include <QTimer>
 
 #include <algorithm>
 #include <map>
@@ -67,7 +67,6 @@ public:
 
     QString fileIn(const QString& folder) const;
     void scheduleStore();
-    void stopTimer();
     bool store(int lockMilliseconds);
     void callComponents(void (SaveComponentIf::*operation)());
     /// Stores what is there and forgets it: its name or folder is about to change.
@@ -76,20 +75,17 @@ public:
     QString name;
     QString configDir;
     QString adminConfigDir;
-    int autoStoreDelay = 2000;
+    DelayedCall autoStore{[this] { storeByTimer(); }};
     CallbackRegistry<SaveComponentIf> components;
     CfgViews application;
     CfgViews admin;
 
 private:
     Center();
-    void startTimer(int milliseconds);
     void storeByTimer();
     static void releaseApplication();
 
-    /// Lives only as long as the application object.
-    std::unique_ptr<QTimer> m_timer;
-    QElapsedTimer m_firstChange;
+    bool m_awaitsRelease = false;
 };
 
 Center::Center()
@@ -116,50 +112,30 @@ QString Center::fileIn(const QString& folder) const
     return folder + u'/' + CfgCenter::GetAppName() + QStringLiteral(".json");
 }
 
-// Waits until nothing has changed for the delay, but not longer than some delays in all: a value
-// that changes all the time must reach the disk too.
 void Center::scheduleStore()
 {
-    constexpr qint64 maximumDelays = 5;
-    if (autoStoreDelay < 0 || QCoreApplication::instance() == nullptr)
+    if (QCoreApplication::instance() == nullptr)
         return;
-    if (!m_timer || !m_timer->isActive())
-        m_firstChange.start();
-    const qint64 left = maximumDelays * autoStoreDelay - m_firstChange.elapsed();
-    startTimer(static_cast<int>(std::clamp<qint64>(left, 0, autoStoreDelay)));
-}
-
-void Center::startTimer(int milliseconds)
-{
-    if (!m_timer) {
-        m_timer = std::make_unique<QTimer>();
-        m_timer->setSingleShot(true);
-        QObject::connect(m_timer.get(), &QTimer::timeout, m_timer.get(),
-                         [this] { storeByTimer(); });
+    autoStore.request();
+    if (!m_awaitsRelease)
         qAddPostRoutine(&Center::releaseApplication);
-    }
-    m_timer->start(milliseconds);
-}
-
-void Center::stopTimer()
-{
-    if (m_timer)
-        m_timer->stop();
+    m_awaitsRelease = true;
 }
 
 void Center::storeByTimer()
 {
     constexpr int shortLockMilliseconds = 100;
     constexpr int retryDelays = 10;
-    if (!store(shortLockMilliseconds) && m_timer && !m_timer->isActive())
-        m_timer->start(retryDelays * std::max(autoStoreDelay, 100));
+    if (!store(shortLockMilliseconds) && !autoStore.isPending())
+        autoStore.requestIn(retryDelays * std::max(autoStore.delay(), 100));
 }
 
 void Center::releaseApplication()
 {
     Center& center = instance();
-    const bool isPending = center.m_timer && center.m_timer->isActive();
-    center.m_timer.reset();
+    const bool isPending = center.autoStore.isPending();
+    center.autoStore.cancel();
+    center.m_awaitsRelease = false;
     if (isPending)
         center.store(CfgPlace::lockMilliseconds);
 }
@@ -169,7 +145,7 @@ bool Center::store(int lockMilliseconds)
     const bool applicationStored = application.store().store(lockMilliseconds);
     const bool adminStored = admin.store().store(lockMilliseconds);
     if (applicationStored && adminStored)
-        stopTimer();
+        autoStore.cancel();
     return applicationStored && adminStored;
 }
 
@@ -255,11 +231,16 @@ bool CfgCenter::Store()
 void CfgCenter::SetAutoStoreDelay(int milliseconds)
 {
     Center& center = Center::instance();
-    center.autoStoreDelay = milliseconds;
-    if (milliseconds < 0)
-        center.stopTimer();
-    else if (center.application.store().isChanged() || center.admin.store().isChanged())
+    center.autoStore.setDelay(milliseconds);
+    if (center.application.store().isChanged() || center.admin.store().isChanged())
         center.scheduleStore();
+}
+
+void CfgCenter::StoreSoon()
+{
+    DelayedCall& autoStore = Center::instance().autoStore;
+    if (autoStore.isPending())
+        autoStore.requestIn(0);
 }
 
 void CfgCenter::RegisterSaveComponent(SaveComponentIf* component)

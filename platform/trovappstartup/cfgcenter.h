@@ -55,6 +55,9 @@ public:
     static bool Store();
     /// Delay in milliseconds of the store after a change; negative switches it off. Default 2000.
     static void SetAutoStoreDelay(int milliseconds);
+    /// Stores what waits for that delay as soon as the event loop runs: for changes that have waited
+    /// elsewhere already.
+    static void StoreSoon();
 
     /// Components are not owned; registering twice counts once; unregistering an unknown one does
     /// nothing. Components may register and unregister while being called.
