@@ -3,12 +3,11 @@
 
 #include "widgetplacement.h"
 
-#include <guibase/records/damagedrecords.h>
 #include <guibase/records/dockstatecheck.h>
 #include <guibase/records/hexadecimal.h>
+#include <guibase/records/recordstore.h>
 
 #include <jtbase/qtimerhelpers.h>
-#include <trovappstartup/cfgcenter.h>
 
 #include <QChildEvent>
 #include <QDockWidget>
@@ -181,8 +180,8 @@ void PersistentWidget::keepAside(const QString& reason)
 {
     const QString& name = m_record.GetName();
     const std::unique_ptr<ICfg> place =
-        CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(DamagedRecords::asideName(name));
-    DamagedRecords::keepAside(
+        CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(RecordStore::asideName(name));
+    RecordStore::keepAside(
         *place,
         {{QStringLiteral("State"), m_stateText}, {QStringLiteral("Geometry"), m_geometryText}},
         name, reason);

@@ -21,7 +21,7 @@ void PersistentWidgetRegistry::registerWidget(QWidget* widget, const QString& re
     std::erase_if(m_widgets, [](const auto& entry) { return entry->widget() == nullptr; });
     // Entered before it is read: reading shows the widget, whose handlers may come back here.
     const auto entry = std::make_shared<PersistentWidget>(widget, recordName);
-    connect(entry.get(), &PersistentWidget::changed, this, [this] { m_delayedWrite.noteChange(); });
+    connect(entry.get(), &PersistentWidget::changed, this, [this] { m_store.noteChange(); });
     connect(entry.get(), &PersistentWidget::resized, this, [weak = std::weak_ptr(entry)] {
         if (const auto resized = weak.lock())
             resized->applyAwaited();
@@ -44,7 +44,7 @@ void PersistentWidgetRegistry::unregisterWidget(const QObject* widget)
 
 void PersistentWidgetRegistry::clear()
 {
-    m_delayedWrite.cancel();
+    m_store.dropChanges();
     m_widgets.clear();
 }
 
@@ -97,13 +97,13 @@ bool PersistentWidgetRegistry::isRestoring() const
 
 void PersistentWidgetRegistry::setWriteDelay(int milliseconds)
 {
-    m_delayedWrite.setDelay(milliseconds);
+    m_store.setWriteDelay(milliseconds);
 }
 
 void PersistentWidgetRegistry::writeChanges()
 {
     if (m_isRestoring)
-        m_delayedWrite.noteChange();
+        m_store.noteChange();
     else
         forEachWidget(&PersistentWidget::writeChanges);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <guibase/records/delayedwrite.h>
+#include <guibase/records/recordstore.h>
 
 #include <QObject>
 #include <QString>
@@ -51,5 +51,5 @@ private:
 
     std::vector<std::shared_ptr<PersistentWidget>> m_widgets;
     bool m_isRestoring = false;
-    DelayedWrite m_delayedWrite{[this] { writeChanges(); }};
+    RecordStore m_store{SettingsView, QString(), [this] { writeChanges(); }};
 };

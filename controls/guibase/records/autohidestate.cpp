@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "autohidestate.h"
 
+#include "hexadecimal.h"
+
 #include <QDataStream>
 #include <QIODevice>
 
@@ -72,4 +74,15 @@ std::optional<AutoHideState> AutoHideState::fromBytes(const QByteArray& bytes)
         foundChecksum != checksum(QByteArrayView(bytes).first(contentSize)))
         return {};
     return state;
+}
+
+QString AutoHideState::toText() const
+{
+    return Hexadecimal::encode(toBytes());
+}
+
+std::optional<AutoHideState> AutoHideState::fromText(const QString& text)
+{
+    const auto bytes = Hexadecimal::decode(text);
+    return bytes ? fromBytes(*bytes) : std::nullopt;
 }

@@ -18,4 +18,7 @@ struct AutoHideState
     QByteArray toBytes() const;
     /// Nothing for anything but a whole record.
     static std::optional<AutoHideState> fromBytes(const QByteArray& bytes);
+    /// The same as the text that the configuration holds.
+    QString toText() const;
+    static std::optional<AutoHideState> fromText(const QString& text);
 };

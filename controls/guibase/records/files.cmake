@@ -2,11 +2,11 @@
 guibase_room(records OBJECT
     INTERNAL
         autohidestate.cpp autohidestate.h
-        damagedrecords.cpp damagedrecords.h
-        delayedwrite.cpp delayedwrite.h
+        columntext.cpp columntext.h
         dockstatecheck.cpp dockstatecheck.h
         geometryrecord.cpp geometryrecord.h
         hexadecimal.cpp hexadecimal.h
+        recordstore.cpp recordstore.h
         screenplacement.cpp screenplacement.h
         splitterstatecheck.cpp splitterstatecheck.h
         staterecord.cpp staterecord.h

@@ -122,8 +122,8 @@ public:
     void RegisterPersistentWidget(QWidget* widget, const QString& name);
     void UnregisterPersistentWidget(QWidget* widget);
     /// Time from the last change of a layout, the time zone, the position format or the colours to
-    /// its writing in milliseconds, at most ten times as long from the first one; negative switches
-    /// writing off until the application ends. Default 2000.
+    /// its way to the disk in milliseconds, at most five times as long from the first one; negative
+    /// switches writing off until the application ends. Default 2000.
     void SetLayoutWriteDelay(int milliseconds);
     /// Actions for menus, which reset all windows; they belong to `parent`.
     QAction* CreateResetWidgetViewAction(QObject* parent);

@@ -12,14 +12,29 @@ SettingsRecord::SettingsRecord(PersistantOwner& owner, DisplaySettings& settings
     : m_record(QStringLiteral("GuiCentral"), &owner)
     , m_selections{&settings.timeZone, &settings.positionFormat}
 {
-    m_record.Add(&m_colorDefinitionFile, QStringLiteral("ColorDefinitionFile"));
-    m_record.Add(&settings.timeZone, QStringLiteral("TimeZone"),
-                 static_cast<int>(SelectionStorage::ByValue));
-    m_record.Add(&settings.positionFormat, QStringLiteral("PositionFormat"),
-                 static_cast<int>(SelectionStorage::ByKey));
+    add("ColorDefinitionFile", m_colorDefinitionFile, [this] { return m_colorDefinitionFile; });
+    add(
+        "TimeZone", settings.timeZone, [&settings] { return settings.timeZone.GetValue(); },
+        static_cast<int>(SelectionStorage::ByValue));
+    add(
+        "PositionFormat", settings.positionFormat,
+        [&settings] { return settings.positionFormat.GetValue(); },
+        static_cast<int>(SelectionStorage::ByKey));
 }
 
 SettingsRecord::~SettingsRecord() = default;
+
+template <typename Member, typename... Detail>
+void SettingsRecord::add(const char* key, Member& member, std::function<QVariant()> value,
+                         Detail... detail)
+{
+    const QString name = QLatin1String(key);
+    m_record.Add(&member, name, detail...);
+    auto record = std::make_unique<Persistant>(m_record.GetName());
+    record->Add(&member, name, detail...);
+    QVariant known = value();
+    m_parts.push_back({name, std::move(value), std::move(record), std::move(known)});
+}
 
 bool SettingsRecord::exists() const
 {
@@ -30,13 +45,22 @@ void SettingsRecord::read()
 {
     const QScopedValueRollback reading(m_isReading, true);
     m_record.Read(QString());
-    m_delayedWrite.cancel();
+    for (Part& part : m_parts)
+        part.known = part.value();
+    m_store.dropChanges();
 }
 
 void SettingsRecord::write()
 {
-    m_record.Write(QString());
-    m_delayedWrite.cancel();
+    beforeWrite();
+    for (Part& part : m_parts) {
+        QVariant value = part.value();
+        if (value == part.known && m_store.contains(part.key))
+            continue;
+        part.record->Write(QString());
+        part.known = std::move(value);
+    }
+    m_store.dropChanges();
 }
 
 void SettingsRecord::followChoices()
@@ -51,12 +75,12 @@ void SettingsRecord::followChoices()
 void SettingsRecord::noteChoice()
 {
     if (!m_followers.empty() && !m_isReading)
-        m_delayedWrite.noteChange();
+        m_store.noteChange();
 }
 
 void SettingsRecord::setWriteDelay(int milliseconds)
 {
-    m_delayedWrite.setDelay(milliseconds);
+    m_store.setWriteDelay(milliseconds);
 }
 
 void SettingsRecord::beforeWrite()

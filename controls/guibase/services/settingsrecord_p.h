@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <guibase/records/delayedwrite.h>
+#include <guibase/records/recordstore.h>
 
 #include <valueframework/persistant.h>
 
 #include <QString>
+#include <QVariant>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -38,10 +40,24 @@ public:
     void afterRead();
 
 private:
+    /// One value of the record. Only those that were chosen here are written: another process may
+    /// have chosen the others meanwhile.
+    struct Part
+    {
+        QString key;
+        std::function<QVariant()> value;
+        std::unique_ptr<Persistant> record; ///< Of this value alone.
+        QVariant known;                     ///< As it was read or written last.
+    };
+
+    template <typename Member, typename... Detail>
+    void add(const char* key, Member& member, std::function<QVariant()> value, Detail... detail);
+
     QString m_colorDefinitionFile;
     Persistant m_record;
+    std::vector<Part> m_parts;
     bool m_isReading = false; ///< Which may take a question to the user about the colour set.
     std::vector<ValueSelection*> m_selections;
     std::vector<std::unique_ptr<SelectionFollower>> m_followers;
-    DelayedWrite m_delayedWrite{[this] { write(); }};
+    RecordStore m_store{SettingsView, QStringLiteral("GuiCentral"), [this] { write(); }};
 };

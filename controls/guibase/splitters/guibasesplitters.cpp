@@ -15,7 +15,5 @@ void GuiBase::StoreSplitterSizes4(const QString& key, Splitter* splitter)
     d->splitters.store(key, splitter);
 }
 
-void GuiBase::StoreSplitterSizes2Cfg()
-{
-    d->splitters.writeConfiguration();
-}
+/// What is stored is in the configuration at once.
+void GuiBase::StoreSplitterSizes2Cfg() {}

@@ -1,27 +1,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include <guibase/records/recordstore.h>
 
-#include <map>
+#include <QString>
 
 class Splitter;
 
 /// The positions of the application's splitters, by their storage names. What is stored is in the
-/// configuration at once.
+/// configuration at once, and nowhere else: another process may store meanwhile.
 class SplitterTable
 {
 public:
     /// Takes the positions of a visible splitter over; nothing for others.
-    void store(const QString& key, const Splitter* splitter);
+    void store(const QString& key, const Splitter* splitter) const;
     /// Gives the splitter the positions that were stored last, in this run or an earlier one.
     /// Damaged ones change nothing and are kept aside. A splitter without widgets stays as it is.
     void apply(const QString& key, Splitter* splitter) const;
-    void writeConfiguration() const;
 
 private:
-    QString value(const QString& key) const;
-    void setValue(const QString& key, const QString& value);
-
-    std::map<QString, QString> m_values;
+    RecordStore m_store{LayoutView, QStringLiteral("Splitter")};
 };

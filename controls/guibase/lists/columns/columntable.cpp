@@ -2,54 +2,13 @@
 #include "columntable.h"
 
 #include <guibase/lists/sortlistview.h>
-#include <guibase/records/damagedrecords.h>
-
-#include <jtbase/geometryarrayparser.h>
-#include <trovappstartup/cfgcenter.h>
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
-
-std::unique_ptr<ICfg> configuration()
-{
-    return CfgCenter::GetAppCfg(LayoutView)->OpenSubCfg(QStringLiteral("FreqStoreListView"));
-}
-
-/// Nothing for a damaged text, which is kept aside.
-std::optional<QList<ColumnRecord>> knownColumns(ICfg& cfg, const QString& name)
-{
-    const QString text = cfg.GetString(name);
-    auto columns = ColumnText::parse(text);
-    if (!columns)
-        DamagedRecords::keepAside(cfg, name, text, QStringLiteral("the columns are damaged"));
-    return columns;
-}
-
-/// Appends the known columns that the list does not have. They keep their places: the list's own
-/// columns share those that were theirs before.
-void keepOthers(QList<ColumnRecord>& columns, const QHeaderView& header,
-                const QList<ColumnRecord>& known)
-{
-    const int present = static_cast<int>(columns.size());
-    columns += known.mid(present);
-    if (columns.size() == present)
-        return;
-    QList<int> order(known.size());
-    std::iota(order.begin(), order.end(), 0);
-    std::stable_sort(order.begin(), order.end(), [&known](int a, int b) {
-        return known.at(a).visualIndex < known.at(b).visualIndex;
-    });
-    int ownPlace = 0;
-    for (int place = 0; place < order.size(); ++place) {
-        const bool isOwn = order.at(place) < present;
-        columns[isOwn ? header.logicalIndex(ownPlace++) : order.at(place)].visualIndex = place;
-    }
-}
 
 QList<ColumnRecord> columnsOf(const QTreeView& list, const QList<ColumnRecord>& known)
 {
@@ -64,7 +23,6 @@ QList<ColumnRecord> columnsOf(const QTreeView& list, const QList<ColumnRecord>& 
         }
         columns.append(record);
     }
-    keepOthers(columns, header, known);
     return columns;
 }
 
@@ -133,39 +91,17 @@ void applyColumns(QTreeView& list, QList<ColumnRecord> columns, int first)
 
 } // namespace
 
-QString ColumnText::format(const QList<ColumnRecord>& columns)
-{
-    QList<QList<int>> rows;
-    for (const ColumnRecord& column : columns)
-        rows.append({column.width, column.visualIndex, column.isHidden ? 1 : 0});
-    return GeometryArrayParser::formatRows(rows);
-}
-
-std::optional<QList<ColumnRecord>> ColumnText::parse(const QString& text)
-{
-    const auto rows = GeometryArrayParser::parseRows(text);
-    if (!rows)
-        return std::nullopt;
-    QList<ColumnRecord> columns;
-    for (const QList<int>& row : *rows) {
-        if (row.size() != 3 || row.at(0) > largestWidth)
-            return std::nullopt;
-        columns.append({row.at(0), row.at(1), row.at(2) != 0});
-    }
-    return columns;
-}
-
 void ColumnTable::noteChange(const QString& name, SortListView* list)
 {
     if (list == nullptr || list == m_applied || !list->isVisible())
         return;
     m_changed[name] = list;
-    m_delayedWrite.noteChange();
+    m_store.noteChange();
 }
 
 void ColumnTable::setWriteDelay(int milliseconds)
 {
-    m_delayedWrite.setDelay(milliseconds);
+    m_store.setWriteDelay(milliseconds);
 }
 
 void ColumnTable::storeChanges()
@@ -176,6 +112,12 @@ void ColumnTable::storeChanges()
     m_changed.clear();
 }
 
+/// Nothing for a damaged text, which is kept aside.
+std::optional<QList<ColumnRecord>> ColumnTable::known(const QString& name) const
+{
+    return m_store.read(name, QStringLiteral("the columns are damaged"), ColumnText::parse);
+}
+
 void ColumnTable::store(const QString& name, const SortListView* list)
 {
     const auto changed = m_changed.find(name);
@@ -184,39 +126,17 @@ void ColumnTable::store(const QString& name, const SortListView* list)
         return;
     if (hasChanged)
         m_changed.erase(changed);
-    // Not what this table has: another list, or process, may have stored meanwhile.
-    const std::unique_ptr<ICfg> cfg = configuration();
-    const auto known = knownColumns(*cfg, name);
-    QList<ColumnRecord> columns = columnsOf(*list, known.value_or(QList<ColumnRecord>()));
-    if (columns == known)
-        return;
-    m_columns[name] = std::move(columns);
-    write(name);
+    const auto former = known(name);
+    const QList<ColumnRecord> columns = columnsOf(*list, former.value_or(QList<ColumnRecord>()));
+    if (columns != former)
+        m_store.write(name, ColumnText::format(columns));
 }
 
 void ColumnTable::apply(const QString& name, SortListView* list, int firstColumn)
 {
-    if (list == nullptr)
+    const auto columns = list != nullptr ? known(name) : std::nullopt;
+    if (!columns)
         return;
-    const std::unique_ptr<ICfg> cfg = configuration();
-    const auto columns = knownColumns(*cfg, name);
-    if (!columns || columns->isEmpty()) {
-        m_columns.erase(name);
-        return;
-    }
-    m_columns[name] = *columns;
     const QScopedValueRollback applied(m_applied, static_cast<const SortListView*>(list));
     applyColumns(*list, *columns, std::max(firstColumn, 0));
-}
-
-void ColumnTable::write(const QString& name) const
-{
-    configuration()->SetString(name, ColumnText::format(m_columns.at(name)));
-}
-
-void ColumnTable::writeConfiguration()
-{
-    storeChanges();
-    for (const auto& [name, columns] : m_columns)
-        write(name);
 }

@@ -22,5 +22,5 @@ void GuiBase::StoreColumnWidth4(const QString& name, SortListView* list)
 
 void GuiBase::StoreColumnSizes2Cfg()
 {
-    d->columns.writeConfiguration();
+    d->columns.storeChanges();
 }

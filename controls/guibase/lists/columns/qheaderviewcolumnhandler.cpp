@@ -3,8 +3,8 @@
 
 #include "headerstate_p.h"
 
-#include <guibase/records/damagedrecords.h>
 #include <guibase/records/geometryrecord.h>
+#include <guibase/records/recordstore.h>
 
 #include <trovappstartup/cfgcenter.h>
 
@@ -84,8 +84,9 @@ void QHeaderViewColumnHandler::restoreState(const QString& text, int firstSectio
     const QByteArray bytes = fromStoredText(text);
     const auto state = HeaderState::fromBytes(bytes, m_header->orientation());
     if (!state) {
-        DamagedRecords::keepAside(*CfgCenter::GetAppCfg(SettingsView), key("_STATE"), text,
-                                  QStringLiteral("it is no state of such a header"));
+        RecordStore::keepAside(*CfgCenter::GetAppCfg(SettingsView),
+                               {{RecordStore::asideName(key("_STATE")), text}}, key("_STATE"),
+                               QStringLiteral("it is no state of such a header"));
         return;
     }
     const bool isWhole = state->sections.size() <= m_header->count();

@@ -56,7 +56,7 @@ private Q_SLOTS:
         Texts row;
         row("as stored", 2, "120,0,0;80,1,1;", "120,0,0;80,1,1;", false);
         row("fewer are stored", 3, "120,0,0;80,1,1;", "120,0,0;80,1,1;100,2,0;", false);
-        row("more are stored", 2, "120,0,0;80,2,0;90,1,0;", "120,0,0;80,2,0;90,1,0;", false);
+        row("more are stored", 2, "120,0,0;80,2,0;90,1,0;", "120,0,0;80,1,0;", false);
         row("all hidden", 2, "120,0,1;80,1,1;", "120,0,0;80,1,1;", false);
         row("nothing", 2, "", "100,0,0;100,1,0;", false);
         row("no width", 2, "0,1,0;80,0,0;", "100,1,0;80,0,0;", false);
