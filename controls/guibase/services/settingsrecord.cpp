@@ -45,8 +45,6 @@ void SettingsRecord::read()
 {
     const QScopedValueRollback reading(m_isReading, true);
     m_record.Read(QString());
-    for (Part& part : m_parts)
-        part.known = part.value();
     m_store.dropChanges();
 }
 
@@ -91,5 +89,8 @@ void SettingsRecord::beforeWrite()
 
 void SettingsRecord::afterRead()
 {
+    for (Part& part : m_parts)
+        part.known = part.value();
+    // What the user chooses instead of a colour set that is missing is news.
     m_colorDefinitionFile = ApplicationColors::load(m_colorDefinitionFile);
 }
