@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "numberhelpers.h"
 
+#include "numbercharacters.h"
+#include "numberscanner_p.h"
+
 #include <QVarLengthArray>
 
 #include <algorithm>
@@ -11,249 +14,12 @@
 
 namespace {
 
+using NumberReading::GroupCheck;
+using NumberReading::GroupSizes;
+using NumberReading::Scanner;
+
 /// Room for every number that people write; only longer texts are put on the heap.
 using AsciiNumber = QVarLengthArray<char, 128>;
-
-constexpr char32_t fullWidthZero = 0xFF10;
-
-bool isMinus(char32_t c)
-{
-    return c == U'-' || c == U'\u2212' || c == U'\uFF0D';
-}
-
-bool isPlus(char32_t c)
-{
-    return c == U'+' || c == U'\uFF0B';
-}
-
-/// Drops the marks that set the direction of writing; some locales put them around signs.
-QStringView withoutLeadingMarks(QStringView text)
-{
-    const auto isMark = [](QChar c) { return c == u'\u200E' || c == u'\u200F' || c == u'\u061C'; };
-    while (!text.isEmpty() && isMark(text.front()))
-        text = text.sliced(1);
-    return text;
-}
-
-bool isBlankSeparator(char32_t c)
-{
-    return c == U' ' || c == U'\u00A0' || c == U'\u2009' || c == U'\u202F';
-}
-
-bool isApostrophe(char32_t c)
-{
-    return c == U'\'' || c == U'\u2019';
-}
-
-/// The first code point of a text that is not empty.
-char32_t firstCodePoint(QStringView text)
-{
-    const QChar first = text.front();
-    if (first.isHighSurrogate() && text.size() > 1 && text[1].isLowSurrogate())
-        return QChar::surrogateToUcs4(first, text[1]);
-    return first.unicode();
-}
-
-qsizetype unitCount(char32_t c)
-{
-    return QChar::requiresSurrogates(c) ? 2 : 1;
-}
-
-/// How many digits stand between group separators.
-struct GroupSizes
-{
-    int last = 0;  ///< Between the last separator and the end of the integer.
-    int other = 0; ///< In the groups before.
-    int first = 0; ///< At most in the first one; some locales part no single digit from it.
-};
-
-/// How a locale writes numbers; a null locale stands for the C locale without group separators.
-struct Notation
-{
-    explicit Notation(const QLocale* locale);
-
-    char32_t zero = U'0';
-    char32_t decimalPoint = U'.';
-    char32_t groupSeparator = 0; ///< 0: not accepted.
-    QString exponent;
-};
-
-Notation::Notation(const QLocale* locale)
-{
-    if (locale == nullptr)
-        return;
-    const auto codePoint = [](const QString& text) {
-        return text.isEmpty() ? U'\0' : firstCodePoint(text);
-    };
-    zero = codePoint(locale->zeroDigit());
-    decimalPoint = codePoint(locale->decimalPoint());
-    exponent = locale->exponential();
-    if (locale->numberOptions().testFlag(QLocale::RejectGroupSeparator))
-        return;
-    groupSeparator = codePoint(locale->groupSeparator());
-}
-
-/// The sizes as the locale writes a long number; all 0 when it does not separate groups at all.
-GroupSizes measuredGroups(QLocale locale)
-{
-    locale.setNumberOptions(QLocale::DefaultNumberOptions);
-    const QString sample = locale.toString(Q_INT64_C(1111111111111111));
-    const QStringList parts = sample.split(locale.groupSeparator());
-    if (parts.size() < 3)
-        return {};
-    const auto digitCount = [&sample](const QString& part) {
-        return static_cast<int>(part.size() / unitCount(firstCodePoint(sample)));
-    };
-    const int other = digitCount(parts.at(parts.size() - 2));
-    // With 16 digits a single one is left over in front, whether the groups hold two or three.
-    return {digitCount(parts.last()), other, std::max(other, digitCount(parts.first()))};
-}
-
-/// Checks while reading that group separators stand where they belong.
-class GroupCheck
-{
-public:
-    void digit() { ++m_run; }
-    /// At a group separator; false when it cannot stand here.
-    bool separator(GroupSizes sizes)
-    {
-        const bool fits = m_separated ? m_run == sizes.other : m_run >= 1 && m_run <= sizes.first;
-        m_separated = true;
-        m_run = 0;
-        return fits;
-    }
-    bool end(GroupSizes sizes) const { return !m_separated || m_run == sizes.last; }
-    bool isSeparated() const { return m_separated; }
-
-private:
-    qsizetype m_run = 0;
-    bool m_separated = false;
-};
-
-/// Takes a number apart from the left. The locale is asked only when something else than ASCII
-/// digits and signs comes up.
-class Scanner
-{
-public:
-    Scanner(QStringView text, const QLocale* locale)
-        : m_rest(text.trimmed())
-        , m_locale(locale)
-    {}
-
-    bool atEnd() const { return m_rest.isEmpty(); }
-    /// To be asked after takeGroupSeparator() took one.
-    GroupSizes groupSizes()
-    {
-        if (!m_groupSizes)
-            m_groupSizes = measuredGroups(*m_locale);
-        return *m_groupSizes;
-    }
-
-    /// Takes a sign if there is one: '-' or '+', or a null character.
-    char takeSign();
-    /// Takes a digit of the base: its value, or -1 when the next character is none.
-    int takeDigit(int base);
-    bool takeGroupSeparator();
-    bool takeDecimalPoint();
-    bool takeExponent();
-
-private:
-    const Notation& notation()
-    {
-        if (!m_notation)
-            m_notation.emplace(m_locale);
-        return *m_notation;
-    }
-    int otherDigitValue(char32_t c);
-    void drop(qsizetype count) { m_rest = m_rest.sliced(count); }
-
-    QStringView m_rest;
-    const QLocale* m_locale;
-    std::optional<Notation> m_notation;
-    std::optional<GroupSizes> m_groupSizes;
-};
-
-char Scanner::takeSign()
-{
-    QStringView text = withoutLeadingMarks(m_rest);
-    if (text.isEmpty())
-        return '\0';
-    const char32_t c = firstCodePoint(text);
-    if (!isMinus(c) && !isPlus(c))
-        return '\0';
-    m_rest = withoutLeadingMarks(text.sliced(1));
-    return isMinus(c) ? '-' : '+';
-}
-
-int Scanner::takeDigit(int base)
-{
-    if (m_rest.isEmpty())
-        return -1;
-    const char32_t c = firstCodePoint(m_rest);
-    int value = -1;
-    if (c >= U'0' && c <= U'9')
-        value = static_cast<int>(c - U'0');
-    else if (c >= U'a' && c <= U'z')
-        value = static_cast<int>(c - U'a') + 10;
-    else if (c >= U'A' && c <= U'Z')
-        value = static_cast<int>(c - U'A') + 10;
-    else if (c >= 0x80)
-        value = otherDigitValue(c);
-    if (value < 0 || value >= base)
-        return -1;
-    drop(unitCount(c));
-    return value;
-}
-
-int Scanner::otherDigitValue(char32_t c)
-{
-    if (c >= fullWidthZero && c < fullWidthZero + 10)
-        return static_cast<int>(c - fullWidthZero);
-    const char32_t zero = notation().zero;
-    return c >= zero && c < zero + 10 ? static_cast<int>(c - zero) : -1;
-}
-
-bool Scanner::takeGroupSeparator()
-{
-    const char32_t separator = notation().groupSeparator;
-    if (m_rest.isEmpty() || separator == 0)
-        return false;
-    const char32_t c = firstCodePoint(m_rest);
-    const bool taken = c == separator || (isBlankSeparator(separator) && isBlankSeparator(c)) ||
-                       (isApostrophe(separator) && isApostrophe(c));
-    if (taken)
-        drop(unitCount(c));
-    return taken;
-}
-
-bool Scanner::takeDecimalPoint()
-{
-    if (m_rest.isEmpty())
-        return false;
-    const char32_t c = firstCodePoint(m_rest);
-    const char32_t point = notation().decimalPoint;
-    const bool ownPointIsAscii = point == U'.' || point == U',';
-    const bool taken = c == point || (c == U'\uFF0E' && point == U'.') ||
-                       (c == U'.' && !ownPointIsAscii && notation().groupSeparator != U'.');
-    if (taken)
-        drop(unitCount(c));
-    return taken;
-}
-
-bool Scanner::takeExponent()
-{
-    if (m_rest.isEmpty())
-        return false;
-    if (m_rest.front() == u'e' || m_rest.front() == u'E') {
-        drop(1);
-        return true;
-    }
-    const QString& exponent = notation().exponent;
-    if (exponent.isEmpty() || !m_rest.startsWith(exponent, Qt::CaseInsensitive))
-        return false;
-    drop(exponent.size());
-    return true;
-}
 
 struct SignedMagnitude
 {
@@ -422,20 +188,6 @@ bool isSeparator(char c)
     return c == '.' || c == ',';
 }
 
-/// The ASCII character that means the same in a number; a null character for what is in none.
-char asciiMeaning(char16_t c)
-{
-    if ((c >= u'0' && c <= u'9') || c == u'.' || c == u',' || c == u'e')
-        return static_cast<char>(c);
-    if (isMinus(c))
-        return '-';
-    if (isPlus(c))
-        return '+';
-    if (c >= fullWidthZero && c < fullWidthZero + 10)
-        return static_cast<char>('0' + (c - fullWidthZero));
-    return c == u'E' ? 'e' : c == u'\uFF0E' ? '.' : c == u'\uFF0C' ? ',' : '\0';
-}
-
 /// Takes the group separators out of a number with several separators, and writes the decimal one
 /// as a point. Returns the new end, or null when a separator is misplaced.
 char* withoutGroups(char* begin, char* end)
@@ -472,18 +224,18 @@ char* withoutGroups(char* begin, char* end)
 std::optional<double> readDouble(QStringView text)
 {
     text = text.trimmed();
-    if (!text.isEmpty() && isPlus(text.front().unicode())) {
+    if (!text.isEmpty() && NumberCharacters::meaningOf(text.front().unicode()) == '+') {
         text = text.sliced(1);
-        if (!text.isEmpty() && isMinus(text.front().unicode()))
+        if (!text.isEmpty() && NumberCharacters::meaningOf(text.front().unicode()) == '-')
             return std::nullopt;
     }
     AsciiNumber number(text.size());
     char* end = number.data();
     char* separator = nullptr;
     int separators = 0;
-    for (QChar c : text) {
-        const char ascii = asciiMeaning(c.unicode());
-        if (ascii == '\0')
+    for (const QChar c : text) {
+        const char ascii = NumberCharacters::meaningOf(c.unicode());
+        if (ascii == '\0' || ascii == ' ' || ascii == '\'')
             return std::nullopt;
         if (isSeparator(ascii)) {
             separator = end;

@@ -10,18 +10,20 @@
 ///
 /// Rules shared by all readers here:
 /// - blanks (any Unicode white space) at both ends are ignored;
-/// - one sign may stand in front: '+', '-', the typographic minus U+2212 or a full-width sign; the
-///   direction marks that some locales write before it are skipped;
+/// - characters that mean the same in numbers are read alike: digits of any script, the typographic
+///   minus, full-width signs (NumberCharacters has the table);
+/// - one sign may stand in front; the direction marks that some locales write before it are
+/// skipped;
 /// - the whole remaining text must be the number; an empty text is not a number;
-/// - digits are ASCII, full-width or the locale's own; base prefixes such as "0x" are not accepted;
+/// - base prefixes such as "0x" are not accepted;
 /// - group separators are accepted only where the locale's number options allow them (see
 ///   QLocale::RejectGroupSeparator), in base 10, and only between groups of the locale's sizes;
-///   whether the locale would group so short a number does not matter. Where the locale separates
-///   with a blank of any width, a typed blank will do; so will a typed apostrophe for a
-///   typographic one;
-/// - a real number has the locale's decimal separator and exponent sign, or 'e'; where the locale's
-///   separator is neither point nor comma, a point will do. One side of the separator may be empty;
-///   infinity and NaN are not accepted;
+///   whether the locale would group so short a number does not matter. A typed blank or apostrophe
+///   will do for one of another width or form;
+/// - a real number has the locale's decimal separator and exponent sign, or 'e'; a point will do
+/// for
+///   the Arabic separator. One side of the separator may be empty; infinity and NaN are not
+///   accepted;
 /// - a value outside the range of the type is refused, never wrapped, cut or turned to infinity; so
 ///   is a negative text for an unsigned type, except "-0", and a number other than zero that is too
 ///   small for a double.
@@ -46,9 +48,9 @@ namespace Trov {
 /// Reads a decimal number as a person or a file writes it: with a point or a comma as decimal
 /// separator, an optional exponent, blanks around it. A single separator is the decimal one; where
 /// both occur the last one is, and the other must then stand between groups of three digits; where
-/// one occurs several times, and alone, it must part groups of three digits. Full-width characters
-/// and the typographic minus are read like the ASCII ones. Infinity, NaN and values that a double
-/// cannot hold are refused. On failure the result is 0 and `*ok` false; `ok` may be null.
+/// one occurs several times, and alone, it must part groups of three digits. Characters that mean
+/// the same in numbers are read alike (see NumberCharacters). Infinity, NaN and values that a
+/// double cannot hold are refused. On failure the result is 0 and `*ok` false; `ok` may be null.
 JTBASE_EXPORT double toDoubleEx(QStringView text, bool* ok = nullptr);
 
 } // namespace Trov
