@@ -3,6 +3,8 @@
 
 #include "datetimesections.h"
 
+#include <jtbase/numbercharacters.h>
+
 #include <QRegularExpression>
 #include <QStringList>
 #include <QTimeZone>
@@ -19,7 +21,7 @@ using DateTimeSections::Token;
 
 bool isDirectionMark(QChar c)
 {
-    return c == u'\u200E' || c == u'\u200F' || c == u'\u061C';
+    return NumberCharacters::isDirectionMark(c.unicode());
 }
 
 bool isNumber(const Token& token)

@@ -30,8 +30,9 @@ DisplayAffix::Match DisplayAffix::matchAt(const QString& text, qsizetype offset)
     }
     if (!canMatch())
         return {};
+    // Cut off, since "^" means the start of the text and not the offset.
     const QRegularExpressionMatch match =
-        m_pattern->match(text, offset, QRegularExpression::NormalMatch,
+        m_pattern->match(text.mid(offset), 0, QRegularExpression::NormalMatch,
                          QRegularExpression::AnchorAtOffsetMatchOption);
     return match.hasMatch() ? Match{offset, match.capturedLength()} : Match{};
 }

@@ -5,8 +5,6 @@
 #include "qdatetimedisplayformat.h"
 #include "realnumberdisplayformat.h"
 
-#include <guibase/inputs/typedinput.h>
-
 #include <jtbase/errorhandler.h>
 
 #include <QCoreApplication>
@@ -39,7 +37,7 @@ std::optional<T> readText(const ValueDisplayFormatBase<T>& format, const QString
 template <typename Step, typename Result>
 Result guarded(const Step& step, const Result& fallback)
 {
-    constexpr const char* module = "controls/guibase/inputs/displayformatlist";
+    constexpr const char* module = "controls/guibase/formats/displayformatlist";
     try {
         return step();
     } catch (const std::exception& exception) {
@@ -101,7 +99,7 @@ template <typename T>
 typename DisplayFormatList<T>::Reading
 DisplayFormatList<T>::read(const QString& text, int currentIndex, const T& currentValue) const
 {
-    if (text.size() > TypedInput::longestText)
+    if (text.size() > longestText)
         return {currentValue, currentIndex, Reading::Unreadable};
     const Pairs pairs = trialOrder(currentIndex);
     for (const auto& [format, index] : pairs) {
@@ -141,15 +139,17 @@ QString DisplayFormatList<T>::refusal(const QString& text, const Reading& readin
 {
     if (reading.outcome == Reading::Read)
         return {};
-    if (text.size() > TypedInput::longestText)
-        return QCoreApplication::translate("DisplayFormat", "This text is too long.");
+    if (text.size() > longestText)
+        return QCoreApplication::translate("DisplayFormat",
+                                           "This text is too long. Type a shorter one.");
     const Format* format = current(reading.index);
     const auto range = format->bareRange(text);
     if (reading.outcome == Reading::SuffixOnly && range.start == range.end)
         return {};
     const QString bare = text.mid(range.start, range.end - range.start);
-    return guarded([&] { return format->refusalReason(bare); },
-                   QCoreApplication::translate("DisplayFormat", "This cannot be read."));
+    return guarded(
+        [&] { return format->refusalReason(bare); },
+        QCoreApplication::translate("DisplayFormat", "This cannot be read. Type another value."));
 }
 
 #define INSTANTIATE(T) template class DisplayFormatList<T>;

@@ -47,6 +47,9 @@ public:
     using Pair = std::pair<const Format*, int>;
     using Pairs = QVarLengthArray<Pair, 8>;
 
+    /// Longer texts are refused unread.
+    static constexpr qsizetype longestText = 32767;
+
     /// With the default format of the type: base 10, or real numbers with six decimals, or the
     /// locale's long format of dates.
     DisplayFormatList();

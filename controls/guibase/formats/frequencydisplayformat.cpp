@@ -55,7 +55,7 @@ std::optional<qint64> scaled(const TypedNumber::Ascii& ascii, int exponent)
     return TypedNumber::fromAscii<qint64>(digits);
 }
 
-/// As TypedNumber::normalize(), but of points knows what they mean on radios.
+/// As TypedNumber::normalize(), but knows what points mean on radios.
 TypedNumber::Outcome normalize(const QString& text, const QLocale& locale, QChar decimalPoint,
                                int exponent, TypedNumber::Ascii& ascii)
 {
@@ -132,18 +132,48 @@ QString FrequencyDisplayFormat::textFromValue(qint64 value) const
 
 QString FrequencyDisplayFormat::refusalReason(const QString& text) const
 {
+    constexpr qint64 example = 14'225'000;
     TypedNumber::Ascii ascii;
     const QChar point = notation().decimalPoint;
     const TypedNumber::Outcome outcome = normalize(text, locale(), point, exponent(), ascii);
-    if (outcome == TypedNumber::Outcome::Ambiguous && text.count(u'.') > 1)
-        return QCoreApplication::translate("DisplayFormat",
-                                           "\"%1\" may be meant in hertz. Leave the groups out.")
-            .arg(text.trimmed().left(40));
-    if (outcome != TypedNumber::Outcome::Number)
-        return TypedNumber::refusalReason(text, point);
+    if (outcome == TypedNumber::Outcome::Ambiguous) {
+        if (const QString reason = ambiguityReason(text); !reason.isEmpty())
+            return reason;
+    }
+    if (outcome != TypedNumber::Outcome::Number || ascii.contains('e'))
+        return TypedNumber::refusalReason(text, withUnit(textFromValue(example)));
+    const auto mark = std::find(ascii.begin(), ascii.end(), '.');
+    if (mark == ascii.end() || ascii.end() - mark - 1 <= exponent())
+        return QCoreApplication::translate("DisplayFormat", "Type a number from %1 to %2.")
+            .arg(withUnit(textFromValue(std::numeric_limits<qint64>::min())),
+                 withUnit(textFromValue(std::numeric_limits<qint64>::max())));
     return QCoreApplication::translate("DisplayFormat",
-                                       "Enter a whole number of hertz, at most %1 %2.")
-        .arg(textFromValue(std::numeric_limits<qint64>::max()), suffix());
+                                       "Type whole hertz: at most %1 decimals in %2.")
+        .arg(exponent())
+        .arg(suffix());
+}
+
+QString FrequencyDisplayFormat::withUnit(const QString& number) const
+{
+    return number + u' ' + suffix();
+}
+
+/// Empty where the text would be no number either without its separators.
+QString FrequencyDisplayFormat::ambiguityReason(const QString& text) const
+{
+    if (const auto meanings = TypedNumber::meaningsOf(text, notation().decimalPoint))
+        return exponent() == 0 ? TypedNumber::separatorReason(withUnit(meanings->whole))
+                               : TypedNumber::ambiguityReason(withUnit(meanings->decimal),
+                                                              withUnit(meanings->whole));
+    // Several points, as radios show hertz.
+    TypedNumber::Ascii ascii;
+    if (TypedNumber::normalize(text, notation().decimalPoint, ascii) !=
+        TypedNumber::Outcome::Number)
+        return {};
+    const std::optional<qint64> hertz = TypedNumber::fromAscii<qint64>(ascii);
+    return hertz ? TypedNumber::ambiguityReason(QString::number(*hertz) + QStringLiteral(" Hz"),
+                                                withUnit(textFromValue(*hertz)))
+                 : QString();
 }
 
 std::vector<qint64> FrequencyDisplayFormat::widestValues(const qint64& minimum,

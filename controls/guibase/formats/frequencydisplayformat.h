@@ -7,12 +7,14 @@
 /// Writes and reads whole numbers of hertz in one of the units Hz, kHz, MHz and GHz, exactly: no
 /// frequency passes through a floating-point number.
 ///
-/// Written are as many decimals as the frequency has, in the locale. Read is a decimal number with
-/// point or comma, followed by the unit, its first letter (in either case), or nothing. A single
-/// point is the decimal one in MHz and GHz in every locale, since radio frequencies are written so
-/// everywhere ("14.225 MHz"), and in kHz unless the locale parts thousands with points. Several
-/// points without a comma are refused but in Hz, since radios show hertz so ("7.074.000"); for
-/// other doubtful separators see RealNumberDisplayFormat. Fractions of a hertz are refused.
+/// It writes as many decimals as the frequency has, in the locale. It reads a decimal number with
+/// point or comma, followed by the unit, its first letter (in either case), or nothing:
+/// - a single point is the decimal sign in MHz and GHz in every locale, since radio frequencies are
+///   written so everywhere ("14.225 MHz"), and in kHz unless the locale parts thousands with
+///   points;
+/// - several points are read in Hz only, since radios show hertz so ("7.074.000");
+/// - for other doubtful separators see RealNumberDisplayFormat;
+/// - fractions of a hertz are refused.
 class GUIBASE_EXPORT FrequencyDisplayFormat : public ValueDisplayFormatBase<qint64>
 {
 public:
@@ -35,6 +37,8 @@ public:
 private:
     /// Decimals that the unit has above one hertz.
     int exponent() const;
+    QString withUnit(const QString& number) const;
+    QString ambiguityReason(const QString& text) const;
 
     UnitPrefix::ESuffix m_unit;
     int m_minimumDecimals = 0;

@@ -4,6 +4,7 @@
 #include "numbertext_p.h"
 #include "typednumber_p.h"
 
+#include <jtbase/numbercharacters.h>
 #include <jtbase/numberhelpers.h>
 
 #include <QCoreApplication>
@@ -19,13 +20,13 @@ namespace {
 template <typename T>
 using Widest = std::conditional_t<std::is_signed_v<T>, qint64, quint64>;
 
-/// The text with ASCII characters in place of full-width ones and of the typographic minus.
+/// The text with ASCII characters in place of full-width ones and of all kinds of minus.
 QString folded(QString text)
 {
     for (QChar& c : text) {
         if (c >= u'\uFF01' && c <= u'\uFF5E')
             c = QChar(static_cast<char16_t>(c.unicode() - 0xFEE0));
-        else if (c == u'\u2212' || c == u'\u2013')
+        else if (NumberCharacters::meaningOf(c.unicode()) == '-')
             c = u'-';
     }
     return text.trimmed();
@@ -119,19 +120,23 @@ QString IntegralNumberDisplayFormat<T>::textFromValue(T value) const
 template <typename T>
 QString IntegralNumberDisplayFormat<T>::refusalReason(const QString& text) const
 {
+    constexpr int example = 26;
     TypedNumber::Ascii ascii;
     const QChar point = this->notation().decimalPoint;
+    if (const auto meanings = TypedNumber::meaningsOf(text, point); meanings && m_base == 10)
+        return TypedNumber::separatorReason(meanings->whole);
     const bool isNumber =
         m_base == 10 ? TypedNumber::normalize(text, point, ascii) == TypedNumber::Outcome::Number
                      : isInBase(text, m_base);
     if (ascii.contains('.') && isNumber)
-        return QCoreApplication::translate("DisplayFormat", "Only whole numbers can be entered.");
+        return QCoreApplication::translate("DisplayFormat",
+                                           "Type a whole number, without decimals.");
     if (isNumber && !ascii.contains('e')) {
-        return QCoreApplication::translate("DisplayFormat", "The number must lie from %1 to %2.")
+        return QCoreApplication::translate("DisplayFormat", "Type a number from %1 to %2.")
             .arg(textFromValue(std::numeric_limits<T>::min()),
                  textFromValue(std::numeric_limits<T>::max()));
     }
-    return TypedNumber::refusalReason(text, point);
+    return TypedNumber::refusalReason(text, QString::number(example, m_base));
 }
 
 template <typename T>

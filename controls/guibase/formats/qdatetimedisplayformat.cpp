@@ -33,7 +33,7 @@ QString QDateTimeDisplayFormat::textFromValue(QDateTime value) const
 
 QString QDateTimeDisplayFormat::refusalReason(const QString&) const
 {
-    return QCoreApplication::translate("DisplayFormat", "Enter date and time as in \"%1\".")
+    return QCoreApplication::translate("DisplayFormat", "Type date and time as in \"%1\".")
         .arg(textFromValue(m_presentTime.isValid() ? shownPresentTime()
                                                    : QDateTime::currentDateTime()));
 }

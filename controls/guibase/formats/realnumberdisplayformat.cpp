@@ -10,26 +10,18 @@
 
 namespace {
 
-/// A point is the decimal sign of the C locale; where people part thousands with it it is doubtful.
-bool isDoubtfulPoint(const QString& text, const QLocale& locale, QChar decimalPoint)
-{
-    return decimalPoint != u'.' && text.contains(u'.') && locale.groupSeparator() == u"." &&
-           TypedNumber::isAmbiguous(text, decimalPoint);
-}
-
 std::optional<double> readReal(const QString& text, const QLocale& locale, bool useLocale,
                                QChar decimalPoint)
 {
     // With a locale the point may part groups.
-    if (decimalPoint == u'.' || !text.contains(u'.')) {
+    if (!useLocale || decimalPoint == u'.' || !text.contains(u'.')) {
         if (const std::optional<double> value = TypedNumber::readPlain<double>(text))
             return value;
     }
     bool ok = false;
     double value = useLocale ? NumberHelpers::parse<double>(text, locale, &ok)
                              : NumberHelpers::parse<double>(text, &ok);
-    if (ok && (useLocale || !isDoubtfulPoint(text, locale, decimalPoint)) &&
-        !TypedNumber::hasZeroGroup(text, locale))
+    if (ok && !(useLocale && TypedNumber::hasZeroGroup(text, locale)))
         return value;
     // What is written in the locale can be read in any case.
     value = NumberHelpers::parse<double>(text, locale, &ok);
@@ -79,7 +71,10 @@ QString RealNumberDisplayFormat<T>::textFromValue(T value) const
 template <typename T>
 QString RealNumberDisplayFormat<T>::refusalReason(const QString& text) const
 {
-    return TypedNumber::refusalReason(text, this->notation().decimalPoint);
+    const QChar point = this->notation().decimalPoint;
+    if (const auto meanings = TypedNumber::meaningsOf(text, point))
+        return TypedNumber::ambiguityReason(meanings->decimal, meanings->whole);
+    return TypedNumber::refusalReason(text, QStringLiteral("12") + point + u'5');
 }
 
 template <typename T>

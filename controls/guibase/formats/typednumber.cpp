@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "typednumber_p.h"
 
+#include <jtbase/numbercharacters.h>
+
 #include <QCoreApplication>
 #include <QLocale>
 #include <QString>
@@ -16,46 +18,6 @@ using TypedNumber::Outcome;
 
 constexpr qsizetype groupSize = 3;
 
-/// ASCII for what means the same in numbers: '\'' for apostrophes, ' ' for the blanks that part
-/// groups, and a null character for what occurs in no number.
-char meaningOf(char16_t c)
-{
-    if (c >= u'0' && c <= u'9')
-        return static_cast<char>(c);
-    switch (c) {
-    case u'.':
-    case u'\uFF0E':
-    case u'\u066B':
-        return '.';
-    case u',':
-    case u'\uFF0C':
-        return ',';
-    case u'-':
-    case u'\u2212':
-    case u'\u2013':
-    case u'\uFF0D':
-        return '-';
-    case u'+':
-    case u'\uFF0B':
-        return '+';
-    case u'e':
-    case u'E':
-        return 'e';
-    case u'\'':
-    case u'\u2019':
-    case u'\u066C':
-        return '\'';
-    case u' ':
-    case u'\u00A0':
-    case u'\u2007':
-    case u'\u2009':
-    case u'\u202F':
-        return ' ';
-    default:
-        return QChar::isDigit(c) ? static_cast<char>('0' + QChar::digitValue(c)) : '\0';
-    }
-}
-
 bool isDigit(char c)
 {
     return c >= '0' && c <= '9';
@@ -66,9 +28,9 @@ bool translate(QStringView text, Ascii& ascii)
     ascii.clear();
     ascii.reserve(text.size());
     for (const QChar c : text) {
-        if (c == u'\u200E' || c == u'\u200F' || c == u'\u061C') // Marks of direction at signs.
+        if (NumberCharacters::isDirectionMark(c.unicode()))
             continue;
-        const char meaning = meaningOf(c.unicode());
+        const char meaning = NumberCharacters::meaningOf(c.unicode());
         if (meaning == '\0')
             return false;
         ascii.append(meaning);
@@ -207,13 +169,8 @@ TypedNumber::Outcome TypedNumber::normalize(QStringView text, QChar decimalPoint
     if (!std::all_of(ascii.begin() + begin, ascii.begin() + end, isMantissa) ||
         std::none_of(ascii.begin() + begin, ascii.begin() + end, isDigit))
         return Outcome::NotANumber;
-    return normalizeMantissa(ascii, begin, end, meaningOf(decimalPoint.unicode()));
-}
-
-bool TypedNumber::isAmbiguous(QStringView text, QChar decimalPoint)
-{
-    Ascii ascii;
-    return normalize(text, decimalPoint, ascii) == Outcome::Ambiguous;
+    return normalizeMantissa(ascii, begin, end,
+                             NumberCharacters::meaningOf(decimalPoint.unicode()));
 }
 
 bool TypedNumber::hasZeroGroup(QStringView text, const QLocale& locale)
@@ -264,21 +221,48 @@ std::optional<double> TypedNumber::realFromAscii(const Ascii& ascii)
     return value;
 }
 
-QString TypedNumber::refusalReason(QStringView text, QChar decimalPoint)
+QString TypedNumber::shortened(QStringView text)
 {
     constexpr qsizetype shownLength = 40;
-    const QString shown = text.size() > shownLength
-                              ? text.first(shownLength).toString() + QChar(u'\u2026')
-                              : text.toString();
+    const QStringView trimmed = text.trimmed();
+    return trimmed.size() > shownLength ? trimmed.first(shownLength).toString() + QChar(u'\u2026')
+                                        : trimmed.toString();
+}
+
+std::optional<TypedNumber::Meanings> TypedNumber::meaningsOf(QStringView text, QChar decimalPoint)
+{
+    Ascii ascii;
+    if (normalize(text, decimalPoint, ascii) != Outcome::Ambiguous)
+        return std::nullopt;
+    const QString number = QString::fromLatin1(ascii.constData(), ascii.size());
+    Meanings meanings{number, number};
+    const auto isMark = [](QChar c) { return c == u'.' || c == u','; };
+    *std::find_if(meanings.decimal.begin(), meanings.decimal.end(), isMark) = decimalPoint;
+    meanings.whole.removeIf(isMark);
+    return meanings;
+}
+
+QString TypedNumber::refusalReason(QStringView text, const QString& example)
+{
     if (text.trimmed().isEmpty())
-        return QCoreApplication::translate("DisplayFormat", "A number is missing.");
-    if (isAmbiguous(text, decimalPoint))
-        return QCoreApplication::translate("DisplayFormat",
-                                           "\"%1\" may have a decimal or a thousands separator. "
-                                           "Leave it out, or write more or fewer decimals.")
-            .arg(shown);
-    return QCoreApplication::translate("DisplayFormat", "\"%1\" cannot be read as a number here.")
-        .arg(shown);
+        return QCoreApplication::translate("DisplayFormat", "Type a number, such as %1.")
+            .arg(example);
+    return QCoreApplication::translate("DisplayFormat",
+                                       "\"%1\" cannot be read. Type a number such as %2.")
+        .arg(shortened(text), example);
+}
+
+QString TypedNumber::ambiguityReason(const QString& one, const QString& other)
+{
+    return QCoreApplication::translate("DisplayFormat", "Ambiguous: type %1 or %2.")
+        .arg(one, other);
+}
+
+QString TypedNumber::separatorReason(const QString& whole)
+{
+    return QCoreApplication::translate("DisplayFormat",
+                                       "Type whole numbers without separators: %1.")
+        .arg(whole);
 }
 
 #define INSTANTIATE(T)                                                                             \

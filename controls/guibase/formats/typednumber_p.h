@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
 #include <QStringView>
 #include <QVarLengthArray>
 
@@ -25,9 +26,14 @@ using Ascii = QVarLengthArray<char, 128>;
 /// `decimalPoint` is the decimal one. Digits may be of any script.
 Outcome normalize(QStringView text, QChar decimalPoint, Ascii& ascii);
 
-/// Whether a text that the C locale reads would be ambiguous where `decimalPoint` is the decimal
-/// sign.
-bool isAmbiguous(QStringView text, QChar decimalPoint);
+/// The two numbers that an ambiguous text may stand for, written so that they can be read.
+struct Meanings
+{
+    QString decimal; ///< With the separator as decimal sign: "1.500".
+    QString whole;   ///< Without it: "1500".
+};
+/// Nothing for texts that are not ambiguous.
+std::optional<Meanings> meaningsOf(QStringView text, QChar decimalPoint);
 
 /// Whether a text with group separators that the locale accepts begins with a zero, which no
 /// thousands do: "0.500".
@@ -43,7 +49,12 @@ template <std::integral T>
 std::optional<T> fromAscii(const Ascii& ascii);
 std::optional<double> realFromAscii(const Ascii& ascii);
 
-/// Tells the user why the text is no number.
-QString refusalReason(QStringView text, QChar decimalPoint);
+/// The text without blanks around it, cut where it is too long for a message.
+QString shortened(QStringView text);
+
+/// Tell the user what is wrong with a text, and what to type instead.
+QString refusalReason(QStringView text, const QString& example);
+QString ambiguityReason(const QString& one, const QString& other);
+QString separatorReason(const QString& whole);
 
 } // namespace TypedNumber

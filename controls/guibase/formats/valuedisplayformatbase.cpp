@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <type_traits>
 
 namespace {
 
@@ -31,6 +32,15 @@ bool isUsable(const T& value)
         return value.isValid();
     else
         return true;
+}
+
+template <typename T>
+T exampleValue()
+{
+    if constexpr (std::is_same_v<T, QDateTime>)
+        return QDateTime::currentDateTime();
+    else
+        return T(1);
 }
 
 /// A locale that neither writes nor accepts group separators.
@@ -73,7 +83,9 @@ ValueDisplayFormatBase<T>::~ValueDisplayFormatBase() = default;
 template <typename T>
 QString ValueDisplayFormatBase<T>::refusalReason(const QString&) const
 {
-    return QCoreApplication::translate("DisplayFormat", "This cannot be read.");
+    return QCoreApplication::translate("DisplayFormat",
+                                       "This cannot be read. Type it as in \"%1\".")
+        .arg(textFromValue(exampleValue<T>()));
 }
 
 template <typename T>
@@ -105,7 +117,7 @@ T ValueDisplayFormatBase<T>::valueFromFullText(const QString& text, bool* ok) co
     bool read = false;
     T value{};
     if (!m_suffixRequired || suffixMatch(text))
-        value = bareValue(text, range, &read);
+        value = valueFromText(text.mid(range.start, range.end - range.start), &read);
     if (read) {
         value = m_valueConverter(value, FromDisplay);
         read = isUsable(value);
@@ -119,27 +131,6 @@ template <typename T>
 DisplayAffix::Match ValueDisplayFormatBase<T>::suffixMatch(const QString& text) const
 {
     return m_suffix.matchEndingAt(text, dropBlanks(text, text.size()));
-}
-
-template <typename T>
-T ValueDisplayFormatBase<T>::bareValue(const QString& text, Range range, bool* read) const
-{
-    const auto part = [&text](Range bare) {
-        const bool isWhole = bare.start == 0 && bare.end == text.size();
-        return isWhole ? text : text.mid(bare.start, bare.end - bare.start);
-    };
-    // What stands at the number without a blank may be digits of it.
-    Range wider = range;
-    if (range.start > 0 && !text[range.start - 1].isSpace())
-        wider.start = skipBlanks(text, 0);
-    if (range.end < text.size() && !text[range.end].isSpace())
-        wider.end = dropBlanks(text, text.size());
-    if (!m_suffixRequired && (wider.start != range.start || wider.end != range.end)) {
-        T value = valueFromText(part(wider), read);
-        if (*read)
-            return value;
-    }
-    return valueFromText(part(range), read);
 }
 
 template <typename T>

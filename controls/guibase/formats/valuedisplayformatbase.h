@@ -66,7 +66,7 @@ public:
     virtual T valueFromText(const QString& text, bool* ok) const = 0;
     /// Writes the bare number or date.
     virtual QString textFromValue(T value) const = 0;
-    /// Tells the user why valueFromText() does not read this text.
+    /// Tells the user why valueFromText() does not read this text, and what to type instead.
     virtual QString refusalReason(const QString& text) const;
     /// Stored values from `minimum` to `maximum` whose texts are as wide as any between them; by
     /// default the two bounds.
@@ -77,9 +77,9 @@ public:
     /// The text with prefix and suffix. Exceptions of the converter pass through; an empty
     /// converter throws std::bad_function_call.
     QString fullTextFromValue(const T& value) const;
-    /// Reads a text with or without prefix and suffix. An affix that is not parted from the number
-    /// by a blank is one only where the text cannot be read with it: "1B" in base 16. A converter
-    /// that returns no finite number, or no valid date, makes the reading fail; its exceptions pass
+    /// Reads a text with or without prefix and suffix. An affix always counts as one, even where
+    /// its letters could be digits: with the suffix "B", "1B" is 1 in base 16 too. A converter that
+    /// returns no finite number, or no valid date, makes the reading fail; its exceptions pass
     /// through. `ok` may be null.
     T valueFromFullText(const QString& text, bool* ok) const;
     /// The suffix at the end of the text, behind which there may be blanks only.
@@ -128,8 +128,6 @@ protected:
     const LocaleNotation& notation() const { return m_notation; }
 
 private:
-    T bareValue(const QString& text, Range range, bool* read) const;
-
     QLocale m_locale;
     LocaleNotation m_notation;
     bool m_useLocale = false;

@@ -15,9 +15,6 @@ class GUIBASE_EXPORT TypedInput
 public:
     enum class Quantity { Value, Minimum, Maximum, SingleStep };
 
-    /// Longer texts are refused unread.
-    static constexpr int longestText = 32767;
-
     virtual ~TypedInput();
 
     /// Integers come as qlonglong or qulonglong, real numbers as double, points in time as

@@ -109,6 +109,7 @@ class TestDisplayFormats : public GuardedTest
     using Framed = TestRows<QString, QString, QString>;
     using Numbers = TestRows<QString, QString, QString, QString>;
     using Frequencies = TestRows<int, QString, QString>;
+    using Messages = TestRows<int, QString, QString>;
     using Dates = TestRows<QString, QString, QString, QString>;
 
 private Q_SLOTS:
@@ -121,8 +122,10 @@ private Q_SLOTS:
         row("prefix twice", "", "f= f= 5", "-");
         row("other case", "", "5 mhz", "-");
         row("own pattern", "[mM]([hH]z)?", "5m", "f= 5 MHz");
-        row("matches all", ".*", "51", "f= 51 MHz");
+        row("matches every digit", ".*", "51", "f= 5 MHz");
         row("invalid", "(", "5", "f= 5 MHz");
+        row("prefix behind blanks", "", "  F=5", "f= 5 MHz");
+        row("prefix not in front", "", "5 F=", "-");
     }
     void framesNumbers()
     {
@@ -130,6 +133,7 @@ private Q_SLOTS:
         const auto format =
             withSuffix<IntegralNumberDisplayFormat<int>>(QStringLiteral("MHz"), suffixPattern);
         format->setPrefix(QStringLiteral("f="));
+        format->setPrefixPattern(QRegularExpression(QStringLiteral("^[fF]=")));
         QCOMPARE(echoed(*format->clone(), text), echo);
     }
     void readsNumbers_data()
@@ -161,7 +165,6 @@ private Q_SLOTS:
         row.add("C", "2147483648", "-", "2147483648.000000");
         row.add("C", "-", "-", "-");
         row.add("de_DE", "1,500", "-", "1.500000");
-        row.add("de_DE", "1.500", "-", "-");
         row.add("de_DE", "1.234,5", "-", "1234.500000");
         row.add("fr_FR", "14.225", "-", "14.225000");
         row.add("ar_EG", "\u0661\u0665", "15", "15.000000");
@@ -184,6 +187,33 @@ private Q_SLOTS:
             QCOMPARE(ok ? QString::number(number, 'f', 6) : QStringLiteral("-"), expectedReal);
         }
     }
+    void saysWhatToTypeInstead_data()
+    {
+        Messages row; // unit of frequencies (0: real number, -n: integer in base n), text, message
+        row.add(0, "1,500", "Ambiguous: type 1.500 or 1500.");
+        row.add(0, " ", "Type a number, such as 12.5.");
+        row.add(0, "abc", "\"abc\" cannot be read. Type a number such as 12.5.");
+        row.add(-10, "1,500", "Type whole numbers without separators: 1500.");
+        row.add(-10, "7.5", "Type a whole number, without decimals.");
+        row.add(-10, "128", "Type a number from -128 to 127.");
+        row.add(-16, "xyz", "\"xyz\" cannot be read. Type a number such as 1a.");
+        row.add(1, "14,225", "Type whole numbers without separators: 14225 Hz.");
+        row.add(3, "7.074.000", "Ambiguous: type 7074000 Hz or 7.074 MHz.");
+        row.add(3, "14,225", "Ambiguous: type 14.225 MHz or 14225 MHz.");
+        row.add(3, "1.0000001", "Type whole hertz: at most 6 decimals in MHz.");
+    }
+    void saysWhatToTypeInstead()
+    {
+        const auto& [unit, text, message] = Messages::fetch();
+        IntegralNumberDisplayFormat<signed char> integer;
+        integer.setBase(-unit);
+        const RealNumberDisplayFormat<double> real;
+        const FrequencyDisplayFormat frequency(static_cast<UnitPrefix::ESuffix>(unit));
+        QCOMPARE(unit < 0    ? integer.refusalReason(text)
+                 : unit == 0 ? real.refusalReason(text)
+                             : frequency.refusalReason(text),
+                 message);
+    }
     void keepsExtremes()
     {
 #define CHECK(T) checkExtremes<T>();
@@ -205,14 +235,15 @@ private Q_SLOTS:
         QCOMPARE(echoed(hexadecimal, QString::fromUtf8("\uff21\uff42")), QStringLiteral("ab"));
         QVERIFY(hexadecimal.refusalReason(QStringLiteral("fffffffff"))
                     .contains(QStringLiteral("7fffffff")));
-        // The affixes may be digits.
+        // Affixes count as such, although they could be digits.
         hexadecimal.setPrefix(QStringLiteral("f"));
         hexadecimal.setSuffix(QStringLiteral("B"));
-        QCOMPARE(echoed(hexadecimal, QStringLiteral("f 1B")), QStringLiteral("f 1b B"));
-        QCOMPARE(echoed(hexadecimal, QStringLiteral("ff")), QStringLiteral("f ff B"));
+        QCOMPARE(echoed(hexadecimal, QStringLiteral("ff1B")), QStringLiteral("f f1 B"));
         RealNumberDisplayFormat<double> real;
         real.setLocale(format.locale());
-        QCOMPARE(echoed(real, QStringLiteral("-0.500")), QStringLiteral("-0,500000"));
+        QCOMPARE(echoed(real, QStringLiteral("-1.500")), QStringLiteral("-1,500000"));
+        real.setUseLocale(true);
+        QCOMPARE(echoed(real, QStringLiteral("-1.500")), QStringLiteral("-1.500,000000"));
         bool ok = false;
         QCOMPARE(real.valueFromFullText(real.fullTextFromValue(-DBL_MAX), &ok), -DBL_MAX);
     }
