@@ -3,7 +3,7 @@ guibase_room(frequencies
     PUBLIC
         frequencytoaxisstring.cpp frequencytoaxisstring.h
         stringformatter.cpp stringformatter.h
-        suffixeddouble.cpp suffixeddouble.h
+        suffixeddouble.cpp suffixeddouble.h suffixeddoubledigits.cpp
         unitprefix.h
     INTERNAL
         letterset_p.h)

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// The unit prefixes that frequencies are shown with. Users write SuffixedDouble::ESuffix and
-/// SuffixedDouble::Mega; the enumeration stands here so that the services need no more than it.
+/// The unit prefixes that frequencies are shown with. Applications write SuffixedDouble::ESuffix
+/// and SuffixedDouble::Mega. The enumeration has a header of its own for the services, which need
+/// nothing else of SuffixedDouble.
 namespace UnitPrefix {
 
 enum ESuffix : int {
