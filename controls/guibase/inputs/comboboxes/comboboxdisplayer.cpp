@@ -21,21 +21,26 @@ ComboBoxDisplayer::~ComboBoxDisplayer()
 
 void ComboBoxDisplayer::InsertItem(int index, const QString& text)
 {
-    for (int i = m_combo != nullptr && index == 0 ? m_combo->count() - 1 : -1; i >= 0; --i)
-        m_combo->removeItem(i);
-    if (m_combo == nullptr)
+    // Whoever hears of a change may delete the combo box, or this object.
+    const QPointer<ComboBoxDisplayer> guard(this);
+    const auto isAlive = [this, &guard] { return guard && m_combo != nullptr; };
+    if (!isAlive())
         return;
-    m_combo->insertItem(index, text);
-    if (index == m_controller->GetCount() - 1)
+    for (int i = index == 0 ? m_combo->count() - 1 : -1; i >= 0 && isAlive(); --i)
+        m_combo->removeItem(i);
+    if (isAlive())
+        m_combo->insertItem(index, text);
+    if (isAlive() && index == m_controller->GetCount() - 1)
         m_combo->setCurrentIndex(0);
 }
 
 void ComboBoxDisplayer::RemoveItem(int index)
 {
-    if (m_combo == nullptr)
-        return;
-    m_combo->removeItem(index);
-    m_combo->setCurrentIndex(0);
+    const QPointer<ComboBoxDisplayer> guard(this);
+    if (m_combo != nullptr)
+        m_combo->removeItem(index);
+    if (guard && m_combo != nullptr)
+        m_combo->setCurrentIndex(0);
 }
 
 void ComboBoxDisplayer::Select(const QString& text)
