@@ -5,6 +5,17 @@
 
 #include <QLineEdit>
 #include <QTest>
+#include <QWidget>
+
+/// Shows the box with the focus, and the text selected.
+inline void activate(QWidget& box)
+{
+    box.show();
+    QVERIFY(QTest::qWaitForWindowActive(&box));
+    box.setFocus();
+    QTRY_VERIFY(box.hasFocus());
+    QTRY_VERIFY(box.findChild<QLineEdit*>()->hasSelectedText());
+}
 
 /// Replaces the text of a box by typing, and commits it.
 template <typename Box>

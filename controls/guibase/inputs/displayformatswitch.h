@@ -4,9 +4,9 @@
 #include <QObject>
 #include <QPointer>
 
-/// Which format an input shows its value in, and which one the user typed last.
+/// Which format an input shows its value in, and which one the user has typed in last.
 ///
-/// `Input` is the widget class, which makes this class its friend and has the signals
+/// `Input` is the widget class. It makes this class its friend, and has the signals
 /// currentDisplayFormatIndexChanged(int) and lastUsedDisplayFormatIndexChanged(int), the slot
 /// updateEdit(), and selectCurrentDisplayFormatIndex().
 template <typename Input>

@@ -1,15 +1,16 @@
 # SPDX-License-Identifier: MIT
 guibase_room(inputs
     PUBLIC
-        displayformatswitch.h
         refusalmark.cpp refusalmark.h
         typedinput.cpp typedinput.h
         typedinputmacros.h
     INTERNAL
         accessibleinput.cpp accessibleinput.h
+        displayformatswitch.h
         lineedittext.cpp lineedittext.h
-        typedinputvariant.h
-        typedvalue.h)
+        typedinputbody.h
+        typedinputvalue.h
+        typedinputvariant.h)
 # The typed classes take Q_OBJECT from macros.
 list(APPEND CMAKE_AUTOMOC_MACRO_NAMES GUIBASE_NUMBER_COMBO_BOX GUIBASE_NUMBER_SPIN_BOX
     GUIBASE_TYPED_INPUT_MEMBERS)

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "typedinput.h"
-
 #include <QDateTime>
 #include <QVariant>
 
@@ -24,24 +22,6 @@ QVariant toVariant(const T& value)
         return QVariant(static_cast<qlonglong>(value));
     else
         return QVariant(static_cast<qulonglong>(value));
-}
-
-/// Invalid for the single step.
-template <typename T>
-QVariant quantityOf(TypedInput::Quantity quantity, const T& value, const T& minimum,
-                    const T& maximum)
-{
-    switch (quantity) {
-    case TypedInput::Quantity::Value:
-        return toVariant(value);
-    case TypedInput::Quantity::Minimum:
-        return toVariant(minimum);
-    case TypedInput::Quantity::Maximum:
-        return toVariant(maximum);
-    case TypedInput::Quantity::SingleStep:
-        break;
-    }
-    return {};
 }
 
 template <typename T, typename Wide>

@@ -1,33 +1,52 @@
 // SPDX-License-Identifier: MIT
 #include "abstractcombobox.h"
 
-#include <guibase/inputs/accessibleinput.h>
-#include <guibase/inputs/lineedittext.h>
+#include "itemwatch_p.h"
 
-#include <QAbstractItemModel>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QPointer>
-#include <QTimer>
-#include <QWheelEvent>
+#include <guibase/inputs/typedinputbody.h>
+
+#include <QCompleter>
+#include <QStandardItemModel>
 
 namespace ComboBoxes {
 
+namespace {
+
+/// Whether this is the completer that the toolkit gives every new line edit.
+bool isToolkitCompleter(const QCompleter* completer, const QLineEdit& edit)
+{
+    return completer != nullptr && completer->QObject::parent() == &edit &&
+           completer->completionMode() == QCompleter::InlineCompletion;
+}
+
+} // namespace
+
+struct AbstractComboBox::Private
+{
+    explicit Private(AbstractComboBox& box)
+        : body(box)
+        , items(box, [this] { return body.isTextChanged(); })
+    {}
+
+    TypedInputBody<AbstractComboBox> body;
+    ItemWatch items;
+    QString specialValueText;
+    bool isCommitting = false;
+    QPointer<QObject> adoptedEdit;
+};
+
 AbstractComboBox::AbstractComboBox(QWidget* parent)
     : QComboBox(parent)
-    , m_formatSwitch(*this)
-    , m_mark(*this)
+    , m_d(std::make_unique<Private>(*this))
 {
-    AccessibleInput::install();
+    // Not the toolkit's first model, whose changes the toolkit knows of first.
+    AbstractComboBox::setModel(new QStandardItemModel(0, 1, this));
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
     adoptLineEdit();
-    // The wheel would give the focus, and then change the value.
-    setFocusPolicy(Qt::StrongFocus);
-    connect(this, &QComboBox::currentIndexChanged, this,
-            qOverload<int>(&AbstractComboBox::interpret));
+    connect(this, &QComboBox::currentIndexChanged, this, &AbstractComboBox::takeCurrentItem);
     // The same item chosen again shows its text without any other signal.
-    connect(this, &QComboBox::activated, this, &AbstractComboBox::chooseItem);
+    connect(this, &QComboBox::activated, this, &AbstractComboBox::takeChosenItem);
 }
 
 AbstractComboBox::~AbstractComboBox() = default;
@@ -35,17 +54,14 @@ AbstractComboBox::~AbstractComboBox() = default;
 void AbstractComboBox::adoptLineEdit()
 {
     QLineEdit* edit = lineEdit();
-    if (edit == m_adoptedEdit)
+    if (edit == m_d->adoptedEdit)
         return;
-    m_adoptedEdit = edit;
-    m_shownText = edit->text();
-    setCompleter(nullptr); // It would rewrite what is being typed.
-    edit->setValidator(nullptr);
-    edit->setMaxLength(TypedInput::longestText + 1); // A text that is cut is another number.
-    edit->setAlignment(Qt::AlignRight);
-    connect(edit, &QLineEdit::editingFinished, this, qOverload<>(&AbstractComboBox::interpret));
-    connect(edit, &QLineEdit::textEdited, this, &AbstractComboBox::clearMarkIfReadable);
-    QTimer::singleShot(0, this, &AbstractComboBox::updateEdit);
+    m_d->adoptedEdit = edit;
+    if (isToolkitCompleter(edit->completer(), *edit))
+        setCompleter(nullptr); // It would rewrite what is being typed.
+    if ((edit->alignment() & Qt::AlignHorizontal_Mask) == Qt::AlignLeading)
+        edit->setAlignment(Qt::AlignRight);
+    m_d->body.adopt(*edit);
 }
 
 // Becoming editable again makes another line edit, which is not told of in any other way.
@@ -56,19 +72,39 @@ void AbstractComboBox::childEvent(QChildEvent* event)
         adoptLineEdit();
 }
 
+TypedInputBody<AbstractComboBox>& AbstractComboBox::body()
+{
+    return m_d->body;
+}
+
+int AbstractComboBox::currentDisplayFormatIndex() const
+{
+    return m_d->body.formats.current();
+}
+
+bool AbstractComboBox::isAutoSwitchDisplayFormat() const
+{
+    return m_d->body.formats.isAutomatic();
+}
+
 void AbstractComboBox::setAutoSwitchDisplayFormat(bool automatic)
 {
-    m_formatSwitch.setAutomatic(automatic);
+    m_d->body.formats.setAutomatic(automatic);
 }
 
 void AbstractComboBox::setCurrentDisplayFormatIndex(int index)
 {
-    m_formatSwitch.setCurrent(index);
+    m_d->body.formats.setCurrent(index);
+}
+
+int AbstractComboBox::lastUsedDisplayFormatIndex() const
+{
+    return m_d->body.formats.lastUsed();
 }
 
 void AbstractComboBox::setLastUsedDisplayFormatIndex(int index)
 {
-    m_formatSwitch.setLastUsed(index);
+    m_d->body.formats.setLastUsed(index);
 }
 
 int AbstractComboBox::selectCurrentDisplayFormatIndex() const
@@ -76,10 +112,15 @@ int AbstractComboBox::selectCurrentDisplayFormatIndex() const
     return lastUsedDisplayFormatIndex();
 }
 
+const QString& AbstractComboBox::specialValueText() const
+{
+    return m_d->specialValueText;
+}
+
 void AbstractComboBox::setSpecialValueText(const QString& text)
 {
     const bool isTyping = isTextChanged();
-    m_specialValueText = text;
+    m_d->specialValueText = text;
     forgetItemValues();
     if (!isTyping)
         showValue();
@@ -87,8 +128,14 @@ void AbstractComboBox::setSpecialValueText(const QString& text)
 
 void AbstractComboBox::setModel(QAbstractItemModel* model)
 {
+    const bool isOther = model != nullptr && model != this->model();
+    if (isOther)
+        m_d->items.watchBefore(*model);
     QComboBox::setModel(model);
-    if (currentIndex() < 0) // The toolkit clears the text, and may not tell.
+    if (isOther)
+        m_d->items.watchAfter(*model);
+    if (currentIndex() < 0 &&
+        lineEdit() != nullptr) // The toolkit clears the text, and may not tell.
         showValue();
 }
 
@@ -97,103 +144,78 @@ QLineEdit* AbstractComboBox::inputLineEdit() const
     return lineEdit();
 }
 
+QString AbstractComboBox::inputRefusal() const
+{
+    return m_d->body.mark.reason();
+}
+
 void AbstractComboBox::interpret()
 {
     const QPointer<AbstractComboBox> guard(this);
-    m_isCommitting = true;
+    m_d->isCommitting = true;
     interpret(currentIndex());
     if (guard)
-        m_isCommitting = false;
+        m_d->isCommitting = false;
+}
+
+bool AbstractComboBox::isCommitting() const
+{
+    return m_d->isCommitting;
 }
 
 void AbstractComboBox::updateEdit()
 {
     forgetItemValues();
+    updateGeometry();
     showValue();
 }
 
 void AbstractComboBox::showValue()
 {
-    m_shownText = textValue();
-    if (QLineEdit* edit = lineEdit())
-        showLineEditText(*edit, m_shownText, hasFocus());
+    m_d->body.showText();
+    m_d->items.noteShown();
 }
 
 bool AbstractComboBox::isTextChanged() const
 {
-    return lineEdit() != nullptr && lineEdit()->text() != m_shownText;
+    return m_d->body.isTextChanged();
 }
 
 bool AbstractComboBox::interpretIfTextChanged()
 {
-    if (!isTextChanged())
-        return true;
-    const QPointer<QObject> guard(this);
-    interpret();
-    return guard && !m_mark.isShown();
+    return m_d->body.commitIfTextChanged();
 }
 
-void AbstractComboBox::clearMarkIfReadable(const QString& text)
+void AbstractComboBox::forgetItemValues() const
 {
-    if (m_mark.isShown() && isReadable(text))
-        m_mark.clear();
-}
-
-void AbstractComboBox::tellAccessibleValue()
-{
-    AccessibleInput::tellValue(this, *this);
-}
-
-void AbstractComboBox::watchModel()
-{
-    if (m_watchedModel != nullptr)
-        m_watchedModel->disconnect(this, nullptr);
-    m_watchedModel = model();
-    const auto watch = [this](auto signal) {
-        connect(m_watchedModel, signal, this, [this] { forgetItemValues(); });
-    };
-    watch(&QAbstractItemModel::dataChanged);
-    watch(&QAbstractItemModel::rowsInserted);
-    watch(&QAbstractItemModel::rowsRemoved);
-    watch(&QAbstractItemModel::rowsMoved);
-    watch(&QAbstractItemModel::columnsInserted);
-    watch(&QAbstractItemModel::columnsRemoved);
-    watch(&QAbstractItemModel::columnsMoved);
-    watch(&QAbstractItemModel::layoutChanged);
-    watch(&QAbstractItemModel::modelReset);
+    m_d->items.forgetValues();
 }
 
 bool AbstractComboBox::takeItemsChanged()
 {
-    if (model() != m_watchedModel) {
-        watchModel();
-        m_areItemsKnown = false;
-    }
-    // The formats are tried in another order, for one.
-    if (m_watchedRoot != rootModelIndex() || m_watchedColumn != modelColumn() ||
-        m_watchedFormat != currentDisplayFormatIndex()) {
-        m_watchedRoot = rootModelIndex();
-        m_watchedColumn = modelColumn();
-        m_watchedFormat = currentDisplayFormatIndex();
-        m_areItemsKnown = false;
-    }
-    return !std::exchange(m_areItemsKnown, true);
+    return m_d->items.takeValuesChanged(currentDisplayFormatIndex());
+}
+
+void AbstractComboBox::takeCurrentItem(int itemIndex)
+{
+    if (m_d->items.takeCurrentItem())
+        interpret(itemIndex);
+}
+
+/// The index is one of the root's items. The chosen item may be a nested one of a tree, with
+/// another text; once its value is taken, the item next to the value is the current one.
+void AbstractComboBox::takeChosenItem(int itemIndex)
+{
+    const QLineEdit* edit = lineEdit();
+    if (edit == nullptr || edit->text() == itemText(itemIndex))
+        takeItemText(currentData(edit != nullptr ? Qt::EditRole : Qt::DisplayRole).toString());
 }
 
 void AbstractComboBox::keyPressEvent(QKeyEvent* event)
 {
-    const QPointer<AbstractComboBox> guard(this);
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        event->ignore();
-        interpret();
-        if (!guard)
-            return;
-        if (QLineEdit* edit = lineEdit())
-            edit->selectAll();
-        Q_EMIT editingFinished();
+    if (m_d->body.handleReturn(*event))
         return;
+    switch (event->key()) {
     case Qt::Key_Up:
     case Qt::Key_Down:
     case Qt::Key_PageUp:
@@ -210,25 +232,20 @@ void AbstractComboBox::keyPressEvent(QKeyEvent* event)
 
 void AbstractComboBox::focusInEvent(QFocusEvent* event)
 {
-    if (QLineEdit* edit = lineEdit())
-        selectAllOnFocus(*edit, event->reason());
+    m_d->body.handleFocusIn(*event);
     QComboBox::focusInEvent(event);
 }
 
 void AbstractComboBox::wheelEvent(QWheelEvent* event)
 {
-    if (!hasFocus()) {
-        event->ignore();
-        return;
-    }
-    if (interpretIfTextChanged())
+    if (m_d->body.mayTurn(*event))
         QComboBox::wheelEvent(event);
 }
 
 void AbstractComboBox::paintEvent(QPaintEvent* event)
 {
     QComboBox::paintEvent(event);
-    m_mark.paint();
+    m_d->body.mark.paint();
 }
 
 } // namespace ComboBoxes

@@ -2,14 +2,17 @@
 #pragma once
 
 #include <guibase/guibase_export.h>
-#include <guibase/inputs/displayformatswitch.h>
-#include <guibase/inputs/refusalmark.h>
 #include <guibase/inputs/typedinput.h>
 
 #include <QComboBox>
-#include <QPersistentModelIndex>
-#include <QPointer>
 #include <QString>
+
+#include <memory>
+
+template <typename Widget>
+class DisplayFormatSwitch;
+template <typename Widget>
+class TypedInputBody;
 
 namespace ComboBoxes {
 
@@ -22,7 +25,12 @@ namespace ComboBoxes {
 /// next good input. A text that nobody changed is not read again, so that values do not lose the
 /// digits that the format does not show.
 ///
-/// The wheel does nothing without the focus, and never takes the focus.
+/// Changes of the items change neither the value nor what is being typed. One does: when the
+/// current item goes and the toolkit selects another one, that item gives its value, unless the
+/// user is typing. The wheel does nothing without the focus, and never takes the focus.
+///
+/// A line edit that the box gets later has no completer, is aligned to the right and takes long
+/// texts, unless the application has set something else by then.
 class GUIBASE_EXPORT AbstractComboBox : public QComboBox, public TypedInput
 {
     Q_OBJECT
@@ -33,13 +41,13 @@ public:
     ~AbstractComboBox() override;
 
     /// -1, the built-in default format, at first. An index without a format shows the default one.
-    int currentDisplayFormatIndex() const { return m_formatSwitch.current(); }
+    int currentDisplayFormatIndex() const;
     /// Whether the format that the user typed in becomes the current one; false at first.
-    bool isAutoSwitchDisplayFormat() const { return m_formatSwitch.isAutomatic(); }
+    bool isAutoSwitchDisplayFormat() const;
     void setAutoSwitchDisplayFormat(bool automatic);
 
     /// The text that stands for the special value; empty, which means that there is none, at first.
-    const QString& specialValueText() const { return m_specialValueText; }
+    const QString& specialValueText() const;
     void setSpecialValueText(const QString& text);
 
     /// The text of the current value.
@@ -49,10 +57,12 @@ public:
     void setModel(QAbstractItemModel* model) override;
 
     QLineEdit* inputLineEdit() const override;
-    QString inputRefusal() const override { return m_mark.reason(); }
+    QString inputRefusal() const override;
 
 Q_SIGNALS:
+    /// Another format shows the value.
     void currentDisplayFormatIndexChanged(int index);
+    /// The user has typed in another format than before.
     void lastUsedDisplayFormatIndexChanged(int index);
     /// Return or Enter was pressed.
     void editingFinished();
@@ -60,38 +70,38 @@ Q_SIGNALS:
 public Q_SLOTS:
     void setCurrentDisplayFormatIndex(int index);
     /// Shows the current value, instead of what was typed. To be called after changing a format in
-    /// use: items are then read anew, too.
+    /// use: items are then read anew, and the box may need another width.
     void updateEdit();
     /// Commits the text of the line edit; `itemIndex` is the item that was selected.
     virtual void interpret(int itemIndex) = 0;
     void interpret();
 
 protected:
-    int lastUsedDisplayFormatIndex() const { return m_formatSwitch.lastUsed(); }
+    int lastUsedDisplayFormatIndex() const;
     void setLastUsedDisplayFormatIndex(int index);
     /// The format that automatic switching makes current; the last used one by default.
     virtual int selectCurrentDisplayFormatIndex() const;
-    void switchDisplayFormatIfAutomatic() { m_formatSwitch.switchIfAutomatic(); }
 
-    /// Whether the text could be taken now, if it were committed.
-    virtual bool isReadable(const QString& text) const = 0;
+    /// Tells the user why the text would be refused if it were committed now; empty when it would
+    /// be taken.
+    virtual QString refusalOf(const QString& text) const = 0;
+    /// Takes the value of an item's text, as if it had been typed.
+    virtual void takeItemText(const QString& text) = 0;
     /// Shows the current value.
     void showValue();
-    /// Whether the text has changed since it was shown.
+    /// Whether the user has changed the text since it was shown.
     bool isTextChanged() const;
     /// False when the text is refused, which the user is to see before anything else happens, or
     /// when this object is gone.
     bool interpretIfTextChanged();
     /// Whether the text is committed by whoever typed it, instead of by a change of items.
-    bool isCommitting() const { return m_isCommitting; }
-    /// Takes the value of an item that the user has chosen.
-    virtual void chooseItem(int itemIndex) = 0;
-    RefusalMark& refusalMark() { return m_mark; }
-    void tellAccessibleValue();
+    bool isCommitting() const;
+    /// For the typed classes of this library.
+    TypedInputBody<AbstractComboBox>& body();
 
     /// To be called when items may read as other values than before.
-    void forgetItemValues() const { m_areItemsKnown = false; }
-    /// Whether the items and what they read as may have changed since the last call.
+    void forgetItemValues() const;
+    /// Whether the items, or what they read as, may have changed since the last call.
     bool takeItemsChanged();
 
     void childEvent(QChildEvent* event) override;
@@ -102,22 +112,14 @@ protected:
 
 private:
     friend class DisplayFormatSwitch<AbstractComboBox>;
+    friend class TypedInputBody<AbstractComboBox>;
+    struct Private;
 
     void adoptLineEdit();
-    void watchModel();
-    void clearMarkIfReadable(const QString& text);
+    void takeCurrentItem(int itemIndex);
+    void takeChosenItem(int itemIndex);
 
-    DisplayFormatSwitch<AbstractComboBox> m_formatSwitch;
-    QString m_specialValueText;
-    RefusalMark m_mark;
-    bool m_isCommitting = false;
-    QPointer<QObject> m_adoptedEdit;
-    QString m_shownText; ///< The text that showValue() has shown last.
-    mutable bool m_areItemsKnown = false;
-    QPointer<QAbstractItemModel> m_watchedModel;
-    QPersistentModelIndex m_watchedRoot;
-    int m_watchedColumn = 0;
-    int m_watchedFormat = -1;
+    std::unique_ptr<Private> m_d;
 };
 
 } // namespace ComboBoxes

@@ -6,4 +6,5 @@ guibase_room(inputs/comboboxes
         comboboxes.cpp comboboxes.h
         numbercomboboxbase.cpp numbercomboboxbase.h
     INTERNAL
-        closestitem_p.h)
+        closestitem_p.h
+        itemwatch.cpp itemwatch_p.h)

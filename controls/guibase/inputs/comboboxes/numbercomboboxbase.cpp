@@ -3,102 +3,125 @@
 
 #include "closestitem_p.h"
 
-#include <guibase/inputs/typedinputvariant.h>
-#include <guibase/inputs/typedvalue.h>
+#include <guibase/inputs/typedinputbody.h>
+#include <guibase/inputs/typedinputvalue.h>
 
-#include <QLineEdit>
-#include <QPointer>
 #include <QSignalBlocker>
 
 #include <algorithm>
 #include <limits>
 #include <utility>
+#include <vector>
 
 namespace ComboBoxes {
 
-using TypedValue::isValue;
+namespace {
+
+/// An item whose value is that of another member.
+struct StandIn
+{
+    std::size_t index;
+    bool isSpecial; ///< Else the item cannot be read, and counts as the current value.
+};
+
+} // namespace
+
+template <typename T>
+struct NumberComboBoxBase<T>::Private : TypedInputValue<T>
+{
+    using Limits = std::numeric_limits<T>;
+
+    Private()
+        : TypedInputValue<T>(T(0), Limits::lowest(), Limits::max())
+    {}
+
+    T specialValue = Limits::lowest();
+    std::vector<T> itemValues;
+    SortedItems<T> sortedItems;
+    std::vector<StandIn> standIns;
+};
 
 template <typename T>
 NumberComboBoxBase<T>::NumberComboBoxBase(QWidget* parent)
     : AbstractComboBox(parent)
-    , m_minimum(std::numeric_limits<T>::lowest())
-    , m_maximum(std::numeric_limits<T>::max())
-    , m_specialValue(std::numeric_limits<T>::lowest())
-    , m_sortedItems(std::make_unique<SortedItems<T>>())
+    , m_d(std::make_unique<Private>())
 {}
 
 template <typename T>
 NumberComboBoxBase<T>::~NumberComboBoxBase() = default;
 
 template <typename T>
+T NumberComboBoxBase<T>::value() const
+{
+    return m_d->value;
+}
+
+template <typename T>
+T NumberComboBoxBase<T>::minimum() const
+{
+    return m_d->minimum;
+}
+
+template <typename T>
+T NumberComboBoxBase<T>::maximum() const
+{
+    return m_d->maximum;
+}
+
+template <typename T>
 void NumberComboBoxBase<T>::setValue(T value)
 {
-    if (!isValue(value))
+    if (!m_d->isValue(value))
         return;
-    if (hasSpecialValue() && value < m_minimum)
-        value = m_specialValue;
+    if (hasSpecialValue() && value < m_d->minimum)
+        value = m_d->specialValue;
     else
-        value = std::clamp(value, m_minimum, m_maximum);
-    if (value == m_value)
+        value = std::clamp(value, m_d->minimum, m_d->maximum);
+    if (value == m_d->value)
         return;
     {
         const QSignalBlocker blocker(this);
         selectClosestIndexForValue(value);
     }
-    m_value = value;
-    refusalMark().clear();
+    m_d->value = value;
+    body().mark.clear();
     const QPointer<QObject> guard(this);
-    switchDisplayFormatIfAutomatic();
+    body().formats.switchIfAutomatic();
     if (!guard)
         return;
-    showValue();
-    tellAccessibleValue();
+    body().showNewValue();
     valueChanged(value);
 }
 
 template <typename T>
 void NumberComboBoxBase<T>::moveTo(T value)
 {
-    if (value == m_value)
-        return;
-    m_value = value;
-    refusalMark().clear();
-    showValue();
-    tellAccessibleValue();
+    m_d->value = value;
+    body().mark.clear();
+    body().showNewValue();
     valueChanged(value);
 }
 
 template <typename T>
 void NumberComboBoxBase<T>::setRange(T first, T second)
 {
-    const TypedValue::RangeChange change =
-        TypedValue::changeRange(m_minimum, m_maximum, first, second);
-    if (!change)
-        return;
-    const QPointer<QObject> guard(this);
-    if (change.ofMinimum) {
-        if (m_value < m_minimum)
-            moveTo(hasSpecialValue() ? m_specialValue : m_minimum);
-        if (guard)
-            minimumChanged(m_minimum);
-    }
-    if (guard && change.ofMaximum) {
-        if (m_maximum < m_value)
-            moveTo(m_maximum);
-        if (guard)
-            maximumChanged(m_maximum);
-    }
-    if (guard)
-        rangeChanged(m_minimum, m_maximum);
+    m_d->setRange(*this, first, second,
+                  hasSpecialValue() ? std::optional<T>(m_d->specialValue) : std::nullopt);
+}
+
+template <typename T>
+T NumberComboBoxBase<T>::specialValue() const
+{
+    return m_d->specialValue;
 }
 
 template <typename T>
 void NumberComboBoxBase<T>::setSpecialValue(T value)
 {
-    if (!isValue(value))
+    if (!m_d->isValue(value))
         return;
     const bool isTyping = isTextChanged();
-    m_specialValue = value;
+    m_d->specialValue = value;
     if (!isTyping)
         showValue();
 }
@@ -113,25 +136,65 @@ void NumberComboBoxBase<T>::setSpecialValueText(const QString& text, T value)
 template <typename T>
 void NumberComboBoxBase<T>::addDisplayFormat(std::unique_ptr<ValueDisplayFormatBase<T>> format)
 {
-    m_formats.add(std::move(format));
+    m_d->formats.add(std::move(format));
     forgetItemValues();
     // The current index may have named this format before it was there.
     if (currentDisplayFormatIndex() == countDisplayFormats() - 1)
-        showValue();
+        updateEdit();
+}
+
+template <typename T>
+int NumberComboBoxBase<T>::countDisplayFormats() const
+{
+    return m_d->formats.count();
 }
 
 template <typename T>
 ValueDisplayFormatBase<T>* NumberComboBoxBase<T>::displayFormatAt(int index) const
 {
     forgetItemValues(); // The caller may change it.
-    return m_formats.at(index);
+    return m_d->formats.at(index);
 }
 
 template <typename T>
 ValueDisplayFormatBase<T>* NumberComboBoxBase<T>::currentDisplayFormat() const
 {
     forgetItemValues();
-    return m_formats.current(currentDisplayFormatIndex());
+    return m_d->formats.current(currentDisplayFormatIndex());
+}
+
+template <typename T>
+typename DisplayFormatList<T>::Pairs NumberComboBoxBase<T>::buildDisplayFormatIndexPairs() const
+{
+    return m_d->formats.trialOrder(currentDisplayFormatIndex());
+}
+
+template <typename T>
+bool NumberComboBoxBase<T>::isSpecialText(const QString& text) const
+{
+    return hasSpecialValue() && text.trimmed() == specialValueText();
+}
+
+template <typename T>
+QString NumberComboBoxBase<T>::textValue() const
+{
+    return textFromValue(m_d->value);
+}
+
+template <typename T>
+QString NumberComboBoxBase<T>::textFromValue(T value) const
+{
+    return hasSpecialValue() && value == m_d->specialValue
+               ? specialValueText()
+               : m_d->formats.write(value, currentDisplayFormatIndex());
+}
+
+template <typename T>
+typename NumberComboBoxBase<T>::Reading NumberComboBoxBase<T>::readText(const QString& text) const
+{
+    if (isSpecialText(text))
+        return {m_d->specialValue, currentDisplayFormatIndex(), Reading::Read};
+    return m_d->formats.read(text, currentDisplayFormatIndex(), m_d->value);
 }
 
 template <typename T>
@@ -144,28 +207,6 @@ int NumberComboBoxBase<T>::displayFormatIndexByTextSample(const QString& sample,
 }
 
 template <typename T>
-bool NumberComboBoxBase<T>::isSpecialText(const QString& text) const
-{
-    return hasSpecialValue() && text.trimmed() == specialValueText();
-}
-
-template <typename T>
-typename NumberComboBoxBase<T>::Reading NumberComboBoxBase<T>::readText(const QString& text) const
-{
-    if (isSpecialText(text))
-        return {m_specialValue, currentDisplayFormatIndex(), Reading::Read};
-    return m_formats.read(text, currentDisplayFormatIndex(), m_value);
-}
-
-template <typename T>
-QString NumberComboBoxBase<T>::textFromValue(T value) const
-{
-    return hasSpecialValue() && value == m_specialValue
-               ? specialValueText()
-               : m_formats.write(value, currentDisplayFormatIndex());
-}
-
-template <typename T>
 T NumberComboBoxBase<T>::valueFromText(const QString& text, bool& ok, int& index) const
 {
     return readText(text).unpacked(ok, index);
@@ -175,22 +216,15 @@ template <typename T>
 T NumberComboBoxBase<T>::validateAndInterpret(QString& text, int&, QValidator::State& state,
                                               int& index) const
 {
-    bool ok = false;
-    const T value = valueFromText(text, ok, index);
-    state = ok && isInRange(value) ? QValidator::Acceptable : QValidator::Invalid;
-    return value;
+    const Reading reading = readText(text);
+    state = m_d->stateOf(reading, index);
+    return reading.value;
 }
 
 template <typename T>
-typename DisplayFormatList<T>::Pairs NumberComboBoxBase<T>::buildDisplayFormatIndexPairs() const
+QString NumberComboBoxBase<T>::refusalOf(const QString& text) const
 {
-    return m_formats.trialOrder(currentDisplayFormatIndex());
-}
-
-template <typename T>
-bool NumberComboBoxBase<T>::isReadable(const QString& text) const
-{
-    return m_formats.refusal(text, readText(text)).isEmpty();
+    return m_d->formats.refusal(text, readText(text));
 }
 
 template <typename T>
@@ -198,54 +232,37 @@ void NumberComboBoxBase<T>::interpret(int itemIndex)
 {
     if (lineEdit() == nullptr)
         return;
-    const bool wasChanged = isTextChanged();
+    const bool isChanged = isTextChanged();
     const QString text = lineEdit()->text(); // The displayed text has blanks for line breaks.
     const Reading reading = readText(text);
     // The text that goes with the last item is nobody's input.
-    const bool isInput = wasChanged && (itemIndex >= 0 || !text.isEmpty() || isCommitting());
-    const QString refusal = isInput ? m_formats.refusal(text, reading) : QString();
-    const QPointer<QObject> guard(this);
-    if (wasChanged) {
-        refusalMark().clear();
-        if (reading.outcome == Reading::Read)
-            setValue(reading.value);
-    }
-    if (guard)
-        setLastUsedDisplayFormatIndex(reading.index);
-    if (!guard)
-        return;
-    showValue();
-    refusalMark().show(refusal);
+    const bool isInput = isChanged && (itemIndex >= 0 || !text.isEmpty() || isCommitting());
+    body().take(*this, reading, isChanged,
+                isInput ? m_d->formats.refusal(text, reading) : QString());
 }
 
 template <typename T>
-void NumberComboBoxBase<T>::chooseItem(int itemIndex)
+void NumberComboBoxBase<T>::takeItemText(const QString& text)
 {
-    if (isTextChanged()) {
-        interpret(itemIndex);
-        return;
-    }
-    // The value may differ from the item's although both are shown by the same text.
-    const Reading reading = readText(itemText(itemIndex));
-    if (reading.outcome == Reading::Read)
-        setValue(reading.value);
+    const Reading reading = readText(text);
+    body().take(*this, reading, true, m_d->formats.refusal(text, reading));
 }
 
 template <typename T>
 void NumberComboBoxBase<T>::readItems()
 {
-    m_itemValues.clear();
-    m_standIns.clear();
-    m_itemValues.reserve(static_cast<std::size_t>(count()));
+    m_d->itemValues.clear();
+    m_d->standIns.clear();
+    m_d->itemValues.reserve(static_cast<std::size_t>(count()));
     for (int i = 0; i < count(); ++i) {
         const QString text = itemText(i);
         const Reading reading = readText(text);
         const bool isSpecial = isSpecialText(text);
         if (isSpecial || reading.outcome != Reading::Read)
-            m_standIns.push_back({m_itemValues.size(), isSpecial});
-        m_itemValues.push_back(reading.value);
+            m_d->standIns.push_back({m_d->itemValues.size(), isSpecial});
+        m_d->itemValues.push_back(reading.value);
     }
-    m_sortedItems->set(m_itemValues);
+    m_d->sortedItems.set(m_d->itemValues);
 }
 
 template <typename T>
@@ -255,11 +272,11 @@ void NumberComboBoxBase<T>::selectClosestIndexForValue(T value)
         return;
     if (takeItemsChanged())
         readItems();
-    for (const StandIn& standIn : m_standIns)
-        m_itemValues[standIn.index] = standIn.isSpecial ? m_specialValue : m_value;
-    const bool isSorted = m_standIns.empty() && m_sortedItems->canFind(value);
-    const auto closest = static_cast<int>(isSorted ? m_sortedItems->closest(value)
-                                                   : closestItem<T>(m_itemValues, value));
+    for (const StandIn& standIn : m_d->standIns)
+        m_d->itemValues[standIn.index] = standIn.isSpecial ? m_d->specialValue : m_d->value;
+    const bool isSorted = m_d->standIns.empty() && m_d->sortedItems.canFind(value);
+    const auto closest = static_cast<int>(isSorted ? m_d->sortedItems.closest(value)
+                                                   : closestItem<T>(m_d->itemValues, value));
     if (closest != currentIndex())
         setCurrentIndex(closest);
 }
@@ -269,13 +286,13 @@ T NumberComboBoxBase<T>::itemValue(int index, bool& ok) const
 {
     int format = -1;
     ok = false;
-    return index >= 0 && index < count() ? valueFromText(itemText(index), ok, format) : m_value;
+    return index >= 0 && index < count() ? valueFromText(itemText(index), ok, format) : m_d->value;
 }
 
 template <typename T>
 QVariant NumberComboBoxBase<T>::inputQuantity(Quantity quantity) const
 {
-    return TypedInputVariant::quantityOf(quantity, m_value, m_minimum, m_maximum);
+    return m_d->quantity(quantity);
 }
 
 template <typename T>

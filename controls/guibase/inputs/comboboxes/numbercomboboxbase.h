@@ -8,10 +8,9 @@
 #include <QValidator>
 
 #include <memory>
-#include <vector>
 
 template <typename T>
-class SortedItems;
+class TypedInputValue;
 
 namespace ComboBoxes {
 
@@ -27,31 +26,32 @@ public:
     ~NumberComboBoxBase() override;
 
     /// 0 at first.
-    T value() const { return m_value; }
+    T value() const;
     /// The finite limits of the type at first.
-    T minimum() const { return m_minimum; }
-    T maximum() const { return m_maximum; }
-    QPair<T, T> range() const { return {m_minimum, m_maximum}; }
+    T minimum() const;
+    T maximum() const;
+    QPair<T, T> range() const { return {minimum(), maximum()}; }
 
     /// A value outside the range is replaced by the nearer bound; below the minimum by the special
     /// value if there is a text for it. Selects the closest item.
     virtual void setValue(T value);
     /// The bounds in any order. A value outside moves to the nearer bound; below the minimum to the
-    /// special value if there is a text for it. The current item stays.
+    /// special value if there is a text for it, which is told of also when it is the value already.
+    /// The current item stays.
     virtual void setRange(T first, T second);
     void setRange(const QPair<T, T>& range) { setRange(range.first, range.second); }
-    void setMinimum(T minimum) { setRange(minimum, m_maximum); }
-    void setMaximum(T maximum) { setRange(m_minimum, maximum); }
+    void setMinimum(T bound) { setRange(bound, maximum()); }
+    void setMaximum(T bound) { setRange(minimum(), bound); }
 
     /// What the special-value text stands for; the lowest value of the type at first.
-    T specialValue() const { return m_specialValue; }
+    T specialValue() const;
     void setSpecialValue(T value);
     using AbstractComboBox::setSpecialValueText;
     void setSpecialValueText(const QString& text, T value);
 
     /// The box owns the format; its index is the count of formats before. Null is ignored.
     void addDisplayFormat(std::unique_ptr<ValueDisplayFormatBase<T>> format);
-    int countDisplayFormats() const { return m_formats.count(); }
+    int countDisplayFormats() const;
     /// Null for an index out of range. Call updateEdit() after changing a format in use.
     ValueDisplayFormatBase<T>* displayFormatAt(int index) const;
     /// The default format when there is none at the current index.
@@ -69,13 +69,14 @@ public:
     /// The value that the item reads as; the current one, with `ok` false, when it cannot be read.
     T itemValue(int index, bool& ok) const;
 
-    QString textValue() const override { return textFromValue(m_value); }
+    QString textValue() const override;
     void interpret(int itemIndex) override;
     using AbstractComboBox::interpret;
 
     QVariant inputQuantity(Quantity quantity) const override;
     bool setInputValue(const QVariant& value) override;
 
+    /// Signals of the typed classes, emitted after the change.
     virtual void valueChanged(T value) = 0;
     virtual void minimumChanged(T minimum) = 0;
     virtual void maximumChanged(T maximum) = 0;
@@ -93,31 +94,21 @@ protected:
                            int& index) const;
     typename DisplayFormatList<T>::Pairs buildDisplayFormatIndexPairs() const;
 
-    bool isReadable(const QString& text) const override;
-    void chooseItem(int itemIndex) override;
+    QString refusalOf(const QString& text) const override;
+    void takeItemText(const QString& text) override;
 
 private:
-    struct StandIn
-    {
-        std::size_t index;
-        bool isSpecial; ///< Else the item cannot be read.
-    };
+    friend class TypedInputValue<T>;
+    struct Private;
 
     bool hasSpecialValue() const { return !specialValueText().isEmpty(); }
     bool isSpecialText(const QString& text) const;
-    bool isInRange(T value) const { return !(value < m_minimum) && !(m_maximum < value); }
     Reading readText(const QString& text) const;
     void moveTo(T value);
+    void adoptRange() {}
     void readItems();
 
-    T m_value = T(0);
-    T m_minimum;
-    T m_maximum;
-    T m_specialValue;
-    DisplayFormatList<T> m_formats;
-    std::vector<T> m_itemValues;
-    std::unique_ptr<SortedItems<T>> m_sortedItems;
-    std::vector<StandIn> m_standIns; ///< Items whose values are those of other members.
+    std::unique_ptr<Private> m_d;
 };
 
 #define GUIBASE_EXTERN_COMBO_BOX(T) extern template class NumberComboBoxBase<T>;

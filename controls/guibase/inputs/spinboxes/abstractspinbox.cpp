@@ -1,55 +1,75 @@
 // SPDX-License-Identifier: MIT
 #include "abstractspinbox.h"
 
-#include <guibase/inputs/accessibleinput.h>
-#include <guibase/inputs/lineedittext.h>
+#include <guibase/inputs/typedinputbody.h>
 
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QPointer>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
-#include <QTimer>
-#include <QWheelEvent>
 
 #include <algorithm>
 
 namespace SpinBoxes {
 
+struct AbstractSpinBox::Private
+{
+    explicit Private(AbstractSpinBox& box)
+        : body(box)
+    {}
+
+    TypedInputBody<AbstractSpinBox> body;
+    StepEnabled shownSteps = StepNone;
+};
+
 AbstractSpinBox::AbstractSpinBox(QWidget* parent)
     : QAbstractSpinBox(parent)
-    , m_formatSwitch(*this)
-    , m_mark(*this)
+    , m_d(std::make_unique<Private>(*this))
 {
-    AccessibleInput::install();
-    // The wheel would give the focus, and then change the value.
-    setFocusPolicy(Qt::StrongFocus);
     QLineEdit* edit = lineEdit();
     edit->setValidator(nullptr);
-    edit->setMaxLength(TypedInput::longestText + 1); // A text that is cut is another number.
-    connect(edit, &QLineEdit::editingFinished, this, &AbstractSpinBox::interpret);
-    connect(edit, &QLineEdit::textEdited, this, &AbstractSpinBox::clearMarkIfReadable);
-    QTimer::singleShot(0, this, &AbstractSpinBox::updateEdit);
+    m_d->body.adopt(*edit);
+    // The toolkit does this for its own spin boxes only.
+    setInputMethodHints(edit->inputMethodHints());
+    const auto tellInputMethod = [this] { updateMicroFocus(); };
+    connect(edit, &QLineEdit::textChanged, this, tellInputMethod);
+    connect(edit, &QLineEdit::cursorPositionChanged, this, tellInputMethod);
+    connect(edit, &QLineEdit::selectionChanged, this, tellInputMethod);
 }
 
 AbstractSpinBox::~AbstractSpinBox() = default;
 
+TypedInputBody<AbstractSpinBox>& AbstractSpinBox::body()
+{
+    return m_d->body;
+}
+
+int AbstractSpinBox::currentDisplayFormatIndex() const
+{
+    return m_d->body.formats.current();
+}
+
+bool AbstractSpinBox::isAutoSwitchDisplayFormat() const
+{
+    return m_d->body.formats.isAutomatic();
+}
+
 void AbstractSpinBox::setAutoSwitchDisplayFormat(bool automatic)
 {
-    m_formatSwitch.setAutomatic(automatic);
+    m_d->body.formats.setAutomatic(automatic);
 }
 
 void AbstractSpinBox::setCurrentDisplayFormatIndex(int index)
 {
-    if (index == currentDisplayFormatIndex())
-        return;
-    updateGeometry(); // Once the event loop runs, the texts have another length.
-    m_formatSwitch.setCurrent(index);
+    m_d->body.formats.setCurrent(index);
+}
+
+int AbstractSpinBox::lastUsedDisplayFormatIndex() const
+{
+    return m_d->body.formats.lastUsed();
 }
 
 void AbstractSpinBox::setLastUsedDisplayFormatIndex(int index)
 {
-    m_formatSwitch.setLastUsed(index);
+    m_d->body.formats.setLastUsed(index);
 }
 
 int AbstractSpinBox::selectCurrentDisplayFormatIndex() const
@@ -62,48 +82,45 @@ QLineEdit* AbstractSpinBox::inputLineEdit() const
     return lineEdit();
 }
 
+QString AbstractSpinBox::inputRefusal() const
+{
+    return m_d->body.mark.reason();
+}
+
 void AbstractSpinBox::updateEdit()
 {
-    m_shownText = textValue();
-    showLineEditText(*lineEdit(), m_shownText, hasFocus());
+    updateGeometry();
+    showValue();
+}
+
+void AbstractSpinBox::showValue()
+{
+    m_d->body.showText();
+    if (hasFocus())
+        updateMicroFocus(); // The line edit does not tell of texts that it is made to show.
     updateButtons();
+}
+
+bool AbstractSpinBox::isTextChanged() const
+{
+    return m_d->body.isTextChanged();
+}
+
+bool AbstractSpinBox::interpretIfTextChanged()
+{
+    return m_d->body.commitIfTextChanged();
 }
 
 void AbstractSpinBox::updateButtons()
 {
     const StepEnabled steps = stepEnabled();
-    if (steps == m_shownSteps)
+    if (steps == m_d->shownSteps)
         return;
-    m_shownSteps = steps;
+    m_d->shownSteps = steps;
     QStyleOptionSpinBox option;
     initStyleOption(&option);
     for (const auto button : {QStyle::SC_SpinBoxUp, QStyle::SC_SpinBoxDown})
         update(style()->subControlRect(QStyle::CC_SpinBox, &option, button, this));
-}
-
-bool AbstractSpinBox::isTextChanged() const
-{
-    return lineEdit()->text() != m_shownText;
-}
-
-bool AbstractSpinBox::interpretIfTextChanged()
-{
-    if (!isTextChanged())
-        return true;
-    const QPointer<QObject> guard(this);
-    interpret();
-    return guard && !m_mark.isShown();
-}
-
-void AbstractSpinBox::clearMarkIfReadable(const QString& text)
-{
-    if (m_mark.isShown() && isReadable(text))
-        m_mark.clear();
-}
-
-void AbstractSpinBox::tellAccessibleValue()
-{
-    AccessibleInput::tellValue(this, *this);
 }
 
 QSize AbstractSpinBox::sizeFor(const QSize& lineEditSize) const
@@ -132,17 +149,9 @@ QSize AbstractSpinBox::minimumSizeHint() const
 
 void AbstractSpinBox::keyPressEvent(QKeyEvent* event)
 {
-    const QPointer<AbstractSpinBox> guard(this);
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        event->ignore();
-        interpret();
-        if (!guard)
-            return;
-        selectAll();
-        Q_EMIT editingFinished();
+    if (m_d->body.handleReturn(*event))
         return;
+    switch (event->key()) {
     case Qt::Key_Up:
     case Qt::Key_Down:
         if (event->modifiers().testFlag(Qt::ControlModifier)) {
@@ -166,7 +175,7 @@ void AbstractSpinBox::keyPressEvent(QKeyEvent* event)
 
 void AbstractSpinBox::focusInEvent(QFocusEvent* event)
 {
-    selectAllOnFocus(*lineEdit(), event->reason());
+    m_d->body.handleFocusIn(*event);
     QAbstractSpinBox::focusInEvent(event);
 }
 
@@ -179,18 +188,14 @@ void AbstractSpinBox::mousePressEvent(QMouseEvent* event)
 
 void AbstractSpinBox::wheelEvent(QWheelEvent* event)
 {
-    if (!hasFocus()) {
-        event->ignore();
-        return;
-    }
-    if (interpretIfTextChanged())
+    if (m_d->body.mayTurn(*event))
         QAbstractSpinBox::wheelEvent(event);
 }
 
 void AbstractSpinBox::paintEvent(QPaintEvent* event)
 {
     QAbstractSpinBox::paintEvent(event);
-    m_mark.paint();
+    m_d->body.mark.paint();
 }
 
 } // namespace SpinBoxes

@@ -2,12 +2,17 @@
 #pragma once
 
 #include <guibase/guibase_export.h>
-#include <guibase/inputs/displayformatswitch.h>
-#include <guibase/inputs/refusalmark.h>
 #include <guibase/inputs/typedinput.h>
 
 #include <QAbstractSpinBox>
 #include <QString>
+
+#include <memory>
+
+template <typename Widget>
+class DisplayFormatSwitch;
+template <typename Widget>
+class TypedInputBody;
 
 namespace SpinBoxes {
 
@@ -32,41 +37,44 @@ public:
     ~AbstractSpinBox() override;
 
     /// -1, the built-in default format, at first. An index without a format shows the default one.
-    int currentDisplayFormatIndex() const { return m_formatSwitch.current(); }
+    int currentDisplayFormatIndex() const;
     /// Whether the format that the user typed in becomes the current one; false at first.
-    bool isAutoSwitchDisplayFormat() const { return m_formatSwitch.isAutomatic(); }
+    bool isAutoSwitchDisplayFormat() const;
     void setAutoSwitchDisplayFormat(bool automatic);
 
     /// The text of the current value.
     virtual QString textValue() const = 0;
 
     QLineEdit* inputLineEdit() const override;
-    QString inputRefusal() const override { return m_mark.reason(); }
+    QString inputRefusal() const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
+    /// Another format shows the value.
     void currentDisplayFormatIndexChanged(int index);
+    /// The user has typed in another format than before.
     void lastUsedDisplayFormatIndexChanged(int index);
 
 public Q_SLOTS:
     void setCurrentDisplayFormatIndex(int index);
-    /// Shows the current value, instead of what was typed.
+    /// Shows the current value, instead of what was typed. To be called after changing a format in
+    /// use: the box may need another width.
     void updateEdit();
     /// Commits the text of the line edit.
     virtual void interpret() = 0;
 
 protected:
-    int lastUsedDisplayFormatIndex() const { return m_formatSwitch.lastUsed(); }
+    int lastUsedDisplayFormatIndex() const;
     void setLastUsedDisplayFormatIndex(int index);
     /// The format that automatic switching makes current; the last used one by default.
     virtual int selectCurrentDisplayFormatIndex() const;
-    void switchDisplayFormatIfAutomatic() { m_formatSwitch.switchIfAutomatic(); }
 
     /// Steps the digit (or other part) at the cursor up or down.
     virtual void stepAtCursor(int steps) = 0;
-    /// Whether the text could be taken now, if it were committed.
-    virtual bool isReadable(const QString& text) const = 0;
+    /// Tells the user why the text would be refused if it were committed now; empty when it would
+    /// be taken.
+    virtual QString refusalOf(const QString& text) const = 0;
     /// Texts as long as the value may become; they set the width.
     virtual QStringList sizeSamples() const = 0;
 
@@ -75,10 +83,12 @@ protected:
     /// False when the text is refused, which the user is to see before anything else happens, or
     /// when this object is gone.
     bool interpretIfTextChanged();
-    RefusalMark& refusalMark() { return m_mark; }
+    /// Shows the current value.
+    void showValue();
     /// To be called when anything has changed that limits the steps.
     void updateButtons();
-    void tellAccessibleValue();
+    /// For the typed classes of this library.
+    TypedInputBody<AbstractSpinBox>& body();
 
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -88,14 +98,12 @@ protected:
 
 private:
     friend class DisplayFormatSwitch<AbstractSpinBox>;
+    friend class TypedInputBody<AbstractSpinBox>;
+    struct Private;
 
-    void clearMarkIfReadable(const QString& text);
     QSize sizeFor(const QSize& lineEditSize) const;
 
-    DisplayFormatSwitch<AbstractSpinBox> m_formatSwitch;
-    RefusalMark m_mark;
-    QString m_shownText; ///< The text that updateEdit() has shown last.
-    StepEnabled m_shownSteps = StepNone;
+    std::unique_ptr<Private> m_d;
 };
 
 } // namespace SpinBoxes

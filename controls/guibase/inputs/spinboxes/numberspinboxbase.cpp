@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPointer>
 
+#include <algorithm>
 #include <cmath>
 #include <type_traits>
 

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "spinboxbase.h"
 
-#include <guibase/inputs/typedinputvariant.h>
-#include <guibase/inputs/typedvalue.h>
+#include <guibase/inputs/typedinputbody.h>
+#include <guibase/inputs/typedinputvalue.h>
 
 #include <QCoreApplication>
-#include <QLineEdit>
-#include <QPointer>
 
-#include <algorithm>
-#include <cmath>
 #include <limits>
 #include <type_traits>
 
@@ -32,14 +28,20 @@ T initialValue()
 
 namespace SpinBoxes {
 
-using TypedValue::isValue;
+template <typename T>
+struct SpinBoxBase<T>::Private : TypedInputValue<T>
+{
+    Private()
+        : TypedInputValue<T>(initialValue<T>(), minimumLimit(), maximumLimit())
+    {}
+
+    bool isNormalizing = false;
+};
 
 template <typename T>
 SpinBoxBase<T>::SpinBoxBase(QWidget* parent)
     : AbstractSpinBox(parent)
-    , m_value(initialValue<T>())
-    , m_minimum(minimumLimit())
-    , m_maximum(maximumLimit())
+    , m_d(std::make_unique<Private>())
 {}
 
 template <typename T>
@@ -64,9 +66,27 @@ T SpinBoxBase<T>::maximumLimit()
 }
 
 template <typename T>
+T SpinBoxBase<T>::value() const
+{
+    return m_d->value;
+}
+
+template <typename T>
+T SpinBoxBase<T>::minimum() const
+{
+    return m_d->minimum;
+}
+
+template <typename T>
+T SpinBoxBase<T>::maximum() const
+{
+    return m_d->maximum;
+}
+
+template <typename T>
 T SpinBoxBase<T>::normalized(T value) const
 {
-    return m_normalize ? normalizeValueToMultipleOfStep(value) : value;
+    return m_d->isNormalizing ? normalizeValueToMultipleOfStep(value) : value;
 }
 
 template <typename T>
@@ -78,88 +98,119 @@ T SpinBoxBase<T>::normalizeValueToMultipleOfStep(T value) const
 template <typename T>
 void SpinBoxBase<T>::setValue(T value)
 {
-    if (!isValue(value))
+    if (!m_d->isValue(value))
         return;
     value = normalized(value);
-    if (value == m_value)
+    if (value == m_d->value)
         return;
-    if (!isInRange(value)) {
+    if (!m_d->isInRange(value)) {
         if (correctionMode() == QAbstractSpinBox::CorrectToPreviousValue)
             return;
-        value = value < m_minimum ? m_minimum : m_maximum;
-        if (value == m_value)
-            return;
+        value = value < m_d->minimum ? m_d->minimum : m_d->maximum;
     }
-    m_value = value;
-    refusalMark().clear();
+    m_d->value = value;
+    body().mark.clear();
     const QPointer<QObject> guard(this);
-    switchDisplayFormatIfAutomatic();
+    body().formats.switchIfAutomatic();
     if (!guard)
         return;
-    updateEdit();
-    tellAccessibleValue();
+    body().showNewValue();
     valueChanged(value);
 }
 
 template <typename T>
-void SpinBoxBase<T>::moveToBound(const T& bound)
+void SpinBoxBase<T>::moveTo(T value)
 {
-    m_value = bound;
-    refusalMark().clear();
-    updateEdit();
-    tellAccessibleValue();
-    valueChanged(bound);
+    m_d->value = value;
+    body().mark.clear();
+    body().showNewValue();
+    valueChanged(value);
 }
 
 template <typename T>
 void SpinBoxBase<T>::setRange(T first, T second)
 {
-    const TypedValue::RangeChange change =
-        TypedValue::changeRange(m_minimum, m_maximum, first, second);
-    if (!change)
-        return;
+    m_d->setRange(*this, first, second);
+}
+
+template <typename T>
+void SpinBoxBase<T>::adoptRange()
+{
     updateGeometry();
     updateButtons();
-    const QPointer<QObject> guard(this);
-    if (change.ofMinimum) {
-        if (m_value < m_minimum)
-            moveToBound(m_minimum);
-        if (guard)
-            minimumChanged(m_minimum);
-    }
-    if (guard && change.ofMaximum) {
-        if (m_maximum < m_value)
-            moveToBound(m_maximum);
-        if (guard)
-            maximumChanged(m_maximum);
-    }
-    if (guard)
-        rangeChanged(m_minimum, m_maximum);
+}
+
+template <typename T>
+bool SpinBoxBase<T>::isNormalizeValueToMultipleOfStep() const
+{
+    return m_d->isNormalizing;
 }
 
 template <typename T>
 void SpinBoxBase<T>::setNormalizeValueToMultipleOfStep(bool normalize)
 {
-    if (normalize == m_normalize)
+    if (normalize == m_d->isNormalizing)
         return;
-    m_normalize = normalize;
+    m_d->isNormalizing = normalize;
     if (normalize)
-        setValue(m_value);
+        setValue(m_d->value);
 }
 
 template <typename T>
 void SpinBoxBase<T>::addDisplayFormat(std::unique_ptr<ValueDisplayFormatBase<T>> format)
 {
-    m_formats.add(std::move(format));
+    m_d->formats.add(std::move(format));
     // The current index may have named this format before it was there.
     if (currentDisplayFormatIndex() == countDisplayFormats() - 1)
         updateEdit();
 }
 
 template <typename T>
+int SpinBoxBase<T>::countDisplayFormats() const
+{
+    return m_d->formats.count();
+}
+
+template <typename T>
+ValueDisplayFormatBase<T>* SpinBoxBase<T>::displayFormatAt(int index) const
+{
+    return m_d->formats.at(index);
+}
+
+template <typename T>
 ValueDisplayFormatBase<T>* SpinBoxBase<T>::currentDisplayFormat() const
 {
-    return m_formats.current(currentDisplayFormatIndex());
+    return m_d->formats.current(currentDisplayFormatIndex());
+}
+
+template <typename T>
+const DisplayFormatList<T>& SpinBoxBase<T>::displayFormats() const
+{
+    return m_d->formats;
+}
+
+template <typename T>
+typename DisplayFormatList<T>::Pairs SpinBoxBase<T>::buildDisplayFormatIndexPairs() const
+{
+    return m_d->formats.trialOrder(currentDisplayFormatIndex());
+}
+
+template <typename T>
+QString SpinBoxBase<T>::textValue() const
+{
+    return textFromValue(m_d->value);
+}
+
+template <typename T>
+QString SpinBoxBase<T>::textFromValue(T value) const
+{
+    return m_d->formats.write(value, currentDisplayFormatIndex());
+}
+
+template <typename T>
+typename SpinBoxBase<T>::Reading SpinBoxBase<T>::readText(const QString& text) const
+{
+    return m_d->formats.read(text, currentDisplayFormatIndex(), m_d->value);
 }
 
 template <typename T>
@@ -172,18 +223,6 @@ int SpinBoxBase<T>::displayFormatIndexByTextSample(const QString& sample, bool* 
 }
 
 template <typename T>
-typename SpinBoxBase<T>::Reading SpinBoxBase<T>::readText(const QString& text) const
-{
-    return m_formats.read(text, currentDisplayFormatIndex(), m_value);
-}
-
-template <typename T>
-QString SpinBoxBase<T>::textFromValue(T value) const
-{
-    return m_formats.write(value, currentDisplayFormatIndex());
-}
-
-template <typename T>
 T SpinBoxBase<T>::valueFromText(const QString& text, bool& ok, int& index) const
 {
     return readText(text).unpacked(ok, index);
@@ -193,31 +232,16 @@ template <typename T>
 T SpinBoxBase<T>::validateAndInterpret(QString& text, int&, QValidator::State& state,
                                        int& index) const
 {
-    bool ok = false;
-    const T value = valueFromText(text, ok, index);
-    state = ok && isInRange(value) ? QValidator::Acceptable : QValidator::Invalid;
-    return value;
+    const Reading reading = readText(text);
+    state = m_d->stateOf(reading, index);
+    return reading.value;
 }
 
 template <typename T>
-typename DisplayFormatList<T>::Pairs SpinBoxBase<T>::buildDisplayFormatIndexPairs() const
+QValidator::State SpinBoxBase<T>::validate(QString& text, int&) const
 {
-    return m_formats.trialOrder(currentDisplayFormatIndex());
-}
-
-template <typename T>
-QValidator::State SpinBoxBase<T>::validate(QString& text, int& position) const
-{
-    QValidator::State state = QValidator::Invalid;
-    int index = currentDisplayFormatIndex();
-    validateAndInterpret(text, position, state, index);
-    return state;
-}
-
-template <typename T>
-bool SpinBoxBase<T>::isReadable(const QString& text) const
-{
-    return refusalOf(text, readText(text)).isEmpty();
+    int index = -1;
+    return m_d->stateOf(readText(text), index);
 }
 
 template <typename T>
@@ -228,8 +252,8 @@ QAbstractSpinBox::StepEnabled SpinBoxBase<T>::stepEnabled() const
     if (wrapping())
         return StepUpEnabled | StepDownEnabled;
     StepEnabled steps = StepNone;
-    steps.setFlag(StepUpEnabled, m_value < m_maximum);
-    steps.setFlag(StepDownEnabled, m_minimum < m_value);
+    steps.setFlag(StepUpEnabled, m_d->value < m_d->maximum);
+    steps.setFlag(StepDownEnabled, m_d->minimum < m_d->value);
     return steps;
 }
 
@@ -237,33 +261,39 @@ template <typename T>
 void SpinBoxBase<T>::stepBeyondLimit(bool up)
 {
     if (correctionMode() == QAbstractSpinBox::CorrectToNearestValue)
-        setValue(up ? m_maximum : m_minimum);
+        setValue(up ? m_d->maximum : m_d->minimum);
 }
 
 template <typename T>
-QString SpinBoxBase<T>::refusalOf(const QString& text, const Reading& reading) const
+QString SpinBoxBase<T>::refusalOf(const QString& text) const
 {
-    return reading.outcome == Reading::Read ? refusalOf(reading.value)
-                                            : m_formats.refusal(text, reading);
+    return refusalOfReading(text, readText(text));
 }
 
 template <typename T>
-QString SpinBoxBase<T>::refusalOf(const T& value) const
+QString SpinBoxBase<T>::refusalOfReading(const QString& text, const Reading& reading) const
+{
+    return reading.outcome == Reading::Read ? refusalOfValue(reading.value)
+                                            : m_d->formats.refusal(text, reading);
+}
+
+template <typename T>
+QString SpinBoxBase<T>::refusalOfValue(const T& value) const
 {
     if (correctionMode() != QAbstractSpinBox::CorrectToPreviousValue ||
-        isInRange(normalized(value)))
+        m_d->isInRange(normalized(value)))
         return {};
-    return QCoreApplication::translate("SpinBox", "Enter a value from %1 to %2.")
-        .arg(textFromValue(m_minimum), textFromValue(m_maximum));
+    return QCoreApplication::translate("SpinBox", "Type a value from %1 to %2.")
+        .arg(textFromValue(m_d->minimum), textFromValue(m_d->maximum));
 }
 
 template <typename T>
 void SpinBoxBase<T>::interpret()
 {
-    const bool wasChanged = isTextChanged();
+    const bool isChanged = isTextChanged();
     QString text = lineEdit()->text(); // The displayed text has blanks for line breaks.
     Reading reading = readText(text);
-    if (!reading.isKnown() || !isInRange(reading.value)) {
+    if (!reading.isKnown() || !m_d->isInRange(reading.value)) {
         QString corrected = text;
         fixup(corrected);
         if (corrected != text) {
@@ -271,26 +301,14 @@ void SpinBoxBase<T>::interpret()
             reading = readText(text);
         }
     }
-    const QString refusal = wasChanged ? refusalOf(text, reading) : QString();
-    const QPointer<QObject> guard(this);
-    if (wasChanged) {
-        refusalMark().clear();
-        if (reading.outcome == Reading::Read)
-            setValue(reading.value);
-    }
-    if (guard)
-        setLastUsedDisplayFormatIndex(reading.index);
-    if (!guard)
-        return;
-    updateEdit();
-    refusalMark().show(refusal);
+    body().take(*this, reading, isChanged, isChanged ? refusalOfReading(text, reading) : QString());
 }
 
 template <typename T>
 QStringList SpinBoxBase<T>::sizeSamples() const
 {
     QStringList samples;
-    for (const T& value : currentDisplayFormat()->widestValues(m_minimum, m_maximum))
+    for (const T& value : currentDisplayFormat()->widestValues(m_d->minimum, m_d->maximum))
         samples << textFromValue(value);
     if constexpr (std::is_same_v<T, double>) {
         for (QString& sample : samples)
@@ -302,7 +320,7 @@ QStringList SpinBoxBase<T>::sizeSamples() const
 template <typename T>
 QVariant SpinBoxBase<T>::inputQuantity(Quantity quantity) const
 {
-    return TypedInputVariant::quantityOf(quantity, m_value, m_minimum, m_maximum);
+    return m_d->quantity(quantity);
 }
 
 template <typename T>
@@ -311,9 +329,9 @@ bool SpinBoxBase<T>::setInputValue(const QVariant& value)
     const std::optional<T> typed = TypedInputVariant::fromVariant<T>(value);
     if (!typed || isReadOnly() || !isEnabled())
         return false;
-    const QString refusal = refusalOf(*typed);
-    refusalMark().clear();
-    refusalMark().show(refusal);
+    const QString refusal = refusalOfValue(*typed);
+    body().mark.clear();
+    body().mark.show(refusal);
     if (!refusal.isEmpty())
         return false;
     setValue(*typed);

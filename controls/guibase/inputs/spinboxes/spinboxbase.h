@@ -7,6 +7,11 @@
 #include <QPair>
 #include <QValidator>
 
+#include <memory>
+
+template <typename T>
+class TypedInputValue;
+
 namespace SpinBoxes {
 
 /// Value, range, display formats and text handling of a spin box that holds a `T`.
@@ -22,11 +27,11 @@ public:
     ~SpinBoxBase() override;
 
     /// 0 at first; for date-times the start of the year 1970 in UTC.
-    T value() const { return m_value; }
+    T value() const;
     /// The limits of the type at first.
-    T minimum() const { return m_minimum; }
-    T maximum() const { return m_maximum; }
-    QPair<T, T> range() const { return {m_minimum, m_maximum}; }
+    T minimum() const;
+    T maximum() const;
+    QPair<T, T> range() const { return {minimum(), maximum()}; }
     /// What the type can hold: for real numbers the finite ones, for date-times
     /// 1752-09-15T00:00:00Z to 9999-12-30T23:59:59.999Z, which have years of four digits in any
     /// zone.
@@ -34,32 +39,32 @@ public:
     static T maximumLimit();
 
     /// A value outside the range is ignored or, with QAbstractSpinBox::CorrectToNearestValue,
-    /// replaced by the nearer bound.
+    /// replaced by the nearer bound, which is told of also when it is the value already.
     virtual void setValue(T value);
     /// The bounds in any order. A value outside moves to the nearer bound.
     void setRange(T first, T second);
     void setRange(const QPair<T, T>& range) { setRange(range.first, range.second); }
-    void setMinimum(T minimum) { setRange(minimum, m_maximum); }
-    void setMaximum(T maximum) { setRange(m_minimum, maximum); }
+    void setMinimum(T bound) { setRange(bound, maximum()); }
+    void setMaximum(T bound) { setRange(minimum(), bound); }
 
     /// Whether values are rounded to a multiple of the single step; false at first.
-    bool isNormalizeValueToMultipleOfStep() const { return m_normalize; }
+    bool isNormalizeValueToMultipleOfStep() const;
     void setNormalizeValueToMultipleOfStep(bool normalize);
     /// The value as it would be stored; the same value where there is no single step.
     virtual T normalizeValueToMultipleOfStep(T value) const;
 
     /// The box owns the format; its index is the count of formats before. Null is ignored.
     void addDisplayFormat(std::unique_ptr<ValueDisplayFormatBase<T>> format);
-    int countDisplayFormats() const { return m_formats.count(); }
+    int countDisplayFormats() const;
     /// Null for an index out of range. Call updateEdit() after changing a format in use.
-    ValueDisplayFormatBase<T>* displayFormatAt(int index) const { return m_formats.at(index); }
+    ValueDisplayFormatBase<T>* displayFormatAt(int index) const;
     /// The default format when there is none at the current index.
     ValueDisplayFormatBase<T>* currentDisplayFormat() const;
     /// The index of the format that reads the sample or whose suffix it ends with. When `*ok` is
     /// false, the current index. `ok` may be null.
     int displayFormatIndexByTextSample(const QString& sample, bool* ok) const;
 
-    QString textValue() const override { return textFromValue(m_value); }
+    QString textValue() const override;
     /// Acceptable or Invalid; changes neither text nor position.
     QValidator::State validate(QString& text, int& position) const override;
     StepEnabled stepEnabled() const override;
@@ -68,6 +73,7 @@ public:
     QVariant inputQuantity(Quantity quantity) const override;
     bool setInputValue(const QVariant& value) override;
 
+    /// Signals of the typed classes, emitted after the change.
     virtual void valueChanged(T value) = 0;
     virtual void minimumChanged(T minimum) = 0;
     virtual void maximumChanged(T maximum) = 0;
@@ -87,24 +93,23 @@ protected:
                            int& index) const;
     typename DisplayFormatList<T>::Pairs buildDisplayFormatIndexPairs() const;
 
-    bool isInRange(const T& value) const { return !(value < m_minimum) && !(m_maximum < value); }
-    bool isReadable(const QString& text) const override;
+    QString refusalOf(const QString& text) const override;
     QStringList sizeSamples() const override;
     /// After a step that leads out of the type: the bound, or nothing, as setValue() would do.
     void stepBeyondLimit(bool up);
-    const DisplayFormatList<T>& displayFormats() const { return m_formats; }
+    const DisplayFormatList<T>& displayFormats() const;
 
 private:
-    void moveToBound(const T& bound);
-    QString refusalOf(const QString& text, const Reading& reading) const;
-    QString refusalOf(const T& value) const;
+    friend class TypedInputValue<T>;
+    struct Private;
+
+    void moveTo(T value);
+    void adoptRange();
+    QString refusalOfReading(const QString& text, const Reading& reading) const;
+    QString refusalOfValue(const T& value) const;
     T normalized(T value) const;
 
-    T m_value;
-    T m_minimum;
-    T m_maximum;
-    bool m_normalize = false;
-    DisplayFormatList<T> m_formats;
+    std::unique_ptr<Private> m_d;
 };
 
 #define GUIBASE_EXTERN_SPIN_BOX(T) extern template class SpinBoxBase<T>;

@@ -9,32 +9,43 @@
 
 #include <trovappstartup/cfgcenter.h>
 
-#include <QAccessible>
+#include <QCompleter>
+#include <QIntValidator>
 #include <QSignalSpy>
+#include <QSortFilterProxyModel>
+#include <QStandardItemModel>
 #include <QStringListModel>
 #include <QTest>
+#include <QTreeView>
 #include <QWheelEvent>
 
 #include <cfloat>
-#include <limits>
 
 using namespace ComboBoxes;
 
 namespace {
 
-/// The names that the type shows in its meta-object.
-template <typename Box>
-void checkType(const QByteArray& type)
+/// Picks an item in the list, as a user does.
+void choose(QComboBox& box, const QModelIndex& item)
 {
-    using T = decltype(Box().value());
-    Box box;
-    const QMetaObject* meta = box.metaObject();
-    QVERIFY(meta->indexOfSignal("valueChanged(" + type + ")") >= 0);
-    QVERIFY(meta->indexOfSignal("rangeChanged(" + type + "," + type + ")") >= 0);
-    QVERIFY(meta->indexOfSlot("selectClosestIndexForValue(" + type + ")") >= 0);
-    QCOMPARE(box.specialValue(), std::numeric_limits<T>::lowest());
-    QCOMPARE(box.inputLineEdit()->alignment(), Qt::AlignRight);
+    box.view()->setCurrentIndex(item);
+    QTest::keyClick(box.view(), Qt::Key_Return);
 }
+
+/// A box whose items come from a list through a filter.
+struct Filtered
+{
+    QStringListModel model;
+    QSortFilterProxyModel proxy;
+    Int32ComboBox box;
+
+    void type()
+    {
+        box.inputLineEdit()->selectAll();
+        box.inputLineEdit()->insert(QStringLiteral("12"));
+    }
+};
+using Change = void (*)(Filtered&);
 
 } // namespace
 
@@ -43,20 +54,9 @@ class TestComboBoxes : public GuardedTest
     Q_OBJECT
     using Closest = TestRows<QString, QString, double, int>;
     using Entered = TestRows<QString, int, QString, int, bool>;
+    using Changed = TestRows<QString, int, Change, int, int, QString>;
 
 private Q_SLOTS:
-    void typesShowTheirNames()
-    {
-        checkType<Int8ComboBox>("qint8");
-        checkType<UInt8ComboBox>("quint8");
-        checkType<Int16ComboBox>("qint16");
-        checkType<UInt16ComboBox>("quint16");
-        checkType<Int32ComboBox>("int");
-        checkType<UInt32ComboBox>("quint32");
-        checkType<Int64ComboBox>("qint64");
-        checkType<UInt64ComboBox>("quint64");
-        checkType<DoubleComboBox>("double");
-    }
     void selectsTheClosestItem_data()
     {
         Closest row; // type, items, value, index
@@ -150,6 +150,8 @@ private Q_SLOTS:
         box.setMinimum(60);
         box.setValue(59);
         QCOMPARE(took(), QStringLiteral("min 60,value -1"));
+        box.setMinimum(61); // The special value is told of once more.
+        QCOMPARE(took(), QStringLiteral("value -1,min 61"));
         QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("Auto"));
         enter(box, QStringLiteral("65"));
         enter(box, QStringLiteral(" Auto "));
@@ -220,32 +222,97 @@ private Q_SLOTS:
         QTest::keyClick(&box, Qt::Key_Down); // From the item next to the typed value.
         QCOMPARE(box.value(), 2.5);
         box.setValue(3);
-        box.inputLineEdit()->setText(box.itemText(1)); // The same item once more.
-        Q_EMIT box.activated(1);
+        choose(box, box.model()->index(1, 0)); // The same item once more.
         QCOMPARE(box.value(), 2.5);
         QCoreApplication::sendEvent(&box, &wheel);
         QCOMPARE(box.value(), 10.0);
         box.setValue(10.0000001); // It is shown by the text of an item.
-        Q_EMIT box.activated(box.currentIndex());
+        choose(box, box.model()->index(2, 0));
         QCOMPARE(box.value(), 10.0);
         box.clear();
         QCOMPARE(box.value(), 10.0);
         box.setEditable(false);
         box.setEditable(true); // With another line edit.
+        QTRY_COMPARE(box.inputLineEdit()->alignment(), Qt::AlignRight);
         box.inputLineEdit()->setText(QStringLiteral("4"));
         Q_EMIT box.inputLineEdit()->editingFinished();
         QVERIFY(box.value() == 4.0 && box.completer() == nullptr);
+        // What the application sets stays.
+        box.setEditable(false);
+        box.hide();
+        box.setEditable(true);
+        box.setCompleter(new QCompleter(&box));
+        box.setValidator(new QIntValidator(&box));
+        box.inputLineEdit()->setAlignment(Qt::AlignHCenter);
+        box.inputLineEdit()->setMaxLength(5);
+        box.show();
+        QTRY_COMPARE(box.inputLineEdit()->text(), QStringLiteral("4.000000").left(5));
+        QVERIFY(box.completer() != nullptr && box.validator() != nullptr);
+        QVERIFY(box.inputLineEdit()->alignment() == Qt::AlignHCenter &&
+                box.inputLineEdit()->maxLength() == 5);
     }
-    void tellsAssistiveTechnologies()
+    void picksNestedItems()
     {
-        UInt64ComboBox box;
-        QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&box);
-        QCOMPARE(interface->role(), QAccessible::ComboBox);
-        const qulonglong highest = std::numeric_limits<qulonglong>::max();
-        interface->valueInterface()->setCurrentValue(QVariant(highest - 1));
-        QCOMPARE(interface->text(QAccessible::Value), QStringLiteral("18446744073709551614"));
-        QVERIFY(interface->actionInterface()->actionNames().contains(
-            QAccessibleActionInterface::showMenuAction()));
+        QStandardItemModel model;
+        for (const char* text : {"10", "20", "30"})
+            model.appendRow(new QStandardItem(QString::fromLatin1(text)));
+        model.item(0)->appendRow(new QStandardItem(QStringLiteral("1")));
+        model.item(0)->appendRow(new QStandardItem(QStringLiteral("29")));
+        Int32ComboBox box;
+        auto* tree = new QTreeView;
+        box.setView(tree);
+        box.setModel(&model);
+        box.show();
+        tree->expandAll();
+        const QModelIndex nested = model.item(0)->child(1)->index();
+        for (const int former : {10, 29, 30}) {
+            box.setValue(former);
+            choose(box, nested);
+            QCOMPARE(box.value(), 29);
+            choose(box, nested);
+            QCOMPARE(box.value(), 29);
+        }
+    }
+    void keepsItsValueWhileItemsChange_data()
+    {
+        Changed row; // items, value, what happens; index and value then, and the text shown
+        // clang-format off
+        row("icon", "1,5,9", 4, [](Filtered& at) {
+            Q_EMIT at.model.dataChanged(at.model.index(1), at.model.index(1)); }, 1, 4, "4");
+        row("row above goes", "1,5,9", 4, [](Filtered& at) { at.model.removeRow(0); }, 0, 4, "4");
+        row("current row goes", "5,7,9", 7, [](Filtered& at) { at.model.removeRow(1); }, 1, 9, "9");
+        row("first row goes", "5,7", 5, [](Filtered& at) { at.model.removeRow(0); }, 0, 7, "7");
+        row("insertion while typing", "5,7", 7, [](Filtered& at) {
+            at.type();
+            at.box.insertItem(0, QStringLiteral("3")); }, 2, 7, "12");
+        row("removal while typing", "5,7", 7, [](Filtered& at) {
+            at.type();
+            at.model.removeRow(1); }, 0, 7, "12");
+        row("other rows", "5,7", 5, [](Filtered& at) {
+            at.model.setStringList({QStringLiteral("8")}); }, 0, 8, "8");
+        row("no rows", "", 5, [](Filtered& at) { at.model.setStringList({}); }, -1, 5, "5");
+        row("filter", "5,10,7", 10, [](Filtered& at) {
+            at.proxy.setFilterFixedString(QStringLiteral("7")); }, 0, 7, "7");
+        row("value in a slot", "5,7,10", 5, [](Filtered& at) {
+            connect(&at.box, &QComboBox::currentIndexChanged, &at.box, [&at] { at.box.setValue(10); });
+            at.model.removeRow(0); }, 1, 10, "10");
+        // clang-format on
+    }
+    void keepsItsValueWhileItemsChange()
+    {
+        const auto& [items, value, change, index, expected, text] = Changed::fetch();
+        Filtered at;
+        at.model.setStringList(items.split(u',', Qt::SkipEmptyParts));
+        at.proxy.setSourceModel(&at.model);
+        at.box.setModel(&at.proxy);
+        at.box.setValue(value);
+        QTRY_COMPARE(at.box.inputLineEdit()->text(), QString::number(value));
+        change(at);
+        QCOMPARE(at.box.currentIndex(), index);
+        QCOMPARE(at.box.value(), expected);
+        QCOMPARE(at.box.inputLineEdit()->text(), text);
+        at.box.interpret();
+        QCOMPARE(at.box.value(), text.toInt());
     }
     void showsRecentTexts()
     {
@@ -265,6 +332,12 @@ private Q_SLOTS:
         displayer.Select(QStringLiteral("c"));
         QTRY_COMPARE(items(), QStringLiteral("c,c,b"));
         QCOMPARE(cfg->GetString(QStringLiteral("Call1")), QStringLiteral("b"));
+        // Whoever hears of a change may end the displayer.
+        auto ended =
+            std::make_unique<ComboBoxDisplayer>(combo.get(), QStringLiteral("End"), 2, cfg);
+        connect(combo.get(), &QComboBox::currentIndexChanged, this, [&ended] { ended.reset(); });
+        ended->InsertItem(0, QStringLiteral("x"));
+        QVERIFY(ended == nullptr);
         combo.reset();
         displayer.Select(QStringLiteral("d"));
         QTRY_COMPARE(cfg->GetString(QStringLiteral("Call0")), QStringLiteral("d"));

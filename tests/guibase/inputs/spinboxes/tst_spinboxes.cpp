@@ -3,19 +3,17 @@
 #include "support/testrows.h"
 #include "support/typing.h"
 
-#include <guibase/formats/qdatetimedisplayformat.h>
 #include <guibase/formats/realnumberdisplayformat.h>
+#include <guibase/inputs/refusalmark.h>
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/inputs/spinboxes/qdatetimespinbox.h>
 #include <guibase/inputs/spinboxes/spinboxes.h>
 #include <guibase/services/guibase.h>
 
-#include <jtbase/datetime.h>
-#include <valueframework/valueselection.h>
-
-#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QInputMethod>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -27,16 +25,6 @@
 using namespace SpinBoxes;
 
 namespace {
-
-/// Shows the box with the focus, and the text selected.
-void activate(QAbstractSpinBox& box)
-{
-    box.show();
-    QVERIFY(QTest::qWaitForWindowActive(&box));
-    box.setFocus();
-    QTRY_VERIFY(box.hasFocus());
-    QTRY_VERIFY(box.findChild<QLineEdit*>()->hasSelectedText());
-}
 
 /// A meter that is scaled by a factor of 1000.
 std::unique_ptr<IntegralNumberDisplayFormat<int>> kiloFormat()
@@ -51,16 +39,11 @@ std::unique_ptr<IntegralNumberDisplayFormat<int>> kiloFormat()
 
 /// Every limit and its neighbour can be set, shown, typed, stepped to, and never passed.
 template <typename Box, typename T>
-void checkInteger(const char* typeName)
+void checkInteger()
 {
     constexpr T lowest = std::numeric_limits<T>::lowest();
     constexpr T highest = std::numeric_limits<T>::max();
     Box box;
-    const QMetaObject* meta = box.metaObject();
-    const QByteArray type(typeName);
-    QVERIFY(meta->indexOfSignal("valueChanged(" + type + ")") >= 0);
-    QVERIFY(meta->indexOfSignal("rangeChanged(" + type + "," + type + ")") >= 0);
-    QVERIFY(meta->indexOfSlot("setSingleStep(" + type + ")") >= 0);
     box.addDisplayFormat(integerFormat<T>(16, "u"));
     box.setCurrentDisplayFormatIndex(0);
     for (const T value : {T(lowest + 1), lowest, T(highest - 1), highest}) {
@@ -94,23 +77,19 @@ class TestSpinBoxes : public GuardedTest
     using Digits = TestRows<QString, int, int, QString>;
 
 protected:
-    void prepare() override
-    {
-        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
-        GuiBase::Instance().GetTimeZone()->SetValue(Trov::DateTime::Local_TimeZone);
-    }
+    void prepare() override { GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega); }
 
 private Q_SLOTS:
     void integersKeepTheirLimits()
     {
-        checkInteger<Int8SpinBox, qint8>("qint8");
-        checkInteger<UInt8SpinBox, quint8>("quint8");
-        checkInteger<Int16SpinBox, qint16>("qint16");
-        checkInteger<UInt16SpinBox, quint16>("quint16");
-        checkInteger<Int32SpinBox, int>("int");
-        checkInteger<UInt32SpinBox, quint32>("quint32");
-        checkInteger<Int64SpinBox, qint64>("qint64");
-        checkInteger<UInt64SpinBox, quint64>("quint64");
+        checkInteger<Int8SpinBox, qint8>();
+        checkInteger<UInt8SpinBox, quint8>();
+        checkInteger<Int16SpinBox, qint16>();
+        checkInteger<UInt16SpinBox, quint16>();
+        checkInteger<Int32SpinBox, int>();
+        checkInteger<UInt32SpinBox, quint32>();
+        checkInteger<Int64SpinBox, qint64>();
+        checkInteger<UInt64SpinBox, quint64>();
     }
     void roundsToMultiples_data()
     {
@@ -182,14 +161,14 @@ private Q_SLOTS:
         box.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
         box.setValue(101);
         box.setValue(102);
-        QCOMPARE(took(), QStringLiteral("value 100"));
+        QCOMPARE(took(), QStringLiteral("value 100,value 100"));
         box.setMaximum(60);
         QCOMPARE(took(), QStringLiteral("value 60,max 60,range 50"));
         QCOMPARE(box.stepEnabled(), QAbstractSpinBox::StepDownEnabled);
         box.setWrapping(true);
         QCOMPARE(box.stepEnabled().toInt(), 3);
         box.stepBy(1);
-        QCOMPARE(took(), QString());
+        QCOMPARE(took(), QStringLiteral("value 60"));
         box.setReadOnly(true);
         QCOMPARE(box.stepEnabled(), QAbstractSpinBox::StepNone);
     }
@@ -213,7 +192,11 @@ private Q_SLOTS:
         QCOMPARE(box.value(), 0.0);
         box.setRange(-2000, 10);
         QSignalSpy finished(&box, &QAbstractSpinBox::editingFinished);
+        QSignalSpy inputMethod(QGuiApplication::inputMethod(),
+                               &QInputMethod::cursorRectangleChanged);
         QTest::keyClick(&box, Qt::Key_Enter);
+        QVERIFY(!inputMethod.isEmpty());
+        QVERIFY(box.inputMethodQuery(Qt::ImHints).toInt() & Qt::ImhPreferNumbers);
         QCOMPARE(box.value(), -1000.5);
         QCOMPARE(edit->text(), QStringLiteral("-1000.500000"));
         QCOMPARE(edit->selectedText(), edit->text());
@@ -226,10 +209,10 @@ private Q_SLOTS:
     void marksRefusedTexts_data()
     {
         Texts row; // text, what the reason tells
-        row("ambiguous", "1,500", "thousands");
+        row("ambiguous", "1,500", "type 1.500 or 1500");
         row("beyond the range", "2000", "from 0.000000 to 1000.000000");
         row("markup", "<b>1</b>", "&lt;b");
-        row("two lines", "1\n234", "cannot be read");
+        row("two lines", "1\n234", "cannot be read. Type");
         row("long", QString(1000000, u'9'), "too long");
         row("not to be cut", QString(40000, u'0') + u'5', "too long");
     }
@@ -356,93 +339,6 @@ private Q_SLOTS:
         QTest::keyClick(&box, Qt::Key_Up, Qt::ControlModifier);
         QCOMPARE(box.value(), qint8(122));
     }
-    void tellsAssistiveTechnologies()
-    {
-        UInt64SpinBox box;
-        box.setAccessibleName(QStringLiteral("Samples"));
-        QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&box);
-        QCOMPARE(interface->role(), QAccessible::SpinBox);
-        QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Samples"));
-        const qulonglong highest = std::numeric_limits<qulonglong>::max();
-        QCOMPARE(interface->valueInterface()->maximumValue(), QVariant(highest));
-        interface->valueInterface()->setCurrentValue(QVariant(highest - 1));
-        QCOMPARE(box.value(), highest - 1);
-        QCOMPARE(interface->text(QAccessible::Value), QStringLiteral("18446744073709551614"));
-        for (const QVariant& bad : {QVariant(-1), QVariant(0.5), QVariant(qQNaN()), QVariant()}) {
-            interface->valueInterface()->setCurrentValue(bad);
-            QCOMPARE(interface->valueInterface()->currentValue(), QVariant(highest - 1));
-        }
-        interface->valueInterface()->setCurrentValue(static_cast<double>(highest));
-        QCOMPARE(box.value(), highest);
-        interface->setText(QAccessible::Value, QStringLiteral("7"));
-        QCOMPARE(box.value(), 7U);
-        interface->setText(QAccessible::Value, QStringLiteral("x"));
-        QVERIFY(!box.inputRefusal().isEmpty());
-        QCOMPARE(interface->text(QAccessible::Description), box.inputRefusal());
-        interface->editableTextInterface()->replaceText(0, 1, QStringLiteral("9"));
-        QCOMPARE(box.value(), 9U);
-        interface->editableTextInterface()->replaceText(0, 1, QStringLiteral("7"));
-        box.setMaximum(10);
-        interface->valueInterface()->setCurrentValue(20);
-        QVERIFY(interface->text(QAccessible::Description).contains(QStringLiteral("to 10")));
-        box.setReadOnly(true);
-        interface->setText(QAccessible::Value, QStringLiteral("8"));
-        QVERIFY(interface->state().readOnly && box.value() == 7U);
-    }
-    void showsDatesInTheChosenZone()
-    {
-        QDateTimeSpinBox box;
-        auto format = std::make_unique<QDateTimeDisplayFormat>();
-        format->setDateTimeFormat(QStringLiteral("yyyy-MM-dd 'at' hh:mm:ss"));
-        box.addDisplayFormat(std::move(format));
-        box.setCurrentDisplayFormatIndex(0);
-        ValueSelection& zone = *GuiBase::Instance().GetTimeZone();
-        const QDateTime time(QDate(2024, 7, 1), QTime(12, 0), Qt::UTC);
-        box.setValue(time);
-        QCOMPARE(box.textValue(),
-                 time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd 'at' hh:mm:ss")));
-        activate(box);
-        zone.SetValue(Trov::DateTime::UTC_TimeZone);
-        QLineEdit* edit = box.inputLineEdit();
-        QCOMPARE(edit->text(), QStringLiteral("2024-07-01 at 12:00:00"));
-        enter(box, QStringLiteral("2024-07-02 at 12:00:00"));
-        QCOMPARE(box.value(), time.addDays(1));
-        edit->setCursorPosition(17); // Behind the hours.
-        QTest::keyClick(&box, Qt::Key_Up);
-        edit->setCursorPosition(12);
-        QTest::keyClick(&box, Qt::Key_PageDown);
-        edit->setCursorPosition(0);
-        QTest::keyClick(&box, Qt::Key_Up, Qt::ControlModifier);
-        QCOMPARE(edit->text(), QStringLiteral("2025-06-22 at 12:01:00"));
-        // What is being typed counts in the zone that is shown.
-        edit->setText(QStringLiteral("2025-06-22 at 12:00:30"));
-        zone.SetValue(Trov::DateTime::Local_TimeZone);
-        QTest::keyClick(&box, Qt::Key_Return);
-        QCOMPARE(box.value(), QDateTime(QDate(2025, 6, 22), QTime(12, 0, 30), Qt::UTC));
-        enter(box, QStringLiteral("2025-02-30 at 12:02:00"));
-        QVERIFY(!box.inputRefusal().isEmpty());
-        box.setValue(QDateTime());
-        for (const QDateTime& limit : {box.minimumLimit(), box.maximumLimit()}) {
-            box.setValue(limit);
-            box.stepBy(limit.date().year() < 2000 ? -1 : 1);
-            QCOMPARE(box.value(), limit);
-        }
-    }
-    void findsHalfDaysAndQuotes()
-    {
-        QDateTimeSpinBox box;
-        auto format = std::make_unique<QDateTimeDisplayFormat>();
-        format->setDateTimeFormat(QStringLiteral("h:mm AP 'o''clock', MMMM d"));
-        box.addDisplayFormat(std::move(format));
-        box.setCurrentDisplayFormatIndex(0);
-        GuiBase::Instance().GetTimeZone()->SetValue(Trov::DateTime::UTC_TimeZone);
-        activate(box);
-        for (const int cursor : {0, 5, 20, 27}) {
-            box.inputLineEdit()->setCursorPosition(cursor);
-            box.stepBy(1);
-        }
-        QCOMPARE(box.textValue(), QStringLiteral("1:00 PM o'clock, February 2"));
-    }
     void survivesItsEndInItsSignals()
     {
         const std::function<void(Int32SpinBox&)> changes[] = {
@@ -492,10 +388,19 @@ private Q_SLOTS:
             return box.inputLineEdit()->width() >=
                    box.fontMetrics().horizontalAdvance(box.textValue());
         };
+        QWidget panel;
+        auto* layout = new QHBoxLayout(&panel);
         FrequencySpinBox frequency;
         frequency.setRange(0, 30'000'000);
         frequency.setValue(29'888'888);
         QVERIFY(fits(frequency));
+        layout->addWidget(&frequency);
+        layout->addStretch();
+        panel.show();
+        // A format in use that changes needs another width.
+        frequency.currentDisplayFormat()->setSuffix(QString(50, u'M'));
+        frequency.updateEdit();
+        QTRY_VERIFY(frequency.width() > frequency.fontMetrics().horizontalAdvance(u'M') * 50);
         auto format = std::make_unique<RealNumberDisplayFormat<double>>();
         format->setFormat('g');
         DoubleSpinBox real;
