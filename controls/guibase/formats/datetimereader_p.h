@@ -17,7 +17,7 @@ namespace DateTimeReader {
 /// of this zone or of local time at the time told, that of `present` itself (which stays behind
 /// when summer is typed over winter), UTC, an offset ("+02:00", "UTC-5"), or "Europe/Berlin".
 ///
-/// Weekdays, case, marks of direction and missing blanks are of no account, digits may be of any
+/// Weekdays, case, marks of direction and missing blanks do not matter. Digits may be of any
 /// script, and leading zeros may be left out where no digit follows.
 QDateTime read(const QString& text, const QString& format, const QDateTime& present,
                const QLocale& locale);

@@ -65,9 +65,9 @@ public:
     /// The default format for an index out of range. Never null.
     Format* current(int index) const;
 
-    /// The order in which formats are tried: the current one (`currentIndex`) changes places with
-    /// the first; the default format comes first when it is current and there is not exactly one
-    /// added format, and else is left out.
+    /// The order in which formats are tried. The current one (`currentIndex`) changes places with
+    /// the first one. Without added formats the default one is tried alone. With several, it comes
+    /// first when it is current; otherwise it is left out.
     Pairs trialOrder(int currentIndex) const;
 
     /// The first format in the trial order that reads the text gives value and index. Without one,
@@ -77,8 +77,8 @@ public:
     std::optional<T> readWith(int index, const QString& text) const;
     /// The text in the current format; empty when its converter throws.
     QString write(const T& value, int currentIndex) const;
-    /// Tells the user why the text that gave this reading is not taken; empty when it is, also as
-    /// a suffix alone, which is a way to change the unit.
+    /// Tells the user why the text that gave this reading is refused, and what to type instead.
+    /// Empty when it is taken. A suffix alone is taken, too: it is a way to change the unit.
     QString refusal(const QString& text, const Reading& reading) const;
 
 private:

@@ -24,10 +24,10 @@ public:
     /// the locale.
     const QString& dateTimeFormat() const { return m_dateTimeFormat; }
     void setDateTimeFormat(const QString& format) { m_dateTimeFormat = format; }
-    /// The stored value that a text is typed over. Its are the zone of texts without one, the
-    /// sections that the format does not show, and the century of years of two digits; where clocks
-    /// show a time twice, its offset decides. At first null, which stands for the start of the year
-    /// 1900 in local time.
+    /// The stored value that a text is typed over. A text takes from it the zone, if it tells none,
+    /// the sections that the format does not show, and the century of years of two digits. Where
+    /// clocks show a time twice, its offset decides. At first null, which stands for the start of
+    /// the year 1900 in local time.
     const QDateTime& presentTime() const { return m_presentTime; }
     void setPresentTime(const QDateTime& time) { m_presentTime = time; }
     /// Longer texts are refused unread.

@@ -10,6 +10,6 @@ class QString;
 /// where the user has put it (`isInUse`), unless it was at the end.
 void showLineEditText(QLineEdit& edit, const QString& text, bool isInUse);
 
-/// Selects all once the event loop runs, unless the user types before that: the next key would
-/// take that away. After a menu of the edit nothing is selected, because it may have pasted.
+/// Selects all once the event loop runs. It does not when the user types before that, since the
+/// next key would replace what was typed, nor after a menu of the line edit, which may have pasted.
 void selectAllOnFocus(QLineEdit& edit, Qt::FocusReason reason);

@@ -13,10 +13,10 @@ namespace SpinBoxes {
 /// Enters a frequency as a whole number of hertz, exactly, in the application's frequency unit.
 ///
 /// It has four formats: Hz, kHz, MHz and GHz with the indexes 0 to 3. The current one follows
-/// GuiBase::GetFrequencyUnit(), and a bare number counts in its unit; a unit that is typed
+/// GuiBase::GetFrequencyUnit(), and a bare number counts in its unit. A unit that is typed
 /// ("14225k", "1,2 GHz") counts for this number only, unless automatic switching is on. While a
-/// number is typed, a new unit waits until it is committed. At first
-/// the range is 0 to 999,999,999,999 Hz and the single step 1 kHz.
+/// number is typed, a new unit waits until it is committed. At first the range is 0 to
+/// 999,999,999,999 Hz and the single step 1 kHz.
 class GUIBASE_EXPORT FrequencySpinBox : public Int64SpinBox
 {
     Q_OBJECT

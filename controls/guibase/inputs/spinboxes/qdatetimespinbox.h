@@ -13,10 +13,10 @@ namespace SpinBoxes {
 /// Enters a point in time, shown in the time zone that the application has chosen
 /// (GuiBase::GetTimeZone()).
 ///
-/// A typed text without a zone is taken for that zone, one with a zone for its own; what the format
-/// does not show stays as it is (see QDateTimeDisplayFormat::presentTime()). While a text is typed,
-/// a new choice of the zone waits until it is committed. Steps change
-/// the section (year, minute, ...) at the cursor, in the chosen zone.
+/// A typed text counts in that zone unless it tells its own; what the format does not show stays as
+/// it is (see QDateTimeDisplayFormat::presentTime()). While a text is typed, a new choice of the
+/// zone waits until it is committed. Steps change the section (year, minute, ...) at the cursor, in
+/// the chosen zone.
 class GUIBASE_EXPORT QDateTimeSpinBox : public SpinBoxBase<QDateTime>
 {
     GUIBASE_TYPED_INPUT_MEMBERS(SpinBoxBase<QDateTime>, QDateTime)
