@@ -11,9 +11,9 @@
 #include "recentrecordings.h"
 #include "settings.h"
 
+#include <guibase/dialogs/modaldialogs.h>
 #include <guibase/services/guibase.h>
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QStatusBar>
 
@@ -61,14 +61,11 @@ std::optional<JobState> MainWindow::exportSweep()
     if (sweep.isEmpty())
         return JobState::Failed;
     const QByteArray text = exportText(sweep);
-    QFileDialog dialog(this, tr("Export the sweep"), Settings::lastFolder(),
-                       tr("Recordings (*.csv)"));
-    dialog.setOptions(GuiBase::Instance().UseNativeDialogs());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("csv"));
-    if (dialog.exec() != QDialog::Accepted)
+    const QString path =
+        ModalDialogs::askForFile(this, {QFileDialog::AcceptSave, tr("Export the sweep"),
+                                        Settings::lastFolder(), tr("Recordings (*.csv)")});
+    if (path.isEmpty())
         return std::nullopt;
-    const QString path = dialog.selectedFiles().constFirst();
     if (writeTextFile(path, text))
         return JobState::Failed;
     Settings::setLastFolder(QFileInfo(path).absolutePath());

@@ -16,10 +16,10 @@
 #include "settings.h"
 
 #include <guibase/colors/colorset.h>
+#include <guibase/dialogs/modaldialogs.h>
 #include <guibase/services/guibase.h>
 
 #include <QActionGroup>
-#include <QFileDialog>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -195,22 +195,22 @@ void MainWindow::buildHelpMenu()
 
 void MainWindow::loadColors()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Load colours"), Settings::lastFolder(), tr("Colour sets (*.cst);;All files (*)"),
-        nullptr, GuiBase::Instance().UseNativeDialogs());
+    const QString path =
+        ModalDialogs::askForFile(this, {QFileDialog::AcceptOpen, tr("Load colours"),
+                                        Settings::lastFolder(),
+                                        tr("Colour sets (*.cst);;All files (*)")});
     if (!path.isEmpty())
         ColorSet::Instance().Load(this, path);
 }
 
 void MainWindow::saveColors()
 {
-    QFileDialog dialog(this, tr("Save colours"), Settings::lastFolder(), tr("Colour sets (*.cst)"));
-    dialog.setOptions(GuiBase::Instance().UseNativeDialogs());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("cst")); // before it asks about an existing file
-    if (dialog.exec() != QDialog::Accepted)
+    const QString path =
+        ModalDialogs::askForFile(this, {QFileDialog::AcceptSave, tr("Save colours"),
+                                        Settings::lastFolder(), tr("Colour sets (*.cst)")});
+    if (path.isEmpty())
         return;
-    ColorSet::Instance().Save(this, dialog.selectedFiles().constFirst());
+    ColorSet::Instance().Save(this, path);
     GuiBase::Instance().SavePersistant(); // the name of the set
 }
 

@@ -165,8 +165,8 @@ void ColorSet::Restore()
 
 void ColorSet::rememberFile(const QString& name)
 {
-    m_fileName = name;
-    m_directory = QFileInfo(name).absolutePath();
+    m_fileName = ColorSetFile::absoluteName(name);
+    m_directory = QFileInfo(m_fileName).absolutePath();
     m_dirty = false;
 }
 
@@ -174,7 +174,7 @@ void ColorSet::Save(QWidget* parent, const QString& name)
 {
     const QPointer<QWidget> dialogParent(parent); // may die while a dialog is open
     if (name.size() > 1)
-        m_fileName = name;
+        m_fileName = ColorSetFile::absoluteName(name);
     QString file = m_fileName;
     WriteResult result = ColorSetFile::write(file, ids());
     // A current file that cannot be opened is no error: the user has just not named one yet.
@@ -198,7 +198,7 @@ void ColorSet::Load(QWidget* parent, const QString& name)
         slotRestoreFactoryColors();
         return;
     }
-    if (name == m_fileName)
+    if (ColorSetFile::absoluteName(name) == m_fileName)
         return;
     const QPointer<QWidget> dialogParent(parent); // may die while a dialog is open
     if (m_dirty && ColorSetFile::ask(dialogParent, tr("Load ColorSet"),

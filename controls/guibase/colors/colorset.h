@@ -67,7 +67,7 @@ public:
 
     // --- Colour-set files ------------------------------------------------------------------------
 
-    /// The colour-set file last loaded or saved, or factoryDefaultName.
+    /// The colour-set file last loaded or saved, with its whole path, or factoryDefaultName.
     const QString& GetName() const { return m_fileName; }
     /// Whether a slot was set since the last load, save or restoring.
     bool GetDirty() const { return m_dirty; }
@@ -75,7 +75,8 @@ public:
     /// Writes the assignment to the file `name`, which becomes the current one when it has more
     /// than one character; otherwise to the current file. Asks for a file when that cannot be
     /// opened; "**" therefore always asks. A name that the user types is put in lower case, but for
-    /// its folders, and gets the extension ".cst". When the user gives up nothing is written, the
+    /// its folders, and gets the extension ".cst"; an existing file of that name is only replaced
+    /// when the user agrees. When the user gives up nothing is written, the
     /// set stays dirty and a given name stays the current one; Backup() and Restore() help. A file
     /// that cannot be written is reported, and keeps what it held unless its folder admits no
     /// second file to write to first. The file holds the 600 bytes of the assignment and nothing

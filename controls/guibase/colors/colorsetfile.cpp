@@ -46,6 +46,11 @@ bool isOpenable(const QString& name)
     return !info.exists() || info.isFile();
 }
 
+QString absoluteName(const QString& name)
+{
+    return isOpenable(name) ? QFileInfo(name).absoluteFilePath() : name;
+}
+
 QString storedName(const QString& chosen)
 {
     const QString extension = QStringLiteral(".cst");
@@ -89,15 +94,15 @@ bool ask(QWidget* parent, const QString& title, const QString& text)
 
 QString chooseForSaving(QWidget* parent, const QString& title)
 {
-    return storedName(ModalDialogs::askForFile(
-        parent, {QFileDialog::AcceptSave, title, QCoreApplication::applicationDirPath(),
-                 fileNameFilter()}));
+    return ModalDialogs::askForFile(parent, {QFileDialog::AcceptSave, title,
+                                             QCoreApplication::applicationDirPath(),
+                                             fileNameFilter(), &storedName});
 }
 
 QString chooseForLoading(QWidget* parent, const QString& title)
 {
-    return storedName(ModalDialogs::askForFile(
-        parent, {QFileDialog::AcceptOpen, title, QString(), fileNameFilter()}));
+    return ModalDialogs::askForFile(
+        parent, {QFileDialog::AcceptOpen, title, QString(), fileNameFilter(), &storedName});
 }
 
 } // namespace ColorSetFile

@@ -1,4 +1,4 @@
 # SPDX-License-Identifier: MIT
 guibase_room(dialogs
-    INTERNAL
+    PUBLIC
         modaldialogs.cpp modaldialogs.h)

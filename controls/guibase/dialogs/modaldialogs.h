@@ -1,16 +1,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <guibase/guibase_export.h>
+
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QString>
 
+#include <functional>
+
 /// Questions to the user that survive the death of their parent while they are open, which the
 /// toolkit's static functions do not: there the dying parent deletes a dialog on the stack.
 ///
-/// Without a widget application there is nobody to ask: boxes are answered with NoButton and file
-/// dialogs with an empty name, as they are when the parent dies.
+/// Without a widget application, and in an unattended program, there is nobody to ask: boxes are
+/// answered with NoButton and file dialogs with an empty name, as they are when the parent dies.
 namespace ModalDialogs {
+
+/// Says that nobody sits at the program, as when it runs from a script; false at start. From then
+/// on no question of the library waits for an answer. Its text goes to the trace instead.
+GUIBASE_EXPORT void setUnattended(bool unattended);
+GUIBASE_EXPORT bool isUnattended();
 
 struct Box
 {
@@ -22,7 +31,7 @@ struct Box
 };
 
 /// Shows the box and waits for the answer. The text is shown as it is, without markup.
-QMessageBox::StandardButton show(QWidget* parent, const Box& box);
+GUIBASE_EXPORT QMessageBox::StandardButton show(QWidget* parent, const Box& box);
 
 /// What a file dialog is opened with; the options come from GuiBase::UseNativeDialogs().
 struct FileQuestion
@@ -31,11 +40,17 @@ struct FileQuestion
     QString title;
     QString startAt; ///< A folder, or a file that is proposed.
     QString filter;
-    /// What a new name gets that has no '.', before the user is asked whether to replace a file.
-    QString defaultSuffix = {};
+    /// Makes the name of the file from what the user chose. When none is set, names of files to
+    /// save get what withExtension() adds.
+    std::function<QString(const QString& chosen)> fileName = {};
 };
 
-/// The name that the user chose, or an empty text.
-QString askForFile(QWidget* parent, const FileQuestion& question);
+/// The name of the file to open or to save, or an empty text. The user is asked before a file that
+/// exists is named for saving, also when that is not the very name that was typed.
+GUIBASE_EXPORT QString askForFile(QWidget* parent, const FileQuestion& question);
+
+/// The name with the first extension of the filter (".cst" for "*.cst") when its last part has no
+/// '.'. Parts are separated by '/' only.
+GUIBASE_EXPORT QString withExtension(const QString& name, const QString& filter);
 
 } // namespace ModalDialogs

@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QDir>
 #include <QMenu>
-#include <QRegularExpression>
 
 namespace {
 
@@ -37,7 +36,7 @@ FileOpenManager::FileOpenManager(IFileOpener* opener, const QString& filter, QMe
         return;
     connect(menu, &QMenu::triggered, this, [this](QAction* action) {
         if (m_menu->isEntry(action))
-            SlotOpen(action);
+            openTriggered(action);
     });
 }
 
@@ -53,6 +52,7 @@ void FileOpenManager::InitMenu(int position)
         ErrorHandler::Assertion("NULL == m_pLruCtrl", sourceModule, __LINE__);
         return;
     }
+    m_menu->setPosition(position);
     m_controller = std::make_unique<LruStringListController>(this, m_maxCount, m_cfg,
                                                              QStringLiteral("RecentFile"));
     m_controller->Init();
@@ -97,7 +97,6 @@ QString FileOpenManager::askForFile(Purpose purpose)
     if (purpose == Purpose::SaveAs) {
         question.mode = QFileDialog::AcceptSave;
         question.title = QStringLiteral("Save As");
-        question.defaultSuffix = AddFileExtension(QString()).mid(1);
     } else {
         question.title = tr("File Open Dialog");
     }
@@ -121,8 +120,24 @@ void FileOpenManager::SlotOpen()
     m_opener->Open(name);
 }
 
+void FileOpenManager::openTriggered(QAction* action)
+{
+    const QPointer<FileOpenManager> guard(this);
+    SlotOpen(action);
+    if (!guard)
+        return;
+    // Connections of the application to the same signal are called next.
+    m_justOpened = action;
+    QMetaObject::invokeMethod(
+        this, [this] { m_justOpened = nullptr; }, Qt::QueuedConnection);
+}
+
 void FileOpenManager::SlotOpen(QAction* action)
 {
+    if (action != nullptr && action == m_justOpened) {
+        m_justOpened = nullptr;
+        return;
+    }
     if (action == nullptr || m_controller == nullptr || m_openerLifetime.expired())
         return;
     const QVariant data = action->data();
@@ -146,14 +161,10 @@ void FileOpenManager::SlotSaveAs()
         return;
     }
     if (!m_openerLifetime.expired())
-        m_opener->SaveAs(select(AddFileExtension(name)));
+        m_opener->SaveAs(select(name));
 }
 
 QString FileOpenManager::AddFileExtension(QString name)
 {
-    if (name.lastIndexOf(u'.') > name.lastIndexOf(u'/'))
-        return name;
-    static const QRegularExpression extension(QStringLiteral("(\\.(\\w+))"),
-                                              QRegularExpression::UseUnicodePropertiesOption);
-    return name + extension.match(m_filter).captured(1);
+    return ModalDialogs::withExtension(name, m_filter);
 }

@@ -38,8 +38,9 @@ public:
     /// Takes its entries out of the menu.
     ~FileOpenManager() override;
 
-    /// Reads the recent files and shows them in the menu, to be called once. The entries are
-    /// appended to the menu; the position is kept for the application.
+    /// Reads the recent files and shows them in the menu, to be called once. The entries go in front
+    /// of the action that is at this position when they are first shown, a moment later; a position
+    /// below 0 or behind the last action appends them.
     void InitMenu(int position);
     int menuPosition() const { return m_menuPosition; }
 
@@ -51,8 +52,8 @@ public:
     /// Where the next dialog starts: a folder, or a file that is proposed.
     void setLastDirectory(const QString& path) { m_lastDirectory = path; }
 
-    /// The entry with the text "&<index + 1> <name>"; long names are shortened while the menu is
-    /// open.
+    /// Adds the entry with the text "&<index + 1> <name>" behind those that were added before; long
+    /// names are shortened while the menu is open.
     void InsertItem(int index, const QString& name) override;
     /// Takes the entry back. Other actions of the menu stay, whatever their data.
     void RemoveItem(int index) override;
@@ -61,7 +62,8 @@ public Q_SLOTS:
     /// Asks for a file and opens it.
     void SlotOpen();
     /// Opens the recent file with the index that is the action's data. Actions without an int as
-    /// data, or with one that no file has, are ignored.
+    /// data, or with one that no file has, are ignored. The manager does this by itself for the
+    /// entries of its menu; connecting the menu's triggered() too does not open files twice.
     void SlotOpen(QAction* action);
     /// Asks for a file name, adds the missing extension, and saves.
     void SlotSaveAs();
@@ -78,6 +80,7 @@ protected:
 private:
     enum class Purpose { Open, SaveAs };
 
+    void openTriggered(QAction* action);
     QString askForFile(Purpose purpose);
     QString select(const QString& name);
 
@@ -88,6 +91,8 @@ private:
     int m_maxCount;
     ICfg* m_cfg;
     std::unique_ptr<RecentFilesMenu> m_menu;
+    /// The entry whose file the manager has just opened; only to compare with.
+    const QAction* m_justOpened = nullptr;
     std::unique_ptr<LruStringListController> m_controller;
     QString m_lastDirectory;
 };

@@ -2,6 +2,7 @@
 #include "recentfilesmenu_p.h"
 
 #include <QAction>
+#include <QActionEvent>
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QMenu>
@@ -9,6 +10,30 @@
 #include <QToolTip>
 
 #include <algorithm>
+
+/// An entry, which knows the file it stands for whatever its text shows.
+class RecentFileAction : public QAction
+{
+public:
+    RecentFileAction(const RecentFilesMenu* owner, int index, const QString& name, QMenu* menu)
+        : QAction(menu)
+        , m_owner(owner)
+        , m_index(index)
+        , m_name(name)
+    {
+        setData(index);
+        setToolTip(Qt::mightBeRichText(name) ? name.toHtmlEscaped() : name);
+    }
+
+    bool belongsTo(const RecentFilesMenu* owner) const { return m_owner == owner; }
+    int index() const { return m_index; }
+    const QString& name() const { return m_name; }
+
+private:
+    const RecentFilesMenu* m_owner; ///< Only to compare with.
+    int m_index;
+    QString m_name;
+};
 
 RecentFilesMenu::RecentFilesMenu(QMenu* menu)
     : m_menu(menu)
@@ -23,7 +48,7 @@ RecentFilesMenu::RecentFilesMenu(QMenu* menu)
 RecentFilesMenu::~RecentFilesMenu()
 {
     while (!m_entries.empty())
-        remove(m_entries.back().index);
+        remove(m_entries.rbegin()->first);
 }
 
 QString RecentFilesMenu::entryText(int index, const QString& name)
@@ -46,72 +71,88 @@ QString RecentFilesMenu::shownText(int index, const QString& name, const QFontMe
 
 bool RecentFilesMenu::isEntry(const QAction* action) const
 {
-    return std::any_of(m_entries.begin(), m_entries.end(),
-                       [action](const Entry& entry) { return entry.action == action; });
+    const auto* const entry = dynamic_cast<const RecentFileAction*>(action);
+    return entry != nullptr && entry->belongsTo(this);
 }
 
-QString RecentFilesMenu::fullText(const QAction* action) const
+bool RecentFilesMenu::hasEntry(int index, const QString& name) const
 {
-    const auto entry =
-        std::find_if(m_entries.begin(), m_entries.end(),
-                     [action](const Entry& candidate) { return candidate.action == action; });
-    return entry != m_entries.end() ? entryText(entry->index, entry->name) : action->text();
+    const auto [first, last] = m_entries.equal_range(index);
+    return std::any_of(first, last, [&name](const auto& entry) {
+        return entry.second && entry.second->name() == name;
+    });
+}
+
+bool RecentFilesMenu::isTextOfOthers(const QString& text)
+{
+    if (!m_otherTexts) {
+        m_otherTexts.emplace();
+        const QList<QAction*> actions = m_menu->actions();
+        for (const QAction* action : actions) {
+            if (!isEntry(action))
+                m_otherTexts->insert(action->text());
+        }
+    }
+    return m_otherTexts->contains(text);
 }
 
 void RecentFilesMenu::insert(int index, const QString& name)
 {
-    if (m_menu == nullptr)
+    if (m_menu == nullptr || hasEntry(index, name) || isTextOfOthers(entryText(index, name)))
         return;
-    const QString text = entryText(index, name);
-    const QList<QAction*> actions = m_menu->actions();
-    if (std::any_of(actions.begin(), actions.end(),
-                    [&](const QAction* action) { return fullText(action) == text; }))
-        return;
-    auto* const action = new QAction(text, m_menu);
-    action->setData(index);
-    action->setToolTip(Qt::mightBeRichText(name) ? name.toHtmlEscaped() : name);
-    m_entries.push_back({action, index, name});
-    showText(m_entries.back(), m_menu->isVisible());
-    m_menu->addAction(action);
+    if (m_entries.empty() && !m_menu->actions().contains(m_successor))
+        m_successor = m_menu->actions().value(m_position);
+    auto* const entry = new RecentFileAction(this, index, name, m_menu);
+    m_entries.emplace(index, entry);
+    showText(*entry, m_menu->isVisible());
+    m_menu->insertAction(m_successor, entry);
 }
 
 void RecentFilesMenu::remove(int index)
 {
-    // Entries that others have deleted go, too.
-    std::erase_if(m_entries, [](const Entry& candidate) { return !candidate.action; });
-    const auto entry =
-        std::find_if(m_entries.begin(), m_entries.end(),
-                     [index](const Entry& candidate) { return candidate.index == index; });
-    if (entry == m_entries.end())
+    const auto found = m_entries.lower_bound(index);
+    if (found == m_entries.end() || found->first != index)
         return;
-    const QPointer<QAction> action = entry->action;
-    m_entries.erase(entry);
+    const QPointer<RecentFileAction> entry = found->second;
+    m_entries.erase(found);
+    if (!entry)
+        return; // Others have deleted it.
     if (m_menu != nullptr)
-        m_menu->removeAction(action);
-    action->deleteLater(); // It may be the one that is being triggered.
+        m_menu->removeAction(entry);
+    entry->deleteLater(); // It may be the one that is being triggered.
 }
 
 void RecentFilesMenu::showTexts(bool shortened)
 {
-    for (const Entry& entry : m_entries)
-        showText(entry, shortened);
+    for (const auto& [index, entry] : m_entries) {
+        if (entry)
+            showText(*entry, shortened);
+    }
 }
 
-void RecentFilesMenu::showText(const Entry& entry, bool shortened) const
+void RecentFilesMenu::showText(RecentFileAction& entry, bool shortened) const
 {
-    if (entry.action && m_menu)
-        entry.action->setText(shortened ? shownText(entry.index, entry.name, m_menu->fontMetrics())
-                                        : entryText(entry.index, entry.name));
+    if (m_menu)
+        entry.setText(shortened ? shownText(entry.index(), entry.name(), m_menu->fontMetrics())
+                                : entryText(entry.index(), entry.name()));
 }
 
 // The menu itself would show the tool tips of all its entries, or of none.
 bool RecentFilesMenu::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::ToolTip || watched != m_menu || m_menu->toolTipsVisible())
+    const QEvent::Type type = event->type();
+    // These come from a dying menu too, which is no menu any more.
+    if (type == QEvent::ActionAdded || type == QEvent::ActionChanged ||
+        type == QEvent::ActionRemoved) {
+        if (!isEntry(static_cast<const QActionEvent*>(event)->action()))
+            m_otherTexts.reset();
+        return false;
+    }
+    if (type != QEvent::ToolTip || watched != m_menu || m_menu->toolTipsVisible())
         return false;
     const auto* help = static_cast<const QHelpEvent*>(event);
     const QAction* action = m_menu->actionAt(help->pos());
-    if (!isEntry(action) || action == nullptr)
+    if (!isEntry(action))
         return false;
     QToolTip::showText(help->globalPos(), action->toolTip(), m_menu);
     return true;

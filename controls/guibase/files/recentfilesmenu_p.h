@@ -3,13 +3,16 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 #include <QString>
 
-#include <vector>
+#include <map>
+#include <optional>
 
 class QAction;
 class QFontMetrics;
 class QMenu;
+class RecentFileAction;
 
 /// The entries of recent files in a menu that may have other entries too, and may die first. The
 /// entries go with this object.
@@ -24,7 +27,11 @@ public:
     explicit RecentFilesMenu(QMenu* menu);
     ~RecentFilesMenu() override;
 
-    /// Appends an entry with the index as data; not when the menu has one with that text.
+    /// The entries go in front of the action that is at this position when the first of them comes;
+    /// behind all where there is none.
+    void setPosition(int position) { m_position = position; }
+    /// Adds an entry with the index as data behind the others; not when the menu has one with that
+    /// text.
     void insert(int index, const QString& name);
     void remove(int index);
     bool isEntry(const QAction* action) const;
@@ -39,17 +46,15 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Entry
-    {
-        QPointer<QAction> action;
-        int index;
-        QString name;
-    };
-
-    QString fullText(const QAction* action) const;
+    bool hasEntry(int index, const QString& name) const;
+    bool isTextOfOthers(const QString& text);
     void showTexts(bool shortened);
-    void showText(const Entry& entry, bool shortened) const;
+    void showText(RecentFileAction& entry, bool shortened) const;
 
     QPointer<QMenu> m_menu;
-    std::vector<Entry> m_entries;
+    int m_position = -1;
+    QPointer<QAction> m_successor; ///< The entries are in front of it.
+    std::multimap<int, QPointer<RecentFileAction>> m_entries; ///< By index.
+    /// The texts of the menu's other actions; nothing when they may have changed.
+    std::optional<QSet<QString>> m_otherTexts;
 };

@@ -6,13 +6,13 @@
 #include "panes/paneactions.h"
 #include "settings.h"
 
+#include <guibase/dialogs/modaldialogs.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -338,13 +338,11 @@ std::optional<QString> EventLogPane::saveTo(const QString& path) const
 
 void EventLogPane::save()
 {
-    QFileDialog dialog(this, tr("Save the events"), Settings::lastFolder(), tr("Texts (*.txt)"));
-    dialog.setOptions(GuiBase::Instance().UseNativeDialogs());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("txt"));
-    if (dialog.exec() != QDialog::Accepted)
+    const QString path =
+        ModalDialogs::askForFile(this, {QFileDialog::AcceptSave, tr("Save the events"),
+                                        Settings::lastFolder(), tr("Texts (*.txt)")});
+    if (path.isEmpty())
         return;
-    const QString path = dialog.selectedFiles().constFirst();
     if (const std::optional<QString> problem = saveTo(path))
         QMessageBox::warning(this, tr("Save the events"), *problem);
     else

@@ -9,6 +9,7 @@
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
 #include <guibase/colors/colorsetcodec.h>
+#include <guibase/dialogs/modaldialogs.h>
 #include <guibase/services/guibase.h>
 
 #include <jtbase/errorhandler.h>
@@ -125,6 +126,22 @@ private Q_SLOTS:
         QCOMPARE(idOf(1), 1097);
         QCOMPARE(m_changes->size(), 2);
     }
+    void findsRelativeNamesFromOtherFolders()
+    {
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(m_folder->path()));
+        colors().Save(nullptr, QStringLiteral("a.cst"));
+        QVERIFY(QDir::setCurrent(before));
+        QCOMPARE(colors().GetName(), path("a.cst"));
+    }
+    void asksNobodyWhenUnattended()
+    {
+        ModalDialogs::setUnattended(true);
+        expectTrace("nobody is there to answer \"File Error");
+        colors().Load(nullptr, path("none.cst"));
+        ModalDialogs::setUnattended(false);
+        QCOMPARE(colors().GetName(), factoryName);
+    }
     void backsUp()
     {
         colors().SetColor(AxisText, nullptr, false);
@@ -175,11 +192,17 @@ private Q_SLOTS:
         row("missing", "%1/none/x", "%1/c.cst", asked, "c.cst");
         row("another", "", "%1/none/x Enter %1/d", {saveTitle, writeError, saveTitle}, "d.cst");
         row("given up", "", "%1/none/x Escape", {saveTitle, writeError}, "");
+        const QString replace = QStringLiteral("Save current ColorSet: old.cst already exists. "
+                                               "Do you want to replace it?");
+        row("existing", "**", "%1/Old No %1/Old Yes", {saveTitle, replace, saveTitle, replace},
+            "old.cst");
     }
     void savesByDialog()
     {
         const auto& [name, answers, shown, written] = Dialogs::fetch();
         makeDirty();
+        if (written == QLatin1String("old.cst"))
+            QVERIFY(writeFile(path("old.cst"), "old"));
         QWidget parent;
         DialogScript script(inFolder(answers).split(u' '));
         colors().Save(&parent, inFolder(name));

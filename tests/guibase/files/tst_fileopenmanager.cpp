@@ -93,9 +93,16 @@ private Q_SLOTS:
         Opener opener;
         {
             FileOpenManager manager(&opener, QString(), &menu, 4, cfg());
-            manager.InitMenu(0);
-            QTRY_COMPARE(textsOf(menu), QStringLiteral("Zoom,Quit,&1 a&b"));
-            menu.actions().at(0)->trigger();
+            manager.InitMenu(1);
+            // As the manager does by itself.
+            connect(&menu, &QMenu::triggered, &manager,
+                    qOverload<QAction*>(&FileOpenManager::SlotOpen));
+            QTRY_COMPARE(textsOf(menu), QStringLiteral("Zoom,&1 a&b,Quit"));
+            menu.insertAction(menu.actions().at(0), new QAction(QStringLiteral("Top"), &menu));
+            manager.addRecentFile(QStringLiteral("a&b"));
+            QTest::qWait(2 * LruStringListController::displayDelay);
+            QCOMPARE(textsOf(menu), QStringLiteral("Top,Zoom,&1 a&b,Quit"));
+            menu.actions().at(1)->trigger();
             QAction outside;
             for (const QVariant& data : {QVariant(), QVariant(7), QVariant(-1)}) {
                 outside.setData(data);
@@ -109,8 +116,8 @@ private Q_SLOTS:
             };
             menu.actions().at(2)->trigger();
         }
-        QCOMPARE(opener.calls.value(0), QStringLiteral("open a&b"));
-        QCOMPARE(textsOf(menu), QStringLiteral("Zoom,Quit"));
+        QCOMPARE(opener.calls, QStringList(2, QStringLiteral("open a&b")));
+        QCOMPARE(textsOf(menu), QStringLiteral("Top,Zoom,Quit"));
         QCOMPARE(storedList(), QStringLiteral("0=a&b,9=beyond the limit"));
     }
     void showsWhatOtherProgramsUse()
