@@ -4,8 +4,13 @@
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortlistviewitem.h>
 
+#include <QAbstractTableModel>
 #include <QApplication>
+#include <QSortFilterProxyModel>
+#include <QThread>
+#include <QTreeView>
 
+#include <array>
 #include <cstdio>
 #include <malloc.h>
 #include <memory>
@@ -16,6 +21,8 @@ namespace {
 constexpr int sortedRows = 100'000;
 constexpr int listedRows = 1'000; ///< In the list that rows are appended to.
 constexpr int appendedRows = 10'000;
+constexpr int arrivingRows = 1'000;
+constexpr int manyRows = 1'000'000;
 constexpr double memoryLimit = 1.4;
 enum Column { NumberColumn, TextColumn, ShuffleColumn, ColumnCount };
 
@@ -47,9 +54,99 @@ std::unique_ptr<SortListView> shownList(int rows)
     list->SetCompareFunctionLength(ColumnCount);
     list->SetCompareFunction(NumberColumn, &SortListView::_compNumericWithSuffix);
     list->SetCompareFunction(TextColumn, &SortListView::_compStandardString);
+    list->setPlacingArrivals(true);
     list->sort();
     QApplication::processEvents();
     return list;
+}
+
+/// Two columns of numbers, in no order, as any application would hold them.
+class NumberModel : public QAbstractTableModel
+{
+public:
+    NumberModel()
+        : m_rows(manyRows)
+    {
+        std::mt19937 random(4);
+        for (auto& row : m_rows)
+            row = {double(random() % 30'000'000) / 1000.0, double(random() % 30'000'000) / 1000.0};
+    }
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : int(m_rows.size());
+    }
+    int columnCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : 2;
+    }
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override
+    {
+        return role == Qt::DisplayRole ? m_rows[std::size_t(index.row())][std::size_t(index.column())]
+                                       : QVariant();
+    }
+
+private:
+    std::vector<std::array<double, 2>> m_rows;
+};
+
+/// Many rows by two columns of numbers in turn.
+void compareSortingManyRows(RatioRun& run)
+{
+    struct Sides
+    {
+        NumberModel model;
+        QSortFilterProxyModel proxy;
+        QTreeView view;
+        SortListView list;
+        int turn = 0;
+    };
+    const auto made = std::make_shared<std::unique_ptr<Sides>>();
+    const auto sides = [made]() -> Sides& {
+        if (*made)
+            return **made;
+        *made = std::make_unique<Sides>();
+        Sides& sides = **made;
+        sides.proxy.setSourceModel(&sides.model);
+        sides.view.setModel(&sides.proxy);
+        sides.list.setColumnCount(2);
+        sides.list.SetCompareFunctionLength(2);
+        for (int column : {0, 1})
+            sides.list.SetCompareFunction(column, &SortListView::_compStandardNumeric);
+        for (int row = 0; row < manyRows; ++row) {
+            const auto text = [&](int column) {
+                return QString::number(
+                    sides.model.data(sides.model.index(row, column)).toDouble(), 'f', 3);
+            };
+            new SortListViewItem(&sides.list, {text(0), text(1)});
+        }
+        for (QTreeView* view : {&sides.view, static_cast<QTreeView*>(&sides.list)}) {
+            view->setUniformRowHeights(true);
+            view->show();
+        }
+        QApplication::processEvents();
+        return sides;
+    };
+    const auto sortInTurn = [sides](benchmark::State& state, auto sort) {
+        Sides& all = sides();
+        for (auto _ : state) {
+            sort(all, ++all.turn % 2);
+            state.PauseTiming();
+            QApplication::processEvents();
+            state.ResumeTiming();
+        }
+    };
+    run.compare(
+        "Sorting 1,000,000 rows by numbers", 1.2,
+        [sortInTurn](benchmark::State& state) {
+            sortInTurn(state, [](Sides& all, int column) {
+                all.list.sortByColumn(column, Qt::AscendingOrder);
+            });
+        },
+        [sortInTurn](benchmark::State& state) {
+            sortInTurn(state, [](Sides& all, int column) {
+                all.proxy.sort(column, Qt::AscendingOrder);
+            });
+        });
 }
 
 /// Sorts by the column, after shuffling the rows outside the measured time.
@@ -80,6 +177,31 @@ void append(benchmark::State& state, std::unique_ptr<Tree> (*makeTree)(int))
         QApplication::processEvents();
         state.PauseTiming();
         tree.reset();
+        state.ResumeTiming();
+    }
+}
+
+/// Appends rows, which the tree shows (and puts in place, if it does) as soon as it can.
+template <typename Item>
+void arrive(benchmark::State& state, QTreeWidget& tree, unsigned seed)
+{
+    constexpr unsigned long longestPause = 1; // Seconds that a list may wait after placing rows.
+    std::mt19937 random(seed);
+    for (auto _ : state) {
+        state.PauseTiming();
+        QThread::sleep(longestPause);
+        std::vector<QStringList> rows(arrivingRows);
+        for (QStringList& row : rows)
+            row = randomRow(random);
+        state.ResumeTiming();
+        QTreeWidgetItem* last = nullptr;
+        for (const QStringList& row : rows)
+            last = new Item(&tree, row);
+        QApplication::processEvents();
+        state.PauseTiming();
+        const bool isLast = tree.indexOfTopLevelItem(last) + 1 == tree.topLevelItemCount();
+        if (isLast != std::is_same_v<Item, QTreeWidgetItem>)
+            state.SkipWithError("The rows are not in their places");
         state.ResumeTiming();
     }
 }
@@ -135,6 +257,22 @@ int main(int argc, char** argv)
         [](benchmark::State& state) {
             append<QTreeWidget, QTreeWidgetItem>(state, shownTree<QTreeWidget, QTreeWidgetItem>);
         });
+    const auto arrivals = [&](const char* name, int column) {
+        run.compare(
+            name, 2,
+            [&list, column](benchmark::State& state) {
+                list->sortByColumn(column, Qt::AscendingOrder);
+                QApplication::processEvents();
+                arrive<SortListViewItem>(state, *list, 5);
+            },
+            [&plain](benchmark::State& state) {
+                QApplication::processEvents();
+                arrive<QTreeWidgetItem>(state, *plain, 5);
+            });
+    };
+    arrivals("Placing 1,000 rows by numbers in a sorted list of 100,000", NumberColumn);
+    arrivals("Placing 1,000 rows by texts in a sorted list of 100,000", TextColumn);
+    compareSortingManyRows(run);
     const int result = run.run(argc, argv);
     return isSmall ? result : 1;
 }

@@ -4,12 +4,6 @@
 #include <QCheckBox>
 #include <QTreeWidget>
 
-CheckSortListViewItem::CheckSortListViewItem(QTreeWidget* tree, bool insertOnTop)
-    : SortListViewItem(tree, insertOnTop)
-{
-    init();
-}
-
 CheckSortListViewItem::CheckSortListViewItem(QTreeWidget* tree, const QString& text1,
                                              const QString& text2, const QString& text3,
                                              const QString& text4, const QString& text5,

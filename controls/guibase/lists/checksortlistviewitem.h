@@ -17,7 +17,12 @@ class QCheckBox;
 class GUIBASE_EXPORT CheckSortListViewItem : public SortListViewItem
 {
 public:
-    explicit CheckSortListViewItem(QTreeWidget* tree, bool insertOnTop = false);
+    explicit CheckSortListViewItem(QTreeWidget* tree)
+        : CheckSortListViewItem(tree, QStringList())
+    {}
+    CheckSortListViewItem(QTreeWidget* tree, std::same_as<bool> auto insertOnTop)
+        : CheckSortListViewItem(tree, QStringList(), insertOnTop)
+    {}
     CheckSortListViewItem(QTreeWidget* tree, const QString& text1, const QString& text2 = {},
                           const QString& text3 = {}, const QString& text4 = {},
                           const QString& text5 = {}, const QString& text6 = {},

@@ -11,5 +11,7 @@ guibase_room(lists
         sortrowtable.cpp sortrowtable.h
     INTERNAL
         itemwalk_p.h
+        listcolumns.cpp listcolumns_p.h
+        listheader.cpp listheader_p.h
         listsorter.cpp listsorter_p.h
         sortkeys.cpp sortkeys_p.h)

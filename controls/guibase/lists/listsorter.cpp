@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "listsorter_p.h"
 
+#include "isortcallback.h"
 #include "sortlistview.h"
 
 #include <QAbstractItemModel>
-#include <QElapsedTimer>
-#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
-#include <chrono>
 #include <limits>
 #include <typeinfo>
-#include <vector>
+#include <utility>
 
 namespace {
 
@@ -34,44 +32,52 @@ quint32 nextRunNumber()
     return number;
 }
 
+bool isPlainItem(const QTreeWidgetItem& item)
+{
+    return typeid(item) == typeid(SortListViewItem);
+}
+
 SortListViewItem* castItem(QTreeWidgetItem* item)
 {
     // Most rows are of this very class, which is told faster than a class derived from it.
-    return typeid(*item) == typeid(SortListViewItem) ? static_cast<SortListViewItem*>(item)
-                                                     : dynamic_cast<SortListViewItem*>(item);
+    return isPlainItem(*item) ? static_cast<SortListViewItem*>(item)
+                              : dynamic_cast<SortListViewItem*>(item);
 }
 
-/// Keeps the row at the view's upper edge there while others move. A view that shows its first row
-/// goes on doing so.
-class UpperEdge
-{
-public:
-    explicit UpperEdge(QTreeView& view)
-        : m_view(view)
-    {
-        if (view.verticalScrollBar()->value() == view.verticalScrollBar()->minimum())
-            return;
-        m_row = view.indexAt(QPoint(view.isRightToLeft() ? view.viewport()->width() - 1 : 0, 0));
-        m_top = view.visualRect(m_row).top();
-    }
-    void restore() const
-    {
-        if (!m_row.isValid() || m_view.visualRect(m_row).top() == m_top)
-            return;
-        const int left = m_view.horizontalScrollBar()->value();
-        m_view.scrollTo(m_row, QAbstractItemView::PositionAtTop);
-        if (m_view.verticalScrollMode() == QAbstractItemView::ScrollPerPixel)
-            m_view.verticalScrollBar()->setValue(m_view.verticalScrollBar()->value() - m_top);
-        m_view.horizontalScrollBar()->setValue(left);
-    }
-
-private:
-    QTreeView& m_view;
-    QPersistentModelIndex m_row;
-    int m_top = 0;
-};
-
 } // namespace
+
+ISortCallback::~ISortCallback() = default;
+
+// --- The row at the upper edge --------------------------------------------------------------------
+
+void UpperEdge::note(QTreeView& view)
+{
+    const QScrollBar& bar = *view.verticalScrollBar();
+    if (m_isNoted && m_scrolled == bar.value())
+        return;
+    m_isNoted = true;
+    m_scrolled = bar.value();
+    m_row = QPersistentModelIndex();
+    if (m_scrolled == bar.minimum())
+        return;
+    m_row = view.indexAt(QPoint(view.isRightToLeft() ? view.viewport()->width() - 1 : 0, 0));
+    m_top = view.visualRect(m_row).top();
+}
+
+void UpperEdge::restore(QTreeView& view)
+{
+    m_isNoted = false;
+    const QPersistentModelIndex row = std::exchange(m_row, {});
+    if (!row.isValid() || view.visualRect(row).top() == m_top)
+        return;
+    const int left = view.horizontalScrollBar()->value();
+    view.scrollTo(row, QAbstractItemView::PositionAtTop);
+    if (view.verticalScrollMode() == QAbstractItemView::ScrollPerPixel)
+        view.verticalScrollBar()->setValue(view.verticalScrollBar()->value() - m_top);
+    view.horizontalScrollBar()->setValue(left);
+}
+
+// --- The keys of one sort ---------------------------------------------------------------------------
 
 struct ListSorter::Run
 {
@@ -79,42 +85,53 @@ struct ListSorter::Run
         : keys(function)
     {}
 
+    using Items = std::vector<SortListViewItem*>;
+
     /// Reads the keys of all items below the root. Items of the earlier run keep what they had.
     void readKeys(QTreeWidgetItem& root, int column, const Run* earlier);
     void addItem(SortListViewItem& item, int column, const Run* earlier);
-    void rank(const std::vector<SortListViewItem*>& items);
+    /// Reads and ranks items that came behind the first `sorted` rows below the root, which have
+    /// ranks. False when that cannot be told without ranking all items anew.
+    bool addArrivals(const QTreeWidgetItem& root, int sorted, Qt::SortOrder order, int column,
+                     Items arrivals);
 
     quint32 number = nextRunNumber();
     SortKeys keys;
-    bool isRanked = false;      ///< The items' ranks are set.
-    bool hasOtherItems = false; ///< There are items that are no SortListViewItems.
+    bool isRanked = false;         ///< The items' ranks are set.
+    bool hasOtherItems = false;    ///< There are items that are no SortListViewItems.
+    bool hasOnlyPlainItems = true; ///< None of a class derived from SortListViewItem, either.
 };
 
 /// While it lives, the items are compared by the keys of the run.
 class ListSorter::Running
 {
 public:
-    explicit Running(const Run& run)
+    Running(const ListSorter& sorter, const Run& run)
         : m_run(s_run, &run)
+        , m_sorter(s_sorter, &sorter)
         , m_rankedRun(s_rankedRun, run.isRanked && !run.hasOtherItems ? run.number : noRun)
-    {}
+    {
+        if (s_rankedRun == noRun || !run.hasOnlyPlainItems)
+            return;
+        // The last slot of the signal, after which the toolkit does nothing but sort.
+        QObject::connect(sorter.m_view.model(), &QAbstractItemModel::layoutAboutToBeChanged,
+                         &m_lastSlot, [number = run.number] { s_exclusiveRun = number; });
+    }
+    ~Running() { s_exclusiveRun = noRun; }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
 
 private:
     QScopedValueRollback<const Run*> m_run;
+    QScopedValueRollback<const ListSorter*> m_sorter;
     QScopedValueRollback<quint32> m_rankedRun;
+    QObject m_lastSlot;
 };
 
 const ListSorter::Run* ListSorter::s_run = nullptr;
+const ListSorter* ListSorter::s_sorter = nullptr;
 quint32 ListSorter::s_rankedRun = noRun;
-
-ListSorter::ListSorter(SortListView& view)
-    : m_view(view)
-{
-    m_arrivals.setSingleShot(true);
-    connect(&m_arrivals, &QTimer::timeout, this, &ListSorter::placeArrivals);
-}
-
-ListSorter::~ListSorter() = default;
+quint32 ListSorter::s_exclusiveRun = noRun;
 
 void ListSorter::Run::addItem(SortListViewItem& item, int column, const Run* earlier)
 {
@@ -125,11 +142,12 @@ void ListSorter::Run::addItem(SortListViewItem& item, int column, const Run* ear
         keys.add(item.text(column), item.GetSortKey(column));
     item.m_sortRun = number;
     item.m_sortRow = row;
+    item.m_sortRank = keys.number(row);
 }
 
 void ListSorter::Run::readKeys(QTreeWidgetItem& root, int column, const Run* earlier)
 {
-    std::vector<SortListViewItem*> items;
+    Items items;
     items.reserve(static_cast<std::size_t>(root.childCount()));
     std::vector<QTreeWidgetItem*> parents{&root};
     while (!parents.empty()) {
@@ -145,88 +163,197 @@ void ListSorter::Run::readKeys(QTreeWidgetItem& root, int column, const Run* ear
             } else {
                 hasOtherItems = true;
             }
+            hasOnlyPlainItems = hasOnlyPlainItems && isPlainItem(*child);
         }
     }
-    rank(items);
+    isRanked = keys.canRank();
+    if (!isRanked || keys.isNumeric())
+        return;
+    const std::vector<double> ranks = keys.ranks();
+    for (std::size_t i = 0; i < items.size(); ++i)
+        items[i]->m_sortRank = ranks[i];
 }
 
-void ListSorter::Run::rank(const std::vector<SortListViewItem*>& items)
+bool ListSorter::Run::addArrivals(const QTreeWidgetItem& root, int sorted, Qt::SortOrder order,
+                                  int column, Items arrivals)
 {
-    const std::optional<std::vector<double>> ranks = keys.ranks();
-    isRanked = ranks.has_value();
-    for (std::size_t i = 0; isRanked && i < items.size(); ++i)
-        items[i]->m_sortRank = (*ranks)[i];
+    for (SortListViewItem* const item : arrivals) {
+        addItem(*item, column, nullptr);
+        hasOnlyPlainItems = hasOnlyPlainItems && isPlainItem(*item);
+    }
+    if (!keys.canRank() || keys.isNumeric())
+        return keys.canRank();
+    const auto isLess = [this](const SortListViewItem* a, const SortListViewItem* b) {
+        return keys.isLess(a->m_sortRow, b->m_sortRow);
+    };
+    std::sort(arrivals.begin(), arrivals.end(), isLess);
+    const auto rowAt = [&](int i) {
+        const int row = order == Qt::AscendingOrder ? i : sorted - 1 - i;
+        return static_cast<SortListViewItem*>(root.child(row));
+    };
+    // One pass over all rows in their order: each gets the rank of the one before it when the two
+    // are equal, else the next one. Rows that were there are equal when their ranks were.
+    const SortListViewItem* before = nullptr;
+    double rankWas = 0;
+    double rank = 0;
+    const auto rankNext = [&](SortListViewItem& item, bool isEqual) {
+        rankWas = std::exchange(item.m_sortRank, rank = isEqual ? rank : rank + 1);
+        before = &item;
+    };
+    int done = 0;
+    const auto rankRowsUpTo = [&](int end, const SortListViewItem* arrival) {
+        for (; done < end; ++done) {
+            SortListViewItem& item = *rowAt(done);
+            rankNext(item, before != nullptr && (before == arrival ? !isLess(arrival, &item)
+                                                                   : rankWas == item.m_sortRank));
+        }
+    };
+    const SortListViewItem* former = nullptr;
+    for (SortListViewItem* const item : arrivals) {
+        int low = done;
+        for (int high = sorted; low < high;) {
+            const int middle = low + (high - low) / 2;
+            if (isLess(rowAt(middle), item))
+                low = middle + 1;
+            else
+                high = middle;
+        }
+        rankRowsUpTo(low, former);
+        rankNext(*item, former != nullptr && before == former && !isLess(former, item));
+        former = item;
+    }
+    rankRowsUpTo(sorted, former);
+    return true;
 }
 
-void ListSorter::sortAll(int column, Qt::SortOrder order)
+// --- What is sorted by --------------------------------------------------------------------------------
+
+ListSorter::ListSorter(SortListView& view)
+    : m_view(view)
+{
+    m_arrivals.setSingleShot(true);
+    connect(&m_arrivals, &QTimer::timeout, this, &ListSorter::placeArrivals);
+    connect(view.model(), &QAbstractItemModel::layoutChanged, this, &ListSorter::adoptOrder);
+}
+
+ListSorter::~ListSorter() = default;
+
+void ListSorter::setFunctionCount(int count)
 {
     forgetOrder();
-    if (m_view.maySort())
-        sortRows(column, order, nullptr);
-    else
-        m_view.QTreeWidget::sortItems(column, order);
+    m_functions.resize(static_cast<std::size_t>(std::max(count, 0)), nullptr);
 }
 
-void ListSorter::sortRows(int column, Qt::SortOrder order, const Run* earlier)
+void ListSorter::setFunction(int column, CompareFunction function)
+{
+    if (column < 0 || static_cast<std::size_t>(column) >= m_functions.size())
+        return;
+    forgetOrder();
+    m_functions[static_cast<std::size_t>(column)] = function;
+}
+
+ListSorter::CompareFunction ListSorter::function(int column) const
+{
+    const bool isSet = column >= 0 && static_cast<std::size_t>(column) < m_functions.size();
+    return isSet ? m_functions[static_cast<std::size_t>(column)] : nullptr;
+}
+
+bool ListSorter::maySort() const
+{
+    return m_callback == nullptr && m_isAllowed && m_view.isVisible();
+}
+
+int ListSorter::compare(int column, const QString& a, const QString& b) const
+{
+    if (!maySort())
+        return 0;
+    const CompareFunction own = function(column);
+    return own == nullptr ? a.compare(b) : own(b, a);
+}
+
+Qt::SortOrder ListSorter::orderAfterClick(int column) const
+{
+    if (column != m_column)
+        return m_order;
+    return m_order == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+}
+
+// --- Sorting --------------------------------------------------------------------------------------------
+
+void ListSorter::sort(int column, Qt::SortOrder order)
+{
+    m_column = column;
+    m_order = order;
+    forgetOrder();
+    const QPointer<ListSorter> self(this);
+    if (m_callback != nullptr && m_callback->sort(column, order == Qt::AscendingOrder))
+        return;
+    if (!self || !m_isAllowed)
+        return;
+    const bool hasColumn = column >= 0 && column < m_view.columnCount();
+    if (!m_view.isVisible() || !hasColumn) {
+        m_view.header()->setSortIndicator(hasColumn ? column : -1, order);
+    } else if (maySort()) {
+        auto run = std::make_shared<Run>(function(column));
+        run->readKeys(*m_view.invisibleRootItem(), column, nullptr);
+        sortRows(std::move(run));
+    } else {
+        m_view.QTreeWidget::sortItems(column, order);
+    }
+}
+
+void ListSorter::sortRows(std::shared_ptr<Run> run)
 {
     m_arrivals.stop();
-    auto run = std::make_shared<Run>(m_view.compareFunction(column));
-    run->readKeys(*m_view.invisibleRootItem(), column, earlier);
-    m_order = order;
+    m_hasArrivalsBelow = false;
+    m_isSorted = true;
+    m_run = run;
+    const Running running(*this, *run);
+    QHeaderView& header = *m_view.header();
+    const bool isIndicated =
+        header.sortIndicatorSection() == m_column && header.sortIndicatorOrder() == m_order;
+    // Where the toolkit's own sorting is on, it sorts as soon as the indicator changes.
+    if (m_view.isSortingEnabled() && !isIndicated)
+        header.setSortIndicator(m_column, m_order);
+    else
+        m_view.QTreeWidget::sortItems(m_column, m_order);
+}
+
+/// Others have sorted: the toolkit, for sortItems() or at a change of the sort indicator.
+void ListSorter::adoptOrder()
+{
+    s_exclusiveRun = noRun;
+    if (s_sorter == this)
+        return;
+    const QHeaderView& header = *m_view.header();
+    const int column = header.sortIndicatorSection();
+    const bool hasEffect = m_view.isVisible() || m_view.isSortingEnabled();
+    if (!hasEffect || !m_isAllowed || m_callback != nullptr || column < 0 ||
+        column >= m_view.columnCount())
+        return;
     m_column = column;
-    m_lastRun = run;
-    const Running running(*run);
-    m_view.QTreeWidget::sortItems(column, order);
+    m_order = header.sortIndicatorOrder();
+    m_run.reset();
+    m_isSorted = true;
 }
 
 void ListSorter::sortChildren(QTreeWidgetItem& parent, int column, Qt::SortOrder order)
 {
-    Run run(m_view.compareFunction(column));
-    if (m_view.maySort())
+    Run run(function(column));
+    if (maySort())
         run.readKeys(parent, column, nullptr);
-    const Running running(run);
+    m_run.reset(); // its items have other keys now
+    const Running running(*this, run);
     parent.sortChildren(column, order);
 }
 
 void ListSorter::forgetOrder()
 {
-    m_lastRun.reset();
+    m_isSorted = false;
+    m_run.reset();
 }
 
-void ListSorter::rowsInserted(const QModelIndex& parent, int, int last)
-{
-    if (!m_lastRun)
-        return;
-    if (last + 1 < m_view.model()->rowCount(parent))
-        forgetOrder();
-    else if (m_view.maySort() && !m_arrivals.isActive())
-        m_arrivals.start();
-}
-
-void ListSorter::itemArrived(QTreeWidgetItem& item)
-{
-    // It may have been in the list before, with other texts.
-    if (auto* const listItem = castItem(&item))
-        listItem->m_sortRun = 0;
-}
-
-void ListSorter::placeArrivals()
-{
-    if (!m_lastRun || !m_view.maySort())
-        return;
-    const QPointer<ListSorter> self(this);
-    const std::shared_ptr<const Run> earlier = m_lastRun;
-    QElapsedTimer time;
-    time.start();
-    const UpperEdge edge(m_view);
-    sortRows(m_column, m_order, earlier.get());
-    if (self)
-        edge.restore();
-    if (self)
-        m_arrivals.setInterval(std::min(milliseconds(pauseFactor * time.elapsed()), longestPause));
-}
-
-std::optional<bool> ListSorter::isLess(const SortListViewItem& a, const QTreeWidgetItem& b)
+std::optional<bool> ListSorter::isLessByKeys(const SortListViewItem& a, const QTreeWidgetItem& b)
 {
     const Run* const run = s_run;
     if (run == nullptr || a.m_sortRun != run->number)
@@ -240,4 +367,79 @@ std::optional<bool> ListSorter::isLess(const SortListViewItem& a, const QTreeWid
     if (run->isRanked)
         return a.m_sortRank < other->m_sortRank;
     return run->keys.isLess(a.m_sortRow, other->m_sortRow);
+}
+
+// --- Rows that arrive -----------------------------------------------------------------------------------
+
+void ListSorter::rowsInserted(const QModelIndex& parent, int last)
+{
+    if (!m_isSorted)
+        return;
+    if (m_view.isSortingEnabled()) {
+        m_run.reset(); // the toolkit puts the rows in place
+        return;
+    }
+    if (last + 1 < m_view.model()->rowCount(parent) || !m_isPlacing) {
+        forgetOrder();
+        return;
+    }
+    m_hasArrivalsBelow = m_hasArrivalsBelow || parent.isValid();
+    if (!maySort() || m_arrivals.isActive())
+        return;
+    m_edge.note(m_view);
+    const milliseconds waited =
+        m_lastPlacing.isValid() ? milliseconds(m_lastPlacing.elapsed()) : m_pause;
+    m_arrivals.start(std::max(m_pause - waited, milliseconds(0)));
+}
+
+void ListSorter::itemArrived(QTreeWidgetItem& item)
+{
+    // It may have been in the list before, with other texts.
+    if (auto* const listItem = castItem(&item))
+        listItem->m_sortRun = 0;
+}
+
+/// Whether the arrivals have ranks among the other rows now; else all rows must be ranked anew.
+bool ListSorter::rankArrivals()
+{
+    const QTreeWidgetItem& root = *m_view.invisibleRootItem();
+    if (!m_run || !m_run->isRanked || m_run->hasOtherItems || m_hasArrivalsBelow ||
+        m_run->keys.count() / 2 > static_cast<quint32>(root.childCount()))
+        return false;
+    Run::Items arrivals;
+    int sorted = root.childCount();
+    for (; sorted > 0; --sorted) {
+        SortListViewItem* const item = castItem(root.child(sorted - 1));
+        if (item == nullptr)
+            return false;
+        if (item->m_sortRun == m_run->number)
+            break;
+        if (item->childCount() > 0)
+            return false;
+        arrivals.push_back(item);
+    }
+    std::reverse(arrivals.begin(), arrivals.end());
+    return m_run->addArrivals(root, sorted, m_order, m_column, std::move(arrivals));
+}
+
+void ListSorter::placeArrivals()
+{
+    if (!m_isSorted || !maySort())
+        return;
+    const QPointer<ListSorter> self(this);
+    QElapsedTimer time;
+    time.start();
+    m_edge.note(m_view);
+    std::shared_ptr<Run> run = m_run;
+    if (!rankArrivals()) {
+        run = std::make_shared<Run>(function(m_column));
+        run->readKeys(*m_view.invisibleRootItem(), m_column, m_run.get());
+    }
+    sortRows(std::move(run));
+    if (self)
+        m_edge.restore(m_view);
+    if (!self)
+        return;
+    m_pause = std::min(milliseconds(pauseFactor * time.elapsed()), longestPause);
+    m_lastPlacing.start();
 }

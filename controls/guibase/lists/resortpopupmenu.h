@@ -106,6 +106,7 @@ public:
     QPoint GetCursorPosOnShow() const;
 
 Q_SIGNALS:
+    /// The entry with this id was triggered. Entries without an int as id are not reported.
     void signalActivated(int id);
 
 public Q_SLOTS:

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <optional>
 
 namespace {
 
@@ -94,6 +95,28 @@ double numberOf(QStringView text)
     return isNumber ? number : std::numeric_limits<double>::quiet_NaN();
 }
 
+/// What stands in front of the first blank.
+QStringView numberPart(const QString& text)
+{
+    const qsizetype blank = text.indexOf(u' ');
+    return QStringView(text).first(blank < 0 ? text.size() : blank);
+}
+
+/// f(x, y) of the numeric compare functions, on what `part` cuts from the texts.
+template <typename Part>
+int compareNumbers(const QString& x, const QString& y, Part part)
+{
+    bool xIsNumber = false;
+    bool yIsNumber = false;
+    const double xNumber = part(x).toDouble(&xIsNumber);
+    const double yNumber = part(y).toDouble(&yIsNumber);
+    if (!xIsNumber || !yIsNumber)
+        return 0;
+    if (xNumber > yNumber)
+        return -1;
+    return xNumber != yNumber ? 1 : 0;
+}
+
 /// The places of the rows among the sorted ones; rows that are equal have the same one.
 template <typename Less>
 std::vector<double> sortedRanks(std::vector<TextAt> rows, Less less)
@@ -143,8 +166,8 @@ void SortKeys::append(Values& values, const QString& text) const
         values.texts.push_back(text);
         return;
     }
-    const qsizetype blank = m_rule == Rule::NumberWithSuffix ? text.indexOf(u' ') : -1;
-    values.numbers.push_back(numberOf(QStringView(text).first(blank < 0 ? text.size() : blank)));
+    values.numbers.push_back(
+        numberOf(m_rule == Rule::NumberWithSuffix ? numberPart(text) : QStringView(text)));
 }
 
 void SortKeys::append(Values& values, const Values& from, quint32 row) const
@@ -211,16 +234,39 @@ bool SortKeys::isLess(const Values& values, quint32 a, quint32 b) const
     return m_function(values.texts[b], values.texts[a]) < 0;
 }
 
-std::optional<std::vector<double>> SortKeys::ranks() const
+bool SortKeys::canRank() const
 {
-    if (m_rule == Rule::Function || m_count == 0 || (m_keyCount > 0 && m_keyCount < m_count))
-        return std::nullopt;
-    const Values& values = m_keyCount > 0 ? m_keys : m_texts;
-    if (isNumeric())
-        return values.numbers;
-    return sortedRanks(withPrefixes(values.texts, m_rule == Rule::TextIgnoringCase),
+    return m_rule != Rule::Function && m_count > 0 && (m_keyCount == 0 || m_keyCount == m_count);
+}
+
+double SortKeys::number(quint32 row) const
+{
+    return isNumeric() ? values().numbers[row] : 0;
+}
+
+std::vector<double> SortKeys::ranks() const
+{
+    const Values& all = values();
+    return sortedRanks(withPrefixes(all.texts, m_rule == Rule::TextIgnoringCase),
                        [&](const TextAt& a, const TextAt& b) {
                            return a.prefix != b.prefix ? a.prefix < b.prefix
-                                                       : isLess(values, a.row, b.row);
+                                                       : isLess(all, a.row, b.row);
                        });
+}
+
+// --- The compare functions that the list offers -----------------------------------------------------
+
+int SortListView::_compStandardString(const QString& x, const QString& y)
+{
+    return y.compare(x, Qt::CaseInsensitive);
+}
+
+int SortListView::_compStandardNumeric(const QString& x, const QString& y)
+{
+    return compareNumbers(x, y, [](const QString& text) { return QStringView(text); });
+}
+
+int SortListView::_compNumericWithSuffix(const QString& x, const QString& y)
+{
+    return compareNumbers(x, y, numberPart);
 }

@@ -5,7 +5,6 @@
 
 #include <QString>
 
-#include <optional>
 #include <vector>
 
 /// What the rows of one sort are compared by, read and parsed once per row.
@@ -22,10 +21,16 @@ public:
     /// Adds a row of an earlier sort with the same function.
     void add(const SortKeys& earlier, quint32 row);
     bool isLess(quint32 a, quint32 b) const;
-    /// For every row a number that is less than another's when isLess() says so of the rows;
-    /// nothing when only some rows have sort keys, and for a function of the application. NaN,
-    /// which equals all others, for a text that should be a number and is none.
-    std::optional<std::vector<double>> ranks() const;
+
+    /// Whether every row can have a number that is less than another's when isLess() says so of the
+    /// rows; not when only some rows have sort keys, nor with a function of the application.
+    bool canRank() const;
+    /// Whether number() is such a number.
+    bool isNumeric() const;
+    /// NaN, which equals all others, for a text that should be a number and is none.
+    double number(quint32 row) const;
+    /// Such numbers of all rows, where rows are compared as texts.
+    std::vector<double> ranks() const;
 
     quint32 count() const { return m_count; }
 
@@ -39,7 +44,8 @@ private:
     };
 
     static Rule ruleOf(SortListView::CompareFunction function);
-    bool isNumeric() const;
+    /// Where only some rows have keys, the texts.
+    const Values& values() const { return m_keyCount == m_count ? m_keys : m_texts; }
     void append(Values& values, const QString& text) const;
     void append(Values& values, const Values& from, quint32 row) const;
     /// Begins the next row; whether its key, or that it has none, is to be appended too.

@@ -2,19 +2,19 @@
 #include "sortlistview.h"
 
 #include "checksortlistviewitem.h"
-#include "isortcallback.h"
 #include "itemwalk_p.h"
+#include "listcolumns_p.h"
+#include "listheader_p.h"
 #include "listsorter_p.h"
 #include "sortlistviewitem.h"
 
 #include <guibase/lists/columns/listcolumnkeys.h>
-#include <guibase/services/guibase.h>
 
-#include <QAction>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QTreeWidgetItemIterator>
 
 #include <algorithm>
@@ -22,26 +22,9 @@
 
 namespace {
 
-constexpr unsigned maximumColumns = 4096;
-
 SortListViewItem* cast(QTreeWidgetItem* item)
 {
     return dynamic_cast<SortListViewItem*>(item);
-}
-
-/// f(x, y) of the numeric compare functions, on what `part` cuts from the texts.
-template <typename Part>
-int compareNumbers(const QString& x, const QString& y, Part part)
-{
-    bool xIsNumber = false;
-    bool yIsNumber = false;
-    const double xNumber = part(x).toDouble(&xIsNumber);
-    const double yNumber = part(y).toDouble(&yIsNumber);
-    if (!xIsNumber || !yIsNumber)
-        return 0;
-    if (xNumber > yNumber)
-        return -1;
-    return xNumber != yNumber ? 1 : 0;
 }
 
 /// The item came into a view, by itself or with one above it.
@@ -59,29 +42,43 @@ void arrive(QTreeWidgetItem& item)
 
 } // namespace
 
-ISortCallback::~ISortCallback() = default;
+struct SortListView::Private
+{
+    explicit Private(SortListView& view)
+        : columnKeys(view)
+        , columns(view)
+        , sorter(view)
+    {}
+
+    ListColumnKeys columnKeys;
+    ListColumns columns;
+    QPointer<QMenu> contextMenu;
+    int childCursor = 0;
+    ListSorter sorter;
+};
 
 SortListView::SortListView(QWidget* parent, const char* name)
     : QTreeWidget(parent)
-    , m_headerMenu(new QMenu(this))
-    , m_columnKeys(std::make_unique<ListColumnKeys>(*this))
-    , m_sorter(std::make_unique<ListSorter>(*this))
+    , d(std::make_unique<Private>(*this))
 {
+    setHeader(new ListHeader(*this));
+    header()->setSortIndicator(d->sorter.column(), d->sorter.order());
     if (name != nullptr)
         setObjectName(QString::fromUtf8(name));
     setRootIsDecorated(false);
-    header()->setSectionsClickable(true);
+    setTabKeyNavigation(false);
     header()->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_headerMenu->setObjectName(QStringLiteral("HeaderContextMenu"));
     connectSignals();
 }
 
 void SortListView::connectSignals()
 {
     connect(header(), &QHeaderView::sectionClicked, this, &SortListView::slotHeaderClicked);
-    connect(header(), &QHeaderView::sectionResized, this, &SortListView::keepColumns);
-    connect(header(), &QHeaderView::sectionMoved, this, &SortListView::keepColumns);
-    connect(header(), &QHeaderView::sectionCountChanged, this, &SortListView::applyColumns);
+    const auto keepColumns = [this] { d->columns.keep(); };
+    connect(header(), &QHeaderView::sectionResized, this, keepColumns);
+    connect(header(), &QHeaderView::sectionMoved, this, keepColumns);
+    connect(header(), &QHeaderView::sectionCountChanged, this,
+            [this](int oldCount, int newCount) { d->columns.applyFrom(oldCount, newCount); });
     connect(this, &SortListView::contextMenuRequested, this,
             &SortListView::slotContextMenuRequested);
     connect(this, &QTreeWidget::itemDoubleClicked, this, &SortListView::slotDoubleClicked);
@@ -96,12 +93,11 @@ SortListView::~SortListView()
     saveColumnStatus();
     disconnect(header(), nullptr, this, nullptr);
     disconnect(this, nullptr, this, nullptr);
-    qDeleteAll(std::exchange(m_columnActions, {}));
 }
 
-bool SortListView::hasColumn(int column) const
+ListSorter& SortListView::sorter() const
 {
-    return column >= 0 && column < columnCount();
+    return d->sorter;
 }
 
 bool SortListView::hasItem(const QTreeWidgetItem* item) const
@@ -109,17 +105,11 @@ bool SortListView::hasItem(const QTreeWidgetItem* item) const
     return item != nullptr && item->treeWidget() == this;
 }
 
-// --- Columns
-// ---------------------------------------------------------------------------------------
+// --- Columns -------------------------------------------------------------------------------------
 
 int SortListView::addColumn(const QString& text)
 {
-    m_labels.append(text);
-    setColumnCount(static_cast<int>(m_labels.size()));
-    setHeaderLabels(m_labels);
-    QAction* const action = m_headerMenu->addAction(text);
-    action->setCheckable(true);
-    m_columnActions.append(action);
+    d->columns.add(text);
     return columnCount();
 }
 
@@ -130,79 +120,49 @@ int SortListView::columns() const
 
 QString SortListView::columnText(int column) const
 {
-    return hasColumn(column) ? headerItem()->text(column) : QString();
+    return d->columns.text(column);
 }
 
 void SortListView::setColumnText(int column, const QString& text)
 {
-    if (!hasColumn(column))
-        return;
-    headerItem()->setText(column, text);
-    if (column < m_labels.size()) {
-        m_labels[column] = text;
-        m_columnActions.at(column)->setText(text);
-    }
+    d->columns.setText(column, text);
 }
 
 void SortListView::setColumnAlignment(unsigned column, int alignment)
 {
-    if (column >= maximumColumns)
-        return;
-    if (column >= m_alignments.size())
-        m_alignments.resize(column + std::size_t(1), alignment);
-    m_alignments[column] = alignment;
+    d->columns.setAlignment(column, alignment);
 }
 
 int SortListView::columnAlignment(int column) const
 {
-    const bool isSet = column >= 0 && static_cast<std::size_t>(column) < m_alignments.size();
-    return isSet ? m_alignments[static_cast<std::size_t>(column)] : int(Qt::AlignLeft);
+    return d->columns.alignment(column);
 }
 
 void SortListView::applyAlignment(QTreeWidgetItem* item) const
 {
-    if (item == nullptr)
-        return;
-    int column = 0;
-    for (const int alignment : m_alignments)
-        item->setTextAlignment(column++, Qt::Alignment(alignment));
+    if (item != nullptr)
+        d->columns.applyAlignment(*item);
 }
 
 void SortListView::setColumnWidthMode(int column, QHeaderView::ResizeMode mode)
 {
-    if (hasColumn(column))
+    if (d->columns.has(column))
         header()->setSectionResizeMode(column, mode);
 }
 
 void SortListView::SetColumnWidthPersistantName(const QString& name)
 {
-    if (name != m_persistantName)
-        saveColumnStatus();
-    m_persistantName = name;
-    applyColumns(0, columnCount());
-}
-
-void SortListView::applyColumns(int oldCount, int newCount)
-{
-    if (!m_persistantName.isEmpty() && newCount > oldCount)
-        GuiBase::Instance().ApplyColumnWidth4(m_persistantName, this, oldCount);
-}
-
-void SortListView::keepColumns()
-{
-    if (!m_persistantName.isEmpty())
-        GuiBase::Instance().KeepColumnWidth4(m_persistantName, this);
+    d->columns.setName(name);
 }
 
 void SortListView::saveColumnStatus()
 {
-    if (!m_persistantName.isEmpty())
-        GuiBase::Instance().StoreColumnWidth4(m_persistantName, this);
+    d->columns.store();
 }
 
 void SortListView::setColumnSelectionMenu(bool on)
 {
-    m_hasColumnMenu = on;
+    d->columns.setHasMenu(on);
     if (on)
         connect(header(), &QWidget::customContextMenuRequested, this,
                 &SortListView::slotHeaderContextMenuRequested, Qt::UniqueConnection);
@@ -211,97 +171,55 @@ void SortListView::setColumnSelectionMenu(bool on)
                    &SortListView::slotHeaderContextMenuRequested);
 }
 
-void SortListView::updateColumnActions()
-{
-    QAction* lastVisible = nullptr;
-    int visible = 0;
-    for (int column = 0; column < m_columnActions.size(); ++column) {
-        QAction* const action = m_columnActions.at(column);
-        const bool isShown = hasColumn(column) && !isColumnHidden(column);
-        action->setVisible(hasColumn(column));
-        action->setEnabled(true);
-        action->setChecked(isShown);
-        if (!isShown)
-            continue;
-        ++visible;
-        lastVisible = action;
-    }
-    if (visible == 1)
-        lastVisible->setEnabled(false);
-}
-
 void SortListView::slotHeaderContextMenuRequested(QPoint pos)
 {
-    updateColumnActions();
-    const QPointer<SortListView> self(this);
-    QAction* const chosen = m_headerMenu->exec(header()->viewport()->mapToGlobal(pos));
-    if (!self || chosen == nullptr)
-        return;
-    const int column = static_cast<int>(m_columnActions.indexOf(chosen));
-    if (!hasColumn(column))
-        return;
-    const bool hide = !isColumnHidden(column);
-    if (hide)
-        saveColumnStatus(); // the width, which a hidden column does not have
-    setColumnHidden(column, hide);
-    saveColumnStatus();
+    d->columns.runMenu(header()->viewport()->mapToGlobal(pos));
 }
 
-// --- Sorting
-// ---------------------------------------------------------------------------------------
+// --- Sorting -------------------------------------------------------------------------------------
 
 void SortListView::SetCompareFunctionLength(int count)
 {
-    m_sorter->forgetOrder();
-    m_compareFunctions.resize(static_cast<std::size_t>(std::max(count, 0)), nullptr);
+    d->sorter.setFunctionCount(count);
 }
 
 void SortListView::SetCompareFunction(int column, CompareFunction function)
 {
-    if (column < 0 || static_cast<std::size_t>(column) >= m_compareFunctions.size())
-        return;
-    m_sorter->forgetOrder();
-    m_compareFunctions[static_cast<std::size_t>(column)] = function;
-}
-
-SortListView::CompareFunction SortListView::compareFunction(int column) const
-{
-    const bool isSet = column >= 0 && static_cast<std::size_t>(column) < m_compareFunctions.size();
-    return isSet ? m_compareFunctions[static_cast<std::size_t>(column)] : nullptr;
+    d->sorter.setFunction(column, function);
 }
 
 bool SortListView::HasSortFunction(int column) const
 {
-    return m_sortCallback == nullptr && compareFunction(column) != nullptr;
-}
-
-bool SortListView::maySort() const
-{
-    return m_sortCallback == nullptr && m_allowSort && isVisible();
+    return !d->sorter.hasCallback() && d->sorter.function(column) != nullptr;
 }
 
 int SortListView::SortFunction(int column, const QString& a, const QString& b) const
 {
-    if (!maySort())
-        return 0;
-    const CompareFunction function = compareFunction(column);
-    return function == nullptr ? a.compare(b) : function(b, a);
+    return d->sorter.compare(column, a, b);
 }
 
 void SortListView::SetSortCallback(ISortCallback* callback)
 {
-    m_sortCallback = callback;
+    d->sorter.setCallback(callback);
 }
 
 void SortListView::AllowSort(bool allow)
 {
-    m_allowSort = allow;
+    d->sorter.setAllowed(allow);
+}
+
+void SortListView::setPlacingArrivals(bool on)
+{
+    d->sorter.setPlacingArrivals(on);
+}
+
+bool SortListView::isPlacingArrivals() const
+{
+    return d->sorter.isPlacingArrivals();
 }
 
 void SortListView::setSorting(int column, Qt::SortOrder order)
 {
-    m_sortColumn = column;
-    m_sortOrder = order;
     sortByColumn(column, order);
 }
 
@@ -312,50 +230,20 @@ void SortListView::setSorting(int column, bool ascending)
 
 Qt::SortOrder SortListView::GetColumnSortingOrder() const
 {
-    return m_sortOrder;
+    return d->sorter.order();
 }
 
 void SortListView::sort()
 {
-    sortByColumn(m_sortColumn, m_sortOrder);
+    sortByColumn(d->sorter.column(), d->sorter.order());
 }
 
 void SortListView::sortByColumn(int column, Qt::SortOrder order)
 {
-    m_sortColumn = column;
-    m_sortOrder = order;
-    m_sorter->forgetOrder();
-    const QPointer<SortListView> self(this);
-    if (m_sortCallback != nullptr && m_sortCallback->sort(column, order == Qt::AscendingOrder))
-        return;
-    if (!self || !m_allowSort)
-        return;
-    if (!isVisible() || !hasColumn(column))
-        header()->setSortIndicator(hasColumn(column) ? column : -1, order);
-    else
-        m_sorter->sortAll(column, order);
+    d->sorter.sort(column, order);
 }
 
-int SortListView::_compStandardString(const QString& x, const QString& y)
-{
-    return y.compare(x, Qt::CaseInsensitive);
-}
-
-int SortListView::_compStandardNumeric(const QString& x, const QString& y)
-{
-    return compareNumbers(x, y, [](const QString& text) { return QStringView(text); });
-}
-
-int SortListView::_compNumericWithSuffix(const QString& x, const QString& y)
-{
-    return compareNumbers(x, y, [](const QString& text) {
-        const qsizetype blank = text.indexOf(u' ');
-        return QStringView(text).first(blank < 0 ? text.size() : blank);
-    });
-}
-
-// --- The older navigation interface
-// ------------------------------------------------------------------
+// --- The older navigation interface --------------------------------------------------------------
 
 SortListViewItem* SortListView::currentItem() const
 {
@@ -369,14 +257,14 @@ SortListViewItem* SortListView::selectedItem() const
 
 SortListViewItem* SortListView::firstChild()
 {
-    m_childCursor = 0;
+    d->childCursor = 0;
     return cast(topLevelItem(0));
 }
 
 SortListViewItem* SortListView::nextChild()
 {
-    m_childCursor = std::min(m_childCursor + 1, topLevelItemCount());
-    return cast(topLevelItem(m_childCursor));
+    d->childCursor = std::min(d->childCursor + 1, topLevelItemCount());
+    return cast(topLevelItem(d->childCursor));
 }
 
 int SortListView::childCount() const
@@ -444,28 +332,29 @@ int SortListView::height(const QTreeWidgetItem* item) const
 
 void SortListView::setContextMenu(QMenu* menu)
 {
-    m_contextMenu = menu;
+    d->contextMenu = menu;
 }
 
 QMenu* SortListView::contextMenu() const
 {
-    return m_contextMenu;
+    return d->contextMenu;
 }
 
-// --- Slots
-// -----------------------------------------------------------------------------------------
+// --- Slots ---------------------------------------------------------------------------------------
 
 void SortListView::slotContextMenuRequested(SortListViewItem*, QPoint pos, int)
 {
-    if (m_contextMenu)
-        m_contextMenu->exec(pos);
+    if (d->contextMenu)
+        d->contextMenu->exec(pos);
 }
 
 void SortListView::slotHeaderClicked(int column)
 {
-    Qt::SortOrder order = m_sortOrder;
-    if (column == m_sortColumn)
-        order = order == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    // Where the toolkit's own sorting is on, it has sorted.
+    const auto* const ownHeader = dynamic_cast<const ListHeader*>(header());
+    if (ownHeader != nullptr && ownHeader->isInClick() && d->sorter.maySort())
+        return;
+    const Qt::SortOrder order = d->sorter.orderAfterClick(column);
     const QPointer<SortListView> self(this);
     sortByColumn(column, order);
     if (self)
@@ -527,13 +416,12 @@ void SortListView::slotCollapsed(QTreeWidgetItem* item)
         listItem->setOpen(false);
 }
 
-// --- Events
-// ----------------------------------------------------------------------------------------
+// --- Events --------------------------------------------------------------------------------------
 
 void SortListView::showEvent(QShowEvent* event)
 {
     QTreeWidget::showEvent(event);
-    if (m_allowSort)
+    if (d->sorter.isAllowed())
         sort();
 }
 
@@ -559,17 +447,17 @@ void SortListView::contextMenuEvent(QContextMenuEvent* event)
 void SortListView::keyPressEvent(QKeyEvent* event)
 {
     const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
-    if (m_hasColumnMenu && event->key() == Qt::Key_H &&
+    if (d->columns.hasMenu() && event->key() == Qt::Key_H &&
         modifiers == (Qt::ControlModifier | Qt::AltModifier))
         slotHeaderContextMenuRequested(QPoint(0, header()->height()));
-    else if (!m_columnKeys->handle(event->key(), modifiers))
+    else if (!d->columnKeys.handle(event->key(), modifiers))
         QTreeWidget::keyPressEvent(event);
 }
 
 void SortListView::rowsInserted(const QModelIndex& parent, int first, int last)
 {
     // First the sorter: its step then comes before the view's layout, which need not run twice.
-    m_sorter->rowsInserted(parent, first, last);
+    d->sorter.rowsInserted(parent, last);
     QTreeWidget::rowsInserted(parent, first, last);
     const QTreeWidgetItem* const owner =
         parent.isValid() ? itemFromIndex(parent) : invisibleRootItem();

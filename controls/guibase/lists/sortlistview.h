@@ -5,43 +5,30 @@
 #include <guibase/lists/sortlistviewitem.h>
 
 #include <QHeaderView>
-#include <QList>
-#include <QPointer>
 #include <QString>
-#include <QStringList>
 #include <QTreeWidget>
 
 #include <memory>
-#include <vector>
 
 class ISortCallback;
-class ListColumnKeys;
 class ListSorter;
-class QAction;
 class QMenu;
 
 /// A flat or shallow list of SortListViewItems that sorts its rows by compare functions and sort
 /// keys, lets the user hide columns, and keeps its column widths under a name.
 ///
 /// A view that may sort (AllowSort()) sorts when it is shown, when a header section is clicked and
-/// when it is told to; a hidden view never reorders its rows. Selection, current item, expanded and
-/// hidden rows and the scroll position stay, and rows that compare as equal keep their order, in
-/// both directions. Rows that are not SortListViewItems sort as in any QTreeWidget.
+/// when it is told to; a hidden view never reorders its rows. Rows that are appended stay at the
+/// end, unless setPlacingArrivals() is on. Selection, current item, expanded and hidden rows and the
+/// scroll position stay, and rows that compare as equal keep their order.
 ///
-/// Decisions: rows that are appended to a shown list which the view has sorted go to their places
-/// together, in the next pass of the event loop, or a little later when sorting takes long. The
-/// others do not move then, even if their texts have changed since they were sorted, and the row at
-/// the upper edge of a view that was scrolled stays there. A row
-/// that is put anywhere else (on top, after another row, with SortListViewItem::moveItem()) stays
-/// there, and so do rows appended after it, until the list is sorted again. Nothing is put in place
-/// while a sort callback is set.
+/// Tab leaves the list. Ctrl+Alt+H opens the column menu, when that is switched on; Alt+Left and
+/// Alt+Right choose the current column, Alt+Shift+Left and Alt+Shift+Right move it, Alt+Shift+Up and
+/// Alt+Shift+Down sort by it in ascending and descending order, also in a list without rows.
 ///
-/// Keys: Ctrl+Alt+H opens the column menu, when that is switched on; Alt+Left and Alt+Right choose
-/// the current column, Alt+Shift+Left and Alt+Shift+Right move it, Alt+Shift+Up and Alt+Shift+Down
-/// sort by it in ascending and descending order; all of them also in a list without rows.
-///
-/// Operations on columns that do not exist, and on null items or items of other views, do nothing
-/// and return null, false or an empty value.
+/// To hide many rows use setRowHidden(): QTreeWidgetItem::setHidden() looks for the row's number
+/// each time, which takes minutes in a list of a million. Operations on columns that do not exist,
+/// and on null items or items of other views, do nothing and return null, false or an empty value.
 class GUIBASE_EXPORT SortListView : public QTreeWidget
 {
     Q_OBJECT
@@ -90,7 +77,17 @@ public:
     /// Not owned; must outlive the view or be set back to null.
     void SetSortCallback(ISortCallback* callback);
     void AllowSort(bool allow);
-    /// A column that does not exist (-1): the rows stay as they are.
+    /// Whether rows that are appended to a shown list go to their places in the order that the list
+    /// has; off at start. They go there together, in the next pass of the event loop or, when
+    /// sorting takes long, a little later. The row at the upper edge of a scrolled view stays there.
+    ///
+    /// A row that is put anywhere else (on top, after another row, with moveItem()) stays there, and
+    /// so do rows appended after it, until the list is sorted again. Nothing is put in place while a
+    /// sort callback is set.
+    void setPlacingArrivals(bool on);
+    bool isPlacingArrivals() const;
+    /// A column that does not exist (-1): the rows stay as they are. An order that a shown list
+    /// gets in other ways, through sortItems() or the header's sort indicator, is kept as well.
     void setSorting(int column, Qt::SortOrder order);
     void setSorting(int column, bool ascending);
     Qt::SortOrder GetColumnSortingOrder() const;
@@ -136,6 +133,7 @@ Q_SIGNALS:
     void contextMenuRequested(SortListViewItem* item, QPoint pos, int col);
     /// Exactly one item is selected now.
     void selectionChanged(SortListViewItem* item);
+    /// Null when the row is no SortListViewItem.
     void doubleClicked(SortListViewItem* item);
     /// The row was activated; null when it is no SortListViewItem.
     void clicked(SortListViewItem* item);
@@ -163,33 +161,14 @@ protected:
                           const QItemSelection& deselected) override;
 
 private:
-    friend class ListSorter;
     friend class SortListViewItem;
 
-    bool hasColumn(int column) const;
+    struct Private;
+
     bool hasItem(const QTreeWidgetItem* item) const;
     QTreeWidgetItem* onlySelectedItem() const;
-    /// Whether the items compare at all at present.
-    bool maySort() const;
-    CompareFunction compareFunction(int column) const;
+    ListSorter& sorter() const;
     void connectSignals();
-    void updateColumnActions();
-    void applyColumns(int oldCount, int newCount);
-    void keepColumns();
 
-    std::vector<CompareFunction> m_compareFunctions;
-    QMenu* m_headerMenu;
-    bool m_allowSort = true;
-    bool m_hasColumnMenu = false;
-    ISortCallback* m_sortCallback = nullptr;
-    int m_sortColumn = 0;
-    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
-    QString m_persistantName;
-    QStringList m_labels;
-    std::vector<int> m_alignments;
-    QList<QAction*> m_columnActions;
-    QPointer<QMenu> m_contextMenu;
-    int m_childCursor = 0;
-    std::unique_ptr<ListColumnKeys> m_columnKeys;
-    std::unique_ptr<ListSorter> m_sorter;
+    std::unique_ptr<Private> d;
 };

@@ -40,10 +40,6 @@ struct SortListViewItem::Extras
     int childCursor = 0;
 };
 
-SortListViewItem::SortListViewItem(QTreeWidget* tree, bool insertOnTop)
-    : SortListViewItem(tree, QStringList(), insertOnTop)
-{}
-
 SortListViewItem::SortListViewItem(QTreeWidget* tree, const QString& text1, const QString& text2,
                                    const QString& text3, const QString& text4, const QString& text5,
                                    const QString& text6, const QString& text7, const QString& text8,
@@ -116,8 +112,6 @@ void SortListViewItem::insertInto(QTreeWidget* tree, int row)
 
 bool SortListViewItem::operator<(const QTreeWidgetItem& other) const
 {
-    if (const double* const rank = ListSorter::rankBeside(*this, other))
-        return m_sortRank < *rank;
     if (const std::optional<bool> isLess = ListSorter::isLess(*this, other))
         return *isLess;
     const QTreeWidget* const tree = treeWidget();
@@ -125,7 +119,7 @@ bool SortListViewItem::operator<(const QTreeWidgetItem& other) const
     const SortListView* const list = listView();
     if (list == nullptr)
         return text(column) < other.text(column);
-    if (!list->maySort())
+    if (!list->sorter().maySort())
         return false;
     const auto* const otherItem = dynamic_cast<const SortListViewItem*>(&other);
     if (otherItem != nullptr && HasSortKey(column) && otherItem->HasSortKey(column))
@@ -180,7 +174,7 @@ void SortListViewItem::sortChildItems(int column, bool ascending)
 {
     const Qt::SortOrder order = ascending ? Qt::AscendingOrder : Qt::DescendingOrder;
     if (SortListView* const list = listView())
-        list->m_sorter->sortChildren(*this, column, order);
+        list->sorter().sortChildren(*this, column, order);
     else
         sortChildren(column, order);
 }
@@ -217,7 +211,7 @@ void SortListViewItem::moveItem(QTreeWidgetItem* after)
         states.push_back({&item, item.isSelected(), item.isExpanded(), &item == current});
     });
     if (SortListView* const list = listView())
-        list->m_sorter->forgetOrder();
+        list->sorter().forgetOrder();
     // Selection and current item are the same afterwards; nobody shall see, and act on, what they
     // are while the row is away.
     const QSignalBlocker blocker(tree);

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QTreeWidgetItem>
 
+#include <concepts>
 #include <memory>
 
 class SortListView;
@@ -25,7 +26,13 @@ class GUIBASE_EXPORT SortListViewItem : public QTreeWidgetItem
 public:
     enum { Type = QTreeWidgetItem::UserType + 0x4c56 };
 
-    explicit SortListViewItem(QTreeWidget* tree, bool insertOnTop = false);
+    explicit SortListViewItem(QTreeWidget* tree)
+        : SortListViewItem(tree, QStringList())
+    {}
+    /// For bool alone, since pointers, as a text in quotes is one, turn into it silently.
+    SortListViewItem(QTreeWidget* tree, std::same_as<bool> auto insertOnTop)
+        : SortListViewItem(tree, QStringList(), insertOnTop)
+    {}
     SortListViewItem(QTreeWidget* tree, const QString& text1, const QString& text2 = {},
                      const QString& text3 = {}, const QString& text4 = {},
                      const QString& text5 = {}, const QString& text6 = {},

@@ -110,6 +110,7 @@ void SortRowTable::init(const char* name)
     setItemPrototype(new NumberItem);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setShowGrid(false);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     setSortingEnabled(true);
     setHorizontalHeaderLabels({tr("Frequency"), tr("Level")});
     installEventFilter(this);
@@ -318,6 +319,10 @@ void SortRowTable::keyPressEvent(QKeyEvent* event)
         slotCopy();
     else if (event->matches(QKeySequence::Paste))
         slotPaste();
+    else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
+             (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier &&
+             state() != QAbstractItemView::EditingState && currentIndex().isValid())
+        edit(currentIndex());
     else
         QTableWidget::keyPressEvent(event);
 }

@@ -104,6 +104,7 @@ void EventLogPane::buildList()
     m_list->setAccessibleName(tr("Events"));
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
+    m_list->setPlacingArrivals(true);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->SetCompareFunctionLength(ColumnCount);
     for (int column = 0; column < ColumnCount; ++column) {

@@ -123,6 +123,7 @@ void JobsPane::buildList()
     m_list->setAccessibleName(tr("Jobs"));
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
+    m_list->setPlacingArrivals(true);
     m_list->SetCompareFunctionLength(ColumnCount);
     for (int column = 0; column < ColumnCount; ++column) {
         m_list->addColumn(tr(columnTitles[column]));

@@ -71,6 +71,7 @@ SignalsPane::SignalsPane(const SignalWatch* watch, QWidget* parent)
     m_list->setAccessibleName(tr("Signals"));
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
+    m_list->setPlacingArrivals(true);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_list);

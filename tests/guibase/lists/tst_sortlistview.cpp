@@ -98,6 +98,9 @@ private Q_SLOTS:
         const MenuVisitor visitor([](QMenu& menu) { MenuVisitor::choose(menu, 0); });
         press(Qt::Key_H, Qt::ControlModifier | Qt::AltModifier);
         QVERIFY(visitor.hasSeenMenu() && m_list->isColumnHidden(0));
+        const QTreeWidgetItem* const current = m_list->currentItem();
+        press(Qt::Key_Tab, Qt::NoModifier); // to the next widget, not the next row
+        QCOMPARE(m_list->currentItem(), current);
         m_list->clear(); // columns can be arranged without rows, too
         press(Qt::Key_Left, Qt::AltModifier);
         press(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);

@@ -26,6 +26,10 @@ QCheckBox* boxOf(QTreeWidgetItem* item)
     return qobject_cast<QCheckBox*>(item->treeWidget()->itemWidget(item, 0));
 }
 
+// A text in quotes must not turn into "insert on top".
+static_assert(!std::is_constructible_v<SortListViewItem, QTreeWidget*, const char*>);
+static_assert(!std::is_constructible_v<CheckSortListViewItem, QTreeWidget*, const char*>);
+
 const QString a = QStringLiteral("a");
 const QString b = QStringLiteral("b");
 const QString c = QStringLiteral("c");

@@ -68,6 +68,15 @@ private Q_SLOTS:
         QTest::keyClick(editor, Qt::Key_Delete);
         QTest::keyClick(editor, Qt::Key_Return);
         QTRY_COMPARE(rowsOf(*m_table), QStringLiteral("12/0"));
+        // Only Return, F2 and a double click edit.
+        QTRY_VERIFY(m_table->findChild<QLineEdit*>() == nullptr);
+        QTest::keyClick(m_table.get(), Qt::Key_7);
+        QVERIFY(m_table->findChild<QLineEdit*>() == nullptr);
+        QTest::keyClick(m_table.get(), Qt::Key_Return);
+        QTRY_VERIFY(m_table->findChild<QLineEdit*>() != nullptr);
+        QTest::keyClicks(m_table->findChild<QLineEdit*>(), QStringLiteral("7"));
+        QTest::keyClick(m_table->findChild<QLineEdit*>(), Qt::Key_Escape);
+        QCOMPARE(rowsOf(*m_table), QStringLiteral("12/0"));
         m_table->slotClearAll();
         QCOMPARE(m_table->rowCount(), 0);
         SortRowTable(0, 1).slotNew(); // without the second column
