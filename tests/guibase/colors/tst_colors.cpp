@@ -35,15 +35,6 @@ private Q_SLOTS:
         QCOMPARE(definition.GetColor(), color);
         QCOMPARE(definition.GetId(), id);
     }
-    void comparesDefinitions()
-    {
-        const ColorDefinition red(QColor(Qt::red), 5, 10);
-        QVERIFY(red == ColorDefinition(QColor(Qt::red), 5, 20));
-        QVERIFY(!(red == ColorDefinition(QStringLiteral("red"), 5, 10)));
-        QVERIFY(!(red == ColorDefinition(QColor(Qt::red), 6, 10)));
-        QVERIFY(red < ColorDefinition(QColor(Qt::black), 6));
-        QVERIFY(!(red < ColorDefinition(QColor(Qt::black), 5)));
-    }
     void placesByIdWithoutMoving()
     {
         ColorDefinitionSet set(2);

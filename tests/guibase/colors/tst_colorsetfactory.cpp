@@ -145,18 +145,6 @@ private Q_SLOTS:
         for (const auto& [mask, count] : {std::pair(0U, 1), {1U, 9}, {0x200U, 1}, {0xfffU, 19}})
             QCOMPARE(shown(mask), count);
     }
-    void keepsTheFixedAssignments()
-    {
-        const std::pair<int, int> fixed[] = {{1, 1},    {2, 1007},  {3, 1000},   {4, 1036},
-                                             {5, 1018}, {6, 1007},  {7, 5},      {8, 1014},
-                                             {9, 1015}, {10, 1015}, {120, 1040}, {121, 1041}};
-        for (const auto& [slot, id] : fixed) {
-            const auto* definition =
-                ColorSet::Instance().GetColorDefinition(static_cast<Slot>(slot));
-            QVERIFY(definition);
-            QCOMPARE(definition->GetId(), id);
-        }
-    }
     void contrastSuffices()
     {
         QStringList faults;
