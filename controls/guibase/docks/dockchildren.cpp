@@ -17,8 +17,7 @@ DockChildren::DockChildren(QMainWindow& mainWindow, Added added, Removed removed
     , m_added(std::move(added))
     , m_removed(std::move(removed))
 {
-    const auto any = [](const QDockWidget&) { return true; };
-    const QList<QDockWidget*> docks = QMainWindowHelpers::dockWidgets(mainWindow, any, -1);
+    const QList<QDockWidget*> docks = QMainWindowHelpers::dockWidgets(mainWindow);
     m_known = QSet<const QObject*>(docks.begin(), docks.end());
 }
 

@@ -8,6 +8,7 @@ guibase_room(docks
         mainwindowhelpers.cpp mainwindowhelpers.h
         maximizeminimizesupport.cpp maximizeminimizesupport.h
     INTERNAL
+        areaaction.cpp areaaction.h
         attachedhelper.h
         dockarrangement.cpp dockarrangement.h
         dockchildren.cpp dockchildren.h

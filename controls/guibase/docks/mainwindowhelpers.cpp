@@ -87,6 +87,12 @@ QList<QDockWidget*> dockWidgets(const QMainWindow& mainWindow,
     return childrenOfWindow<QDockWidget>(mainWindow, filter, maxCount);
 }
 
+QList<QDockWidget*> dockWidgets(const QMainWindow& mainWindow)
+{
+    return dockWidgets(
+        mainWindow, [](const QDockWidget&) { return true; }, -1);
+}
+
 QList<QToolBar*> toolBars(const QMainWindow& mainWindow,
                           const std::function<bool(const QToolBar&)>& filter, int maxCount)
 {

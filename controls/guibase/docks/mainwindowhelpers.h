@@ -29,6 +29,8 @@ namespace QMainWindowHelpers {
 GUIBASE_EXPORT QList<QDockWidget*>
 dockWidgets(const QMainWindow& mainWindow, const std::function<bool(const QDockWidget&)>& filter,
             int maxCount);
+/// All docks of the window, in child order.
+GUIBASE_EXPORT QList<QDockWidget*> dockWidgets(const QMainWindow& mainWindow);
 /// The tool bars that the filter accepts; otherwise as dockWidgets().
 GUIBASE_EXPORT QList<QToolBar*> toolBars(const QMainWindow& mainWindow,
                                          const std::function<bool(const QToolBar&)>& filter,

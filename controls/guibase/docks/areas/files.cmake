@@ -4,5 +4,6 @@ guibase_room(docks/areas
         tabifysupport.cpp tabifysupport.h
         tilesupport.cpp tilesupport.h
     INTERNAL
-        dockareasupport_p.h
+        dockareasupport.cpp dockareasupport_p.h
+        gridplacement.cpp gridplacement_p.h
         tilegrid.cpp tilegrid_p.h)

@@ -3,7 +3,11 @@
 
 #include "dockareasupport_p.h"
 
+#include <guibase/docks/dockarrangement.h>
 #include <guibase/docks/updatesblocker.h>
+
+#include <QAction>
+#include <QDockWidget>
 
 namespace QMainWindowHelpers {
 
@@ -16,44 +20,51 @@ bool isTabifyPossible(const QMainWindow&, Qt::DockWidgetArea, const QList<QDockW
     return candidates.size() >= 2;
 }
 
-const DockAreaOperation<TabifySupport>& operation()
+constexpr DockAreaOperation operation{
+    propertyName,
+    "tabifyDockWidgetArea_%1",
+    &isTabifyPossible,
+    &TabifySupport::tabifyDockWidgets,
+    {{
+        {Qt::LeftDockWidgetArea, DockIcon::TabifyLeft,
+         QT_TRANSLATE_NOOP("QMainWindowHelpers::TabifySupport", "Tabify docks on the left")},
+        {Qt::RightDockWidgetArea, DockIcon::TabifyRight,
+         QT_TRANSLATE_NOOP("QMainWindowHelpers::TabifySupport", "Tabify docks on the right")},
+        {Qt::TopDockWidgetArea, DockIcon::TabifyTop,
+         QT_TRANSLATE_NOOP("QMainWindowHelpers::TabifySupport", "Tabify docks at the top")},
+        {Qt::BottomDockWidgetArea, DockIcon::TabifyBottom,
+         QT_TRANSLATE_NOOP("QMainWindowHelpers::TabifySupport", "Tabify docks at the bottom")},
+    }},
+};
+
+DockAreaSignals signalsOf(TabifySupport& support)
 {
     using Support = TabifySupport;
-    static constexpr DockAreaOperation<Support> table{
-        propertyName,
-        "tabifyDockWidgetArea_%1",
-        &isTabifyPossible,
-        &Support::tabifyDockWidgets,
-        &Support::isTabifyDockWidgetsPossibleChanged,
-        &Support::dockWidgetsTabified,
-        &Support::dockWidgetsTabified,
-        {{
-            {Qt::LeftDockWidgetArea, DockIcon::TabifyLeft,
-             QT_TRANSLATE_NOOP("QMainWindowHelpers::TabifySupport", "Tabify docks on the left"),
-             &Support::tabifyDockWidgetsInLeftDockWidgetArea,
-             &Support::isTabifyDockWidgetsPossibleInLeftDockWidgetAreaChanged},
-            {Qt::RightDockWidgetArea, DockIcon::TabifyRight,
-             QT_TRANSLATE_NOOP("QMainWindowHelpers::TabifySupport", "Tabify docks on the right"),
-             &Support::tabifyDockWidgetsInRightDockWidgetArea,
-             &Support::isTabifyDockWidgetsPossibleInRightDockWidgetAreaChanged},
-            {Qt::TopDockWidgetArea, DockIcon::TabifyTop,
-             QT_TRANSLATE_NOOP("QMainWindowHelpers::TabifySupport", "Tabify docks at the top"),
-             &Support::tabifyDockWidgetsInTopDockWidgetArea,
-             &Support::isTabifyDockWidgetsPossibleInTopDockWidgetAreaChanged},
-            {Qt::BottomDockWidgetArea, DockIcon::TabifyBottom,
-             QT_TRANSLATE_NOOP("QMainWindowHelpers::TabifySupport", "Tabify docks at the bottom"),
-             &Support::tabifyDockWidgetsInBottomDockWidgetArea,
-             &Support::isTabifyDockWidgetsPossibleInBottomDockWidgetAreaChanged},
-        }},
+    static constexpr std::array<void (Support::*)(bool), 4> inArea{
+        &Support::isTabifyDockWidgetsPossibleInLeftDockWidgetAreaChanged,
+        &Support::isTabifyDockWidgetsPossibleInRightDockWidgetAreaChanged,
+        &Support::isTabifyDockWidgetsPossibleInTopDockWidgetAreaChanged,
+        &Support::isTabifyDockWidgetsPossibleInBottomDockWidgetAreaChanged,
     };
-    return table;
+    return {
+        [&support](Qt::DockWidgetArea area, bool possible) {
+            Q_EMIT support.isTabifyDockWidgetsPossibleChanged(area, possible);
+        },
+        [&support](std::size_t area, bool possible) {
+            const auto send = inArea[area];
+            Q_EMIT(support.*send)(possible);
+        },
+        [&support](Qt::DockWidgetArea area) { Q_EMIT support.dockWidgetsTabified(area); },
+        [&support] { Q_EMIT support.dockWidgetsTabified(); },
+    };
 }
 
 } // namespace
 
 TabifySupport* TabifySupport::install(QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas)
 {
-    return DockAreaSupportPrivate<TabifySupport>::install(mainWindow, areas, propertyName);
+    TabifySupport* existing = get(mainWindow);
+    return existing != nullptr ? existing : new TabifySupport(mainWindow, areas);
 }
 
 TabifySupport* TabifySupport::get(const QMainWindow& mainWindow)
@@ -63,10 +74,10 @@ TabifySupport* TabifySupport::get(const QMainWindow& mainWindow)
 
 TabifySupport::TabifySupport(QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas)
     : QObject(&mainWindow)
-    , d(std::make_unique<DockAreaSupportPrivate<TabifySupport>>(*this, mainWindow, areas,
-                                                                operation()))
+    , d(std::make_unique<DockAreaSupport>(*this, mainWindow, areas, operation, signalsOf(*this)))
 {
-    d->start(mainWindow, createDockWidgetAreaActionMap(areas, this));
+    connect(&mainWindow, &QObject::destroyed, this, &TabifySupport::onMainWindowDestroyed);
+    d->start(createDockWidgetAreaActionMap(areas, this));
 }
 
 TabifySupport::~TabifySupport() = default;
@@ -99,8 +110,7 @@ bool TabifySupport::tabifyDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetAre
 
 bool TabifySupport::isTabifyDockWidgetsPossible(Qt::DockWidgetArea area) const
 {
-    const QMainWindow* window = mainWindow();
-    return window != nullptr && isTabifyDockWidgetsPossible(*window, area);
+    return d->isPossible(area);
 }
 
 QAction& TabifySupport::tabifyDockWidgetsAction(Qt::DockWidgetArea area) const
@@ -110,7 +120,7 @@ QAction& TabifySupport::tabifyDockWidgetsAction(Qt::DockWidgetArea area) const
 
 QMainWindow* TabifySupport::mainWindow() const
 {
-    return qobject_cast<QMainWindow*>(parent());
+    return d->mainWindow();
 }
 
 QFlags<Qt::DockWidgetArea> TabifySupport::dockWidgetAreas()

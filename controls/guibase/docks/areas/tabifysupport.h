@@ -13,8 +13,7 @@ class QMainWindow;
 
 namespace QMainWindowHelpers {
 
-template <class Support>
-class DockAreaSupportPrivate;
+class DockAreaSupport;
 
 /// Stacks all visible docks of one dock area into one tab group, the first in title order in front
 /// of the row of tabs, and offers an action per area for it. Possible with two docks or more.
@@ -46,16 +45,21 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The current answers; sent whenever the docks may have changed, also with the same answer. A
-    /// receiver may be called from within the window's layout: what changes or deletes the window
-    /// belongs into a queued connection.
+    /// The current answer for a supported area; sent whenever the docks may have changed, also with
+    /// the same answer. A receiver may be called from within the window's layout: what changes or
+    /// deletes the window belongs into a queued connection.
     void isTabifyDockWidgetsPossibleChanged(Qt::DockWidgetArea area, bool possible);
+    /// The same for the left area.
     void isTabifyDockWidgetsPossibleInLeftDockWidgetAreaChanged(bool possible);
+    /// The same for the right area.
     void isTabifyDockWidgetsPossibleInRightDockWidgetAreaChanged(bool possible);
+    /// The same for the top area.
     void isTabifyDockWidgetsPossibleInTopDockWidgetAreaChanged(bool possible);
+    /// The same for the bottom area.
     void isTabifyDockWidgetsPossibleInBottomDockWidgetAreaChanged(bool possible);
-    /// The operation was done by this support.
+    /// This support has rearranged the docks of the area.
     void dockWidgetsTabified(Qt::DockWidgetArea area);
+    /// The same, for receivers that need no area.
     void dockWidgetsTabified();
 
 public Q_SLOTS:
@@ -72,12 +76,11 @@ protected:
     void emitIsTabifyDockWidgetsPossibleSignals(QFlags<Qt::DockWidgetArea> areas);
 
 private:
-    friend class DockAreaSupportPrivate<TabifySupport>;
     TabifySupport(QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas);
     QMap<Qt::DockWidgetArea, QAction*>
     createDockWidgetAreaActionMap(QFlags<Qt::DockWidgetArea> areas, QObject* parent);
 
-    std::unique_ptr<DockAreaSupportPrivate<TabifySupport>> d;
+    std::unique_ptr<DockAreaSupport> d;
 };
 
 } // namespace QMainWindowHelpers

@@ -2,12 +2,14 @@
 #include "tilesupport.h"
 
 #include "dockareasupport_p.h"
+#include "gridplacement_p.h"
 #include "tilegrid_p.h"
 
+#include <guibase/docks/dockarrangement.h>
 #include <guibase/docks/docksizes.h>
 
-#include <QCoreApplication>
-#include <QLayout>
+#include <QAction>
+#include <QDockWidget>
 #include <QStyle>
 
 namespace QMainWindowHelpers {
@@ -15,6 +17,14 @@ namespace QMainWindowHelpers {
 namespace {
 
 constexpr const char* propertyName = "QMainWindowHelpers_TileSupport_instance";
+
+std::optional<TileGrid> gridOf(const QList<QDockWidget*>& docks, const QSize& available)
+{
+    QList<QSize> minimumSizes;
+    for (const QDockWidget* dock : docks)
+        minimumSizes << dock->minimumSize();
+    return fitTileGrid(minimumSizes, available);
+}
 
 /// The docks of an area in title order, with the grid that fits them.
 struct Tiling
@@ -32,10 +42,7 @@ Tiling tilingOf(const QMainWindow& mainWindow, Qt::DockWidgetArea area,
         return tiling;
     DockArrangement::sortByTitle(tiling.docks);
     tiling.available = DockArrangement::geometryOf(tiling.docks, mainWindow, area).size();
-    QList<QSize> minimumSizes;
-    for (const QDockWidget* dock : std::as_const(tiling.docks))
-        minimumSizes << dock->minimumSize();
-    tiling.grid = fitTileGrid(minimumSizes, tiling.available);
+    tiling.grid = gridOf(tiling.docks, tiling.available);
     return tiling;
 }
 
@@ -45,46 +52,43 @@ bool isTilePossible(const QMainWindow& mainWindow, Qt::DockWidgetArea area,
     return tilingOf(mainWindow, area, candidates).grid.has_value();
 }
 
-const DockAreaOperation<TileSupport>& operation()
+constexpr DockAreaOperation operation{
+    propertyName,
+    "tileDockWidgetArea_%1",
+    &isTilePossible,
+    &TileSupport::tileDockWidgets,
+    {{
+        {Qt::LeftDockWidgetArea, DockIcon::TileLeft,
+         QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks on the left")},
+        {Qt::RightDockWidgetArea, DockIcon::TileRight,
+         QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks on the right")},
+        {Qt::TopDockWidgetArea, DockIcon::TileTop,
+         QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks at the top")},
+        {Qt::BottomDockWidgetArea, DockIcon::TileBottom,
+         QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks at the bottom")},
+    }},
+};
+
+DockAreaSignals signalsOf(TileSupport& support)
 {
     using Support = TileSupport;
-    static constexpr DockAreaOperation<Support> table{
-        propertyName,
-        "tileDockWidgetArea_%1",
-        &isTilePossible,
-        &Support::tileDockWidgets,
-        &Support::isTileDockWidgetsPossibleChanged,
-        &Support::dockWidgetsTiled,
-        &Support::dockWidgetsTiled,
-        {{
-            {Qt::LeftDockWidgetArea, DockIcon::TileLeft,
-             QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks on the left"),
-             &Support::tileDockWidgetsInLeftDockWidgetArea,
-             &Support::isTileDockWidgetsPossibleInLeftDockWidgetAreaChanged},
-            {Qt::RightDockWidgetArea, DockIcon::TileRight,
-             QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks on the right"),
-             &Support::tileDockWidgetsInRightDockWidgetArea,
-             &Support::isTileDockWidgetsPossibleInRightDockWidgetAreaChanged},
-            {Qt::TopDockWidgetArea, DockIcon::TileTop,
-             QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks at the top"),
-             &Support::tileDockWidgetsInTopDockWidgetArea,
-             &Support::isTileDockWidgetsPossibleInTopDockWidgetAreaChanged},
-            {Qt::BottomDockWidgetArea, DockIcon::TileBottom,
-             QT_TRANSLATE_NOOP("QMainWindowHelpers::TileSupport", "Tile docks at the bottom"),
-             &Support::tileDockWidgetsInBottomDockWidgetArea,
-             &Support::isTileDockWidgetsPossibleInBottomDockWidgetAreaChanged},
-        }},
+    static constexpr std::array<void (Support::*)(bool), 4> inArea{
+        &Support::isTileDockWidgetsPossibleInLeftDockWidgetAreaChanged,
+        &Support::isTileDockWidgetsPossibleInRightDockWidgetAreaChanged,
+        &Support::isTileDockWidgetsPossibleInTopDockWidgetAreaChanged,
+        &Support::isTileDockWidgetsPossibleInBottomDockWidgetAreaChanged,
     };
-    return table;
-}
-
-using GuardedDocks = QList<QPointer<QDockWidget>>;
-
-void split(QMainWindow& mainWindow, QDockWidget* after, QDockWidget* dock,
-           Qt::Orientation direction)
-{
-    if (after != nullptr && dock != nullptr)
-        mainWindow.splitDockWidget(after, dock, direction);
+    return {
+        [&support](Qt::DockWidgetArea area, bool possible) {
+            Q_EMIT support.isTileDockWidgetsPossibleChanged(area, possible);
+        },
+        [&support](std::size_t area, bool possible) {
+            const auto send = inArea[area];
+            Q_EMIT(support.*send)(possible);
+        },
+        [&support](Qt::DockWidgetArea area) { Q_EMIT support.dockWidgetsTiled(area); },
+        [&support] { Q_EMIT support.dockWidgetsTiled(); },
+    };
 }
 
 /// The sizes grown together until, with the separators between them, they fill the extent.
@@ -93,65 +97,31 @@ QList<int> fill(const QList<int>& sizes, int extent, int separator)
     return spreadSurplus(sizes, extent - TileGrid::sum(sizes) - (sizes.size() - 1) * separator);
 }
 
-/// Keeps the window from laying its contents out anew for every dock that is shown, and before the
-/// docks have their sizes.
-class LayoutPause
+QList<QPair<QDockWidget*, QSize>> sizesOf(const GridPlacement::GuardedDocks& docks,
+                                          const TileGrid& grid, const QSize& available,
+                                          int separator)
 {
-public:
-    explicit LayoutPause(QMainWindow& mainWindow)
-        : m_window(&mainWindow)
-        , m_wasEnabled(mainWindow.layout()->isEnabled())
-    {
-        mainWindow.layout()->setEnabled(false);
+    const int columns = grid.columns();
+    const QList<int> widths = fill(grid.columnWidths, available.width(), separator);
+    const QList<int> heights = fill(grid.rowHeights, available.height(), separator);
+    QList<QPair<QDockWidget*, QSize>> sizes;
+    for (int i = 0; i < docks.size(); ++i) {
+        int height = heights[i / columns];
+        // Above empty cells a dock is as high as the rest of its column.
+        for (int cell = i + columns; docks.size() <= cell && cell < columns * heights.size();
+             cell += columns)
+            height += separator + heights[cell / columns];
+        sizes << qMakePair(docks[i].data(), QSize(widths[i % columns], height));
     }
-    ~LayoutPause()
-    {
-        if (m_window.isNull())
-            return;
-        m_window->layout()->setEnabled(m_wasEnabled);
-        // The layout has let its requests pass, and believes that one is still on its way.
-        QCoreApplication::postEvent(m_window, new QEvent(QEvent::LayoutRequest));
-    }
-    Q_DISABLE_COPY_MOVE(LayoutPause)
-
-private:
-    QPointer<QMainWindow> m_window;
-    bool m_wasEnabled;
-};
-
-/// Takes the docks out of the layout and puts them back as a grid. Receivers of the toolkit's
-/// signals may delete any of them, and the window, meanwhile.
-void layOut(const QPointer<QMainWindow>& window, Qt::DockWidgetArea area, const GuardedDocks& docks,
-            int columns)
-{
-    for (const QPointer<QDockWidget>& dock : docks) {
-        if (window && dock)
-            window->removeDockWidget(dock);
-    }
-    if (window && docks.first())
-        window->addDockWidget(area, docks.first());
-    for (int i = 1; i < docks.size() && window; ++i) {
-        if (i < columns)
-            split(*window, docks[i - 1], docks[i], Qt::Horizontal);
-        else
-            split(*window, docks[i - columns], docks[i], Qt::Vertical);
-    }
-    if (!window)
-        return;
-    const LayoutPause pause(*window);
-    for (const QPointer<QDockWidget>& dock : docks) {
-        if (window && dock)
-            dock->show();
-    }
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
-                                    QEventLoop::ExcludeSocketNotifiers);
+    return sizes;
 }
 
 } // namespace
 
 TileSupport* TileSupport::install(QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas)
 {
-    return DockAreaSupportPrivate<TileSupport>::install(mainWindow, areas, propertyName);
+    TileSupport* existing = get(mainWindow);
+    return existing != nullptr ? existing : new TileSupport(mainWindow, areas);
 }
 
 TileSupport* TileSupport::get(const QMainWindow& mainWindow)
@@ -161,10 +131,10 @@ TileSupport* TileSupport::get(const QMainWindow& mainWindow)
 
 TileSupport::TileSupport(QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas)
     : QObject(&mainWindow)
-    , d(std::make_unique<DockAreaSupportPrivate<TileSupport>>(*this, mainWindow, areas,
-                                                              operation()))
+    , d(std::make_unique<DockAreaSupport>(*this, mainWindow, areas, operation, signalsOf(*this)))
 {
-    d->start(mainWindow, createDockWidgetAreaActionMap(areas, this));
+    connect(&mainWindow, &QObject::destroyed, this, &TileSupport::onMainWindowDestroyed);
+    d->start(createDockWidgetAreaActionMap(areas, this));
 }
 
 TileSupport::~TileSupport() = default;
@@ -183,33 +153,28 @@ bool TileSupport::tileDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetArea ar
         return false;
     const QPointer<QMainWindow> window(&mainWindow);
     const DockArrangement::Rearrangement rearrangement(mainWindow);
-    const GuardedDocks docks(tiling.docks.begin(), tiling.docks.end());
-    const int columns = tiling.grid->columns();
     DockSizes::FrozenWindow frozen(mainWindow);
-    layOut(window, area, docks, columns);
-    if (!window)
+    GridPlacement::GuardedDocks docks(tiling.docks.begin(), tiling.docks.end());
+    std::optional<TileGrid> grid = tiling.grid;
+    int columns = grid->columns();
+    // Those that are left when a receiver of the toolkit's signals deletes some make a new grid.
+    while (GridPlacement::place(window, area, docks, columns) == GridPlacement::Result::DocksLost) {
+        grid = gridOf(QList<QDockWidget*>(docks.begin(), docks.end()), tiling.available);
+        columns = grid ? grid->columns() : columns;
+    }
+    GridPlacement::show(window, docks);
+    if (!window || !grid)
         return true;
     const int separator =
         mainWindow.style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent, nullptr, &mainWindow);
-    const QList<int> widths = fill(tiling.grid->columnWidths, tiling.available.width(), separator);
-    const QList<int> heights = fill(tiling.grid->rowHeights, tiling.available.height(), separator);
-    QList<QPair<QDockWidget*, QSize>> sizes;
-    for (int i = 0; i < docks.size(); ++i) {
-        int height = heights[i / columns];
-        // Above empty cells a dock is as high as the rest of its column.
-        for (int cell = i + columns; docks.size() <= cell && cell < columns * heights.size();
-             cell += columns)
-            height += separator + heights[cell / columns];
-        sizes << qMakePair(docks[i].data(), QSize(widths[i % columns], height));
-    }
-    frozen.giveSizes(sizes, DockSizes::Squeeze::FromBothSides);
+    frozen.giveSizes(sizesOf(docks, *grid, tiling.available, separator),
+                     DockSizes::Squeeze::FromBothSides);
     return true;
 }
 
 bool TileSupport::isTileDockWidgetsPossible(Qt::DockWidgetArea area) const
 {
-    const QMainWindow* window = mainWindow();
-    return window != nullptr && isTileDockWidgetsPossible(*window, area);
+    return d->isPossible(area);
 }
 
 QAction& TileSupport::tileDockWidgetsAction(Qt::DockWidgetArea area) const
@@ -219,7 +184,7 @@ QAction& TileSupport::tileDockWidgetsAction(Qt::DockWidgetArea area) const
 
 QMainWindow* TileSupport::mainWindow() const
 {
-    return qobject_cast<QMainWindow*>(parent());
+    return d->mainWindow();
 }
 
 QFlags<Qt::DockWidgetArea> TileSupport::dockWidgetAreas()

@@ -13,8 +13,7 @@ class QMainWindow;
 
 namespace QMainWindowHelpers {
 
-template <class Support>
-class DockAreaSupportPrivate;
+class DockAreaSupport;
 
 /// Lays all visible docks of one dock area out as a grid, in title order row by row, and offers an
 /// action per area for it. Possible with two docks or more whose minimum sizes fit the area in a
@@ -47,16 +46,21 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The current answers; sent whenever the docks may have changed, also with the same answer. A
-    /// receiver may be called from within the window's layout: what changes or deletes the window
-    /// belongs into a queued connection.
+    /// The current answer for a supported area; sent whenever the docks may have changed, also with
+    /// the same answer. A receiver may be called from within the window's layout: what changes or
+    /// deletes the window belongs into a queued connection.
     void isTileDockWidgetsPossibleChanged(Qt::DockWidgetArea area, bool possible);
+    /// The same for the left area.
     void isTileDockWidgetsPossibleInLeftDockWidgetAreaChanged(bool possible);
+    /// The same for the right area.
     void isTileDockWidgetsPossibleInRightDockWidgetAreaChanged(bool possible);
+    /// The same for the top area.
     void isTileDockWidgetsPossibleInTopDockWidgetAreaChanged(bool possible);
+    /// The same for the bottom area.
     void isTileDockWidgetsPossibleInBottomDockWidgetAreaChanged(bool possible);
-    /// The operation was done by this support.
+    /// This support has rearranged the docks of the area.
     void dockWidgetsTiled(Qt::DockWidgetArea area);
+    /// The same, for receivers that need no area.
     void dockWidgetsTiled();
 
 public Q_SLOTS:
@@ -73,12 +77,11 @@ protected:
     void emitIsTileDockWidgetsPossibleSignals(QFlags<Qt::DockWidgetArea> areas);
 
 private:
-    friend class DockAreaSupportPrivate<TileSupport>;
     TileSupport(QMainWindow& mainWindow, QFlags<Qt::DockWidgetArea> areas);
     QMap<Qt::DockWidgetArea, QAction*>
     createDockWidgetAreaActionMap(QFlags<Qt::DockWidgetArea> areas, QObject* parent);
 
-    std::unique_ptr<DockAreaSupportPrivate<TileSupport>> d;
+    std::unique_ptr<DockAreaSupport> d;
 };
 
 } // namespace QMainWindowHelpers

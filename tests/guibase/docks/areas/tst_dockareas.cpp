@@ -14,6 +14,8 @@
 #include <QSet>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
+#include <QToolBar>
 
 using namespace QMainWindowHelpers;
 
@@ -191,6 +193,49 @@ private Q_SLOTS:
         if (window)
             QCOMPARE(TileSupport::get(*window), tile.data());
         delete window;
+    }
+    void losesNoDockWhenOthersDie_data()
+    {
+        TestRows<bool, QByteArray> row; // while the docks are placed, or while events are processed
+        row("beside others", true, "1");
+        row("the first", true, "0");
+        row("all but one", true, "0123");
+        row("in a pause", false, "1");
+        row("tool bar in a pause", false, "");
+    }
+    void losesNoDockWhenOthersDie()
+    {
+        const auto& [placing, victims] = TestRows<bool, QByteArray>::fetch();
+        DockWindow window;
+        auto docks = window.addDocks(numbered(5), Qt::TopDockWidgetArea, {245, 50});
+        QToolBar* toolBar = window.addToolBar(u"bar"_s);
+        window.show();
+        window.resizeDocks({docks[0]}, {500}, Qt::Vertical);
+        settle();
+        QList<QDockWidget*> doomed;
+        for (const char victim : victims)
+            doomed << docks[victim - '0'];
+        const auto destroy = [&doomed, toolBar] {
+            if (doomed.isEmpty())
+                delete toolBar;
+            qDeleteAll(std::exchange(doomed, {}));
+        };
+        docks.removeIf([&](QDockWidget* dock) { return doomed.contains(dock); });
+        bool done = false;
+        for (QDockWidget* dock : std::as_const(docks))
+            connect(dock, &QDockWidget::dockLocationChanged, this, [&, isAsked = placing] {
+                if (isAsked && !std::exchange(done, true))
+                    destroy();
+            });
+        if (!placing)
+            QTimer::singleShot(0, this, destroy);
+        QVERIFY(TileSupport::tileDockWidgets(window, Qt::TopDockWidgetArea));
+        settle();
+        for (QDockWidget* dock : std::as_const(docks)) {
+            QCOMPARE(window.dockWidgetArea(dock), Qt::TopDockWidgetArea);
+            for (QDockWidget* other : std::as_const(docks))
+                QVERIFY(other == dock || !other->geometry().intersects(dock->geometry()));
+        }
     }
 };
 
