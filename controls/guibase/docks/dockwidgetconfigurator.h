@@ -32,7 +32,8 @@ public:
     DockWidgetConfigurator& operator=(const DockWidgetConfigurator& other);
     ~DockWidgetConfigurator();
 
-    /// Null, the default of all three, includes nothing; so does a null action in the list.
+    /// Null, the default of all three, includes nothing; so does a null action in the list. Of a
+    /// support's actions, the title bar shows those of the area where its dock lies.
     DockWidgetConfigurator& includeActionsFrom(const QList<QAction*>* actions);
     DockWidgetConfigurator& includeActionsFrom(const QMainWindowHelpers::TabifySupport* support);
     DockWidgetConfigurator& includeActionsFrom(const QMainWindowHelpers::TileSupport* support);

@@ -19,7 +19,8 @@ class QDockWidget;
 /// from bottom to top. One button of the bar is in the tab order, arrow keys lead to the others.
 ///
 /// The actions are the widget's own (QWidget::actions()): an action that is hidden, removed or
-/// deleted takes its button with it. Buttons are made while the bar is visible.
+/// deleted takes its button with it. Of the actions that tabify or tile the docks of an area, it
+/// shows those of the area where its dock lies. Buttons are made while the bar is visible.
 class GUIBASE_EXPORT EnhancedDockWidgetTitleBar : public QWidget
 {
     Q_OBJECT

@@ -17,5 +17,7 @@ guibase_room(docks
         docksizes.cpp docksizes.h
         docktitle.h
         survivalcheck.h
+        titlebarbutton.cpp titlebarbutton_p.h
+        titlebarbuttons.cpp titlebarbuttons_p.h
         updatesblocker.h
         windowidentity_p.h)

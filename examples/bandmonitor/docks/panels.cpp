@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "docks/panels.h"
 
-#include "docks/areaactions.h"
-
 #include <guibase/docks/active/activedockwidgetsupport.h>
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/areas/tilesupport.h>
 #include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
 #include <guibase/docks/dockwidgethelpers.h>
@@ -23,6 +23,8 @@ using QDockWidgetHelpers::DockWidgetConfigurator;
 using QMainWindowHelpers::ActiveDockWidgetSupport;
 using QMainWindowHelpers::AutoHideSupport;
 using QMainWindowHelpers::MainWindowConfigurator;
+using QMainWindowHelpers::TabifySupport;
+using QMainWindowHelpers::TileSupport;
 
 namespace bandmonitor {
 
@@ -94,9 +96,9 @@ void Panels::add(const Panel& panel)
     m_docks << dock;
     m_window.addDockWidget(panel.places.front().area, dock);
 
-    const QList<QAction*> actions = (new AreaActions(m_window, *dock))->actions();
     DockWidgetConfigurator()
-        .includeActionsFrom(&actions)
+        .includeActionsFrom(TabifySupport::get(m_window))
+        .includeActionsFrom(TileSupport::get(m_window))
         .withAutoHideSupport(true)
         .withMaximizeSupport(true)
         .withMinimizeSupport(true)

@@ -2,6 +2,7 @@
 #include "support/dockwindow.h"
 #include "support/guardedtest.h"
 
+#include <guibase/docks/areas/tabifysupport.h>
 #include <guibase/docks/enhanceddockwidgettitlebar.h>
 
 #include <QAction>
@@ -132,6 +133,20 @@ private Q_SLOTS:
         QCOMPARE(menu->actions().last()->text(), u"only a picture"_s);
         menu->actions().last()->trigger();
         QCOMPARE(triggered.count(), 1);
+    }
+    void showsTheActionsOfItsArea()
+    {
+        using namespace QMainWindowHelpers;
+        m_window->addDock(u"beside"_s);
+        m_window->addDocks({u"a"_s, u"b"_s}, Qt::RightDockWidgetArea);
+        auto* tabify = TabifySupport::install(*m_window, Qt::AllDockWidgetAreas);
+        for (const auto area : {Qt::RightDockWidgetArea, Qt::LeftDockWidgetArea})
+            m_bar->addTitleBarAction(tabify->tabifyDockWidgetsAction(area), -1);
+        QTRY_COMPARE(shown().join(u' '), u"Tabify docks on the left Float Close"_s);
+        m_window->addDockWidget(Qt::RightDockWidgetArea, m_dock);
+        QTRY_COMPARE(shown().join(u' '), u"Tabify docks on the right Float Close"_s);
+        m_dock->setFloating(true);
+        QTRY_COMPARE(shown().join(u' '), u"Dock Close"_s);
     }
     void keysReachEveryButton()
     {
