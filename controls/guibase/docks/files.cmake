@@ -10,8 +10,10 @@ guibase_room(docks
     INTERNAL
         areaaction.cpp areaaction.h
         attachedhelper.h
+        covereddocks.cpp covereddocks.h
         dockarrangement.cpp dockarrangement.h
         dockchildren.cpp dockchildren.h
+        dockfocus.cpp dockfocus.h
         dockicons.cpp dockicons.h
         dockpointer.h
         docksizes.cpp docksizes.h

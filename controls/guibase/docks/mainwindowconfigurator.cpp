@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindowconfigurator.h"
 
+#include "covereddocks.h"
 #include "mainwindowhelpers.h"
 #include "windowidentity_p.h"
 
@@ -95,6 +96,7 @@ const MainWindowConfigurator& MainWindowConfigurator::configure(QMainWindow& mai
         mainWindow.setTabPosition(entry.key(), entry.value());
     if (m_tabShape)
         mainWindow.setTabShape(*m_tabShape);
+    CoveredDocks::install(mainWindow);
     if (m_activeDockWidgetSupport)
         ActiveDockWidgetSupport::install(mainWindow);
     installFor<AutoHideSupport>(mainWindow, m_autoHideAreas);

@@ -14,7 +14,8 @@
 namespace QMainWindowHelpers {
 
 /// Collects the settings of a main window and applies them in one call, to one window or several.
-/// What was not set is left as the window has it.
+/// What was not set is left as the window has it. In every window that it has configured, the keys
+/// pass over docks that lie behind another tab.
 class GUIBASE_EXPORT MainWindowConfigurator
 {
 public:

@@ -12,6 +12,7 @@
 #include <guibase/docks/mainwindowconfigurator.h>
 
 #include <QAction>
+#include <QSet>
 #include <QTest>
 
 #include <memory>
@@ -112,6 +113,32 @@ private Q_SLOTS:
         addActionToTitleBar(dock, three, 1);
         QCOMPARE(dock.titleBarWidget(), bar);
         QCOMPARE(bar->actions(), (QList<QAction*>{&two, &three, &one}));
+    }
+    void keysPassOverCoveredDocks()
+    {
+        DockWindow window;
+        MainWindowConfigurator().configure(window);
+        const auto docks = window.addDocks({u"front"_s, u"covered"_s, u"beside"_s});
+        for (QDockWidget* dock : docks)
+            qobject_cast<QTextEdit*>(dock->widget())->setTabChangesFocus(true);
+        window.tabifyDockWidget(docks[0], docks[1]);
+        window.show();
+        docks[0]->raise();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QSet<QWidget*> visited;
+        docks[0]->widget()->setFocus();
+        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab})
+            for (int times = 0; times < 5; ++times) {
+                QTest::keyClick(QApplication::focusWidget(), key);
+                visited << QApplication::focusWidget();
+            }
+        QVERIFY(visited.contains(docks[0]->widget()) && visited.contains(docks[2]->widget()));
+        QVERIFY(!visited.contains(docks[1]->widget()));
+        settle();
+        QCOMPARE(docks[1]->widget()->focusPolicy(), docks[0]->widget()->focusPolicy());
+        docks[0]->widget()->setFocus();
+        docks[1]->raise();
+        QCOMPARE(QApplication::focusWidget(), docks[1]->widget());
     }
     void anyWidgetBecomesADock()
     {
