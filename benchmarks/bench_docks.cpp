@@ -26,6 +26,7 @@ namespace {
 constexpr double eventLimit = 1.4;
 constexpr double tilingLimit = 1.5;
 constexpr double growthLimit = 1.5;
+constexpr double autoHideLimit = 5;
 constexpr Qt::DockWidgetArea area = Qt::TopDockWidgetArea;
 
 struct Window
@@ -107,6 +108,34 @@ void tile(Window& window)
     takeTurn();
 }
 
+/// Lets all docks of a window hide at its edges, or only hides them; until it is painted.
+RatioRun::Body hideAll(bool atEdge)
+{
+    return [atEdge](benchmark::State& state) {
+        Window window(80);
+        AutoHideSupport* support =
+            AutoHideSupport::install(window.window, Qt::LeftToolBarArea | Qt::RightToolBarArea);
+        takeTurn();
+        for (auto _ : state) {
+            for (QDockWidget* dock : window.docks) {
+                if (atEdge)
+                    support->enableAutoHide(*dock);
+                else
+                    dock->hide();
+            }
+            takeTurn();
+            window.window.repaint();
+            state.PauseTiming();
+            for (QDockWidget* dock : window.docks) {
+                support->disableAutoHide(*dock);
+                dock->show();
+            }
+            takeTurn();
+            state.ResumeTiming();
+        }
+    };
+}
+
 template <class Step>
 RatioRun::Body repeat(Step step)
 {
@@ -150,6 +179,9 @@ int main(int argc, char** argv)
                 sendEvents(QEvent::User, true), sendEvents(QEvent::User, false));
     run.compare("a mouse move in a window with all supports", eventLimit,
                 sendEvents(QEvent::MouseMove, true), sendEvents(QEvent::MouseMove, false));
+
+    run.compare("auto-hiding 80 docks against hiding them", autoHideLimit, hideAll(true),
+                hideAll(false));
 
     Window twenty(20);
     Window eighty(80);

@@ -6,6 +6,7 @@ guibase_room(docks
         enhanceddockwidgettitlebar.cpp enhanceddockwidgettitlebar.h
         mainwindowconfigurator.cpp mainwindowconfigurator.h
         mainwindowhelpers.cpp mainwindowhelpers.h
+        maximizeminimizestate.cpp
         maximizeminimizesupport.cpp maximizeminimizesupport.h
     INTERNAL
         areaaction.cpp areaaction.h
@@ -18,6 +19,7 @@ guibase_room(docks
         dockpointer.h
         docksizes.cpp docksizes.h
         docktitle.h
+        edgehiding.h
         survivalcheck.h
         titlebarbutton.cpp titlebarbutton_p.h
         titlebarbuttons.cpp titlebarbuttons_p.h

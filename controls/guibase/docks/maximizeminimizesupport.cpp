@@ -3,10 +3,10 @@
 
 #include "attachedhelper.h"
 #include "dockicons.h"
+#include "edgehiding.h"
 #include "survivalcheck.h"
 #include "updatesblocker.h"
 
-#include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/layouts/floatingdockkeeper.h>
 
 #include <jtbase/qtimerhelpers.h>
@@ -30,17 +30,6 @@ using State = MaximizeMinimizeSupport_DockWidgetState;
 using Support = MaximizeMinimizeSupport;
 
 constexpr const char* propertyName = "QDockWidgetHelpers_MaximizeMinimizeSupport_instance";
-constexpr const char* translationContext = "QDockWidgetHelpers::DockWidgetState";
-constexpr std::array stateNames{
-    QT_TRANSLATE_NOOP("QDockWidgetHelpers::DockWidgetState", "Normal"),
-    QT_TRANSLATE_NOOP("QDockWidgetHelpers::DockWidgetState", "Maximized"),
-    QT_TRANSLATE_NOOP("QDockWidgetHelpers::DockWidgetState", "Minimized"),
-};
-
-bool hasName(State::Type state)
-{
-    return static_cast<unsigned>(state) < stateNames.size();
-}
 
 /// For how long, and how often, the window manager is asked again for a state that it undoes at
 /// once.
@@ -78,38 +67,6 @@ constexpr std::array operations{
 
 } // namespace
 
-const QList<State::Type>& State::values()
-{
-    static const QList<Type> all{Normal, Maximized, Minimized};
-    return all;
-}
-
-QString State::toString(Type state)
-{
-    return hasName(state) ? QString::fromLatin1(stateNames[state]) : QString();
-}
-
-QString State::toDisplayString(Type state)
-{
-    return hasName(state) ? QCoreApplication::translate(translationContext, stateNames[state])
-                          : QString();
-}
-
-State::Type State::fromString(const QString& text, bool* ok)
-{
-    const QString beginning = text.trimmed();
-    for (const Type state : values()) {
-        if (!beginning.isEmpty() && toString(state).startsWith(beginning, Qt::CaseInsensitive)) {
-            if (ok != nullptr)
-                *ok = true;
-            return state;
-        }
-    }
-    if (ok != nullptr)
-        *ok = false;
-    return values().first();
-}
-
 struct MaximizeMinimizeSupportPrivate
 {
     MaximizeMinimizeSupportPrivate(Support& support, QDockWidget& dock)
@@ -122,6 +79,9 @@ struct MaximizeMinimizeSupportPrivate
     void createActions(QDockWidget& dock);
     bool changeTo(State::Type newState, bool (*operation)(QDockWidget&));
     void announceLater(bool reapplyState);
+    /// Forgets the state and ends it, without showing the dock.
+    void becomeNormal(QDockWidget& dock);
+    void followEdgeHiding(QDockWidget& dock);
     void reapply(QDockWidget& dock);
     void takeNotice(const QWindowStateChangeEvent& stateChange);
     void announcePossible(size_t operation);
@@ -285,6 +245,32 @@ void MaximizeMinimizeSupportPrivate::reapply(QDockWidget& dock)
         normalGeometry = kept;
 }
 
+void MaximizeMinimizeSupportPrivate::becomeNormal(QDockWidget& dock)
+{
+    const QPointer<Support> alive(&q);
+    const Notifier notifier(*this, Notifier::ChangesOnly);
+    state = State::Normal;
+    timesToInsist = 0;
+    if (Support::dockWidgetState(dock) == State::Normal)
+        return;
+    const bool wasChanging = std::exchange(changing, true);
+    dock.setWindowState(dock.windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized));
+    if (!alive)
+        return;
+    changing = wasChanging;
+    if (dock.isFloating())
+        dock.setGeometry(normalGeometry);
+}
+
+void MaximizeMinimizeSupportPrivate::followEdgeHiding(QDockWidget& dock)
+{
+    const QPointer<Support> alive(&q);
+    if (EdgeHiding::isOn(dock))
+        becomeNormal(dock);
+    if (alive)
+        announceChanges();
+}
+
 void MaximizeMinimizeSupportPrivate::takeNotice(const QWindowStateChangeEvent& stateChange)
 {
     QDockWidget* dock = q.dockWidget();
@@ -398,14 +384,12 @@ State::Type MaximizeMinimizeSupport::dockWidgetState(const QDockWidget& dock)
 
 bool MaximizeMinimizeSupport::isMaximizeDockWidgetPossible(const QDockWidget& dock)
 {
-    return dock.isFloating() && !dock.isMaximized();
+    return dock.isFloating() && !dock.isMaximized() && !EdgeHiding::isOn(dock);
 }
 
 bool MaximizeMinimizeSupport::isMinimizeDockWidgetPossible(const QDockWidget& dock)
 {
-    const QAction* hidesAtEdge = QMainWindowHelpers::AutoHideSupport::autoHideAction(dock);
-    return dock.isFloating() && !dock.isMinimized() &&
-           (hidesAtEdge == nullptr || !hidesAtEdge->isChecked());
+    return dock.isFloating() && !dock.isMinimized() && !EdgeHiding::isOn(dock);
 }
 
 bool MaximizeMinimizeSupport::isRestoreDockWidgetPossible(const QDockWidget& dock)
@@ -462,6 +446,8 @@ bool MaximizeMinimizeSupport::eventFilter(QObject* watched, QEvent* event)
         d->announceLater(!event->spontaneous());
     else if (event->type() == QEvent::WindowStateChange && !d->changing)
         d->takeNotice(static_cast<const QWindowStateChangeEvent&>(*event));
+    else if (EdgeHiding::isChange(*event) && dockWidget() != nullptr)
+        d->followEdgeHiding(*dockWidget());
     return receiver.hasDied();
 }
 

@@ -41,10 +41,11 @@ struct MaximizeMinimizeSupportPrivate;
 
 /// Lets a floating dock be maximized, minimized and restored like a window, with an action for each
 /// that shows only while it is possible. A docked widget can do none of the three, and one that
-/// hides at the edge is not minimized: it goes there by itself.
+/// hides at the edge is neither maximized nor minimized: its place is there.
 ///
 /// The support belongs to its dock. It remembers the state it has put the dock into, and brings
-/// that state back when the dock floats again after having been docked or hidden.
+/// that state back when the dock floats again after having been docked or hidden. When the dock
+/// begins to hide at the edge, the state ends and is forgotten.
 class GUIBASE_EXPORT MaximizeMinimizeSupport : public QObject
 {
     Q_OBJECT
@@ -83,9 +84,13 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
+    /// The current answer: it has changed, or the dock was shown or moved and it may be the same.
     void isMaximizeDockWidgetPossibleChanged(bool possible);
+    /// As for maximizing.
     void isMinimizeDockWidgetPossibleChanged(bool possible);
+    /// As for maximizing.
     void isRestoreDockWidgetPossibleChanged(bool possible);
+    /// The state that the support has put the dock into; also sent with the same state, as above.
     void
     dockWidgetStateChanged(QDockWidgetHelpers::MaximizeMinimizeSupport_DockWidgetState::Type state);
 

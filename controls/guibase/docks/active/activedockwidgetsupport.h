@@ -46,6 +46,7 @@ public:
 Q_SIGNALS:
     /// Null when no dock is active any more.
     void activeDockWidgetChanged(QDockWidget* dock);
+    /// A dock has come to the main window; sent once it is complete, and before it becomes active.
     void dockWidgetAdded(QDockWidget& dock);
     /// The dock has gone to another parent. A dock that is destroyed does not send this: nothing of
     /// it is left to refer to.

@@ -76,11 +76,15 @@ QSize AutoHideButton::turned(int along, int across) const
 
 QSize AutoHideButton::sizeHint() const
 {
+    // Layouts ask all the time, and to measure a text takes long.
+    if (m_sizeHint.isValid())
+        return m_sizeHint;
     const int icon = iconExtent();
     const int across = std::max(fontMetrics().height(), icon) + 2 * padding();
     const int text =
         fontMetrics().horizontalAdvance(defaultAction() ? defaultAction()->text() : QString());
-    return turned(text + icon + arrowExtent + 5 * padding(), across);
+    m_sizeHint = turned(text + icon + arrowExtent + 5 * padding(), across);
+    return m_sizeHint;
 }
 
 QSize AutoHideButton::minimumSizeHint() const
@@ -90,6 +94,15 @@ QSize AutoHideButton::minimumSizeHint() const
 
 bool AutoHideButton::event(QEvent* event)
 {
+    switch (event->type()) {
+    case QEvent::ActionChanged:
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        m_sizeHint = QSize();
+        break;
+    default:
+        break;
+    }
     const bool handled = QToolButton::event(event);
     // The toolkit names a button without its title after nothing at all.
     if (event->type() == QEvent::ActionChanged && defaultAction() != nullptr) {

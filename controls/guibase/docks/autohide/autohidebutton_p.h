@@ -31,4 +31,5 @@ private:
     QSize turned(int along, int across) const;
 
     Qt::ToolBarArea m_area;
+    mutable QSize m_sizeHint; ///< Invalid when it must be computed again.
 };

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "autohidesupport.h"
+
 #include "autohidesupport_p.h"
 
 #include <guibase/docks/dockicons.h>
 #include <guibase/docks/mainwindowhelpers.h>
-#include <guibase/docks/updatesblocker.h>
+#include <guibase/docks/survivalcheck.h>
 
-#include <jtbase/qtimerhelpers.h>
-#include <trovappstartup/cfgcenter.h>
-
+#include <QAbstractButton>
 #include <QAction>
+#include <QKeyEvent>
+#include <QMainWindow>
 
-#include <algorithm>
 #include <utility>
 
 namespace QMainWindowHelpers {
@@ -20,288 +20,31 @@ namespace {
 
 constexpr const char* instanceProperty = "QMainWindowHelpers_AutoHideSupport_instance";
 constexpr const char* actionProperty = "QMainWindowHelpers_AutoHideSupport_autoHideAction";
-const QFlags<Qt::ToolBarArea> sideAreas = Qt::LeftToolBarArea | Qt::RightToolBarArea;
 
-QString storageSection()
+bool isEscape(const QEvent& event)
 {
-    return QStringLiteral("Auto hide");
+    return event.type() == QEvent::KeyPress &&
+           static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
 }
 
 } // namespace
-
-AutoHideSupportPrivate::AutoHideSupportPrivate(AutoHideSupport& support, QMainWindow& served,
-                                               QFlags<Qt::ToolBarArea> givenAreas)
-    : q(support)
-    , mainWindow(served)
-    , areas(givenAreas & sideAreas)
-    , children(
-          served, [this](QDockWidget& dock) { registerDock(dock); },
-          [this](const QObject* gone, QDockWidget* dock) { unregisterDock(gone, dock); }, nullptr)
-    , attachment(served, instanceProperty, support)
-{}
-
-AutoHideSupportPrivate::Entry* AutoHideSupportPrivate::entryOf(const QObject* dock)
-{
-    const auto found = entries.find(dock);
-    return found == entries.end() ? nullptr : &found->second;
-}
-
-void AutoHideSupportPrivate::registerDock(QDockWidget& dock)
-{
-    if (entryOf(&dock) != nullptr || dock.parentWidget() != &mainWindow)
-        return;
-    Entry& entry = entries[&dock];
-    entry.dock = &dock;
-    entry.name = dock.objectName();
-    dock.installEventFilter(&q);
-    QObject::connect(&dock, &QObject::objectNameChanged, &q,
-                     [this, key = static_cast<const QObject*>(&dock)](const QString& name) {
-                         if (Entry* named = entryOf(key))
-                             named->name = name;
-                     });
-    QObject::connect(&dock, &QDockWidget::topLevelChanged, &q,
-                     [this, &dock] { leaveWhenGone(dock); });
-    addButtons(dock, entry);
-    connectAutoHideAction(dock);
-    // The dock may be in the middle of being shown, and not have its name yet.
-    QTimerHelpers::singleShot(0, &q, [this, guarded = DockPointer(&dock)] {
-        if (guarded)
-            applyRemembered(*guarded);
-    });
-}
-
-void AutoHideSupportPrivate::unregisterDock(const QObject* key, QDockWidget* dock)
-{
-    const auto found = entries.find(key);
-    if (found == entries.end())
-        return;
-    const Entry entry = std::move(found->second);
-    const Qt::ToolBarArea side = [&] {
-        for (auto proxy = entry.proxies.cbegin(); proxy != entry.proxies.cend(); ++proxy)
-            if (proxy.value()->isVisible())
-                return proxy.key();
-        return Qt::NoToolBarArea;
-    }();
-    entries.erase(found);
-    for (QAction* proxy : entry.proxies) {
-        for (QToolBar* toolBar : std::as_const(toolBars))
-            if (toolBar != nullptr)
-                toolBar->removeAction(proxy);
-        proxy->deleteLater();
-    }
-    const bool wasOn =
-        autoHideDocks.removeIf([key](const QDockWidget* other) { return other == key; }) > 0;
-    if (pending == nullptr || pending == key)
-        q.deactivateAutoHideTimer();
-    if (entry.autoHideAction)
-        entry.autoHideAction->disconnect(&q);
-    if (dock != nullptr) {
-        dock->removeEventFilter(&q);
-        dock->disconnect(&q);
-        if (entry.autoHideAction)
-            entry.autoHideAction->setChecked(false);
-        // In its new window nothing else would bring it out again.
-        if (wasOn && entry.hiddenByMode)
-            QTimerHelpers::singleShot(0, dock, [dock] { dock->show(); });
-    } else if (wasOn && !entry.name.isEmpty() && !storageName.isEmpty()) {
-        // It is the end of the program, perhaps: in the next run the dock comes back as it was.
-        remembered.insert(entry.name, side);
-    }
-    if (wasOn) {
-        q.updateToolBarVisibility();
-        store();
-    }
-}
-
-void AutoHideSupportPrivate::connectAutoHideAction(QDockWidget& dock)
-{
-    Entry* entry = entryOf(&dock);
-    QAction* action = AutoHideSupport::autoHideAction(dock);
-    if (entry == nullptr || entry->autoHideAction == action)
-        return;
-    if (entry->autoHideAction)
-        entry->autoHideAction->disconnect(&q);
-    entry->autoHideAction = action;
-    if (action == nullptr)
-        return;
-    // The dock may have left by the time that the second one runs.
-    const auto follow = [this, guarded = DockPointer(&dock)] {
-        const auto* current = guarded ? entryOf(guarded.get()) : nullptr;
-        if (current != nullptr && current->autoHideAction)
-            q.onAutoHideActionToggled(*guarded, current->autoHideAction->isChecked());
-    };
-    QObject::connect(action, &QAction::toggled, &q, follow);
-    if (isOn(dock))
-        action->setChecked(true);
-    else if (action->isChecked())
-        QTimerHelpers::singleShot(0, &q, follow);
-}
-
-Qt::ToolBarArea AutoHideSupportPrivate::usableArea(Qt::ToolBarArea wanted) const
-{
-    if (wanted != Qt::LeftToolBarArea && wanted != Qt::RightToolBarArea)
-        return Qt::NoToolBarArea;
-    const Qt::ToolBarArea other =
-        wanted == Qt::LeftToolBarArea ? Qt::RightToolBarArea : Qt::LeftToolBarArea;
-    if (toolBars.value(wanted))
-        return wanted;
-    return toolBars.value(other) ? other : Qt::NoToolBarArea;
-}
-
-Qt::ToolBarArea AutoHideSupportPrivate::shownArea(const QDockWidget& dock) const
-{
-    const QToolBar* toolBar = q.toolBarResponsibleFor(dock);
-    for (auto bar = toolBars.cbegin(); toolBar != nullptr && bar != toolBars.cend(); ++bar)
-        if (bar.value() == toolBar)
-            return bar.key();
-    return Qt::NoToolBarArea;
-}
-
-void AutoHideSupportPrivate::setActionChecked(const QDockWidget& dock, bool checked)
-{
-    if (QAction* action = AutoHideSupport::autoHideAction(dock); action != nullptr)
-        action->setChecked(checked);
-}
-
-void AutoHideSupportPrivate::enable(QDockWidget& dock, Qt::ToolBarArea area)
-{
-    const DockPointer guarded(&dock);
-    const QPointer<AutoHideSupport> alive(&q);
-    const UpdatesBlocker blocker(dock);
-    q.setDockWidgetActionVisibility(dock, area);
-    q.updateToolBarVisibility();
-    autoHideDocks.append(&dock);
-    entryOf(&dock)->hadArea = mainWindow.dockWidgetArea(&dock) != Qt::NoDockWidgetArea;
-    // Shown now, it would stand alone on the screen.
-    if (!mainWindow.isVisible() && !dock.isHidden()) {
-        entryOf(&dock)->hiddenByMode = true;
-        dock.hide();
-    }
-    setActionChecked(dock, true);
-    if (alive && guarded && isOn(dock) && syncWithFloating && !dock.isFloating()) {
-        dock.setFloating(true);
-        // The toolkit places a window that it has just made by itself.
-        if (alive && guarded)
-            QTimerHelpers::singleShot(0, &q, [this, guarded] {
-                if (guarded && isOn(*guarded) && guarded->isFloating())
-                    if (const QToolBar* toolBar = q.toolBarResponsibleFor(*guarded))
-                        q.moveDockWidget(*guarded, *toolBar);
-            });
-    }
-    if (alive)
-        store();
-}
-
-void AutoHideSupportPrivate::restore(QDockWidget& dock, Qt::ToolBarArea area)
-{
-    const Qt::ToolBarArea usable = usableArea(area);
-    if (usable == Qt::NoToolBarArea)
-        return;
-    if (isOn(dock)) {
-        q.setDockWidgetActionVisibility(dock, usable);
-        q.updateToolBarVisibility();
-        return;
-    }
-    const DockPointer guarded(&dock);
-    const QPointer<AutoHideSupport> alive(&q);
-    enable(dock, usable);
-    if (alive && guarded && isOn(dock)) {
-        entryOf(&dock)->hiddenByMode = true;
-        dock.hide();
-        // The window's layout, restored next, may show it as it was at the end of the program.
-        QTimerHelpers::singleShot(0, &q, [this, guarded] {
-            if (guarded && isOn(*guarded) && guarded->isFloating())
-                hideDock(*guarded);
-        });
-    }
-}
-
-AutoHideState AutoHideSupportPrivate::state() const
-{
-    AutoHideState state;
-    state.popupOnHover = popupOnHover->isChecked();
-    state.sides = remembered;
-    for (const auto& [key, entry] : entries) {
-        const bool counts = entry.dock && isOn(*entry.dock) && !entry.dock->objectName().isEmpty();
-        // Somebody may have deleted the tool bar.
-        const Qt::ToolBarArea side = counts ? shownArea(*entry.dock) : Qt::NoToolBarArea;
-        if (side != Qt::NoToolBarArea)
-            state.sides.insert(entry.dock->objectName(), side);
-    }
-    return state;
-}
-
-void AutoHideSupportPrivate::apply(const AutoHideState& state)
-{
-    const QPointer<AutoHideSupport> alive(&q);
-    isApplying = true;
-    popupOnHover->setChecked(state.popupOnHover);
-    remembered = state.sides;
-    QList<DockPointer> docks;
-    for (const auto& [key, entry] : entries)
-        docks << entry.dock;
-    for (const DockPointer& dock : std::as_const(docks)) {
-        if (alive && dock && isOn(*dock) && !remembered.contains(dock->objectName()))
-            q.disableAutoHide(*dock);
-        else if (alive && dock)
-            applyRemembered(*dock);
-    }
-    if (alive)
-        isApplying = false;
-}
-
-void AutoHideSupportPrivate::applyRemembered(QDockWidget& dock)
-{
-    const auto side = remembered.find(dock.objectName());
-    if (side == remembered.end() || entryOf(&dock) == nullptr)
-        return;
-    const Qt::ToolBarArea area = *side;
-    remembered.erase(side);
-    restore(dock, area);
-}
-
-void AutoHideSupportPrivate::store() const
-{
-    if (storageName.isEmpty() || isApplying)
-        return;
-    if (ICfg* layout = CfgCenter::GetAppCfg(LayoutView))
-        if (const auto section = layout->OpenSubCfg(storageSection()))
-            section->SetString(storageName, QString::fromLatin1(state().toBytes().toHex()));
-}
 
 AutoHideSupport::AutoHideSupport(QMainWindow& mainWindow, QFlags<Qt::ToolBarArea> areas)
     : QObject(&mainWindow)
     , d(std::make_unique<AutoHideSupportPrivate>(*this, mainWindow, areas))
 {
-    d->popupOnHover =
-        new QAction(makeDockIcon(DockIcon::PopupOnHover), tr("Popup on mouse hover"), this);
-    d->popupOnHover->setToolTip(tr("Popup on mouse hover"));
-    d->popupOnHover->setCheckable(true);
-    d->popupOnHover->setChecked(true);
-    connect(d->popupOnHover, &QAction::toggled, this, [this] { d->store(); });
+    connect(&d->bars.popupOnHover(), &QAction::toggled, this, [this] { d->store(); });
     setSelectToolBarAreaFn({});
     mainWindow.installEventFilter(this);
     createDockWidgetTabToolBars();
-    const auto docks = QMainWindowHelpers::dockWidgets(
-        mainWindow, [](const QDockWidget&) { return true; }, -1);
+    const QList<QDockWidget*> docks = QMainWindowHelpers::dockWidgets(mainWindow);
     for (QDockWidget* dock : docks)
         d->registerDock(*dock);
 }
 
 AutoHideSupport::~AutoHideSupport()
 {
-    parent()->removeEventFilter(this);
-    // A main window that is being destroyed is none any more, and takes everything with it.
-    if (qobject_cast<QMainWindow*>(parent()) != nullptr) {
-        d->storageName.clear();
-        const QList<const QDockWidget*> docks = d->autoHideDocks;
-        for (const QDockWidget* dock : docks)
-            if (auto* entry = d->entryOf(dock); entry != nullptr && entry->dock)
-                disableAutoHide(*entry->dock);
-        for (QToolBar* toolBar : std::as_const(d->toolBars))
-            if (toolBar != nullptr)
-                toolBar->deleteLater();
-    }
+    d->release();
 }
 
 AutoHideSupport* AutoHideSupport::install(QMainWindow& mainWindow, QFlags<Qt::ToolBarArea> areas)
@@ -343,17 +86,17 @@ QAction* AutoHideSupport::autoHideAction(const QDockWidget& dock)
 
 QFlags<Qt::ToolBarArea> AutoHideSupport::toolBarAreas() const
 {
-    return d->areas;
+    return d->bars.areas();
 }
 
 void AutoHideSupport::setPopupOnHoverEnabled(bool enabled)
 {
-    d->popupOnHover->setChecked(enabled);
+    d->bars.popupOnHover().setChecked(enabled);
 }
 
 bool AutoHideSupport::isPopupOnHoverEnabled() const
 {
-    return d->popupOnHover->isChecked();
+    return d->bars.popupOnHover().isChecked();
 }
 
 void AutoHideSupport::setSyncAutoHideWithFloatingEnabled(bool enabled)
@@ -378,12 +121,12 @@ bool AutoHideSupport::isAllowAutoHideOfNonFloatingEnabled() const
 
 void AutoHideSupport::setAutoHideDelay(int milliseconds)
 {
-    d->delay = std::max(0, milliseconds);
+    d->timer.setDelay(milliseconds);
 }
 
 int AutoHideSupport::autoHideDelay() const
 {
-    return d->delay;
+    return d->timer.delay();
 }
 
 void AutoHideSupport::setAutoHideEnabled(QDockWidget& dock, bool enabled)
@@ -400,8 +143,8 @@ void AutoHideSupport::enableAutoHide(QDockWidget& dock)
     if (d->isOn(dock))
         return;
     Qt::ToolBarArea area = Qt::NoToolBarArea;
-    if (d->entryOf(&dock) != nullptr)
-        area = d->usableArea(selectToolBarArea(d->mainWindow, dock, d->areas));
+    if (d->entryOf(&dock) != nullptr && d->window() != nullptr)
+        area = d->bars.usableArea(selectToolBarArea(*d->window(), dock, toolBarAreas()));
     if (area == Qt::NoToolBarArea)
         d->setActionChecked(dock, false);
     else
@@ -410,25 +153,7 @@ void AutoHideSupport::enableAutoHide(QDockWidget& dock)
 
 void AutoHideSupport::disableAutoHide(QDockWidget& dock)
 {
-    if (isAutoHideDisabled(dock))
-        return;
-    const DockPointer guarded(&dock);
-    const QPointer<AutoHideSupport> alive(this);
-    const UpdatesBlocker blocker(dock);
-    d->autoHideDocks.removeAll(&dock);
-    setDockWidgetActionVisibility(dock, Qt::NoToolBarArea);
-    updateToolBarVisibility();
-    if (d->pending == &dock)
-        deactivateAutoHideTimer();
-    AutoHideSupportPrivate::Entry* entry = d->entryOf(&dock);
-    const bool wasHidden = entry != nullptr && std::exchange(entry->hiddenByMode, false);
-    const bool sync = d->syncWithFloating;
-    d->store();
-    d->setActionChecked(dock, false);
-    if (guarded && sync)
-        dock.setFloating(false);
-    if (guarded && wasHidden)
-        dock.show();
+    d->disable(dock);
 }
 
 void AutoHideSupport::setSelectToolBarAreaFn(SelectToolBarAreaFn function)
@@ -492,18 +217,133 @@ bool AutoHideSupport::restoreState(const QByteArray& state)
 
 void AutoHideSupport::setStorageName(const QString& name)
 {
-    d->storageName = name;
-    ICfg* layout = name.isEmpty() ? nullptr : CfgCenter::GetAppCfg(LayoutView);
-    if (layout == nullptr || !layout->HasSubCfg(storageSection()))
-        return;
-    const QString stored = layout->OpenSubCfg(storageSection())->GetString(name);
-    if (const auto state = AutoHideState::fromBytes(QByteArray::fromHex(stored.toLatin1())))
-        d->apply(*state);
+    d->record.setName(name);
+    if (const std::optional<AutoHideState> stored = d->record.read())
+        d->apply(*stored);
 }
+
+// --- Events --------------------------------------------------------------------------------------
+
+bool AutoHideSupport::eventFilter(QObject* watched, QEvent* event)
+{
+    const SurvivalCheck receiver(watched);
+    if (watched == parent())
+        mainWindowEvent(*event);
+    else if (const auto* entry = d->entryOf(watched); entry != nullptr && entry->dock)
+        dockWidgetEvent(*entry->dock, *event);
+    else if (auto* button = qobject_cast<QAbstractButton*>(watched))
+        actionWidgetEvent(*button, *event);
+    return receiver.hasDied();
+}
+
+void AutoHideSupport::timerEvent(QTimerEvent* event)
+{
+    if (!d->timer.handle(*event))
+        QObject::timerEvent(event);
+}
+
+void AutoHideSupport::mainWindowEvent(const QEvent& event)
+{
+    const QPointer<AutoHideSupport> alive(this);
+    switch (event.type()) {
+    case QEvent::Resize:
+    case QEvent::Move:
+        d->followMainWindow();
+        break;
+    case QEvent::LayoutRequest:
+        // All that a hidden dock's removal from the layout leads to.
+        for (const DockPointer& dock : d->docksInMode())
+            if (d->window() != nullptr &&
+                d->window()->dockWidgetArea(dock.get()) == Qt::NoDockWidgetArea)
+                d->leaveWhenGone(*dock);
+        break;
+    case QEvent::KeyPress:
+        // A dock that the mouse has shown does not have the focus.
+        if (isEscape(event))
+            d->dismissAll();
+        break;
+    case QEvent::ChildRemoved: {
+        const QObject* child = static_cast<const QChildEvent&>(event).child();
+        // A dock may have been registered before it was announced.
+        if (child == this)
+            d->release();
+        else if (const auto* entry = d->entryOf(child))
+            d->unregisterDock(child, entry->dock.get());
+        break;
+    }
+    default:
+        break;
+    }
+    if (alive)
+        d->children.handle(event);
+}
+
+void AutoHideSupport::dockWidgetEvent(QDockWidget& dock, const QEvent& event)
+{
+    const bool isOn = d->isOn(dock);
+    switch (event.type()) {
+    case QEvent::Enter:
+        if (isOn)
+            d->timer.hideOther(dock);
+        break;
+    case QEvent::Leave:
+        // Child widgets make the toolkit tell this while the mouse is still over the dock.
+        if (isOn && !AutoHideTimer::isUnderCursor(dock))
+            activateAutoHideTimer(dock);
+        break;
+    case QEvent::Show:
+        // The window system's own shows, after minimizing, change nothing.
+        if (!event.spontaneous())
+            d->dockShown(dock);
+        break;
+    case QEvent::Close:
+        if (auto* entry = d->entryOf(&dock); isOn && entry != nullptr)
+            entry->isClosed = true;
+        [[fallthrough]];
+    case QEvent::Hide:
+        if (isOn)
+            d->leaveWhenGone(dock);
+        break;
+    case QEvent::KeyPress:
+        if (isOn && dock.isVisible() && isEscape(event))
+            d->dismissByKey(dock);
+        break;
+    case QEvent::WindowTitleChange:
+    case QEvent::WindowIconChange:
+    case QEvent::ModifiedChange:
+    case QEvent::IconTextChange:
+        d->bars.followDock(dock);
+        break;
+    case QEvent::DynamicPropertyChange:
+        if (static_cast<const QDynamicPropertyChangeEvent&>(event).propertyName() == actionProperty)
+            d->connectAutoHideAction(dock);
+        break;
+    default:
+        break;
+    }
+}
+
+void AutoHideSupport::actionWidgetEvent(QAbstractButton& button, const QEvent& event)
+{
+    if (event.type() != QEvent::Enter && event.type() != QEvent::Leave)
+        return;
+    const auto* entry = d->entryOf(AutoHideBars::dockOf(button));
+    if (entry == nullptr || !entry->dock)
+        return;
+    QDockWidget& dock = *entry->dock;
+    if (event.type() == QEvent::Enter)
+        d->timer.hideOther(dock);
+    else
+        activateAutoHideTimer(dock);
+}
+
+// --- For derived classes -------------------------------------------------------------------------
 
 QList<QDockWidget*> AutoHideSupport::dockWidgets(bool includeFloating) const
 {
-    return QMainWindowHelpers::dockWidgets(d->mainWindow, Qt::AllDockWidgetAreas, includeFloating);
+    return d->window() == nullptr ? QList<QDockWidget*>()
+                                  : QMainWindowHelpers::dockWidgets(
+                                        *d->window(), Qt::AllDockWidgetAreas, includeFloating);
 }
 
 bool AutoHideSupport::isAutoHideDisabled(const QDockWidget& dock) const
@@ -514,6 +354,64 @@ bool AutoHideSupport::isAutoHideDisabled(const QDockWidget& dock) const
 void AutoHideSupport::onAutoHideActionToggled(QDockWidget& dock, bool checked)
 {
     setAutoHideEnabled(dock, checked);
+}
+
+void AutoHideSupport::popupDockWidgetOnHovered(QDockWidget& dock)
+{
+    if (isPopupOnHoverEnabled())
+        dock.show();
+}
+
+void AutoHideSupport::activateAutoHideTimer(QDockWidget& dock)
+{
+    d->timer.start(dock);
+}
+
+QDockWidget* AutoHideSupport::deactivateAutoHideTimer()
+{
+    return d->timer.stop();
+}
+
+void AutoHideSupport::moveDockWidget(QDockWidget& dock, const QToolBar& toolBar)
+{
+    AutoHideBars::moveDock(dock, toolBar);
+}
+
+void AutoHideSupport::createDockWidgetTabToolBars()
+{
+    if (d->window() != nullptr)
+        d->bars.createIn(*d->window());
+}
+
+QAction* AutoHideSupport::createToggleViewProxyAction(QDockWidget& dock, Qt::ToolBarArea area)
+{
+    return d->bars.createProxy(dock, area,
+                               [this](QDockWidget& hovered) { popupDockWidgetOnHovered(hovered); });
+}
+
+QAction* AutoHideSupport::toolBarActionFor(const QToolBar& toolBar, const QDockWidget& dock) const
+{
+    return d->bars.proxyOn(toolBar, &dock);
+}
+
+QToolBar* AutoHideSupport::toolBarResponsibleFor(const QDockWidget& dock) const
+{
+    return d->bars.barOf(&dock);
+}
+
+void AutoHideSupport::setDockWidgetActionVisibility(const QDockWidget& dock, Qt::ToolBarArea area)
+{
+    d->bars.showButton(&dock, area);
+}
+
+void AutoHideSupport::updateToolBarVisibility()
+{
+    d->bars.updateVisibility();
+}
+
+void AutoHideSupport::setToolBarVisible(QToolBar& toolBar, bool visible)
+{
+    d->bars.setExpanded(toolBar, visible);
 }
 
 } // namespace QMainWindowHelpers

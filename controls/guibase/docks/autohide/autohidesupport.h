@@ -30,8 +30,9 @@ struct AutoHideSupportPrivate;
 /// on the button shows the dock and leads into it, Escape in the dock leads back; Escape that
 /// nothing in the main window takes hides what the mouse has shown.
 ///
-/// The support belongs to its main window and sees docks come and go by itself. A dock that the
-/// user docks or closes, or that joins a floating group or another main window, leaves the mode.
+/// The support belongs to its main window and sees docks come and go by itself. A dock that enters
+/// the mode hides those that it would cover at its edge. A dock that the user docks or closes, or
+/// that joins a floating group or another main window, leaves the mode.
 class GUIBASE_EXPORT AutoHideSupport : public QObject
 {
     Q_OBJECT
@@ -123,8 +124,8 @@ protected:
     void activateAutoHideTimer(QDockWidget& dock);
     /// The dock that was pending, or null.
     QDockWidget* deactivateAutoHideTimer();
-    /// Puts the dock against the inner edge of the tool bar, along its whole length and not beyond the
-    /// opposite edge of the main window.
+    /// Puts the dock against the inner edge of the tool bar, along its whole length and not beyond
+    /// the opposite edge of the main window.
     void moveDockWidget(QDockWidget& dock, const QToolBar& toolBar);
 
     void createDockWidgetTabToolBars();

@@ -1,67 +1,70 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "autohidebars_p.h"
+#include "autohiderecord_p.h"
 #include "autohidesupport.h"
+#include "autohidetimer_p.h"
 
 #include <guibase/docks/attachedhelper.h>
 #include <guibase/docks/dockchildren.h>
 #include <guibase/docks/dockpointer.h>
-#include <guibase/records/autohidestate.h>
 
-#include <QBasicTimer>
-#include <QHash>
-#include <QMainWindow>
 #include <QPointer>
-#include <QToolBar>
 
 #include <map>
+#include <optional>
 
 namespace QMainWindowHelpers {
 
+/// The mode itself: which docks are in it, and what the events of the window and its docks do to
+/// that. Bars, timer and record do their parts.
 struct AutoHideSupportPrivate
 {
     /// A dock of the main window, kept under its address, which is good for comparing only.
     struct Entry
     {
         DockPointer dock;
-        QMap<Qt::ToolBarArea, QAction*> proxies;
         QPointer<QAction> autoHideAction; ///< The one that is connected.
         QString name;                     ///< The object name, known when the dock dies too.
+        bool isOn = false;
         bool hiddenByMode = false;
         bool isClosed = false; ///< By the user or the application, not by the mode.
-        bool willHide = false; ///< Once what it has open is closed.
         bool hadArea = false;  ///< When it entered the mode.
     };
 
     AutoHideSupportPrivate(AutoHideSupport& support, QMainWindow& served,
-                           QFlags<Qt::ToolBarArea> givenAreas);
+                           QFlags<Qt::ToolBarArea> areas);
 
+    /// Null once the support has left its window, and while the window is being destroyed.
+    QMainWindow* window() const;
     Entry* entryOf(const QObject* dock);
-    bool isOn(const QDockWidget& dock) const { return autoHideDocks.contains(&dock); }
+    bool isOn(const QDockWidget& dock);
+    QList<DockPointer> docksInMode();
+    /// Ends the mode of all docks, and the service.
+    void release();
 
     /// Makes buttons for the dock and watches it; does nothing for a dock that is registered.
     void registerDock(QDockWidget& dock);
     /// `dock` is null when the dock is being destroyed.
     void unregisterDock(const QObject* key, QDockWidget* dock);
-    void addButtons(QDockWidget& dock, Entry& entry);
+    /// What the end of its entry means for a dock that lives, and for one that is dead.
+    void letGo(QDockWidget& dock, const Entry& entry);
     void connectAutoHideAction(QDockWidget& dock);
-    /// Texts and icons of the buttons.
-    void followDock(const QDockWidget& dock);
+    void setActionChecked(const QDockWidget& dock, bool checked);
 
-    /// The area itself, or the other side when only that has a tool bar; else NoToolBarArea.
-    Qt::ToolBarArea usableArea(Qt::ToolBarArea wanted) const;
-    Qt::ToolBarArea shownArea(const QDockWidget& dock) const;
     void enable(QDockWidget& dock, Qt::ToolBarArea area);
     /// Also moves the button of a dock that is in the mode already.
     void restore(QDockWidget& dock, Qt::ToolBarArea area);
-    void setActionChecked(const QDockWidget& dock, bool checked);
-
-    /// Hides the dock, or does so later if something of its own is open.
-    void hideDock(QDockWidget& dock);
-    void hideLater(QDockWidget& dock);
+    void disable(QDockWidget& dock);
     /// Ends the mode of a dock that was closed, docked while hidden, or taken out of the window.
     void leaveWhenGone(QDockWidget& dock);
-    void hideOther(QDockWidget* pending, const QDockWidget& dock);
+    /// Hides the docks that this one would cover, but not one that the user is working in.
+    void hideOthersAt(Qt::ToolBarArea area, const QDockWidget& dock);
+    void placeLater(QDockWidget& dock);
+    /// Puts a dock of the mode against its bar.
+    void place(QDockWidget& dock);
+
     void dockShown(QDockWidget& dock);
     /// Keeps the shown docks against their tool bars.
     void followMainWindow();
@@ -69,34 +72,24 @@ struct AutoHideSupportPrivate
     void dismissByKey(QDockWidget& dock);
     void dismissAll();
 
-    AutoHideState state() const;
+    AutoHideState state();
     void apply(const AutoHideState& state);
-    /// Applies what is remembered of a dock that has come.
-    void applyRemembered(QDockWidget& dock);
-    void store() const;
+    /// Applies what is expected of a dock that has come.
+    void applyExpected(QDockWidget& dock);
+    void store();
 
     AutoHideSupport& q;
-    QMainWindow& mainWindow;
-    const QFlags<Qt::ToolBarArea> areas;
+    QPointer<QObject> served;
     AutoHideSupport::SelectToolBarAreaFn selectArea;
-    QAction* popupOnHover = nullptr;
-    QMap<Qt::ToolBarArea, QPointer<QToolBar>> toolBars;
-    QList<const QDockWidget*> autoHideDocks;
     bool syncWithFloating = true;
     bool allowNonFloating = false;
-    int delay = 500;
-    QBasicTimer hideTimer;
-    DockPointer pending;
-    bool waitsForOpenWindow = false; ///< The hiding was put off for something that was open.
-
-    std::map<const QObject*, Entry> entries;
-    /// The saved sides of docks that are not there.
-    QMap<QString, Qt::ToolBarArea> remembered;
-    QString storageName;
     bool isFollowing = false;
-    bool isApplying = false; ///< Nothing is stored meanwhile.
+    AutoHideBars bars;
+    AutoHideTimer timer;
+    AutoHideRecord record;
+    std::map<const QObject*, Entry> entries;
     DockChildren children;
-    AttachedHelpers::Attachment attachment;
+    std::optional<AttachedHelpers::Attachment> attachment;
 };
 
 } // namespace QMainWindowHelpers

@@ -3,5 +3,8 @@ guibase_room(docks/autohide
     PUBLIC
         autohidesupport.cpp autohidesupport.h autohidesupport_p.h
     INTERNAL
+        autohidebars.cpp autohidebars_p.h
         autohidebutton.cpp autohidebutton_p.h
-        autohidesupportevents.cpp)
+        autohidemode.cpp
+        autohiderecord.cpp autohiderecord_p.h
+        autohidetimer.cpp autohidetimer_p.h)

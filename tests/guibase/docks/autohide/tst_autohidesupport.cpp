@@ -114,11 +114,8 @@ private Q_SLOTS:
     void enablingFloatsAndShowsOneButton()
     {
         Window w;
-        const auto* states = QDockWidgetHelpers::MaximizeMinimizeSupport::install(*w.right);
         AutoHideSupport::autoHideAction(*w.right)->setChecked(true);
         QVERIFY(w.right->isFloating());
-        QTRY_VERIFY(states->maximizeDockWidgetAction().isVisible());
-        QVERIFY(!states->minimizeDockWidgetAction().isVisible());
         QCOMPARE(w.buttons(w.right).size(), 1);
         QToolBar* bar = w.bar(Qt::RightToolBarArea);
         QCOMPARE(w.buttons(w.right).first()->arrowType(), Qt::LeftArrow);
@@ -136,6 +133,29 @@ private Q_SLOTS:
         AutoHideSupport::autoHideAction(*w.right)->setChecked(false);
         QVERIFY(!w.right->isFloating());
         QTRY_COMPARE(bar->width(), 0);
+    }
+    void popsUpInItsNormalState()
+    {
+        Window w;
+        auto* states = QDockWidgetHelpers::MaximizeMinimizeSupport::install(*w.left);
+        const auto canChange = [states] {
+            return states->maximizeDockWidgetAction().isVisible() ||
+                   states->minimizeDockWidgetAction().isVisible();
+        };
+        w.support->setSyncAutoHideWithFloatingEnabled(false);
+        w.left->setFloating(true);
+        QTRY_VERIFY(canChange());
+        QVERIFY(states->maximizeDockWidget());
+        w.support->enableAutoHide(*w.left);
+        QVERIFY(!canChange());
+        QCOMPARE(states->dockWidgetState(),
+                 QDockWidgetHelpers::MaximizeMinimizeSupport::State::Normal);
+        w.left->hide();
+        w.buttons(w.left).first()->click();
+        settle();
+        QVERIFY(w.left->isVisible() && !w.left->isMaximized() && !canChange());
+        w.support->disableAutoHide(*w.left);
+        QVERIFY(canChange());
     }
     void sideFollowsChoice()
     {
@@ -306,7 +326,10 @@ private Q_SLOTS:
     {
         Window w;
         QDockWidget* late = w.addDock(QString(), Qt::RightDockWidgetArea); // without any title
+        w.support->enableAutoHide(*w.right);
         w.support->enableAutoHide(*late);
+        QVERIFY(late->isVisible() && !w.right->isVisible()); // it would be covered
+        w.support->disableAutoHide(*w.right);
         QDockWidget* twin = w.addDock(u"left"_s, Qt::LeftDockWidgetArea);
         w.support->enableAutoHide(*twin);
         QVERIFY(w.buttons(w.left).isEmpty());
@@ -355,6 +378,18 @@ private Q_SLOTS:
         support->enableAutoHide(*right);
         QVERIFY(support.isNull());
         QTest::qWait(40); // the delay has passed
+    }
+    void supportLeavesItsWindow()
+    {
+        Window w;
+        w.support->enableAutoHide(*w.left);
+        w.support->setParent(nullptr);
+        QVERIFY(!w.isOn(w.left) && !w.left->isFloating());
+        QVERIFY(AutoHideSupport::get(*w.window) == nullptr);
+        w.window.reset();
+        DockWindow other;
+        w.support->enableAutoHide(*other.addDock(u"dock"_s));
+        delete w.support;
     }
     void stateSurvivesRestart()
     {

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/docks/dockpointer.h>
+
+#include <QBasicTimer>
+#include <QSet>
+
+#include <functional>
+
+class QTimerEvent;
+
+namespace QMainWindowHelpers {
+
+/// Decides when a dock that was shown in auto-hide mode hides again: a while after the mouse has
+/// left it, but not while a menu, list or dialog of its own is open.
+class AutoHideTimer
+{
+public:
+    struct Hooks
+    {
+        std::function<bool(const QDockWidget&)> isInMode;
+        /// Called right before a dock is hidden.
+        std::function<void(QDockWidget&)> hides;
+    };
+
+    /// The owner receives the timer events, and hands them to handle().
+    AutoHideTimer(QObject& owner, Hooks hooks);
+    ~AutoHideTimer();
+    Q_DISABLE_COPY_MOVE(AutoHideTimer)
+
+    /// Milliseconds, 0 or more.
+    void setDelay(int milliseconds);
+    int delay() const { return m_delay; }
+
+    /// Hides the pending dock at once and lets this one be hidden after the delay.
+    void start(QDockWidget& dock);
+    /// The dock that was pending, or null.
+    QDockWidget* stop();
+    /// Stops when this dock is pending, and when the pending one is dead.
+    void forget(const QObject* dock);
+    /// Hides the pending dock unless it is this one.
+    void hideOther(const QDockWidget& dock);
+    /// Hides the dock, or does so later if something of its own is open.
+    void hide(QDockWidget& dock);
+    /// False for the events of other timers.
+    bool handle(const QTimerEvent& event);
+
+    static bool isUnderCursor(const QDockWidget& dock);
+
+private:
+    void hideLater(QDockWidget& dock);
+    void finishWaiting(const QObject* key, const DockPointer& dock);
+
+    QObject& m_owner;
+    const Hooks m_hooks;
+    int m_delay = 500;
+    QBasicTimer m_timer;
+    DockPointer m_pending;
+    bool m_waitsForOpenWindow = false; ///< The hiding was put off for something that was open.
+    QSet<const QObject*> m_waiting;    ///< Docks that hide once what they have open is closed.
+};
+
+} // namespace QMainWindowHelpers
