@@ -2,6 +2,7 @@
 #include "trovapplication.h"
 
 #include "cfgcenter.h"
+#include "endrequest_p.h"
 #include "savecomponentif.h"
 #include "startupsplash_p.h"
 #include "terminationsignals_p.h"
@@ -11,14 +12,13 @@
 
 #include <QApplication>
 #include <QDateTime>
-#include <QThread>
-#include <QTimer>
 
 #include <utility>
 
 namespace {
 
 constexpr char module[] = "trovappstartup/trovapplication";
+int gracePeriod = 3000; // in milliseconds
 
 /// Null where no window can be shown.
 QApplication* widgetApplication()
@@ -37,6 +37,7 @@ public:
     /// Shared with calls that paint it: one of the events that they let through may hide it.
     std::shared_ptr<StartupSplash> splash;
     std::unique_ptr<TerminationSignals> signalWatch;
+    std::unique_ptr<EndRequest> endRequest;
     qint64 splashShowTime = 0;
     bool isTerminated = false;
 };
@@ -47,6 +48,7 @@ void TrovApplicationPrivate::releaseApplication()
         return;
     TrovApplication::m_pThis->Terminate();
     TrovApplication::m_pThis->d->signalWatch.reset();
+    TrovApplication::m_pThis->d->endRequest.reset();
 }
 
 TrovApplication* TrovApplication::m_pThis = nullptr;
@@ -69,7 +71,8 @@ TrovApplication::TrovApplication(QObject* parent)
     }
 #endif
     d->signalWatch = std::make_unique<TerminationSignals>();
-    connect(d->signalWatch.get(), &TerminationSignals::requested, this, &TrovApplication::quit);
+    connect(d->signalWatch.get(), &TerminationSignals::requested, this,
+            &TrovApplication::RequestEnd);
 }
 
 TrovApplication::~TrovApplication()
@@ -83,22 +86,24 @@ TrovApplication::~TrovApplication()
     m_pThis = nullptr;
 }
 
-// Lets the windows close in good order. Where that does not end the event loop (a window refuses,
-// or somebody runs a loop of his own), what is to be saved is saved all the same.
-void TrovApplication::quit()
+void TrovApplication::RequestEnd()
 {
-    constexpr int graceMilliseconds = 3000;
-    const auto end = [this] {
-        Terminate();
-        QCoreApplication::exit(0);
-    };
-    if (QThread::currentThread()->loopLevel() == 0) {
-        Terminate();
-        QTimer::singleShot(0, this, end);
-        return;
-    }
-    QTimer::singleShot(graceMilliseconds, this, end);
-    QCoreApplication::quit();
+    if (!d->endRequest)
+        d->endRequest = std::make_unique<EndRequest>(*this, gracePeriod);
+    d->endRequest->start();
+}
+
+bool TrovApplication::EndEventLoop()
+{
+    if (!EndRequest::quitLoop())
+        return false;
+    QCoreApplication::exit(0);
+    return true;
+}
+
+void TrovApplication::SetGracePeriod(int milliseconds)
+{
+    gracePeriod = milliseconds;
 }
 
 void TrovApplication::ShowSplash(const QPixmap& picture)

@@ -15,10 +15,10 @@ class TrovApplicationPrivate;
 /// order. Made in main() after the QApplication, as a local object; one per process.
 ///
 /// Termination runs once, whichever comes first: the event loop ends
-/// (QCoreApplication::aboutToQuit), the desktop session ends and the application quits, SIGTERM,
-/// SIGINT or SIGHUP arrives (it then quits through the event loop), Terminate() is called, or this
-/// object is destroyed. It calls CfgCenter::SaveAll(), then aboutToTerminate() of every termination
-/// target, then CfgCenter::Store().
+/// (QCoreApplication::aboutToQuit), the desktop session ends and the application quits, Terminate()
+/// is called, or this object is destroyed. It calls CfgCenter::SaveAll(), then aboutToTerminate()
+/// of every termination target, then CfgCenter::Store(). SIGTERM, SIGINT and SIGHUP call
+/// RequestEnd().
 class TROVAPPSTARTUP_EXPORT TrovApplication : public QObject
 {
     Q_OBJECT
@@ -48,9 +48,19 @@ public:
     void Terminate();
     bool IsTerminated() const;
 
+    /// Ends the program as soon as an event loop lets it. QCoreApplication::exec() is quit, also
+    /// when it begins later; until then open dialogs are closed. Windows may refuse or ask the
+    /// user, but after the grace period the program terminates and leaves all loops. One that runs
+    /// without exec() and goes on for another grace period ends at once, with exit code 0.
+    void RequestEnd();
+    /// In milliseconds; counts for later requests. Default 3000.
+    static void SetGracePeriod(int milliseconds);
+    /// Closes the windows and ends QCoreApplication::exec(), also when a window refuses to close.
+    /// False, with nothing done, when exec() does not run.
+    static bool EndEventLoop();
+
 private:
     friend class TrovApplicationPrivate;
-    void quit();
 
     std::unique_ptr<TrovApplicationPrivate> d;
 };

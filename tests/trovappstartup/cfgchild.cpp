@@ -7,9 +7,11 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLockFile>
+#include <QMessageBox>
 #include <QTimer>
 #include <QWidget>
 
+#include <csignal>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -95,6 +97,25 @@ int holdLock()
     return ::pause();
 }
 
+/// Asks itself to end before the event loop runs, and changes something afterwards.
+void requestEarlyEnd(const QString& task)
+{
+    TrovApplication::SetGracePeriod(300);
+    if (task.contains(QLatin1String("dialog"))) {
+        QMessageBox question(QMessageBox::Question, {}, {}, QMessageBox::Ok);
+        if (task.contains(QLatin1String("without escape")))
+            question.addButton(QMessageBox::Retry); // then closing it is refused
+        QTimer::singleShot(0, &question, [] { ::raise(SIGTERM); });
+        question.exec();
+        return;
+    }
+    ::raise(SIGTERM);
+    QCoreApplication::processEvents();
+    settings()->SetString(QStringLiteral("text"), QStringLiteral("unsaved"));
+    while (task.contains(QLatin1String("own loop")))
+        QCoreApplication::processEvents();
+}
+
 int runApplication(const QString& task, int& argc, char** argv)
 {
     std::optional<TrovApplication> startup; // declared first, it may outlive the application object
@@ -112,6 +133,8 @@ int runApplication(const QString& task, int& argc, char** argv)
         window = std::make_unique<StubbornWindow>();
         window->show();
     }
+    if (task.contains(QLatin1String("early")))
+        requestEarlyEnd(task);
     settings()->SetString(QStringLiteral("text"), QStringLiteral("unsaved"));
     if (task.contains(QLatin1String("late")))
         return 0;
