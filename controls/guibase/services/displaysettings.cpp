@@ -112,8 +112,7 @@ QString DisplaySettings::timeString(quint64 microseconds, const QString& format)
 
 bool DisplaySettings::setDefaultDataDirectory(const QString& directory)
 {
-    // QDir takes an empty path for the current folder, which is not what was named.
-    if (directory.isEmpty() || !QDir(directory).exists())
+    if (!QDir(directory).exists())
         return false;
     defaultDataDirectory = directory;
     return true;

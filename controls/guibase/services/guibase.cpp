@@ -11,6 +11,7 @@
 #include <guibase/colors/signaltypenames.h>
 
 #include <trovappstartup/cfgcenter.h>
+#include <trovappstartup/trovapplication.h>
 
 #include <QApplication>
 #include <QPointer>
@@ -46,6 +47,7 @@ void GuiBase::SetApplication(QApplication* application)
     if (application == nullptr)
         return;
     application->installEventFilter(this);
+    CfgCenter::RegisterSaveComponent(this); // The end of an earlier application has undone it.
     StyleLoader::applyStyle();
     loadStyleSheet(nullptr);
     d->settings.readConfiguration();
@@ -101,7 +103,7 @@ void GuiBase::SlotMainWidgetDestroyed(QObject* object)
         return;
     SetMainWidget(nullptr);
     if (d->application)
-        QCoreApplication::quit();
+        TrovApplication::EndEventLoop();
 }
 
 // --- Help ----------------------------------------------------------------------------------------

@@ -50,7 +50,7 @@ public:
     void SetApplication(QApplication* application);
     QApplication* GetApplication() const;
     /// Makes the widget the main one: its layout is kept under the name "main", and the application
-    /// quits when it is destroyed. Calls SetApplication(qApp) if that was not done. Not owned; null
+    /// quits when it is destroyed, even if another window refuses to close. Calls SetApplication(qApp) if that was not done. Not owned; null
     /// leaves no main widget.
     void SetMainWidget(QWidget* widget);
     QWidget* GetMainWidget() const;
@@ -87,7 +87,8 @@ public:
     void SetWFontFamily(const QString& family);
     /// The options that every file dialog of the application must be opened with.
     QFlags<QFileDialog::Option> UseNativeDialogs();
-    /// False, with nothing changed, when the directory does not exist.
+    /// False, with nothing changed, when the directory does not exist. An empty text, which is also
+    /// the default, stands for the current folder.
     bool SetDefaultDataDirectory(const QString& directory);
     const QString& GetDefaultDataDirectory() const;
 
@@ -100,11 +101,13 @@ public:
 
     // --- Help ----------------------------------------------------------------------------------
 
-    /// Makes the Help menu: manual (F1), keyboard (Ctrl+F1) and info (Ctrl+Q). Slots are given as
-    /// SLOT() makes them. The manual entry opens `helpFile` (see slotHelpContents()), or calls the
-    /// receiver's `manualSlot` when one is given. The info entry calls the receiver's `infoSlot`. An
-    /// entry whose slot the receiver lacks is left out and reported by a trace. Warnings get
-    /// `messageParent`, or `parent` when that is null. The menu belongs to `parent`.
+    /// Makes the Help menu, which belongs to `parent`: manual (F1), keyboard (Ctrl+F1) and info
+    /// (Ctrl+Q). The manual entry calls `manualSlot` of the receiver; without `manualSlot` it opens
+    /// `helpFile`, see slotHelpContents(). The info entry calls `infoSlot` of the receiver. An entry
+    /// whose slot has no receiver, or a receiver without that slot, is left out; the latter is
+    /// reported by a trace. Slots are given as SLOT() makes them. Warnings get `messageParent`, or
+    /// `parent` when that is null. An entry whose shortcut another action of the window has too
+    /// gives it up when the shortcut is first used.
     QMenu* CreateHelpMenu(QWidget* parent, const QString& helpFile, QObject* infoReceiver,
                           const char* infoSlot, QWidget* messageParent, const char* manualSlot);
     QMenu* GetHelpMenu() const;

@@ -14,6 +14,7 @@
 #include <xmsgdlg/xmessagedialog.h>
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDockWidget>
 #include <QHeaderView>
 #include <QMainWindow>
@@ -54,8 +55,14 @@ int runEarly(int argc, char** argv)
     return 0;
 }
 
+class StubbornWindow : public QWidget
+{
+protected:
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
+};
+
 /// A day's work: everything that the services hold on to is in use when the process ends.
-int runSession(int argc, char** argv, bool deleteMainWidget)
+int runSession(int argc, char** argv, const QString& scenario)
 {
     QApplication application(argc, argv);
     TrovApplication startUp;
@@ -68,13 +75,18 @@ int runSession(int argc, char** argv, bool deleteMainWidget)
         services.CreateHelpMenu(window.get(), QString(), nullptr, nullptr, nullptr, nullptr));
     services.AddHotKey(Qt::Key_F5, 0, window.get(), QString(), QString(), true, true);
     services.HideSplash();
+    std::unique_ptr<StubbornWindow> other;
+    if (scenario.contains(QStringLiteral("stubborn"))) {
+        other = std::make_unique<StubbornWindow>();
+        other->show();
+    }
     tell(QStringLiteral("zone"), services.GetTimeZone()->GetCurrentIndex());
     tell(QStringLiteral("width"), window->width());
 
     QTimer::singleShot(0, &application, [&] {
         services.GetTimeZone()->SetCurrentIndex(0);
         window->resize(window->width() + 11, 300);
-        if (deleteMainWidget)
+        if (scenario.startsWith(QStringLiteral("delete")))
             window.reset();
         else
             window->close();
@@ -127,10 +139,11 @@ int main(int argc, char** argv)
     CfgCenter::SetAppName(QStringLiteral("services"));
     if (scenario == QStringLiteral("early"))
         return runEarly(argc, argv);
-    if (scenario == QStringLiteral("close"))
-        return runSession(argc, argv, false);
-    if (scenario == QStringLiteral("delete"))
-        return runSession(argc, argv, true);
+    if (scenario == QStringLiteral("close twice") && runSession(argc, argv, scenario) != 0)
+        return 1;
+    if (scenario.startsWith(QStringLiteral("close")) ||
+        scenario.startsWith(QStringLiteral("delete")))
+        return runSession(argc, argv, scenario);
     if (scenario == QStringLiteral("layouts"))
         return runLayouts(argc, argv);
     return 2;

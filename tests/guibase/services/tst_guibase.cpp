@@ -4,6 +4,7 @@
 #include "support/testrows.h"
 
 #include <guibase/colors/colorset.h>
+#include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
 
 #include <jtbase/errorhandler.h>
@@ -57,13 +58,26 @@ private Q_SLOTS:
     }
     void dataDirectory()
     {
-        for (const QString& good : {QDir::rootPath(), QDir::tempPath()}) {
+        for (const QString& good : {QDir::rootPath(), QString(), QDir::tempPath()}) {
             QVERIFY(m_services->SetDefaultDataDirectory(good));
-            for (const QString& bad : {QStringLiteral("/no/such/folder"), QString(),
+            for (const QString& bad : {QStringLiteral("/no/such/folder"),
                                        QCoreApplication::applicationFilePath()})
                 QVERIFY2(!m_services->SetDefaultDataDirectory(bad), qPrintable(bad));
             QCOMPARE(m_services->GetDefaultDataDirectory(), good);
         }
+    }
+    void nextApplicationIsSavedToo()
+    {
+        m_services->aboutToTerminate();
+        m_services->SetApplication(qApp);
+        SortListView list;
+        list.addColumn(QStringLiteral("column"));
+        list.show();
+        m_services->StoreColumnWidth4(QStringLiteral("list"), &list);
+        CfgCenter::SaveAll();
+        const auto cfg =
+            CfgCenter::GetAppCfg(LayoutView)->OpenSubCfg(QStringLiteral("FreqStoreListView"));
+        QCOMPARE(cfg->GetString(QStringLiteral("list")), QStringLiteral("100,0,0;"));
     }
     void nativeDialogs()
     {
