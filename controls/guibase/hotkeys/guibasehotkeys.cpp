@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QShortcutEvent>
 
 #include <mutex>
 
@@ -96,12 +97,18 @@ void GuiBase::ExecHotKeysDialog(QWidget* parent)
 
 bool GuiBase::eventFilter(QObject* object, QEvent* event)
 {
+    if (event->type() == QEvent::Shortcut)
+        return d->helpMenu.resolveAmbiguity(*static_cast<QShortcutEvent*>(event));
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return false;
-    if (d->hotKeys.isRepeatedDelivery(object, *static_cast<QKeyEvent*>(event)))
+    const QKeyEvent& keyEvent = *static_cast<QKeyEvent*>(event);
+    if (d->hotKeys.isRepeatedDelivery(object, keyEvent))
         return false;
     const QPointer<QObject> guard(object);
     const bool consumed = handleHotKeyEvent(object, event);
+    // A handler may have run a loop with keys of its own, such as a message box.
+    if (guard)
+        d->hotKeys.noteDelivery(object, keyEvent);
     // A handler may have deleted the object: the toolkit must not deliver the event to it then.
     return consumed || !guard;
 }

@@ -258,9 +258,14 @@ bool HotKeyRegistry::isRepeatedDelivery(const QObject* target, const QKeyEvent& 
     // The toolkit's window object passes every key event on to one of its widgets.
     if (target != nullptr && target->inherits("QWidgetWindow"))
         return true;
-    const Delivery delivery{&event, event.timestamp(), event.type(), event.key()};
-    const bool repeated = delivery == m_lastDelivery && isWidgetAround(target, m_lastTarget);
-    m_lastDelivery = delivery;
+    const QPointer<const QObject> formerTarget = m_lastTarget;
+    const Delivery formerDelivery = m_lastDelivery;
+    noteDelivery(target, event);
+    return m_lastDelivery == formerDelivery && isWidgetAround(target, formerTarget);
+}
+
+void HotKeyRegistry::noteDelivery(const QObject* target, const QKeyEvent& event)
+{
+    m_lastDelivery = {&event, event.timestamp(), event.type(), event.key()};
     m_lastTarget = target;
-    return repeated;
 }

@@ -52,6 +52,8 @@ public:
     /// Whether the event is one that was examined already: the toolkit offers one key event to a
     /// widget and then, until one accepts it, to the widgets around it.
     bool isRepeatedDelivery(const QObject* target, const QKeyEvent& event);
+    /// The event is the one examined last: repeated deliveries are compared with it.
+    void noteDelivery(const QObject* target, const QKeyEvent& event);
 
     /// Held while hot keys fire; a key event that arrives meanwhile is not examined.
     QMutex& mutex() { return m_mutex; }

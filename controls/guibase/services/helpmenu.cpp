@@ -10,10 +10,13 @@
 #include <trovappstartup/cfgcenter.h>
 
 #include <QAction>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMetaMethod>
+#include <QShortcutEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -46,6 +49,36 @@ void traceMissingSlot(const QObject& receiver, const QByteArray& signature)
                                   QString::fromLatin1(signature));
     ErrorHandler::Trace(ErrorHandler::TraceGuiBase, Tracing::module, Tracing::missingHelpSlotLine,
                         text);
+}
+
+QAction* findAction(const QList<QAction*>& actions, const QKeySequence& shortcut)
+{
+    const auto found = std::find_if(actions.cbegin(), actions.cend(), [&](const QAction* action) {
+        return action->isEnabled() && action->shortcuts().contains(shortcut);
+    });
+    return found == actions.cend() ? nullptr : *found;
+}
+
+/// The window at the root: menus, dialogs and floating docks are windows too.
+const QWidget* rootWindow(const QWidget* widget)
+{
+    while (const QWidget* const parent = widget->parentWidget())
+        widget = parent;
+    return widget;
+}
+
+QAction* findActionOfActiveWindow(const QKeySequence& shortcut)
+{
+    const QWidget* const active = QApplication::activeWindow();
+    if (active == nullptr)
+        return nullptr;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (const QWidget* widget : widgets) {
+        QAction* const action = findAction(widget->actions(), shortcut);
+        if (action != nullptr && rootWindow(widget) == rootWindow(active))
+            return action;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -117,6 +150,25 @@ void HelpMenu::addInfoEntry(const Request& request)
     QAction* entry = addEntry(GuiBase::tr("&Info...", "Help menu entry, shows info dialog"),
                               Qt::CTRL | Qt::Key_Q, request.receiver, slot);
     entry->setStatusTip(GuiBase::tr("Show info dialog", "Status tip for help menu entry"));
+}
+
+bool HelpMenu::resolveAmbiguity(const QShortcutEvent& event) const
+{
+    if (!event.isAmbiguous() || menu == nullptr)
+        return false;
+    QAction* const entry = findAction(menu->actions(), event.key());
+    if (entry == nullptr)
+        return false;
+    entry->setShortcut({});
+    QAction* const other = findActionOfActiveWindow(event.key());
+    const QString owner = other != nullptr ? other->text() : QStringLiteral("something");
+    ErrorHandler::Trace(ErrorHandler::TraceGuiBase, Tracing::module, __LINE__,
+                        QStringLiteral("GuiBase::CreateHelpMenu(): '%1' loses %2 to '%3'")
+                            .arg(entry->text(), event.key().toString(), owner));
+    if (other == nullptr)
+        return false;
+    other->trigger();
+    return true;
 }
 
 QString HelpMenu::manualFile() const

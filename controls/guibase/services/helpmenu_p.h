@@ -8,6 +8,7 @@
 
 class GuiBase;
 class QMetaMethod;
+class QShortcutEvent;
 
 /// The application's Help menu and the manual that it opens.
 ///
@@ -31,6 +32,11 @@ public:
 
     /// Opens the manual with the program that the desktop has for it, or warns.
     void showManual() const;
+
+    /// A shortcut that belongs to an entry and to another action too would trigger neither: the
+    /// entry gives it up, with a trace, and the other action is triggered. False when the event is
+    /// left to the toolkit.
+    bool resolveAmbiguity(const QShortcutEvent& event) const;
 
     QPointer<QMenu> menu;
     QPointer<QWidget> messageParent;

@@ -15,6 +15,7 @@
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QWindow>
 
@@ -119,6 +120,15 @@ private Q_SLOTS:
             QTest::keyClick(label, Qt::Key_F6);
             QCOMPARE(fired.count(id), 2 * time);
         }
+        int questions = 0;
+        connect(m_services, &GuiBase::hotkey_ESC_pressed, &window, [&questions] {
+            ++questions;
+            QMessageBox question;
+            QTimer::singleShot(0, &question, [&] { QTest::keyClick(&question, Qt::Key_Escape); });
+            question.exec();
+        });
+        QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+        QCOMPARE(questions, 1);
     }
     void keysDuringHandlingAreNotExamined()
     {

@@ -12,8 +12,11 @@
 
 #include <QAction>
 #include <QDir>
+#include <QMainWindow>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -116,6 +119,39 @@ private Q_SLOTS:
         });
         actions.at(1)->trigger();
         QVERIFY(closer.hasSeenDialog());
+    }
+    void ownShortcutIsGivenUp_data()
+    {
+        TestRows<bool> row;
+        row("help menu made first", true);
+        row("help menu made last", false);
+    }
+    void ownShortcutIsGivenUp()
+    {
+        const bool helpFirst = std::get<0>(TestRows<bool>::fetch());
+        m_services->SetApplication(qApp);
+        QMainWindow window;
+        InfoReceiver receiver;
+        const auto addHelp = [&] {
+            window.menuBar()->addMenu(m_services->CreateHelpMenu(
+                &window, QString(), &receiver, SLOT(showInfo()), nullptr, nullptr));
+        };
+        if (helpFirst)
+            addHelp();
+        QAction* const quit = window.menuBar()->addMenu(QString())->addAction(
+            QStringLiteral("Quit"), Qt::CTRL | Qt::Key_Q, [] {});
+        const QSignalSpy quits(quit, &QAction::triggered);
+        if (!helpFirst)
+            addHelp();
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        for (int time = 1; time <= 2; ++time) {
+            QTest::keyClick(window.windowHandle(), Qt::Key_Q, Qt::ControlModifier);
+            QCOMPARE(quits.count(), time);
+        }
+        QCOMPARE(receiver.infos, 0);
+        QVERIFY(takeTraces().contains(QStringLiteral("'&Info...' loses Ctrl+Q to 'Quit'")));
     }
     void menuDiesWithItsParent()
     {
