@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <valueframework/persistant.h>
 
+#include <valueframework/pendingwrite.h>
 #include <valueframework/valueselection.h>
 
 #include <jtbase/errorhandler.h>
@@ -216,6 +217,7 @@ void Persistant::Read(const QString& subKey)
 
 void Persistant::Write(const QString& subKey)
 {
+    PendingWrite::WriteAll();
     if (m_owner != nullptr)
         m_owner->ApplyPersistantBeforeWrite();
     const std::unique_ptr<ICfg> cfg = open(subKey);

@@ -16,6 +16,13 @@ bool isNotANumber(T value)
         return false;
 }
 
+/// Whether the variant becomes the same whole number or none; other types wrap or are rounded.
+template <typename T>
+bool isExact(const QVariant& value)
+{
+    return value.metaType() == QMetaType::fromType<T>() || value.typeId() == QMetaType::QString;
+}
+
 } // namespace
 
 IValueNumeric::~IValueNumeric() = default;
@@ -66,7 +73,7 @@ void ValueNumeric<T>::SetValue(T value)
         return;
     aboutToChange();
     m_value = clamped;
-    Notify(ChangeCode::CurrentValue);
+    tell(ChangeCode::CurrentValue);
 }
 
 template <typename T>
@@ -86,8 +93,8 @@ void ValueNumeric<T>::SetRange(T minimum, T maximum)
     m_minimum = minimum;
     m_maximum = maximum;
     m_value = clamped;
-    if (Notify(ChangeCode::Range) && valueChanges)
-        Notify(ChangeCode::CurrentValue);
+    if (tell(ChangeCode::Range) && valueChanges)
+        tell(ChangeCode::CurrentValue);
 }
 
 template <typename T>
@@ -107,11 +114,15 @@ void ValueNumeric<T>::SetAsDouble(double value)
 {
     if (std::isnan(value))
         return;
-    const double clamped = std::clamp(value, GetMinimumAsDouble(), GetMaximumAsDouble());
-    if constexpr (std::is_integral_v<T>)
-        SetValue(static_cast<T>(std::round(clamped)));
+    // The bounds of 64-bit numbers as double may lie outside the type.
+    if (value <= GetMinimumAsDouble())
+        SetValue(m_minimum);
+    else if (value >= GetMaximumAsDouble())
+        SetValue(m_maximum);
+    else if constexpr (std::is_integral_v<T>)
+        SetValue(static_cast<T>(std::round(value)));
     else
-        SetValue(clamped);
+        SetValue(value);
 }
 
 template <typename T>
@@ -136,6 +147,13 @@ template <typename T>
 bool ValueNumeric<T>::SetVariant(const QVariant& value)
 {
     QVariant converted = value;
+    if constexpr (sizeof(T) > sizeof(int) && std::is_integral_v<T>) {
+        if (isExact<T>(value) && convertVariant(converted, QMetaType::fromType<T>())) {
+            SetValue(converted.value<T>());
+            return true;
+        }
+        converted = value;
+    }
     if (!convertVariant(converted, QMetaType::fromType<double>()))
         return false;
     const double number = converted.toDouble();
@@ -146,6 +164,9 @@ bool ValueNumeric<T>::SetVariant(const QVariant& value)
 }
 
 template class Value<bool>;
+template class Value<QDateTime>;
 template class Value<QString>;
 template class ValueNumeric<int>;
+template class ValueNumeric<qint64>;
+template class ValueNumeric<quint64>;
 template class ValueNumeric<double>;

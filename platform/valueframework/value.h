@@ -3,10 +3,13 @@
 
 #include <valueframework/valuebase.h>
 
+#include <QDateTime>
+
 #include <limits>
 #include <utility>
 
-/// A value of any kind that a QVariant can hold and convert, such as bool and QString.
+/// A value of any kind that a QVariant can hold and convert; bool, QDateTime and QString are
+/// provided.
 template <typename T>
 class VALUEFRAMEWORK_EXPORT Value : public ValueBase
 {
@@ -26,7 +29,7 @@ public:
             return;
         aboutToChange();
         m_value = value;
-        Notify(ChangeCode::CurrentValue);
+        tell(ChangeCode::CurrentValue);
     }
 
     QVariant GetVariant() const override { return QVariant::fromValue(m_value); }
@@ -44,6 +47,7 @@ private:
 };
 
 extern template class Value<bool>;
+extern template class Value<QDateTime>;
 extern template class Value<QString>;
 
 /// The side of a numeric value that does not depend on its type.
@@ -54,6 +58,7 @@ public:
 
     /// The observable that tells of changes of this value.
     virtual Observable* GetObservable() = 0;
+    /// Not exact for whole numbers beyond 2^53, here and below.
     virtual double GetAsDouble() const = 0;
     /// Rounds for integer values; clamps into the range; NaN is ignored.
     virtual void SetAsDouble(double value) = 0;
@@ -61,7 +66,7 @@ public:
     virtual double GetMaximumAsDouble() const = 0;
 };
 
-/// A number with a range; int and double are provided.
+/// A number with a range; int, qint64, quint64 and double are provided.
 template <typename T>
 class VALUEFRAMEWORK_EXPORT ValueNumeric : public ValueBase, public IValueNumeric
 {
@@ -89,7 +94,7 @@ public:
     double GetMaximumAsDouble() const override;
 
     QVariant GetVariant() const override;
-    /// Takes every finite number and its text, as SetAsDouble() does.
+    /// Takes every finite number and its text, as SetAsDouble() does, but whole numbers exactly.
     bool SetVariant(const QVariant& value) override;
 
 private:
@@ -99,4 +104,6 @@ private:
 };
 
 extern template class ValueNumeric<int>;
+extern template class ValueNumeric<qint64>;
+extern template class ValueNumeric<quint64>;
 extern template class ValueNumeric<double>;

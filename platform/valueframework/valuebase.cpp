@@ -4,6 +4,8 @@
 #include <valueframework/tree.h>
 #include <valueframework/undorecording.h>
 
+#include <QDebug>
+
 ValueBase::ValueBase(const QString& name)
     : m_name(name)
 {}
@@ -33,6 +35,15 @@ void ValueBase::aboutToChange()
 {
     if (!m_path.isEmpty())
         UndoRecording::Instance().noteChange(*this);
+}
+
+bool ValueBase::tell(TChangeCode code)
+{
+    const auto notify = [this](TChangeCode next) { return Notify(next); };
+    const ChangeQueue::Outcome outcome = m_untold.run(code, notify);
+    if (outcome == ChangeQueue::Restless)
+        qWarning("The value %s changes with every notification", qUtf8Printable(GetPathName()));
+    return outcome != ChangeQueue::Gone;
 }
 
 bool ValueBase::convertVariant(QVariant& value, QMetaType type)

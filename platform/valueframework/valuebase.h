@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <valueframework/changequeue.h>
 #include <valueframework/observable.h>
 
 #include <QMetaType>
@@ -8,6 +9,10 @@
 #include <QVariant>
 
 /// A named observable value. A value that is in the value tree has a path; see Tree.
+///
+/// An observer may change the value that it is told of: the change is told once the running
+/// notification is over, from the first observer to the last, until nothing changes any more. A
+/// value that does not come to rest within ChangeQueue::longestRun notifications is reported.
 class VALUEFRAMEWORK_EXPORT ValueBase : public Observable
 {
 public:
@@ -32,6 +37,10 @@ protected:
     /// To be called by the setters right before the value changes; feeds undo recordings.
     void aboutToChange();
 
+    /// To be called by the setters once the value has changed. False when the value was destroyed
+    /// meanwhile: the caller must not touch it any more.
+    bool tell(TChangeCode code);
+
     /// Converts as QVariant does, but refuses nulls, and texts other than "true", "false", "1" and
     /// "0" for a bool.
     static bool convertVariant(QVariant& value, QMetaType type);
@@ -40,4 +49,5 @@ private:
     friend class Tree;
     QString m_name;
     QString m_path;
+    ChangeQueue m_untold;
 };

@@ -163,7 +163,7 @@ bool ValueSelection::SetCurrentIndex(int index)
         return true;
     aboutToChange();
     m_current = index;
-    Notify(ChangeCode::CurrentValue);
+    tell(ChangeCode::CurrentValue);
     return true;
 }
 
@@ -209,6 +209,6 @@ bool ValueSelection::isIndex(int index) const
 
 void ValueSelection::tellItems(TChangeCode code, bool currentChanged)
 {
-    if (Notify(code) && currentChanged)
-        Notify(ChangeCode::CurrentValue);
+    if (tell(code) && currentChanged)
+        tell(ChangeCode::CurrentValue);
 }
