@@ -70,7 +70,8 @@ public:
 
     /// Reads every member (defaults for what is not stored), then calls the owner.
     void Read(const QString& subKey);
-    /// Lets values take what is held back (PendingWrite), calls the owner, then writes every member. The configuration is stored later.
+    /// Lets values take what is held back (see PendingWrite), calls the owner, then writes every
+    /// member. The configuration is stored later.
     void Write(const QString& subKey);
     /// Removes what is stored under this name.
     void Erase();

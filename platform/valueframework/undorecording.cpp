@@ -35,7 +35,7 @@ enum class Direction { Undo, Redo };
 class UndoRecordingPrivate
 {
 public:
-    void begin(const QString& basePath, const QString& text);
+    void begin(const QString& basePath, const QString& text, int burst);
     void end(const QString& basePath);
     void noteChange(const ValueBase& value);
     void forget(const ValueBase& value);
@@ -58,6 +58,7 @@ private:
     std::vector<Recorded> m_recorded;                  // in the order of the first change
     QHash<const ValueBase*, std::size_t> m_recordedAt; // indexes of m_recorded
     QString m_text;
+    int m_burst = -1;
 };
 
 namespace {
@@ -65,11 +66,20 @@ namespace {
 class UndoStep : public QUndoCommand
 {
 public:
-    UndoStep(UndoRecordingPrivate& recording, const QString& text, Changes changes)
+    UndoStep(UndoRecordingPrivate& recording, const QString& text, int burst, Changes changes)
         : QUndoCommand(text)
         , m_recording(recording)
+        , m_burst(burst)
         , m_changes(std::move(changes))
     {}
+    int id() const override { return m_burst; }
+    bool mergeWith(const QUndoCommand* later) override
+    {
+        for (const Change& change : static_cast<const UndoStep*>(later)->m_changes)
+            merge(change);
+        setObsolete(m_changes.empty());
+        return true;
+    }
     void undo() override { m_recording.replay(m_changes, Direction::Undo); }
     void redo() override
     {
@@ -79,17 +89,32 @@ public:
     }
 
 private:
+    void merge(const Change& change)
+    {
+        const auto known = std::find_if(m_changes.begin(), m_changes.end(),
+                                        [&](const auto& own) { return own.path == change.path; });
+        if (known == m_changes.end())
+            m_changes.push_back(change);
+        else if (known->before == change.after)
+            m_changes.erase(known);
+        else
+            known->after = change.after;
+    }
+
     UndoRecordingPrivate& m_recording;
+    int m_burst;
     Changes m_changes;
     bool m_isNew = true;
 };
 
 } // namespace
 
-void UndoRecordingPrivate::begin(const QString& basePath, const QString& text)
+void UndoRecordingPrivate::begin(const QString& basePath, const QString& text, int burst)
 {
-    if (basePaths.isEmpty())
+    if (basePaths.isEmpty()) {
         m_text = text;
+        m_burst = burst;
+    }
     basePaths << basePath;
 }
 
@@ -100,7 +125,7 @@ void UndoRecordingPrivate::end(const QString& basePath)
         return;
     Changes changes = takeChanges();
     if (!changes.empty())
-        stack.push(new UndoStep(*this, m_text, std::move(changes)));
+        stack.push(new UndoStep(*this, m_text, m_burst, std::move(changes)));
 }
 
 Changes UndoRecordingPrivate::takeChanges()
@@ -256,10 +281,10 @@ void UndoRecording::forget(const ValueBase& value)
 }
 
 UndoRecordingTriggerByValueClient::UndoRecordingTriggerByValueClient(const QString& basePath,
-                                                                     const QString& text)
+                                                                     const QString& text, int burst)
     : m_basePath(Tree::NormalizedPath(basePath))
 {
-    UndoRecording::Instance().d->begin(m_basePath, text);
+    UndoRecording::Instance().d->begin(m_basePath, text, burst);
 }
 
 UndoRecordingTriggerByValueClient::~UndoRecordingTriggerByValueClient()

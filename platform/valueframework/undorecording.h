@@ -67,10 +67,14 @@ private:
 
 /// Records one undo step for as long as it lives. A step without net changes is not kept; one that
 /// is kept clears the redo steps.
+///
+/// A step with a burst number of 0 or more joins the last step when that one has the same number:
+/// so many small changes of one drag become one step. Of triggers that live at the same time the
+/// number of the first one counts.
 class VALUEFRAMEWORK_EXPORT UndoRecordingTriggerByValueClient
 {
 public:
-    UndoRecordingTriggerByValueClient(const QString& basePath, const QString& text);
+    UndoRecordingTriggerByValueClient(const QString& basePath, const QString& text, int burst = -1);
     ~UndoRecordingTriggerByValueClient();
     UndoRecordingTriggerByValueClient(const UndoRecordingTriggerByValueClient&) = delete;
     UndoRecordingTriggerByValueClient& operator=(const UndoRecordingTriggerByValueClient&) = delete;

@@ -113,6 +113,40 @@ private Q_SLOTS:
         real.SetRange(std::nan(""), 3.0);
         QCOMPARE(real.GetMaximum(), std::numeric_limits<double>::max());
     }
+    void wideNumbers()
+    {
+        ValueNumeric<quint64> number(QStringLiteral("quint64"));
+        const quint64 odd = (1ULL << 60) + 1;
+        QVERIFY(number.SetVariant(QString::number(odd)));
+        QCOMPARE(number.GetValue(), odd);
+        QVERIFY(number.SetVariant(-1LL));
+        QCOMPARE(number.GetValue(), 0ULL);
+        number.SetAsDouble(1e300);
+        QCOMPARE(number.GetValue(), ~0ULL);
+    }
+    void changesWithinNotifications()
+    {
+        ValueNumeric<int> number(QStringLiteral("number"));
+        QString log;
+        int depth = 0;
+        Probe even([&](auto...) {
+            QCOMPARE(++depth, 1);
+            number.SetValue(number.GetValue() / 2 * 2);
+            --depth;
+        });
+        number.Attach(&even);
+        Probe probe = recorder(number, log);
+        number.Attach(&probe);
+        number.SetValue(7);
+        QCOMPARE(log, QStringLiteral("3:6 3:6 "));
+        Probe restless([&](auto...) { number.SetValue(number.GetValue() + 2); });
+        number.Attach(&restless);
+        QTest::ignoreMessage(QtWarningMsg, "The value number changes with every notification");
+        number.SetValue(0);
+        number.Detach(&restless);
+        number.SetValue(0);
+        QVERIFY(log.endsWith(QStringLiteral("3:0 ")));
+    }
     void variantsThatDoNotFit_data()
     {
         Variants row; // accepted by bool, text, int, double and selection

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "ratio.h"
+
+#include <guibase/binding/create.h>
+#include <guibase/inputs/spinboxes/spinboxes.h>
+
+#include <valueframework/tree.h>
+#include <valueframework/undorecording.h>
+
+#include <QApplication>
+#include <QSpinBox>
+
+#include <cstdio>
+#include <malloc.h>
+#include <memory>
+#include <vector>
+
+namespace {
+
+using Number = ValueNumeric<int>;
+using ValueWidgetBinding::Internal::Create;
+
+constexpr double memoryLimit = 1.5;
+
+class Sender : public QObject
+{
+    Q_OBJECT
+Q_SIGNALS:
+    /// Told to a widget, or to nobody.
+    void told(int number);
+};
+
+template <typename Box>
+std::unique_ptr<Box> shownBox()
+{
+    auto box = std::make_unique<Box>();
+    box->setRange(0, 1000);
+    box->show();
+    QCoreApplication::processEvents();
+    return box;
+}
+
+template <typename Box>
+void changeBoundValue(benchmark::State& state)
+{
+    const auto box = shownBox<Box>();
+    Number value(QStringLiteral("value"), 0, 0, 1000);
+    Create<Number, Box>(value, *box);
+    int next = 0;
+    for (auto _ : state)
+        value.SetValue(++next % 1000);
+}
+
+template <typename Box>
+void tellConnectedBox(benchmark::State& state)
+{
+    const auto box = shownBox<Box>();
+    Sender sender;
+    QObject::connect(&sender, &Sender::told, box.get(), &Box::setValue);
+    int next = 0;
+    for (auto _ : state)
+        Q_EMIT sender.told(++next % 1000);
+}
+
+/// One change of each of many values, each bound to a box of its own, or of the boxes alone.
+RatioRun::Body changeMany(int count, bool isBound)
+{
+    return [count, isBound](benchmark::State& state) {
+        QWidget window;
+        std::vector<std::unique_ptr<Number>> values;
+        std::vector<QSpinBox*> boxes;
+        for (int i = 0; i < count; ++i) {
+            boxes.push_back(new QSpinBox(&window));
+            boxes.back()->setRange(0, 1000);
+            values.push_back(std::make_unique<Number>(QString::number(i), 0, 0, 1000));
+            if (isBound)
+                Create<Number, QSpinBox>(*values.back(), *boxes.back());
+        }
+        int next = 0;
+        for (auto _ : state) {
+            next = next % 1000 + 1;
+            for (std::size_t i = 0; i < boxes.size(); ++i) {
+                if (isBound)
+                    values[i]->SetValue(next);
+                else
+                    boxes[i]->setValue(next);
+            }
+        }
+    };
+}
+
+void changeLoneValue(benchmark::State& state)
+{
+    Number value(QStringLiteral("value"));
+    int next = 0;
+    for (auto _ : state)
+        value.SetValue(++next);
+}
+
+void tellNobody(benchmark::State& state)
+{
+    Sender sender;
+    int next = 0;
+    for (auto _ : state)
+        Q_EMIT sender.told(++next);
+}
+
+/// What a step holds after so many changes of ten values.
+double bytesOfStep(int changes)
+{
+    std::vector<std::unique_ptr<Number>> values;
+    for (int i = 0; i < 10; ++i) {
+        values.push_back(std::make_unique<Number>(QStringLiteral("value%1").arg(i)));
+        Tree::Instance().Add(QStringLiteral("memory"), values.back().get());
+    }
+    UndoRecording::Instance().clear();
+    const auto before = mallinfo2().uordblks;
+    const UndoRecordingTriggerByValueClient trigger(QStringLiteral("memory"), QString());
+    for (int i = 1; i <= changes; ++i)
+        values[std::size_t(i) % values.size()]->SetValue(i);
+    return static_cast<double>(mallinfo2().uordblks - before);
+}
+
+bool checkMemory()
+{
+    bytesOfStep(10); // What the first step of a program sets up.
+    const double few = bytesOfStep(10);
+    const double many = bytesOfStep(1'000'000);
+    const double ratio = many / few;
+    std::printf("Memory of a step: a million changes %.0f bytes, ten changes %.0f bytes, "
+                "ratio %.3f, limit %.3f%s\n",
+                many, few, ratio, memoryLimit, ratio <= memoryLimit ? "" : "  EXCEEDED");
+    return ratio <= memoryLimit;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    using SpinBoxes::Int32SpinBox;
+    const bool isSmall = checkMemory();
+    RatioRun run;
+    run.compare("A change of a value bound to a shown QSpinBox", 1.1, changeBoundValue<QSpinBox>,
+                tellConnectedBox<QSpinBox>);
+    run.compare("A change of a value bound to a shown Int32SpinBox", 1.1,
+                changeBoundValue<Int32SpinBox>, tellConnectedBox<Int32SpinBox>);
+    run.compare("A change of 1,000 bound values", 1.3, changeMany(1'000, true),
+                changeMany(1'000, false));
+    run.compare("A change of 10,000 bound values", 1.3, changeMany(10'000, true),
+                changeMany(10'000, false));
+    run.compareGrowth("Growth from 1,000 to 10,000 bound values", 1.2,
+                      "A change of 1,000 bound values", "A change of 10,000 bound values", 10);
+    run.compare("A change of a value with no widget", 3.0, changeLoneValue, tellNobody);
+    const int result = run.run(argc, argv);
+    return isSmall ? result : 1;
+}
+
+#include "bench_binding.moc"

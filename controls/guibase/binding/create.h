@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/binding/valuewidgetbinding.h>
+
+#include <valueframework/value.h>
+#include <valueframework/valueselection.h>
+
+#include <QVariant>
+
+#include <functional>
+
+class QComboBox;
+class QLabel;
+
+namespace ValueWidgetBinding::Internal {
+
+/// A binding that knows the kind of its value and the class of its widget.
+template <typename ValueKind, typename WidgetClass>
+class GUIBASE_EXPORT ValueWidgetBindingBase : public ValueWidgetBinding
+{
+public:
+    /// Null once the value is gone.
+    ValueKind* value() const { return static_cast<ValueKind*>(boundValue()); }
+    /// Only while the widget lives.
+    WidgetClass& widget() const { return static_cast<WidgetClass&>(GetWidget()); }
+
+protected:
+    using ValueWidgetBinding::ValueWidgetBinding;
+
+    const QMetaObject& widgetClass() const override { return WidgetClass::staticMetaObject; }
+};
+
+/// What the widget shows for an item; usually a text.
+template <typename WidgetClass>
+using ItemToShown = std::function<QVariant(const SelectionItem& item, WidgetClass& widget)>;
+/// The item that the user's choice stands for; only its key counts. A key that no item of the
+/// selection has, or that of a disabled item, is refused.
+template <typename WidgetClass>
+using ShownToItem = std::function<SelectionItem(const QVariant& choice, WidgetClass& widget)>;
+
+/// Binds a value to a widget; the binding belongs to the parent or, without one, to the widget.
+///
+/// The limits of a numeric value become those of the widget; where the value has none, the widget
+/// keeps its own. A value that the widget cannot show is marked there and stays as it is. Real
+/// numbers are rounded for integer widgets, and back. Widgets of derived classes are bound by
+/// naming the classes: `Create<ValueNumeric<int>, QSpinBox>(value, box)`.
+///
+/// | value                                | widgets                                              |
+/// |--------------------------------------|------------------------------------------------------|
+/// | `ValueNumeric<int>`                  | QSpinBox, QDoubleSpinBox, QSlider, QDial, QScrollBar,
+/// QProgressBar, QComboBox (its index), QLabel, typed boxes of 8 to 32 bits | |
+/// `ValueNumeric<qint64>`, `<quint64>`  | typed boxes of that type, QLabel; qint64 also
+/// FrequencySpinBox and boxes of 32 bits | | `ValueNumeric<double>`               | QDoubleSpinBox,
+/// QProgressBar (in parts of the value's range), QSlider and QDial (likewise), QLabel,
+/// DoubleSpinBox, DoubleComboBox, FrequencySpinBox | | `Value<bool>`                        |
+/// QAbstractButton; see also CreateForAction()          | | `Value<QString>`                     |
+/// QLineEdit, QPlainTextEdit, QLabel                    | | `Value<QDateTime>`                   |
+/// QDateTimeEdit, QDateTimeSpinBox                      |
+template <typename ValueKind, typename WidgetClass>
+GUIBASE_EXPORT ValueWidgetBindingBase<ValueKind, WidgetClass>*
+Create(ValueKind& value, WidgetClass& widget, QObject* parent = nullptr);
+
+/// Shows the items of a selection. Without functions an item is shown by its name, and the choice
+/// is the item at the same index.
+template <typename ValueKind, typename WidgetClass>
+GUIBASE_EXPORT ValueWidgetBindingBase<ValueKind, WidgetClass>*
+Create(ValueKind& value, WidgetClass& widget, const ItemToShown<WidgetClass>& toShown,
+       const ShownToItem<WidgetClass>& toItem, QObject* parent = nullptr);
+
+} // namespace ValueWidgetBinding::Internal

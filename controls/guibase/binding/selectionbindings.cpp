@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "selectionbindings_p.h"
+
+#include <QStandardItemModel>
+#include <QStringList>
+
+namespace ValueWidgetBinding::Internal {
+
+namespace {
+
+template <typename WidgetClass>
+QString shownText(const SelectionItem& item, WidgetClass& widget,
+                  const ItemToShown<WidgetClass>& toShown)
+{
+    return toShown ? toShown(item, widget).toString() : item.GetName();
+}
+
+bool isOfItems(TChangeCode code)
+{
+    return code == ChangeCode::Range || code == ChangeCode::Items ||
+           code == ChangeCode::ItemInserted || code == ChangeCode::ItemRemoved;
+}
+
+} // namespace
+
+ValueSelectionQComboBoxBinding::ValueSelectionQComboBoxBinding(
+    ValueSelection& value, QComboBox& box, const ItemToShown<QComboBox>& toShown,
+    const ShownToItem<QComboBox>& toItem, QObject* parent)
+    : ValueWidgetBindingBase(value, box, parent)
+    , m_toShown(toShown)
+    , m_toItem(toItem)
+{
+    connect(&box, &QComboBox::currentIndexChanged, this,
+            &ValueSelectionQComboBoxBinding::slCurrentIndexChanged);
+    Init();
+}
+
+int ValueSelectionQComboBoxBinding::index() const
+{
+    return isWidgetAlive() ? widget().currentIndex() : -1;
+}
+
+void ValueSelectionQComboBoxBinding::setIndex(int index)
+{
+    if (isWidgetAlive())
+        widget().setCurrentIndex(index);
+}
+
+void ValueSelectionQComboBoxBinding::UpdateWidget(TChangeCode code)
+{
+    if (isOfItems(code))
+        showItems();
+    else if (code == ChangeCode::CurrentValue)
+        showCurrent();
+}
+
+void ValueSelectionQComboBoxBinding::showCurrent()
+{
+    const int current = value()->GetCurrentIndex();
+    if (widget().currentIndex() == current)
+        return;
+    const WidgetUpdateTransaction transaction = openWidgetUpdateTransaction();
+    widget().setCurrentIndex(current);
+}
+
+void ValueSelectionQComboBoxBinding::showItems()
+{
+    QStringList texts;
+    for (int i = 0; i < value()->GetCount(); ++i)
+        texts << shownText(*value()->GetItem(i), widget(), m_toShown);
+    const WidgetUpdateTransaction transaction = openWidgetUpdateTransaction();
+    const auto isWhole = [&] {
+        return transaction.isBindingAlive() && isWidgetAlive() && value() != nullptr;
+    };
+    widget().hidePopup(); // An open list would show items that are no more.
+    widget().clear();
+    if (!isWhole())
+        return;
+    widget().addItems(texts);
+    if (!isWhole())
+        return;
+    showDisabledItems();
+    widget().setCurrentIndex(value()->GetCurrentIndex());
+}
+
+void ValueSelectionQComboBoxBinding::showDisabledItems()
+{
+    auto* model = qobject_cast<QStandardItemModel*>(widget().model());
+    for (int i = 0; model != nullptr && i < value()->GetCount(); ++i) {
+        if (QStandardItem* item = model->item(i);
+            item != nullptr && value()->GetItem(i)->IsDisabled())
+            item->setEnabled(false);
+    }
+}
+
+int ValueSelectionQComboBoxBinding::chosenIndex(int index) const
+{
+    if (!m_toItem)
+        return index;
+    const SelectionItem item = m_toItem(widget().itemText(index), widget());
+    const SelectionItem* atIndex = value()->GetItem(index);
+    const bool isAtIndex = atIndex != nullptr && atIndex->GetKey() == item.GetKey();
+    return isAtIndex ? index : value()->FindByKey(item.GetKey());
+}
+
+void ValueSelectionQComboBoxBinding::slCurrentIndexChanged(int index)
+{
+    if (isUpdatingWidget() || value() == nullptr || index < 0)
+        return;
+    const int chosen = chosenIndex(index);
+    const SelectionItem* item = value()->GetItem(chosen);
+    if (item == nullptr || item->IsDisabled()) {
+        showCurrent();
+        return;
+    }
+    scheduleUpdate([this, chosen, key = item->GetKey()] {
+        // The items may have moved during the delay.
+        const SelectionItem* there = value()->GetItem(chosen);
+        if (there != nullptr && there->GetKey() == key)
+            value()->SetCurrentIndex(chosen);
+        else
+            value()->SetKey(key);
+    });
+}
+
+ValueSelectionQLabelBinding::ValueSelectionQLabelBinding(ValueSelection& value, QLabel& label,
+                                                         const ItemToShown<QLabel>& toShown,
+                                                         const ShownToItem<QLabel>& /*toItem*/,
+                                                         QObject* parent)
+    : ValueWidgetBindingBase(value, label, parent)
+    , m_toShown(toShown)
+{
+    Init();
+}
+
+void ValueSelectionQLabelBinding::UpdateWidget(TChangeCode code)
+{
+    if (code != ChangeCode::CurrentValue && !isOfItems(code))
+        return;
+    const SelectionItem* item = value()->GetCurrentItem();
+    const QString text = item != nullptr ? shownText(*item, widget(), m_toShown) : QString();
+    if (text == widget().text())
+        return;
+    const WidgetUpdateTransaction transaction = openWidgetUpdateTransaction();
+    widget().setText(text);
+}
+
+} // namespace ValueWidgetBinding::Internal

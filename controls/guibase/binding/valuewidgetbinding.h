@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/guibase_export.h>
+
+#include <valueframework/observable.h>
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+class QWidget;
+class ValueBase;
+
+namespace ValueWidgetBinding {
+
+class ValueWidgetBinding;
+
+/// While it is open, what the widget tells is not taken for input, and the widget does not repaint.
+/// It may outlive the binding and the widget. Transactions may nest.
+class GUIBASE_EXPORT WidgetUpdateTransaction
+{
+public:
+    ~WidgetUpdateTransaction();
+    WidgetUpdateTransaction(const WidgetUpdateTransaction&) = delete;
+    WidgetUpdateTransaction& operator=(const WidgetUpdateTransaction&) = delete;
+
+    /// False once the binding is gone.
+    bool isBindingAlive() const { return !m_binding.isNull(); }
+
+private:
+    friend class ValueWidgetBinding;
+    explicit WidgetUpdateTransaction(ValueWidgetBinding& binding);
+
+    QPointer<ValueWidgetBinding> m_binding;
+    QPointer<QWidget> m_widget;
+    bool m_wasUpdating;
+    bool m_hadUpdates;
+};
+
+/// Keeps a value and a widget in step, until the widget or the parent is destroyed, or the value is
+/// gone; the widget is then disabled, and the binding does nothing any more.
+///
+/// A change of the value is shown at once and never written back. What the user enters is written
+/// at once or after a delay: at its end, or earlier, when the user leaves the widget, the widget is
+/// hidden or destroyed, values are stored, or the application ends. Where an undo base path applies
+/// to the widget (see GuiUndoRecordingHelper), the write is an undo step; what is entered by one
+/// drag, or with no more than the burst time in between, is one step together.
+class GUIBASE_EXPORT ValueWidgetBinding : public QObject, public IObserver
+{
+    Q_OBJECT
+    Q_PROPERTY(int delay READ delay WRITE setDelay)
+    Q_PROPERTY(int burstTime READ burstTime WRITE setBurstTime)
+    Q_PROPERTY(QString undoText READ undoText WRITE setUndoText)
+public:
+    /// Writes nothing.
+    ~ValueWidgetBinding() override;
+
+    /// In milliseconds; negative, as at first, writes at once.
+    int delay() const;
+    void setDelay(int milliseconds);
+    /// In milliseconds, 1000 at first.
+    int burstTime() const;
+    void setBurstTime(int milliseconds);
+    /// The text of the undo steps; empty, as at first, for the helper's own.
+    QString undoText() const;
+    void setUndoText(const QString& text);
+
+    /// Writes now what waits for the end of the delay.
+    void writePending();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    /// Neither is owned. The binding is a child of the parent, which may be null.
+    ValueWidgetBinding(ValueBase& value, QWidget& widget, QObject* parent);
+
+    /// Only while isWidgetAlive().
+    QWidget& GetWidget() const;
+    /// False, too, while the widget is in its destructor and is no longer of its class.
+    bool isWidgetAlive() const;
+    /// The class that the widget must be of.
+    virtual const QMetaObject& widgetClass() const;
+    /// Null once the value is gone.
+    ValueBase* boundValue() const;
+    /// To be called when the derived object is complete: shows state, range and value.
+    void Init();
+    WidgetUpdateTransaction openWidgetUpdateTransaction();
+    /// Takes the write of an input to the value, in place of one that still waits.
+    void scheduleUpdate(const std::function<void()>& update);
+    bool hasPendingUpdate() const;
+    bool isUpdatingWidget() const;
+    /// Tells the user that the widget cannot show its value, which has this text; an empty one
+    /// takes that back.
+    void setUnshownValue(const QString& text);
+    bool hasUnshownValue() const;
+
+    void Update(Observable* observable, TChangeCode code) override;
+    void timerEvent(QTimerEvent* event) override;
+
+    /// Shows what the code (ChangeCode) stands for. Called only with value and widget alive.
+    virtual void UpdateWidget(TChangeCode code) = 0;
+    /// The write has run; the value may not have become what was entered.
+    virtual void afterWrite() = 0;
+
+private:
+    friend class WidgetUpdateTransaction;
+
+    bool adoptState();
+    void watchLeaving(bool watch);
+    void forgetPending();
+    void widgetDestroyed();
+
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace ValueWidgetBinding
