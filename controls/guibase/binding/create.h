@@ -9,6 +9,8 @@
 #include <QVariant>
 
 #include <functional>
+#include <type_traits>
+#include <utility>
 
 class QComboBox;
 class QLabel;
@@ -20,15 +22,34 @@ template <typename ValueKind, typename WidgetClass>
 class GUIBASE_EXPORT ValueWidgetBindingBase : public ValueWidgetBinding
 {
 public:
+    using Held = std::decay_t<decltype(std::declval<const ValueKind&>().GetValue())>;
+    /// Tells why an input must not become the value; empty when it may.
+    using Guard = std::function<QString(const Held& input)>;
+
     /// Null once the value is gone.
     ValueKind* value() const { return static_cast<ValueKind*>(boundValue()); }
     /// Only while the widget lives.
     WidgetClass& widget() const { return static_cast<WidgetClass&>(GetWidget()); }
 
+    /// Judges every input before it is taken, also once more when it has waited for the delay; an
+    /// empty function, as at first, takes all. A refused input is replaced by the value, and the
+    /// reason is shown like that of a text that cannot be read. What the program sets is not
+    /// judged. Spin boxes then tell a number when it is complete, not at every key. Not for texts.
+    void setGuard(Guard guard) requires(!std::is_same_v<Held, QString>)
+    {
+        m_guard = std::move(guard);
+        tellOnlyCompleteInput();
+    }
+
 protected:
+    QString refusalOf(const Held& input) const { return m_guard ? m_guard(input) : QString(); }
+
     using ValueWidgetBinding::ValueWidgetBinding;
 
     const QMetaObject& widgetClass() const override { return WidgetClass::staticMetaObject; }
+
+private:
+    Guard m_guard;
 };
 
 /// What the widget shows for an item; usually a text.

@@ -12,8 +12,8 @@ guibase_room(binding
         createbyclass_p.h
         inputbinding_p.h
         inputburst.cpp inputburst_p.h
+        inputmark.cpp inputmark_p.h
         namedbindings_p.h
-        outofrangemark.cpp outofrangemark_p.h
         selectionbindings.cpp selectionbindings_p.h
         widgetaccess_p.h)
 # The named bindings take Q_OBJECT from macros.

@@ -21,7 +21,7 @@ class InputBinding : public ValueWidgetBindingBase<V, W>
 public:
     using Access = WidgetAccess<W>;
     using Shown = ShownBy<W>;
-    using Held = std::decay_t<decltype(std::declval<const V&>().GetValue())>;
+    using Held = typename ValueWidgetBindingBase<V, W>::Held;
 
     /// What the widget holds.
     Shown shown() const { return this->isWidgetAlive() ? Access::get(this->widget()) : Shown(); }
@@ -50,10 +50,11 @@ protected:
             showValue();
             return;
         }
-        this->scheduleUpdate([this, input = fromShown(entered)] {
-            if (V* value = this->value())
-                value->SetValue(input);
-        });
+        const Held input = fromShown(entered);
+        if (const QString refusal = this->refusalOf(input); !refusal.isEmpty())
+            refuse(refusal);
+        else
+            this->scheduleUpdate([this, input] { take(input); });
     }
 
     void UpdateWidget(TChangeCode code) override
@@ -65,7 +66,13 @@ protected:
         showValue();
     }
 
-    void afterWrite() override { showValue(); }
+    void afterWrite() override
+    {
+        if (const QString refusal = std::exchange(m_refusal, QString()); !refusal.isEmpty())
+            refuse(refusal);
+        else
+            showValue();
+    }
 
     void showValue()
     {
@@ -85,11 +92,26 @@ protected:
         m_shown.emplace(target.quantity, std::move(now));
         if (!fits)
             this->setUnshownValue(Conversion::text(value));
-        else if (this->hasUnshownValue())
+        else if (this->isMarked())
             this->setUnshownValue(QString());
     }
 
 private:
+    void take(const Held& input)
+    {
+        m_refusal = this->refusalOf(input); // What the guard looks at may have changed.
+        if (V* value = this->value(); value != nullptr && m_refusal.isEmpty())
+            value->SetValue(input);
+    }
+
+    void refuse(const QString& reason)
+    {
+        const QPointer<QObject> guard(this);
+        showValue();
+        if (guard && this->isWidgetAlive())
+            this->showRefusal(reason);
+    }
+
     struct Target
     {
         Shown quantity;   ///< The nearest that the widget can hold.
@@ -200,7 +222,8 @@ private:
     }
 
     std::optional<std::pair<Shown, Shown>> m_ownLimits; ///< Of the widget, before it was bound.
-    std::optional<std::pair<Shown, Shown>> m_shown;     ///< What the widget was given, and became.
+    QString m_refusal; ///< Of the input that was to be written just now.
+    std::optional<std::pair<Shown, Shown>> m_shown; ///< What the widget was given, and became.
 };
 
 /// A binding that needs no name.

@@ -56,11 +56,21 @@ void ValueSelectionQComboBoxBinding::UpdateWidget(TChangeCode code)
 
 void ValueSelectionQComboBoxBinding::showCurrent()
 {
+    if (isMarked())
+        setUnshownValue(QString());
     const int current = value()->GetCurrentIndex();
     if (widget().currentIndex() == current)
         return;
     const WidgetUpdateTransaction transaction = openWidgetUpdateTransaction();
     widget().setCurrentIndex(current);
+}
+
+void ValueSelectionQComboBoxBinding::refuse(const QString& reason)
+{
+    const QPointer<QObject> guard(this);
+    showCurrent();
+    if (guard && isWidgetAlive() && !reason.isEmpty())
+        showRefusal(reason);
 }
 
 void ValueSelectionQComboBoxBinding::showItems()
@@ -109,18 +119,24 @@ void ValueSelectionQComboBoxBinding::slCurrentIndexChanged(int index)
         return;
     const int chosen = chosenIndex(index);
     const SelectionItem* item = value()->GetItem(chosen);
-    if (item == nullptr || item->IsDisabled()) {
-        showCurrent();
+    const bool isForUser = item != nullptr && !item->IsDisabled();
+    const QString refusal = isForUser ? refusalOf(item->GetValue()) : QString();
+    if (!isForUser || !refusal.isEmpty()) {
+        refuse(refusal);
         return;
     }
-    scheduleUpdate([this, chosen, key = item->GetKey()] {
-        // The items may have moved during the delay.
-        const SelectionItem* there = value()->GetItem(chosen);
-        if (there != nullptr && there->GetKey() == key)
-            value()->SetCurrentIndex(chosen);
-        else
-            value()->SetKey(key);
-    });
+    scheduleUpdate([this, chosen, key = item->GetKey()] { take(chosen, key); });
+}
+
+void ValueSelectionQComboBoxBinding::take(int index, int key)
+{
+    // The items may have moved during the delay, and what the guard looks at may have changed.
+    const SelectionItem* item = value()->GetItem(index);
+    if (item == nullptr || item->GetKey() != key)
+        index = value()->FindByKey(key);
+    item = value()->GetItem(index);
+    if (item != nullptr && refusalOf(item->GetValue()).isEmpty())
+        value()->SetCurrentIndex(index);
 }
 
 ValueSelectionQLabelBinding::ValueSelectionQLabelBinding(ValueSelection& value, QLabel& label,

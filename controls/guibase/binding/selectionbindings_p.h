@@ -31,8 +31,10 @@ protected:
 
 private:
     void showCurrent();
+    void refuse(const QString& reason);
     void showItems();
     void showDisabledItems();
+    void take(int index, int key);
     int chosenIndex(int index) const;
 
     ItemToShown<QComboBox> m_toShown;

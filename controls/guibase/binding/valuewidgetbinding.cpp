@@ -2,7 +2,7 @@
 #include "valuewidgetbinding.h"
 
 #include "inputburst_p.h"
-#include "outofrangemark_p.h"
+#include "inputmark_p.h"
 
 #include <guibase/undo/guiundorecordinghelper.h>
 
@@ -11,6 +11,7 @@
 #include <valueframework/valueselection.h>
 
 #include <QAbstractSlider>
+#include <QAbstractSpinBox>
 #include <QEvent>
 #include <QTimer>
 #include <QTimerEvent>
@@ -50,7 +51,7 @@ struct ValueWidgetBinding::Private
     bool isLeaving = false;               ///< The widget handles an event that ends the input.
     InputBurst burst;
     QString undoText;
-    QPointer<OutOfRangeMark> mark;
+    QPointer<InputMark> mark;
 };
 
 WidgetUpdateTransaction::WidgetUpdateTransaction(ValueWidgetBinding& binding)
@@ -280,11 +281,24 @@ void ValueWidgetBinding::setUnshownValue(const QString& text)
         return;
     }
     if (!d->mark)
-        d->mark = new OutOfRangeMark(*d->widget);
+        d->mark = new InputMark(*d->widget);
     d->mark->showValue(text);
 }
 
-bool ValueWidgetBinding::hasUnshownValue() const
+void ValueWidgetBinding::tellOnlyCompleteInput()
+{
+    if (auto* box = qobject_cast<QAbstractSpinBox*>(d->widget))
+        box->setKeyboardTracking(false);
+}
+
+void ValueWidgetBinding::showRefusal(const QString& reason)
+{
+    if (!d->mark)
+        d->mark = new InputMark(*d->widget);
+    d->mark->showRefusal(reason);
+}
+
+bool ValueWidgetBinding::isMarked() const
 {
     return !d->mark.isNull();
 }

@@ -94,9 +94,14 @@ protected:
     bool hasPendingUpdate() const;
     bool isUpdatingWidget() const;
     /// Tells the user that the widget cannot show its value, which has this text; an empty one
-    /// takes that back.
+    /// takes that back, and a refusal.
     void setUnshownValue(const QString& text);
-    bool hasUnshownValue() const;
+    /// Has a spin box tell a number when it is complete, instead of at every key.
+    void tellOnlyCompleteInput();
+    /// Tells the user why an input was not taken.
+    void showRefusal(const QString& reason);
+    /// Whether one of the two is told.
+    bool isMarked() const;
 
     void Update(Observable* observable, TChangeCode code) override;
     void timerEvent(QTimerEvent* event) override;

@@ -13,6 +13,7 @@
 
 #include "support/guardedtest.h"
 #include "support/testrows.h"
+#include "support/typing.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
@@ -265,18 +266,44 @@ private Q_SLOTS:
         QCOMPARE(choice.currentIndex(), 2);
         choice.clear();
         QCOMPARE(index.GetValue(), 2);
+
+        ValueNumeric<double> real(QStringLiteral("real"), 0.125); // More digits than are shown.
+        QDoubleSpinBox field;
+        Create<ValueNumeric<double>, QDoubleSpinBox>(real, field);
+        QTest::keyClick(&field, Qt::Key_Return);
+        QCOMPARE(real.GetValue(), 0.125);
+        QVERIFY(field.toolTip().isEmpty());
+        real.SetValue(std::numeric_limits<double>::infinity());
+        QVERIFY(!field.toolTip().isEmpty());
     }
-    void digitsThatAreNotShown()
+    void guards()
     {
-        ValueNumeric<double> value(QStringLiteral("value"), 0.125);
-        QDoubleSpinBox box;
-        box.setDecimals(1);
-        Create<ValueNumeric<double>, QDoubleSpinBox>(value, box);
-        QVERIFY(box.toolTip().isEmpty());
-        QTest::keyClick(&box, Qt::Key_Return);
-        QCOMPARE(value.GetValue(), 0.125);
-        value.SetValue(std::numeric_limits<double>::infinity());
-        QVERIFY(!box.toolTip().isEmpty());
+        ValueNumeric<int> value(QStringLiteral("value"), 8);
+        bool isStopped = true;
+        const auto guard = [&](int input) {
+            return QLatin1String(!isStopped ? "running" : input % 2 != 0 ? "odd" : "");
+        };
+        SpinBoxes::Int32SpinBox typed;
+        QSpinBox plain;
+        Create<ValueNumeric<int>, SpinBoxes::Int32SpinBox>(value, typed)->setGuard(guard);
+        auto* slow = Create<ValueNumeric<int>, QSpinBox>(value, plain);
+        slow->setGuard(guard);
+        enter(typed, QStringLiteral("13"));
+        QCOMPARE(typed.value(), 8);
+        QVERIFY(typed.toolTip().contains(QStringLiteral("odd")));
+        enter(typed, QStringLiteral("14"));
+        QCOMPARE(plain.value(), 14);
+        QVERIFY(typed.toolTip().isEmpty());
+        plain.stepUp();
+        QCOMPARE(plain.value(), 14);
+        value.SetValue(15);
+        QCOMPARE(plain.value() + typed.value(), 30);
+        slow->setDelay(100'000);
+        plain.setValue(16);
+        isStopped = false;
+        slow->writePending();
+        QCOMPARE(plain.value(), 15);
+        QVERIFY(plain.toolTip().contains(QStringLiteral("running")));
     }
     void selections()
     {

@@ -12,19 +12,15 @@
 #include <QUndoStack>
 #include <QWidget>
 
+#include <array>
+#include <memory>
+
 namespace {
 
 class Container : public QWidget, public UndoRecordingControlContainerBase
-{
-public:
-    using QWidget::QWidget;
-};
-
+{};
 class Control : public QWidget, public UndoRecordingControlBase
-{
-public:
-    using QWidget::QWidget;
-};
+{};
 
 } // namespace
 
@@ -37,7 +33,7 @@ protected:
     void prepare() override
     {
         m_undo.clear();
-        for (ValueNumeric<int>* value : {&m_own, &m_inner, &m_outer, &m_default}) {
+        for (ValueNumeric<int>* value : m_values) {
             value->SetValue(0);
             Tree::Instance().Add(value->GetName(), value);
         }
@@ -64,28 +60,35 @@ private Q_SLOTS:
     {
         const auto& [enabled, own, inner, outer, byDefault, asked, expected] = Paths::fetch();
         Container outerBox;
-        auto* innerBox = new Container(new QWidget(&outerBox));
-        Control* control = new Control(new QWidget(innerBox));
+        auto* innerBox = new Container;
+        auto* control = new Control;
+        innerBox->setParent(new QWidget(&outerBox));
+        control->setParent(new QWidget(innerBox));
         outerBox.SetUndoRecordingTrigger_BasePath(outer);
         innerBox->SetUndoRecordingTrigger_BasePath(inner);
         control->SetUndoRecordingTrigger_BasePath(own);
         control->SetUndoRecordingEnabled(enabled);
         GuiUndoRecordingHelper::SetDefaultUndoRecordingTrigger_BasePath(byDefault);
         GuiUndoRecordingHelper::SetCheckControlParentsForUndoBasePath(asked);
-        {
-            const GuiUndoRecordingHelper byControl(
-                static_cast<const UndoRecordingControlBase*>(control), {});
-            changeAll();
+        for (const char* text : {"", "text"}) {
+            {
+                const UndoRecordingControlBase* base = control;
+                const auto recording = *text == 0
+                                           ? GuiUndoRecordingHelper(base, QString())
+                                           : GuiUndoRecordingHelper(*control, QLatin1String(text));
+                for (ValueNumeric<int>* value : m_values)
+                    value->SetValue(7);
+            }
+            const char* recorded = *text == 0 ? "Undo: last action" : text;
+            QCOMPARE(m_undo.undoText(), QLatin1String(expected.isEmpty() ? "" : recorded));
+            m_undo.undo();
+            QString undone;
+            for (ValueNumeric<int>* value : m_values) {
+                undone += value->GetValue() == 0 ? value->GetName() : QString();
+                value->SetValue(0);
+            }
+            QCOMPARE(undone, expected);
         }
-        QCOMPARE(m_undo.undoText(),
-                 QString::fromLatin1(expected.isEmpty() ? "" : "Undo: last action"));
-        QCOMPARE(undone(), expected);
-        {
-            const GuiUndoRecordingHelper byWidget(*control, QStringLiteral("text"));
-            changeAll();
-        }
-        QCOMPARE(m_undo.undoText(), QString::fromLatin1(expected.isEmpty() ? "" : "text"));
-        QCOMPARE(undone(), expected);
     }
     void copies()
     {
@@ -105,29 +108,12 @@ private Q_SLOTS:
     }
 
 private:
-    void changeAll()
-    {
-        for (ValueNumeric<int>* value : {&m_own, &m_inner, &m_outer, &m_default})
-            value->SetValue(7);
-    }
-    /// Undoes a step; the names of the values that it has changed. All are 0 again then.
-    QString undone()
-    {
-        QString names;
-        m_undo.undo();
-        for (ValueNumeric<int>* value : {&m_own, &m_inner, &m_outer, &m_default}) {
-            if (value->GetValue() == 0)
-                names += value->GetName();
-            value->SetValue(0);
-        }
-        return names;
-    }
-
     UndoRecording& m_undo = UndoRecording::Instance();
     ValueNumeric<int> m_own{QStringLiteral("own")};
     ValueNumeric<int> m_inner{QStringLiteral("inner")};
     ValueNumeric<int> m_outer{QStringLiteral("outer")};
     ValueNumeric<int> m_default{QStringLiteral("default")};
+    const std::array<ValueNumeric<int>*, 4> m_values{&m_own, &m_inner, &m_outer, &m_default};
 };
 
 QTEST_MAIN(TestGuiUndoRecordingHelper)

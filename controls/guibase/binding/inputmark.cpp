@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "outofrangemark_p.h"
+#include "inputmark_p.h"
 
 #include <QEvent>
 #include <QLineEdit>
@@ -7,7 +7,7 @@
 
 namespace ValueWidgetBinding {
 
-OutOfRangeMark::OutOfRangeMark(QWidget& host)
+InputMark::InputMark(QWidget& host)
     : QWidget(&host)
     , m_field(qobject_cast<QLineEdit*>(&host))
     , m_host(&host)
@@ -22,16 +22,26 @@ OutOfRangeMark::OutOfRangeMark(QWidget& host)
     host.installEventFilter(this);
 }
 
-OutOfRangeMark::~OutOfRangeMark()
+InputMark::~InputMark()
 {
     if (m_host)
         m_toolTip.clear();
 }
 
-void OutOfRangeMark::showValue(const QString& text)
+void InputMark::showValue(const QString& text)
 {
     m_text = text;
-    const QString reason = tr("The value is %1, which cannot be shown here.").arg(text);
+    showReason(tr("The value is %1, which cannot be shown here.").arg(text));
+}
+
+void InputMark::showRefusal(const QString& reason)
+{
+    m_text.clear();
+    showReason(reason);
+}
+
+void InputMark::showReason(const QString& reason)
+{
     m_toolTip.clear();
     m_toolTip.show(reason);
     m_frame.show(reason);
@@ -39,7 +49,7 @@ void OutOfRangeMark::showValue(const QString& text)
     raise();
 }
 
-bool OutOfRangeMark::eventFilter(QObject* watched, QEvent* event)
+bool InputMark::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_host) {
         if (event->type() == QEvent::Resize)
@@ -50,9 +60,9 @@ bool OutOfRangeMark::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-void OutOfRangeMark::paintEvent(QPaintEvent*)
+void InputMark::paintEvent(QPaintEvent*)
 {
-    if (m_field && m_host && !m_host->hasFocus()) {
+    if (!m_text.isEmpty() && m_field && m_host && !m_host->hasFocus()) {
         const QRect field(m_field->mapTo(m_host, QPoint()), m_field->size());
         QPainter painter(this);
         painter.fillRect(field, palette().brush(QPalette::Base));
