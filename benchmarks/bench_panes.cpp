@@ -3,10 +3,10 @@
 // 2,000 bins ("theirs") on the same pixels.
 #include "ratio.h"
 
-#include "model/columnreducer.h"
-#include "panes/bandview.h"
-#include "panes/spectrumpane.h"
-#include "panes/waterfallpane.h"
+#include "centre/bandview.h"
+#include "radiopanes/core/columnreducer.h"
+#include "radiopanes/spectrumpane.h"
+#include "radiopanes/waterfallpane.h"
 
 #include <QApplication>
 #include <QImage>

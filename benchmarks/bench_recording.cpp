@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ratio.h"
 
-#include <model/columnreducer.h>
+#include "radiopanes/core/columnreducer.h"
 #include <model/recordingloader.h>
 #include <model/recordingparser.h>
 #include <model/samplegenerator.h>

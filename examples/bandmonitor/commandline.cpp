@@ -66,60 +66,69 @@ QString takeFile(const QStringList& files, QString& file)
     return file.isEmpty() ? QString() : fileProblem(file);
 }
 
-} // namespace
-
-CommandLine parseCommandLine(const QStringList& arguments)
+struct Options
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        tr("Shows and replays recordings of a band: spectrum, waterfall and hold maximum."));
     // The parser's own help option brings a second one with it, for options that are not offered.
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  tr("Print this text and end."));
-    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
-                                     tr("Print the version and end."));
-    const QCommandLineOption config(QStringLiteral("config"),
-                                    tr("Keep the settings in the folder DIR."),
-                                    QStringLiteral("DIR"));
-    const QCommandLineOption shots(QStringLiteral("shots"),
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
+                            tr("Print this text and end.")};
+    QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
+                               tr("Print the version and end.")};
+    QCommandLineOption config{QStringLiteral("config"), tr("Keep the settings in the folder DIR."),
+                              QStringLiteral("DIR")};
+    QCommandLineOption screenshots{QStringLiteral("shots"),
                                    tr("Write pictures of the windows into the folder DIR and end."),
-                                   QStringLiteral("DIR"));
-    const QCommandLineOption replay(
+                                   QStringLiteral("DIR")};
+    QCommandLineOption replay{
         QStringLiteral("replay"),
         tr("Start to replay at once, FACTOR (0.1 to 100) times as fast as recorded."),
-        QStringLiteral("FACTOR"));
-    parser.addOptions({help, version, config, shots, replay});
-    parser.addPositionalArgument(QStringLiteral("FILE"),
-                                 tr("The recording to open; without it, the built-in sample."),
-                                 QStringLiteral("[FILE]"));
+        QStringLiteral("FACTOR")};
+};
 
-    if (!parser.parse(arguments))
-        return failure(parser.errorText());
-    if (parser.isSet(help))
-        return printed(parser.helpText());
-    if (parser.isSet(version))
-        return printed(
-            QStringLiteral("bandmonitor %1\n").arg(QCoreApplication::applicationVersion()));
-
+/// Takes over what the options that were given ask for.
+CommandLine readValues(const QCommandLineParser& parser, const Options& options)
+{
     CommandLine result;
     for (const auto& [option, folder] :
-         {std::pair{&config, &result.configFolder}, std::pair{&shots, &result.shotsFolder}}) {
+         {std::pair{&options.config, &result.configFolder},
+          std::pair{&options.screenshots, &result.screenshotsFolder}}) {
         if (!parser.isSet(*option))
             continue;
         *folder = parser.value(*option);
         if (folder->isEmpty() || (QFileInfo::exists(*folder) && !QFileInfo(*folder).isDir()))
             return failure(tr("\"%1\" is not a folder.").arg(*folder));
     }
-    if (parser.isSet(replay)) {
-        result.replayFactor = replayFactorOf(parser.value(replay));
+    if (parser.isSet(options.replay)) {
+        const QString factor = parser.value(options.replay);
+        result.replayFactor = replayFactorOf(factor);
         if (!result.replayFactor)
-            return failure(tr("The replay factor must be a number from 0.1 to 100, not \"%1\".")
-                               .arg(parser.value(replay)));
+            return failure(
+                tr("The replay factor must be a number from 0.1 to 100, not \"%1\".").arg(factor));
     }
-    if (const QString problem = takeFile(parser.positionalArguments(), result.file);
-        !problem.isEmpty())
-        return failure(problem);
-    return result;
+    const QString problem = takeFile(parser.positionalArguments(), result.file);
+    return problem.isEmpty() ? result : failure(problem);
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const QStringList& arguments)
+{
+    const Options options;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        tr("Shows and replays recordings of a band: spectrum, waterfall and hold maximum."));
+    parser.addOptions(
+        {options.help, options.version, options.config, options.screenshots, options.replay});
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 tr("The recording to open; without it, the built-in sample."),
+                                 QStringLiteral("[FILE]"));
+    if (!parser.parse(arguments))
+        return failure(parser.errorText());
+    if (parser.isSet(options.help))
+        return printed(parser.helpText());
+    if (parser.isSet(options.version))
+        return printed(
+            QStringLiteral("bandmonitor %1\n").arg(QCoreApplication::applicationVersion()));
+    return readValues(parser, options);
 }
 
 } // namespace bandmonitor

@@ -21,7 +21,7 @@ struct CommandLine
     QString text;
     QString file;                       ///< Empty: the built-in sample.
     QString configFolder;               ///< Empty: the platform's.
-    QString shotsFolder;                ///< Empty: no pictures, a normal run.
+    QString screenshotsFolder;          ///< Empty: no pictures, a normal run.
     std::optional<double> replayFactor; ///< 0.1 to 100; without it the replay waits.
 };
 

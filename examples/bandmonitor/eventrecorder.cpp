@@ -1,25 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "eventrecorder.h"
 
-#include "jobs.h"
-#include "model/eventlog.h"
-#include "model/signalwatch.h"
-#include "modes.h"
-
-#include <QLocale>
+#include "counts.h"
+#include "docks/modes.h"
+#include "model/session.h"
 
 #include <utility>
 
 namespace bandmonitor {
 
-EventRecorder::EventRecorder(EventLog* log, const Jobs* jobs, const Modes* modes,
-                             const SignalWatch* watch, QObject* parent)
+EventRecorder::EventRecorder(Session* session, const Modes* modes, QObject* parent)
     : QObject(parent)
-    , m_log(log)
-    , m_jobs(jobs)
-    , m_watch(watch)
+    , m_session(session)
+    , m_log(&session->events())
 {
-    connect(jobs, &Jobs::jobChanged, this, &EventRecorder::jobChanged);
+    connect(session, &Session::recordingChanged, this, &EventRecorder::recordingChanged);
+    connect(session, &Session::openFailed, this, [this](const QString& text) {
+        m_log->add(EventKind::Recording, tr("Not opened: %1").arg(text));
+    });
+    connect(session, &Session::sweepShown, this, &EventRecorder::sweepShown);
+    connect(&session->jobs(), &Jobs::jobChanged, this, &EventRecorder::jobChanged);
     connect(modes, &Modes::modeChanged, this, &EventRecorder::modeChanged);
 }
 
@@ -30,19 +30,15 @@ void EventRecorder::refreshTexts()
     m_text.refresh();
 }
 
-void EventRecorder::recordingOpened(const QString& fileName, qint64 sweeps, qint64 skippedLines)
+void EventRecorder::recordingChanged()
 {
     m_hasBegun = false;
-    const QLocale locale;
-    QString text = tr("%1 opened: %2 sweeps").arg(fileName, locale.toString(sweeps));
+    const qint64 skippedLines = m_session->loader().skippedCount();
+    QString text = tr("%1 opened: %2")
+                       .arg(m_session->fileName(), sweepCountText(m_session->recording()->count()));
     if (skippedLines > 0)
-        text += tr(", %1 lines skipped").arg(locale.toString(skippedLines));
+        text += QLatin1String(", ") + skippedLinesText(skippedLines);
     m_log->add(EventKind::Recording, text);
-}
-
-void EventRecorder::recordingFailed(const QString& text)
-{
-    m_log->add(EventKind::Recording, tr("Not opened: %1").arg(text));
 }
 
 void EventRecorder::modeChanged(Mode mode)
@@ -53,7 +49,7 @@ void EventRecorder::modeChanged(Mode mode)
 
 void EventRecorder::jobChanged(int id)
 {
-    const Job* job = m_jobs->list().find(id);
+    const Job* job = m_session->jobs().list().find(id);
     if (job == nullptr)
         return;
     QString text;
@@ -82,9 +78,9 @@ QString EventRecorder::textOf(const Signal& signal) const
 void EventRecorder::sweepShown()
 {
     std::unordered_map<std::uint32_t, Signal> now;
-    for (const SignalTrack& track : m_watch->tracks())
+    for (const SignalTrack& track : m_session->watch().tracks())
         now.emplace(track.id, track.signal);
-    if (m_watch->hasBegunAnew()) {
+    if (m_session->watch().hasBegunAnew()) {
         // Once, however far the replay is put back step by step.
         if (!now.empty() && !std::exchange(m_hasBegun, true))
             m_log->add(EventKind::Signal, tr("The signals are followed anew"));
@@ -93,7 +89,7 @@ void EventRecorder::sweepShown()
     }
     m_hasBegun = false;
     // In the order of frequency.
-    for (const SignalTrack& track : m_watch->tracks()) {
+    for (const SignalTrack& track : m_session->watch().tracks()) {
         if (!m_known.contains(track.id))
             m_log->add(EventKind::Signal, tr("Appeared: %1").arg(textOf(track.signal)));
     }

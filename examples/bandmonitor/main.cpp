@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "commandline.h"
+#include "dialogcloser.h"
 #include "mainwindow.h"
 #include "model/samplegenerator.h"
-#include "shots.h"
+#include "screenshots.h"
 
 #include <guibase/services/guibase.h>
 #include <trovappstartup/cfgcenter.h>
@@ -11,6 +12,7 @@
 #include <QApplication>
 
 #include <cstdio>
+#include <memory>
 
 using namespace bandmonitor;
 
@@ -46,21 +48,23 @@ bool hasDisplay()
 #endif
 }
 
-/// What follows once the recording of the start is open.
-void goOn(MainWindow& window, const CommandLine& commandLine)
+/// Does what the command line asks for, once the recording is open. `dialogs` is null unless it
+/// asks for pictures.
+void serve(const CommandLine& commandLine, MainWindow& window, DialogCloser* dialogs)
 {
-    if (commandLine.replayFactor) {
-        window.replay().setSpeed(*commandLine.replayFactor);
-        if (commandLine.shotsFolder.isEmpty())
-            window.replay().play();
-    }
-    if (commandLine.shotsFolder.isEmpty())
+    Replay& replay = window.session().replay();
+    if (commandLine.replayFactor)
+        replay.setSpeed(*commandLine.replayFactor);
+    if (dialogs == nullptr) {
+        if (commandLine.replayFactor)
+            replay.play();
         return;
-    ShotSeries shots(window, commandLine.shotsFolder);
-    const bool done = shots.run();
+    }
+    ScreenshotSeries screenshots(window, *dialogs, commandLine.screenshotsFolder);
+    const bool done = screenshots.run();
     if (!done)
         printError(QApplication::translate("main", "The picture \"%1\" cannot be written.")
-                       .arg(shots.failure()));
+                       .arg(screenshots.failure()));
     QCoreApplication::exit(done ? 0 : 1);
 }
 
@@ -72,22 +76,29 @@ int run(int argc, char** argv, const CommandLine& commandLine)
     startUp.Write2Splash(QApplication::translate("main", "Reading settings…"));
     GuiBase& services = GuiBase::Instance();
     services.SetApplication(&application);
+    // The settings may already give reason for a question.
+    std::unique_ptr<DialogCloser> dialogs;
+    if (!commandLine.screenshotsFolder.isEmpty()) {
+        dialogs = std::make_unique<DialogCloser>();
+        QObject::connect(dialogs.get(), &DialogCloser::closedUnexpectedly, &printError);
+    }
 
     MainWindow window;
     services.SetMainWidget(&window);
     window.announceModes();
     window.show();
     services.Write2Splash(QApplication::translate("main", "Opening the recording…"));
+    Session& session = window.session();
     const auto failed =
-        QObject::connect(&window, &MainWindow::openFailed, &window, [](const QString& text) {
+        QObject::connect(&session, &Session::openFailed, &window, [](const QString& text) {
             printError(text);
             QCoreApplication::exit(1);
         });
     QObject::connect(
-        &window, &MainWindow::recordingOpened, &window,
-        [&window, &commandLine, failed] {
+        &session, &Session::opened, &window,
+        [&window, &commandLine, &dialogs, failed] {
             QObject::disconnect(failed);
-            goOn(window, commandLine);
+            serve(commandLine, window, dialogs.get());
         },
         Qt::SingleShotConnection);
     window.open(commandLine.file.isEmpty() ? samplePath() : commandLine.file,
@@ -109,17 +120,18 @@ int main(int argc, char** argv)
         return failed ? 1 : 0;
     }
     if (!hasDisplay()) {
-        if (commandLine.shotsFolder.isEmpty()) {
+        if (commandLine.screenshotsFolder.isEmpty()) {
             printError(QStringLiteral("There is no display to show the window on."));
             return 1;
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     CfgCenter::SetAppName(QStringLiteral("bandmonitor"));
-    if (commandLine.shotsFolder.isEmpty()) {
+    if (commandLine.screenshotsFolder.isEmpty()) {
         CfgCenter::SetConfigDir(commandLine.configFolder);
         return run(argc, argv, commandLine);
     }
-    const ShotEnvironment environment(commandLine.shotsFolder, commandLine.configFolder);
+    const ScreenshotEnvironment environment(commandLine.screenshotsFolder,
+                                            commandLine.configFolder);
     return run(argc, argv, commandLine);
 }

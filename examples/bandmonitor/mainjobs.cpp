@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "jobs.h"
 #include "mainwindow.h"
-#include "model/levelline.h"
+
+#include "centre/bandview.h"
 #include "model/recordingwriter.h"
 #include "model/textfile.h"
-#include "panes/bandview.h"
-#include "panes/levelspane.h"
-#include "panes/signalspane.h"
-#include "receiver/receivercontrol.h"
 #include "recentrecordings.h"
-#include "settings.h"
+#include "settings/settings.h"
 
 #include <guibase/dialogs/modaldialogs.h>
 #include <guibase/services/guibase.h>
@@ -19,45 +15,51 @@
 
 namespace bandmonitor {
 
+namespace {
+
+QByteArray exportText(const Sweep& sweep)
+{
+    return receiverRemark(Settings::receiver().addressText()) + sweepText(sweep);
+}
+
+} // namespace
+
 void MainWindow::addJobs()
 {
-    m_jobs->addTask(tr("Jump to the start"), [this] {
-        m_replay.jump(0);
+    Jobs& jobs = m_session.jobs();
+    jobs.addTask(tr("Jump to the start"), [this] {
+        m_session.replay().jump(0);
         return JobState::Done;
     });
-    m_jobs->addTask(tr("Start the hold maximum anew"), [this] {
+    jobs.addTask(tr("Start the hold maximum anew"), [this] {
         m_bandView->resetHold();
         return JobState::Done;
     });
-    m_jobs->addTask(tr("Export the shown sweep…"), [this] { return exportSweep(); });
+    jobs.addTask(tr("Export the shown sweep…"), [this] { return exportSweep(); });
     using Found = std::optional<qsizetype>;
-    m_jobs->addPause(tr("Pause at the next new signal"), [this](qsizetype, qsizetype last) {
-        const SignalTrack* newcomer = m_watch.newcomer();
+    jobs.addPause(tr("Pause at the next new signal"), [this](qsizetype, qsizetype last) {
+        const SignalTrack* newcomer = m_session.watch().newcomer();
         if (newcomer != nullptr)
             m_bandView->showFrequency(newcomer->signal.centreHz);
         return newcomer != nullptr ? Found(last) : Found();
     });
     const auto pauseAbove = [this](qsizetype first, qsizetype last) {
-        for (qsizetype sweep = first; sweep <= last; ++sweep) {
-            const auto hertz = firstAbove(m_replay.recording()->sweep(sweep), m_levels->points());
+        for (qsizetype index = first; index <= last; ++index) {
+            const Sweep sweep = m_session.recording()->sweep(index);
+            const auto hertz = firstAbove(sweep, m_session.referenceLevels());
             if (!hertz)
                 continue;
             m_bandView->showFrequency(*hertz);
-            return Found(sweep);
+            return Found(index);
         }
         return Found();
     };
-    m_jobs->addPause(tr("Pause above the reference levels"), pauseAbove);
-}
-
-QByteArray MainWindow::exportText(const Sweep& sweep) const
-{
-    return receiverRemark(m_receiverControl->settings().addressText()) + sweepText(sweep);
+    jobs.addPause(tr("Pause above the reference levels"), pauseAbove);
 }
 
 std::optional<JobState> MainWindow::exportSweep()
 {
-    const Sweep sweep = m_replay.sweep();
+    const Sweep sweep = m_session.replay().sweep();
     if (sweep.isEmpty())
         return JobState::Failed;
     const QByteArray text = exportText(sweep);
@@ -75,16 +77,16 @@ std::optional<JobState> MainWindow::exportSweep()
 /// As recorded, like all that is exported: opened again, it is shown like the sweep it came from.
 void MainWindow::saveVisibleSweep()
 {
-    const Sweep sweep = m_replay.sweep();
-    const FrequencyView& view = m_bandView->view();
-    const std::vector<Segment> hops = hopsBetween(sweep, view.low(), view.high());
+    const Sweep sweep = m_session.replay().sweep();
+    const VisibleBand& band = m_bandView->visibleBand();
+    const std::vector<Segment> hops = hopsBetween(sweep, band.low(), band.high());
     if (hops.empty()) {
         statusBar()->showMessage(tr("No levels are shown that could be saved."), messageTime);
         return;
     }
     const QString name = tr("%1 sweep %2.csv")
-                             .arg(QFileInfo(m_fileName).completeBaseName())
-                             .arg(m_replay.position() + 1);
+                             .arg(QFileInfo(m_session.fileName()).completeBaseName())
+                             .arg(m_session.replay().position() + 1);
     m_recordings->saveAs(name, exportText(makeSweep(sweep.timeUs, hops)));
 }
 

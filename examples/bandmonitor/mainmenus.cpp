@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow.h"
 
+#include "centre/bandview.h"
+#include "centre/replaybar.h"
 #include "docks/windowmenu.h"
-#include "jobs.h"
-#include "jobsmenu.h"
 #include "manual.h"
-#include "panes/bandview.h"
-#include "panes/bearingspane.h"
-#include "panes/eventlogpane.h"
-#include "panes/jobspane.h"
-#include "panes/levelspane.h"
+#include "panels/jobsmenu.h"
+#include "panels/panel.h"
 #include "recentrecordings.h"
-#include "replaybar.h"
 #include "selectionactions.h"
-#include "settings.h"
+#include "settings/settings.h"
 
 #include <guibase/colors/colorset.h>
 #include <guibase/dialogs/modaldialogs.h>
@@ -45,29 +41,29 @@ void MainWindow::buildMenus()
     buildReplayMenu();
     buildJobsMenu();
     buildColorsMenu();
-    menuBar()->addMenu(new WindowMenu(m_panels, m_bandView, this));
+    menuBar()->addMenu(new WindowMenu(m_panelDocks, m_bandView, this));
     buildHelpMenu();
 }
 
-QAction* MainWindow::addEntry(QMenu* menu, QAction* action, bool paneKey)
+QAction* MainWindow::addEntry(QMenu* menu, QAction* action, bool bandKey)
 {
     menu->addAction(action);
-    if (paneKey) {
+    if (bandKey) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         m_bandView->addAction(action);
     }
     if (!action->shortcut().isEmpty())
         GuiBase::Instance().ShowHotKeyFrom(action,
-                                           paneKey ? tr("Spectrum and waterfall") : tr("Window"));
+                                           bandKey ? tr("Spectrum and waterfall") : tr("Window"));
     return action;
 }
 
 QAction* MainWindow::addEntry(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
-                              bool paneKey)
+                              bool bandKey)
 {
     auto* action = new QAction(text, this);
     action->setShortcuts(keys);
-    return addEntry(menu, action, paneKey);
+    return addEntry(menu, action, bandKey);
 }
 
 void MainWindow::addSelectionMenu(QMenu* menu, const QString& title, ValueSelection* selection,
@@ -87,7 +83,7 @@ void MainWindow::buildFileMenu()
     QAction* save = addEntry(menu, tr("&Save visible sweep as…"), {Qt::CTRL | Qt::Key_S}, false);
     save->setEnabled(false);
     connect(save, &QAction::triggered, this, &MainWindow::saveVisibleSweep);
-    connect(this, &MainWindow::recordingOpened, save, [save] { save->setEnabled(true); });
+    connect(&m_session, &Session::opened, save, [save] { save->setEnabled(true); });
     connect(menu, &QMenu::aboutToShow, recent,
             [recent] { recent->menuAction()->setEnabled(!recent->isEmpty()); });
     menu->addSeparator();
@@ -108,14 +104,24 @@ void MainWindow::buildViewMenu()
                      &MainWindow::updatePosition);
     addSelectionMenu(menu, tr("Time &zone"), services.GetTimeZone(), &MainWindow::timeZoneChanged);
     menu->addSeparator();
+    buildBandEntries(menu);
+    menu->addSeparator();
+    buildModeEntries(menu);
+    menu->addAction(services.CreateResetWidgetViewAction(this));
+    menu->addAction(services.CreateResetFactoryViewAction(this));
+    for (const Panel* panel : m_panelDocks->panels())
+        listKeys(panel->keyActions(), panel->windowTitle());
+}
 
-    FrequencyView* view = &m_bandView->view();
+void MainWindow::buildBandEntries(QMenu* menu)
+{
+    VisibleBand* band = &m_bandView->visibleBand();
     connect(addEntry(menu, tr("Zoom &in"), {Qt::Key_Plus, Qt::Key_Equal}, true),
-            &QAction::triggered, view, [view] { view->zoomAtCursor(zoomPerKey); });
-    connect(addEntry(menu, tr("Zoom &out"), {Qt::Key_Minus}, true), &QAction::triggered, view,
-            [view] { view->zoomAtCursor(1 / zoomPerKey); });
-    connect(addEntry(menu, tr("Whole &band"), {Qt::Key_Home}, true), &QAction::triggered, view,
-            &FrequencyView::showAll);
+            &QAction::triggered, band, [band] { band->zoomAtCursor(zoomPerKey); });
+    connect(addEntry(menu, tr("Zoom &out"), {Qt::Key_Minus}, true), &QAction::triggered, band,
+            [band] { band->zoomAtCursor(1 / zoomPerKey); });
+    connect(addEntry(menu, tr("Whole &band"), {Qt::Key_Home}, true), &QAction::triggered, band,
+            &VisibleBand::showAll);
     menu->addSeparator();
     QAction* hold = addEntry(menu, tr("&Hold maximum"), {Qt::Key_H}, true);
     hold->setCheckable(true);
@@ -128,17 +134,9 @@ void MainWindow::buildViewMenu()
             &BandView::resetHold);
     menu->addSeparator();
     connect(addEntry(menu, tr("Set &pin at the cursor"), {Qt::Key_P}, true), &QAction::triggered,
-            view, [view] { view->addPin(view->cursor()); });
+            band, [band] { band->addPin(band->cursor()); });
     connect(addEntry(menu, tr("Remove &all pins"), {QKeySequence(Qt::SHIFT | Qt::Key_P)}, true),
-            &QAction::triggered, view, &FrequencyView::clearPins);
-    menu->addSeparator();
-    buildModeEntries(menu);
-    menu->addAction(services.CreateResetWidgetViewAction(this));
-    menu->addAction(services.CreateResetFactoryViewAction(this));
-    listKeys(m_levels->tableActions(), tr("Reference levels"));
-    listKeys(m_jobsPane->jobActions(), tr("Jobs"));
-    listKeys({m_bearingsPane->headingUpAction()}, tr("Bearings"));
-    listKeys(m_eventsPane->logActions(), tr("Event log"));
+            &QAction::triggered, band, &VisibleBand::clearPins);
 }
 
 void MainWindow::buildModeEntries(QMenu* menu)
@@ -170,9 +168,7 @@ void MainWindow::buildReplayMenu()
 
 void MainWindow::buildJobsMenu()
 {
-    auto* menu = new JobsMenu(m_jobs, this);
-    menuBar()->addMenu(menu);
-    m_jobsPane->setMenu(menu);
+    menuBar()->addMenu(new JobsMenu(&m_session.jobs(), this));
 }
 
 void MainWindow::buildColorsMenu()

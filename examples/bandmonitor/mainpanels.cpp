@@ -1,16 +1,42 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow.h"
-#include "panes/bearingspane.h"
-#include "panes/eventlogpane.h"
-#include "panes/jobspane.h"
-#include "panes/levelspane.h"
-#include "panes/pictures.h"
-#include "panes/signalspane.h"
-#include "receiver/receiverpane.h"
+
+#include "centre/bandview.h"
+#include "panels/bearingspanel.h"
+#include "panels/eventlogpanel.h"
+#include "panels/icons.h"
+#include "panels/jobspanel.h"
+#include "panels/levelspanel.h"
+#include "panels/signalspanel.h"
+#include "receiver/receivercontrol.h"
+#include "receiver/receiverpanel.h"
 
 namespace bandmonitor {
 
 namespace {
+
+Panel* makeSignals(Session& session)
+{
+    auto* panel = new SignalsPanel(&session.watch());
+    QObject::connect(&session, &Session::sweepShown, panel, &SignalsPanel::refresh);
+    return panel;
+}
+
+Panel* makeLevels(Session& session)
+{
+    auto* panel = new LevelsPanel;
+    const auto take = [panel, &session] { session.setReferenceLevels(panel->points()); };
+    QObject::connect(panel, &LevelsPanel::pointsChanged, &session, take);
+    take();
+    return panel;
+}
+
+Panel* makeReceiver(Session& session, BandView& bandView)
+{
+    auto* panel = new ReceiverPanel;
+    new ReceiverControl(panel, &bandView, &session, panel);
+    return panel;
+}
 
 constexpr auto left = Qt::LeftDockWidgetArea;
 constexpr auto right = Qt::RightDockWidgetArea;
@@ -37,25 +63,31 @@ PanelPlace tabbed(Qt::DockWidgetArea area)
 void MainWindow::buildPanels()
 {
     const auto name = [](const char* text) { return QString::fromLatin1(text); };
-    // Name, title, icon, widget, and the places in the modes Search, Measure and Plan.
-    const Panel rows[] = {
+    // Name, title, icon, panel, and the places in the modes Search, Measure and Plan.
+    const PanelRow rows[] = {
         // clang-format off
-        {name("signals"), tr("&Signals"), makePicture(Picture::Signals), m_signals,
+        {name("signals"), tr("&Signals"), makeIcon(Icon::Signals), makeSignals(m_session),
          {beside(bottom, 1100, 220), hidden(bottom), beside(bottom, 770, 220)}},
-        {name("events"), tr("&Event log"), makePicture(Picture::Events), m_eventsPane,
+        {name("events"), tr("&Event log"), makeIcon(Icon::Events),
+         new EventLogPanel(&m_session.events()),
          {tabbed(bottom), hidden(bottom), tabbed(bottom)}},
-        {name("levels"), tr("&Reference levels"), makePicture(Picture::Levels), m_levels,
+        {name("levels"), tr("&Reference levels"), makeIcon(Icon::Levels), makeLevels(m_session),
          {hidden(bottom), beside(bottom, 1100, 200), beside(bottom, 330, 220)}},
-        {name("jobs"), tr("&Jobs"), makePicture(Picture::Jobs), m_jobsPane,
+        {name("jobs"), tr("&Jobs"), makeIcon(Icon::Jobs),
+         new JobsPanel(&m_session.jobs(), &m_session.replay()),
          {hidden(right), hidden(right), beside(right, 360, 500)}},
-        {name("bearings"), tr("&Bearings"), makePicture(Picture::Bearings), m_bearingsPane,
+        {name("bearings"), tr("&Bearings"), makeIcon(Icon::Bearings),
+         new BearingsPanel(&m_session.bearings()),
          {hidden(right), beside(right, 260, 500), tabbed(right)}},
-        {name("receiver"), tr("Re&ceiver"), makePicture(Picture::Receiver), m_receiverPane,
+        {name("receiver"), tr("Re&ceiver"), makeIcon(Icon::Receiver),
+         makeReceiver(m_session, *m_bandView),
          {beside(left, 240, 500), beside(left, 240, 500), hidden(left)}},
         // clang-format on
     };
-    for (const Panel& row : rows)
-        m_panels->add(row);
+    for (const PanelRow& row : rows) {
+        m_panelDocks->add(row);
+        connect(row.panel, &Panel::frequencyWanted, m_bandView, &BandView::showFrequency);
+    }
 }
 
 } // namespace bandmonitor

@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow.h"
 
+#include "centre/bandview.h"
+#include "centre/replaybar.h"
+#include "counts.h"
 #include "eventrecorder.h"
 #include "infodialog.h"
-#include "jobs.h"
-#include "panes/bandview.h"
-#include "panes/bearingspane.h"
-#include "panes/eventlogpane.h"
-#include "panes/jobspane.h"
-#include "panes/levelspane.h"
-#include "panes/signalspane.h"
-#include "panes/spectrumpane.h"
-#include "receiver/receivercontrol.h"
-#include "receiver/receiverpane.h"
+#include "panels/panel.h"
+#include "radiopanes/spectrumpane.h"
 #include "recentrecordings.h"
-#include "replaybar.h"
-#include "settings.h"
+#include "settings/settings.h"
 
 #include <guibase/services/guibase.h>
 #include <jtbase/coordformat.h>
@@ -43,18 +37,10 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , m_resolution(QStringLiteral("frequency_resolution"))
     , m_bandView(new BandView(this))
-    , m_replayBar(new ReplayBar(&m_replay, this))
-    , m_signals(new SignalsPane(&m_watch, this))
-    , m_levels(new LevelsPane(this))
-    , m_panels(new Panels(*this))
-    , m_modes(new Modes(m_panels, m_bandView->waterfallRow(), m_bandView->splitter(), this))
-    , m_jobs(new Jobs(&m_replay, this))
-    , m_jobsPane(new JobsPane(m_jobs, &m_replay, this))
-    , m_bearingsPane(new BearingsPane(&m_bearings, this))
-    , m_eventsPane(new EventLogPane(&m_events, this))
-    , m_recorder(new EventRecorder(&m_events, m_jobs, m_modes, &m_watch, this))
-    , m_receiverPane(new ReceiverPane(this))
-    , m_receiverControl(new ReceiverControl(m_receiverPane, m_bandView, &m_replay, &m_watch, this))
+    , m_replayBar(new ReplayBar(&m_session.replay(), this))
+    , m_panelDocks(new PanelDocks(*this))
+    , m_modes(new Modes(m_panelDocks, m_bandView->waterfallRow(), m_bandView->splitter(), this))
+    , m_recorder(new EventRecorder(&m_session, m_modes, this))
     , m_recordings(new RecentRecordings(this))
 {
     setObjectName(QStringLiteral("bandmonitor"));
@@ -62,14 +48,13 @@ MainWindow::MainWindow(QWidget* parent)
     if (ErrorHandler::GetMessageDlg() == nullptr)
         ErrorHandler::SetMessageDlg(std::make_unique<XMessageDialog>());
     buildCentre();
+    buildStatusBar();
+    connectSession();
+    addJobs();
     buildPanels();
     restoreSettings();
-    addJobs();
     buildMenus();
-    buildStatusBar();
-    connectLoader();
     connectRecordings();
-    connectPanes();
     resize(normalSize.boundedTo(screen()->availableGeometry().size()));
     layout()->activate();
     m_modes->showKept();
@@ -77,11 +62,7 @@ MainWindow::MainWindow(QWidget* parent)
     updateTitle();
 }
 
-MainWindow::~MainWindow()
-{
-    // The menus go with the window's children, after the selection that they observe.
-    m_bandView->setRecording(nullptr);
-}
+MainWindow::~MainWindow() = default;
 
 void MainWindow::buildCentre()
 {
@@ -94,34 +75,41 @@ void MainWindow::buildCentre()
     setCentralWidget(centre);
 }
 
-void MainWindow::connectPanes()
+void MainWindow::connectSession()
 {
-    connect(&m_replay, &Replay::positionChanged, this, &MainWindow::showSweep);
-    const auto showLevels = [this] {
-        m_bandView->spectrum().setReferenceLevels(m_levels->points());
-    };
-    connect(m_levels, &LevelsPane::pointsChanged, m_bandView, showLevels);
-    showLevels();
-    connect(m_signals, &SignalsPane::signalChosen, m_bandView, &BandView::showFrequency);
-    connect(m_signals, &SignalsPane::followedMoved, m_bandView, &BandView::showFrequency);
-    connect(m_bearingsPane, &BearingsPane::signalChosen, m_bandView, &BandView::showFrequency);
-    connect(this, &MainWindow::recordingOpened, m_receiverControl,
-            &ReceiverControl::recordingOpened);
-    connect(m_receiverControl, &ReceiverControl::detectionChanged, this,
-            [this] { showSweep(m_replay.position(), -1); });
-    connect(m_jobs, &Jobs::report, this,
+    connect(&m_session, &Session::openProgress, this, [this](qint64 done, qint64 total) {
+        m_progress->setValue(total > 0 ? static_cast<int>(done * progressSteps / total) : 0);
+    });
+    connect(&m_session, &Session::recordingChanged, m_bandView,
+            [this] { m_bandView->setRecording(m_session.recording()); });
+    connect(&m_session, &Session::sweepShown, m_bandView, &BandView::showSweep);
+    connect(&m_session, &Session::sweepShown, this, &MainWindow::updateTitle);
+    connect(&m_session, &Session::referenceLevelsChanged, m_bandView,
+            [this] { m_bandView->spectrum().setReferenceLevels(m_session.referenceLevels()); });
+    connect(&m_session.jobs(), &Jobs::report, this,
             [this](const QString& text) { statusBar()->showMessage(text, messageTime); });
+    connect(&m_session, &Session::opened, this, &MainWindow::recordingOpened);
+    // Once everybody has the recording: a message box keeps the others waiting.
+    connect(&m_session, &Session::opened, this, &MainWindow::reportSkippedLines,
+            Qt::QueuedConnection);
+    connect(&m_session, &Session::openCancelled, this, [this] {
+        setLoadingShown(false);
+        statusBar()->showMessage(tr("Loading cancelled"), messageTime);
+    });
+    connect(&m_session, &Session::openFailed, this, [this](const QString& text) {
+        setLoadingShown(false);
+        m_recordings->failed(m_session.loader().path());
+        if (m_onFailure == OnFailure::ShowMessage)
+            showMessage(tr("Recording not opened"), text, m_session.loader().report());
+    });
 }
 
 void MainWindow::refreshTexts()
 {
     m_bandView->refreshTexts();
-    m_signals->refreshTexts();
-    m_levels->refreshTexts();
-    m_bearingsPane->refreshTexts();
-    m_jobsPane->refresh();
-    m_eventsPane->refreshTexts();
     m_recorder->refreshTexts();
+    for (Panel* panel : m_panelDocks->panels())
+        panel->refreshTexts();
 }
 
 void MainWindow::restoreSettings()
@@ -146,33 +134,13 @@ void MainWindow::buildStatusBar()
     m_progress->setFixedWidth(220);
     m_cancel = new QPushButton(tr("Cancel"), this);
     m_cancel->setShortcut(QKeySequence(Qt::Key_Escape));
-    connect(m_cancel, &QPushButton::clicked, this, &MainWindow::cancelLoading);
+    connect(m_cancel, &QPushButton::clicked, &m_session, &Session::cancelOpening);
     statusBar()->addWidget(m_progress);
     statusBar()->addWidget(m_cancel);
     statusBar()->addWidget(m_report);
     statusBar()->addPermanentWidget(m_receiver);
     setLoadingShown(false);
     updatePosition();
-}
-
-void MainWindow::connectLoader()
-{
-    connect(&m_loader, &RecordingLoader::progress, this, [this](qint64 done, qint64 total) {
-        m_progress->setValue(total > 0 ? static_cast<int>(done * progressSteps / total) : 0);
-    });
-    connect(&m_loader, &RecordingLoader::finished, this, &MainWindow::takeOverRecording);
-    connect(&m_loader, &RecordingLoader::cancelled, this, [this] {
-        setLoadingShown(false);
-        statusBar()->showMessage(tr("Loading cancelled"), 4000);
-    });
-    connect(&m_loader, &RecordingLoader::failed, this, [this](const QString& text) {
-        setLoadingShown(false);
-        m_recorder->recordingFailed(text);
-        m_recordings->failed(m_loader.path());
-        Q_EMIT openFailed(text);
-        if (m_onFailure == OnFailure::ShowMessage)
-            showMessage(tr("Recording not opened"), text, m_loader.report());
-    });
 }
 
 void MainWindow::connectRecordings()
@@ -194,12 +162,7 @@ void MainWindow::open(const QString& path, OnFailure onFailure)
     m_progress->setValue(0);
     m_progress->setFormat(tr("Loading %1  %p %").arg(QFileInfo(path).fileName()));
     setLoadingShown(true);
-    m_loader.load(path);
-}
-
-void MainWindow::cancelLoading()
-{
-    m_loader.cancel();
+    m_session.open(path);
 }
 
 void MainWindow::setLoadingShown(bool shown)
@@ -212,40 +175,30 @@ void MainWindow::setLoadingShown(bool shown)
         m_bandView->setFocus();
 }
 
-void MainWindow::takeOverRecording()
+void MainWindow::recordingOpened()
 {
     setLoadingShown(false);
-    m_fileName = QFileInfo(m_loader.path()).fileName();
-    m_recordings->opened(m_loader.path());
-    const std::shared_ptr<const Recording> recording = m_loader.recording();
-    m_bandView->setRecording(recording);
-    m_watch.setRecording(recording);
-    m_recorder->recordingOpened(m_fileName, recording->count(), m_loader.skippedCount());
-    m_jobs->reset();
-    m_replay.setRecording(recording);
-    m_replayBar->refresh();
-    showSweep(m_replay.position(), -1);
-
-    const QLocale locale;
-    QString report =
-        tr("%1 sweeps, up to %2 bins")
-            .arg(locale.toString(recording->count()),
-                 locale.toString(static_cast<qulonglong>(recording->largestBinCount())));
-    if (m_loader.skippedCount() > 0)
-        report += tr(", %1 lines skipped").arg(locale.toString(m_loader.skippedCount()));
+    const RecordingLoader& loader = m_session.loader();
+    m_recordings->opened(loader.path());
+    const Recording& recording = *m_session.recording();
+    const qint64 skipped = loader.skippedCount();
+    QString report = tr("%1, up to %2")
+                         .arg(sweepCountText(recording.count()),
+                              binCountText(static_cast<qint64>(recording.largestBinCount())));
+    if (skipped > 0)
+        report += QLatin1String(", ") + skippedLinesText(skipped);
     m_report->setText(report);
-    Q_EMIT recordingOpened();
-    if (m_loader.skippedCount() > 0)
-        reportSkippedLines();
 }
 
 void MainWindow::reportSkippedLines()
 {
-    if (m_onFailure == OnFailure::ShowMessage)
-        showMessage(tr("Recording opened with gaps"),
-                    tr("%1 lines of %2 cannot be read and were skipped.")
-                        .arg(QLocale().toString(m_loader.skippedCount()), m_fileName),
-                    m_loader.report());
+    const RecordingLoader& loader = m_session.loader();
+    if (loader.skippedCount() == 0 || m_onFailure == OnFailure::Tell)
+        return;
+    showMessage(tr("Recording opened with gaps"),
+                tr("%1 cannot be read as a whole: %2.")
+                    .arg(m_session.fileName(), skippedLinesText(loader.skippedCount())),
+                loader.report());
 }
 
 void MainWindow::showMessage(const QString& title, const QString& text, const QString& details)
@@ -258,27 +211,17 @@ void MainWindow::showMessage(const QString& title, const QString& text, const QS
     ErrorHandler::GetMessageDlg()->Show(message, this);
 }
 
-void MainWindow::showSweep(qsizetype position, qsizetype previous)
-{
-    m_bandView->showSweep(position, previous);
-    m_watch.showSweep(position, previous);
-    m_recorder->sweepShown();
-    m_bearings.update(m_watch.tracks());
-    m_signals->refresh();
-    updateTitle();
-    m_jobs->sweepsPlayed(position, previous);
-}
-
 void MainWindow::updateTitle()
 {
-    if (m_replay.position() < 0) {
+    const Replay& replay = m_session.replay();
+    if (replay.position() < 0) {
         setWindowTitle(QStringLiteral("bandmonitor"));
         return;
     }
     setWindowTitle(tr("%1 – sweep %2 of %3 – bandmonitor")
-                       .arg(m_fileName)
-                       .arg(m_replay.position() + 1)
-                       .arg(m_replay.count()));
+                       .arg(m_session.fileName())
+                       .arg(replay.position() + 1)
+                       .arg(replay.count()));
 }
 
 void MainWindow::updatePosition()

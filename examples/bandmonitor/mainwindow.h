@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "docks/panels.h"
-#include "model/bearings.h"
-#include "model/eventlog.h"
-#include "model/joblist.h"
-#include "model/recordingloader.h"
-#include "model/replay.h"
-#include "model/signalwatch.h"
-#include "modes.h"
+#include "docks/modes.h"
+#include "docks/paneldocks.h"
+#include "model/session.h"
 
 #include <valueframework/observable.h>
 #include <valueframework/valueselection.h>
@@ -24,59 +19,46 @@ class QPushButton;
 namespace bandmonitor {
 
 class BandView;
-class BearingsPane;
-class EventLogPane;
 class EventRecorder;
-class Jobs;
-class JobsPane;
-class LevelsPane;
-class ReceiverControl;
-class ReceiverPane;
 class RecentRecordings;
 class ReplayBar;
-class SignalsPane;
 
-/// The main window: the band with its replay bar in the centre, panels around it, menus and status
-/// bar, all for one recording.
+/// The main window: it shows a session. The band with its replay bar is in the centre, panels lie
+/// around it, with menus and a status bar.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    /// What a recording that cannot be opened leads to.
+    /// What a recording that cannot be opened, or only with gaps, leads to.
     enum class OnFailure {
-        ShowMessage, ///< A message box; the former recording stays.
-        Tell,        ///< Only openFailed(), for the start of the program.
+        ShowMessage, ///< A message box.
+        Tell,        ///< Nothing but the session's signal, for the start of the program.
     };
 
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Begins to load the recording; recordingOpened(), openFailed() or nothing (cancelled) follows
-    /// from the event loop. Until then the former recording stays.
+    Session& session() { return m_session; }
+    /// Opens the recording in the session, see Session::open().
     void open(const QString& path, OnFailure onFailure = OnFailure::ShowMessage);
     /// Tells the services the modes of the window; once it is their main widget.
     void announceModes() { m_modes->announce(); }
-    bool isLoading() const { return m_loader.isLoading(); }
 
-    Replay& replay() { return m_replay; }
     BandView& bandView() { return *m_bandView; }
-    SignalsPane& signalsPane() { return *m_signals; }
-    LevelsPane& levelsPane() { return *m_levels; }
-    Panels& panels() { return *m_panels; }
+    PanelDocks& panelDocks() { return *m_panelDocks; }
+    /// The panel of this class, which must be in the table of panels.
+    template <typename PanelClass>
+    PanelClass& panel() const
+    {
+        return *findChild<PanelClass*>();
+    }
     Modes& modes() { return *m_modes; }
-    Jobs& jobs() { return *m_jobs; }
-    ReceiverPane& receiverPane() { return *m_receiverPane; }
-    EventLog& eventLog() { return m_events; }
     /// What the user can choose; "1 Hz" and "1 kHz".
     ValueSelection& frequencyResolution() { return m_resolution; }
 
-Q_SIGNALS:
-    void recordingOpened();
-    void openFailed(const QString& text);
-
 public Q_SLOTS:
+    /// Opens the dialog about the program.
     void showInfo();
-    void cancelLoading();
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -87,6 +69,7 @@ private:
     void buildMenus();
     void buildFileMenu();
     void buildViewMenu();
+    void buildBandEntries(QMenu* menu);
     void buildModeEntries(QMenu* menu);
     void buildReplayMenu();
     void buildJobsMenu();
@@ -94,11 +77,11 @@ private:
     void buildHelpMenu();
     void addSelectionMenu(QMenu* menu, const QString& title, ValueSelection* selection,
                           void (MainWindow::*changed)());
-    /// Adds the action to the menu; with `paneKey` its shortcut works in the panes only, so that
-    /// single keys stay usable in the other controls.
-    QAction* addEntry(QMenu* menu, QAction* action, bool paneKey);
+    /// Adds the action to the menu; with `bandKey` its shortcut works in the band view only, so
+    /// that single keys stay usable in the other controls.
+    QAction* addEntry(QMenu* menu, QAction* action, bool bandKey);
     QAction* addEntry(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
-                      bool paneKey);
+                      bool bandKey);
 
     // mainpanels.cpp
     void buildPanels();
@@ -107,20 +90,17 @@ private:
     void addJobs();
     std::optional<JobState> exportSweep();
     void saveVisibleSweep();
-    QByteArray exportText(const Sweep& sweep) const;
 
     void buildCentre();
-    void connectPanes();
-    void refreshTexts();
     void buildStatusBar();
-    void connectLoader();
+    void connectSession();
     void connectRecordings();
     void restoreSettings();
-    void takeOverRecording();
+    void refreshTexts();
+    void recordingOpened();
     void reportSkippedLines();
     void showMessage(const QString& title, const QString& text, const QString& details);
     void setLoadingShown(bool shown);
-    void showSweep(qsizetype position, qsizetype previous);
     void updateTitle();
     void updatePosition();
 
@@ -134,26 +114,13 @@ private:
     static constexpr int messageTime = 8000; // of the status bar, in milliseconds
 
     ValueSelection m_resolution;
-    RecordingLoader m_loader;
+    Session m_session;
     OnFailure m_onFailure = OnFailure::ShowMessage;
-    Replay m_replay;
-    SignalWatch m_watch;
-    Bearings m_bearings;
-    EventLog m_events;
-    QString m_fileName;
     BandView* m_bandView;
     ReplayBar* m_replayBar;
-    SignalsPane* m_signals;
-    LevelsPane* m_levels;
-    Panels* m_panels;
+    PanelDocks* m_panelDocks;
     Modes* m_modes;
-    Jobs* m_jobs;
-    JobsPane* m_jobsPane;
-    BearingsPane* m_bearingsPane;
-    EventLogPane* m_eventsPane;
     EventRecorder* m_recorder;
-    ReceiverPane* m_receiverPane;
-    ReceiverControl* m_receiverControl;
     RecentRecordings* m_recordings;
     QLabel* m_report = nullptr;
     QLabel* m_receiver = nullptr;

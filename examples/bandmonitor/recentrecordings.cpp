@@ -2,7 +2,7 @@
 #include "recentrecordings.h"
 
 #include "model/textfile.h"
-#include "settings.h"
+#include "settings/settings.h"
 
 #include <guibase/files/fileopenmanager.h>
 #include <trovappstartup/cfgcenter.h>

@@ -3,11 +3,11 @@
 //   bandmonitorprocess FOLDER tell                     prints its settings and its layout, and ends
 //   bandmonitorprocess FOLDER change quit|wait|store   changes all of them, prints them, then ends,
 //                                                      or waits, without or with storing
+#include "centre/bandview.h"
 #include "mainwindow.h"
-#include "panes/bandview.h"
-#include "panes/levelspane.h"
-#include "panes/signalspane.h"
-#include "settings.h"
+#include "panels/levelspanel.h"
+#include "panels/signalspanel.h"
+#include "settings/settings.h"
 
 #include <guibase/colors/colorset.h>
 #include <guibase/docks/autohide/autohidesupport.h>
@@ -44,7 +44,7 @@ QString state(MainWindow& window)
     QDebug(&text) << " layout" << window.size() << static_cast<int>(window.modes().mode());
     for (const int size : window.bandView().splitter()->sizes())
         text += QStringLiteral("%1;").arg(size);
-    for (const QDockWidget* dock : window.panels().docks()) {
+    for (const QDockWidget* dock : window.panelDocks().docks()) {
         const bool hides = QMainWindowHelpers::AutoHideSupport::autoHideAction(*dock)->isChecked();
         const bool isClosed = dock->isHidden() && !hides;
         QDebug(&text) << "" << dock->widget()->objectName() << "hides" << hides << "closed"
@@ -52,11 +52,11 @@ QString state(MainWindow& window)
         if (!hides && !dock->visibleRegion().isEmpty())
             QDebug(&text) << dock->size();
     }
-    const SortListView& list = window.signalsPane().list();
+    const SortListView& list = window.panel<SignalsPanel>().list();
     for (int column = 0; column < list.columns(); ++column)
         text +=
             QStringLiteral("%1,").arg(list.isColumnHidden(column) ? 0 : list.columnWidth(column));
-    for (const LevelPoint& point : window.levelsPane().points())
+    for (const LevelPoint& point : window.panel<LevelsPanel>().points())
         text += QStringLiteral(" %1:%2").arg(point.hertz, 0, 'f', 1).arg(point.levelDb);
     return text;
 }
@@ -65,7 +65,8 @@ void change(MainWindow& window, const QString& folder)
 {
     GuiBase& services = GuiBase::Instance();
     services.SetFrequencyUnit(UnitPrefix::Kilo);
-    window.levelsPane().table().addRows({{QStringLiteral("98100,25"), QStringLiteral("-40 dB")}});
+    window.panel<LevelsPanel>().table().addRows(
+        {{QStringLiteral("98100,25"), QStringLiteral("-40 dB")}});
     window.frequencyResolution().SetValue(UnitPrefix::Kilo);
     services.GetTimeZone()->SetValue(0);
     services.GetPositionFormat()->SetValue(6);
@@ -78,14 +79,14 @@ void change(MainWindow& window, const QString& folder)
     ColorSet::Instance().Save(nullptr, folder + QStringLiteral("/own.cst"));
     window.resize(777, 555);
     window.modes().setMode(Mode::Plan);
-    QDockWidget* signalDock = window.panels().dock(QStringLiteral("signals"));
+    QDockWidget* signalDock = window.panelDocks().dock(QStringLiteral("signals"));
     window.resizeDocks({signalDock}, {290}, Qt::Vertical);
     QMainWindowHelpers::AutoHideSupport::get(window)->enableAutoHide(
-        *window.panels().dock(QStringLiteral("levels")));
+        *window.panelDocks().dock(QStringLiteral("levels")));
     QApplication::processEvents(); // lays the window out
     window.bandView().splitter()->shiftHandle(1, -37);
-    window.signalsPane().list().setColumnWidth(SignalsPane::Type, 123);
-    window.signalsPane().list().setColumnHidden(SignalsPane::Bandwidth, true);
+    window.panel<SignalsPanel>().list().setColumnWidth(SignalsPanel::Type, 123);
+    window.panel<SignalsPanel>().list().setColumnHidden(SignalsPanel::Bandwidth, true);
 }
 
 } // namespace

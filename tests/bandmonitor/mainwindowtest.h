@@ -24,9 +24,11 @@ protected:
     /// Opens the recording, and waits until it is there.
     void open(const QString& file)
     {
-        QSignalSpy opened(m_window.get(), &bandmonitor::MainWindow::recordingOpened);
+        QSignalSpy opened(&m_window->session(), &bandmonitor::Session::opened);
+        QSignalSpy shown(&m_window->session(), &bandmonitor::Session::sweepShown);
         m_window->open(file);
         QVERIFY(opened.wait());
+        QCOMPARE(shown.size(), 1);
     }
     /// The menu entry whose text begins so, not counting the marks of the keys.
     QAction* entry(const char* text) const

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "panes/axisticks.h"
+#include "radiopanes/core/axisticks.h"
 #include "support/testrows.h"
 
 #include <cmath>

@@ -123,6 +123,19 @@ private Q_SLOTS:
         QCOMPARE(tell(), changed);
     }
 
+    void picturesNeedNobodyToAnswer()
+    {
+        const QTemporaryDir folder;
+        const QString config = folder.filePath(QStringLiteral("config"));
+        QVERIFY(QDir().mkpath(config));
+        run(helper, {config, QStringLiteral("change"), QStringLiteral("quit")});
+        QVERIFY(QFile::remove(config + QStringLiteral("/own.cst"))); // the start asks for it
+        const Ended ended = run(application, {QStringLiteral("--config"), config,
+                                              QStringLiteral("--shots"), folder.path()});
+        QCOMPARE(ended.status, 0);
+        QVERIFY2(ended.errors.contains("Cannot open Color Definition File"), ended.errors);
+    }
+
     void picturesAreTheSameEveryTime()
     {
         const QTemporaryDir folder;

@@ -2,10 +2,10 @@
 #include "support/guardedtest.h"
 #include "support/testrows.h"
 
+#include "panels/bearingspanel.h"
+#include "panels/headingspinbox.h"
+#include "radiopanes/bearingrose.h"
 #include <model/bearings.h>
-#include <panes/bearingrose.h>
-#include <panes/bearingspane.h>
-#include <panes/headingspinbox.h>
 
 #include <QAction>
 #include <QLineEdit>
@@ -90,22 +90,22 @@ private Q_SLOTS:
     void signalsAreChosenByMouseAndKeys()
     {
         Bearings bearings;
-        BearingsPane pane(&bearings);
-        pane.resize(400, 500);
-        pane.show();
-        BearingRose& rose = pane.rose();
+        BearingsPanel panel(&bearings);
+        panel.resize(400, 500);
+        panel.show();
+        BearingRose& rose = panel.rose();
         bearings.update(tracks({98e6, 98.3e6, 104e6}));
-        QSignalSpy chosen(&pane, &BearingsPane::signalChosen);
+        QSignalSpy chosen(&panel, &Panel::frequencyWanted);
         for (const int heading : {0, 250}) {
-            pane.heading().setValue(heading);
-            pane.headingUpAction()->setChecked(heading != 0);
+            panel.heading().setValue(heading);
+            panel.keyActions().constFirst()->setChecked(heading != 0);
             const QPointF centre = QRectF(rose.rect()).center();
             for (const Bearing& bearing : bearings.all()) {
                 const QPointF end = rose.lineEnd(bearing.degrees);
                 QTest::mouseClick(&rose, Qt::LeftButton, {},
                                   (centre + 0.8 * (end - centre)).toPoint());
-                QCOMPARE(rose.selected(), bearing.track.id);
-                QCOMPARE(chosen.takeFirst().first().toDouble(), bearing.track.signal.centreHz);
+                QCOMPARE(rose.selected(), bearing.id);
+                QCOMPARE(chosen.takeFirst().first().toDouble(), bearing.hertz);
             }
             // One turn of the right arrow meets each signal in the order of the angles.
             QTest::keyClick(&rose, Qt::Key_Home);
@@ -124,18 +124,18 @@ private Q_SLOTS:
         QCOMPARE(rose.selected(), 0U);
     }
 
-    void bearingsMayGoBeforeTheirPane()
+    void bearingsMayGoBeforeTheirPanel()
     {
         auto bearings = std::make_unique<Bearings>();
         bearings->update(tracks({98e6}));
-        BearingsPane pane(bearings.get());
-        pane.show();
-        pane.rose().select(1);
+        BearingsPanel panel(bearings.get());
+        panel.show();
+        panel.rose().select(1);
         bearings.reset();
-        QCOMPARE(pane.rose().selected(), 0U);
-        QTest::keyClick(&pane.rose(), Qt::Key_Right);
-        QTest::keyClick(&pane.rose(), Qt::Key_Return);
-        QVERIFY(!pane.grab().isNull());
+        QCOMPARE(panel.rose().selected(), 0U);
+        QTest::keyClick(&panel.rose(), Qt::Key_Right);
+        QTest::keyClick(&panel.rose(), Qt::Key_Return);
+        QVERIFY(!panel.grab().isNull());
     }
 };
 

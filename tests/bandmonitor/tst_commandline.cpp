@@ -48,7 +48,7 @@ private Q_SLOTS:
         if (arguments.contains(QLatin1String("2.5"))) {
             QCOMPARE(result.replayFactor, 2.5);
             QVERIFY(result.configFolder.endsWith(QLatin1String("/new")));
-            QCOMPARE(result.shotsFolder, m_folder.path());
+            QCOMPARE(result.screenshotsFolder, m_folder.path());
             QVERIFY(result.file.endsWith(QLatin1String("/a.csv")));
         }
     }

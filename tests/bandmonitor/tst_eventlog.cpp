@@ -2,8 +2,8 @@
 #include "support/files.h"
 #include "support/guardedtest.h"
 
+#include "panels/eventlogpanel.h"
 #include <model/eventlog.h>
-#include <panes/eventlogpane.h>
 
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
@@ -19,7 +19,7 @@ class tst_EventLog : public GuardedTest
 {
     Q_OBJECT
     std::unique_ptr<EventLog> m_log;
-    std::unique_ptr<EventLogPane> m_pane;
+    std::unique_ptr<EventLogPanel> m_pane;
 
     /// Events named by their numbers, a second apart.
     void add(int count)
@@ -32,7 +32,7 @@ class tst_EventLog : public GuardedTest
     QString textOf(int row) const
     {
         const QTreeWidgetItem* item = list().topLevelItem(row);
-        return item != nullptr ? item->text(EventLogPane::Text) : QString();
+        return item != nullptr ? item->text(EventLogPanel::Text) : QString();
     }
     QString lastText() const { return textOf(list().topLevelItemCount() - 1); }
     QString nameOfLast() const { return m_log->event(m_log->end() - 1).text; }
@@ -42,7 +42,7 @@ class tst_EventLog : public GuardedTest
     {
         GuiBase::Instance().GetTimeZone()->SetValue(0);
         m_log = std::make_unique<EventLog>(100);
-        m_pane = std::make_unique<EventLogPane>(m_log.get());
+        m_pane = std::make_unique<EventLogPanel>(m_log.get());
         m_pane->setUpdateInterval(std::chrono::milliseconds(0));
         m_pane->resize(500, 250);
         m_pane->show();
@@ -102,14 +102,14 @@ private Q_SLOTS:
         bar().setValue(30);
         add(40); // rows go above
         QTRY_COMPARE(lastText(), nameOfLast());
-        QCOMPARE(list().itemAt(0, 0)->text(EventLogPane::Text), QStringLiteral("event 30."));
+        QCOMPARE(list().itemAt(0, 0)->text(EventLogPanel::Text), QStringLiteral("event 30."));
     }
 
     void oldRowsGoWhateverTheOrder()
     {
         add(100);
         QTRY_COMPARE(list().topLevelItemCount(), 100);
-        list().setSorting(EventLogPane::Time, Qt::DescendingOrder);
+        list().setSorting(EventLogPanel::Time, Qt::DescendingOrder);
         add(30);
         QTRY_COMPARE(textOf(0), nameOfLast());
         QCOMPARE(list().topLevelItemCount(), 100);

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "jobs.h"
-#include "jobsmenu.h"
+#include "centre/bandview.h"
 #include "mainwindowtest.h"
-#include "panes/bandview.h"
-#include "panes/levelspane.h"
+#include "model/jobs.h"
+#include "panels/jobsmenu.h"
+#include "panels/levelspanel.h"
 #include "recordings.h"
 #include "support/testrows.h"
 
-#include <model/levelline.h>
+#include "radiopanes/core/levelline.h"
 
 #include <guibase/lists/sortrowtable.h>
 
@@ -24,7 +24,7 @@ class tst_Jobs : public MainWindowTest
 
     const Job& job(const char* part) const
     {
-        const auto& jobs = m_window->jobs().list().jobs();
+        const auto& jobs = m_window->session().jobs().list().jobs();
         return *std::ranges::find_if(
             jobs, [part](const Job& job) { return job.name.contains(QLatin1String(part)); });
     }
@@ -32,8 +32,8 @@ class tst_Jobs : public MainWindowTest
     void prepare() override
     {
         openWindow();
-        m_window->replay().setClock([this] { return m_clockUs += 1'700'000; });
-        m_window->replay().setTickInterval(std::chrono::milliseconds(0));
+        m_window->session().replay().setClock([this] { return m_clockUs += 1'700'000; });
+        m_window->session().replay().setTickInterval(std::chrono::milliseconds(0));
     }
 
 private Q_SLOTS:
@@ -80,8 +80,8 @@ private Q_SLOTS:
     void menuIsSortedAsChosen()
     {
         const auto& [order, first] = Orders::fetch();
-        Jobs& jobs = m_window->jobs();
-        Replay& replay = m_window->replay();
+        Jobs& jobs = m_window->session().jobs();
+        Replay& replay = m_window->session().replay();
         jobs.run(job("Jump").id);
         replay.jump(5);
         jobs.run(job("Pause above").id);
@@ -106,31 +106,33 @@ private Q_SLOTS:
     void pausesAtANewSignal()
     {
         const char* const name = "new signal";
-        m_window->jobs().run(job(name).id);
+        m_window->session().jobs().run(job(name).id);
         QCOMPARE(job(name).state, JobState::Waiting);
         QTRY_COMPARE(job(name).state, JobState::Done);
-        QVERIFY(!m_window->replay().isPlaying());
-        QVERIFY(m_window->replay().position() < 10); // the hopper comes soon
-        m_window->jobs().run(job(name).id);
-        m_window->jobs().run(job(name).id); // called off
+        QVERIFY(!m_window->session().replay().isPlaying());
+        QVERIFY(m_window->session().replay().position() < 10); // the hopper comes soon
+        m_window->session().jobs().run(job(name).id);
+        m_window->session().jobs().run(job(name).id); // called off
         QCOMPARE(job(name).state, JobState::Ready);
     }
 
     void pausesAtTheSweepAboveTheLevels()
     {
         // The drifting transmitter comes there at one time only.
-        m_window->levelsPane().table().addRows({{QStringLiteral("99.25"), QStringLiteral("-60")}});
-        QTRY_COMPARE(m_window->levelsPane().points().size(), 1U);
-        Replay& replay = m_window->replay();
+        m_window->panel<LevelsPanel>().table().addRows(
+            {{QStringLiteral("99.25"), QStringLiteral("-60")}});
+        QTRY_COMPARE(m_window->panel<LevelsPanel>().points().size(), 1U);
+        Replay& replay = m_window->session().replay();
         qsizetype expected = 0;
-        while (!firstAbove(replay.recording()->sweep(expected), m_window->levelsPane().points()))
+        while (!firstAbove(replay.recording()->sweep(expected),
+                           m_window->panel<LevelsPanel>().points()))
             ++expected;
         QVERIFY(expected > 5);
         replay.setSpeed(7.3); // passes several sweeps at once
-        m_window->jobs().run(job("above").id);
+        m_window->session().jobs().run(job("above").id);
         QTRY_COMPARE(job("above").state, JobState::Done);
         QCOMPARE(replay.position(), expected);
-        QVERIFY(std::abs(m_window->bandView().view().cursor() - 99.25e6) < 25e3);
+        QVERIFY(std::abs(m_window->bandView().visibleBand().cursor() - 99.25e6) < 25e3);
     }
 };
 

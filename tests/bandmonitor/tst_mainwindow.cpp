@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "jobs.h"
+#include "centre/bandview.h"
 #include "mainwindowtest.h"
-#include "panes/bandview.h"
-#include "panes/signalspane.h"
+#include "model/jobs.h"
+#include "panels/signalspanel.h"
 #include "support/files.h"
 #include "support/modaldialogcloser.h"
 
@@ -43,7 +43,7 @@ private Q_SLOTS:
         second.startTimeUs = first.startTimeUs + 5 * first.sweepIntervalUs;
         open(write(QStringLiteral("two bands.csv"),
                    SampleGenerator(first).remaining() + SampleGenerator(second).remaining()));
-        const EventLog& log = m_window->eventLog();
+        const EventLog& log = m_window->session().events();
         const auto count = [&log](const char* part) {
             int found = 0;
             for (quint64 number = log.begin(); number < log.end(); ++number)
@@ -53,23 +53,23 @@ private Q_SLOTS:
         QCOMPARE(count("two bands.csv opened: 85 sweeps"), 1);
         QCOMPARE(count("followed anew"), 2); // one for each recording
         // All that came and did not go is in the list.
-        const SortListView& list = m_window->signalsPane().list();
+        const SortListView& list = m_window->panel<SignalsPanel>().list();
         int followed = list.topLevelItemCount();
         QVERIFY(followed > 0);
         for (int sweep = 1; sweep < 85; ++sweep)
-            m_window->replay().stepForward();
+            m_window->session().replay().stepForward();
         const int gone = count("Disappeared: ");
         QVERIFY(gone > 0);
         followed += count("Appeared: ") - gone;
         QTRY_COMPARE(list.topLevelItemCount(), followed);
         for (int step = 0; step < 3; ++step) // it begins anew, and nothing came or went
-            m_window->replay().stepBackward();
+            m_window->session().replay().stepBackward();
         QCOMPARE(count("followed anew"), 3);
         QCOMPARE(count("Disappeared: "), gone);
 
-        for (const Job& job : m_window->jobs().list().jobs()) {
+        for (const Job& job : m_window->session().jobs().list().jobs()) {
             for (int i = 0; i < 2 && job.name.contains(QLatin1String("above the reference")); ++i)
-                m_window->jobs().run(job.id);
+                m_window->session().jobs().run(job.id);
         }
         QCOMPARE(count(": started"), 1);
         QCOMPARE(count(": called off"), 1);
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QVERIFY(cancel->isVisible());
         QTest::mouseClick(cancel, Qt::LeftButton);
         QTRY_VERIFY(!cancel->isVisible());
-        m_window->replay().stepForward();
+        m_window->session().replay().stepForward();
         QVERIFY(m_window->windowTitle().startsWith(QStringLiteral("sample.csv – sweep 2")));
         QCOMPARE(m_window->bandView().position(), 1);
         // Closing in the middle of loading is safe as well.

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "centre/bandview.h"
 #include "mainwindowtest.h"
-#include "panes/bandview.h"
-#include "panes/signalspane.h"
-#include "panes/spectrumpane.h"
-#include "receiver/receiverpane.h"
-#include "settings.h"
+#include "panels/signalspanel.h"
+#include "radiopanes/spectrumpane.h"
+#include "receiver/receiverpanel.h"
+#include "settings/settings.h"
 #include "support/testrows.h"
 
 #include <guibase/inputs/typedinput.h>
@@ -46,7 +46,7 @@ class tst_Receiver : public MainWindowTest
 
     QWidget* field(const char* name) const
     {
-        return m_window->receiverPane().findChild<QWidget*>(QLatin1String(name));
+        return m_window->panel<ReceiverPanel>().findChild<QWidget*>(QLatin1String(name));
     }
 
     QString shown(const char* name) const
@@ -118,7 +118,7 @@ private Q_SLOTS:
     {
         openForm();
         BandView& band = m_window->bandView();
-        FrequencyView& view = band.view();
+        VisibleBand& view = band.visibleBand();
         const double bandLow = view.bandLow();
         QCOMPARE(shown("span"), QStringLiteral("30 MHz"));
         enter("centreFrequency", QStringLiteral("85.5")); // the span gives way
@@ -139,7 +139,7 @@ private Q_SLOTS:
         field("gain")->setFocus();
         QCOMPARE(shown("centreFrequency"), QStringLiteral("95 MHz"));
 
-        Replay& replay = m_window->replay();
+        Replay& replay = m_window->session().replay();
         GuiBase::Instance().GetTimeZone()->SetValue(0);
         replay.jump(20);
         const QString later = shown("startTime");
@@ -164,17 +164,17 @@ private Q_SLOTS:
     void thresholdDetectsWhatTheSpectrumShowsAboveIt()
     {
         openForm();
-        m_window->signalsPane().setUpdateInterval(std::chrono::milliseconds(0));
+        m_window->panel<SignalsPanel>().setUpdateInterval(std::chrono::milliseconds(0));
         const auto peaks = [this] {
             QCoreApplication::processEvents();
-            const SortListView& list = m_window->signalsPane().list();
+            const SortListView& list = m_window->panel<SignalsPanel>().list();
             QList<double> result;
             for (int row = 0; row < list.topLevelItemCount(); ++row)
-                result << list.topLevelItem(row)->text(SignalsPane::Level).chopped(3).toDouble();
+                result << list.topLevelItem(row)->text(SignalsPanel::Level).chopped(3).toDouble();
             return result;
         };
-        m_window->replay().stepForward();
-        m_window->replay().stepBackward(); // the signals of this sweep alone
+        m_window->session().replay().stepForward();
+        m_window->session().replay().stepBackward(); // the signals of this sweep alone
         const QList<double> automatic = peaks();
         const auto count = [&](double limit) {
             return std::ranges::count_if(automatic, [=](double peak) { return peak >= limit; });
@@ -224,11 +224,13 @@ private Q_SLOTS:
             QTest::keyClick(focus, Qt::Key_Tab);
         }
         QCOMPARE(shown("deviceAddress"), QStringLiteral("12648430"));
-        QVERIFY(!m_window->replay().isPlaying()); // nothing of it was taken for a short cut
+        QVERIFY(
+            !m_window->session().replay().isPlaying()); // nothing of it was taken for a short cut
         const QDateTime start(QDate(2026, 1, 1), QTime(0, 0, 30, 500), Qt::UTC);
-        const qsizetype position = m_window->replay().position();
+        const qsizetype position = m_window->session().replay().position();
         const auto timeAt = [&](qsizetype at) {
-            return static_cast<qint64>(m_window->replay().recording()->sweep(at).timeUs / 1000);
+            return static_cast<qint64>(m_window->session().replay().recording()->sweep(at).timeUs /
+                                       1000);
         };
         QVERIFY(timeAt(position) >= start.toMSecsSinceEpoch());
         QVERIFY(timeAt(position - 1) < start.toMSecsSinceEpoch());
@@ -246,10 +248,11 @@ private Q_SLOTS:
         expected.thresholdDb = -62.5;
         QVERIFY(Settings::receiver() == expected);
         openForm();
-        QCOMPARE(m_window->replay().position(), position);
+        QCOMPARE(m_window->session().replay().position(), position);
         QCOMPARE(shown("centreFrequency"), QStringLiteral("98,500123 MHz"));
-        expected.startTime = m_window->receiverPane().settings().startTime; // that of the sweep
-        QVERIFY(m_window->receiverPane().settings() == expected);
+        expected.startTime =
+            m_window->panel<ReceiverPanel>().settings().startTime; // that of the sweep
+        QVERIFY(m_window->panel<ReceiverPanel>().settings() == expected);
     }
 };
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "centre/bandview.h"
 #include "mainwindowtest.h"
 #include "model/textfile.h"
-#include "panes/bandview.h"
-#include "receiver/receiverpane.h"
+#include "receiver/receiverpanel.h"
 #include "recordings.h"
-#include "settings.h"
+#include "settings/settings.h"
 #include "support/dialogscript.h"
 #include "support/files.h"
 #include "support/filesizelimit.h"
@@ -76,9 +76,9 @@ private Q_SLOTS:
         receiver.address = 0x1F;
         Settings::setReceiver(receiver);
         openWindow();
-        m_window->replay().jump(3);
-        const Sweep sweep = m_window->replay().sweep();
-        FrequencyView& view = m_window->bandView().view();
+        m_window->session().replay().jump(3);
+        const Sweep sweep = m_window->session().replay().sweep();
+        VisibleBand& view = m_window->bandView().visibleBand();
         view.setVisible(97.01e6, 98.99e6);
         QString proposed;
         {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "recordings.h"
 
-#include <model/columnreducer.h>
-#include <model/holdmaximum.h>
+#include "radiopanes/core/columnreducer.h"
+#include "radiopanes/core/holdmaximum.h"
 #include <model/samplegenerator.h>
 
 #include "support/guardedtest.h"

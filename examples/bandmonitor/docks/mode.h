@@ -15,7 +15,7 @@ template <typename T>
 using PerMode = std::array<T, modeCount>;
 
 template <typename T>
-const T& of(const PerMode<T>& values, Mode mode)
+const T& forMode(const PerMode<T>& values, Mode mode)
 {
     return values[static_cast<std::size_t>(mode)];
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "docks/panelfocus.h"
 
-#include "docks/panels.h"
+#include "docks/paneldocks.h"
 
 #include <guibase/docks/active/activedockwidgetsupport.h>
 #include <guibase/docks/mainwindowhelpers.h>
@@ -29,7 +29,7 @@ QWidget* target(QWidget& panel)
     return nullptr;
 }
 
-void enter(const Panels& panels, QDockWidget& dock, Qt::FocusReason reason)
+void enter(const PanelDocks& panels, QDockWidget& dock, Qt::FocusReason reason)
 {
     QMainWindowHelpers::ActiveDockWidgetSupport::get(panels.window())->bringToFront(dock);
     if (dock.isFloating())
@@ -38,7 +38,7 @@ void enter(const Panels& panels, QDockWidget& dock, Qt::FocusReason reason)
         widget->setFocus(reason);
 }
 
-void cycle(const Panels& panels, QWidget& centre, bool forward)
+void cycle(const PanelDocks& panels, QWidget& centre, bool forward)
 {
     QMainWindow& window = panels.window();
     QList<QDockWidget*> stops{nullptr}; // null for the centre

@@ -8,16 +8,16 @@ class QWidget;
 
 namespace bandmonitor {
 
-class Panels;
+class PanelDocks;
 
 /// Ways for the keyboard between the centre of the window and its panels.
 namespace PanelFocus {
 
 /// Leads to the next or the former part of the window, in the order: centre, panels that are seen,
 /// centre. A panel behind another tab comes to the front.
-void cycle(const Panels& panels, QWidget& centre, bool forward);
+void cycle(const PanelDocks& panels, QWidget& centre, bool forward);
 /// Brings the panel to the front, and the keys to it.
-void enter(const Panels& panels, QDockWidget& dock, Qt::FocusReason reason);
+void enter(const PanelDocks& panels, QDockWidget& dock, Qt::FocusReason reason);
 /// The widget of the panel that takes the keys: the one that had them last, or the first that Tab
 /// reaches; null without any.
 QWidget* target(QWidget& panel);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "docks/windowmenu.h"
 
+#include "docks/paneldocks.h"
 #include "docks/panelfocus.h"
-#include "docks/panels.h"
 
 #include <guibase/docks/active/activedockwidgetsupport.h>
 #include <guibase/docks/areas/tabifysupport.h>
@@ -43,7 +43,7 @@ bool hasVisibleAction(const QMenu& menu)
 
 } // namespace
 
-WindowMenu::WindowMenu(Panels* panels, QWidget* centre, QWidget* parent)
+WindowMenu::WindowMenu(PanelDocks* panels, QWidget* centre, QWidget* parent)
     : QMenu(tr("&Window"), parent)
     , m_panels(panels)
     , m_centre(centre)

@@ -9,7 +9,7 @@ class QDockWidget;
 
 namespace bandmonitor {
 
-class Panels;
+class PanelDocks;
 
 /// The menu for everything that can be done with the panels; with it, the keyboard reaches all but
 /// dragging.
@@ -19,7 +19,7 @@ class WindowMenu : public QMenu
 public:
     /// `centre` takes the focus in turn with the panels. Both must outlive the menu, and all panels
     /// must be known.
-    WindowMenu(Panels* panels, QWidget* centre, QWidget* parent);
+    WindowMenu(PanelDocks* panels, QWidget* centre, QWidget* parent);
     ~WindowMenu() override;
 
 private:
@@ -37,7 +37,7 @@ private:
     void closePanel(QDockWidget& dock);
     void listKey(QAction* action) const;
 
-    Panels* m_panels;
+    PanelDocks* m_panels;
     QWidget* m_centre;
     QMenu* m_tabify = nullptr;
     QMenu* m_tile = nullptr;

@@ -3,6 +3,8 @@
 
 #include "signaltracker.h"
 
+#include "radiopanes/core/bearing.h"
+
 #include <QObject>
 
 #include <span>
@@ -10,30 +12,6 @@
 #include <vector>
 
 namespace bandmonitor {
-
-/// The same direction as an angle from 0 to below 360 degrees; 0 for what is no finite number.
-double normalizedDegrees(double degrees);
-
-/// A direction (clockwise from north) as seen from a ship or car that heads for `heading`: from 0
-/// to below 360 degrees, clockwise from the bow.
-double relativeBearing(double bearing, double heading);
-
-/// The smaller angle between two directions, 0 to 180 degrees.
-double angleBetween(double a, double b);
-
-/// Where a relative bearing points.
-enum class BearingSide { Ahead, Starboard, Astern, Portside };
-/// Ahead and astern are the directions that are rounded to 0 and 180 degrees.
-BearingSide sideOf(double relative);
-
-/// The direction that a signal comes from.
-struct Bearing
-{
-    SignalTrack track;  ///< As it was last seen.
-    double degrees = 0; ///< Clockwise from north, 0 to below 360.
-    /// Standard deviation of the direction in degrees.
-    double spread = 0;
-};
 
 /// A simulated direction finder: a recording holds levels only, so that nothing in it tells where a
 /// signal comes from. Each signal gets a direction that follows from the frequency at which it was
@@ -58,6 +36,7 @@ public:
     static double simulatedSpread(double signalToNoiseDb);
 
 Q_SIGNALS:
+    /// update() has put other bearings in the place of the former ones.
     void changed();
 
 private:

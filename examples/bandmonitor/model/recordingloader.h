@@ -53,6 +53,7 @@ Q_SIGNALS:
     void finished();
     /// The file cannot be read, or has no sweep; `text` is one line for the user.
     void failed(const QString& text);
+    /// cancel() has given up what was being loaded.
     void cancelled();
 
 private:

@@ -40,6 +40,7 @@ void Replay::setRecording(std::shared_ptr<const Recording> recording)
     m_playedUs = 0;
     m_position = count() > 0 ? 0 : -1;
     setPlaying(false);
+    Q_EMIT recordingChanged();
     Q_EMIT positionChanged(m_position, -1);
 }
 

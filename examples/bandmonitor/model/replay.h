@@ -66,11 +66,15 @@ public Q_SLOTS:
     void setSpeed(double factor);
 
 Q_SIGNALS:
+    /// setRecording() has put another recording in the place of the former one, or none.
+    void recordingChanged();
     /// The current sweep is another one. When playing fast several sweeps can be passed at once:
     /// those from `previous + 1` to `position` were played. After jump() and setRecording()
     /// `previous` is -1: nothing was played.
     void positionChanged(qsizetype position, qsizetype previous);
+    /// Playing has begun or stopped.
     void playingChanged(bool playing);
+    /// Recorded time per real time is another one now; see setSpeed().
     void speedChanged(double factor);
     /// Playing came to the last sweep; playing has stopped.
     void endReached();

@@ -38,7 +38,7 @@ double toleranceHz(const SignalTrack& track, const Signal& signal)
                         std::max(track.signal.bandwidthHz(), signal.bandwidthHz()));
 }
 
-void goOn(SignalTrack& track, quint64 timeUs, const Signal& signal)
+void continueTrack(SignalTrack& track, quint64 timeUs, const Signal& signal)
 {
     const bool wasThere = (track.presence & 2) != 0;
     const double moved = signal.centreHz - track.signal.centreHz;
@@ -166,7 +166,7 @@ void SignalTracker::match(quint64 timeUs, std::span<const Signal> found)
         if (track.isPresent() || m_signalTaken[pair.signal])
             continue;
         m_signalTaken[pair.signal] = true;
-        goOn(track, timeUs, found[pair.signal]);
+        continueTrack(track, timeUs, found[pair.signal]);
     }
     for (SignalTrack& track : m_tracks) {
         if (!track.isPresent())

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "receivercontrol.h"
 
-#include "model/replay.h"
-#include "model/signalwatch.h"
-#include "panes/bandview.h"
-#include "panes/spectrumpane.h"
-#include "receiver/receiverpane.h"
-#include "settings.h"
+#include "centre/bandview.h"
+#include "model/session.h"
+#include "radiopanes/spectrumpane.h"
+#include "receiver/receiverpanel.h"
+#include "settings/settings.h"
 
 #include <algorithm>
 #include <cmath>
@@ -25,25 +24,27 @@ QDateTime timeOf(const Sweep& sweep)
 
 } // namespace
 
-ReceiverControl::ReceiverControl(ReceiverPane* pane, BandView* band, Replay* replay,
-                                 SignalWatch* watch, QObject* parent)
+ReceiverControl::ReceiverControl(ReceiverPanel* panel, BandView* bandView, Session* session,
+                                 QObject* parent)
     : QObject(parent)
-    , m_pane(pane)
-    , m_band(band)
-    , m_replay(replay)
-    , m_watch(watch)
+    , m_panel(panel)
+    , m_bandView(bandView)
+    , m_session(session)
+    , m_replay(&session->replay())
     , m_settings(Settings::receiver())
 {
-    m_pane->setSettings(m_settings);
+    m_panel->setSettings(m_settings);
     apply();
-    connect(m_pane, &ReceiverPane::centreEdited, this, &ReceiverControl::centreEdited);
-    connect(m_pane, &ReceiverPane::spanEdited, this, &ReceiverControl::spanEdited);
-    connect(m_pane, &ReceiverPane::startTimeEdited, this, &ReceiverControl::startTimeEdited);
-    connect(m_pane, &ReceiverPane::edited, this, &ReceiverControl::edited);
-    connect(m_pane, &ReceiverPane::editingFinished, this, &ReceiverControl::followWindow);
-    connect(m_pane, &ReceiverPane::editingFinished, this, &ReceiverControl::followReplay);
-    connect(&m_band->view(), &FrequencyView::rangeChanged, this, &ReceiverControl::followWindow);
+    connect(m_panel, &ReceiverPanel::centreEdited, this, &ReceiverControl::centreEdited);
+    connect(m_panel, &ReceiverPanel::spanEdited, this, &ReceiverControl::spanEdited);
+    connect(m_panel, &ReceiverPanel::startTimeEdited, this, &ReceiverControl::startTimeEdited);
+    connect(m_panel, &ReceiverPanel::edited, this, &ReceiverControl::edited);
+    connect(m_panel, &ReceiverPanel::editingFinished, this, &ReceiverControl::followWindow);
+    connect(m_panel, &ReceiverPanel::editingFinished, this, &ReceiverControl::followReplay);
+    connect(&m_bandView->visibleBand(), &VisibleBand::rangeChanged, this,
+            &ReceiverControl::followWindow);
     connect(m_replay, &Replay::positionChanged, this, &ReceiverControl::followReplay);
+    connect(m_session, &Session::opened, this, &ReceiverControl::recordingOpened);
 }
 
 ReceiverControl::~ReceiverControl() = default;
@@ -57,14 +58,14 @@ void ReceiverControl::recordingOpened()
     m_hasRecording = true;
     const Sweep sweep = m_replay->sweep();
     if (!sweep.isEmpty())
-        m_pane->setSamplesOfSweep(sweep.segments.front().samples);
+        m_panel->setSamplesOfSweep(sweep.segments.front().samples);
     followWindow();
     followReplay();
 }
 
 void ReceiverControl::restoreWindow()
 {
-    FrequencyView& view = m_band->view();
+    VisibleBand& view = m_bandView->visibleBand();
     const auto centre = static_cast<double>(m_settings.centreHz);
     const double half = static_cast<double>(m_settings.spanHz) / 2;
     if (half > 0 && centre + half > view.bandLow() && centre - half < view.bandHigh())
@@ -82,7 +83,7 @@ void ReceiverControl::restoreStartTime()
 
 void ReceiverControl::centreEdited(qint64 hertz)
 {
-    FrequencyView& view = m_band->view();
+    VisibleBand& view = m_bandView->visibleBand();
     const double centre = std::clamp(static_cast<double>(hertz), view.bandLow(), view.bandHigh());
     // The span gives way at the ends of the band: else the whole band could not be left.
     const double half = std::min(
@@ -93,7 +94,7 @@ void ReceiverControl::centreEdited(qint64 hertz)
 
 void ReceiverControl::spanEdited(qint64 hertz)
 {
-    FrequencyView& view = m_band->view();
+    VisibleBand& view = m_bandView->visibleBand();
     const double centre = (view.low() + view.high()) / 2;
     const double half = static_cast<double>(hertz) / 2;
     if (hertz == 0)
@@ -107,11 +108,11 @@ void ReceiverControl::followWindow()
 {
     if (!m_hasRecording)
         return;
-    const FrequencyView& view = m_band->view();
+    const VisibleBand& view = m_bandView->visibleBand();
     const qint64 span = std::llround(view.high() - view.low());
     m_settings.centreHz = std::llround((view.low() + view.high()) / 2);
     m_settings.spanHz = view.showsAll() ? 0 : span;
-    m_pane->showWindow(m_settings.centreHz, span);
+    m_panel->showWindow(m_settings.centreHz, span);
     Settings::setReceiver(m_settings);
 }
 
@@ -138,12 +139,12 @@ void ReceiverControl::followReplay()
 {
     const Sweep sweep = m_replay->sweep();
     if (m_hasRecording && !sweep.isEmpty())
-        m_pane->showTime(timeOf(sweep));
+        m_panel->showTime(timeOf(sweep));
 }
 
 void ReceiverControl::edited()
 {
-    ReceiverSettings settings = m_pane->settings();
+    ReceiverSettings settings = m_panel->settings();
     settings.centreHz = m_settings.centreHz;
     settings.spanHz = m_settings.spanHz;
     settings.startTime = m_settings.startTime;
@@ -156,13 +157,12 @@ void ReceiverControl::edited()
 
 void ReceiverControl::apply()
 {
-    m_band->setTrace(m_settings.trace());
-    SpectrumPane& spectrum = m_band->spectrum();
+    m_bandView->setTrace(m_settings.trace());
+    SpectrumPane& spectrum = m_bandView->spectrum();
     spectrum.setThreshold(m_settings.thresholdDb);
     const QString address = m_settings.addressText();
     spectrum.setCaption(address.isEmpty() ? address : tr("Receiver %1").arg(address));
-    if (m_watch->setThreshold(m_settings.recordedThresholdDb()))
-        Q_EMIT detectionChanged();
+    m_session->setThreshold(m_settings.recordedThresholdDb());
 }
 
 } // namespace bandmonitor

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "receiver/receiversettings.h"
+#include "model/receiversettings.h"
 
 #include <QObject>
 
 namespace bandmonitor {
 
 class BandView;
-class ReceiverPane;
+class ReceiverPanel;
 class Replay;
-class SignalWatch;
+class Session;
 
 /// Lets the receiver panel steer what the spectrum shows, and lets the panel follow where that is
 /// changed elsewhere. What the user sets is kept, and comes back at the next start.
@@ -19,20 +19,13 @@ class ReceiverControl : public QObject
     Q_OBJECT
 public:
     /// All of them must outlive the control.
-    ReceiverControl(ReceiverPane* pane, BandView* band, Replay* replay, SignalWatch* watch,
-                    QObject* parent);
+    ReceiverControl(ReceiverPanel* panel, BandView* bandView, Session* session, QObject* parent);
     ~ReceiverControl() override;
 
-    const ReceiverSettings& settings() const { return m_settings; }
-    /// Once the recording is shown. At the first one, frequencies and start time that were kept are
-    /// shown as far as it has them.
-    void recordingOpened();
-
-Q_SIGNALS:
-    /// The signals are to be detected anew.
-    void detectionChanged();
-
 private:
+    /// At the first recording, frequencies and start time that were kept are shown as far as it has
+    /// them.
+    void recordingOpened();
     void centreEdited(qint64 hertz);
     void spanEdited(qint64 hertz);
     void startTimeEdited(const QDateTime& time);
@@ -44,10 +37,10 @@ private:
     void followReplay();
     void goTo(const QDateTime& time);
 
-    ReceiverPane* m_pane;
-    BandView* m_band;
+    ReceiverPanel* m_panel;
+    BandView* m_bandView;
+    Session* m_session;
     Replay* m_replay;
-    SignalWatch* m_watch;
     ReceiverSettings m_settings;
     bool m_hasRecording = false;
 };

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "centre/replaybar.h"
+
+#include "model/replay.h"
+
+#include <guibase/services/guibase.h>
+
+#include <QAction>
+#include <QDoubleSpinBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QToolButton>
+
+#include <limits>
+
+namespace bandmonitor {
+
+ReplayBar::ReplayBar(Replay* replay, QWidget* parent)
+    : QWidget(parent)
+    , m_replay(replay)
+    , m_first(makeAction(tr("&First sweep"), Icon::ToStart, QKeySequence(Qt::CTRL | Qt::Key_Home)))
+    , m_back(makeAction(tr("Step &back"), Icon::Backward, QKeySequence(Qt::Key_Comma)))
+    , m_play(makeAction(tr("&Play"), Icon::Play, QKeySequence(Qt::Key_Space)))
+    , m_forward(makeAction(tr("Step f&orward"), Icon::Forward, QKeySequence(Qt::Key_Period)))
+    , m_slider(new QSlider(Qt::Horizontal, this))
+    , m_speed(new QDoubleSpinBox(this))
+    , m_time(new QLabel(this))
+{
+    buildLayout();
+    connect(m_first, &QAction::triggered, m_replay, [this] { m_replay->jump(0); });
+    connect(m_back, &QAction::triggered, m_replay, &Replay::stepBackward);
+    connect(m_play, &QAction::triggered, m_replay, &Replay::toggle);
+    connect(m_forward, &QAction::triggered, m_replay, &Replay::stepForward);
+    connect(m_slider, &QSlider::valueChanged, this, &ReplayBar::jumpTo);
+    connect(m_speed, &QDoubleSpinBox::valueChanged, m_replay, &Replay::setSpeed);
+    connect(m_replay, &Replay::playingChanged, this, &ReplayBar::showPlaying);
+    connect(m_replay, &Replay::positionChanged, this, &ReplayBar::showPosition);
+    connect(m_replay, &Replay::speedChanged, m_speed, &QDoubleSpinBox::setValue);
+    refresh();
+}
+
+ReplayBar::~ReplayBar() = default;
+
+QAction* ReplayBar::makeAction(const QString& text, Icon picture, const QKeySequence& key)
+{
+    auto* action = new QAction(makeIcon(picture), text, this);
+    action->setShortcut(key);
+    return action;
+}
+
+void ReplayBar::buildLayout()
+{
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(6, 3, 6, 3);
+    for (QAction* action : {m_first, m_back, m_play, m_forward}) {
+        auto* button = new QToolButton(this);
+        button->setDefaultAction(action);
+        button->setAutoRaise(true);
+        row->addWidget(button);
+    }
+    m_slider->setAccessibleName(tr("Sweep"));
+    m_slider->setToolTip(tr("Current sweep"));
+    row->addWidget(m_slider, 1);
+    row->addWidget(m_time);
+    auto* speedLabel = new QLabel(tr("&Speed"), this);
+    speedLabel->setBuddy(m_speed);
+    row->addSpacing(8);
+    row->addWidget(speedLabel);
+    m_speed->setRange(slowest, fastest);
+    m_speed->setDecimals(1);
+    m_speed->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
+    m_speed->setSuffix(QStringLiteral(" ×"));
+    m_speed->setKeyboardTracking(false);
+    m_speed->setValue(m_replay->speed());
+    m_speed->setToolTip(tr("Replay speed, 0.1 to 100 times as fast as recorded"));
+    row->addWidget(m_speed);
+}
+
+void ReplayBar::refresh()
+{
+    const qsizetype count = m_replay->count();
+    const bool any = count > 0;
+    {
+        const QSignalBlocker blocker(m_slider);
+        constexpr qsizetype limit = std::numeric_limits<int>::max();
+        m_slider->setRange(0, static_cast<int>(std::clamp<qsizetype>(count - 1, 0, limit)));
+        m_slider->setPageStep(std::max(m_slider->maximum() / 10, 1));
+    }
+    m_slider->setEnabled(any);
+    for (QAction* action : {m_first, m_back, m_play, m_forward})
+        action->setEnabled(any);
+    showPlaying(m_replay->isPlaying());
+    showPosition();
+}
+
+void ReplayBar::showPlaying(bool playing)
+{
+    m_play->setText(playing ? tr("&Pause") : tr("&Play"));
+    m_play->setIcon(makeIcon(playing ? Icon::Pause : Icon::Play));
+}
+
+void ReplayBar::showPosition()
+{
+    const qsizetype position = m_replay->position();
+    const QSignalBlocker blocker(m_slider);
+    m_slider->setValue(static_cast<int>(std::max<qsizetype>(position, 0)));
+    if (position < 0) {
+        m_time->setText(QStringLiteral("–"));
+        return;
+    }
+    quint64 timeUs = m_replay->sweep().timeUs;
+    GuiBase& services = GuiBase::Instance();
+    const QString zone = services.GetTimeZoneValue() == 0 ? tr("UTC") : tr("local");
+    m_time->setText(QStringLiteral("%1 %2").arg(
+        services.TimeString(timeUs, QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz")), zone));
+}
+
+void ReplayBar::jumpTo(int index)
+{
+    if (index != m_replay->position())
+        m_replay->jump(index);
+}
+
+} // namespace bandmonitor

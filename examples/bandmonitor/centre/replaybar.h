@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "panels/icons.h"
+
+#include <QWidget>
+
+class QAction;
+class QDoubleSpinBox;
+class QLabel;
+class QSlider;
+
+namespace bandmonitor {
+
+class Replay;
+
+/// The controls of a replay in one line: play and pause, steps, speed, position and time. It
+/// follows the replay whoever changes it.
+class ReplayBar : public QWidget
+{
+    Q_OBJECT
+public:
+    static constexpr double slowest = 0.1;
+    static constexpr double fastest = 100;
+
+    /// The replay must outlive the bar.
+    ReplayBar(Replay* replay, QWidget* parent);
+    ~ReplayBar() override;
+
+    /// For menus and shortcuts; owned by the bar.
+    QAction* playAction() const { return m_play; }
+    QAction* backAction() const { return m_back; }
+    QAction* forwardAction() const { return m_forward; }
+    QAction* firstAction() const { return m_first; }
+
+public Q_SLOTS:
+    /// The recording has changed, or the way in which times are written.
+    void refresh();
+
+private:
+    QAction* makeAction(const QString& text, Icon picture, const QKeySequence& key);
+    void buildLayout();
+    void showPlaying(bool playing);
+    void showPosition();
+    void jumpTo(int index);
+
+    Replay* m_replay;
+    QAction* m_first;
+    QAction* m_back;
+    QAction* m_play;
+    QAction* m_forward;
+    QSlider* m_slider;
+    QDoubleSpinBox* m_speed;
+    QLabel* m_time;
+};
+
+} // namespace bandmonitor

@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: MIT
+#include "docks/paneldocks.h"
+
+#include "panels/panel.h"
+
+#include <guibase/docks/active/activedockwidgetsupport.h>
+#include <guibase/docks/areas/tabifysupport.h>
+#include <guibase/docks/areas/tilesupport.h>
+#include <guibase/docks/autohide/autohidesupport.h>
+#include <guibase/docks/dockwidgetconfigurator.h>
+#include <guibase/docks/dockwidgethelpers.h>
+#include <guibase/docks/enhanceddockwidgettitlebar.h>
+#include <guibase/docks/mainwindowconfigurator.h>
+#include <guibase/docks/mainwindowhelpers.h>
+#include <guibase/services/guibase.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QPointer>
+#include <QTabBar>
+
+using QDockWidgetHelpers::DockWidgetConfigurator;
+using QMainWindowHelpers::ActiveDockWidgetSupport;
+using QMainWindowHelpers::AutoHideSupport;
+using QMainWindowHelpers::MainWindowConfigurator;
+using QMainWindowHelpers::TabifySupport;
+using QMainWindowHelpers::TileSupport;
+
+namespace bandmonitor {
+
+namespace {
+
+QString storageName(Mode mode)
+{
+    return QStringLiteral("BandmonitorMode%1").arg(static_cast<int>(mode));
+}
+
+/// The side of the dock's area. At the bottom the place decides; behind another tab there is none.
+Qt::ToolBarArea hidingSide(const QMainWindow& window, const QDockWidget& dock,
+                           QFlags<Qt::ToolBarArea> areas)
+{
+    const Qt::ToolBarArea side =
+        AutoHideSupport::selectToolBarAreaByDockWidgetArea(window, dock, areas);
+    return areas.testFlag(side)
+               ? side
+               : AutoHideSupport::selectToolBarAreaByDockWidgetScreenPosition(window, dock, areas);
+}
+
+void resizeAll(QMainWindow& window, const QList<QDockWidget*>& docks, const QList<QSize>& sizes)
+{
+    QList<int> widths;
+    QList<int> heights;
+    for (const QSize& size : sizes) {
+        widths << size.width();
+        heights << size.height();
+    }
+    window.resizeDocks(docks, widths, Qt::Horizontal);
+    window.resizeDocks(docks, heights, Qt::Vertical);
+}
+
+} // namespace
+
+PanelDocks::PanelDocks(QMainWindow& window)
+    : QObject(&window)
+    , m_window(window)
+{
+    MainWindowConfigurator()
+        .withActiveDockWidgetSupport(true)
+        .withAutoHideSupport(MainWindowConfigurator::DefaultAutoHideSupportToolBarAreas)
+        .withDockOptions(QMainWindow::AllowTabbedDocks | QMainWindow::AllowNestedDocks)
+        .withTabifySupport(MainWindowConfigurator::DefaultTabifySupportDockWidgetAreas)
+        .withTileSupport(MainWindowConfigurator::DefaultTileSupportDockWidgetAreas)
+        .withTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North)
+        .configure(window);
+    m_autoHide = AutoHideSupport::get(window);
+    m_autoHide->setSelectToolBarAreaFn(&hidingSide);
+    m_nothingHides = m_autoHide->saveState();
+    m_autoHideAtStart.fill(m_nothingHides);
+    connect(ActiveDockWidgetSupport::get(window), &ActiveDockWidgetSupport::activeDockWidgetChanged,
+            this, &PanelDocks::markActive);
+    m_activateFront.setSingleShot(true);
+    connect(&m_activateFront, &QTimer::timeout, this, &PanelDocks::activateFront);
+}
+
+PanelDocks::~PanelDocks() = default;
+
+void PanelDocks::add(const PanelRow& row)
+{
+    row.panel->setObjectName(row.name);
+    row.panel->setWindowTitle(QString(row.title).remove(QLatin1Char('&')));
+    if (!row.icon.isNull())
+        row.panel->setWindowIcon(row.icon);
+    QDockWidget* dock = QDockWidgetHelpers::makeDockWidgetFrom(*row.panel);
+    dock->setParent(&m_window);
+    m_rows.push_back(row);
+    m_docks << dock;
+    m_window.addDockWidget(row.places.front().area, dock);
+
+    DockWidgetConfigurator()
+        .includeActionsFrom(TabifySupport::get(m_window))
+        .includeActionsFrom(TileSupport::get(m_window))
+        .withAutoHideSupport(true)
+        .withMaximizeSupport(true)
+        .withMinimizeSupport(true)
+        .configure(*dock);
+    dock->toggleViewAction()->setText(row.title);
+}
+
+QList<Panel*> PanelDocks::panels() const
+{
+    QList<Panel*> result;
+    for (const PanelRow& row : m_rows)
+        result << row.panel;
+    return result;
+}
+
+QDockWidget* PanelDocks::dock(const QString& name) const
+{
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (m_rows[i].name == name)
+            return m_docks[static_cast<int>(i)];
+    }
+    return nullptr;
+}
+
+QDockWidget* PanelDocks::activeDock() const
+{
+    return ActiveDockWidgetSupport::get(m_window)->activeDockWidget();
+}
+
+void PanelDocks::markActive(QDockWidget* active)
+{
+    for (QDockWidget* dock : m_docks) {
+        if (auto* bar = qobject_cast<EnhancedDockWidgetTitleBar*>(dock->titleBarWidget()))
+            bar->setActive(dock == active);
+    }
+}
+
+void PanelDocks::activateFront()
+{
+    QDockWidget* active = activeDock();
+    if (active == nullptr)
+        return;
+    const QList<QDockWidget*> beside = m_window.tabifiedDockWidgets(active);
+    const QList<QTabBar*> bars =
+        QMainWindowHelpers::tabBarsInDockWidgetArea(m_window, m_window.dockWidgetArea(active));
+    for (const QTabBar* bar : bars) {
+        QDockWidget* front = QMainWindowHelpers::findParentDockWidget(*bar, &m_window);
+        if (!beside.contains(front))
+            continue;
+        // The focus stays where the user left it.
+        const QPointer<QWidget> focus = QApplication::focusWidget();
+        ActiveDockWidgetSupport::get(m_window)->bringToFront(*front);
+        if (focus)
+            focus->setFocus();
+        return;
+    }
+}
+
+// --- Layouts -------------------------------------------------------------------------------------
+
+void PanelDocks::arrange(Mode mode)
+{
+    std::map<Qt::DockWidgetArea, QDockWidget*> lastOfArea;
+    QList<QDockWidget*> shown;
+    QList<QSize> sizes;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const PanelPlace& place = forMode(m_rows[i].places, mode);
+        QDockWidget* dock = m_docks[static_cast<int>(i)];
+        QDockWidget*& last = lastOfArea[place.area];
+        dock->hide();
+        dock->setFloating(false);
+        m_window.addDockWidget(place.area, dock);
+        if (place.shown == PanelPlace::Tabbed && last != nullptr)
+            m_window.tabifyDockWidget(last, dock);
+        else if (place.shown == PanelPlace::Beside) {
+            shown << dock;
+            sizes << place.size;
+        }
+        if (place.shown != PanelPlace::Hidden)
+            last = dock;
+    }
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        m_docks[static_cast<int>(i)]->setVisible(forMode(m_rows[i].places, mode).shown !=
+                                                 PanelPlace::Hidden);
+    for (QDockWidget* dock : shown)
+        dock->raise();
+    resizeAll(m_window, shown, sizes);
+}
+
+void PanelDocks::announce(Mode current)
+{
+    GuiBase& services = GuiBase::Instance();
+    const QByteArray kept = m_window.saveState();
+    for (const Mode mode : allModes) {
+        arrange(mode);
+        services.storeFactoryDefaultWidgets(static_cast<long>(mode));
+    }
+    m_window.restoreState(kept);
+    // The services know the layout that a mode has at program start once it was shown.
+    for (const Mode mode : allModes) {
+        show(mode, nullptr);
+        m_autoHideAtStart[static_cast<std::size_t>(mode)] = m_autoHide->saveState();
+    }
+    show(current, nullptr);
+}
+
+void PanelDocks::showProgramStart(Mode mode)
+{
+    show(mode, &forMode(m_autoHideAtStart, mode));
+}
+
+void PanelDocks::showFactory(Mode mode)
+{
+    show(mode, &m_nothingHides);
+    arrange(mode);
+    GuiBase::Instance().storeFactoryDefaultWidgets(static_cast<long>(mode));
+}
+
+void PanelDocks::showMode(Mode mode)
+{
+    show(mode, nullptr);
+}
+
+void PanelDocks::show(Mode mode, const QByteArray* autoHide)
+{
+    m_activateFront.start();        // once the active dock is found for what is hidden now
+    m_autoHide->setStorageName({}); // what follows is no wish of the user
+    GuiBase::Instance().setMode(static_cast<long>(mode));
+    const QByteArray layout = m_window.saveState();
+    // Docks that hid themselves in the former mode come out, and go where this mode has them.
+    if (m_autoHide->saveState() != m_nothingHides) {
+        m_autoHide->restoreState(m_nothingHides);
+        m_window.restoreState(layout);
+    }
+    m_autoHide->setStorageName(storageName(mode));
+    if (autoHide == nullptr || m_autoHide->saveState() == *autoHide)
+        return;
+    m_autoHide->restoreState(*autoHide);
+    m_window.restoreState(layout);
+}
+
+} // namespace bandmonitor

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "docks/mode.h"
+
+#include <QByteArray>
+#include <QIcon>
+#include <QList>
+#include <QObject>
+#include <QSize>
+#include <QString>
+#include <QTimer>
+
+#include <vector>
+
+class QDockWidget;
+class QMainWindow;
+
+namespace QMainWindowHelpers {
+class AutoHideSupport;
+}
+
+namespace bandmonitor {
+
+class Panel;
+
+/// Where a panel stands in the factory layout of a mode.
+struct PanelPlace
+{
+    enum Shown {
+        Hidden,
+        Beside, ///< Beside, or in a side area below, the panels before it in its area.
+        Tabbed, ///< Behind the panel before it in its area.
+    };
+
+    Qt::DockWidgetArea area = Qt::BottomDockWidgetArea;
+    Shown shown = Hidden;
+    /// In pixels. Along its area a panel gets a share in proportion to the others beside it.
+    QSize size;
+};
+
+/// One row of the table of panels.
+struct PanelRow
+{
+    QString name;  ///< Kept in the configuration; no blanks.
+    QString title; ///< With the mnemonic of its menu entry.
+    QIcon icon;
+    Panel* panel; ///< Goes into the dock.
+    PerMode<PanelPlace> places;
+};
+
+/// The docks around the centre of the main window, a panel in each one: docks that the user can
+/// move, tab, tile, float, maximize and hide automatically, with a layout per mode. Owned by the
+/// main window.
+class PanelDocks : public QObject
+{
+    Q_OBJECT
+public:
+    /// Sets the window up for docks.
+    explicit PanelDocks(QMainWindow& window);
+    ~PanelDocks() override;
+
+    /// The order of the calls is that of menus, and of panels in an area. A row that is added here
+    /// is all that a new panel needs.
+    void add(const PanelRow& row);
+    /// Factory layout of the mode, for a window that was not announced yet.
+    void arrange(Mode mode);
+    /// Tells the services the factory layouts of all modes and shows what was kept for this one.
+    /// Once the window is registered, at every start: factory layouts are not kept.
+    void announce(Mode current);
+    /// Shows the docks as they were in the mode last.
+    void showMode(Mode mode);
+    /// Once the services have brought back the dock layouts at program start: shows that of the
+    /// mode, and brings back what hides itself.
+    void showProgramStart(Mode mode);
+    /// The same for the factory layout, whatever size the window had when that was announced.
+    void showFactory(Mode mode);
+
+    QMainWindow& window() const { return m_window; }
+    /// In the order of the rows.
+    QList<Panel*> panels() const;
+    /// The docks, in the order of the panels.
+    const QList<QDockWidget*>& docks() const { return m_docks; }
+    /// Null without a panel of this name.
+    QDockWidget* dock(const QString& name) const;
+    /// The dock that the user last worked in, or null.
+    QDockWidget* activeDock() const;
+
+private:
+    void markActive(QDockWidget* active);
+    /// Behind another tab nobody sees which dock is the active one: the one in front takes over.
+    void activateFront();
+    /// With `autoHide` that is put in the place of what was kept.
+    void show(Mode mode, const QByteArray* autoHide);
+
+    QMainWindow& m_window;
+    std::vector<PanelRow> m_rows;
+    QList<QDockWidget*> m_docks;
+    QMainWindowHelpers::AutoHideSupport* m_autoHide;
+    QByteArray m_nothingHides;
+    PerMode<QByteArray> m_autoHideAtStart;
+    QTimer m_activateFront;
+};
+
+} // namespace bandmonitor

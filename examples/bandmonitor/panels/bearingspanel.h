@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "panels/panel.h"
+
+class QLabel;
+
+namespace bandmonitor {
+
+class BearingRose;
+class Bearings;
+class HeadingSpinBox;
+
+/// The compass rose of the bearings with the heading and what is known of the selected signal. It
+/// says that the bearings are simulated.
+class BearingsPanel : public Panel
+{
+    Q_OBJECT
+public:
+    /// The bearings may go before the panel, which is empty then.
+    explicit BearingsPanel(const Bearings* bearings, QWidget* parent = nullptr);
+    ~BearingsPanel() override;
+
+    BearingRose& rose() { return *m_rose; }
+    HeadingSpinBox& heading() { return *m_heading; }
+    /// Heading up, else north up.
+    QList<QAction*> keyActions() const override { return {m_headingUp}; }
+
+public Q_SLOTS:
+    void refreshTexts() override;
+
+private:
+    BearingRose* m_rose;
+    HeadingSpinBox* m_heading;
+    QAction* m_headingUp;
+    QLabel* m_readOut;
+};
+
+} // namespace bandmonitor

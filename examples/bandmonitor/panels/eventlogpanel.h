@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/eventlog.h"
+#include "panels/panel.h"
+
+#include <QPointer>
+#include <QTimer>
+
+#include <chrono>
+#include <deque>
+#include <optional>
+
+class QLabel;
+class QLineEdit;
+class QTreeWidgetItem;
+class SortListView;
+class SortListViewItem;
+
+namespace bandmonitor {
+
+/// The events of a log as a list that can be filtered, copied and saved.
+///
+/// New events are taken over together: while they come fast the list rests in between, and while it
+/// is hidden it does nothing. As long as the list is scrolled to its end it follows the end.
+class EventLogPanel : public Panel
+{
+    Q_OBJECT
+public:
+    enum Column { Time, Kind, Text, ColumnCount };
+
+    /// The log may go before the panel, which is empty then.
+    explicit EventLogPanel(EventLog* log, QWidget* parent = nullptr);
+    ~EventLogPanel() override;
+
+    SortListView& list() { return *m_list; }
+    /// The time between two updates of the list; 200 ms by default.
+    void setUpdateInterval(std::chrono::milliseconds interval);
+    /// Shows the events only that have the text in one of their columns, in any case.
+    void setFilter(const QString& text);
+    /// The selected rows as shown, or all when none is: one a line, columns with tabs in between.
+    QString text() const;
+    /// Writes all shown events; nothing, else what went wrong, for the user.
+    std::optional<QString> saveTo(const QString& path) const;
+    /// Copy, Save, Clear and Find.
+    QList<QAction*> keyActions() const override { return m_actions; }
+
+public Q_SLOTS:
+    void refreshTexts() override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    struct Row
+    {
+        quint64 number;
+        SortListViewItem* item; ///< Belongs to the list.
+    };
+
+    void buildList();
+    void buildActions();
+    void refresh();
+    void update();
+    void rebuild();
+    void removeGone();
+    void appendNew();
+    bool matches(const Event& event) const;
+    SortListViewItem* makeItem(const Event& event) const;
+    QString lineOf(const QTreeWidgetItem& row) const;
+    void copy() const;
+    void save();
+    void showCount();
+
+    QPointer<EventLog> m_log;
+    SortListView* m_list;
+    QLineEdit* m_filter;
+    QLabel* m_count;
+    QList<QAction*> m_actions;
+    QTimer m_rest;
+    std::deque<Row> m_rows; ///< In the order of the events, those that match only.
+    quint64 m_next = 0;     ///< The first event that was not looked at.
+    bool m_isStale = false;
+    bool m_followsEnd = true;
+};
+
+} // namespace bandmonitor

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "panels/panel.h"
+#include "radiopanes/core/levelline.h"
+#include "radiopanes/frequencytext.h"
+
+#include <QTimer>
+
+#include <vector>
+
+class QAction;
+class QTableWidgetItem;
+class SortRowTable;
+
+namespace bandmonitor {
+
+/// The table of reference levels with its buttons. Frequencies are shown in the application's unit,
+/// whatever was typed; a row that cannot be read is marked and does not count. The rows are kept in
+/// the configuration, those that cannot be read as well.
+class LevelsPanel : public Panel
+{
+    Q_OBJECT
+public:
+    explicit LevelsPanel(QWidget* parent = nullptr);
+    ~LevelsPanel() override;
+
+    SortRowTable& table() { return *m_table; }
+    /// The rows that can be read, in order of frequency.
+    const std::vector<LevelPoint>& points() const { return m_points; }
+    /// New, Delete and Clear.
+    QList<QAction*> keyActions() const override { return m_actions; }
+
+public Q_SLOTS:
+    void refreshTexts() override;
+
+Q_SIGNALS:
+    /// points() are others now.
+    void pointsChanged();
+
+private:
+    using Reader = std::optional<double> (*)(const QString& text);
+
+    void buildLayout();
+    void restoreRows();
+    void storeRows();
+    void clearAll();
+    /// Reads all rows after the present event: the table may change in many steps.
+    void scheduleRead();
+    void readRows();
+    /// Whether the cell holds a value; reads it when its text is another one than before.
+    bool readCell(QTableWidgetItem& cell, Reader reader);
+    void mark(QTableWidgetItem& cell, bool readable);
+
+    FrequencyText m_text;
+    SortRowTable* m_table;
+    QList<QAction*> m_actions;
+    QTimer m_readLater;
+    std::vector<LevelPoint> m_points;
+    bool m_isReading = false;
+};
+
+} // namespace bandmonitor

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "panels/panelactions.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QToolButton>
+
+namespace bandmonitor {
+
+QAction* addPanelAction(QWidget* pane, const QString& text, const QKeySequence& key,
+                        const QString& tip)
+{
+    auto* action = new QAction(text, pane);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    action->setToolTip(QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
+    pane->addAction(action);
+    return action;
+}
+
+QHBoxLayout* makeButtonRow(QWidget* pane, const QList<QAction*>& actions)
+{
+    auto* row = new QHBoxLayout;
+    for (QAction* action : actions) {
+        auto* button = new QToolButton(pane);
+        button->setDefaultAction(action);
+        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        button->setFocusPolicy(Qt::TabFocus);
+        row->addWidget(button);
+    }
+    row->addStretch(1);
+    return row;
+}
+
+} // namespace bandmonitor

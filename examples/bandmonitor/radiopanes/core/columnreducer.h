@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "levelrange.h"
+#include "sweep.h"
+
+#include <span>
+#include <vector>
+
+namespace bandmonitor {
+
+/// The frequencies that a row of pixels shows: column `c` of `n` covers `(highHz - lowHz) / n`
+/// from `lowHz + c * (highHz - lowHz) / n` on.
+struct ColumnView
+{
+    double lowHz = 0;
+    double highHz = 0;
+
+    bool operator==(const ColumnView&) const = default;
+};
+
+/// Puts into each column the lowest and highest level of the bins that touch it; columns without
+/// any become empty. Exact. The time follows the bins in view plus, per hop in view, the columns
+/// that it touches. An empty or reversed view, or one that is not finite, empties all columns.
+void reduceToColumns(const Sweep& sweep, const ColumnView& view, std::span<LevelRange> columns);
+
+/// Reduces one sweep to columns again and again, in a time that follows the number of columns
+/// and not that of the bins: it keeps lowest and highest levels of blocks of 8, 32, 128, ... bins.
+/// Build it once for each new sweep; it takes a third of the memory of the sweep's levels, and
+/// refers to the levels, which must outlive it (those of a SweepHistory do, as long as that lives).
+class LevelPyramid
+{
+public:
+    LevelPyramid();
+    explicit LevelPyramid(const Sweep& sweep);
+
+    /// As reduceToColumns(), but a column may also take in bins up to a quarter of a column
+    /// beside it. No level is ever lost.
+    void reduce(const ColumnView& view, std::span<LevelRange> columns) const;
+    /// The range of the whole sweep.
+    LevelRange levels() const { return m_levels; }
+
+private:
+    struct Hop
+    {
+        Segment segment;
+        std::vector<std::vector<LevelRange>> blocks; ///< blocks[k] of 8 * 4^k bins
+    };
+
+    std::vector<Hop> m_hops;
+    LevelRange m_levels;
+};
+
+} // namespace bandmonitor

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: MIT
+#include "centre/bandview.h"
+#include "radiopanes/panecolors.h"
+#include "radiopanes/spectrumpane.h"
+#include "radiopanes/waterfallpane.h"
+#include "support/guardedtest.h"
+
+#include <guibase/colors/colorset.h>
+#include <guibase/services/guibase.h>
+
+using namespace bandmonitor;
+
+namespace {
+
+constexpr double bandLow = 100e6;
+constexpr double binHz = 1e3;
+constexpr int bins = 1000;
+constexpr int sweeps = 40;
+
+/// Noise at -100 dB and one line at -20 dB, which moves up by one bin with each sweep.
+std::shared_ptr<const Recording> movingLine()
+{
+    auto recording = std::make_shared<Recording>();
+    for (int sweep = 0; sweep < sweeps; ++sweep) {
+        std::vector<float> levels(bins, -100.0F);
+        levels[static_cast<size_t>(500 + sweep)] = -20.0F;
+        const Segment segment{bandLow, binHz, 1, levels};
+        recording->append(static_cast<quint64>(sweep) * 1'000'000, {&segment, 1});
+    }
+    return recording;
+}
+
+double centreOfBin(int bin)
+{
+    return bandLow + (bin + 0.5) * binHz;
+}
+
+} // namespace
+
+class tst_BandView : public GuardedTest
+{
+    Q_OBJECT
+    std::unique_ptr<BandView> m_pane;
+
+    VisibleBand& visibleBand() { return m_pane->visibleBand(); }
+    int spectrumX(double hertz) { return int(m_pane->spectrum().positionOf(hertz)); }
+    QRgb waterfallPixel(double hertz, int line)
+    {
+        const int x = int(m_pane->waterfall().positionOf(hertz));
+        return m_pane->waterfall().grab().toImage().pixel(x, line * WaterfallPane::linePixels);
+    }
+
+    void prepare() override
+    {
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
+        m_pane = std::make_unique<BandView>();
+        m_pane->resize(1100, 500);
+        m_pane->setRecording(movingLine());
+        m_pane->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_pane.get()));
+        for (int sweep = 0; sweep < sweeps; ++sweep)
+            m_pane->showSweep(sweep, sweep - 1);
+        visibleBand().setCursor(bandLow);
+    }
+
+    void tidy() override { m_pane.reset(); }
+
+    void drag(Qt::MouseButton button, int from, int to)
+    {
+        QTest::mousePress(&m_pane->spectrum(), button, {}, QPoint(from, 50));
+        QTest::mouseMove(&m_pane->spectrum(), QPoint(to, 50));
+        QTest::mouseRelease(&m_pane->spectrum(), button, {}, QPoint(to, 50));
+    }
+
+private Q_SLOTS:
+    void readOutFollowsMouseAndKeys()
+    {
+        SpectrumPane& pane = m_pane->spectrum();
+        const double line = centreOfBin(500 + sweeps - 1);
+        visibleBand().zoom(12, line); // several pixels for each bin
+        QTest::mouseMove(&pane, QPoint(spectrumX(line), 50));
+        QVERIFY(pane.readOut().first().contains(QLatin1String("-20.0 dB")));
+        QTest::keyClick(&pane, Qt::Key_Right, Qt::ControlModifier);
+        QVERIFY(visibleBand().cursor() > line);
+        // The line of an earlier sweep is in the hold maximum only.
+        visibleBand().setCursor(centreOfBin(510));
+        QVERIFY(pane.readOut().first().contains(QLatin1String("-100.0 dB")));
+        QVERIFY(pane.readOut().first().contains(QLatin1String("hold -20.0 dB")));
+        m_pane->resetHold();
+        QVERIFY(!pane.readOut().first().contains(QLatin1String("-20.0 dB")));
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
+        QVERIFY(pane.readOut().first().contains(QLatin1String(" kHz")));
+    }
+
+    void clicksSetAndRemovePins()
+    {
+        SpectrumPane& pane = m_pane->spectrum();
+        QTest::mouseClick(&pane, Qt::LeftButton, {}, QPoint(300, 50));
+        QTest::mouseClick(&m_pane->waterfall(), Qt::LeftButton, {}, QPoint(600, 50));
+        QCOMPARE(visibleBand().pins().size(), 2u);
+        QCOMPARE(pane.readOut().size(), 3);
+        QTest::mouseClick(&pane, Qt::LeftButton, {}, QPoint(300 + BandPane::pinReach - 1, 50));
+        QCOMPARE(visibleBand().pins().size(), 1u);
+        QVERIFY(std::abs(pane.positionOf(visibleBand().pins().front()) - 600) < 1);
+        // A drag moves the view and sets no pin.
+        visibleBand().zoom(4, centreOfBin(500));
+        const double low = visibleBand().low();
+        drag(Qt::LeftButton, 300, 400);
+        QVERIFY(visibleBand().low() < low);
+        QCOMPARE(visibleBand().pins().size(), 1u);
+    }
+
+    void viewStaysInTheBand()
+    {
+        const double span = visibleBand().bandHigh() - visibleBand().bandLow();
+        visibleBand().zoom(1e9, bandLow);
+        QVERIFY(visibleBand().high() - visibleBand().low() >= binHz);
+        visibleBand().pan(-1e9);
+        QCOMPARE(visibleBand().low(), bandLow);
+        visibleBand().pan(1e12);
+        QCOMPARE(visibleBand().high(), visibleBand().bandHigh());
+        visibleBand().stepCursor(-100000, 10);
+        QVERIFY(visibleBand().cursor() >= visibleBand().low() &&
+                visibleBand().cursor() <= visibleBand().high());
+        visibleBand().zoom(std::nan(""), 0);
+        visibleBand().setVisible(visibleBand().bandHigh() + 1, visibleBand().bandHigh() + 2);
+        QVERIFY(visibleBand().high() <= visibleBand().bandHigh());
+        visibleBand().zoom(1e-9, bandLow);
+        QCOMPARE(visibleBand().high() - visibleBand().low(), span);
+        drag(Qt::RightButton, 200, 100);
+        QVERIFY(visibleBand().high() - visibleBand().low() < span / 2);
+    }
+
+    void waterfallShowsTheSweepsUpToTheCurrentOne()
+    {
+        WaterfallPane& pane = m_pane->waterfall();
+        const QRgb loud = pane.colorOf(-20);
+        const auto lineAtTop = [&](int newest) {
+            visibleBand().setVisible(centreOfBin(470), centreOfBin(560));
+            for (int line = 0; line < 20; ++line) {
+                QCOMPARE(waterfallPixel(centreOfBin(500 + newest - line), line), loud);
+                QVERIFY(waterfallPixel(centreOfBin(505 + newest - line), line) != loud);
+            }
+        };
+        lineAtTop(sweeps - 1);
+        QCOMPARE(pane.sweepAt(sweeps * WaterfallPane::linePixels), -1);
+        m_pane->showSweep(24, -1);
+        lineAtTop(24);
+        m_pane->showSweep(30, 24);
+        lineAtTop(30);
+        // Resizing keeps what was shown; a pane lower than its history wraps around.
+        m_pane->resize(800, 200);
+        lineAtTop(30);
+        for (int sweep = 31; sweep < sweeps; ++sweep)
+            m_pane->showSweep(sweep, sweep - 1);
+        m_pane->resize(1200, 600);
+        lineAtTop(sweeps - 1);
+    }
+
+    void coloursAreTakenAnew()
+    {
+        const QRgb before = m_pane->waterfall().colorOf(-100);
+        ColorSet& colors = ColorSet::Instance();
+        colors.SetColor(IColorBase::DrawPaneBackgroundLow, QColor(Qt::blue), true);
+        QVERIFY(m_pane->waterfall().colorOf(-100) != before);
+        QCOMPARE(waterfallPixel(centreOfBin(10), 3), QColor(Qt::blue).rgb());
+        m_pane->setHoldVisible(false);
+        const QImage spectrum = m_pane->spectrum().grab().toImage();
+        QVERIFY(spectrum.pixelColor(20, spectrum.height() - 3).blue() > 240); // end of a gradient
+        const auto corner = [this] { return m_pane->grab().toImage().pixelColor(0, 0); };
+        const QColor dark(40, 40, 40);
+        m_pane->setPalette(QPalette(dark, dark));
+        QCOMPARE(corner(), paneColor(PaneSlot::LevelAxisBackground)); // the user's set
+        colors.slotRestoreFactoryColors();
+        QCOMPARE(corner(), dark);
+        m_pane->setPalette(QPalette());
+        QCOMPARE(corner(), paneColor(PaneSlot::LevelAxisBackground));
+        GuiBase::Instance().emit_signalColorsChanged();
+        QCOMPARE(m_pane->waterfall().colorOf(-100), before);
+    }
+};
+
+QTEST_MAIN(tst_BandView)
+#include "tst_bandview.moc"
