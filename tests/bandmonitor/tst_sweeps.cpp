@@ -15,7 +15,7 @@ using namespace bandmonitor;
 
 /// What is worked out from the levels of sweeps: columns of pixels, held maxima, the level at the
 /// cursor; and the memory that a recording takes for them.
-class TestSweeps : public GuardedTest
+class tst_Sweeps : public GuardedTest
 {
     Q_OBJECT
 
@@ -74,10 +74,13 @@ private Q_SLOTS:
             reduceToColumns(sweep, view, columns);
             std::vector<LevelRange> fast(columns.size());
             LevelPyramid(sweep).reduce(view, fast);
+            std::vector<float> maxima(columns.size());
+            LevelPyramid(sweep).reduceMaxima(view, maxima);
 
             const double width = (view.highHz - view.lowHz) / static_cast<double>(columns.size());
             for (std::size_t column = 0; column < columns.size(); ++column) {
                 const double columnLow = view.lowHz + static_cast<double>(column) * width;
+                QCOMPARE(maxima[column], fast[column].maximum);
                 LevelRange exact;
                 LevelRange widest;
                 for (const Segment& segment : sweep.segments) {
@@ -149,5 +152,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSweeps)
+QTEST_GUILESS_MAIN(tst_Sweeps)
 #include "tst_sweeps.moc"

@@ -110,12 +110,12 @@ void WaterfallPane::drawLine(qsizetype sweep)
     if (!pyramid && bins * lineCount() <= largestPyramidHistory)
         pyramid = std::make_shared<LevelPyramid>(m_history->sweep(sweep));
     if (pyramid)
-        pyramid->reduce(columns, m_columns);
+        pyramid->reduceMaxima(columns, m_columns);
     else
-        reduceToColumns(m_history->sweep(sweep), columns, m_columns);
+        reduceToMaxima(m_history->sweep(sweep), columns, m_columns);
     auto* pixel = reinterpret_cast<QRgb*>(m_image.scanLine(imageRow(sweep)));
-    for (const LevelRange& column : m_columns)
-        *pixel++ = column.isEmpty() ? m_ramp.front() : colorOf(column.maximum);
+    for (const float maximum : m_columns)
+        *pixel++ = colorOf(maximum);
 }
 
 QRgb WaterfallPane::colorOf(float level) const

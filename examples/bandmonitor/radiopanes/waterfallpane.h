@@ -76,7 +76,7 @@ private:
     ColorRamp m_ramp;
     QImage m_image; ///< One row per line; sweep i in row lineCount() - 1 - i % lineCount().
     std::vector<std::shared_ptr<const LevelPyramid>> m_pyramids; ///< Beside the rows of the image.
-    std::vector<LevelRange> m_columns;
+    std::vector<float> m_columns; ///< The highest levels.
 };
 
 } // namespace bandmonitor

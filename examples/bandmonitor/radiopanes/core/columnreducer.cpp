@@ -8,16 +8,50 @@ namespace bandmonitor {
 
 namespace {
 
-constexpr std::size_t baseBlock = 8;
-constexpr std::size_t blockFactor = 4;
+// Powers of two, so that a block is found by a shift instead of a division.
+constexpr unsigned baseShift = 3;
+constexpr unsigned factorShift = 2;
+constexpr std::size_t baseBlock = std::size_t{1} << baseShift;
+constexpr std::size_t blockFactor = std::size_t{1} << factorShift;
 
-template <typename Value>
-LevelRange rangeOfValues(std::span<const Value> values)
+constexpr float noMaximum = -std::numeric_limits<float>::infinity();
+
+float maximumOf(std::span<const float> levels)
+{
+    float maximum = noMaximum;
+    for (const float level : levels)
+        maximum = level > maximum ? level : maximum;
+    return maximum;
+}
+
+LevelRange rangeOfBlocks(std::span<const float> minima, std::span<const float> maxima)
 {
     LevelRange range;
-    for (const Value& value : values)
-        range.add(value);
+    for (std::size_t i = 0; i < minima.size(); ++i)
+        range.add(LevelRange{minima[i], maxima[i]});
     return range;
+}
+
+// A column takes in levels as a range, or as their maximum alone.
+
+void addLevels(LevelRange& column, std::span<const float> levels)
+{
+    column.add(rangeOf(levels));
+}
+
+void addLevels(float& column, std::span<const float> levels)
+{
+    column = std::max(column, maximumOf(levels));
+}
+
+void addBlocks(LevelRange& column, std::span<const float> minima, std::span<const float> maxima)
+{
+    column.add(rangeOfBlocks(minima, maxima));
+}
+
+void addBlocks(float& column, std::span<const float>, std::span<const float> maxima)
+{
+    column = std::max(column, maximumOf(maxima));
 }
 
 /// The bins of a segment that each column of a view touches.
@@ -65,13 +99,11 @@ private:
     std::size_t m_endColumn = 0;
 };
 
-/// Empties the columns; false when nothing can be seen in the view.
-bool beginColumns(const ColumnView& view, std::span<LevelRange> columns)
+/// False when nothing can be seen in the view.
+bool isVisible(const ColumnView& view, std::size_t columns)
 {
-    std::fill(columns.begin(), columns.end(), LevelRange());
     const double width = view.highHz - view.lowHz;
-    return !columns.empty() && std::isfinite(width) &&
-           width / static_cast<double>(columns.size()) > 0;
+    return columns > 0 && std::isfinite(width) && width / static_cast<double>(columns) > 0;
 }
 
 bool isInView(const Segment& segment, const ColumnView& view)
@@ -79,23 +111,37 @@ bool isInView(const Segment& segment, const ColumnView& view)
     return segment.startHz < view.highHz && segment.endHz() > view.lowHz;
 }
 
-void reduceExactly(const Segment& segment, const ColumnBins& bins, std::span<LevelRange> columns)
+template <typename Column>
+void reduceExactly(const Segment& segment, const ColumnBins& bins, std::span<Column> columns)
 {
     bins.forEach([&](std::size_t column, std::size_t first, std::size_t end) {
-        columns[column].add(rangeOf(segment.levels.subspan(first, end - first)));
+        addLevels(columns[column], segment.levels.subspan(first, end - first));
     });
+}
+
+template <typename Column>
+void reduceAll(const Sweep& sweep, const ColumnView& view, std::span<Column> columns)
+{
+    if (!isVisible(view, columns.size()))
+        return;
+    for (const Segment& segment : sweep.segments) {
+        if (isInView(segment, view))
+            reduceExactly(segment, ColumnBins(segment, view, columns.size()), columns);
+    }
 }
 
 } // namespace
 
 void reduceToColumns(const Sweep& sweep, const ColumnView& view, std::span<LevelRange> columns)
 {
-    if (!beginColumns(view, columns))
-        return;
-    for (const Segment& segment : sweep.segments) {
-        if (isInView(segment, view))
-            reduceExactly(segment, ColumnBins(segment, view, columns.size()), columns);
-    }
+    std::fill(columns.begin(), columns.end(), LevelRange());
+    reduceAll(sweep, view, columns);
+}
+
+void reduceToMaxima(const Sweep& sweep, const ColumnView& view, std::span<float> columns)
+{
+    std::fill(columns.begin(), columns.end(), noMaximum);
+    reduceAll(sweep, view, columns);
 }
 
 LevelPyramid::LevelPyramid() = default;
@@ -106,21 +152,18 @@ LevelPyramid::LevelPyramid(const Sweep& sweep)
     for (const Segment& segment : sweep.segments) {
         Hop& hop = m_hops.emplace_back();
         hop.segment = segment;
-        std::vector<LevelRange> blocks;
+        Blocks blocks;
         blocks.reserve(segment.levels.size() / baseBlock + 1);
         for (std::size_t at = 0; at < segment.levels.size(); at += baseBlock) {
             const std::size_t size = std::min(baseBlock, segment.levels.size() - at);
-            blocks.push_back(rangeOfValues(segment.levels.subspan(at, size)));
+            LevelRange range;
+            for (const float level : segment.levels.subspan(at, size))
+                range.add(level);
+            blocks.add(range);
         }
-        m_levels.add(rangeOfValues(std::span<const LevelRange>(blocks)));
-        while (blocks.size() > blockFactor) {
-            std::vector<LevelRange> coarser;
-            coarser.reserve(blocks.size() / blockFactor + 1);
-            for (std::size_t at = 0; at < blocks.size(); at += blockFactor) {
-                const std::size_t size = std::min(blockFactor, blocks.size() - at);
-                coarser.push_back(
-                    rangeOfValues(std::span<const LevelRange>(blocks).subspan(at, size)));
-            }
+        m_levels.add(rangeOfBlocks(blocks.minima, blocks.maxima));
+        while (blocks.maxima.size() > blockFactor) {
+            Blocks coarser = blocks.coarser();
             hop.blocks.push_back(std::move(blocks));
             blocks = std::move(coarser);
         }
@@ -128,9 +171,34 @@ LevelPyramid::LevelPyramid(const Sweep& sweep)
     }
 }
 
-void LevelPyramid::reduce(const ColumnView& view, std::span<LevelRange> columns) const
+void LevelPyramid::Blocks::reserve(std::size_t count)
 {
-    if (!beginColumns(view, columns))
+    minima.reserve(count);
+    maxima.reserve(count);
+}
+
+void LevelPyramid::Blocks::add(const LevelRange& range)
+{
+    minima.push_back(range.minimum);
+    maxima.push_back(range.maximum);
+}
+
+LevelPyramid::Blocks LevelPyramid::Blocks::coarser() const
+{
+    Blocks result;
+    result.reserve(maxima.size() / blockFactor + 1);
+    for (std::size_t at = 0; at < maxima.size(); at += blockFactor) {
+        const std::size_t size = std::min(blockFactor, maxima.size() - at);
+        result.add(rangeOfBlocks(std::span(minima).subspan(at, size),
+                                 std::span(maxima).subspan(at, size)));
+    }
+    return result;
+}
+
+template <typename Column>
+void LevelPyramid::reduceTo(const ColumnView& view, std::span<Column> columns) const
+{
+    if (!isVisible(view, columns.size()))
         return;
     for (const Hop& hop : m_hops) {
         if (!isInView(hop.segment, view))
@@ -142,19 +210,32 @@ void LevelPyramid::reduce(const ColumnView& view, std::span<LevelRange> columns)
             continue;
         }
         std::size_t level = 0;
-        std::size_t block = baseBlock;
+        unsigned shift = baseShift;
         while (level + 1 < hop.blocks.size() &&
-               static_cast<double>(block * blockFactor) <= largestBlock) {
+               static_cast<double>(std::size_t{1} << (shift + factorShift)) <= largestBlock) {
             ++level;
-            block *= blockFactor;
+            shift += factorShift;
         }
-        const std::span<const LevelRange> blocks(hop.blocks[level]);
+        const std::span<const float> minima(hop.blocks[level].minima);
+        const std::span<const float> maxima(hop.blocks[level].maxima);
         bins.forEach([&](std::size_t column, std::size_t first, std::size_t end) {
-            const std::size_t begin = first / block;
-            const std::size_t count = (end + block - 1) / block - begin;
-            columns[column].add(rangeOfValues(blocks.subspan(begin, count)));
+            const std::size_t begin = first >> shift;
+            const std::size_t count = ((end - 1) >> shift) - begin + 1;
+            addBlocks(columns[column], minima.subspan(begin, count), maxima.subspan(begin, count));
         });
     }
+}
+
+void LevelPyramid::reduce(const ColumnView& view, std::span<LevelRange> columns) const
+{
+    std::fill(columns.begin(), columns.end(), LevelRange());
+    reduceTo(view, columns);
+}
+
+void LevelPyramid::reduceMaxima(const ColumnView& view, std::span<float> columns) const
+{
+    std::fill(columns.begin(), columns.end(), noMaximum);
+    reduceTo(view, columns);
 }
 
 } // namespace bandmonitor

@@ -23,6 +23,8 @@ struct ColumnView
 /// any become empty. Exact. The time follows the bins in view plus, per hop in view, the columns
 /// that it touches. An empty or reversed view, or one that is not finite, empties all columns.
 void reduceToColumns(const Sweep& sweep, const ColumnView& view, std::span<LevelRange> columns);
+/// The highest levels only; minus infinity in a column without any level.
+void reduceToMaxima(const Sweep& sweep, const ColumnView& view, std::span<float> columns);
 
 /// Reduces one sweep to columns again and again, in a time that follows the number of columns
 /// and not that of the bins: it keeps lowest and highest levels of blocks of 8, 32, 128, ... bins.
@@ -37,15 +39,30 @@ public:
     /// As reduceToColumns(), but a column may also take in bins up to a quarter of a column
     /// beside it. No level is ever lost.
     void reduce(const ColumnView& view, std::span<LevelRange> columns) const;
+    /// The highest levels only, with less work; minus infinity in a column without any level.
+    void reduceMaxima(const ColumnView& view, std::span<float> columns) const;
     /// The range of the whole sweep.
     LevelRange levels() const { return m_levels; }
 
 private:
+    /// Lowest and highest levels of blocks of one size; apart, as often only the highest count.
+    struct Blocks
+    {
+        std::vector<float> minima;
+        std::vector<float> maxima;
+
+        void reserve(std::size_t count);
+        void add(const LevelRange& range);
+        Blocks coarser() const;
+    };
     struct Hop
     {
         Segment segment;
-        std::vector<std::vector<LevelRange>> blocks; ///< blocks[k] of 8 * 4^k bins
+        std::vector<Blocks> blocks; ///< blocks[k] of 8 * 4^k bins
     };
+
+    template <typename Column>
+    void reduceTo(const ColumnView& view, std::span<Column> columns) const;
 
     std::vector<Hop> m_hops;
     LevelRange m_levels;
