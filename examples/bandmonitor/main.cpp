@@ -74,14 +74,14 @@ int run(int argc, char** argv, const CommandLine& commandLine)
     TrovApplication startUp;
     startUp.ShowSplash();
     startUp.Write2Splash(QApplication::translate("main", "Reading settings…"));
-    GuiBase& services = GuiBase::Instance();
-    services.SetApplication(&application);
     // The settings may already give reason for a question.
     std::unique_ptr<DialogCloser> dialogs;
     if (!commandLine.screenshotsFolder.isEmpty()) {
         dialogs = std::make_unique<DialogCloser>();
         QObject::connect(dialogs.get(), &DialogCloser::closedUnexpectedly, &printError);
     }
+    GuiBase& services = GuiBase::Instance();
+    services.SetApplication(&application);
 
     MainWindow window;
     services.SetMainWidget(&window);
