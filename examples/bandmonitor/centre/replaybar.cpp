@@ -2,6 +2,7 @@
 #include "centre/replaybar.h"
 
 #include "model/replay.h"
+#include "panels/readableoutline.h"
 
 #include <guibase/services/guibase.h>
 
@@ -35,6 +36,7 @@ ReplayBar::ReplayBar(Replay* replay, QWidget* parent)
     connect(m_forward, &QAction::triggered, m_replay, &Replay::stepForward);
     connect(m_slider, &QSlider::valueChanged, this, &ReplayBar::jumpTo);
     connect(m_speed, &QDoubleSpinBox::valueChanged, m_replay, &Replay::setSpeed);
+    connect(m_replay, &Replay::recordingChanged, this, &ReplayBar::refresh);
     connect(m_replay, &Replay::playingChanged, this, &ReplayBar::showPlaying);
     connect(m_replay, &Replay::positionChanged, this, &ReplayBar::showPosition);
     connect(m_replay, &Replay::speedChanged, m_speed, &QDoubleSpinBox::setValue);
@@ -60,6 +62,7 @@ void ReplayBar::buildLayout()
         button->setAutoRaise(true);
         row->addWidget(button);
     }
+    new ReadableOutline(m_slider, QPalette::Window);
     m_slider->setAccessibleName(tr("Sweep"));
     m_slider->setToolTip(tr("Current sweep"));
     row->addWidget(m_slider, 1);

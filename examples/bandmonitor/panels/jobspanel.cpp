@@ -26,6 +26,7 @@ namespace {
 constexpr int idRole = Qt::UserRole;
 constexpr int cellPadding = 24;
 constexpr int smallestColumn = 60;
+constexpr int timeLineWidth = 110;
 
 constexpr const char* columnTitles[JobsPanel::ColumnCount] = {
     QT_TRANSLATE_NOOP("bandmonitor::JobsPanel", "Job"),
@@ -135,14 +136,16 @@ void JobsPanel::buildList()
     for (const Appearance* appearance : appearances)
         widest = std::max(widest, fontMetrics().horizontalAdvance(tr(appearance->text)));
     m_list->setColumnWidth(State, widest + cellPadding);
-    for (const Column column : {Name, Started, Ended})
+    for (const Column column : {Started, Ended})
         m_list->setColumnWidthMode(column, QHeaderView::ResizeToContents);
     // The time line shows both; who wants them in figures has the menu of the header.
     for (const Column column : {Started, Ended})
         m_list->setColumnHidden(column, true);
     m_list->header()->setStretchLastSection(false);
     m_list->header()->setMinimumSectionSize(smallestColumn);
-    m_list->setColumnWidthMode(TimeLine, QHeaderView::Stretch);
+    // Names give way in a narrow panel: their tool tips tell them in full.
+    m_list->setColumnWidthMode(Name, QHeaderView::Stretch);
+    m_list->setColumnWidth(TimeLine, timeLineWidth);
     m_list->setItemDelegateForColumn(TimeLine, m_bars);
     m_list->setSorting(Name, Qt::AscendingOrder);
     m_list->setShowSortIndicator(true);

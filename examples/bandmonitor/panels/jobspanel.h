@@ -30,7 +30,7 @@ class JobsPanel : public Panel
 public:
     enum Column { Name, State, TimeLine, Started, Ended, ColumnCount };
 
-    /// Both may go before the panel, which is empty then. Jobs may be added later.
+    /// Both may go before the panel, which is empty then. All jobs must have been added.
     JobsPanel(Jobs* jobs, const Replay* replay, QWidget* parent = nullptr);
     ~JobsPanel() override;
 

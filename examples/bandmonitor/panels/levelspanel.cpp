@@ -40,6 +40,7 @@ LevelsPanel::LevelsPanel(QWidget* parent)
     setFocusProxy(m_table);
     m_table->setAccessibleName(tr("Reference levels"));
     m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->setColumnWidth(frequencyColumn, frequencyWidth);
     m_table->setWordWrap(false);
     m_table->verticalHeader()->hide();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panels/signalspanel.h"
 
+#include "panels/readableoutline.h"
 #include "radiopanes/panecolors.h"
 
 #include <guibase/lists/checksortlistviewitem.h>
@@ -183,6 +184,7 @@ SignalsPanel::Row& SignalsPanel::addRow(const SignalTrack& track)
     row.item->SetSortKey(Follow, QStringLiteral("0"));
     if (auto* box = qobject_cast<QCheckBox*>(m_list->itemWidget(row.item, Follow))) {
         box->setAccessibleName(tr("Follow the signal"));
+        new ReadableOutline(box, QPalette::Base);
         connect(box, &QCheckBox::toggled, this,
                 [this, id = track.id](bool on) { checkToggled(id, on); });
     }

@@ -355,7 +355,7 @@ void BearingRose::paintRing(QPainter& painter) const
         for (const double ahead : {0, 180})
             drawSector(painter, ring, ahead - aheadHalfWidth, 2 * aheadHalfWidth);
     } else {
-        painter.setBrush(paneColor(PaneSlot::LevelAxisBackground));
+        painter.setBrush(axisColor(PaneSlot::LevelAxisBackground, palette()));
         painter.drawEllipse(ring);
     }
     const QColor background = paneColor(PaneSlot::BackgroundLow);
@@ -381,9 +381,10 @@ void BearingRose::paintScale(QPainter& painter) const
     constexpr double tickLength = 4;
     for (int angle = 0; angle < 360; angle += tickStep) {
         const QColor background =
-            m_headingUp ? ringColor(angle) : paneColor(PaneSlot::LevelAxisBackground);
-        const auto slot = m_headingUp ? IColorBase::RelativeBearingText : PaneSlot::LevelAxisText;
-        painter.setPen(readableOn(background, paneColor(slot)));
+            m_headingUp ? ringColor(angle) : axisColor(PaneSlot::LevelAxisBackground, palette());
+        const QColor text = m_headingUp ? paneColor(IColorBase::RelativeBearingText)
+                                        : axisColor(PaneSlot::LevelAxisText, palette());
+        painter.setPen(readableOn(background, text));
         painter.drawLine(pointAt(angle, innerRadius()), pointAt(angle, innerRadius() + tickLength));
         if (angle % labelStep != 0)
             continue;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "receiver/receiverpanel.h"
 
+#include "panels/readableoutline.h"
+
 #include <guibase/formats/integralnumberdisplayformat.h>
 #include <guibase/formats/qdatetimedisplayformat.h>
 #include <guibase/formats/realnumberdisplayformat.h>
@@ -150,8 +152,8 @@ void ReceiverPanel::addLevels()
     m_attenuation->setCurrentDisplayFormatIndex(0);
     m_attenuation->setRange(-Settings::largestAttenuationDb, Settings::largestAttenuationDb);
     m_samples = add(new SpinBoxes::UInt64SpinBox(m_content), tr("Sample c&ount:"), "sampleCount",
-                    tr("The last sweeps that have so many samples are averaged; 0 shows the "
-                       "current sweep only"));
+                    tr("Averages as many of the last sweeps as it takes to reach this number of "
+                       "samples; 0 shows the current sweep only"));
 }
 
 void ReceiverPanel::addAddress()
@@ -160,10 +162,11 @@ void ReceiverPanel::addAddress()
     auto* row = new QHBoxLayout(field);
     row->setContentsMargins(0, 0, 0, 0);
     m_address = add(new SpinBoxes::UInt32SpinBox(field), tr("Dev&ice address:"), "deviceAddress",
-                    tr("Named in the spectrum and in exported sweeps; 0 for none"), field);
+                    tr("Shown in the spectrum and written to exported sweeps; 0 for none"), field);
     m_address->addDisplayFormat(std::make_unique<AddressFormat>());
     m_address->addDisplayFormat(std::make_unique<IntegralNumberDisplayFormat<quint32>>());
     m_hexadecimal = new QCheckBox(tr("He&x"), field);
+    new ReadableOutline(m_hexadecimal, QPalette::Window);
     m_hexadecimal->setObjectName(QStringLiteral("hexadecimal"));
     m_hexadecimal->setAccessibleName(tr("Device address in hexadecimal digits"));
     m_hexadecimal->setToolTip(tr("Hexadecimal or decimal digits"));
@@ -184,7 +187,7 @@ void ReceiverPanel::addStartTime()
 void ReceiverPanel::addThreshold()
 {
     m_threshold = add(new ComboBoxes::DoubleComboBox(m_content), tr("Thr&eshold:"), "threshold",
-                      tr("Signals are what reaches this level; without it, what stands out of "
+                      tr("Signals are the bins that reach this level; off: whatever stands out of "
                          "the noise"));
     m_threshold->setEditable(true);
     m_threshold->lineEdit()->setAlignment(m_gain->alignment()); // in line with the other fields
