@@ -57,7 +57,7 @@ std::optional<double> replayFactorOf(const QString& text)
                                                                     : std::nullopt;
 }
 
-/// Takes the positional arguments over; what is wrong with them, or nothing.
+/// Reads the name of the recording into `file`. Returns what is wrong, or nothing.
 QString takeFile(const QStringList& files, QString& file)
 {
     if (files.size() > 1)
@@ -84,7 +84,7 @@ struct Options
         QStringLiteral("FACTOR")};
 };
 
-/// Takes over what the options that were given ask for.
+/// Reads the options and the name of the recording.
 CommandLine readValues(const QCommandLineParser& parser, const Options& options)
 {
     CommandLine result;

@@ -83,7 +83,7 @@ void EventRecorder::sweepShown()
     if (m_session->watch().hasBegunAnew()) {
         // Once, however far the replay is put back step by step.
         if (!now.empty() && !std::exchange(m_hasBegun, true))
-            m_log->add(EventKind::Signal, tr("The signals are followed anew"));
+            m_log->add(EventKind::Signal, tr("Following the signals has restarted"));
         m_known = std::move(now);
         return;
     }

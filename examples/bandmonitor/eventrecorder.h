@@ -41,7 +41,8 @@ private:
     EventLog* m_log;
     FrequencyText m_text;
     std::unordered_map<std::uint32_t, Signal> m_known; ///< By the number of the track.
-    bool m_hasBegun = false; ///< That the signals are followed anew was the last about them.
+    bool m_hasBegun =
+        false; ///< The last event about signals was that following them has restarted.
 };
 
 } // namespace bandmonitor

@@ -31,7 +31,7 @@ void MainWindow::addJobs()
         m_session.replay().jump(0);
         return JobState::Done;
     });
-    jobs.addTask(tr("Start the hold maximum anew"), [this] {
+    jobs.addTask(tr("Restart the hold maximum"), [this] {
         m_bandView->resetHold();
         return JobState::Done;
     });

@@ -28,8 +28,8 @@ public:
 
     /// Lists them; the parent owns it.
     QMenu* menu() const { return m_menu; }
-    /// The recording at `path` was opened, in whatever way. Those that lie in the program itself
-    /// are not listed.
+    /// Lists the recording at `path`, which was opened; one that is built into the program is not
+    /// listed.
     void opened(const QString& path);
     /// It could not be opened or saved. When there is no such file it is taken out of the list.
     void failed(const QString& path);
@@ -42,7 +42,9 @@ public:
 Q_SIGNALS:
     /// The user has chosen a recording, from the list or by its name.
     void chosen(const QString& path);
+    /// saveAs() has written the file.
     void saved(const QString& path);
+    /// saveAs() could not write the file; `reason` is one line for the user.
     void notSaved(const QString& path, const QString& reason);
 
 private:

@@ -47,7 +47,7 @@ private:
 
 /// Fixed conditions for the pictures, to be made before the application object: a time zone one
 /// hour east of UTC, wherever the computer is, and settings of their own instead of the user's.
-/// Without `configFolder` these lie in a folder below `folder`, which goes with this object.
+/// Without `configFolder` the settings lie in a folder below `folder` and are removed in the end.
 class ScreenshotEnvironment
 {
 public:

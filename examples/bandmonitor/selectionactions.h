@@ -16,13 +16,13 @@ class SelectionActions : public QActionGroup, private IObserver
 {
     Q_OBJECT
 public:
-    /// The selection must outlive this object or tell that it goes. The actions belong to `menu`'s
-    /// group, this object to the menu.
+    /// The selection must outlive this object, or announce its end as observables do. The menu owns
+    /// this object and the actions.
     SelectionActions(ValueSelection* selection, QMenu* menu);
     ~SelectionActions() override;
 
 Q_SIGNALS:
-    /// The current item has changed, by whomever.
+    /// The selection has another current item, whoever has chosen it.
     void currentChanged();
 
 private:

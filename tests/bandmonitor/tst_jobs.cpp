@@ -69,7 +69,7 @@ private Q_SLOTS:
     void menuIsSortedAsChosen_data()
     {
         const QString jump = QStringLiteral("Jump");
-        const QString hold = QStringLiteral("Start the hold");
+        const QString hold = QStringLiteral("Restart the hold");
         const QString pause = QStringLiteral("Pause above");
         Orders row;
         row("name", JobOrder::Name, {QStringLiteral("Export"), jump, pause});
@@ -90,7 +90,7 @@ private Q_SLOTS:
         auto* menu = m_window->findChild<JobsMenu*>();
         menu->setOrder(order);
         // Chosen in the menu, and in its place the next time it is shown.
-        menu->findItem(job("Start the hold").id)->trigger();
+        menu->findItem(job("Restart the hold").id)->trigger();
         QShowEvent show;
         QCoreApplication::sendEvent(menu, &show);
         const QList<QAction*> entries = menu->actions();

@@ -46,11 +46,11 @@ class tst_JobsPanel : public GuardedTest
         m_replay = std::make_unique<Replay>();
         m_replay->setClock([] { return 0; }); // it plays, but gets nowhere by itself
         m_jobs = std::make_unique<Jobs>(m_replay.get());
-        m_panel = std::make_unique<JobsPanel>(m_jobs.get(), m_replay.get());
         m_fail = m_jobs->addTask(QStringLiteral("Fail"), [] { return JobState::Failed; });
         m_pause = m_jobs->addPause(QStringLiteral("Pause"), [](qsizetype, qsizetype last) {
             return last >= 30 ? std::optional(last) : std::nullopt;
         });
+        m_panel = std::make_unique<JobsPanel>(m_jobs.get(), m_replay.get());
         m_replay->setRecording(m_sample.recording);
         m_panel->show();
     }

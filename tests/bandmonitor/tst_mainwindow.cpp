@@ -51,7 +51,7 @@ private Q_SLOTS:
             return found;
         };
         QCOMPARE(count("two bands.csv opened: 85 sweeps"), 1);
-        QCOMPARE(count("followed anew"), 2); // one for each recording
+        QCOMPARE(count("has restarted"), 2); // one for each recording
         // All that came and did not go is in the list.
         const SortListView& list = m_window->panel<SignalsPanel>().list();
         int followed = list.topLevelItemCount();
@@ -64,7 +64,7 @@ private Q_SLOTS:
         QTRY_COMPARE(list.topLevelItemCount(), followed);
         for (int step = 0; step < 3; ++step) // it begins anew, and nothing came or went
             m_window->session().replay().stepBackward();
-        QCOMPARE(count("followed anew"), 3);
+        QCOMPARE(count("has restarted"), 3);
         QCOMPARE(count("Disappeared: "), gone);
 
         for (const Job& job : m_window->session().jobs().list().jobs()) {

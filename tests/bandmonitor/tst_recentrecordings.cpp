@@ -19,7 +19,7 @@
 
 using namespace bandmonitor;
 
-class TestRecentRecordings : public MainWindowTest
+class tst_RecentRecordings : public MainWindowTest
 {
     Q_OBJECT
     QTemporaryDir m_folder;
@@ -140,5 +140,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestRecentRecordings)
+QTEST_MAIN(tst_RecentRecordings)
 #include "tst_recentrecordings.moc"

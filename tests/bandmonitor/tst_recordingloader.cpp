@@ -10,7 +10,7 @@
 
 using namespace bandmonitor;
 
-class TestRecordingLoader : public GuardedTest
+class tst_RecordingLoader : public GuardedTest
 {
     Q_OBJECT
     using Failures = TestRows<QString, QByteArray, QString>;
@@ -107,5 +107,5 @@ private:
     std::unique_ptr<QSignalSpy> m_failed;
 };
 
-QTEST_GUILESS_MAIN(TestRecordingLoader)
+QTEST_GUILESS_MAIN(tst_RecordingLoader)
 #include "tst_recordingloader.moc"

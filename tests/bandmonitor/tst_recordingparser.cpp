@@ -11,7 +11,7 @@
 
 using namespace bandmonitor;
 
-class TestRecordingParser : public GuardedTest
+class tst_RecordingParser : public GuardedTest
 {
     Q_OBJECT
     using Lines = TestRows<QByteArray, int, double>;
@@ -224,5 +224,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRecordingParser)
+QTEST_GUILESS_MAIN(tst_RecordingParser)
 #include "tst_recordingparser.moc"

@@ -10,7 +10,7 @@
 using namespace bandmonitor;
 
 /// Time is set by the test; ticks come as fast as the event loop goes.
-class TestReplay : public GuardedTest
+class tst_Replay : public GuardedTest
 {
     Q_OBJECT
 
@@ -141,5 +141,5 @@ private:
     int m_looks = 0;
 };
 
-QTEST_GUILESS_MAIN(TestReplay)
+QTEST_GUILESS_MAIN(tst_Replay)
 #include "tst_replay.moc"

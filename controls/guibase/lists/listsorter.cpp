@@ -244,12 +244,12 @@ void ListSorter::setFunctionCount(int count)
     m_functions.resize(static_cast<std::size_t>(std::max(count, 0)), nullptr);
 }
 
-void ListSorter::setFunction(int column, CompareFunction function)
+void ListSorter::setFunction(int column, CompareFunction compare)
 {
     if (column < 0 || static_cast<std::size_t>(column) >= m_functions.size())
         return;
     forgetOrder();
-    m_functions[static_cast<std::size_t>(column)] = function;
+    m_functions[static_cast<std::size_t>(column)] = compare;
 }
 
 ListSorter::CompareFunction ListSorter::function(int column) const

@@ -37,7 +37,8 @@ QString storageName(Mode mode)
     return QStringLiteral("BandmonitorMode%1").arg(static_cast<int>(mode));
 }
 
-/// The side of the dock's area. At the bottom the place decides; behind another tab there is none.
+/// The side of the window where the dock hides: that of its area. A dock at the bottom hides at the
+/// nearer side. A dock behind another tab has no place, so that there is no side.
 Qt::ToolBarArea hidingSide(const QMainWindow& window, const QDockWidget& dock,
                            QFlags<Qt::ToolBarArea> areas)
 {
@@ -227,10 +228,10 @@ void PanelDocks::showMode(Mode mode)
 void PanelDocks::show(Mode mode, const QByteArray* autoHide)
 {
     m_activateFront.start();        // once the active dock is found for what is hidden now
-    m_autoHide->setStorageName({}); // what follows is no wish of the user
+    m_autoHide->setStorageName({}); // the user did not ask for what follows
     GuiBase::Instance().setMode(static_cast<long>(mode));
     const QByteArray layout = m_window.saveState();
-    // Docks that hid themselves in the former mode come out, and go where this mode has them.
+    // Docks that hid in the former mode come out first. Then they go where this mode has them.
     if (m_autoHide->saveState() != m_nothingHides) {
         m_autoHide->restoreState(m_nothingHides);
         m_window.restoreState(layout);

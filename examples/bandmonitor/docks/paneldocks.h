@@ -73,7 +73,7 @@ public:
     /// Once the services have brought back the dock layouts at program start: shows that of the
     /// mode, and brings back what hides itself.
     void showProgramStart(Mode mode);
-    /// The same for the factory layout, whatever size the window had when that was announced.
+    /// Shows the factory layout of the mode, made for the present size of the window.
     void showFactory(Mode mode);
 
     QMainWindow& window() const { return m_window; }
@@ -90,7 +90,7 @@ private:
     void markActive(QDockWidget* active);
     /// Behind another tab nobody sees which dock is the active one: the one in front takes over.
     void activateFront();
-    /// With `autoHide` that is put in the place of what was kept.
+    /// `autoHide` takes the place of what was kept; null for what was kept.
     void show(Mode mode, const QByteArray* autoHide);
 
     QMainWindow& m_window;

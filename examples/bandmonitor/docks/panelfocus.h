@@ -13,8 +13,8 @@ class PanelDocks;
 /// Ways for the keyboard between the centre of the window and its panels.
 namespace PanelFocus {
 
-/// Leads to the next or the former part of the window, in the order: centre, panels that are seen,
-/// centre. A panel behind another tab comes to the front.
+/// Gives the focus to the next or the previous part of the window: centre, visible panels, centre
+/// again. A panel behind another tab comes to the front.
 void cycle(const PanelDocks& panels, QWidget& centre, bool forward);
 /// Brings the panel to the front, and the keys to it.
 void enter(const PanelDocks& panels, QDockWidget& dock, Qt::FocusReason reason);

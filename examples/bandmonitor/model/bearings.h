@@ -25,7 +25,7 @@ public:
     explicit Bearings(QObject* parent = nullptr);
     ~Bearings() override;
 
-    /// Takes the directions of these signals in the place of the former ones.
+    /// Replaces all bearings by those of these signals.
     void update(std::span<const SignalTrack> tracks);
     /// In the order of the signals. Good until the next update().
     const std::vector<Bearing>& all() const { return m_bearings; }
@@ -36,7 +36,7 @@ public:
     static double simulatedSpread(double signalToNoiseDb);
 
 Q_SIGNALS:
-    /// update() has put other bearings in the place of the former ones.
+    /// update() has replaced the bearings.
     void changed();
 
 private:

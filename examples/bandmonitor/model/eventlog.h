@@ -19,8 +19,8 @@ struct Event
     QString text; ///< One line.
 };
 
-/// What has happened in the application, the latest events only: when the log is full, a new event
-/// takes the place of the oldest one. Adding costs the same however many there are.
+/// The latest events of the application: when the log is full, a new event replaces the oldest one.
+/// Adding an event takes the same time however many there are.
 class EventLog : public QObject
 {
     Q_OBJECT

@@ -8,12 +8,12 @@
 
 namespace bandmonitor {
 
-/// What a job is about, in the order in which a list by state shows it.
+/// How far a job is. The order is that of a list that is sorted by state.
 enum class JobState {
-    Waiting, ///< It was started, and waits for its sweep.
+    Waiting, ///< Started; waits for its sweep.
     Failed,
     Done,
-    Ready ///< It was not started yet, or was called off.
+    Ready ///< Not started yet, or called off.
 };
 
 enum class JobOrder { Name, State, Time };
@@ -24,8 +24,8 @@ struct Job
     QString name;
     JobState state = JobState::Ready;
     quint64 timeUs = 0; ///< The sweep at which it came to its state; 0 as long as it is new.
-    /// The sweep at which it was started last; nothing as long as it is new. A job that is Ready and
-    /// has one was called off.
+    /// The sweep at which it was started last; nothing as long as it is new. A job that is Ready
+    /// and has one was called off.
     std::optional<quint64> startedUs = std::nullopt;
 };
 

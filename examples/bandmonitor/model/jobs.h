@@ -13,14 +13,15 @@ namespace bandmonitor {
 
 class Replay;
 
-/// Does the jobs of a replay: some at once, some when a sweep comes that they wait for.
+/// Runs the jobs of a replay. Some are done at once, others wait for a certain sweep.
 class Jobs : public QObject
 {
     Q_OBJECT
 public:
-    /// Done, Failed, or nothing when the user has called it off.
+    /// Returns Done or Failed; nothing when the user has cancelled it.
     using Task = std::function<std::optional<JobState>()>;
-    /// The first sweep that is waited for among those from `first` to `last`, the shown one.
+    /// Finds the sweep that the job waits for among those from `first` to `last`, the shown one;
+    /// nothing when none of them is.
     using Condition = std::function<std::optional<qsizetype>(qsizetype first, qsizetype last)>;
 
     /// The replay must outlive the jobs.
@@ -34,7 +35,8 @@ public:
 
     /// All jobs are new again: another recording.
     void reset();
-    /// The sweeps after `previous` up to `position` were played. Without playing no job looks.
+    /// The sweeps after `previous` up to `position` were played. Does nothing unless the replay
+    /// plays.
     void sweepsPlayed(qsizetype position, qsizetype previous);
 
 public Q_SLOTS:
@@ -42,7 +44,7 @@ public Q_SLOTS:
     void run(int id);
 
 Q_SIGNALS:
-    /// For the user: what a job has come to.
+    /// A job has ended; `text` is one line for the user.
     void report(const QString& text);
     /// The job has another state now.
     void jobChanged(int id);

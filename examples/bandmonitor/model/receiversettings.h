@@ -9,7 +9,7 @@
 
 namespace bandmonitor {
 
-/// What the user sets in the receiver panel. As it is made it changes nothing of what is shown.
+/// What the user sets in the receiver panel. The defaults change nothing of what is shown.
 struct ReceiverSettings
 {
     static constexpr qint64 highestHz = 9'999'999'999'999;
@@ -30,7 +30,7 @@ struct ReceiverSettings
 
     bool operator==(const ReceiverSettings&) const = default;
 
-    /// The nearest settings within the limits; what is no number becomes the default.
+    /// The nearest settings within the limits; NaN becomes the default.
     ReceiverSettings clamped() const;
     /// What is added to the recorded levels.
     double offsetDb() const { return gainDb - attenuationDb; }

@@ -27,7 +27,8 @@ public:
     /// is given up without a signal. Exactly one of finished(), failed() and cancelled() follows,
     /// unless another load() or the end of the loader comes first.
     void load(const QString& path);
-    /// Gives up what is being loaded; cancelled() follows. Without anything to cancel, nothing.
+    /// Gives up what is being loaded; cancelled() follows. Does nothing while nothing is being
+    /// loaded.
     void cancel();
     bool isLoading() const;
 

@@ -12,7 +12,7 @@
 
 namespace bandmonitor {
 
-/// Walks through a recording, by hand or in the time of its own stamps. The recording may grow
+/// Walks through a recording, by hand or as fast as its time stamps say. The recording may grow
 /// meanwhile.
 class Replay : public QObject
 {
@@ -62,11 +62,11 @@ public Q_SLOTS:
     void stepBackward();
     /// Goes to `index`, cut to what there is; playing goes on.
     void jump(qsizetype index);
-    /// Recorded time per real time, cut to 0.1 to 1000; 1 by default. Ignores what is no number.
+    /// Recorded time per real time, cut to 0.1 to 1000; 1 by default. Ignores NaN.
     void setSpeed(double factor);
 
 Q_SIGNALS:
-    /// setRecording() has put another recording in the place of the former one, or none.
+    /// setRecording() has replaced the recording, perhaps by none.
     void recordingChanged();
     /// The current sweep is another one. When playing fast several sweeps can be passed at once:
     /// those from `previous + 1` to `position` were played. After jump() and setRecording()

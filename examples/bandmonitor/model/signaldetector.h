@@ -36,8 +36,8 @@ struct Signal
 /// of two hops. The occupied band ends at the outermost bins that are at most `bandwidthDb` below
 /// the peak.
 ///
-/// With a threshold a signal is, instead, what reaches that level, joined and bounded in the same
-/// way, whatever the noise.
+/// With a threshold, signals are instead the bins that reach this level, whatever the noise; they
+/// are joined and bounded in the same way.
 class SignalDetector
 {
 public:

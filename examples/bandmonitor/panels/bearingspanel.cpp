@@ -46,8 +46,8 @@ BearingsPanel::BearingsPanel(const Bearings* bearings, QWidget* parent)
     QLabel* simulated = makeLabel(this, QStringLiteral("simulatedNote"));
     simulated->setText(tr("simulated"));
     simulated->setToolTip(
-        tr("The recording holds no bearings. Those that are shown follow from the "
-           "frequencies and levels of the signals."));
+        tr("Recordings hold no bearings. These are made up from the frequencies and levels "
+           "of the signals."));
 
     QHBoxLayout* row = makeButtonRow(this, {m_headingUp});
     row->setContentsMargins(4, 2, 4, 0);

@@ -7,8 +7,8 @@ class QAbstractItemView;
 
 namespace bandmonitor {
 
-/// Tells in the middle of a list without rows what would appear there. Belongs to the list; does
-/// not take the mouse.
+/// A text in the middle of a list that has no rows: it says what will appear there. Belongs to the
+/// list; lets the mouse through.
 class EmptyHint : public QLabel
 {
     Q_OBJECT

@@ -135,8 +135,8 @@ void EventLogPanel::buildList()
         if (m_followsEnd)
             bar->setValue(bar->maximum());
     });
-    new EmptyHint(tr("No events to show. Recordings, signals, jobs and modes tell here what "
-                     "happens."),
+    new EmptyHint(tr("No events to show. What happens to recordings, signals, jobs and modes "
+                     "appears here."),
                   m_list);
 }
 
@@ -340,7 +340,7 @@ void EventLogPanel::save()
 {
     const QString path =
         ModalDialogs::askForFile(this, {QFileDialog::AcceptSave, tr("Save the events"),
-                                        Settings::lastFolder(), tr("Texts (*.txt)")});
+                                        Settings::lastFolder(), tr("Text files (*.txt)")});
     if (path.isEmpty())
         return;
     if (const std::optional<QString> problem = saveTo(path))

@@ -21,8 +21,8 @@ namespace bandmonitor {
 
 /// The events of a log as a list that can be filtered, copied and saved.
 ///
-/// New events are taken over together: while they come fast the list rests in between, and while it
-/// is hidden it does nothing. As long as the list is scrolled to its end it follows the end.
+/// New events are shown together, a few times a second at most, and only while the panel is
+/// visible. As long as the list is scrolled to its end, it stays there.
 class EventLogPanel : public Panel
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ public:
     void setFilter(const QString& text);
     /// The selected rows as shown, or all when none is: one a line, columns with tabs in between.
     QString text() const;
-    /// Writes all shown events; nothing, else what went wrong, for the user.
+    /// Writes all shown events. Returns what went wrong, one line for the user, or nothing.
     std::optional<QString> saveTo(const QString& path) const;
     /// Copy, Save, Clear and Find.
     QList<QAction*> keyActions() const override { return m_actions; }

@@ -14,7 +14,7 @@ namespace bandmonitor {
 
 namespace {
 
-/// Side of the square on which pictures are drawn.
+/// Side of the square on which icons are drawn.
 constexpr int units = 16;
 
 void addTriangle(QPainterPath& path, qreal from, qreal to)

@@ -5,8 +5,8 @@
 
 namespace bandmonitor {
 
-/// The pictures of panels and replay actions. A new one is an enumerator here and a row of the
-/// table in pictures.cpp.
+/// The icons of panels and replay actions. A new one is an enumerator here and a row of the
+/// table in icons.cpp.
 enum class Icon {
     Signals,
     Events,

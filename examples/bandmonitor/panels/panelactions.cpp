@@ -7,22 +7,22 @@
 
 namespace bandmonitor {
 
-QAction* addPanelAction(QWidget* pane, const QString& text, const QKeySequence& key,
+QAction* addPanelAction(QWidget* panel, const QString& text, const QKeySequence& key,
                         const QString& tip)
 {
-    auto* action = new QAction(text, pane);
+    auto* action = new QAction(text, panel);
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     action->setToolTip(QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
-    pane->addAction(action);
+    panel->addAction(action);
     return action;
 }
 
-QHBoxLayout* makeButtonRow(QWidget* pane, const QList<QAction*>& actions)
+QHBoxLayout* makeButtonRow(QWidget* panel, const QList<QAction*>& actions)
 {
     auto* row = new QHBoxLayout;
     for (QAction* action : actions) {
-        auto* button = new QToolButton(pane);
+        auto* button = new QToolButton(panel);
         button->setDefaultAction(action);
         button->setToolButtonStyle(Qt::ToolButtonTextOnly);
         button->setFocusPolicy(Qt::TabFocus);

@@ -11,11 +11,11 @@ class QWidget;
 
 namespace bandmonitor {
 
-/// A command of the pane, whose key works in the pane only and stands in its tool tip.
-QAction* addPanelAction(QWidget* pane, const QString& text, const QKeySequence& key,
+/// A command of the panel. Its key works in the panel only; its tool tip names the key.
+QAction* addPanelAction(QWidget* panel, const QString& text, const QKeySequence& key,
                         const QString& tip);
 
 /// A row of text buttons for the commands, reached with Tab, aligned to the left.
-QHBoxLayout* makeButtonRow(QWidget* pane, const QList<QAction*>& actions);
+QHBoxLayout* makeButtonRow(QWidget* panel, const QList<QAction*>& actions);
 
 } // namespace bandmonitor

@@ -14,7 +14,7 @@ std::optional<double> readFrequency(const QString& text);
 /// A level in dB, behind which a unit of the family may stand ("-40", "-40,5 dB", "-40 dBm").
 /// Nothing unless it is from -1000 to 1000.
 std::optional<double> readLevel(const QString& text);
-/// The frequency so that readFrequency() reads it in whatever unit is set, to a millihertz.
+/// Writes the frequency so that readFrequency() reads the same, to a millihertz, in any unit.
 QString writeFrequency(double hertz);
 
 } // namespace bandmonitor::ReferenceLevels

@@ -20,7 +20,7 @@ class SortListViewItem;
 namespace bandmonitor {
 
 /// The list of the signals that a SignalWatch follows, one row each. Rows are changed in place, and
-/// the list is sorted once for all changes of a sweep; while sweeps come fast it rests in between.
+/// the list is sorted once for all changes of a sweep. While sweeps come fast it waits in between.
 class SignalsPanel : public Panel
 {
     Q_OBJECT

@@ -49,8 +49,8 @@ private:
     mutable std::vector<AxisTick> m_ticks;
 };
 
-/// The scale at the left of a pane, from its bottom to its top: levels, or the times of sweeps. Its
-/// owner tells the ticks.
+/// The scale at the left of a pane, from bottom to top: levels, or the times of sweeps. Its owner
+/// supplies the ticks.
 class SideAxis : public QWidget
 {
     Q_OBJECT

@@ -5,8 +5,8 @@
 
 namespace bandmonitor {
 
-/// What texts, and what lines and areas, need to stand out from their background: the levels AA of
-/// the Web Content Accessibility Guidelines 2.1.
+/// The contrast that texts, and lines and areas, need against their background: level AA of the Web
+/// Content Accessibility Guidelines 2.1.
 inline constexpr double textContrast = 4.5;
 inline constexpr double lineContrast = 3;
 

@@ -10,7 +10,7 @@
 namespace bandmonitor {
 
 /// The part of the band that all panes show, the cursor on it and the pins set by the user. The
-/// panes share one view, so that zooming or moving the cursor in one of them is seen in all.
+/// panes share one such object, so that zooming or moving the cursor in one of them shows in all.
 /// All frequencies in hertz.
 class VisibleBand : public QObject
 {
@@ -53,8 +53,11 @@ public:
     void clearPins();
 
 Q_SIGNALS:
+    /// low() or high() is another one.
     void rangeChanged();
+    /// cursor() is at another frequency.
     void cursorChanged();
+    /// Pins were set or removed.
     void pinsChanged();
 
 private:
