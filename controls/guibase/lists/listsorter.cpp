@@ -244,12 +244,12 @@ void ListSorter::setFunctionCount(int count)
     m_functions.resize(static_cast<std::size_t>(std::max(count, 0)), nullptr);
 }
 
-void ListSorter::setFunction(int column, CompareFunction compare)
+void ListSorter::setFunction(int column, CompareFunction chosen)
 {
     if (column < 0 || static_cast<std::size_t>(column) >= m_functions.size())
         return;
     forgetOrder();
-    m_functions[static_cast<std::size_t>(column)] = compare;
+    m_functions[static_cast<std::size_t>(column)] = chosen;
 }
 
 ListSorter::CompareFunction ListSorter::function(int column) const

@@ -49,7 +49,7 @@ public:
     ~ListSorter() override;
 
     void setFunctionCount(int count);
-    void setFunction(int column, CompareFunction compare);
+    void setFunction(int column, CompareFunction chosen);
     CompareFunction function(int column) const;
     void setCallback(ISortCallback* callback) { m_callback = callback; }
     bool hasCallback() const { return m_callback != nullptr; }
