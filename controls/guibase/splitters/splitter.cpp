@@ -12,6 +12,7 @@
 #include <QShowEvent>
 
 #include <algorithm>
+#include <utility>
 
 Splitter::Splitter(QWidget* parent)
     : QSplitter(parent)
@@ -38,10 +39,8 @@ Splitter::~Splitter() = default;
 
 void Splitter::init()
 {
-    if (!m_name.isEmpty()) {
-        applyStored();
-        connect(this, &QSplitter::splitterMoved, this, &Splitter::slotKeepSettings);
-    }
+    applyStored();
+    connect(this, &QSplitter::splitterMoved, this, &Splitter::slotKeepSettings);
     setOpaqueResize(false);
 }
 
@@ -87,6 +86,8 @@ void Splitter::childEvent(QChildEvent* event)
         m_placedWidgets = std::min(m_placedWidgets, count());
     else if (event->added() && event->child()->isWidgetType())
         QTimerHelpers::singleShot(0, this, [this] { placeNewWidgets(); });
+    else if (event->polished())
+        refresh(); // shows its handle, which takes room too
 }
 
 void Splitter::placeNewWidgets()
@@ -121,9 +122,31 @@ void Splitter::applyStored()
     setOpaqueResize(false);
 }
 
+void Splitter::beginMove()
+{
+    m_sizesBeforeMove = SplitterStateCheck::sizes(saveState()).value_or(QList<int>());
+}
+
+/// The toolkit takes hidden widgets for collapsed ones when the mouse moves a handle.
+void Splitter::keepHiddenSizes()
+{
+    const QList<int> before = std::exchange(m_sizesBeforeMove, {});
+    QList<int> all = sizes();
+    bool isChanged = false;
+    for (int i = 0; i < std::min(before.size(), all.size()); ++i) {
+        if (!widget(i)->isHidden())
+            continue;
+        all[i] = before.at(i);
+        isChanged = true;
+    }
+    if (isChanged)
+        QSplitter::setSizes(withHints(all));
+}
+
 void Splitter::slotKeepSettings(int, int)
 {
     m_awaitedSizes.clear();
+    keepHiddenSizes();
     if (!m_name.isEmpty())
         GuiBase::Instance().StoreSplitterSizes4(m_name + m_variant, this);
 }
@@ -161,14 +184,14 @@ int Splitter::minimumSizeOf(int widgetIndex) const
     return std::max(1, orientation() == Qt::Horizontal ? size.width() : size.height());
 }
 
-void Splitter::moveBorder(const Neighbours& border, int sizeBefore, int index)
+void Splitter::moveBorder(const Neighbours& border, qint64 sizeBefore, int index)
 {
     QList<int> all = SplitterStateCheck::withHidden(
         sizes(), SplitterStateCheck::sizes(saveState()).value_or(QList<int>()));
     const int total = all.at(border.before) + all.at(border.after);
     const int lowest = std::min(minimumSizeOf(border.before), total);
     const int highest = std::max(lowest, total - minimumSizeOf(border.after));
-    all[border.before] = std::clamp(sizeBefore, lowest, highest);
+    all[border.before] = static_cast<int>(std::clamp<qint64>(sizeBefore, lowest, highest));
     all[border.after] = total - all.at(border.before);
     QSplitter::setSizes(withHints(all));
     const QPoint position = handle(index)->pos();
@@ -177,13 +200,15 @@ void Splitter::moveBorder(const Neighbours& border, int sizeBefore, int index)
 
 void Splitter::shiftHandle(int index, int pixels)
 {
+    refresh(); // What has changed just now may not be laid out yet.
     const Neighbours border = neighbours(index);
     if (border.isComplete())
-        moveBorder(border, sizes().at(border.before) + pixels, index);
+        moveBorder(border, qint64{sizes().at(border.before)} + pixels, index);
 }
 
 void Splitter::equalizeNeighbours(int index)
 {
+    refresh();
     const Neighbours border = neighbours(index);
     if (border.isComplete())
         moveBorder(border, (sizes().at(border.before) + sizes().at(border.after)) / 2, index);

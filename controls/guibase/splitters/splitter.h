@@ -40,6 +40,8 @@ public:
     void shiftHandle(int index, int pixels);
     /// Gives the two widgets next to the handle equal sizes, as if the user had done it.
     void equalizeNeighbours(int index);
+    /// To be called by a handle before the mouse moves it: hidden widgets keep their sizes then.
+    void beginMove();
 
 public Q_SLOTS:
     void slotKeepSettings(int position, int index);
@@ -61,13 +63,15 @@ private:
 
     Neighbours neighbours(int index) const;
     int minimumSizeOf(int widgetIndex) const;
-    void moveBorder(const Neighbours& border, int sizeBefore, int index);
+    void moveBorder(const Neighbours& border, qint64 sizeBefore, int index);
     QList<int> withHints(QList<int> sizes) const;
     void applyStored();
     void placeNewWidgets();
+    void keepHiddenSizes();
 
     QString m_name;
     QString m_variant;
     QList<int> m_awaitedSizes;
+    QList<int> m_sizesBeforeMove;
     int m_placedWidgets = 0;
 };

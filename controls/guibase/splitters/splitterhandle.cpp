@@ -65,8 +65,11 @@ void SplitterHandle::setPressed(bool pressed)
 void SplitterHandle::mousePressEvent(QMouseEvent* event)
 {
     QSplitterHandle::mousePressEvent(event);
-    if (event->button() == Qt::LeftButton)
-        setPressed(true);
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (m_splitter != nullptr)
+        m_splitter->beginMove();
+    setPressed(true);
 }
 
 void SplitterHandle::mouseReleaseEvent(QMouseEvent* event)

@@ -14,6 +14,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <limits>
 #include <memory>
 
 namespace {
@@ -40,6 +41,14 @@ std::unique_ptr<Splitter> makeSplitter(const QString& name, int panes = 2)
     splitter->resize(600 + splitter->handleWidth(), 200);
     splitter->show();
     return splitter;
+}
+
+void drag(QSplitterHandle& handle, int pixels)
+{
+    const QPoint target = handle.rect().center() + QPoint(pixels, 0);
+    QTest::mousePress(&handle, Qt::LeftButton);
+    QTest::mouseMove(&handle, target);
+    QTest::mouseRelease(&handle, Qt::LeftButton, {}, target);
 }
 
 } // namespace
@@ -106,6 +115,23 @@ private Q_SLOTS:
             splitter->show();
             QVERIFY(splitter->sizes().at(3) > 0);
         }
+    }
+    void hiddenWhileDragged()
+    {
+        const QString name = QStringLiteral("dragged");
+        {
+            const auto splitter = makeSplitter(name, 3);
+            splitter->setSizes({200, 200, 200});
+            splitter->widget(1)->hide();
+            QCoreApplication::processEvents();
+            drag(*splitter->handle(2), 30);
+            splitter->widget(1)->show();
+            QTRY_VERIFY(splitter->sizes().at(1) > 100);
+            splitter->shiftHandle(1, std::numeric_limits<int>::max());
+            QCOMPARE(splitter->sizes().at(1), 40);
+            splitter->shiftHandle(1, -100);
+        }
+        QVERIFY(makeSplitter(name, 3)->sizes().at(1) > 100);
     }
     void hiddenAndMinimized()
     {
@@ -200,10 +226,7 @@ private Q_SLOTS:
         QTest::mouseClick(handle, Qt::LeftButton);
         QTest::mouseDClick(handle, Qt::LeftButton);
         QCOMPARE(first(), total / 2);
-        const QPoint target = handle->rect().center() + QPoint(-50, 0);
-        QTest::mousePress(handle, Qt::LeftButton);
-        QTest::mouseMove(handle, target);
-        QTest::mouseRelease(handle, Qt::LeftButton, {}, target);
+        drag(*handle, -50);
         QCOMPARE(first(), total / 2 - 50);
     }
     void gripIsVisible()
