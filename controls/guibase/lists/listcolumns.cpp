@@ -3,10 +3,10 @@
 
 #include "sortlistview.h"
 
+#include <guibase/lists/columns/columnmenu.h>
 #include <guibase/services/guibase.h>
 
-#include <QAction>
-#include <QMenu>
+#include <QHeaderView>
 #include <QPointer>
 #include <QTreeWidgetItem>
 
@@ -18,15 +18,12 @@ constexpr unsigned maximumColumns = 4096;
 
 ListColumns::ListColumns(SortListView& view)
     : m_view(view)
-    , m_menu(new QMenu(&view))
+    , m_menu(new ColumnMenu(&view))
 {
     m_menu->setObjectName(QStringLiteral("HeaderContextMenu"));
 }
 
-ListColumns::~ListColumns()
-{
-    qDeleteAll(m_actions);
-}
+ListColumns::~ListColumns() = default;
 
 bool ListColumns::has(int column) const
 {
@@ -38,9 +35,6 @@ void ListColumns::add(const QString& text)
     m_labels.append(text);
     m_view.setColumnCount(static_cast<int>(m_labels.size()));
     m_view.setHeaderLabels(m_labels);
-    QAction* const action = m_menu->addAction(text);
-    action->setCheckable(true);
-    m_actions.append(action);
 }
 
 QString ListColumns::text(int column) const
@@ -53,10 +47,8 @@ void ListColumns::setText(int column, const QString& text)
     if (!has(column))
         return;
     m_view.headerItem()->setText(column, text);
-    if (column < m_labels.size()) {
+    if (column < m_labels.size())
         m_labels[column] = text;
-        m_actions.at(column)->setText(text);
-    }
 }
 
 void ListColumns::setAlignment(unsigned column, int alignment)
@@ -107,34 +99,11 @@ void ListColumns::store()
         GuiBase::Instance().StoreColumnWidth4(m_name, &m_view);
 }
 
-void ListColumns::updateActions()
-{
-    QAction* lastVisible = nullptr;
-    int visible = 0;
-    for (int column = 0; column < m_actions.size(); ++column) {
-        QAction* const action = m_actions.at(column);
-        const bool isShown = has(column) && !m_view.isColumnHidden(column);
-        action->setVisible(has(column));
-        action->setEnabled(true);
-        action->setChecked(isShown);
-        if (!isShown)
-            continue;
-        ++visible;
-        lastVisible = action;
-    }
-    if (visible == 1)
-        lastVisible->setEnabled(false);
-}
-
 void ListColumns::runMenu(QPoint pos)
 {
-    updateActions();
     const QPointer<SortListView> self(&m_view);
-    QAction* const chosen = m_menu->exec(pos);
-    if (!self || chosen == nullptr)
-        return;
-    const int column = static_cast<int>(m_actions.indexOf(chosen));
-    if (!has(column))
+    const int column = m_menu->choose(*m_view.header(), pos);
+    if (!self || !has(column))
         return;
     const bool hide = !m_view.isColumnHidden(column);
     if (hide)

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QList>
 #include <QPoint>
 #include <QString>
 #include <QStringList>
 
 #include <vector>
 
-class QAction;
-class QMenu;
+class ColumnMenu;
 class QTreeWidgetItem;
 class SortListView;
 
@@ -44,13 +42,10 @@ public:
     void runMenu(QPoint pos);
 
 private:
-    void updateActions();
-
     SortListView& m_view;
-    QMenu* m_menu;
+    ColumnMenu* m_menu;
     bool m_hasMenu = false;
     QString m_name;
     QStringList m_labels;
     std::vector<int> m_alignments;
-    QList<QAction*> m_actions; ///< One for each column that was added.
 };

@@ -5,6 +5,7 @@ guibase_room(records OBJECT
         columntext.cpp columntext.h
         dockstatecheck.cpp dockstatecheck.h
         geometryrecord.cpp geometryrecord.h
+        headerstate.cpp headerstate.h
         hexadecimal.cpp hexadecimal.h
         recordstore.cpp recordstore.h
         screenplacement.cpp screenplacement.h

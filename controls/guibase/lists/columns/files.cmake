@@ -4,6 +4,7 @@ guibase_room(lists/columns
         qheaderviewcolumnhandler.cpp qheaderviewcolumnhandler.h
     INTERNAL
         guibasecolumns.cpp
+        columnmenu.cpp columnmenu.h
         columntable.cpp columntable.h
-        headerstate.cpp headerstate_p.h
+        headerarrangement.cpp headerarrangement.h
         listcolumnkeys.cpp listcolumnkeys.h)

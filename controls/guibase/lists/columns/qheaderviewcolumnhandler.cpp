@@ -1,33 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "qheaderviewcolumnhandler.h"
 
-#include "headerstate_p.h"
+#include "columnmenu.h"
+#include "headerarrangement.h"
 
 #include <guibase/records/geometryrecord.h>
+#include <guibase/records/headerstate.h>
 #include <guibase/records/recordstore.h>
 
 #include <trovappstartup/cfgcenter.h>
 
-#include <QAbstractItemModel>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QMenu>
 
-namespace {
-
-constexpr qsizetype maximumTextLength = 1 << 20;
-
-/// The bytes of a stored text; empty for a text that is no base64.
-QByteArray fromStoredText(const QString& text)
-{
-    if (text.size() > maximumTextLength)
-        return {};
-    const auto decoded =
-        QByteArray::fromBase64Encoding(text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
-    return decoded ? *decoded : QByteArray();
-}
-
-} // namespace
+#include <algorithm>
 
 namespace guiHelper {
 
@@ -68,43 +54,41 @@ void QHeaderViewColumnHandler::restoreColumnStatus()
 {
     if (!m_header)
         return;
-    const ICfg* const cfg = CfgCenter::GetAppCfg(SettingsView);
-    const QByteArray geometry = fromStoredText(cfg->GetString(key("_GEOM")));
+    const RecordStore store(SettingsView);
+    const QByteArray geometry = QByteArray::fromBase64(store.text(key("_GEOM")).toLatin1());
     // A view places its headers itself.
     if (m_header->isWindow() && GeometryRecord::fromBytes(geometry))
         m_header->restoreGeometry(geometry);
-    const QString stateText = cfg->GetString(key("_STATE"));
-    if (!stateText.isEmpty())
-        restoreState(stateText, 0);
+    const auto state = store.read(key("_STATE"), QStringLiteral("it is no state of such a header"),
+                                  [this](const QString& text) {
+                                      return HeaderState::fromText(text, m_header->orientation());
+                                  });
+    if (state)
+        restoreState(*state, 0);
 }
 
-void QHeaderViewColumnHandler::restoreState(const QString& text, int firstSection)
+void QHeaderViewColumnHandler::restoreState(const HeaderState& state, int firstSection)
 {
-    m_awaitedState.clear();
-    const QByteArray bytes = fromStoredText(text);
-    const auto state = HeaderState::fromBytes(bytes, m_header->orientation());
-    if (!state) {
-        RecordStore::keepAside(*CfgCenter::GetAppCfg(SettingsView),
-                               {{RecordStore::asideName(key("_STATE")), text}}, key("_STATE"),
-                               QStringLiteral("it is no state of such a header"));
-        return;
+    m_awaited.reset();
+    QHeaderView& header = *m_header;
+    const auto count = std::min<qsizetype>(header.count(), state.sections.size());
+    const bool isWhole = count == state.sections.size();
+    if (isWhole && firstSection == 0 && state.sortSection <= header.count()) {
+        header.restoreState(state.bytes);
+        HeaderArrangement::apply(header, {}, 0);
+    } else {
+        HeaderArrangement::apply(header, state.sections, firstSection);
+        if (state.sortSection >= firstSection && state.sortSection < count)
+            header.setSortIndicator(state.sortSection, state.sortOrder);
     }
-    const bool isWhole = state->sections.size() <= m_header->count();
-    if (isWhole && firstSection == 0 && state->sortSection <= m_header->count())
-        m_header->restoreState(bytes);
-    else
-        state->applyTo(*m_header, firstSection);
-    // Without any section there would be no header to bring the others back with.
-    if (m_header->count() > 0 && m_header->hiddenSectionCount() == m_header->count())
-        m_header->showSection(m_header->logicalIndex(0));
     if (!isWhole)
-        m_awaitedState = text;
+        m_awaited = std::make_unique<HeaderState>(state);
 }
 
 void QHeaderViewColumnHandler::restoreAwaited(int oldCount, int newCount)
 {
-    if (newCount > oldCount && !m_awaitedState.isEmpty())
-        restoreState(QString(m_awaitedState), oldCount);
+    if (newCount > oldCount && m_awaited)
+        restoreState(HeaderState(*m_awaited), oldCount);
 }
 
 void QHeaderViewColumnHandler::watchView()
@@ -140,31 +124,20 @@ void QHeaderViewColumnHandler::sl_contextMenu(QPoint position)
 {
     if (!m_header || m_header->model() == nullptr)
         return;
-    QMenu menu;
-    const int visible = m_header->count() - m_header->hiddenSectionCount();
-    for (int section = 0; section < m_header->count(); ++section) {
-        const QVariant title = m_header->model()->headerData(section, m_header->orientation());
-        QAction* const action = menu.addAction(title.toString());
-        action->setCheckable(true);
-        action->setChecked(!m_header->isSectionHidden(section));
-        action->setEnabled(visible != 1 || m_header->isSectionHidden(section));
-    }
-    QAction* showAll = nullptr;
-    if (m_header->hiddenSectionCount() > 0) {
-        menu.addSeparator();
-        showAll = menu.addAction(tr("Show All"));
-    }
+    // Belongs to the header, which may die while the menu is open.
+    const QPointer<ColumnMenu> menu = new ColumnMenu(m_header);
     const QPointer<QHeaderViewColumnHandler> self(this);
-    QAction* const chosen = menu.exec(m_header->mapToGlobal(position));
-    if (chosen == nullptr || !self || !m_header)
+    const int section =
+        menu->choose(*m_header, m_header->mapToGlobal(position), ColumnMenu::ShowAll::Offered);
+    delete menu;
+    if (!self || !m_header)
         return;
-    if (chosen == showAll) {
-        for (int section = 0; section < m_header->count(); ++section)
-            m_header->showSection(section);
-        return;
+    if (section == ColumnMenu::allSections) {
+        for (int each = 0; each < m_header->count(); ++each)
+            m_header->showSection(each);
+    } else if (section >= 0) {
+        m_header->setSectionHidden(section, !m_header->isSectionHidden(section));
     }
-    const int section = static_cast<int>(menu.actions().indexOf(chosen));
-    m_header->setSectionHidden(section, !m_header->isSectionHidden(section));
 }
 
 } // namespace guiHelper

@@ -8,8 +8,11 @@
 #include <QPointer>
 #include <QString>
 
+#include <memory>
+
 class QHeaderView;
 class QWidget;
+struct HeaderState;
 
 namespace guiHelper {
 
@@ -42,13 +45,14 @@ private Q_SLOTS:
 
 private:
     QString key(const char* suffix) const;
-    void restoreState(const QString& text, int firstSection);
+    void restoreState(const HeaderState& state, int firstSection);
     void restoreAwaited(int oldCount, int newCount);
     void watchView();
 
     QPointer<QHeaderView> m_header;
     QPointer<QWidget> m_view;
-    QString m_awaitedState; ///< Restored while sections that it knows were missing.
+    /// Restored while sections that it knows were missing.
+    std::unique_ptr<HeaderState> m_awaited;
 };
 
 } // namespace guiHelper
