@@ -48,7 +48,7 @@ QString state(MainWindow& window)
         const bool hides = QMainWindowHelpers::AutoHideSupport::autoHideAction(*dock)->isChecked();
         const bool isClosed = dock->isHidden() && !hides;
         QDebug(&text) << "" << dock->widget()->objectName() << "hides" << hides << "closed"
-                      << isClosed;
+                      << isClosed << "floats" << (dock->isFloating() && !hides);
         if (!hides && !dock->visibleRegion().isEmpty())
             QDebug(&text) << dock->size();
     }
@@ -83,6 +83,9 @@ void change(MainWindow& window, const QString& folder)
     window.resizeDocks({signalDock}, {290}, Qt::Vertical);
     QMainWindowHelpers::AutoHideSupport::get(window)->enableAutoHide(
         *window.panelDocks().dock(QStringLiteral("levels")));
+    QDockWidget* bearings = window.panelDocks().dock(QStringLiteral("bearings"));
+    bearings->show();
+    bearings->setFloating(true);
     QApplication::processEvents(); // lays the window out
     window.bandView().splitter()->shiftHandle(1, -37);
     window.panel<SignalsPanel>().list().setColumnWidth(SignalsPanel::Type, 123);

@@ -68,13 +68,13 @@ void putBack(QMainWindow& window, const FormerDock& former)
     const bool wasHidden = dock->isHidden();
     if (window.dockWidgetArea(dock) == Qt::NoDockWidgetArea)
         window.addDockWidget(former.area, dock);
-    const auto tabs = window.tabifiedDockWidgets(dock);
     const auto isThere = [&](QDockWidget* other) {
         return other != nullptr && !other->isFloating() &&
                window.dockWidgetArea(other) == former.area;
     };
     const auto other = std::find_if(former.tabs.cbegin(), former.tabs.cend(), isThere);
-    if (tabs.isEmpty() && !dock->isFloating() && other != former.tabs.cend())
+    if (other != former.tabs.cend() && !dock->isFloating() &&
+        window.tabifiedDockWidgets(dock).isEmpty())
         window.tabifyDockWidget(*other, dock);
     if (dock->isHidden() != wasHidden)
         dock->setHidden(wasHidden);
@@ -95,16 +95,17 @@ QByteArray DockRestore::save(const QMainWindow& window)
     return window.saveState(stateVersion);
 }
 
-void DockRestore::restore(QMainWindow& window, const QByteArray& state)
+void DockRestore::restore(QMainWindow& window, const DockLayout& layout)
 {
-    const auto known = DockStateCheck::names(state, stateVersion);
+    const auto known =
+        layout.names ? layout.names : DockStateCheck::names(layout.state, stateVersion);
     if (!known)
         return;
     const std::vector<FormerDock> docks = formerDocks(window, known->docks);
     const std::vector<FormerToolBar> toolBars = unknownToolBars(window, known->toolBars);
 
     const QPointer<QMainWindow> guard(&window);
-    window.restoreState(state, stateVersion);
+    window.restoreState(layout.state, stateVersion);
     for (const FormerDock& former : docks) {
         if (guard)
             putBack(window, former);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <guibase/records/docklayout.h>
+
 #include <QByteArray>
 #include <QDockWidget>
 #include <QPointer>
@@ -18,7 +20,7 @@ QByteArray save(const QMainWindow& window);
 /// Applies the layout. Docks and tool bars that it does not know stay where they are: in their
 /// area, tabs and line. Floating docks come back whole on a screen of today. A state that
 /// DockStateCheck refuses changes nothing.
-void restore(QMainWindow& window, const QByteArray& state);
+void restore(QMainWindow& window, const DockLayout& layout);
 
 /// Where a dock is in its window, regardless of sizes.
 struct Place

@@ -7,4 +7,6 @@ guibase_room(layouts
         modetable.cpp modetable_p.h
         persistentwidget.cpp persistentwidget_p.h
         persistentwidgetregistry.cpp persistentwidgetregistry.h
-        widgetplacement.cpp widgetplacement.h)
+        sizewait.cpp sizewait_p.h
+        widgetplacement.cpp widgetplacement.h
+        windowrecord.cpp windowrecord_p.h)

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <guibase/records/docklayout.h>
 #include <guibase/records/staterecord.h>
 
 #include <QByteArray>
-#include <QString>
 
 #include <map>
 
-/// The dock layout that a main window has in one mode of the application. The states are those of
-/// QMainWindow::saveState(); an empty one is not known.
+/// The dock layouts that a main window has in one mode of the application; an empty one is not
+/// known.
 struct ModeLayout
 {
-    QByteArray factoryState;      ///< Before any stored layout was applied.
-    QByteArray programStartState; ///< As the record was read.
-    QString stateText;            ///< Hexadecimal form of the latest state.
+    QByteArray factory;      ///< Before any stored layout was applied.
+    QByteArray programStart; ///< As the record was read.
+    DockLayout latest;
 };
 
 /// The dock layouts of a window in all modes, one of which is the current one. Mode 0 is always
@@ -25,16 +25,16 @@ public:
     ModeTable();
 
     ModeLayout& current() { return *m_current; }
-    /// The layout of the mode, a new one if it had none.
+    /// The layouts of the mode, new ones if it had none.
     ModeLayout& layout(quint32 mode) { return m_layouts[mode]; }
     void setCurrent(quint32 mode) { m_current = &m_layouts[mode]; }
 
     /// Takes over the record's layouts as those at program start. Without any, all modes go back to
     /// their layouts at program start.
     void load(const StateRecord::Layouts& layouts);
-    StateRecord::Layouts texts() const;
-    /// All modes go back to the layouts that `state` points to.
-    void reset(QByteArray ModeLayout::*state);
+    StateRecord::Layouts latest() const;
+    /// All modes go back to the layouts that `former` points to.
+    void reset(QByteArray ModeLayout::*former);
 
 private:
     std::map<quint32, ModeLayout> m_layouts;

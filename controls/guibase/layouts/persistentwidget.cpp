@@ -3,13 +3,13 @@
 
 #include "widgetplacement.h"
 
-#include <guibase/records/dockstatecheck.h>
-#include <guibase/records/hexadecimal.h>
-#include <guibase/records/recordstore.h>
+#include <guibase/records/geometryrecord.h>
 
 #include <jtbase/qtimerhelpers.h>
+#include <trovappstartup/cfgcenter.h>
 
 #include <QChildEvent>
+#include <QDialog>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QMdiSubWindow>
@@ -20,9 +20,7 @@
 
 namespace {
 
-/// How long window managers take to give a window its stored size, in milliseconds.
-constexpr int sizeMilliseconds = 2000;
-/// So long after the first showing, a move is that of the window manager.
+/// In milliseconds: so long after the first showing, a move is that of the window manager.
 constexpr int placeMilliseconds = 1000;
 
 QMainWindow* mainWindowOf(QWidget* widget)
@@ -32,12 +30,6 @@ QMainWindow* mainWindowOf(QWidget* widget)
     return qobject_cast<QMainWindow*>(widget);
 }
 
-bool isDockLayout(const QString& text)
-{
-    const auto state = Hexadecimal::decode(text);
-    return state && DockStateCheck::isValid(*state, DockRestore::stateVersion);
-}
-
 } // namespace
 
 PersistentWidget::PersistentWidget(QWidget* widget, const QString& recordName)
@@ -45,14 +37,12 @@ PersistentWidget::PersistentWidget(QWidget* widget, const QString& recordName)
     , m_mainWindow(mainWindowOf(widget))
     , m_hasMainWindow(m_mainWindow != nullptr)
     , m_identity(widget)
-    , m_record(cleanedName(recordName), this)
+    , m_record(cleanedName(recordName), *this)
 {
-    m_record.Add(&m_stateText, QStringLiteral("State"));
-    m_record.Add(&m_geometryText, QStringLiteral("Geometry"));
-    m_record.Add(&m_isMinimized, QStringLiteral("Minimized"), false);
     connect(widget, &QObject::destroyed, this, &PersistentWidget::slotWidgetDestroyed);
     if (m_mainWindow && m_mainWindow != m_widget)
         connect(m_mainWindow, &QObject::destroyed, this, &PersistentWidget::slotWidgetDestroyed);
+    connect(&m_sizeWait, &SizeWait::ended, this, &PersistentWidget::noteChange);
     CfgCenter::RegisterSaveComponent(this);
 }
 
@@ -97,15 +87,16 @@ void PersistentWidget::slotWidgetDestroyed(QObject* object)
 
 void PersistentWidget::read()
 {
-    m_record.Read(QString());
+    m_record.read();
 }
 
 void PersistentWidget::write()
 {
     // Captures on the way to the record are no news.
     const QScopedValueRollback<bool> writing(m_isWriting, true);
-    m_record.Write(QString());
+    capture();
     m_isChanged = false;
+    m_record.write(content());
 }
 
 void PersistentWidget::writeChanges()
@@ -126,65 +117,28 @@ void PersistentWidget::CommitData()
     write();
 }
 
+WindowRecord::Content PersistentWidget::content() const
+{
+    return {m_modes.latest(), m_geometry, m_isMinimized};
+}
+
 void PersistentWidget::ApplyPersistantBeforeWrite()
 {
-    capture();
-    StateRecord::Layouts layouts = m_modes.texts();
-    if (layouts == m_encodedLayouts)
-        return;
-    m_stateText = StateRecord::encode(layouts);
-    m_encodedLayouts = std::move(layouts);
+    m_record.set(content());
 }
 
 void PersistentWidget::ApplyPersistantAfterRead()
 {
     if (!m_widget)
         return;
-    takeLayoutsFromRecord();
-    takeGeometryFromRecord();
+    const WindowRecord::Content content = m_record.take(m_widget->isWindow());
+    m_modes.load(content.layouts);
+    m_modes.current().latest.names = m_record.firstNames();
+    m_isMinimized = content.isMinimized;
+    m_geometry = content.geometry;
+    if (const auto geometry = GeometryRecord::fromBytes(m_geometry))
+        m_normalPlace = geometry->normal;
     applyStart();
-}
-
-void PersistentWidget::takeLayoutsFromRecord()
-{
-    std::optional<StateRecord::Layouts> layouts = StateRecord::decode(m_stateText);
-    if (!layouts) {
-        // Without the tag it is somebody else's text.
-        if (StateRecord::isTagged(m_stateText))
-            keepAside(QStringLiteral("the dock layouts cannot be read"));
-        layouts.emplace();
-    }
-    bool isWhole = !layouts->empty();
-    for (auto& [mode, text] : *layouts) {
-        if (text.isEmpty() || isDockLayout(text))
-            continue;
-        keepAside(QStringLiteral("the dock layout of mode %1 is damaged").arg(mode));
-        text.clear();
-        isWhole = false;
-    }
-    m_modes.load(*layouts);
-    if (isWhole)
-        m_encodedLayouts = m_modes.texts();
-}
-
-void PersistentWidget::takeGeometryFromRecord()
-{
-    if (!m_geometryText.isEmpty() &&
-        WidgetPlacement::fromText(m_geometryText, m_widget->isWindow()).isEmpty()) {
-        keepAside(QStringLiteral("the geometry is damaged"));
-        m_geometryText.clear();
-    }
-}
-
-void PersistentWidget::keepAside(const QString& reason)
-{
-    const QString& name = m_record.GetName();
-    const std::unique_ptr<ICfg> place =
-        CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(RecordStore::asideName(name));
-    RecordStore::keepAside(
-        *place,
-        {{QStringLiteral("State"), m_stateText}, {QStringLiteral("Geometry"), m_geometryText}},
-        name, reason);
 }
 
 // --- Capturing -----------------------------------------------------------------------------------
@@ -206,29 +160,86 @@ void PersistentWidget::noteChange()
     Q_EMIT changed();
 }
 
+QByteArray PersistentWidget::presentGeometry()
+{
+    QByteArray bytes = m_widget->saveGeometry();
+    if (m_widget->isWindow())
+        return bytes;
+    if (!m_widget->isMaximized() && !m_widget->isFullScreen()) {
+        m_normalPlace = m_widget->geometry();
+        return bytes;
+    }
+    auto record = GeometryRecord::fromBytes(bytes);
+    if (!record || m_normalPlace.isEmpty())
+        return bytes;
+    record->normal = m_normalPlace;
+    return record->toBytes();
+}
+
 void PersistentWidget::capture()
 {
-    const QMainWindow* docks = mainWindow();
     // An MDI sub-window that has lost its main window shrinks to nothing.
-    if (!m_widget || (m_hasMainWindow && docks == nullptr))
+    if (!m_widget || (m_hasMainWindow && mainWindow() == nullptr))
         return;
     if (!m_widget->isMinimized())
-        update(m_geometryText, Hexadecimal::encode(m_widget->saveGeometry()));
+        update(m_geometry, presentGeometry());
     update(m_isMinimized, m_widget->isMinimized());
-    if (docks == nullptr || m_isRestoringDocks)
+    captureDocks();
+}
+
+void PersistentWidget::captureDocks()
+{
+    const QMainWindow* docks = mainWindow();
+    // The toolkit closes the floating docks of a closed window when it likes.
+    const bool isGone = m_isEnding || !m_widget || (m_isClosed && m_widget->isHidden());
+    if (docks == nullptr || isGone || m_isRestoringDocks)
         return;
     // The application or the user has other plans than the layout that is awaited.
-    if (DockRestore::isRearranged(m_awaitedPlaces))
-        endAwaiting();
-    if (m_awaitingState.isEmpty())
-        update(m_modes.current().stateText, Hexadecimal::encode(DockRestore::save(*docks)));
+    m_sizeWait.endIfRearranged();
+    if (!m_sizeWait.isOn())
+        update(m_modes.current().latest, {DockRestore::save(*docks), std::nullopt});
+}
+
+/// Once for all the docks that change together. Their window may be gone before the next write.
+void PersistentWidget::captureDocksSoon()
+{
+    noteChange();
+    if (m_isRestoringDocks || m_captureTimer)
+        return;
+    m_captureTimer = QTimerHelpers::singleShot(0, this, [this] {
+        m_captureTimer.clear(); // It deletes itself.
+        captureDocks();
+    });
+}
+
+void PersistentWidget::beginEnd()
+{
+    capture();
+    m_isEnding = true;
+    m_openAtEnd.clear();
+    const auto docks =
+        m_mainWindow ? m_mainWindow->findChildren<QDockWidget*>() : QList<QDockWidget*>();
+    for (QDockWidget* dock : docks) {
+        if (dock->isFloating() && dock->isVisible())
+            m_openAtEnd.emplace_back(dock);
+    }
+}
+
+void PersistentWidget::giveUpEnd()
+{
+    const auto docks = std::exchange(m_openAtEnd, {});
+    for (const QPointer<QDockWidget>& dock : docks) {
+        if (dock && m_widget && m_widget->isVisible())
+            dock->show();
+    }
+    m_isEnding = false;
 }
 
 bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isWindow = watched == m_widget || watched == m_mainWindow;
-    if (watched == m_widget && (event->type() == QEvent::Close || event->type() == QEvent::Show))
-        m_isClosed = event->type() == QEvent::Close;
+    if (watched == m_widget)
+        noteVisibility(*event);
     switch (event->type()) {
     case QEvent::MouseButtonRelease:
     case QEvent::Move:
@@ -240,10 +251,16 @@ bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
         if (isWindow)
             capture();
         else
-            noteChange();
+            captureDocksSoon();
+        break;
+    case QEvent::DeferredDelete:
+        if (isWindow)
+            capture();
         break;
     case QEvent::Show:
     case QEvent::Hide:
+        captureDocksSoon();
+        break;
     case QEvent::LayoutRequest:
         // Docks come, go and move; their places are captured with the next write.
         noteChange();
@@ -251,7 +268,7 @@ bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonPress:
     case QEvent::NonClientAreaMouseButtonPress:
     case QEvent::KeyPress:
-        endAwaiting();
+        m_sizeWait.end();
         break;
     case QEvent::ChildPolished: {
         QObject* child = static_cast<QChildEvent*>(event)->child();
@@ -262,15 +279,28 @@ bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
     default:
         break;
     }
-    if (event->type() == QEvent::Resize && watched == m_mainWindow && !m_awaitingState.isEmpty())
+    if (event->type() == QEvent::Resize && watched == m_mainWindow && m_sizeWait.isOn())
         QTimerHelpers::singleShot(0, this, [this] { Q_EMIT resized(); });
     return false;
 }
 
+/// A dialog that is accepted or rejected is hidden without being closed.
+void PersistentWidget::noteVisibility(const QEvent& event)
+{
+    const bool isDismissed = event.type() == QEvent::Hide && !event.spontaneous() &&
+                             qobject_cast<QDialog*>(m_widget) != nullptr;
+    if (event.type() == QEvent::Close || isDismissed)
+        m_isClosed = true;
+    else if (event.type() == QEvent::Show)
+        m_isClosed = false;
+}
+
 void PersistentWidget::watch()
 {
-    if (m_widget)
+    if (m_widget) {
         m_widget->installEventFilter(this);
+        m_isClosed = m_isClosed && m_widget->isHidden(); // It may have been shown meanwhile.
+    }
     if (m_mainWindow && m_mainWindow != m_widget)
         m_mainWindow->installEventFilter(this);
     watchDocks();
@@ -303,9 +333,8 @@ void PersistentWidget::applyStart()
         m_factoryGeometry = m_widget->saveGeometry();
         m_isFactoryPlaced = isPlaced;
     }
-    const bool isStored = !m_geometryText.isEmpty();
-    m_startGeometry =
-        isStored ? WidgetPlacement::fromText(m_geometryText) : m_widget->saveGeometry();
+    const bool isStored = !m_geometry.isEmpty();
+    m_startGeometry = isStored ? m_geometry : m_widget->saveGeometry();
     QSize size;
     if (isStored)
         size = WidgetPlacement::apply(*m_widget, m_startGeometry);
@@ -334,77 +363,37 @@ void PersistentWidget::applyCurrentLayout()
         return;
     ModeLayout& layout = m_modes.current();
     const QByteArray present = DockRestore::save(*docks);
-    if (layout.factoryState.isEmpty())
-        layout.factoryState = present;
-    const QByteArray state = Hexadecimal::decode(layout.stateText).value_or(QByteArray());
-    if (layout.programStartState.isEmpty())
-        layout.programStartState = state.isEmpty() ? present : state;
-    if (state != present)
-        restoreDocks(state);
+    if (layout.factory.isEmpty())
+        layout.factory = present;
+    if (layout.programStart.isEmpty())
+        layout.programStart = layout.latest.state.isEmpty() ? present : layout.latest.state;
+    if (layout.latest.state != present)
+        restoreDocks(DockLayout(layout.latest));
 }
 
-void PersistentWidget::restoreDocks(const QByteArray& state)
+void PersistentWidget::restoreDocks(const DockLayout& layout)
 {
     QMainWindow* docks = mainWindow();
-    if (docks == nullptr || state.isEmpty() || m_isRestoringDocks)
+    if (docks == nullptr || layout.state.isEmpty() || m_isRestoringDocks)
         return;
     const QScopedValueRollback<bool> restoring(m_isRestoringDocks, true);
     const bool isInner = docks != m_widget;
     if (isInner)
         docks->removeEventFilter(this);
-    DockRestore::restore(*docks, state);
+    DockRestore::restore(*docks, layout);
     if (isInner && m_mainWindow)
         m_mainWindow->installEventFilter(this);
 }
 
-/// A window that is still on its way to its stored size, as maximized ones are, is too small for
-/// its docks: they would come back squeezed. They are put in place again with each resizing until
-/// the size is there, or somebody else arranges them.
 void PersistentWidget::awaitSize(const QSize& size)
 {
-    m_awaitedSize = size;
-    const QByteArray state =
-        Hexadecimal::decode(m_modes.current().stateText).value_or(QByteArray());
-    if (state.isEmpty() || !size.isValid() || m_mainWindow != m_widget || hasAwaitedSize())
-        return;
-    m_awaitingState = state;
-    m_awaitedPlaces = DockRestore::places(*mainWindow());
-    m_awaitingTimer = QTimerHelpers::singleShot(sizeMilliseconds, this, [this] {
-        m_awaitingTimer.clear(); // It deletes itself.
-        endAwaiting();
-    });
-}
-
-/// True also without a widget.
-bool PersistentWidget::hasAwaitedSize() const
-{
-    return !m_widget ||
-           m_widget->size() ==
-               m_awaitedSize.expandedTo(m_widget->minimumSize()).boundedTo(m_widget->maximumSize());
-}
-
-/// What has changed while the size was awaited is there to be captured now.
-void PersistentWidget::endAwaiting()
-{
-    if (m_awaitingState.isEmpty())
-        return;
-    m_awaitingState.clear();
-    m_awaitedPlaces.clear();
-    delete m_awaitingTimer;
-    noteChange();
+    if (m_mainWindow == m_widget)
+        m_sizeWait.start(mainWindow(), m_modes.current().latest, size);
 }
 
 void PersistentWidget::applyAwaited()
 {
-    if (DockRestore::isRearranged(m_awaitedPlaces))
-        endAwaiting();
-    if (m_awaitingState.isEmpty())
-        return;
-    restoreDocks(m_awaitingState);
-    if (hasAwaitedSize() || mainWindow() == nullptr)
-        endAwaiting();
-    else if (!m_awaitingState.isEmpty())
-        m_awaitedPlaces = DockRestore::places(*mainWindow());
+    m_sizeWait.retry([this](const DockLayout& layout) { restoreDocks(layout); });
 }
 
 void PersistentWidget::restoreGeometryIfMoved(const QByteArray& geometry)
@@ -424,14 +413,14 @@ void PersistentWidget::minimizeLater()
 
 void PersistentWidget::restoreProgramStart()
 {
-    restore(m_startGeometry, &ModeLayout::programStartState);
+    restore(m_startGeometry, &ModeLayout::programStart);
     if (m_widget && m_startMinimized == StartMinimized::Yes)
         m_widget->showMinimized();
 }
 
 void PersistentWidget::restoreFactory()
 {
-    restore(m_factoryGeometry, &ModeLayout::factoryState);
+    restore(m_factoryGeometry, &ModeLayout::factory);
     if (m_widget && !m_isFactoryPlaced) {
         QRect frame = m_widget->frameGeometry();
         frame.moveCenter(m_widget->screen()->availableGeometry().center());
@@ -439,20 +428,20 @@ void PersistentWidget::restoreFactory()
     }
 }
 
-void PersistentWidget::restore(const QByteArray& geometry, QByteArray ModeLayout::*state)
+void PersistentWidget::restore(const QByteArray& geometry, QByteArray ModeLayout::*former)
 {
     if (!m_widget)
         return;
-    endAwaiting();
-    m_modes.reset(state);
+    m_sizeWait.end();
+    m_modes.reset(former);
     unwatch();
     if (!geometry.isEmpty()) {
         WidgetPlacement::apply(*m_widget, geometry);
         if (m_widget)
             m_widget->show();
     }
-    const QByteArray docks = m_modes.current().*state;
-    if (m_mainWindow && !docks.isEmpty()) {
+    const DockLayout docks = m_modes.current().latest;
+    if (m_mainWindow && !docks.state.isEmpty()) {
         restoreDocks(docks);
         restoreGeometryIfMoved(geometry);
     }
@@ -465,8 +454,8 @@ void PersistentWidget::restore(const QByteArray& geometry, QByteArray ModeLayout
 void PersistentWidget::setMode(quint32 mode)
 {
     capture();
-    const bool isAwaiting = !m_awaitingState.isEmpty();
-    endAwaiting();
+    const bool isAwaiting = m_sizeWait.isOn();
+    m_sizeWait.end();
     m_modes.setCurrent(mode);
     if (!m_widget)
         return;
@@ -477,7 +466,7 @@ void PersistentWidget::setMode(quint32 mode)
     applyCurrentLayout();
     restoreGeometryIfMoved(geometry);
     if (isAwaiting)
-        awaitSize(QSize(m_awaitedSize));
+        awaitSize(m_sizeWait.size());
     watch();
     noteChange();
 }
@@ -488,8 +477,8 @@ void PersistentWidget::storeFactory(quint32 mode)
     if (!m_widget || docks == nullptr)
         return;
     ModeLayout& layout = m_modes.layout(mode);
-    layout.factoryState = DockRestore::save(*docks);
-    if (layout.stateText.isEmpty())
-        layout.stateText = Hexadecimal::encode(layout.factoryState);
+    layout.factory = DockRestore::save(*docks);
+    if (layout.latest.state.isEmpty())
+        layout.latest.state = layout.factory;
     noteChange();
 }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "dockrestore_p.h"
 #include "modetable_p.h"
+#include "sizewait_p.h"
+#include "windowrecord_p.h"
 
 #include <trovappstartup/savecomponentif.h>
 #include <valueframework/persistant.h>
@@ -10,8 +11,11 @@
 #include <QByteArray>
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 #include <QString>
 #include <QWidget>
+
+#include <vector>
 
 class QMainWindow;
 class QTimer;
@@ -22,10 +26,10 @@ class QTimer;
 /// A change of the mode changes the docks and shows the window, unless the user has closed it. The
 /// program start stays the one of the record.
 ///
-/// The widget is not owned. What it looked like last is remembered when its geometry changes, when
-/// it is closed and with every write, so that it can be written also after the widget is gone. A
-/// stored state that does not pass its check is not applied; the record is then kept aside, once,
-/// under its name followed by "_damaged".
+/// The widget is not owned. What it looked like last is remembered with every change, so that it
+/// can be written also after the widget is gone; docks that close only because their window or the
+/// application does are no change. A stored state that does not pass its check is not applied; the
+/// record is then kept aside, once, under its name followed by "_damaged".
 class PersistentWidget : public QObject, public PersistantOwner, public SaveComponentIf
 {
     Q_OBJECT
@@ -42,12 +46,18 @@ public:
     bool watches(const QObject* object) const;
     /// Reads the record, applies it to the widget and shows the widget. To be called once.
     void read();
+    /// Writes what another process may not have written just so already.
     void write();
     /// Writes only if something has changed since the last write.
     void writeChanges();
     void restoreProgramStart();
     void restoreFactory();
+    /// Takes over what the widget looks like now.
     void capture();
+    /// The application begins, or gives up, to end. Meanwhile the toolkit closes docks by itself:
+    /// those that it has closed in vain are opened again.
+    void beginEnd();
+    void giveUpEnd();
     void applyAwaited();
     /// Captures the dock layout of the current mode, applies that of another one and shows the
     /// widget unless it was closed.
@@ -80,16 +90,16 @@ private:
     enum class StartMinimized : quint8 { No = 0, Yes = 1, Unknown = 2 };
 
     QMainWindow* mainWindow() const;
-    void takeLayoutsFromRecord();
-    void takeGeometryFromRecord();
-    void keepAside(const QString& reason);
+    WindowRecord::Content content() const;
+    QByteArray presentGeometry();
+    void captureDocks();
+    void captureDocksSoon();
+    void noteVisibility(const QEvent& event);
     void applyStart();
     void applyCurrentLayout();
-    void restore(const QByteArray& geometry, QByteArray ModeLayout::*state);
-    void restoreDocks(const QByteArray& state);
+    void restore(const QByteArray& geometry, QByteArray ModeLayout::*former);
+    void restoreDocks(const DockLayout& layout);
     void awaitSize(const QSize& size);
-    bool hasAwaitedSize() const;
-    void endAwaiting();
     void restoreGeometryIfMoved(const QByteArray& geometry);
     void minimizeLater();
     void watch();
@@ -104,28 +114,27 @@ private:
     QPointer<QObject> m_mainWindow;
     bool m_hasMainWindow;
     const QObject* m_identity;
-    Persistant m_record;
+    WindowRecord m_record;
+
     bool m_isMinimized = false;
     bool m_isClosed = false; ///< By the user or with QWidget::close(), and not shown since.
+    bool m_isEnding = false;
+    std::vector<QPointer<QDockWidget>> m_openAtEnd; ///< The floating docks that were.
     StartMinimized m_startMinimized = StartMinimized::Unknown;
     QByteArray m_startGeometry;
     QByteArray m_factoryGeometry;
+    QByteArray m_geometry; ///< The latest.
+    QRect m_normalPlace;   ///< Of a child widget: the toolkit knows it of windows
+                           ///< only.
     /// Whether the application gave the window a place; otherwise the window manager does, and the
     /// factory's place is the middle of the screen.
     bool m_isFactoryPlaced = true;
     bool m_awaitsPlace = false; ///< The window manager's, which counts as that of program start.
-    QString m_geometryText;
     ModeTable m_modes;
-    QString m_stateText;
-    StateRecord::Layouts m_encodedLayouts; ///< What m_stateText holds; packing takes its time.
+    SizeWait m_sizeWait;
+    QPointer<QTimer> m_captureTimer;
     bool m_isChanged = false;
     bool m_isWriting = false;
     /// The toolkit cannot restore a main window from within its own restoring.
     bool m_isRestoringDocks = false;
-    /// A dock layout for a main window that has not got its stored size yet, that size, and the
-    /// docks as the layout has put them.
-    QByteArray m_awaitingState;
-    QSize m_awaitedSize;
-    DockRestore::Places m_awaitedPlaces;
-    QPointer<QTimer> m_awaitingTimer;
 };

@@ -3,9 +3,15 @@
 
 #include "persistentwidget_p.h"
 
+#include <jtbase/qtimerhelpers.h>
+
+#include <QCoreApplication>
+#include <QEvent>
 #include <QScopedValueRollback>
+#include <QThread>
 
 #include <algorithm>
+#include <utility>
 
 PersistentWidgetRegistry::PersistentWidgetRegistry() = default;
 
@@ -27,6 +33,7 @@ void PersistentWidgetRegistry::registerWidget(QWidget* widget, const QString& re
             resized->applyAwaited();
     });
     m_widgets.push_back(entry);
+    QCoreApplication::instance()->installEventFilter(this); // No matter how often.
     entry->read();
 }
 
@@ -54,6 +61,38 @@ void PersistentWidgetRegistry::forEachWidget(
     const auto widgets = m_widgets;
     for (const auto& entry : widgets)
         operation(*entry);
+}
+
+// The toolkit's quit closes window by window, floating docks among them, and ends when one of them
+// refuses.
+bool PersistentWidgetRegistry::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Quit && watched == QCoreApplication::instance())
+        beginEnd();
+    return false;
+}
+
+void PersistentWidgetRegistry::beginEnd()
+{
+    if (std::exchange(m_awaitsEnd, true))
+        return;
+    forEachWidget(&PersistentWidget::beginEnd);
+    awaitEnd(QThread::currentThread()->loopLevel());
+}
+
+/// The application runs on when its loop does. A window that asks whether it may close runs one of
+/// its own.
+void PersistentWidgetRegistry::awaitEnd(int loopLevel)
+{
+    constexpr int milliseconds = 50;
+    QTimerHelpers::singleShot(milliseconds, this, [this, loopLevel] {
+        if (QThread::currentThread()->loopLevel() > loopLevel) {
+            awaitEnd(loopLevel);
+            return;
+        }
+        m_awaitsEnd = false;
+        forEachWidget(&PersistentWidget::giveUpEnd);
+    });
 }
 
 void PersistentWidgetRegistry::write()

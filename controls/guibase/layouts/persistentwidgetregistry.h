@@ -39,6 +39,9 @@ public:
     bool restoreFactory();
     bool isRestoring() const;
 
+    /// Sees the application's request to end before the windows close.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     /// Time from a change to its writing in milliseconds; negative switches writing off.
     void setWriteDelay(int milliseconds);
 
@@ -48,8 +51,11 @@ private:
     void forEachWidget(const std::function<void(PersistentWidget&)>& operation);
     bool restore(void (PersistentWidget::*operation)());
     void writeChanges();
+    void beginEnd();
+    void awaitEnd(int loopLevel);
 
     std::vector<std::shared_ptr<PersistentWidget>> m_widgets;
     bool m_isRestoring = false;
+    bool m_awaitsEnd = false;
     RecordStore m_store{SettingsView, QString(), [this] { writeChanges(); }};
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgetplacement.h"
 
+#include <guibase/records/geometryrecord.h>
 #include <guibase/records/hexadecimal.h>
 #include <guibase/records/screenplacement.h>
 
@@ -75,13 +76,13 @@ bool isPlacedByParent(QWidget& widget)
 
 } // namespace
 
-QByteArray WidgetPlacement::fromText(const QString& text, bool isWindow)
+std::optional<QByteArray> WidgetPlacement::fromText(const QString& text, bool isWindow)
 {
-    const QByteArray bytes = Hexadecimal::decode(text).value_or(QByteArray());
-    const auto record = GeometryRecord::fromBytes(bytes);
+    auto bytes = Hexadecimal::decode(text);
+    const auto record = bytes ? GeometryRecord::fromBytes(*bytes) : std::nullopt;
     if (!record ||
         (isWindow && std::min(record->normal.width(), record->normal.height()) < smallestWindow))
-        return {};
+        return std::nullopt;
     return bytes;
 }
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <guibase/records/geometryrecord.h>
-
+#include <QByteArray>
 #include <QRect>
 #include <QSize>
+
+#include <optional>
 
 class QString;
 class QWidget;
@@ -12,9 +13,9 @@ class QWidget;
 /// Puts widgets where a stored geometry says.
 namespace WidgetPlacement {
 
-/// The bytes of the geometry in the hexadecimal text, or nothing when the text is no geometry; for
-/// a window also nothing when nobody could see it, being narrower or lower than `smallestWindow`.
-QByteArray fromText(const QString& text, bool isWindow = false);
+/// The bytes of the geometry in the hexadecimal text, or nothing when the text is none; for a
+/// window also nothing when nobody could see it, being narrower or lower than `smallestWindow`.
+std::optional<QByteArray> fromText(const QString& text, bool isWindow = false);
 
 /// Applies what QWidget::saveGeometry() has given. Windows come back to the pixel where they were,
 /// but always whole on a screen of today. Child widgets that a layout or a splitter places keep

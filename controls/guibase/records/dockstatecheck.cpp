@@ -23,13 +23,12 @@ constexpr quint8 allFlags = 3;
 class DockWalk
 {
 public:
-    /// Enters the names into `names` unless that is null.
-    DockWalk(const QByteArray& state, DockStateCheck::Names* names)
+    explicit DockWalk(const QByteArray& state)
         : m_walk(state)
-        , m_names(names)
     {}
 
     bool state(int version);
+    const DockStateCheck::Names& names() const { return m_names; }
 
 private:
     void dockAreas();
@@ -44,7 +43,7 @@ private:
     qint32 count(qint32 lowest, int& total);
 
     StateWalk m_walk;
-    DockStateCheck::Names* m_names;
+    DockStateCheck::Names m_names;
     int m_docks = 0;
     int m_toolBars = 0;
 };
@@ -104,9 +103,7 @@ void DockWalk::row(int depth)
 
 void DockWalk::dock()
 {
-    const QByteArrayView name = m_walk.text(longestName);
-    if (m_names != nullptr)
-        m_names->docks.insert(StateWalk::decoded(name));
+    m_names.docks.insert(StateWalk::decoded(m_walk.text(longestName)));
     const quint8 flags = m_walk.byte(0, allFlags);
     if ((flags & floatingFlag) == 0) {
         extent();
@@ -140,9 +137,7 @@ void DockWalk::toolBars()
 
 void DockWalk::toolBar()
 {
-    const QByteArrayView name = m_walk.text(longestName);
-    if (m_names != nullptr)
-        m_names->toolBars.insert(StateWalk::decoded(name));
+    m_names.toolBars.insert(StateWalk::decoded(m_walk.text(longestName)));
     m_walk.byte(0, allFlags); // shown, vertical
     m_walk.number(-farthest, farthest);
     m_walk.number(-1, farthest);
@@ -174,15 +169,10 @@ qint32 DockWalk::count(qint32 lowest, int& total)
 
 } // namespace
 
-bool DockStateCheck::isValid(const QByteArray& state, int version)
-{
-    return state.size() <= maximumSize && DockWalk(state, nullptr).state(version);
-}
-
 std::optional<DockStateCheck::Names> DockStateCheck::names(const QByteArray& state, int version)
 {
-    Names result;
-    if (state.size() > maximumSize || !DockWalk(state, &result).state(version))
+    DockWalk walk(state);
+    if (state.size() > maximumSize || !walk.state(version))
         return std::nullopt;
-    return result;
+    return walk.names();
 }

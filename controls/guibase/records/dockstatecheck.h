@@ -12,17 +12,14 @@
 /// before it is handed over.
 namespace DockStateCheck {
 
-/// Whether the bytes are a whole state as QMainWindow::saveState(version) writes it: the dock areas
-/// with their nested rows and tabs, groups of floating docks, and the tool-bar lines.
-bool isValid(const QByteArray& state, int version);
-
 /// The object names in a state.
 struct Names
 {
     QSet<QString> docks;
     QSet<QString> toolBars;
 };
-/// Nothing for a state that is not valid.
+/// Nothing for bytes that are no whole state as QMainWindow::saveState(version) writes it: the dock
+/// areas with their nested rows and tabs, groups of floating docks, and the tool-bar lines.
 std::optional<Names> names(const QByteArray& state, int version);
 
 inline constexpr int maximumSize = 1 << 20; ///< In bytes.

@@ -3,6 +3,7 @@ guibase_room(records OBJECT
     INTERNAL
         autohidestate.cpp autohidestate.h
         columntext.cpp columntext.h
+        docklayout.h
         dockstatecheck.cpp dockstatecheck.h
         geometryrecord.cpp geometryrecord.h
         headerstate.cpp headerstate.h

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "staterecord.h"
 
-#include <QByteArray>
+#include "hexadecimal.h"
+
 #include <QDataStream>
 #include <QIODevice>
 #include <QtEndian>
@@ -32,7 +33,7 @@ std::optional<QByteArray> uncompressed(const QByteArray& bytes)
     return result;
 }
 
-std::optional<StateRecord::Layouts> parsed(const QByteArray& bytes)
+std::optional<StateRecord::Reading> parsed(const QByteArray& bytes)
 {
     QDataStream stream(bytes);
     stream.setVersion(streamVersion);
@@ -40,51 +41,60 @@ std::optional<StateRecord::Layouts> parsed(const QByteArray& bytes)
     stream >> count;
     if (count > StateRecord::maximumModes)
         return std::nullopt;
-    StateRecord::Layouts layouts;
+    StateRecord::Reading reading;
     for (quint32 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
         quint32 mode = 0;
         QString text;
         stream >> mode >> text;
-        layouts.insert_or_assign(mode, text);
+        if (auto state = Hexadecimal::decode(text))
+            reading.layouts.insert_or_assign(mode, *std::move(state));
+        else
+            reading.damagedModes.append(mode);
     }
     if (stream.status() != QDataStream::Ok || !stream.atEnd())
         return std::nullopt;
-    return layouts;
+    return reading;
 }
 
-bool isWithinLimits(const StateRecord::Layouts& layouts, const QByteArray& bytes,
-                    const QByteArray& packed)
+/// The text for the first `count` layouts; empty when it is beyond one of the limits.
+QString encoded(const StateRecord::Layouts& layouts, std::size_t count)
 {
-    return layouts.size() <= StateRecord::maximumModes &&
-           bytes.size() <= qsizetype{StateRecord::maximumBytes} &&
-           packed.size() <= StateRecord::maximumPackedBytes;
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(streamVersion);
+    stream << static_cast<quint32>(count);
+    const auto end = std::next(layouts.begin(), static_cast<std::ptrdiff_t>(count));
+    for (auto layout = layouts.begin(); layout != end; ++layout)
+        stream << layout->first << Hexadecimal::encode(layout->second);
+    if (bytes.size() > qsizetype{StateRecord::maximumBytes})
+        return {};
+    const QByteArray packed = qCompress(bytes);
+    return packed.size() <= StateRecord::maximumPackedBytes ? tag + QLatin1String(packed.toBase64())
+                                                            : QString();
 }
 
 } // namespace
 
 QString StateRecord::encode(const Layouts& layouts)
 {
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream.setVersion(streamVersion);
-    stream << static_cast<quint32>(layouts.size());
-    for (const auto& [mode, text] : layouts)
-        stream << mode << text;
-    const QByteArray packed = qCompress(bytes);
-    if (isWithinLimits(layouts, bytes, packed))
-        return tag + QLatin1String(packed.toBase64());
-    const std::size_t most = std::min<std::size_t>(layouts.size(), 2 * maximumModes);
-    return encode(Layouts(layouts.begin(), std::next(layouts.begin(), std::ptrdiff_t(most / 2))));
+    std::size_t tooMany = std::min<std::size_t>(layouts.size(), maximumModes) + 1;
+    std::size_t best = 0;
+    QString text = encoded(layouts, tooMany - 1);
+    if (!text.isEmpty())
+        return text;
+    while (tooMany - best > 1) {
+        const std::size_t middle = best + (tooMany - best) / 2;
+        const QString candidate = encoded(layouts, middle);
+        (candidate.isEmpty() ? tooMany : best) = middle;
+        if (!candidate.isEmpty())
+            text = candidate;
+    }
+    return text.isEmpty() ? encoded(layouts, 0) : text;
 }
 
-bool StateRecord::isTagged(const QString& text)
+std::optional<StateRecord::Reading> StateRecord::decode(const QString& text)
 {
-    return text.startsWith(tag);
-}
-
-std::optional<StateRecord::Layouts> StateRecord::decode(const QString& text)
-{
-    if (!isTagged(text))
+    if (!text.startsWith(tag))
         return std::nullopt;
     const auto packed = QByteArray::fromBase64Encoding(QStringView(text).mid(tag.size()).toLatin1(),
                                                        QByteArray::AbortOnBase64DecodingErrors);

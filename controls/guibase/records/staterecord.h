@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
+#include <QList>
 #include <QString>
 
 #include <map>
@@ -12,17 +14,22 @@
 /// and for each, by ascending number, the mode number (both 32 bits) and the layout's text.
 namespace StateRecord {
 
-/// Layout texts by mode number.
-using Layouts = std::map<quint32, QString>;
+/// Dock layouts by mode number, as QMainWindow::saveState() gives them. In the text they are
+/// hexadecimal.
+using Layouts = std::map<quint32, QByteArray>;
+
+struct Reading
+{
+    Layouts layouts;
+    QList<quint32> damagedModes; ///< Their layouts are not hexadecimal, and left out.
+};
 
 /// Layouts that would go beyond one of the limits below are left out, those of the highest mode
 /// numbers first.
 QString encode(const Layouts& layouts);
-/// Whether the text begins with the tag.
-bool isTagged(const QString& text);
 /// Nothing for a text that encode() does not make: without the tag, damaged, or beyond one of the
 /// limits below.
-std::optional<Layouts> decode(const QString& text);
+std::optional<Reading> decode(const QString& text);
 
 inline constexpr quint32 maximumModes = 4096;
 inline constexpr quint32 maximumBytes = 16U << 20;          ///< Of the stream.

@@ -30,12 +30,6 @@ std::optional<State> parsedState(const QString& text)
     return sizes ? std::optional(State{*std::move(bytes), *std::move(sizes)}) : std::nullopt;
 }
 
-std::optional<QByteArray> parsedGeometry(const QString& text)
-{
-    QByteArray bytes = WidgetPlacement::fromText(text);
-    return bytes.isEmpty() ? std::nullopt : std::optional(std::move(bytes));
-}
-
 std::optional<QList<int>> parsedSizes(const QString& text)
 {
     constexpr int largest = 1 << 16;
@@ -63,7 +57,9 @@ void SplitterTable::apply(const QString& key, Splitter* splitter) const
         return;
     const QString damage = QStringLiteral("the splitter positions are damaged");
     const auto state = m_store.read(key + stateSuffix, damage, parsedState);
-    const auto geometry = m_store.read(key + geometrySuffix, damage, parsedGeometry);
+    const auto geometry = m_store.read(key + geometrySuffix, damage, [](const QString& text) {
+        return WidgetPlacement::fromText(text);
+    });
     const auto sizes = m_store.read(key + sizesSuffix, damage, parsedSizes);
     // A state that knows fewer widgets would collapse the others.
     if (state && state->sizes.size() >= splitter->count())
