@@ -2,6 +2,7 @@
 #pragma once
 
 #include <guibase/records/autohidestate.h>
+#include <guibase/records/recordstore.h>
 
 #include <QMap>
 #include <QString>
@@ -21,7 +22,8 @@ public:
     /// An empty name stores nothing from now on.
     void setName(const QString& name) { m_name = name; }
     bool hasName() const { return !m_name.isEmpty(); }
-    /// What is stored under the name; nothing when there is no sound record.
+    /// What is stored under the name; nothing when there is no sound record. A damaged one is kept
+    /// aside.
     std::optional<AutoHideState> read() const;
     /// Does nothing without a name, and while writing is paused.
     void write(const AutoHideState& state) const;
@@ -35,6 +37,7 @@ public:
     Qt::ToolBarArea take(const QString& dock);
 
 private:
+    RecordStore m_store{LayoutView, QStringLiteral("Auto hide")};
     QString m_name;
     bool m_isPaused = false;
     QMap<QString, Qt::ToolBarArea> m_expected;

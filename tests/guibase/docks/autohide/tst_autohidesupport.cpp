@@ -7,6 +7,8 @@
 #include <guibase/docks/dockwidgetconfigurator.h>
 #include <guibase/docks/maximizeminimizesupport.h>
 
+#include <trovappstartup/cfgcenter.h>
+
 #include <QAction>
 #include <QDialog>
 #include <QEnterEvent>
@@ -438,6 +440,11 @@ private Q_SLOTS:
                 QVERIFY(w.support->restoreState(before));
             QCOMPARE(w.support->saveState(), before);
         }
+        const auto section = CfgCenter::GetAppCfg(LayoutView)->OpenSubCfg(u"Auto hide"_s);
+        section->SetString(u"main"_s, u"4741zz"_s);
+        w.support->setStorageName(u"main"_s);
+        w.support->enableAutoHide(*w.right);
+        QCOMPARE(section->GetString(u"main_damaged"_s), u"4741zz"_s);
     }
     void randomWalk()
     {
