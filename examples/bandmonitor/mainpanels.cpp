@@ -75,7 +75,7 @@ void MainWindow::buildPanels()
          {hidden(bottom), beside(bottom, 1100, 200), beside(bottom, 330, 220)}},
         {name("jobs"), tr("&Jobs"), makeIcon(Icon::Jobs),
          new JobsPanel(&m_session.jobs(), &m_session.replay()),
-         {hidden(right), hidden(right), beside(right, 420, 500)}},
+         {hidden(right), hidden(right), beside(right, 360, 500)}},
         {name("bearings"), tr("&Bearings"), makeIcon(Icon::Bearings),
          new BearingsPanel(&m_session.bearings()),
          {hidden(right), beside(right, 260, 500), tabbed(right)}},

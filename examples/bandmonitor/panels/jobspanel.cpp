@@ -26,7 +26,7 @@ namespace {
 constexpr int idRole = Qt::UserRole;
 constexpr int cellPadding = 24;
 constexpr int smallestColumn = 60;
-constexpr int timeLineWidth = 110;
+constexpr int timeLineWidth = 70; // as long as the panel is narrow
 
 constexpr const char* columnTitles[JobsPanel::ColumnCount] = {
     QT_TRANSLATE_NOOP("bandmonitor::JobsPanel", "Job"),
