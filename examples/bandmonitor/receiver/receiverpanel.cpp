@@ -91,6 +91,9 @@ ReceiverPanel::ReceiverPanel(QWidget* parent)
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(m_content);
+    // A narrow window may cut long texts off, but never whole fields.
+    area->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("000.000 MHz")) +
+                          2 * margin + area->verticalScrollBar()->sizeHint().width());
     m_scrollBar = area->verticalScrollBar();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
