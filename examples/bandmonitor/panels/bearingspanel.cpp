@@ -44,7 +44,7 @@ BearingsPanel::BearingsPanel(const Bearings* bearings, QWidget* parent)
     m_headingUp->setObjectName(QStringLiteral("headingUp"));
     m_headingUp->setCheckable(true);
     QLabel* simulated = makeLabel(this, QStringLiteral("simulatedNote"));
-    simulated->setText(tr("simulated"));
+    simulated->setText(tr("The bearings are simulated."));
     simulated->setToolTip(
         tr("Recordings hold no bearings. These are made up from the frequencies and levels "
            "of the signals."));

@@ -7,6 +7,9 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace bandmonitor {
 
 namespace {
@@ -101,9 +104,13 @@ void SideAxis::paintEvent(QPaintEvent*)
     for (const AxisTick& tick : m_ticks(height())) {
         const int y = height() - 1 - static_cast<int>(tick.position);
         painter.drawLine(width() - tickLength, y, width() - 1, y);
-        const QRect place(labelMargin, y - textHeight / 2, textWidth, textHeight);
-        if (place.top() >= captionBottom && place.bottom() < height())
-            painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, tick.label);
+        // At the ends a label moves to where it has room, but never away from its tick.
+        const int wanted = y - textHeight / 2;
+        const int top =
+            std::clamp(wanted, captionBottom, std::max(height() - textHeight, captionBottom));
+        if (std::abs(top - wanted) <= textHeight / 2)
+            painter.drawText(QRect(labelMargin, top, textWidth, textHeight),
+                             Qt::AlignRight | Qt::AlignVCenter, tick.label);
     }
 }
 
