@@ -39,6 +39,7 @@ private:
     /// The window with everything that lies on top of it.
     QPixmap picture() const;
     void write(const QString& name);
+
     MainWindow& m_window;
     DialogCloser& m_dialogs;
     QDir m_folder;
