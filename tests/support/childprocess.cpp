@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/childprocess.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 
 #include <csignal>
@@ -40,6 +41,19 @@ bool ChildProcess::waitForLine(const QByteArray& line)
         readOutput();
     }
     return true;
+}
+
+void ChildProcess::writeLine(const QByteArray& line)
+{
+    m_process.write(line + '\n');
+    m_process.waitForBytesWritten();
+}
+
+const QByteArray& ChildProcess::readAll()
+{
+    QCoreApplication::processEvents();
+    readOutput();
+    return m_output;
 }
 
 bool ChildProcess::send(int signalNumber)

@@ -19,6 +19,8 @@ public:
 
     /// Waits until the program has written the line to its standard output.
     bool waitForLine(const QByteArray& line);
+    /// Sends a line to its standard input.
+    void writeLine(const QByteArray& line);
     /// Sends a signal; false when the program does not run any more.
     bool send(int signalNumber);
     /// Waits for the end. Returns the exit code, or minus the number of the signal that ended it,
@@ -27,8 +29,11 @@ public:
 
     static constexpr int neverEnded = 1000;
 
-    /// What it has written to both outputs until now.
+    /// What it has written to both outputs as far as it has been read.
     QByteArray output() const { return m_output; }
+    /// Reads what there is without waiting; yields all of it until now.
+    const QByteArray& readAll();
+    qint64 processId() const { return m_process.processId(); }
 
 private:
     void readOutput();

@@ -11,11 +11,12 @@
 
 TestGuard::TestGuard()
 {
-    // The offscreen platform says the first of dialogs with a fixed size and of floating docks, the
-    // X11 platform the second of a window that is shown, hidden and shown again before the server
-    // has answered the first.
+    // The offscreen platform says the first of dialogs with a fixed size, of floating docks and of
+    // pop-ups, the X11 platform the second of a window that is shown, hidden and shown again before
+    // the server has answered the first.
     QTest::failOnWarning(QRegularExpression(QStringLiteral(
-        "^(?!This plugin does not support (propagateSizeHints\\(\\)|raise\\(\\)|setParent!)"
+        "^(?!This plugin does not support (propagateSizeHints\\(\\)|raise\\(\\)|setParent!"
+        "|setting window opacity)"
         "|internal error: +void QXcbWindow::setNetWmStateOnUnmappedWindow)")));
     QLocale::setDefault(QLocale::c());
     CfgCenter::SetAutoStoreDelay(-1);

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "desktopnotifier_p.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QGuiApplication>
+
+namespace {
+
+constexpr qsizetype maximumWaiting = 100;
+
+/// Connects to the socket of the session bus, as the bus's address names it.
+void connectToBus(QLocalSocket& socket)
+{
+    QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    if (address.isEmpty())
+        address = QStringLiteral("unix:path=%1/bus").arg(qEnvironmentVariable("XDG_RUNTIME_DIR"));
+    const QString first = address.section(QLatin1Char(';'), 0, 0);
+    const QString place = first.section(QLatin1Char(','), 0, 0);
+    const bool isAbstract = place.startsWith(QLatin1String("unix:abstract="));
+    if (!isAbstract && !place.startsWith(QLatin1String("unix:path=")))
+        return;
+    socket.setSocketOptions(isAbstract ? QLocalSocket::AbstractNamespaceOption
+                                       : QLocalSocket::NoOptions);
+    socket.connectToServer(place.section(QLatin1Char('='), 1));
+}
+
+} // namespace
+
+DesktopNotifier::DesktopNotifier()
+{
+    connect(&m_probe, &QLocalSocket::connected, this, [this] {
+        m_probe.write(QByteArray("\0AUTH\r\n", 7)); // Asks which ways to log in there are.
+    });
+    connect(&m_probe, &QLocalSocket::readyRead, this, [this] {
+        m_isBusAwake = true;
+        m_probe.abort();
+        sendWaiting();
+    });
+}
+
+DesktopNotifier::~DesktopNotifier() = default;
+
+void DesktopNotifier::notify(const QString& title, const QString& text)
+{
+    if (m_waiting.size() < maximumWaiting)
+        m_waiting.append({title, text});
+    if (m_isBusAwake)
+        sendWaiting();
+    else if (m_probe.state() == QLocalSocket::UnconnectedState)
+        connectToBus(m_probe);
+}
+
+void DesktopNotifier::sendWaiting()
+{
+    for (const auto& [title, text] : std::as_const(m_waiting)) {
+        QDBusMessage message = QDBusMessage::createMethodCall(
+            QStringLiteral("org.freedesktop.Notifications"),
+            QStringLiteral("/org/freedesktop/Notifications"),
+            QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
+        message << QGuiApplication::applicationDisplayName() << 0U << QString() << title
+                << text.toHtmlEscaped() << QStringList() << QVariantMap() << -1;
+        QDBusConnection::sessionBus().asyncCall(message);
+    }
+    m_waiting.clear();
+}

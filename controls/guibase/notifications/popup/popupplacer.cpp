@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "popupplacer_p.h"
+
+#include "screenplacer_p.h"
+#include "windowplacer_p.h"
+
+PopupPlacer::PopupPlacer() = default;
+PopupPlacer::~PopupPlacer() = default;
+
+Notifications::Placement PopupPlacer::placementFor(Notifications::Placement wanted,
+                                                   const QString& platformName)
+{
+    if (wanted != Notifications::Placement::Automatic)
+        return wanted;
+    return platformName.startsWith(QLatin1String("wayland")) ? Notifications::Placement::InWindow
+                                                             : Notifications::Placement::OnScreen;
+}
+
+std::unique_ptr<PopupPlacer> PopupPlacer::create(Notifications::Placement placement)
+{
+    if (placement == Notifications::Placement::InWindow)
+        return std::make_unique<WindowPlacer>();
+    return std::make_unique<ScreenPlacer>();
+}

@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
+#include "support/testrows.h"
+
+#include <guibase/notifications/popup/notifications.h>
+#include <guibase/notifications/popup/standardnotification.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QProxyStyle>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTest>
+#include <QTreeWidget>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A style for users who want things to stand still.
+class StillStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        if (hint == SH_Widget_Animation_Duration)
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+StandardNotification* show(const QString& title, int timeout = 0)
+{
+    return Notifications::notify(title, title + u" text"_s, timeout);
+}
+
+QPoint placeOf(const QWidget& popup, int offset)
+{
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    return {area.right() - 7 - (popup.width() - 1), area.bottom() - offset - popup.height() - 6};
+}
+
+void quit()
+{
+    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QCoreApplication::exec();
+}
+
+/// The pop-up that stands for those that do not fit.
+QPushButton* more()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (auto* button = qobject_cast<QPushButton*>(window))
+            return button;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class tst_Notifications : public GuardedTest
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void looksAsItsKind_data();
+    void looksAsItsKind();
+    void reportsButtons();
+    void closesItself();
+    void stacksWithoutFocus();
+    void takesAnyWidget();
+    void collapsesWhatDoesNotFit();
+    void closesNewestByEscape();
+    void keepsHistory();
+    void movesIntoWindows();
+    void closesAtQuit();
+
+protected:
+    void tidy() override;
+};
+
+void tst_Notifications::initTestCase()
+{
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    Notifications::setPort(server.serverPort());
+    QApplication::setStyle(new StillStyle); // The application takes it over.
+}
+
+void tst_Notifications::tidy()
+{
+    const QWidgetList windows = QApplication::allWidgets();
+    QList<QPointer<QWidget>> popups;
+    for (QWidget* window : windows) {
+        if (qobject_cast<StandardNotification*>(window) != nullptr)
+            popups << window;
+    }
+    for (const QPointer<QWidget>& popup : popups)
+        popup->close();
+    QTRY_VERIFY(std::all_of(popups.begin(), popups.end(), [](const auto& p) { return !p; }));
+    QTRY_VERIFY(more() == nullptr);
+}
+
+void tst_Notifications::looksAsItsKind_data()
+{
+    using Creator =
+        StandardNotification* (*)(const QString&, const QString&, int, Notifications::Buttons);
+    TestRows<Creator, QColor> row;
+    row("notify", &Notifications::notify, QColor(255, 255, 180));
+    row("warning", &Notifications::warning, QColor(255, 255, 180));
+    row("critical", &Notifications::critical, QColor(Qt::red));
+}
+
+void tst_Notifications::looksAsItsKind()
+{
+    using Creator =
+        StandardNotification* (*)(const QString&, const QString&, int, Notifications::Buttons);
+    const auto& [create, color] = TestRows<Creator, QColor>::fetch();
+    StandardNotification* popup = create(u"Title"_s, u"Text"_s, 0, QDialogButtonBox::Ok);
+    QCOMPARE(popup->styleSheet(),
+             u"StandardNotification { background: qlineargradient(x1: 0, y1: 0, x2: 1, y2: 1, "
+             "stop:0 %1, stop:1 %2); border: 1px solid black; }"_s.arg(color.name(),
+                                                                       color.lighter(150).name()));
+    QCOMPARE(popup->windowTitle(), u"Title"_s);
+    QCOMPARE(popup->width(), 400);
+    QVERIFY(popup->height() >= 100);
+    QVERIFY(popup->windowFlags().testFlags(Qt::FramelessWindowHint | Qt::Tool |
+                                           Qt::WindowStaysOnTopHint));
+    QTRY_VERIFY(popup->isVisible());
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(popup);
+    QCOMPARE(accessible->role(), QAccessible::AlertMessage);
+    QCOMPARE(accessible->text(QAccessible::Description), u"Text"_s);
+    // Readable also where the desktop's texts are white.
+    for (const QLabel* label : popup->findChildren<QLabel*>())
+        QCOMPARE(label->palette().color(QPalette::WindowText), QColor(Qt::black));
+    popup->setText(QString(100000, u'x').replace(50, 1, u' '));
+    QVERIFY(popup->height() < QGuiApplication::primaryScreen()->availableGeometry().height());
+}
+
+void tst_Notifications::reportsButtons()
+{
+    QPointer popup = Notifications::notify(QPixmap(8, 8), u"Title"_s, u"Text"_s, 0,
+                                           QDialogButtonBox::Yes | QDialogButtonBox::No);
+    QTRY_VERIFY(popup->isVisible());
+    QStringList heard;
+    connect(popup, &StandardNotification::accepted, this, [&] { heard << u"accepted"_s; });
+    connect(popup, &StandardNotification::rejected, this, [&] { heard << u"rejected"_s; });
+    connect(popup, &StandardNotification::clicked, this,
+            [&](QDialogButtonBox::StandardButton button) { heard << QString::number(button); });
+    auto* box = popup->findChild<QDialogButtonBox*>();
+    QTest::mouseClick(box->button(QDialogButtonBox::No), Qt::LeftButton);
+    QTRY_VERIFY(popup == nullptr);
+    heard.sort();
+    QCOMPARE(heard, (QStringList{QString::number(QDialogButtonBox::No), u"rejected"_s}));
+}
+
+void tst_Notifications::closesItself()
+{
+    const QPointer brief = show(u"brief"_s, 50);
+    const QPointer lasting = show(u"lasting"_s, -1);
+    QTRY_VERIFY(brief == nullptr);
+    QVERIFY(lasting != nullptr);
+    QTRY_COMPARE(lasting->pos(), placeOf(*lasting, 0));
+}
+
+void tst_Notifications::stacksWithoutFocus()
+{
+    QMainWindow window;
+    auto* edit = new QLineEdit;
+    window.setCentralWidget(edit);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    edit->setFocus();
+    StandardNotification* first = show(u"first"_s);
+    StandardNotification* second = show(u"second"_s);
+    QTRY_VERIFY(first->isVisible() && second->isVisible());
+    QTRY_COMPARE(second->pos(), placeOf(*second, 0));
+    QTRY_COMPARE(first->pos(), placeOf(*first, second->height() + 6));
+    second->resize(400, 200);
+    QTRY_COMPARE(first->pos(), placeOf(*first, 206));
+    Notifications::notify(first); // Known, and so it is raised.
+    QTRY_COMPARE(first->pos(), placeOf(*first, 0));
+    QTRY_COMPARE(second->pos(), placeOf(*second, first->height() + 6));
+    // The offscreen platform activates whatever is shown.
+    if (QGuiApplication::platformName() != u"offscreen")
+        QVERIFY(edit->hasFocus() && QApplication::activeWindow() == &window);
+}
+
+void tst_Notifications::takesAnyWidget()
+{
+    StandardNotification* older = show(u"older"_s);
+    auto widget = std::make_unique<QLabel>(u"any widget"_s);
+    Notifications::notify(widget.get());
+    Notifications::notify(nullptr);
+    QTRY_VERIFY(widget->isVisible());
+    QTRY_COMPARE(older->pos(), placeOf(*older, widget->height() + 6));
+    widget.reset(); // Without having been closed.
+    QTRY_COMPARE(older->pos(), placeOf(*older, 0));
+}
+
+void tst_Notifications::collapsesWhatDoesNotFit()
+{
+    QList<StandardNotification*> popups;
+    for (int i = 0; i < 20; ++i)
+        popups << show(QString::number(i));
+    const auto hidden = [&popups] {
+        return std::count_if(popups.begin(), popups.end(),
+                             [](const QWidget* popup) { return !popup->isVisible(); });
+    };
+    QTRY_VERIFY(more() != nullptr && more()->isVisible());
+    QTRY_COMPARE(more()->text(), u"%1 more"_s.arg(hidden()));
+    QVERIFY(popups.last()->isVisible() && !popups.first()->isVisible());
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QVERIFY(screen.contains(more()->geometry()));
+    QTest::mouseClick(more(), Qt::LeftButton);
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeWindow());
+    QTRY_VERIFY((dialog = qobject_cast<QDialog*>(QApplication::activeWindow())) != nullptr);
+    QCOMPARE(dialog->findChild<QTreeWidget*>()->topLevelItem(19)->text(1), u"0"_s);
+    dialog->close();
+    while (popups.size() > 3)
+        popups.takeLast()->close();
+    QTRY_COMPARE(hidden(), 0);
+    QTRY_VERIFY(more() == nullptr);
+}
+
+void tst_Notifications::closesNewestByEscape()
+{
+    QMainWindow window;
+    auto* edit = new QLineEdit;
+    window.setCentralWidget(edit);
+    window.show();
+    const QPointer older = show(u"older"_s);
+    const QPointer newer = show(u"newer"_s);
+    QTRY_VERIFY(older->isVisible() && newer->isVisible());
+    QTest::keyClick(edit, Qt::Key_A);
+    QTest::keyClick(edit, Qt::Key_Escape);
+    QTRY_VERIFY(newer == nullptr);
+    QVERIFY(older != nullptr);
+    QDialog dialog; // It has a use of its own for the key.
+    dialog.show();
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    QVERIFY(!dialog.isVisible());
+    QCoreApplication::processEvents();
+    QVERIFY(older != nullptr);
+}
+
+void tst_Notifications::keepsHistory()
+{
+    for (int i = 0; i < 110; ++i)
+        show(QString::number(i))->close();
+    const QList<NotificationRecord> history = Notifications::history();
+    QCOMPARE(history.size(), 100);
+    QCOMPARE(history.last().title, u"109"_s);
+    QCOMPARE(history.first().text, u"10 text"_s);
+    QVERIFY(history.first().time.isValid());
+}
+
+void tst_Notifications::closesAtQuit()
+{
+    const QPointer popup = show(u"popup"_s);
+    quit();
+    QTRY_VERIFY(popup == nullptr);
+    QVERIFY(Notifications::history().isEmpty());
+    StandardNotification* next = show(u"next"_s);
+    QTRY_VERIFY(next->isVisible());
+}
+
+void tst_Notifications::movesIntoWindows()
+{
+    quit(); // The next pop-up makes a new service.
+    Notifications::setPlacement(Notifications::Placement::InWindow);
+    auto window = std::make_unique<QMainWindow>();
+    window->resize(600, 500);
+    window->show();
+    StandardNotification* popup = show(u"in a window"_s);
+    QTRY_COMPARE(popup->parentWidget(), window.get());
+    const auto place = [&popup](const QWidget& host) {
+        return QPoint(host.width() - 1 - 7 - 399, host.height() - 1 - popup->height() - 6);
+    };
+    QTRY_COMPARE(popup->pos(), place(*window));
+    window->resize(700, 450);
+    QTRY_COMPARE(popup->pos(), place(*window));
+    QMainWindow other;
+    other.resize(500, 300);
+    other.show();
+    window.reset();
+    QTRY_COMPARE(popup->parentWidget(), &other);
+    QTRY_COMPARE(popup->pos(), place(other));
+    QVERIFY(popup->isVisible());
+    other.hide();
+    QTRY_VERIFY(popup->parentWidget() == nullptr);
+    QVERIFY(!popup->isVisible());
+    popup->close();
+    Notifications::setPlacement(Notifications::Placement::Automatic);
+}
+
+QTEST_MAIN(tst_Notifications)
+#include "tst_notifications.moc"
