@@ -54,7 +54,8 @@ private Q_SLOTS:
         cfg->OpenSubCfg(QStringLiteral("Startup"))->SetInt(QStringLiteral("SplashTimeout"), 3600);
         cfg->SetString(QStringLiteral("Language"), QStringLiteral("de"));
         QVERIFY(CfgCenter::Store());
-        const QString told = run(scenario) + run(scenario);
+        QString told = run(scenario);
+        told += run(scenario);
         const QStringList sessions = told.split(QStringLiteral("zone="), Qt::SkipEmptyParts);
         int width = sessions.first().section(u'=', 1).toInt() - 11;
         QVERIFY2(sessions.size() > 1 && width > 0, qPrintable(told));
