@@ -102,6 +102,7 @@ void CoveredDocks::restorePolicies()
 
 void CoveredDocks::moveFocusTo(QDockWidget& front)
 {
+    restorePolicies(); // the tab may have come to the front by the key
     const QWidget* focus = QApplication::focusWidget();
     const QList<QDockWidget*> docks = QMainWindowHelpers::dockWidgets(m_mainWindow);
     const bool isInCovered =

@@ -6,6 +6,8 @@
 #include "titlebarbutton_p.h"
 #include "titlebarbuttons_p.h"
 
+#include <guibase/layouts/floatingdockkeeper.h>
+
 #include <QAction>
 #include <QActionEvent>
 #include <QCoreApplication>
@@ -65,6 +67,7 @@ public:
     QString elidedTitle;
     QRect titleOnLine;
     bool active = false;
+    bool isDoubleClicked = false; ///< Until the mouse button is released.
     bool willArrange = false;
 };
 
@@ -179,7 +182,12 @@ EnhancedDockWidgetTitleBar::EnhancedDockWidgetTitleBar(QDockWidget& dockWidget)
     , d(std::make_unique<Private>(*this, dockWidget))
 {
     const auto follow = [this] { d->followDock(); };
-    connect(&dockWidget, &QDockWidget::topLevelChanged, this, follow);
+    connect(&dockWidget, &QDockWidget::topLevelChanged, this, [this, follow](bool floating) {
+        follow();
+        // A message of the window manager that is late would give the toolkit a wrong place.
+        if (floating && d->isDoubleClicked && d->dock)
+            FloatingDockKeeper::keep(*d->dock);
+    });
     connect(&dockWidget, &QDockWidget::featuresChanged, this, follow);
     connect(&dockWidget, &QDockWidget::dockLocationChanged, this, [this] {
         d->buttons.followDock();
@@ -228,6 +236,8 @@ QSize EnhancedDockWidgetTitleBar::minimumSizeHint() const
 bool EnhancedDockWidgetTitleBar::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    if (type == QEvent::MouseButtonDblClick || type == QEvent::MouseButtonRelease)
+        d->isDoubleClicked = type == QEvent::MouseButtonDblClick;
     if (d->dock == watched && (type == QEvent::WindowTitleChange ||
                                type == QEvent::WindowIconChange || type == QEvent::ModifiedChange))
         d->followDock();

@@ -5,6 +5,8 @@
 #include "dockicons.h"
 #include "titlebarbutton_p.h"
 
+#include <guibase/layouts/floatingdockkeeper.h>
+
 #include <QAction>
 #include <QMenu>
 
@@ -29,8 +31,11 @@ TitleBarButtons::TitleBarButtons(QWidget& bar, QDockWidget& dock)
     m_floatButton->setObjectName(QStringLiteral("floatButton"));
     m_closeButton->setObjectName(QStringLiteral("closeButton"));
     m_closeButton->setIcon(makeDockIcon(DockIcon::Close));
-    QObject::connect(m_floatButton, &QToolButton::clicked, &dock,
-                     [&dock] { dock.setFloating(!dock.isFloating()); });
+    QObject::connect(m_floatButton, &QToolButton::clicked, &dock, [guarded = DockPointer(&dock)] {
+        guarded->setFloating(!guarded->isFloating());
+        if (guarded && guarded->isFloating())
+            FloatingDockKeeper::keep(*guarded);
+    });
     QObject::connect(m_closeButton, &QToolButton::clicked, &dock, &QWidget::close);
 }
 
