@@ -328,6 +328,7 @@ private Q_SLOTS:
     {
         Window w;
         QDockWidget* late = w.addDock(QString(), Qt::RightDockWidgetArea); // without any title
+        settle();
         w.support->enableAutoHide(*w.right);
         w.support->enableAutoHide(*late);
         QVERIFY(late->isVisible() && !w.right->isVisible()); // it would be covered
