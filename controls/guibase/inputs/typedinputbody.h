@@ -87,7 +87,7 @@ void TypedInputBody<Widget>::adopt(QLineEdit& edit)
     m_shownText = edit.text();
     if (edit.maxLength() == toolkitLength)
         edit.setMaxLength(longestText + 1); // A text that is cut is another number.
-    // Units are letters, and others than those of a dictionary.
+    // Units are letters too, but no words of a dictionary.
     edit.setInputMethodHints(edit.inputMethodHints() | Qt::ImhPreferNumbers |
                              Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
     Widget* const widget = &m_widget;
