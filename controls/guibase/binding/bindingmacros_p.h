@@ -12,7 +12,6 @@
             : InputBindingOf<ValueKind, WidgetClass>::Base(value, widget, parent)                  \
         {                                                                                          \
             connect(&widget, WidgetAccess<WidgetClass>::changed, this, &Class::slot);              \
-            Init();                                                                                \
         }                                                                                          \
     public Q_SLOTS:                                                                                \
         void slot(Type entered) { widgetChanged(entered); }                                        \

@@ -10,25 +10,35 @@
 #include <guibase/inputs/spinboxes/qdatetimespinbox.h>
 
 #include <QDial>
+#include <QPointer>
 #include <QScrollBar>
+
+#include <optional>
+#include <utility>
 
 namespace ValueWidgetBinding::Internal {
 
 namespace {
 
+/// Null when the binding does not survive its first showing.
 template <typename Binding, typename... Arguments>
 Binding* makeBinding(QWidget& widget, QObject* parent, Arguments&&... arguments)
 {
-    return new Binding(std::forward<Arguments>(arguments)..., parent != nullptr ? parent : &widget);
+    const QPointer<Binding> binding =
+        new Binding(std::forward<Arguments>(arguments)..., parent != nullptr ? parent : &widget);
+    binding->Init();
+    return binding;
 }
 
+using Created = std::optional<ValueWidgetBinding*>;
+
 template <typename V, typename W>
-ValueWidgetBinding* createIfOfClass(ValueBase& value, QWidget& widget)
+Created createIfOfClass(ValueBase& value, QWidget& widget)
 {
     auto* kind = dynamic_cast<V*>(&value);
     auto* box = kind != nullptr ? qobject_cast<W*>(&widget) : nullptr;
     if (box == nullptr)
-        return nullptr;
+        return std::nullopt;
     if constexpr (std::is_same_v<V, ValueSelection>)
         return Create<V, W>(*kind, *box, {}, {});
     else
@@ -88,19 +98,19 @@ Create(ValueSelection& value, QLabel& label, const ItemToShown<QLabel>& toShown,
 GUIBASE_FOR_EACH_BINDING(INSTANTIATE)
 #undef INSTANTIATE
 
-ValueWidgetBinding* createByClass(ValueBase& value, QWidget& widget)
+Created createByClass(ValueBase& value, QWidget& widget)
 {
-    using Creator = ValueWidgetBinding* (*)(ValueBase&, QWidget&);
+    using Creator = Created (*)(ValueBase&, QWidget&);
 #define CREATOR(V, W) &createIfOfClass<V, W>,
-    static constexpr Creator creators[] = {GUIBASE_FOR_EACH_BINDING(CREATOR) //
-                                           CREATOR(ValueSelection, QComboBox)
-                                               CREATOR(ValueSelection, QLabel)};
+    static constexpr Creator creators[] = {GUIBASE_FOR_EACH_BINDING(CREATOR)
+                                               CREATOR(ValueSelection, QComboBox) //
+                                           CREATOR(ValueSelection, QLabel)};
 #undef CREATOR
     for (const Creator create : creators) {
-        if (ValueWidgetBinding* binding = create(value, widget))
+        if (const Created binding = create(value, widget))
             return binding;
     }
-    return nullptr;
+    return std::nullopt;
 }
 
 } // namespace ValueWidgetBinding::Internal

@@ -65,7 +65,8 @@ using ShownToItem = std::function<SelectionItem(const QVariant& choice, WidgetCl
 /// The limits of a numeric value become those of the widget; where the value has none, the widget
 /// keeps its own. A value that the widget cannot show is marked there and stays as it is. Real
 /// numbers are rounded for integer widgets, and back. Widgets of derived classes are bound by
-/// naming the classes: `Create<ValueNumeric<int>, QSpinBox>(value, box)`.
+/// naming the classes: `Create<ValueNumeric<int>, QSpinBox>(value, box)`. Null when somebody who is
+/// told of the first value deletes the binding.
 ///
 /// | value                                | widgets                                              |
 /// |--------------------------------------|------------------------------------------------------|

@@ -41,13 +41,13 @@ void bindWidget(FormBindings& result, ValueBase& value, QWidget& widget, int del
 {
     if (isBound<ValueWidgetBinding>(widget, value))
         return;
-    ValueWidgetBinding* binding = Internal::createByClass(value, widget);
-    if (binding == nullptr) {
+    const auto binding = Internal::createByClass(value, widget);
+    if (!binding) {
         result.pathsOfOtherKind << value.GetPathName();
-        return;
+    } else if (*binding != nullptr) {
+        (*binding)->setDelay(delay);
+        result.bindings.push_back(*binding);
     }
-    binding->setDelay(delay);
-    result.bindings.push_back(binding);
 }
 
 } // namespace

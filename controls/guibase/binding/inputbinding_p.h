@@ -14,7 +14,7 @@
 namespace ValueWidgetBinding::Internal {
 
 /// The binding of a value that is one number, text, truth or point in time. Derived classes connect
-/// the widget to widgetChanged() and call Init().
+/// the widget to widgetChanged(); who makes them calls Init().
 template <typename V, typename W>
 class InputBinding : public ValueWidgetBindingBase<V, W>
 {
@@ -22,6 +22,8 @@ public:
     using Access = WidgetAccess<W>;
     using Shown = ShownBy<W>;
     using Held = typename ValueWidgetBindingBase<V, W>::Held;
+
+    using ValueWidgetBindingBase<V, W>::Init;
 
     /// What the widget holds.
     Shown shown() const { return this->isWidgetAlive() ? Access::get(this->widget()) : Shown(); }
@@ -237,7 +239,6 @@ public:
         if constexpr (requires { WidgetAccess<W>::changed; })
             this->connect(&widget, WidgetAccess<W>::changed, this,
                           [this] { this->widgetChanged(this->shown()); });
-        this->Init();
     }
 };
 

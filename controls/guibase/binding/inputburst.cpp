@@ -10,7 +10,7 @@ int InputBurst::next(const QWidget& widget)
     static int count = 0;
     const auto* slider = qobject_cast<const QAbstractSlider*>(&widget);
     const bool isDrag = slider != nullptr && slider->isSliderDown();
-    if (!m_sinceLast.isValid() || (!isDrag && m_sinceLast.hasExpired(m_longestPause)))
+    if (!m_sinceLast.isValid() || (!isDrag && m_sinceLast.elapsed() >= m_longestPause))
         m_number = count++;
     m_sinceLast.start();
     return m_number;

@@ -32,7 +32,6 @@ ValueSelectionQComboBoxBinding::ValueSelectionQComboBoxBinding(
 {
     connect(&box, &QComboBox::currentIndexChanged, this,
             &ValueSelectionQComboBoxBinding::slCurrentIndexChanged);
-    Init();
 }
 
 int ValueSelectionQComboBoxBinding::index() const
@@ -145,9 +144,7 @@ ValueSelectionQLabelBinding::ValueSelectionQLabelBinding(ValueSelection& value, 
                                                          QObject* parent)
     : ValueWidgetBindingBase(value, label, parent)
     , m_toShown(toShown)
-{
-    Init();
-}
+{}
 
 void ValueSelectionQLabelBinding::UpdateWidget(TChangeCode code)
 {

@@ -17,6 +17,8 @@ public:
                                    const ItemToShown<QComboBox>& toShown,
                                    const ShownToItem<QComboBox>& toItem, QObject* parent);
 
+    using ValueWidgetBindingBase::Init;
+
     /// Of the box.
     int index() const;
     /// As if the user had chosen it.
@@ -48,6 +50,8 @@ public:
     ValueSelectionQLabelBinding(ValueSelection& value, QLabel& label,
                                 const ItemToShown<QLabel>& toShown,
                                 const ShownToItem<QLabel>& toItem, QObject* parent);
+
+    using ValueWidgetBindingBase::Init;
 
 protected:
     void UpdateWidget(TChangeCode code) override;

@@ -62,7 +62,7 @@ public:
     /// In milliseconds; negative, as at first, writes at once.
     int delay() const;
     void setDelay(int milliseconds);
-    /// In milliseconds, 1000 at first.
+    /// In milliseconds, 1000 at first; 0 makes every input but those of a drag a step of its own.
     int burstTime() const;
     void setBurstTime(int milliseconds);
     /// The text of the undo steps; empty, as at first, for the helper's own.

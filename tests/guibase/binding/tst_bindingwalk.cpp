@@ -10,6 +10,7 @@
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QSpinBox>
@@ -145,7 +146,11 @@ private:
             box->setValue(m_random.below(2000) - 1000);
         }
         if (m_choice && m_choice->isEnabled()) {
-            m_choice->showPopup();
+            if (m_choice->count() > 0 && !m_choice->view()->isVisible()) {
+                QTest::ignoreMessage(QtWarningMsg,
+                                     "This plugin does not support grabbing the keyboard");
+                m_choice->showPopup();
+            }
             if (m_choice && m_random.below(2) == 0)
                 m_choice->setCurrentIndex(m_random.below(4) - 1);
         }
