@@ -30,7 +30,11 @@ class World
 {
 public:
     World() { GuiUndoRecordingHelper::SetDefaultUndoRecordingTrigger_BasePath(m_base); }
-    ~World() { GuiUndoRecordingHelper::SetDefaultUndoRecordingTrigger_BasePath({}); }
+    ~World()
+    {
+        m_depth = deepest;
+        GuiUndoRecordingHelper::SetDefaultUndoRecordingTrigger_BasePath({});
+    }
 
     void act()
     {
@@ -39,7 +43,7 @@ public:
             &World::unbind,      &World::change,         &World::change,      &World::enter,
             &World::enter,       &World::changeLimits,   &World::replay,      &World::passTime,
             &World::record};
-        if (m_depth == 3)
+        if (m_depth == deepest)
             return;
         ++m_depth;
         (this->*actions[std::size_t(m_random.below(int(std::size(actions))))])();
@@ -65,6 +69,7 @@ public:
 
 private:
     using Number = ValueNumeric<int>;
+    static constexpr int deepest = 3;
 
     static void clearLimits(QSpinBox& box)
     {
