@@ -59,9 +59,10 @@ WidgetUpdateTransaction::WidgetUpdateTransaction(ValueWidgetBinding& binding)
     , m_widget(binding.d->widget)
     , m_wasUpdating(std::exchange(binding.d->isUpdatingWidget, true))
     // What the widget itself was told, not what its parents have it do for the moment.
-    , m_hadUpdates(!m_widget->testAttribute(Qt::WA_ForceUpdatesDisabled))
+    , m_hadUpdates(m_widget && !m_widget->testAttribute(Qt::WA_ForceUpdatesDisabled))
 {
-    m_widget->setUpdatesEnabled(false);
+    if (m_widget)
+        m_widget->setUpdatesEnabled(false);
 }
 
 WidgetUpdateTransaction::~WidgetUpdateTransaction()
