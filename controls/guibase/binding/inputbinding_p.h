@@ -78,6 +78,8 @@ protected:
 
     void showValue()
     {
+        if (this->value() == nullptr)
+            return;
         const Held value = this->value()->GetValue();
         const Target target = targetOf(value);
         W& widget = this->widget();
