@@ -26,8 +26,9 @@ bool s_isUnattended = false;
 bool canAsk(const QString& title, const QString& text)
 {
     if (s_isUnattended)
-        ErrorHandler::Trace(ErrorHandler::TracePlatform, sourceModule, __LINE__,
-                            QStringLiteral("nobody is there to answer \"%1: %2\"").arg(title, text));
+        ErrorHandler::Trace(
+            ErrorHandler::TracePlatform, sourceModule, __LINE__,
+            QStringLiteral("nobody is there to answer \"%1: %2\"").arg(title, text));
     return !s_isUnattended && qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
 }
 
@@ -85,12 +86,11 @@ QString fileNameFor(const ModalDialogs::FileQuestion& question, const QString& c
 
 bool mayReplace(QWidget* parent, const QString& title, const QString& name)
 {
-    const QString text =
-        QCoreApplication::translate("ModalDialogs", "%1 already exists. Do you want to replace it?");
-    return ModalDialogs::show(parent,
-                              {QMessageBox::Warning, title, text.arg(QFileInfo(name).fileName()),
-                               QMessageBox::Yes | QMessageBox::No, QMessageBox::No}) ==
-           QMessageBox::Yes;
+    const QString text = QCoreApplication::translate(
+        "ModalDialogs", "%1 already exists. Do you want to replace it?");
+    return ModalDialogs::show(
+               parent, {QMessageBox::Warning, title, text.arg(QFileInfo(name).fileName()),
+                        QMessageBox::Yes | QMessageBox::No, QMessageBox::No}) == QMessageBox::Yes;
 }
 
 } // namespace

@@ -38,9 +38,9 @@ public:
     /// Takes its entries out of the menu.
     ~FileOpenManager() override;
 
-    /// Reads the recent files and shows them in the menu, to be called once. The entries go in front
-    /// of the action that is at this position when they are first shown, a moment later; a position
-    /// below 0 or behind the last action appends them.
+    /// Reads the recent files and shows them in the menu, to be called once. The entries go in
+    /// front of the action that is at this position when they are first shown, a moment later; a
+    /// position below 0 or behind the last action appends them.
     void InitMenu(int position);
     int menuPosition() const { return m_menuPosition; }
 

@@ -53,7 +53,7 @@ private:
 
     QPointer<QMenu> m_menu;
     int m_position = -1;
-    QPointer<QAction> m_successor; ///< The entries are in front of it.
+    QPointer<QAction> m_successor;                            ///< The entries are in front of it.
     std::multimap<int, QPointer<RecentFileAction>> m_entries; ///< By index.
     /// The texts of the menu's other actions; nothing when they may have changed.
     std::optional<QSet<QString>> m_otherTexts;

@@ -48,7 +48,7 @@ SortListViewItem* castItem(QTreeWidgetItem* item)
 
 ISortCallback::~ISortCallback() = default;
 
-// --- The row at the upper edge --------------------------------------------------------------------
+// --- The row at the upper edge ------------------------------------------------------------------
 
 void UpperEdge::note(QTreeView& view)
 {
@@ -77,7 +77,7 @@ void UpperEdge::restore(QTreeView& view)
     view.horizontalScrollBar()->setValue(left);
 }
 
-// --- The keys of one sort ---------------------------------------------------------------------------
+// --- The keys of one sort -----------------------------------------------------------------------
 
 struct ListSorter::Run
 {
@@ -226,7 +226,7 @@ bool ListSorter::Run::addArrivals(const QTreeWidgetItem& root, int sorted, Qt::S
     return true;
 }
 
-// --- What is sorted by --------------------------------------------------------------------------------
+// --- What is sorted by --------------------------------------------------------------------------
 
 ListSorter::ListSorter(SortListView& view)
     : m_view(view)
@@ -252,7 +252,7 @@ void ListSorter::setFunction(int column, CompareFunction chosen)
     m_functions[static_cast<std::size_t>(column)] = chosen;
 }
 
-ListSorter::CompareFunction ListSorter::function(int column) const
+ListSorter::CompareFunction ListSorter::functionOf(int column) const
 {
     const bool isSet = column >= 0 && static_cast<std::size_t>(column) < m_functions.size();
     return isSet ? m_functions[static_cast<std::size_t>(column)] : nullptr;
@@ -267,7 +267,7 @@ int ListSorter::compare(int column, const QString& a, const QString& b) const
 {
     if (!maySort())
         return 0;
-    const CompareFunction own = function(column);
+    const CompareFunction own = functionOf(column);
     return own == nullptr ? a.compare(b) : own(b, a);
 }
 
@@ -278,7 +278,7 @@ Qt::SortOrder ListSorter::orderAfterClick(int column) const
     return m_order == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
 }
 
-// --- Sorting --------------------------------------------------------------------------------------------
+// --- Sorting ------------------------------------------------------------------------------------
 
 void ListSorter::sort(int column, Qt::SortOrder order)
 {
@@ -294,7 +294,7 @@ void ListSorter::sort(int column, Qt::SortOrder order)
     if (!m_view.isVisible() || !hasColumn) {
         m_view.header()->setSortIndicator(hasColumn ? column : -1, order);
     } else if (maySort()) {
-        auto run = std::make_shared<Run>(function(column));
+        auto run = std::make_shared<Run>(functionOf(column));
         run->readKeys(*m_view.invisibleRootItem(), column, nullptr);
         sortRows(std::move(run));
     } else {
@@ -339,7 +339,7 @@ void ListSorter::adoptOrder()
 
 void ListSorter::sortChildren(QTreeWidgetItem& parent, int column, Qt::SortOrder order)
 {
-    Run run(function(column));
+    Run run(functionOf(column));
     if (maySort())
         run.readKeys(parent, column, nullptr);
     m_run.reset(); // its items have other keys now
@@ -369,7 +369,7 @@ std::optional<bool> ListSorter::isLessByKeys(const SortListViewItem& a, const QT
     return run->keys.isLess(a.m_sortRow, other->m_sortRow);
 }
 
-// --- Rows that arrive -----------------------------------------------------------------------------------
+// --- Rows that arrive ---------------------------------------------------------------------------
 
 void ListSorter::rowsInserted(const QModelIndex& parent, int last)
 {
@@ -432,7 +432,7 @@ void ListSorter::placeArrivals()
     m_edge.note(m_view);
     std::shared_ptr<Run> run = m_run;
     if (!rankArrivals()) {
-        run = std::make_shared<Run>(function(m_column));
+        run = std::make_shared<Run>(functionOf(m_column));
         run->readKeys(*m_view.invisibleRootItem(), m_column, m_run.get());
     }
     sortRows(std::move(run));

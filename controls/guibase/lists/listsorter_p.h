@@ -49,8 +49,8 @@ public:
     ~ListSorter() override;
 
     void setFunctionCount(int count);
-    void setFunction(int column, CompareFunction chosen);
-    CompareFunction function(int column) const;
+    void setFunction(int column, CompareFunction function);
+    CompareFunction functionOf(int column) const;
     void setCallback(ISortCallback* callback) { m_callback = callback; }
     bool hasCallback() const { return m_callback != nullptr; }
     void setAllowed(bool allowed) { m_isAllowed = allowed; }
@@ -105,7 +105,7 @@ private:
     bool m_isPlacing = false;
     int m_column = 0;
     Qt::SortOrder m_order = Qt::AscendingOrder;
-    bool m_isSorted = false; ///< Apart from appended rows that will be put in place.
+    bool m_isSorted = false;         ///< Apart from appended rows that will be put in place.
     bool m_hasArrivalsBelow = false; ///< Such rows have arrived below others.
     /// The keys of the last sort; null when the list is not sorted or others have sorted it.
     std::shared_ptr<Run> m_run;

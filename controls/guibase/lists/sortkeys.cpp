@@ -254,7 +254,7 @@ std::vector<double> SortKeys::ranks() const
                        });
 }
 
-// --- The compare functions that the list offers -----------------------------------------------------
+// --- The compare functions that the list offers -------------------------------------------------
 
 int SortListView::_compStandardString(const QString& x, const QString& y)
 {

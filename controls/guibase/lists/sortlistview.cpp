@@ -190,7 +190,7 @@ void SortListView::SetCompareFunction(int column, CompareFunction function)
 
 bool SortListView::HasSortFunction(int column) const
 {
-    return !d->sorter.hasCallback() && d->sorter.function(column) != nullptr;
+    return !d->sorter.hasCallback() && d->sorter.functionOf(column) != nullptr;
 }
 
 int SortListView::SortFunction(int column, const QString& a, const QString& b) const

@@ -19,12 +19,12 @@ class QMenu;
 ///
 /// A view that may sort (AllowSort()) sorts when it is shown, when a header section is clicked and
 /// when it is told to; a hidden view never reorders its rows. Rows that are appended stay at the
-/// end, unless setPlacingArrivals() is on. Selection, current item, expanded and hidden rows and the
-/// scroll position stay, and rows that compare as equal keep their order.
+/// end, unless setPlacingArrivals() is on. Selection, current item, expanded and hidden rows and
+/// the scroll position stay, and rows that compare as equal keep their order.
 ///
 /// Tab leaves the list. Ctrl+Alt+H opens the column menu, when that is switched on; Alt+Left and
-/// Alt+Right choose the current column, Alt+Shift+Left and Alt+Shift+Right move it, Alt+Shift+Up and
-/// Alt+Shift+Down sort by it in ascending and descending order, also in a list without rows.
+/// Alt+Right choose the current column, Alt+Shift+Left and Alt+Shift+Right move it, Alt+Shift+Up
+/// and Alt+Shift+Down sort by it in ascending and descending order, also in a list without rows.
 ///
 /// To hide many rows use setRowHidden(): QTreeWidgetItem::setHidden() looks for the row's number
 /// each time, which takes minutes in a list of a million. Operations on columns that do not exist,
@@ -79,11 +79,12 @@ public:
     void AllowSort(bool allow);
     /// Whether rows that are appended to a shown list go to their places in the order that the list
     /// has; off at start. They go there together, in the next pass of the event loop or, when
-    /// sorting takes long, a little later. The row at the upper edge of a scrolled view stays there.
+    /// sorting takes long, a little later. The row at the upper edge of a scrolled view stays
+    /// there.
     ///
-    /// A row that is put anywhere else (on top, after another row, with moveItem()) stays there, and
-    /// so do rows appended after it, until the list is sorted again. Nothing is put in place while a
-    /// sort callback is set.
+    /// A row that is put anywhere else (on top, after another row, with moveItem()) stays there,
+    /// and so do rows appended after it, until the list is sorted again. Nothing is put in place
+    /// while a sort callback is set.
     void setPlacingArrivals(bool on);
     bool isPlacingArrivals() const;
     /// A column that does not exist (-1): the rows stay as they are. An order that a shown list

@@ -139,8 +139,7 @@ SortListViewItem::Extras& SortListViewItem::extras() const
     return *m_extras;
 }
 
-// --- Sort keys
-// -------------------------------------------------------------------------------------
+// --- Sort keys ----------------------------------------------------------------------------------
 
 void SortListViewItem::SetColCount(int count)
 {
@@ -163,8 +162,7 @@ bool SortListViewItem::HasSortKey(int column) const
     return !GetSortKey(column).isEmpty();
 }
 
-// --- Hooks
-// -----------------------------------------------------------------------------------------
+// --- Hooks --------------------------------------------------------------------------------------
 
 void SortListViewItem::setOpen(bool) {}
 
@@ -179,8 +177,7 @@ void SortListViewItem::sortChildItems(int column, bool ascending)
         sortChildren(column, order);
 }
 
-// --- Pictures
-// --------------------------------------------------------------------------------------
+// --- Pictures -----------------------------------------------------------------------------------
 
 void SortListViewItem::setPixmap(int column, const QPixmap& pixmap)
 {
@@ -195,8 +192,7 @@ const QPixmap* SortListViewItem::pixmap(int column) const
     return &cache;
 }
 
-// --- The older navigation interface
-// ------------------------------------------------------------------
+// --- The older navigation interface -------------------------------------------------------------
 
 void SortListViewItem::moveItem(QTreeWidgetItem* after)
 {

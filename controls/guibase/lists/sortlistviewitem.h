@@ -90,8 +90,7 @@ public:
     /// the pointer is good, and its content the same, until the next call for this row.
     const QPixmap* pixmap(int column) const;
 
-    // --- The older navigation interface
-    // ------------------------------------------------------------
+    // --- The older navigation interface ---------------------------------------------------------
 
     /// Takes the row out of its tree and puts it, as a top-level row, at the index that `after` had
     /// before that. Nothing happens when `after` is no other top-level row of the same tree.

@@ -94,9 +94,6 @@ private Q_SLOTS:
         {
             FileOpenManager manager(&opener, QString(), &menu, 4, cfg());
             manager.InitMenu(1);
-            // As the manager does by itself.
-            connect(&menu, &QMenu::triggered, &manager,
-                    qOverload<QAction*>(&FileOpenManager::SlotOpen));
             QTRY_COMPARE(textsOf(menu), QStringLiteral("Zoom,&1 a&b,Quit"));
             menu.insertAction(menu.actions().at(0), new QAction(QStringLiteral("Top"), &menu));
             manager.addRecentFile(QStringLiteral("a&b"));
@@ -109,6 +106,9 @@ private Q_SLOTS:
                 manager.SlotOpen(&outside);
             }
             QCOMPARE(opener.calls, QStringList());
+            // As the manager does by itself.
+            connect(&menu, &QMenu::triggered, &manager,
+                    qOverload<QAction*>(&FileOpenManager::SlotOpen));
             // The entry that was triggered is replaced while it still is at work.
             opener.whileOpening = [&] {
                 manager.SlotOpen(menu.actions().at(2));
