@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
+#include <guibase/colors/colorsetbuiltin.h>
 #include <guibase/colors/colorsetfactory_p.h>
 #include <guibase/colors/colorsetfile_p.h>
-#include <guibase/colors/editor/colorseteditor.h>
+#include <guibase/colors/editor/colorsctrl.h>
 #include <guibase/services/guibase.h>
 
 #include <jtbase/errorhandler.h>
@@ -205,6 +206,13 @@ void ColorSet::Load(QWidget* parent, const QString& name)
                                      tr("Current ColorSet was changed. Do you want to save now?")))
         Save(dialogParent, QString());
 
+    if (const auto builtIn = ColorSetBuiltIn::find(name)) {
+        assign(builtIn->ids);
+        m_fileName = QString::fromLatin1(builtIn->name);
+        m_dirty = false;
+        announceChange();
+        return;
+    }
     QString file = name;
     std::optional<ColorSetCodec::Ids> loaded;
     while (!loaded) {
@@ -263,11 +271,15 @@ void ColorSet::UpdateComboBox(QComboBox* box)
         m_knownFiles.append(file.absoluteFilePath());
         texts.append(file.fileName());
     }
+    for (const char* builtIn : ColorSetBuiltIn::names()) {
+        m_knownFiles.append(QString::fromLatin1(builtIn));
+        texts.append(tr(builtIn));
+    }
     if (!box)
         return;
-    const qsizetype current = m_fileName == factoryName()
-                                  ? 0
-                                  : m_knownFiles.indexOf(QFileInfo(m_fileName).absoluteFilePath());
+    qsizetype current = m_knownFiles.indexOf(m_fileName);
+    if (current < 0)
+        current = m_knownFiles.indexOf(QFileInfo(m_fileName).absoluteFilePath());
     if (current >= 0 && m_dirty)
         texts[current] += QStringLiteral(" [changed]");
     const QSignalBlocker blocker(box);
@@ -276,24 +288,24 @@ void ColorSet::UpdateComboBox(QComboBox* box)
     box->setCurrentIndex(static_cast<int>(current));
 }
 
-QWidget* ColorSet::makeEditor(QWidget* parent)
+ColorsCtrl* ColorSet::makeEditor(QWidget* parent)
 {
-    m_editor = ColorSetEditor::make(parent);
+    m_editor = new ColorsCtrl(parent);
     return m_editor;
 }
 
 QWidget* ColorSet::GetPropertyPage(QWidget* parent, const char* name)
 {
-    QWidget* editor = makeEditor(parent);
-    if (editor)
-        editor->setObjectName(QString::fromUtf8(name));
+    ColorsCtrl* editor = makeEditor(parent);
+    editor->setObjectName(QString::fromUtf8(name));
     return editor;
 }
 
 QWidget* ColorSet::GetCtrl(QWidget* parent)
 {
-    QWidget* editor = makeEditor(parent);
-    if (editor && parent)
+    ColorsCtrl* editor = makeEditor(parent);
+    // By text: the dialog is of a type that is not known here.
+    if (parent != nullptr && parent->metaObject()->indexOfSignal("applyButtonPressed()") >= 0)
         connect(parent, SIGNAL(applyButtonPressed()), editor, SLOT(slotAcceptChanges()));
     return editor;
 }
@@ -301,7 +313,7 @@ QWidget* ColorSet::GetCtrl(QWidget* parent)
 void ColorSet::slotAcceptPropertyChanges()
 {
     if (m_editor)
-        QMetaObject::invokeMethod(m_editor, "slotAcceptChanges");
+        m_editor->slotAcceptChanges();
 }
 
 void ColorSet::slotRestoreFactoryColors()

@@ -15,6 +15,7 @@
 
 #include <array>
 
+class ColorsCtrl;
 class QComboBox;
 class QWidget;
 
@@ -29,6 +30,12 @@ class GUIBASE_EXPORT ColorSet final : public QObject, public IColorBase, public 
 public:
     /// The current file name while the factory assignment is in use.
     static constexpr const char* factoryDefaultName = "*** Factory Default ***";
+
+    /// The names of the other sets that come with the library: for dark desktops, and for people who
+    /// cannot tell red from green. SetApplication() chooses the dark one when nothing is stored yet
+    /// and the desktop is dark.
+    static constexpr const char* darkDesktopName = "*** Dark Desktop ***";
+    static constexpr const char* colorBlindName = "*** Color Blind ***";
 
     /// At first use: the factory assignment, not dirty, show-in-dialog mask 1.
     static ColorSet& Instance();
@@ -88,6 +95,7 @@ public:
     /// cannot be opened the user may choose another one, else the factory assignment is restored;
     /// cancelling the file dialog counts as a file that cannot be opened.
     /// factoryDefaultName, also translated, restores the factory assignment without announcing it.
+    /// darkDesktopName and colorBlindName load the other sets that come with the library.
     void Load(QWidget* parent, const QString& name);
 
     /// Loads an entry of the list that UpdateComboBox() made. 0 restores the factory assignment and
@@ -101,9 +109,9 @@ public:
     /// A combo box with the known colour-set files, which belongs to `parent`. Connect its
     /// activated(int) to Load(int).
     QComboBox* GetColorSetsComboBox(QWidget* parent);
-    /// Fills the box with the factory default and the ".cst" files of the directory of the last
-    /// file loaded or saved (at first the current one), without a signal of the box. The current
-    /// set is selected and marked with " [changed]" while it is dirty.
+    /// Fills the box with the factory default, the ".cst" files of the directory of the last file
+    /// loaded or saved (at first the current one), and the other sets that come with the library,
+    /// without a signal of the box. The current set is selected and marked with " [changed]" while it is dirty.
     void UpdateComboBox(QComboBox* box);
 
     // --- Editor ----------------------------------------------------------------------------------
@@ -113,10 +121,11 @@ public:
     void AddShowInDialog(quint32 bits) { m_showInDialog |= bits; }
     quint32 GetShowInDialog() const { return m_showInDialog; }
 
-    /// Makes a new editor under `parent`; null when no editor is registered in this process.
+    /// Makes a new editor (ColorsCtrl) under `parent`.
     QWidget* GetPropertyPage(QWidget* parent, const char* name) override;
     QString GetPropertyPagePath() const override { return m_propertyPagePath; }
-    /// Makes an editor that accepts its changes on the parent's signal applyButtonPressed().
+    /// Makes an editor that accepts its changes on the parent's signal applyButtonPressed(), if the
+    /// parent has that.
     QWidget* GetCtrl(QWidget* parent);
 
 public Q_SLOTS:
@@ -136,7 +145,7 @@ private:
     ColorSetCodec::Ids ids() const;
     void assign(const ColorSetCodec::Ids& ids);
     void rememberFile(const QString& name);
-    QWidget* makeEditor(QWidget* parent);
+    ColorsCtrl* makeEditor(QWidget* parent);
 
     quint32 m_showInDialog = 1;
     bool m_dirty = false;
@@ -147,5 +156,5 @@ private:
     ColorSetCodec::Ids m_backupIds{};
     std::array<const ColorDefinition*, slotCount> m_slots{};
     QString m_propertyPagePath;
-    QPointer<QWidget> m_editor;
+    QPointer<ColorsCtrl> m_editor;
 };

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 guibase_room(colors
     PUBLIC
+        colorcontrast.cpp colorcontrast.h
         colordefinition.cpp colordefinition.h
         colordefinitionset.cpp colordefinitionset.h
         colors.cpp colors.h
@@ -11,6 +12,8 @@ guibase_room(colors
         ihaspropertypage.cpp ihaspropertypage.h
     INTERNAL
         colorcatalogue_p.h
+        colorsetbuiltin.cpp colorsetbuiltin.h
         colorsetfactory_p.h
         colorsetfile.cpp colorsetfile_p.h
-        signaltypenames.cpp signaltypenames.h)
+        signaltypenames.cpp signaltypenames.h
+        usercolors.cpp usercolors.h)

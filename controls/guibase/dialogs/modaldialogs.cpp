@@ -6,6 +6,7 @@
 #include <jtbase/errorhandler.h>
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFileInfo>
 #include <QPointer>
@@ -145,4 +146,18 @@ QString ModalDialogs::withExtension(const QString& name, const QString& filter)
     static const QRegularExpression extension(QStringLiteral("(\\.(\\w+))"),
                                               QRegularExpression::UseUnicodePropertiesOption);
     return name + extension.match(filter).captured(1);
+}
+
+QColor ModalDialogs::askForColor(QWidget* parent, const QColor& initial, const QString& title)
+{
+    if (!hasWidgets())
+        return {};
+    auto* const dialog = new QColorDialog(initial, parent);
+    dialog->setWindowTitle(title);
+    const bool isNative = !GuiBase::Instance().UseNativeDialogs().testFlag(
+        QFileDialog::DontUseNativeDialog);
+    dialog->setOption(QColorDialog::DontUseNativeDialog, !isNative);
+    return run(dialog, [](const QColorDialog& shown, int result) {
+        return result == QDialog::Accepted ? shown.selectedColor() : QColor();
+    });
 }

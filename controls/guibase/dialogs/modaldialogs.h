@@ -3,6 +3,7 @@
 
 #include <guibase/guibase_export.h>
 
+#include <QColor>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QString>
@@ -52,5 +53,8 @@ GUIBASE_EXPORT QString askForFile(QWidget* parent, const FileQuestion& question)
 /// The name with the first extension of the filter (".cst" for "*.cst") when its last part has no
 /// '.'. Parts are separated by '/' only.
 GUIBASE_EXPORT QString withExtension(const QString& name, const QString& filter);
+
+/// The color that the user chose; an invalid one when there is none.
+QColor askForColor(QWidget* parent, const QColor& initial, const QString& title);
 
 } // namespace ModalDialogs

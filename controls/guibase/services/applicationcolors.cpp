@@ -3,6 +3,10 @@
 
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
+#include <guibase/colors/usercolors.h>
+
+#include <QGuiApplication>
+#include <QPalette>
 
 void ApplicationColors::ensure()
 {
@@ -12,6 +16,22 @@ void ApplicationColors::ensure()
 void ApplicationColors::readSystemColors()
 {
     Colors::Instance().RestoreSystemColors();
+}
+
+void ApplicationColors::readUserColors()
+{
+    UserColors::read();
+}
+
+void ApplicationColors::chooseByDesktop()
+{
+    constexpr double darkest = 0.5;
+    const ColorSet& colors = ColorSet::Instance();
+    const bool isUntouched =
+        !colors.GetDirty() && colors.GetName() == QLatin1String(ColorSet::factoryDefaultName);
+    if (isUntouched &&
+        QGuiApplication::palette().color(QPalette::Window).lightnessF() < darkest)
+        ColorSet::Instance().Load(nullptr, QString::fromLatin1(ColorSet::darkDesktopName));
 }
 
 void ApplicationColors::restoreFactoryColors()

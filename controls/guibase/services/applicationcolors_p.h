@@ -11,6 +11,10 @@ void ensure();
 /// Takes the system colours from the application's palette: the colour set may have been made before
 /// there was one.
 void readSystemColors();
+/// The user colours as the configuration has them.
+void readUserColors();
+/// The set for dark desktops when the desktop is dark.
+void chooseByDesktop();
 void restoreFactoryColors();
 /// Loads the colour set from the file; an empty name changes nothing. Returns the name of the set
 /// that is active then.

@@ -55,9 +55,12 @@ void GuiBase::SetApplication(QApplication* application)
         d->settings.translateItems();
     ApplicationSetup::replaceMessageDialog();
     ApplicationColors::readSystemColors();
+    ApplicationColors::readUserColors();
     if (d->record.exists()) {
         ApplicationColors::restoreFactoryColors();
         Load();
+    } else {
+        ApplicationColors::chooseByDesktop();
     }
     d->record.followChoices();
 }

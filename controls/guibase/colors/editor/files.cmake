@@ -1,4 +1,12 @@
 # SPDX-License-Identifier: MIT
 guibase_room(colors/editor
+    PUBLIC
+        colorsctrl.cpp colorsctrl.h
+        colorselect.cpp colorselect.h
+        colorselectlistviewitem.cpp colorselectlistviewitem.h
     INTERNAL
-        colorseteditor.cpp colorseteditor.h)
+        colorpreview.cpp colorpreview_p.h
+        colorrows.cpp colorrows_p.h
+        colorswatch.cpp colorswatch_p.h
+        colortoolbuttons.cpp colortoolbuttons_p.h
+        usercolorsmenu.cpp usercolorsmenu_p.h)

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <guibase/colors/icolorbase.h>
+#include <guibase/guibase_export.h>
+
+#include <QColor>
+
+#include <functional>
+#include <optional>
+
+/// How well texts and lines of the colour set stand out from what they are drawn on.
+///
+/// The figure is the contrast ratio of the Web Content Accessibility Guidelines 2, from 1 (the same
+/// colour) to 21 (black and white).
+namespace ColorContrast {
+
+/// What the guidelines ask for at least for large texts and for lines (success criteria 1.4.3 and
+/// 1.4.11).
+inline constexpr double lowest = 3.0;
+
+/// Invalid colours count as black; transparency is left out.
+GUIBASE_EXPORT double ratio(const QColor& foreground, const QColor& background);
+
+/// The smallest ratio of a slot and the slots that it is drawn on. Nothing for slots that are no
+/// texts or lines; the grid, which is to stay behind, is none either. `color` gives the colour of a
+/// slot.
+GUIBASE_EXPORT std::optional<double>
+ratioOf(IColorBase::ECOLOR slot, const std::function<QColor(IColorBase::ECOLOR)>& color);
+
+} // namespace ColorContrast

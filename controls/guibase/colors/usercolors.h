@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+
+/// The 16 colours of the catalogue that the user can redefine. Redefined ones are kept in the
+/// configuration under "UserColors", by their ids.
+namespace UserColors {
+
+/// Takes the kept colours over into the catalogue. A text that is no colour is left where it is and
+/// counts as not there.
+void read();
+/// Redefines the user colour with this id, everywhere where it is used, and keeps it. The change is
+/// not announced. False for an id that is none of a user colour, and for an invalid color.
+bool redefine(int id, const QColor& color);
+
+} // namespace UserColors

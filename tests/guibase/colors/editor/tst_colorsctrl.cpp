@@ -1,0 +1,321 @@
+// SPDX-License-Identifier: MIT
+#include "support/dialogscript.h"
+#include "support/guardedtest.h"
+#include "support/randombytes.h"
+
+#include <guibase/colors/colorcontrast.h>
+#include <guibase/colors/colors.h>
+#include <guibase/colors/colorset.h>
+#include <guibase/colors/colorslotgroups.h>
+#include <guibase/colors/editor/colorsctrl.h>
+#include <guibase/colors/editor/colorselect.h>
+#include <guibase/colors/editor/colorselectlistviewitem.h>
+#include <guibase/lists/sortlistview.h>
+#include <guibase/services/guibase.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+#include <memory>
+
+using enum IColorBase::ECOLOR;
+
+namespace {
+
+ColorSet& colors()
+{
+    return ColorSet::Instance();
+}
+
+int idOf(IColorBase::ECOLOR slot)
+{
+    const ColorDefinition* definition = colors().GetColorDefinition(slot);
+    return definition != nullptr ? definition->GetId() : -1;
+}
+
+} // namespace
+
+/// A settings dialog as applications have it.
+class SettingsDialog : public QDialog
+{
+    Q_OBJECT
+Q_SIGNALS:
+    void applyButtonPressed();
+};
+
+class TestColorsCtrl : public GuardedTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        GuardedTest::init();
+        m_folder = std::make_unique<QTemporaryDir>();
+        QDir::setCurrent(m_folder->path());
+        colors().slotRestoreFactoryColors();
+        colors().SetShowInDialog(1);
+        m_page.reset(qobject_cast<ColorsCtrl*>(colors().GetPropertyPage(nullptr, "Page")));
+        m_page->resize(500, 700);
+        m_page->show();
+    }
+    void cleanup()
+    {
+        m_page.reset();
+        colors().slotRestoreFactoryColors();
+        QDir::setCurrent(QDir::tempPath());
+        GuardedTest::cleanup();
+    }
+
+    /// Which groups a mask shows, and that every row begins with the colour of its slot.
+    void groups()
+    {
+        QCOMPARE(m_page->objectName(), QStringLiteral("Page"));
+        QCOMPARE(list()->topLevelItemCount(), 9);
+        QCOMPARE(list()->topLevelItem(8)->text(0), QStringLiteral("Frequency Bar New"));
+        QCOMPARE(rowOf(SignalTypeB)->text(0), GuiBase::Instance().GetSignalType('b'));
+        const QTreeWidgetItem* fixed = list()->topLevelItem(0)->child(0);
+        QCOMPARE(fixed->text(1), QStringLiteral("Fixed to System Background"));
+        for (const ColorSelectListViewItem* row : rows())
+            QCOMPARE(row->GetColorId(), idOf(row->GetColorRoleId()));
+        colors().SetShowInDialog(0xffffffff);
+        const ColorsCtrl all;
+        QCOMPARE(all.findChild<SortListView*>()->topLevelItemCount(),
+                 int(ColorSlotGroups::all.size()));
+    }
+
+    /// By keyboard: open the picker, type a part of a name, and accept.
+    void chooseAndAccept()
+    {
+        QSignalSpy announced(&GuiBase::Instance(), &GuiBase::signalColorsChanged);
+        m_page->slotAcceptChanges();
+        QCOMPARE(announced.count(), 0);
+        choose(DrawPaneMainCurve, QStringLiteral("firebrick2"), Qt::Key_Return);
+        auto* row = rowOf(DrawPaneMainCurve);
+        QCOMPARE(row->text(1), QStringLiteral("FireBrick2"));
+        QCOMPARE(idOf(DrawPaneMainCurve), 1014);
+        QVERIFY(!row->icon(0).isNull()); // Too dark for the pane.
+
+        // The factory set has no file: the user is asked, and declines, then gives a name.
+        {
+            DialogScript script({QStringLiteral("Escape")});
+            m_page->slotAcceptChanges();
+            QCOMPARE(script.shown(), QStringList(QStringLiteral("Save current ColorSet")));
+        }
+        QCOMPARE(idOf(DrawPaneMainCurve), 1094);
+        QVERIFY(nameText().endsWith(QStringLiteral(" [changed]")));
+        QCOMPARE(announced.count(), 1);
+        DialogScript script({m_folder->filePath(QStringLiteral("mine"))});
+        m_page->slotAcceptChanges();
+        QVERIFY(QFile::exists(m_folder->filePath(QStringLiteral("mine.cst"))));
+        QVERIFY(!nameText().contains(QStringLiteral("changed")));
+        m_page->slotAcceptChanges();
+        QCOMPARE(announced.count(), 2);
+    }
+
+    /// Escape, an unknown name and the loss of the focus leave the row as it was.
+    void abandonedChoices()
+    {
+        choose(MarkerMain, QStringLiteral("Gold"), Qt::Key_Escape);
+        QCOMPARE(rowOf(MarkerMain)->GetColorId(), idOf(MarkerMain));
+        choose(MarkerMain, QStringLiteral("no such color"), Qt::Key_Return);
+        QCOMPARE(rowOf(MarkerMain)->GetColorId(), idOf(MarkerMain));
+        ColorSelect* picker = open(MarkerMain);
+        picker->lineEdit()->setText(QStringLiteral("Gold"));
+        m_page->findChild<QLineEdit*>(QStringLiteral("Filter"))->setFocus();
+        QTRY_VERIFY(!picker->isVisible());
+        QCOMPARE(rowOf(MarkerMain)->GetColorId(), idOf(MarkerMain));
+        m_page->slotAcceptChanges();
+        QVERIFY(!colors().GetDirty());
+        // A heading has no picker.
+        activate(list()->topLevelItem(0));
+        QVERIFY(!picker->isVisible());
+    }
+
+    void undoFilterAndDiscard()
+    {
+        QSignalSpy pending(m_page.get(), &ColorsCtrl::changesPending);
+        choose(AxisText, QStringLiteral("Gold"), Qt::Key_Return);
+        choose(AxisText, QStringLiteral("Green"), Qt::Key_Return);
+        QTest::keySequence(list(), QKeySequence::Undo);
+        QCOMPARE(rowOf(AxisText)->text(1), QStringLiteral("Gold"));
+        QTest::keySequence(list(), QKeySequence::Undo);
+        QCOMPARE(rowOf(AxisText)->GetColorId(), idOf(AxisText));
+        QTest::keySequence(list(), QKeySequence::Redo);
+        QCOMPARE(rowOf(AxisText)->text(1), QStringLiteral("Gold"));
+        QCOMPARE(pending.last().first().toBool(), true);
+
+        auto* filter = m_page->findChild<QLineEdit*>(QStringLiteral("Filter"));
+        filter->setText(QStringLiteral("gold"));
+        QVERIFY(!rowOf(AxisText)->isHidden());
+        QVERIFY(rowOf(AxisOutOfZoom)->isHidden());
+        filter->setText(QStringLiteral("axis"));
+        QVERIFY(!rowOf(AxisOutOfZoom)->isHidden());
+        filter->clear();
+
+        colors().SetColor(MarkerMain, Colors::Instance().GetColorDefinition(1000), false);
+        m_page->slotDiscardChanges();
+        QCOMPARE(rowOf(AxisText)->GetColorId(), idOf(AxisText));
+        QCOMPARE(idOf(MarkerMain), 1080);
+        QCOMPARE(pending.last().first().toBool(), false);
+    }
+
+    void applyFromDialog()
+    {
+        SettingsDialog dialog;
+        auto* page = qobject_cast<ColorsCtrl*>(colors().GetCtrl(&dialog));
+        m_page.reset(page);
+        page->show();
+        choose(AxisText, QStringLiteral("Gold"), Qt::Key_Return);
+        DialogScript script({m_folder->filePath(QStringLiteral("applied"))});
+        Q_EMIT dialog.applyButtonPressed();
+        QCOMPARE(idOf(AxisText), 1084);
+        m_page.release();
+        QWidget plain;
+        QVERIFY(colors().GetCtrl(&plain) != nullptr);
+    }
+
+    /// Any bytes in a file give rows that can be shown, changed and accepted.
+    void anyFile()
+    {
+        for (int round = 0; round < RandomBytes::rounds(200); ++round) {
+            const QString file = m_folder->filePath(QStringLiteral("f%1.cst").arg(round % 3));
+            QFile out(file);
+            QVERIFY(out.open(QIODevice::WriteOnly));
+            out.write(RandomBytes::next(700));
+            out.close();
+            colors().Load(nullptr, QString::fromLatin1(ColorSet::darkDesktopName));
+            DialogScript script({file});
+            m_page->findChild<QToolButton*>(QStringLiteral("File Open"))->click();
+            for (const ColorSelectListViewItem* row : rows())
+                QCOMPARE(row->GetColorId(), idOf(row->GetColorRoleId()));
+            rowOf(AxisText)->SetColorId(1000 + round % 200);
+            m_page->slotAcceptChanges();
+            m_page->grab();
+        }
+    }
+
+    /// Rows, list and page that die while the picker is open.
+    void dyingWhilePicking()
+    {
+        open(AxisText);
+        list()->clear();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        m_page->slotDiscardChanges();
+        open(AxisText);
+        DialogScript script({m_folder->filePath(QStringLiteral("none.cst"))});
+        colors().Load(nullptr, QString::fromLatin1(ColorSet::colorBlindName));
+        m_page->slotDiscardChanges();
+        open(MarkerMain);
+        connect(rowOf(MarkerMain), &ColorSelectListViewItem::colorChosen, this,
+                [this] { list()->clear(); });
+        ColorSelect* picker = open(MarkerMain);
+        picker->lineEdit()->setText(QStringLiteral("Gold"));
+        QTest::keyClick(picker->lineEdit(), Qt::Key_Return);
+        m_page->slotDiscardChanges();
+        open(AxisText);
+        m_page.reset();
+    }
+
+    /// A redefined user colour shows in the picker, is found, and comes back in the next run.
+    void userColors()
+    {
+        ColorSelect select(nullptr, false);
+        QCOMPARE(select.findText(QStringLiteral("System::Text")), -1);
+        select.Select(QStringLiteral("#nothing"));
+        QCOMPARE(select.GetCurrentId(), -1);
+        const QString white = Colors::Instance().GetColorDefinition(2008)->GetColorString();
+        select.Select(white, 2010);
+        QCOMPARE(select.GetCurrentId(), 2010);
+        QCOMPARE(select.GetCurrent(), white);
+        QCOMPARE(select.currentText(), QStringLiteral("user 11"));
+    }
+
+    /// Texts and lines of the sets that come with the library stand out from their backgrounds.
+    void contrastOfBuiltInSets()
+    {
+        QCOMPARE(ColorContrast::ratio(Qt::black, Qt::white), 21.0);
+        QCOMPARE(ColorContrast::ratio(Qt::red, Qt::red), 1.0);
+        for (const char* name : {ColorSet::factoryDefaultName, ColorSet::colorBlindName,
+                                 ColorSet::darkDesktopName}) {
+            colors().Load(nullptr, QString::fromLatin1(name));
+            for (int slot = 0; slot < IColorBase::slotCount; ++slot) {
+                const auto ratio = ColorContrast::ratioOf(
+                    static_cast<IColorBase::ECOLOR>(slot),
+                    [](IColorBase::ECOLOR each) { return colors().GetColor(each); });
+                QVERIFY2(!ratio || *ratio >= ColorContrast::lowest,
+                         qPrintable(QStringLiteral("%1 slot %2: %3")
+                                        .arg(QLatin1String(name))
+                                        .arg(slot)
+                                        .arg(ratio.value_or(0))));
+            }
+        }
+    }
+
+private:
+    SortListView* list() const { return m_page->findChild<SortListView*>(); }
+    QString nameText() const
+    {
+        return m_page->findChild<QWidget*>(QStringLiteral("Toolbar"))
+            ->findChild<QLabel*>()
+            ->text();
+    }
+    QList<ColorSelectListViewItem*> rows() const
+    {
+        QList<ColorSelectListViewItem*> found;
+        for (int group = 0; group < list()->topLevelItemCount(); ++group) {
+            const QTreeWidgetItem* heading = list()->topLevelItem(group);
+            for (int row = 0; row < heading->childCount(); ++row) {
+                if (auto* item = dynamic_cast<ColorSelectListViewItem*>(heading->child(row)))
+                    found << item;
+            }
+        }
+        return found;
+    }
+    ColorSelectListViewItem* rowOf(IColorBase::ECOLOR slot) const
+    {
+        const QList<ColorSelectListViewItem*> all = rows();
+        for (ColorSelectListViewItem* row : all) {
+            if (row->GetColorRoleId() == slot)
+                return row;
+        }
+        return nullptr;
+    }
+    void activate(QTreeWidgetItem* row) const
+    {
+        list()->setCurrentItem(row);
+        QTest::keyClick(list(), Qt::Key_Return);
+    }
+    ColorSelect* open(IColorBase::ECOLOR slot) const
+    {
+        activate(rowOf(slot));
+        const QList<ColorSelect*> pickers = list()->viewport()->findChildren<ColorSelect*>();
+        for (ColorSelect* picker : pickers) {
+            if (picker->isVisible())
+                return picker;
+        }
+        return nullptr;
+    }
+    void choose(IColorBase::ECOLOR slot, const QString& text, Qt::Key key) const
+    {
+        ColorSelect* picker = open(slot);
+        QVERIFY(picker != nullptr);
+        QCOMPARE(picker->geometry().left(), list()->header()->sectionSize(0));
+        picker->lineEdit()->setText(text);
+        QTest::keyClick(picker->lineEdit(), key);
+        QVERIFY(!picker->isVisible());
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<ColorsCtrl> m_page;
+};
+
+QTEST_MAIN(TestColorsCtrl)
+#include "tst_colorsctrl.moc"
