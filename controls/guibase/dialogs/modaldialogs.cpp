@@ -150,7 +150,7 @@ QString ModalDialogs::withExtension(const QString& name, const QString& filter)
 
 QColor ModalDialogs::askForColor(QWidget* parent, const QColor& initial, const QString& title)
 {
-    if (!hasWidgets())
+    if (!canAsk(title, {}))
         return {};
     auto* const dialog = new QColorDialog(initial, parent);
     dialog->setWindowTitle(title);
