@@ -160,20 +160,21 @@ void PersistentWidget::noteChange()
     Q_EMIT changed();
 }
 
-QByteArray PersistentWidget::presentGeometry()
+QByteArray PersistentWidget::presentGeometry() const
 {
     QByteArray bytes = m_widget->saveGeometry();
-    if (m_widget->isWindow())
+    if (m_widget->isWindow() || isNormal() || m_normalPlace.isEmpty())
         return bytes;
-    if (!m_widget->isMaximized() && !m_widget->isFullScreen()) {
-        m_normalPlace = m_widget->geometry();
-        return bytes;
-    }
     auto record = GeometryRecord::fromBytes(bytes);
-    if (!record || m_normalPlace.isEmpty())
+    if (!record)
         return bytes;
     record->normal = m_normalPlace;
     return record->toBytes();
+}
+
+bool PersistentWidget::isNormal() const
+{
+    return !(m_widget->windowState() & ~Qt::WindowStates(Qt::WindowActive));
 }
 
 void PersistentWidget::capture()
@@ -214,6 +215,8 @@ void PersistentWidget::captureDocksSoon()
 
 void PersistentWidget::beginEnd()
 {
+    if (m_isEnding)
+        return;
     capture();
     m_isEnding = true;
     m_openAtEnd.clear();
@@ -238,8 +241,12 @@ void PersistentWidget::giveUpEnd()
 bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isWindow = watched == m_widget || watched == m_mainWindow;
-    if (watched == m_widget)
+    if (watched == m_widget) {
         noteVisibility(*event);
+        // Not with a change of its state, in the middle of which a sub-window has none.
+        if ((event->type() == QEvent::Move || event->type() == QEvent::Resize) && isNormal())
+            m_normalPlace = m_widget->geometry();
+    }
     switch (event->type()) {
     case QEvent::MouseButtonRelease:
     case QEvent::Move:
@@ -300,6 +307,8 @@ void PersistentWidget::watch()
     if (m_widget) {
         m_widget->installEventFilter(this);
         m_isClosed = m_isClosed && m_widget->isHidden(); // It may have been shown meanwhile.
+        if (isNormal())
+            m_normalPlace = m_widget->geometry();
     }
     if (m_mainWindow && m_mainWindow != m_widget)
         m_mainWindow->installEventFilter(this);

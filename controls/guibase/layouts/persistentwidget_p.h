@@ -91,7 +91,8 @@ private:
 
     QMainWindow* mainWindow() const;
     WindowRecord::Content content() const;
-    QByteArray presentGeometry();
+    QByteArray presentGeometry() const;
+    bool isNormal() const;
     void captureDocks();
     void captureDocksSoon();
     void noteVisibility(const QEvent& event);

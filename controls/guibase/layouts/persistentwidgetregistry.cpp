@@ -74,10 +74,9 @@ bool PersistentWidgetRegistry::eventFilter(QObject* watched, QEvent* event)
 
 void PersistentWidgetRegistry::beginEnd()
 {
-    if (std::exchange(m_awaitsEnd, true))
-        return;
     forEachWidget(&PersistentWidget::beginEnd);
-    awaitEnd(QThread::currentThread()->loopLevel());
+    if (!std::exchange(m_awaitsEnd, true))
+        awaitEnd(QThread::currentThread()->loopLevel());
 }
 
 /// The application runs on when its loop does. A window that asks whether it may close runs one of

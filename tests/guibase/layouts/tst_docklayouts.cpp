@@ -422,7 +422,7 @@ private Q_SLOTS:
             m_services->RegisterPersistentWidget(subWindow, QStringLiteral("docks"));
             return std::pair(subWindow, window);
         };
-        const QRect place(11, 7, 510, 430);
+        const QRect place(11, 27, 510, 430); // The toolkit keeps room for a title bar.
         {
             QMdiArea area;
             const auto [subWindow, window] = makeSubWindow(area);
