@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+// A small application that a test starts as a process of its own:
+//     ends_process <configuration folder> <way to end> [<what it should look like>]
+// Without the last word it changes its layout. It tells what it looks like, and ends in its way:
+// "close", "quit", "return", or "signal" for waiting to be ended from outside.
+#include <guibase/docks/autohide/autohidesupport.h>
+#include <guibase/docks/dockwidgetconfigurator.h>
+#include <guibase/docks/dockwidgethelpers.h>
+#include <guibase/docks/mainwindowconfigurator.h>
+#include <guibase/lists/sortlistview.h>
+#include <guibase/services/guibase.h>
+#include <guibase/splitters/splitter.h>
+
+#include <trovappstartup/cfgcenter.h>
+#include <trovappstartup/trovapplication.h>
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QDockWidget>
+#include <QEventLoop>
+#include <QHeaderView>
+#include <QMainWindow>
+#include <QTextEdit>
+#include <QTextStream>
+#include <QTimer>
+
+#include <functional>
+
+using QMainWindowHelpers::AutoHideSupport;
+using QMainWindowHelpers::MainWindowConfigurator;
+
+namespace {
+
+class Window : public QMainWindow
+{
+public:
+    Window()
+    {
+        MainWindowConfigurator()
+            .withAutoHideSupport(MainWindowConfigurator::DefaultAutoHideSupportToolBarAreas)
+            .configure(*this, QStringLiteral("ends"), QStringLiteral("Ends"));
+        resize(700, 600);
+        m_splitter = new Splitter(Qt::Horizontal, this, QString(), QStringLiteral("panes"));
+        m_list = new SortListView(m_splitter, "list");
+        m_list->addColumn(QStringLiteral("first"));
+        m_list->addColumn(QStringLiteral("last"));
+        m_list->SetColumnWidthPersistantName(QStringLiteral("list"));
+        m_splitter->addWidget(m_list);
+        m_splitter->addWidget(new QWidget);
+        setCentralWidget(m_splitter);
+        for (QDockWidget*& dock : m_docks) {
+            const QString name = QString::number(&dock - m_docks);
+            dock = QDockWidgetHelpers::makeDockWidgetFrom(*new QTextEdit);
+            addDockWidget(Qt::LeftDockWidgetArea, dock);
+            QDockWidgetHelpers::DockWidgetConfigurator().withAutoHideSupport(true).configure(
+                *dock, name, name);
+        }
+        AutoHideSupport::get(*this)->setStorageName(QStringLiteral("panels"));
+    }
+
+    void change()
+    {
+        const auto& [docked, open, hidden, hiding, tab, raised] = m_docks;
+        addDockWidget(Qt::RightDockWidgetArea, docked);
+        for (QDockWidget* dock : {open, hidden}) {
+            dock->setFloating(true);
+            dock->setGeometry(300, 260, 222, 188);
+        }
+        hidden->hide();
+        AutoHideSupport::autoHideAction(*hiding)->setChecked(true);
+        tabifyDockWidget(tab, raised);
+        raised->raise();
+        m_list->setColumnWidth(0, 77);
+        m_splitter->setSizes({1, 1});
+        m_splitter->shiftHandle(1, -50);
+        showMaximized();
+    }
+
+    QString looks() const
+    {
+        const auto& [docked, open, hidden, hiding, tab, raised] = m_docks;
+        const QRect place = open->geometry();
+        const bool isAtEdge = AutoHideSupport::autoHideAction(*hiding)->isChecked();
+        const QList<int> panes = m_splitter->sizes();
+        QString text;
+        QTextStream out(&text);
+        out << (isMaximized() ? "window maximized" : "window") << ", docked "
+            << (dockWidgetArea(docked) == Qt::RightDockWidgetArea ? "right " : "left ")
+            << docked->width()
+            << (open->isVisible() && open->isFloating() ? ", open" : ", not open") << " at "
+            << place.x() << ' ' << place.y() << ' ' << place.width() << ' ' << place.height()
+            << (hidden->isHidden() && hidden->isFloating() ? ", hidden" : ", shown")
+            << (isAtEdge ? ", hiding" : ", not hiding")
+            << (tabifiedDockWidgets(tab).contains(raised) ? ", tabbed" : ", not tabbed")
+            << (tab->visibleRegion().isEmpty() ? " below" : " above") << ", column "
+            << m_list->columnWidth(0) << ", panes " << panes.at(0) << ' ' << panes.at(1);
+        return text;
+    }
+
+private:
+    QDockWidget* m_docks[6] = {};
+    Splitter* m_splitter = nullptr;
+    SortListView* m_list = nullptr;
+};
+
+/// Tells what the window looks like, once that is as expected, or without expectation once it has
+/// stayed the same for a while; and anyway at the end of its patience.
+class Teller : public QTimer
+{
+public:
+    Teller(const Window& window, QString expected, std::function<void()> end)
+    {
+        setInterval(50);
+        callOnTimeout(this, [this, &window, expected, end] {
+            const QString looks = window.looks();
+            const bool isAsExpected = looks == expected || (expected.isEmpty() && m_same > 10);
+            m_same = looks == m_last ? m_same + 1 : 0;
+            m_last = looks;
+            if (!isAsExpected && !m_patience.hasExpired())
+                return;
+            stop();
+            QTextStream(stdout) << looks << "\ntold" << Qt::endl;
+            end();
+        });
+        start();
+    }
+
+private:
+    QDeadlineTimer m_patience{20'000};
+    QString m_last;
+    int m_same = 0;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    const QString way = arguments.value(2);
+    CfgCenter::SetConfigDir(arguments.value(1));
+    // Only the end writes.
+    CfgCenter::SetAutoStoreDelay(-1);
+    GuiBase::Instance().SetLayoutWriteDelay(-1);
+    const TrovApplication startUp;
+    Window window;
+    GuiBase::Instance().SetMainWidget(&window);
+    window.show();
+    if (arguments.size() < 4)
+        QTimer::singleShot(0, &window, &Window::change);
+
+    QEventLoop loop;
+    const Teller teller(window, arguments.value(3), [&] {
+        if (way == QStringLiteral("close"))
+            window.close();
+        else if (way == QStringLiteral("quit"))
+            QCoreApplication::quit();
+        else
+            loop.quit();
+    });
+    if (way == QStringLiteral("return"))
+        return loop.exec();
+    return QApplication::exec();
+}
