@@ -83,12 +83,8 @@ protected:
         const Held value = this->value()->GetValue();
         const Target target = targetOf(value);
         W& widget = this->widget();
-        if (!isShownAs(target.quantity, Access::get(widget))) {
-            const WidgetUpdateTransaction transaction = this->openWidgetUpdateTransaction();
-            Access::set(widget, target.quantity);
-            if (!transaction.isBindingAlive() || !this->isWidgetAlive())
-                return;
-        }
+        if (!isShownAs(target.quantity, Access::get(widget)) && !give(target.quantity))
+            return;
         Shown now = Access::get(widget);
         bool fits = target.fits;
         if constexpr (!std::is_arithmetic_v<Shown>)
@@ -101,6 +97,24 @@ protected:
     }
 
 private:
+    /// What hears of it may give the widget something else meanwhile; the value wins. A widget that
+    /// becomes the same twice has rounded. False when binding or widget did not survive it.
+    bool give(const Shown& quantity)
+    {
+        const WidgetUpdateTransaction transaction = this->openWidgetUpdateTransaction();
+        std::optional<Shown> former;
+        for (int i = 0; i < mostAttempts; ++i) {
+            Access::set(this->widget(), quantity);
+            if (!transaction.isBindingAlive() || !this->isWidgetAlive())
+                return false;
+            const Shown now = Access::get(this->widget());
+            if (now == quantity || now == former)
+                break;
+            former = now;
+        }
+        return true;
+    }
+
     void take(const Held& input)
     {
         m_refusal = this->refusalOf(input); // What the guard looks at may have changed.
@@ -122,6 +136,7 @@ private:
         bool fits = true; ///< That is the value, but for rounding.
     };
 
+    static constexpr int mostAttempts = 5;
     static constexpr bool isNumber = std::is_arithmetic_v<Held> && !std::is_same_v<Held, bool>;
     static constexpr bool isPartOfRange = isScale<W> && std::is_floating_point_v<Held>;
 

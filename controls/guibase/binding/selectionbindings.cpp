@@ -8,6 +8,8 @@ namespace ValueWidgetBinding::Internal {
 
 namespace {
 
+constexpr int mostAttempts = 5;
+
 template <typename WidgetClass>
 QString shownText(const SelectionItem& item, WidgetClass& widget,
                   const ItemToShown<WidgetClass>& toShown)
@@ -57,11 +59,14 @@ void ValueSelectionQComboBoxBinding::showCurrent()
 {
     if (isMarked())
         setUnshownValue(QString());
-    const int current = value()->GetCurrentIndex();
-    if (widget().currentIndex() == current)
+    if (widget().currentIndex() == value()->GetCurrentIndex())
         return;
     const WidgetUpdateTransaction transaction = openWidgetUpdateTransaction();
-    widget().setCurrentIndex(current);
+    // What hears of it may choose something else meanwhile; the value wins.
+    for (int i = 0; i < mostAttempts && transaction.isBindingAlive() && isWidgetAlive() &&
+                    value() != nullptr && widget().currentIndex() != value()->GetCurrentIndex();
+         ++i)
+        widget().setCurrentIndex(value()->GetCurrentIndex());
 }
 
 void ValueSelectionQComboBoxBinding::refuse(const QString& reason)
@@ -89,7 +94,7 @@ void ValueSelectionQComboBoxBinding::showItems()
     if (!isWhole())
         return;
     showDisabledItems();
-    widget().setCurrentIndex(value()->GetCurrentIndex());
+    showCurrent();
 }
 
 void ValueSelectionQComboBoxBinding::showDisabledItems()
