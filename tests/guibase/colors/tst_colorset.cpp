@@ -302,13 +302,14 @@ private Q_SLOTS:
                 all << box->itemText(i).replace(u' ', u'_');
             return all;
         };
-        QCOMPARE(texts(), words("***_Factory_Default_*** A.cst b.cst_[changed] Sprinter.cst"));
+        QCOMPARE(texts(), words("***_Factory_Default_*** A.cst b.cst_[changed] Sprinter.cst "
+                                "***_Dark_Desktop_*** ***_Color_Blind_***"));
         QCOMPARE(box->currentIndex(), 2);
 
         colors().Save(nullptr, QString());
         colors().Load(1);
         QCOMPARE(colors().GetName(), path("A.cst"));
-        colors().Load(4);
+        colors().Load(6);
         colors().Load(-1);
         QCOMPARE(m_changes->size(), 1);
         QSignalSpy indexChanges(box, &QComboBox::currentIndexChanged);

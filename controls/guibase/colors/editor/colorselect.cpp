@@ -66,7 +66,6 @@ ColorSelect::Private::Private(ColorSelect& box, bool system)
     , entries(new QStandardItemModel(&box))
 {
     q.setModel(entries);
-    fill();
 }
 
 void ColorSelect::Private::fill()
@@ -145,6 +144,7 @@ ColorSelect::ColorSelect(QWidget* parent, bool withSystemColors)
 {
     setObjectName(QStringLiteral("ColorSelect"));
     setMaxVisibleItems(20);
+    d->fill();
     d->makeSearchable();
     setCurrentIndex(-1);
     connect(&GuiBase::Instance(), &GuiBase::signalColorsChanged, this, [this] { d->fill(); });
@@ -170,8 +170,7 @@ QString ColorSelect::GetCurrent() const
 
 int ColorSelect::GetCurrentId() const
 {
-    return d != nullptr && d->isColor(currentIndex()) ? itemData(currentIndex(), IdRole).toInt()
-                                                      : -1;
+    return d->isColor(currentIndex()) ? itemData(currentIndex(), IdRole).toInt() : -1;
 }
 
 void ColorSelect::showEvent(QShowEvent* event)

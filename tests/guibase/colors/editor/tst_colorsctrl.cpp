@@ -54,10 +54,9 @@ class TestColorsCtrl : public GuardedTest
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init()
+protected:
+    void prepare() override
     {
-        GuardedTest::init();
         m_folder = std::make_unique<QTemporaryDir>();
         QDir::setCurrent(m_folder->path());
         colors().slotRestoreFactoryColors();
@@ -66,13 +65,14 @@ private Q_SLOTS:
         m_page->resize(500, 700);
         m_page->show();
     }
-    void cleanup()
+    void tidy() override
     {
         m_page.reset();
         colors().slotRestoreFactoryColors();
         QDir::setCurrent(QDir::tempPath());
-        GuardedTest::cleanup();
     }
+
+private Q_SLOTS:
 
     /// Which groups a mask shows, and that every row begins with the colour of its slot.
     void groups()
@@ -185,11 +185,12 @@ private Q_SLOTS:
     /// Any bytes in a file give rows that can be shown, changed and accepted.
     void anyFile()
     {
+        RandomBytes random("colour-set files");
         for (int round = 0; round < RandomBytes::rounds(200); ++round) {
             const QString file = m_folder->filePath(QStringLiteral("f%1.cst").arg(round % 3));
             QFile out(file);
             QVERIFY(out.open(QIODevice::WriteOnly));
-            out.write(RandomBytes::next(700));
+            out.write(random.bytes(700));
             out.close();
             colors().Load(nullptr, QString::fromLatin1(ColorSet::darkDesktopName));
             DialogScript script({file});
