@@ -3,6 +3,7 @@
 
 #include "floatingdockkeeper.h"
 
+#include <guibase/docks/mainwindowhelpers.h>
 #include <guibase/records/dockstatecheck.h>
 
 #include <QMainWindow>
@@ -35,7 +36,7 @@ struct FormerToolBar
 std::vector<FormerDock> formerDocks(const QMainWindow& window, const QSet<QString>& known)
 {
     std::vector<FormerDock> result;
-    const auto docks = window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto docks = QMainWindowHelpers::dockWidgets(window);
     for (QDockWidget* dock : docks) {
         FormerDock former{dock, window.dockWidgetArea(dock), {}};
         if (!known.contains(dock->objectName())) {
@@ -121,7 +122,7 @@ void DockRestore::restore(QMainWindow& window, const DockLayout& layout)
 DockRestore::Places DockRestore::places(const QMainWindow& window)
 {
     Places result;
-    const auto docks = window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto docks = QMainWindowHelpers::dockWidgets(window);
     for (QDockWidget* dock : docks)
         result.push_back(placeOf(window, *dock));
     return result;
