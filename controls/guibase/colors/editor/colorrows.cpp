@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "colorrows_p.h"
 
-#include "colorselectlistviewitem.h"
-
 #include <guibase/colors/colorcontrast.h>
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
@@ -101,14 +99,16 @@ void ColorRows::filter(const QString& text)
 
 void ColorRows::refresh()
 {
-    for (const auto& [role, row] : m_rows)
-        row->Refresh();
+    for (const auto& [role, row] : m_rows) {
+        if (row)
+            row->Refresh();
+    }
 }
 
 void ColorRows::accept()
 {
     for (const auto& [role, row] : m_rows) {
-        if (!row->GetDirty())
+        if (!row || !row->GetDirty())
             continue;
         ColorSet::Instance().SetColor(
             role, Colors::Instance().GetColorDefinition(row->GetColorId()), false);
@@ -118,7 +118,7 @@ void ColorRows::accept()
 
 void ColorRows::setColorId(IColorBase::ECOLOR role, int id)
 {
-    if (const auto row = m_rows.find(role); row != m_rows.end())
+    if (const auto row = m_rows.find(role); row != m_rows.end() && row->second)
         row->second->SetColorId(id);
 }
 
@@ -126,8 +126,9 @@ QColor ColorRows::colorOf(IColorBase::ECOLOR slot) const
 {
     const auto row = m_rows.find(slot);
     const ColorDefinition* definition =
-        row != m_rows.end() ? Colors::Instance().GetColorDefinition(row->second->GetColorId())
-                            : ColorSet::Instance().GetColorDefinition(slot);
+        row != m_rows.end() && row->second
+            ? Colors::Instance().GetColorDefinition(row->second->GetColorId())
+            : ColorSet::Instance().GetColorDefinition(slot);
     // An empty slot is drawn in the colour that ColorSet::GetColor() gives for it.
     return definition != nullptr ? definition->GetColor() : QColor(Qt::cyan);
 }
@@ -136,6 +137,8 @@ void ColorRows::markContrasts()
 {
     const QIcon warning = style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this);
     for (const auto& [role, row] : m_rows) {
+        if (!row)
+            continue;
         const auto ratio =
             ColorContrast::ratioOf(role, [this](IColorBase::ECOLOR slot) { return colorOf(slot); });
         const bool isFaint = ratio && *ratio < ColorContrast::lowest;

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "colorselectlistviewitem.h"
+
 #include <guibase/colors/icolorbase.h>
 #include <guibase/lists/sortlistview.h>
+
+#include <QPointer>
 
 #include <map>
 #include <optional>
 
-class ColorSelectListViewItem;
 struct ColorSlotGroup;
 struct ColorSlotRow;
 
@@ -50,5 +53,6 @@ private:
     void addGroup(const ColorSlotGroup& group);
     void addRow(SortListViewItem* heading, const ColorSlotRow& row);
 
-    std::map<IColorBase::ECOLOR, ColorSelectListViewItem*> m_rows;
+    /// Rows may go without this list being told.
+    std::map<IColorBase::ECOLOR, QPointer<ColorSelectListViewItem>> m_rows;
 };
