@@ -58,12 +58,10 @@ void NotificationConnection::send(const QByteArray& messages)
 {
     if (!isConnected())
         return;
-    if (m_socket->bytesToWrite() + messages.size() > m_sendBuffer) {
+    if (m_socket->bytesToWrite() + messages.size() > m_sendBuffer)
         close();
-        return;
-    }
-    m_socket->write(messages);
-    m_socket->flush(); // Cheaper than being told by the event loop that the socket takes bytes.
+    else
+        m_socket->write(messages);
 }
 
 void NotificationConnection::close()
