@@ -4,6 +4,7 @@
 #include "mainwindow.h"
 #include "model/samplegenerator.h"
 #include "screenshots.h"
+#include "signalnotifier.h"
 
 #include <guibase/services/guibase.h>
 #include <trovappstartup/cfgcenter.h>
@@ -86,6 +87,8 @@ int run(int argc, char** argv, const CommandLine& commandLine)
     MainWindow window;
     services.SetMainWidget(&window);
     window.announceModes();
+    if (commandLine.screenshotsFolder.isEmpty())
+        new SignalNotifier(&window); // The window owns it. Pictures show the program alone.
     window.show();
     services.Write2Splash(QApplication::translate("main", "Opening the recording…"));
     Session& session = window.session();

@@ -2,6 +2,7 @@
 #include "recordings.h"
 
 #include <model/samplegenerator.h>
+#include <model/signalalarm.h>
 #include <model/signalwatch.h>
 
 #include "support/testrows.h"
@@ -215,6 +216,37 @@ private Q_SLOTS:
             watch.showSweep(sweep, sweep - 1);
         QVERIFY(watch.newcomer() != nullptr); // the hopper does not stand still
         QVERIFY(watch.track(watch.newcomer()->id) == watch.newcomer());
+    }
+
+    void alarmsOnceForWhatStays()
+    {
+        ReadRecording sample;
+        sample.read(SampleGenerator().remaining().toStdString());
+        SignalAlarm alarm;
+        bool isFine = true; // Nothing too early, nothing twice.
+        const auto replay = [&](bool ignoring) {
+            SignalWatch watch;
+            watch.setRecording(sample.recording);
+            std::vector<std::uint32_t> ids;
+            for (qsizetype sweep = 0; sweep < sample.recording->count(); ++sweep) {
+                watch.showSweep(sweep, sweep - 1);
+                for (const SignalTrack& track : alarm.takeIn(watch)) {
+                    isFine = isFine && track.longestRun() >= SignalAlarm::sweepsOnEnd &&
+                             sweep >= SignalAlarm::sweepsOnEnd &&
+                             std::ranges::count(ids, track.id) == 0;
+                    ids.push_back(track.id);
+                    if (ignoring)
+                        alarm.ignore(track.signal);
+                }
+            }
+            return ids.size();
+        };
+        const std::size_t all = replay(false);
+        QVERIFY(all >= 1);
+        const std::size_t first = replay(true);
+        QVERIFY(first >= 1 && first <= all);
+        QVERIFY(replay(false) < all);
+        QVERIFY(isFine);
     }
 };
 
