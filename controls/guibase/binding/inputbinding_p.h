@@ -42,10 +42,13 @@ protected:
             m_ownLimits.emplace(widget.minimum(), widget.maximum());
     }
 
-    void widgetChanged(const Shown& entered)
+    void widgetChanged(const Shown& told)
     {
-        if (this->isUpdatingWidget() || this->value() == nullptr)
+        if (this->isUpdatingWidget() || this->value() == nullptr || !this->isWidgetAlive())
             return;
+        const Shown entered = Access::get(this->widget());
+        if (entered != told)
+            return; // Who heard of it before has changed it already.
         // Not an input: the widget has rounded or clamped what it was shown, or tells it again.
         const Target target = targetOf(this->value()->GetValue());
         if (!this->hasPendingUpdate() && isShownAs(target.quantity, entered)) {
@@ -76,45 +79,30 @@ protected:
             showValue();
     }
 
+    /// What hears of it may give the widget something else meanwhile, or change the value: the
+    /// value wins. A widget that becomes the same twice has rounded.
     void showValue()
     {
-        if (this->value() == nullptr)
-            return;
-        const Held value = this->value()->GetValue();
-        const Target target = targetOf(value);
-        W& widget = this->widget();
-        if (!isShownAs(target.quantity, Access::get(widget)) && !give(target.quantity))
-            return;
-        Shown now = Access::get(widget);
-        bool fits = target.fits;
-        if constexpr (!std::is_arithmetic_v<Shown>)
-            fits = fits && now == target.quantity;
-        m_shown.emplace(target.quantity, std::move(now));
-        if (!fits)
-            this->setUnshownValue(Conversion::text(value));
-        else if (this->isMarked())
-            this->setUnshownValue(QString());
+        std::optional<std::pair<Shown, Shown>> former;
+        for (int i = 0; i < mostAttempts && this->value() != nullptr; ++i) {
+            const Held value = this->value()->GetValue();
+            const Target target = targetOf(value);
+            const std::pair<Shown, Shown> now(target.quantity, Access::get(this->widget()));
+            if (now == former)
+                m_shown = now;
+            if (isShownAs(target.quantity, now.second)) {
+                tellWhetherShown(value, target, now.second);
+                return;
+            }
+            former = now;
+            const WidgetUpdateTransaction transaction = this->openWidgetUpdateTransaction();
+            Access::set(this->widget(), target.quantity);
+            if (!transaction.isBindingAlive() || !this->isWidgetAlive())
+                return;
+        }
     }
 
 private:
-    /// What hears of it may give the widget something else meanwhile; the value wins. A widget that
-    /// becomes the same twice has rounded. False when binding or widget did not survive it.
-    bool give(const Shown& quantity)
-    {
-        const WidgetUpdateTransaction transaction = this->openWidgetUpdateTransaction();
-        std::optional<Shown> former;
-        for (int i = 0; i < mostAttempts; ++i) {
-            Access::set(this->widget(), quantity);
-            if (!transaction.isBindingAlive() || !this->isWidgetAlive())
-                return false;
-            const Shown now = Access::get(this->widget());
-            if (now == quantity || now == former)
-                break;
-            former = now;
-        }
-        return true;
-    }
-
     void take(const Held& input)
     {
         m_refusal = this->refusalOf(input); // What the guard looks at may have changed.
@@ -139,6 +127,17 @@ private:
     static constexpr int mostAttempts = 5;
     static constexpr bool isNumber = std::is_arithmetic_v<Held> && !std::is_same_v<Held, bool>;
     static constexpr bool isPartOfRange = isScale<W> && std::is_floating_point_v<Held>;
+
+    void tellWhetherShown(const Held& value, const Target& target, const Shown& now)
+    {
+        bool fits = target.fits;
+        if constexpr (!std::is_arithmetic_v<Shown>)
+            fits = fits && now == target.quantity;
+        if (!fits)
+            this->setUnshownValue(Conversion::text(value));
+        else if (this->isMarked())
+            this->setUnshownValue(QString());
+    }
 
     /// Whether the widget has been given the quantity, which it may have rounded.
     bool isShownAs(const Shown& quantity, const Shown& now) const

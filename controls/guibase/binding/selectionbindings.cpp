@@ -119,9 +119,9 @@ int ValueSelectionQComboBoxBinding::chosenIndex(int index) const
 
 void ValueSelectionQComboBoxBinding::slCurrentIndexChanged(int index)
 {
-    if (isUpdatingWidget() || value() == nullptr || index < 0)
+    if (isUpdatingWidget() || value() == nullptr || index != widget().currentIndex())
         return;
-    const int chosen = chosenIndex(index);
+    const int chosen = index < 0 ? -1 : chosenIndex(index);
     const SelectionItem* item = value()->GetItem(chosen);
     const bool isForUser = item != nullptr && !item->IsDisabled();
     const QString refusal = isForUser ? refusalOf(item->GetValue()) : QString();
