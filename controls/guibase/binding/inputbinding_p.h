@@ -44,6 +44,8 @@ protected:
 
     void widgetChanged(const Shown& told)
     {
+        if (this->isUpdatingWidget())
+            ++m_timesTold;
         if (this->isUpdatingWidget() || this->value() == nullptr || !this->isWidgetAlive())
             return;
         const Shown entered = Access::get(this->widget());
@@ -80,25 +82,24 @@ protected:
     }
 
     /// What hears of it may give the widget something else meanwhile, or change the value: the
-    /// value wins. A widget that becomes the same twice has rounded.
+    /// value wins.
     void showValue()
     {
-        std::optional<std::pair<Shown, Shown>> former;
         for (int i = 0; i < mostAttempts && this->value() != nullptr; ++i) {
             const Held value = this->value()->GetValue();
             const Target target = targetOf(value);
-            const std::pair<Shown, Shown> now(target.quantity, Access::get(this->widget()));
-            if (now == former)
-                m_shown = now;
-            if (isShownAs(target.quantity, now.second)) {
-                tellWhetherShown(value, target, now.second);
+            const Shown now = Access::get(this->widget());
+            if (isShownAs(target.quantity, now)) {
+                tellWhetherShown(value, target, now);
                 return;
             }
-            former = now;
+            const unsigned toldBefore = m_timesTold;
             const WidgetUpdateTransaction transaction = this->openWidgetUpdateTransaction();
             Access::set(this->widget(), target.quantity);
             if (!transaction.isBindingAlive() || !this->isWidgetAlive())
                 return;
+            if (m_timesTold - toldBefore <= 1) // Nobody else has set the widget.
+                m_shown.emplace(target.quantity, Access::get(this->widget()));
         }
     }
 
@@ -240,6 +241,7 @@ private:
     }
 
     std::optional<std::pair<Shown, Shown>> m_ownLimits; ///< Of the widget, before it was bound.
+    unsigned m_timesTold = 0;                           ///< By the widget, while it was updated.
     QString m_refusal; ///< Of the input that was to be written just now.
     std::optional<std::pair<Shown, Shown>> m_shown; ///< What the widget was given, and became.
 };
