@@ -58,6 +58,7 @@ HotKeyList::HotKeyList(HotKeyRegistry& registry, QWidget* parent)
     for (const QString& title : {GuiBase::tr("Key"), GuiBase::tr("Shift"), GuiBase::tr("Alt"),
                                  GuiBase::tr("Ctrl"), GuiBase::tr("Scope"), GuiBase::tr("Comment")})
         addColumn(title);
+    setColumnAlignment(0, Qt::AlignLeft | Qt::AlignVCenter);
     for (unsigned column = firstModifierColumn; column <= lastModifierColumn; ++column)
         setColumnAlignment(column, Qt::AlignHCenter | Qt::AlignVCenter);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
