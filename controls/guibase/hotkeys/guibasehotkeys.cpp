@@ -102,6 +102,8 @@ bool GuiBase::eventFilter(QObject* object, QEvent* event)
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return false;
     const QKeyEvent& keyEvent = *static_cast<QKeyEvent*>(event);
+    if (keyEvent.key() != Qt::Key_Escape && !d->hotKeys.isWatched(keyEvent.key()))
+        return false;
     if (d->hotKeys.isRepeatedDelivery(object, keyEvent))
         return false;
     const QPointer<QObject> guard(object);

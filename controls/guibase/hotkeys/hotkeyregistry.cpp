@@ -94,6 +94,7 @@ int HotKeyRegistry::add(HotKey hotKey)
 {
     hotKey.id = static_cast<int>(m_hotKeys.size()) + 1;
     hotKey.stroke = HotKeyAssignments::read(hotKey).value_or(hotKey.registered);
+    m_watchedKeys.insert(hotKey.stroke.key);
     m_hotKeys.append(std::move(hotKey));
     return m_hotKeys.constLast().id;
 }
@@ -203,6 +204,7 @@ void HotKeyRegistry::assign(int id, const HotKeyStroke& stroke)
     if (hotKey == nullptr)
         return;
     hotKey->stroke = stroke;
+    m_watchedKeys.insert(stroke.key);
     if (hotKey->action)
         setShortcut(*hotKey->action, stroke);
     HotKeyAssignments::write(*hotKey);

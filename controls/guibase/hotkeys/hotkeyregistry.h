@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QMutex>
+#include <QSet>
 
 class GuiBase;
 class QKeyEvent;
@@ -47,6 +48,8 @@ public:
     static QList<HotKey> conflicts(const HotKey& hotKey, const QList<HotKey>& shown);
     bool isEmpty() const { return m_hotKeys.isEmpty(); }
 
+    /// Whether a hot key may fire with this key; a quick answer for all the keys that people type.
+    bool isWatched(int key) const { return m_watchedKeys.contains(key); }
     /// The ids of the hot keys that the event fires, in their order.
     QList<int> matches(const QKeyEvent& event) const;
     /// Whether the event is one that was examined already: the toolkit offers one key event to a
@@ -79,6 +82,7 @@ private:
 
     QMutex m_mutex;
     QList<HotKey> m_hotKeys;
+    QSet<int> m_watchedKeys; ///< Every key that a hot key has, or has had.
     Delivery m_lastDelivery;
     QPointer<const QObject> m_lastTarget;
 };
