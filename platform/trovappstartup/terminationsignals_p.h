@@ -21,6 +21,7 @@ public:
     ~TerminationSignals() override;
 
 Q_SIGNALS:
+    /// The system has asked for the first time to end the process.
     void requested();
 
 private:

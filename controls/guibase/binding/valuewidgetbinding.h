@@ -100,7 +100,7 @@ protected:
     void tellOnlyCompleteInput();
     /// Tells the user why an input was not taken.
     void showRefusal(const QString& reason);
-    /// Whether one of the two is told.
+    /// Whether the widget is marked with an unshown value or a refusal.
     bool isMarked() const;
 
     void Update(Observable* observable, TChangeCode code) override;

@@ -22,9 +22,9 @@ inline constexpr double lowest = 3.0;
 /// Invalid colours count as black; transparency is left out.
 GUIBASE_EXPORT double ratio(const QColor& foreground, const QColor& background);
 
-/// The smallest ratio of a slot and the slots that it is drawn on. Nothing for slots that are no
-/// texts or lines; the grid, which is to stay behind, is none either. `color` gives the colour of a
-/// slot.
+/// The smallest ratio of a slot and the slots that it is drawn on. Nothing for slots that are not
+/// drawn as texts or lines, and for the grid, which is faint on purpose. `color` gives the colour of
+/// a slot.
 GUIBASE_EXPORT std::optional<double>
 ratioOf(IColorBase::ECOLOR slot, const std::function<QColor(IColorBase::ECOLOR)>& color);
 

@@ -41,8 +41,8 @@ public:
     void Erase(const QString& text);
     void Erase(int index);
     int GetCount() const;
-    /// The string that the user sees with this index, which until the list is shown anew may be
-    /// another one than that of the list; where none is shown, that of the list.
+    /// The string that the user sees at this index. It may differ from the list's own until the
+    /// list is shown again. Without a display, the list's own string.
     QString GetDisplayed(int index) const;
 
     /// Saves and shows the list a moment later.

@@ -2,8 +2,8 @@
 #pragma once
 
 /// What every typed input declares: meta-object, properties, signals and slots under the name
-/// `Type`. The signals implement the operations of `Base`. Beside `Type`, a class that inherits
-/// from `Base` needs no more than its constructor and destructor.
+/// `Type`. The signals implement the operations of `Base`. A class that uses the macro only adds
+/// its constructor and destructor.
 #define GUIBASE_TYPED_INPUT_MEMBERS(Base, Type)                                                    \
     Q_OBJECT                                                                                       \
     Q_PROPERTY(Type value READ value WRITE setValue NOTIFY valueChanged USER true)                 \

@@ -9,16 +9,16 @@ class QDockWidget;
 /// Holds a floating dock where it was put, for a short while: window managers that see it
 /// appear before they are told its place move it to one of their own.
 ///
-/// A child of the dock. Gives way after a few times, to the mouse, and when the dock docks; a dock
-/// that is maximized or minimized it leaves alone.
+/// A child of the dock. Gives up after a few attempts, when the user takes the dock with the mouse,
+/// and when it docks. Leaves maximized and minimized docks alone.
 class FloatingDockKeeper : public QObject
 {
     Q_OBJECT
 public:
-    /// Where docks are held: at their present geometry, or at the nearest one that is whole on a
-    /// screen with its frame, also with one that comes only later.
+    /// Where docks are held: at their present geometry, or at the nearest one with which dock and
+    /// frame fit on a screen, also when the frame comes later.
     enum class Place { AsItIs, OnScreen };
-    /// Instead of at a former geometry.
+    /// Replaces the place of an earlier call for the same dock.
     static void keep(QDockWidget& dock, Place place = Place::AsItIs);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -46,7 +46,7 @@ public:
     bool watches(const QObject* object) const;
     /// Reads the record, applies it to the widget and shows the widget. To be called once.
     void read();
-    /// Writes what another process may not have written just so already.
+    /// Writes the record, unless it would be the same as the one read or written last.
     void write();
     /// Writes only if something has changed since the last write.
     void writeChanges();
@@ -54,8 +54,8 @@ public:
     void restoreFactory();
     /// Takes over what the widget looks like now.
     void capture();
-    /// The application begins, or gives up, to end. Meanwhile the toolkit closes docks by itself:
-    /// those that it has closed in vain are opened again.
+    /// The application starts to end, or goes on after all. In between the toolkit closes floating
+    /// docks: they are not captured as closed, and giveUpEnd() opens them again.
     void beginEnd();
     void giveUpEnd();
     void applyAwaited();
@@ -77,7 +77,7 @@ public:
     static constexpr int minimizeMilliseconds = 1500;
 
 Q_SIGNALS:
-    /// There is something to write, with every change anew.
+    /// Something to be written has changed; emitted at every change.
     void changed();
     /// The main window was resized while docks wait for that: applyAwaited() must be called, by
     /// somebody who keeps this object alive during the call.

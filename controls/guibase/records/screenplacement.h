@@ -4,15 +4,15 @@
 #include <QList>
 #include <QRect>
 
-/// Where windows go whose stored place is not on the screens of today. All rectangles in pixels of
-/// the desktop.
+/// Finds places on the present screens for windows whose stored place may be off them. All
+/// rectangles are in pixels of the desktop.
 namespace ScreenPlacement {
 
 /// The index of the area that shows most of the window or, when none does, of the nearest one; -1
 /// without any area.
 int homeOf(const QRect& window, const QList<QRect>& areas);
-/// The window's rectangle, moved and shrunk no more than needed to lie whole in its home area. One
-/// that is whole in all areas together stays as it is, and so does every one without any area.
+/// The window's rectangle, moved and shrunk just enough to fit into its home area. It stays as it
+/// is when the areas together cover it, and when there are no areas.
 QRect reachable(const QRect& window, const QList<QRect>& areas);
 
 } // namespace ScreenPlacement

@@ -42,6 +42,7 @@ public:
     static QString title(Mode mode);
 
 Q_SIGNALS:
+    /// Another mode is current now; its layout has been applied.
     void modeChanged(Mode mode);
 
 private:

@@ -34,7 +34,7 @@ public Q_SLOTS:
     void slotDiscardChanges();
 
 Q_SIGNALS:
-    /// There are changes to accept, or no more.
+    /// Whether there are changes to accept has changed.
     void changesPending(bool pending);
 
 private:

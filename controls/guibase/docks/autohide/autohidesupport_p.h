@@ -48,7 +48,8 @@ struct AutoHideSupportPrivate
     void registerDock(QDockWidget& dock);
     /// `dock` is null when the dock is being destroyed.
     void unregisterDock(const QObject* key, QDockWidget* dock);
-    /// What the end of its entry means for a dock that lives, and for one that is dead.
+    /// For a living dock whose entry ends: it is no longer watched, leaves the mode, and is shown
+    /// again if the mode had hidden it.
     void letGo(QDockWidget& dock, const Entry& entry);
     void connectAutoHideAction(QDockWidget& dock);
     void setActionChecked(const QDockWidget& dock, bool checked);

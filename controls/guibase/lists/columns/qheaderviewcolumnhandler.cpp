@@ -59,7 +59,7 @@ void QHeaderViewColumnHandler::restoreColumnStatus()
     // A view places its headers itself.
     if (m_header->isWindow() && GeometryRecord::fromBytes(geometry))
         m_header->restoreGeometry(geometry);
-    const auto state = store.read(key("_STATE"), QStringLiteral("it is no state of such a header"),
+    const auto state = store.read(key("_STATE"), QStringLiteral("the header state is damaged"),
                                   [this](const QString& text) {
                                       return HeaderState::fromText(text, m_header->orientation());
                                   });

@@ -21,9 +21,8 @@ namespace guiHelper {
 ///
 /// The handler is a child of the header. The menu opens on a right click, and with Ctrl+Alt+H for a
 /// horizontal header or Ctrl+Alt+V for a vertical one while its view has the focus; headers do not
-/// get it themselves. What is stored is checked before the header sees it: text that is no state of
-/// such a header leaves the header as it is, and is kept aside under its key followed by
-/// "_damaged".
+/// get it themselves. The stored state is checked before it is applied. A damaged one changes
+/// nothing, and is kept aside under its key followed by "_damaged".
 class GUIBASE_EXPORT QHeaderViewColumnHandler : public QObject
 {
     Q_OBJECT

@@ -35,7 +35,9 @@ public:
     void flush();
 
 Q_SIGNALS:
+    /// The other end has accepted the connection.
     void connected();
+    /// A whole message has come; one signal for each, in their order.
     void received(const NotificationMessage& message);
     /// The end, for whatever reason; comes once, and always from the event loop.
     void closed();

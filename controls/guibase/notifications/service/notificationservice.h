@@ -56,6 +56,7 @@ public:
 Q_SIGNALS:
     /// The stack has changed.
     void stackChanged();
+    /// This process has another role in the common stack now.
     void roleChanged(NotificationService::Role role);
 
 private:
