@@ -18,7 +18,9 @@ foreach(folder IN LISTS FOLDERS)
             string(REGEX MATCH "${include_pattern}" ignored "${line}")
             set(header "${CMAKE_MATCH_1}")
             cmake_path(GET header PARENT_PATH needed)
-            if(EXISTS "${APPLICATION_DIR}/${folder}/${header}" OR needed IN_LIST below)
+            # A path that goes up leads into any folder.
+            if(NOT header MATCHES "\\.\\./"
+               AND (EXISTS "${APPLICATION_DIR}/${folder}/${header}" OR needed IN_LIST below))
                 continue()
             endif()
             message("${file}: includes ${header}, which lies above ${folder}/")
