@@ -33,7 +33,7 @@ struct FormerToolBar
     bool beginsLine;
 };
 
-std::vector<FormerDock> formerDocks(const QMainWindow& window, const QSet<QString>& known)
+std::vector<FormerDock> formerDocks(const QMainWindow& window, const DockStateCheck::Names& known)
 {
     std::vector<FormerDock> result;
     const auto docks = QMainWindowHelpers::dockWidgets(window);
@@ -48,7 +48,8 @@ std::vector<FormerDock> formerDocks(const QMainWindow& window, const QSet<QStrin
     return result;
 }
 
-std::vector<FormerToolBar> unknownToolBars(const QMainWindow& window, const QSet<QString>& known)
+std::vector<FormerToolBar> unknownToolBars(const QMainWindow& window,
+                                           const DockStateCheck::Names& known)
 {
     std::vector<FormerToolBar> result;
     const auto bars = window.findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly);

@@ -133,7 +133,7 @@ void PersistentWidget::ApplyPersistantAfterRead()
         return;
     const WindowRecord::Content content = m_record.take(m_widget->isWindow());
     m_modes.load(content.layouts);
-    m_modes.current().latest.names = m_record.firstNames();
+    m_modes.current().latest.names = m_record.takeFirstNames();
     m_isMinimized = content.isMinimized;
     m_geometry = content.geometry;
     if (const auto geometry = GeometryRecord::fromBytes(m_geometry))

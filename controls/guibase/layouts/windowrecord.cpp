@@ -38,6 +38,11 @@ WindowRecord::Content WindowRecord::take(bool isWindow)
     return content;
 }
 
+std::optional<DockStateCheck::DockNames> WindowRecord::takeFirstNames()
+{
+    return std::exchange(m_firstNames, std::nullopt);
+}
+
 void WindowRecord::set(const Content& content)
 {
     m_geometryText = Hexadecimal::encode(content.geometry);

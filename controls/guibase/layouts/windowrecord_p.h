@@ -38,8 +38,8 @@ public:
     /// For a window, one that nobody could see counts as damaged.
     Content take(bool isWindow);
     void set(const Content& content);
-    /// Those in the layout of mode 0, when it was taken just now.
-    const std::optional<DockStateCheck::Names>& firstNames() const { return m_firstNames; }
+    /// Those in the layout of mode 0 that was taken just now.
+    std::optional<DockStateCheck::DockNames> takeFirstNames();
 
 private:
     /// False when something else than what was read must be written.
@@ -52,5 +52,5 @@ private:
     QString m_geometryText;
     bool m_isMinimized = false;
     std::optional<Content> m_known; ///< What these say; packing takes its time.
-    std::optional<DockStateCheck::Names> m_firstNames;
+    std::optional<DockStateCheck::DockNames> m_firstNames;
 };

@@ -12,7 +12,7 @@ struct DockLayout
 {
     QByteArray state;
     /// Those in the state, when somebody has walked through it already.
-    std::optional<DockStateCheck::Names> names;
+    std::optional<DockStateCheck::DockNames> names;
 
     bool operator==(const DockLayout& other) const { return state == other.state; }
 };

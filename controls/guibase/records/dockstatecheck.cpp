@@ -3,6 +3,11 @@
 
 #include "statewalk.h"
 
+#include <QtEndian>
+
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 // The toolkit's own marks; some of its numbers mean different things in docks and tool bars.
@@ -28,7 +33,7 @@ public:
     {}
 
     bool state(int version);
-    const DockStateCheck::Names& names() const { return m_names; }
+    DockStateCheck::DockNames names();
 
 private:
     void dockAreas();
@@ -43,7 +48,7 @@ private:
     qint32 count(qint32 lowest, int& total);
 
     StateWalk m_walk;
-    DockStateCheck::Names m_names;
+    DockStateCheck::DockNames m_names;
     int m_docks = 0;
     int m_toolBars = 0;
 };
@@ -103,7 +108,7 @@ void DockWalk::row(int depth)
 
 void DockWalk::dock()
 {
-    m_names.docks.insert(StateWalk::decoded(m_walk.text(longestName)));
+    m_names.docks.add(m_walk.text(longestName));
     const quint8 flags = m_walk.byte(0, allFlags);
     if ((flags & floatingFlag) == 0) {
         extent();
@@ -137,7 +142,7 @@ void DockWalk::toolBars()
 
 void DockWalk::toolBar()
 {
-    m_names.toolBars.insert(StateWalk::decoded(m_walk.text(longestName)));
+    m_names.toolBars.add(m_walk.text(longestName));
     m_walk.byte(0, allFlags); // shown, vertical
     m_walk.number(-farthest, farthest);
     m_walk.number(-1, farthest);
@@ -167,9 +172,29 @@ qint32 DockWalk::count(qint32 lowest, int& total)
     return items;
 }
 
+DockStateCheck::DockNames DockWalk::names()
+{
+    m_names.docks.sort();
+    m_names.toolBars.sort();
+    return std::move(m_names);
+}
+
 } // namespace
 
-std::optional<DockStateCheck::Names> DockStateCheck::names(const QByteArray& state, int version)
+void DockStateCheck::Names::sort()
+{
+    std::sort(m_names.begin(), m_names.end());
+    m_names.erase(std::unique(m_names.begin(), m_names.end()), m_names.end());
+}
+
+bool DockStateCheck::Names::contains(const QString& name) const
+{
+    QByteArray wanted(name.size() * qsizetype(sizeof(char16_t)), Qt::Uninitialized);
+    qToBigEndian<char16_t>(name.utf16(), name.size(), wanted.data());
+    return std::binary_search(m_names.cbegin(), m_names.cend(), QByteArrayView(wanted));
+}
+
+std::optional<DockStateCheck::DockNames> DockStateCheck::names(const QByteArray& state, int version)
 {
     DockWalk walk(state);
     if (state.size() > maximumSize || !walk.state(version))

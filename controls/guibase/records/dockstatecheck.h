@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QByteArray>
-#include <QSet>
+#include <QByteArrayView>
+#include <QList>
 #include <QString>
 
 #include <optional>
@@ -12,15 +13,28 @@
 /// before it is handed over.
 namespace DockStateCheck {
 
-/// The object names in a state.
-struct Names
+/// Object names in a state, which must stay as long as they do.
+class Names
 {
-    QSet<QString> docks;
-    QSet<QString> toolBars;
+public:
+    bool contains(const QString& name) const;
+    qsizetype size() const { return m_names.size(); }
+
+    void add(QByteArrayView name) { m_names.append(name); }
+    /// To be called after the last add().
+    void sort();
+
+private:
+    QList<QByteArrayView> m_names; ///< As they are in the state: UTF-16, big endian.
+};
+struct DockNames
+{
+    Names docks;
+    Names toolBars;
 };
 /// Nothing for bytes that are no whole state as QMainWindow::saveState(version) writes it: the dock
 /// areas with their nested rows and tabs, groups of floating docks, and the tool-bar lines.
-std::optional<Names> names(const QByteArray& state, int version);
+std::optional<DockNames> names(const QByteArray& state, int version);
 
 inline constexpr int maximumSize = 1 << 20; ///< In bytes.
 inline constexpr int maximumDepth = 32;     ///< Of rows in rows.

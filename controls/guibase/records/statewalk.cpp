@@ -55,11 +55,3 @@ QByteArrayView StateWalk::text(qint32 maximumSize)
     const char* start = take(bytes);
     return start != nullptr ? QByteArrayView(start, bytes) : QByteArrayView();
 }
-
-QString StateWalk::decoded(QByteArrayView text)
-{
-    QString result(text.size() / 2, Qt::Uninitialized);
-    for (qsizetype i = 0; i < result.size(); ++i)
-        result[i] = QChar(qFromBigEndian<char16_t>(text.data() + 2 * i));
-    return result;
-}

@@ -3,7 +3,6 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
-#include <QString>
 #include <QtGlobal>
 
 /// Reads a stored state value by value and remembers whether all of them were there and as they may
@@ -20,9 +19,8 @@ public:
     quint8 byte();
     /// A byte from `lowest` to `highest`.
     quint8 byte(quint8 lowest, quint8 highest);
-    /// The bytes of a text of at most so many UTF-16 units, for decoded().
+    /// The bytes of a text of at most so many UTF-16 units, in big endian.
     QByteArrayView text(qint32 maximumSize);
-    static QString decoded(QByteArrayView text);
     bool expect(bool condition);
     bool isFine() const { return m_isFine; }
     bool atEnd() const { return m_position == m_state.size(); }
