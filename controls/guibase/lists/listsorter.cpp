@@ -98,6 +98,7 @@ struct ListSorter::Run
     quint32 number = nextRunNumber();
     SortKeys keys;
     bool isRanked = false;         ///< The items' ranks are set.
+    bool isFlat = true;            ///< No item has children.
     bool hasOtherItems = false;    ///< There are items that are no SortListViewItems.
     bool hasOnlyPlainItems = true; ///< None of a class derived from SortListViewItem, either.
 };
@@ -155,8 +156,10 @@ void ListSorter::Run::readKeys(QTreeWidgetItem& root, int column, const Run* ear
         parents.pop_back();
         for (int i = 0; i < parent->childCount(); ++i) {
             QTreeWidgetItem* const child = parent->child(i);
-            if (child->childCount() > 0)
+            if (child->childCount() > 0) {
                 parents.push_back(child);
+                isFlat = false;
+            }
             if (auto* const item = castItem(child)) {
                 addItem(*item, column, earlier);
                 items.push_back(item);
@@ -312,11 +315,21 @@ void ListSorter::sortRows(std::shared_ptr<Run> run)
     QHeaderView& header = *m_view.header();
     const bool isIndicated =
         header.sortIndicatorSection() == m_column && header.sortIndicatorOrder() == m_order;
-    // Where the toolkit's own sorting is on, it sorts as soon as the indicator changes.
-    if (m_view.isSortingEnabled() && !isIndicated)
+    if (m_view.isSortingEnabled()) {
+        // The toolkit sorts as soon as the indicator changes.
+        if (!isIndicated)
+            header.setSortIndicator(m_column, m_order);
+        else
+            m_view.QTreeWidget::sortItems(m_column, m_order);
+    } else if (run->isFlat) {
+        // sortItems() would ask every row for its children, which costs more than placing a few.
+        const QPointer<ListSorter> self(this);
         header.setSortIndicator(m_column, m_order);
-    else
+        if (self)
+            m_view.invisibleRootItem()->sortChildren(m_column, m_order);
+    } else {
         m_view.QTreeWidget::sortItems(m_column, m_order);
+    }
 }
 
 /// Others have sorted: the toolkit, for sortItems() or at a change of the sort indicator.
