@@ -3,7 +3,9 @@
 
 #include "centre/bandview.h"
 #include "centre/replaybar.h"
+#include "colorsmenu.h"
 #include "docks/windowmenu.h"
+#include "keys.h"
 #include "manual.h"
 #include "panels/jobsmenu.h"
 #include "panels/panel.h"
@@ -11,8 +13,6 @@
 #include "selectionactions.h"
 #include "settings/settings.h"
 
-#include <guibase/colors/colorset.h>
-#include <guibase/dialogs/modaldialogs.h>
 #include <guibase/services/guibase.h>
 
 #include <QActionGroup>
@@ -23,15 +23,6 @@ namespace bandmonitor {
 
 namespace {
 constexpr double zoomPerKey = 1.5;
-
-void listKeys(const QList<QAction*>& actions, const QString& scope)
-{
-    for (QAction* action : actions) {
-        if (!action->shortcut().isEmpty())
-            GuiBase::Instance().ShowHotKeyFrom(action, scope);
-    }
-}
-
 } // namespace
 
 void MainWindow::buildMenus()
@@ -40,7 +31,7 @@ void MainWindow::buildMenus()
     buildViewMenu();
     buildReplayMenu();
     buildJobsMenu();
-    buildColorsMenu();
+    menuBar()->addMenu(new ColorsMenu(this));
     menuBar()->addMenu(new WindowMenu(m_panelDocks, m_bandView, this));
     buildHelpMenu();
 }
@@ -52,9 +43,10 @@ QAction* MainWindow::addEntry(QMenu* menu, QAction* action, bool bandKey)
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         m_bandView->addAction(action);
     }
-    if (!action->shortcut().isEmpty())
-        GuiBase::Instance().ShowHotKeyFrom(action,
-                                           bandKey ? tr("Spectrum and waterfall") : tr("Window"));
+    if (bandKey)
+        GuiBase::Instance().ShowHotKeyFrom(action, tr("Spectrum and waterfall"));
+    else
+        Keys::listEverywhere(action);
     return action;
 }
 
@@ -66,10 +58,10 @@ QAction* MainWindow::addEntry(QMenu* menu, const QString& text, const QList<QKey
     return addEntry(menu, action, bandKey);
 }
 
-void MainWindow::addSelectionMenu(QMenu* menu, const QString& title, ValueSelection* selection,
+void MainWindow::addSelectionMenu(QMenu* menu, const QString& title, const ChoiceEntry& entry,
                                   void (MainWindow::*changed)())
 {
-    auto* actions = new SelectionActions(selection, menu->addMenu(title));
+    auto* actions = new SelectionActions(entry, menu->addMenu(title));
     connect(actions, &SelectionActions::currentChanged, this, changed);
 }
 
@@ -96,21 +88,34 @@ void MainWindow::buildViewMenu()
 {
     GuiBase& services = GuiBase::Instance();
     QMenu* menu = menuBar()->addMenu(tr("&View"));
-    addSelectionMenu(menu, tr("Frequency &unit"), services.GetFrequencyUnit(),
+    constexpr auto control = Qt::CTRL | Qt::SHIFT;
+    addSelectionMenu(menu, tr("Frequency &unit"),
+                     {services.GetFrequencyUnit(), tr("Frequencies in %1"), control | Qt::Key_1},
                      &MainWindow::frequencyUnitChanged);
-    addSelectionMenu(menu, tr("Frequency &resolution"), &m_resolution,
+    addSelectionMenu(menu, tr("Frequency &resolution"),
+                     {&m_resolution, tr("Frequencies to %1"), control | Qt::Key_5},
                      &MainWindow::frequencyResolutionChanged);
-    addSelectionMenu(menu, tr("Position &format"), services.GetPositionFormat(),
+    addSelectionMenu(menu, tr("Position &format"),
+                     {services.GetPositionFormat(), tr("Position in %1"), control | Qt::Key_F1},
                      &MainWindow::updatePosition);
-    addSelectionMenu(menu, tr("Time &zone"), services.GetTimeZone(), &MainWindow::timeZoneChanged);
+    addSelectionMenu(menu, tr("Time &zone"),
+                     {services.GetTimeZone(), QStringLiteral("%1"), control | Qt::Key_7},
+                     &MainWindow::timeZoneChanged);
     menu->addSeparator();
     buildBandEntries(menu);
     menu->addSeparator();
     buildModeEntries(menu);
-    menu->addAction(services.CreateResetWidgetViewAction(this));
-    menu->addAction(services.CreateResetFactoryViewAction(this));
-    for (const Panel* panel : m_panelDocks->panels())
-        listKeys(panel->keyActions(), panel->windowTitle());
+    QAction* toStart = services.CreateResetWidgetViewAction(this);
+    toStart->setShortcut(Qt::CTRL | Qt::Key_R);
+    addEntry(menu, toStart, false);
+    QAction* toFactory = services.CreateResetFactoryViewAction(this);
+    toFactory->setShortcut(control | Qt::Key_R);
+    addEntry(menu, toFactory, false);
+    for (const Panel* panel : m_panelDocks->panels()) {
+        const QList<QAction*> actions = panel->keyActions();
+        for (QAction* action : actions)
+            services.ShowHotKeyFrom(action, panel->windowTitle());
+    }
 }
 
 void MainWindow::buildBandEntries(QMenu* menu)
@@ -171,49 +176,10 @@ void MainWindow::buildJobsMenu()
     menuBar()->addMenu(new JobsMenu(&m_session.jobs(), this));
 }
 
-void MainWindow::buildColorsMenu()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&Colours"));
-    connect(addEntry(menu, tr("&Load…"), {}, false), &QAction::triggered, this,
-            &MainWindow::loadColors);
-    connect(addEntry(menu, tr("&Save as…"), {}, false), &QAction::triggered, this,
-            &MainWindow::saveColors);
-    menu->addSeparator();
-    connect(addEntry(menu, tr("&Factory"), {}, false), &QAction::triggered, this,
-            &MainWindow::restoreFactoryColors);
-}
-
 void MainWindow::buildHelpMenu()
 {
     menuBar()->addMenu(GuiBase::Instance().CreateHelpMenu(this, manualFile(), this,
                                                           SLOT(showInfo()), this, nullptr));
-}
-
-void MainWindow::loadColors()
-{
-    const QString path =
-        ModalDialogs::askForFile(this, {QFileDialog::AcceptOpen, tr("Load colours"),
-                                        Settings::lastFolder(),
-                                        tr("Colour sets (*.cst);;All files (*)")});
-    if (!path.isEmpty())
-        ColorSet::Instance().Load(this, path);
-}
-
-void MainWindow::saveColors()
-{
-    const QString path =
-        ModalDialogs::askForFile(this, {QFileDialog::AcceptSave, tr("Save colours"),
-                                        Settings::lastFolder(), tr("Colour sets (*.cst)")});
-    if (path.isEmpty())
-        return;
-    ColorSet::Instance().Save(this, path);
-    GuiBase::Instance().SavePersistant(); // the name of the set
-}
-
-void MainWindow::restoreFactoryColors()
-{
-    ColorSet::Instance().slotRestoreFactoryColors();
-    GuiBase::Instance().emit_signalColorsChanged();
 }
 
 } // namespace bandmonitor

@@ -134,6 +134,7 @@ void MainWindow::buildStatusBar()
     m_progress->setFixedWidth(220);
     m_cancel = new QPushButton(tr("Cancel"), this);
     m_cancel->setShortcut(QKeySequence(Qt::Key_Escape));
+    m_cancel->setToolTip(tr("Stops loading (Esc)"));
     connect(m_cancel, &QPushButton::clicked, &m_session, &Session::cancelOpening);
     statusBar()->addWidget(m_progress);
     statusBar()->addWidget(m_cancel);

@@ -19,6 +19,7 @@ class QPushButton;
 namespace bandmonitor {
 
 class BandView;
+struct ChoiceEntry;
 class EventRecorder;
 class RecentRecordings;
 class ReplayBar;
@@ -73,9 +74,8 @@ private:
     void buildModeEntries(QMenu* menu);
     void buildReplayMenu();
     void buildJobsMenu();
-    void buildColorsMenu();
     void buildHelpMenu();
-    void addSelectionMenu(QMenu* menu, const QString& title, ValueSelection* selection,
+    void addSelectionMenu(QMenu* menu, const QString& title, const ChoiceEntry& entry,
                           void (MainWindow::*changed)());
     /// Adds the action to the menu; with `bandKey` its shortcut works in the band view only, so
     /// that single keys stay usable in the other controls.
@@ -104,9 +104,6 @@ private:
     void updateTitle();
     void updatePosition();
 
-    void loadColors();
-    void saveColors();
-    void restoreFactoryColors();
     void frequencyUnitChanged();
     void frequencyResolutionChanged();
     void timeZoneChanged();

@@ -2,6 +2,7 @@
 #include "screenshots.h"
 
 #include "centre/bandview.h"
+#include "colorsdialog.h"
 #include "dialogcloser.h"
 #include "mainwindow.h"
 #include "panels/levelspanel.h"
@@ -64,6 +65,17 @@ constexpr SlotColor paperColors[] = {
     {PaneSlot::LevelAxisText, "#000"},
     {PaneSlot::LevelAxisBackground, "#e6e6e6"},
 };
+
+/// As of a dark desktop.
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x35, 0x35, 0x35), QColor(0x2d, 0x2d, 0x2d));
+    palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
+    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0x2a, 0x82, 0xda));
+    return palette;
+}
 
 /// The frequency of the highest level from `low` to `high`, in hertz.
 double strongest(const Sweep& sweep, double low, double high)
@@ -135,6 +147,7 @@ bool ScreenshotSeries::run()
     takeMenus();
     takeDialog(QStringLiteral("info.png"), "showInfo", &m_window);
     takeDialog(QStringLiteral("keyboard.png"), "slotShowHotKeysInMenu", &GuiBase::Instance());
+    takeColorEditor();
     takeUnits();
     takeColors();
     takeReceiver();
@@ -268,6 +281,26 @@ void ScreenshotSeries::takeColors()
     GuiBase::Instance().emit_signalColorsChanged();
 }
 
+void ScreenshotSeries::takeColorEditor()
+{
+    const auto take = [this](const QString& name) {
+        m_dialogs.useNext([this, name] { write(name); });
+        ColorsDialog::open(&m_window);
+        settle();
+    };
+    take(QStringLiteral("color-editor.png"));
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(darkPalette());
+    ColorSet& colors = ColorSet::Instance();
+    colors.Load(&m_window, QString::fromLatin1(ColorSet::darkDesktopName));
+    settle();
+    take(QStringLiteral("color-editor-dark.png"));
+    takeDialog(QStringLiteral("keyboard-dark.png"), "slotShowHotKeysInMenu", &GuiBase::Instance());
+    QApplication::setPalette(light);
+    colors.slotRestoreFactoryColors();
+    GuiBase::Instance().emit_signalColorsChanged();
+}
+
 void ScreenshotSeries::takeReceiver()
 {
     const std::pair<const char*, QVariant> entries[] = {
@@ -325,10 +358,15 @@ QPixmap ScreenshotSeries::picture() const
     return result;
 }
 
-void ScreenshotSeries::write(const QString& name)
+void ScreenshotSeries::settle()
 {
     for (int round = 0; round < settlingRounds; ++round)
         QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void ScreenshotSeries::write(const QString& name)
+{
+    settle();
     if (!picture().save(m_folder.filePath(name)) && m_failure.isEmpty())
         m_failure = m_folder.filePath(name);
 }

@@ -32,12 +32,14 @@ private:
     void takePanels();
     void takeUnits();
     void takeColors();
+    void takeColorEditor();
     void takeReceiver();
     void takeMenus();
     void takeDialog(const QString& name, const char* slot, QObject* receiver);
     void takeMessage();
     /// The window with everything that lies on top of it.
     QPixmap picture() const;
+    static void settle();
     void write(const QString& name);
 
     MainWindow& m_window;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "selectionactions.h"
 
+#include "keys.h"
+
 #include <valueframework/valueselection.h>
 
 #include <QAction>
@@ -8,9 +10,11 @@
 
 namespace bandmonitor {
 
-SelectionActions::SelectionActions(ValueSelection* selection, QMenu* menu)
+SelectionActions::SelectionActions(const ChoiceEntry& entry, QMenu* menu)
     : QActionGroup(menu)
-    , m_selection(selection)
+    , m_selection(entry.selection)
+    , m_pattern(entry.pattern)
+    , m_firstKey(entry.firstKey)
     , m_menu(menu)
 {
     setExclusive(true);
@@ -50,12 +54,15 @@ void SelectionActions::fill()
     for (int index = 0; index < m_selection->GetCount(); ++index) {
         const SelectionItem* item = m_selection->GetItem(index);
         // The digits are the mnemonics, because the names of the items have none.
-        QAction* action =
-            m_menu->addAction(QStringLiteral("&%1  %2").arg(index + 1).arg(item->GetName()));
+        QAction* action = m_menu->addAction(QStringLiteral("&%1  %2").arg(
+            QString::number(index + 1), m_pattern.arg(item->GetName())));
+        action->setShortcut(QKeyCombination(m_firstKey.keyboardModifiers(),
+                                            static_cast<Qt::Key>(m_firstKey.key() + index)));
         action->setCheckable(true);
         action->setData(item->GetKey());
         action->setEnabled(!item->IsDisabled());
         addAction(action);
+        Keys::listEverywhere(action);
     }
     checkCurrent();
 }

@@ -4,11 +4,21 @@
 #include <valueframework/observable.h>
 
 #include <QActionGroup>
+#include <QKeyCombination>
+#include <QString>
 
 class QMenu;
 class ValueSelection;
 
 namespace bandmonitor {
+
+/// How the items of a selection stand in a menu and in the overview of keys.
+struct ChoiceEntry
+{
+    ValueSelection* selection;
+    QString pattern;          ///< Says what an item is; it stands in the place of "%1".
+    QKeyCombination firstKey; ///< Of the first item; the next ones have the keys after it.
+};
 
 /// A sub-menu with one exclusive action per item of a selection, bound both ways: choosing an
 /// action sets the selection, and a selection that is set elsewhere checks its action.
@@ -18,7 +28,7 @@ class SelectionActions : public QActionGroup, private IObserver
 public:
     /// The selection must outlive this object, or announce its end as observables do. The menu owns
     /// this object and the actions.
-    SelectionActions(ValueSelection* selection, QMenu* menu);
+    SelectionActions(const ChoiceEntry& entry, QMenu* menu);
     ~SelectionActions() override;
 
 Q_SIGNALS:
@@ -31,6 +41,8 @@ private:
     void checkCurrent();
 
     ValueSelection* m_selection; ///< Null once it is gone.
+    const QString m_pattern;
+    const QKeyCombination m_firstKey;
     QMenu* m_menu;
 };
 

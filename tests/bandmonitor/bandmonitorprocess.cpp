@@ -24,23 +24,35 @@
 #include <QDockWidget>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace bandmonitor;
 
 namespace {
 
+/// Null when no command of the window has this text.
+QAction* action(const MainWindow& window, const char* text)
+{
+    const QList<QAction*> actions = window.findChildren<QAction*>();
+    const auto found = std::find_if(actions.begin(), actions.end(), [text](const QAction* each) {
+        return each->text() == QLatin1String(text);
+    });
+    return found != actions.end() ? *found : nullptr;
+}
+
 /// All settings that are kept, and everything that the user sees of the layout.
 QString state(MainWindow& window)
 {
     GuiBase& services = GuiBase::Instance();
-    QString text = QStringLiteral("unit %1 resolution %2 zone %3 format %4 hold %5 grid %6")
+    QString text = QStringLiteral("unit %1 resolution %2 zone %3 format %4 hold %5 grid %6 key %7")
                        .arg(services.GetFrequencyUnit()->GetValue())
                        .arg(services.GetFrequencyResolution())
                        .arg(services.GetTimeZoneValue())
                        .arg(services.GetPositionFormat()->GetValue())
                        .arg(Settings::isHoldVisible())
-                       .arg(ColorSet::Instance().GetColor(IColorBase::DrawPaneGrid).name());
+                       .arg(ColorSet::Instance().GetColor(IColorBase::DrawPaneGrid).name())
+                       .arg(action(window, "&Hold maximum")->shortcut().toString());
     QDebug(&text) << " layout" << window.size() << static_cast<int>(window.modes().mode());
     for (const int size : window.bandView().splitter()->sizes())
         text += QStringLiteral("%1;").arg(size);
@@ -70,11 +82,9 @@ void change(MainWindow& window, const QString& folder)
     window.frequencyResolution().SetValue(UnitPrefix::Kilo);
     services.GetTimeZone()->SetValue(0);
     services.GetPositionFormat()->SetValue(6);
-    const QList<QAction*> actions = window.findChildren<QAction*>();
-    for (QAction* action : actions) {
-        if (action->text() == QLatin1String("&Hold maximum"))
-            action->setChecked(false);
-    }
+    action(window, "&Hold maximum")->setChecked(false);
+    services.ChangeHotKey(services.GetIndex4HotKey(Qt::Key_H, 0), Qt::Key_F9,
+                          static_cast<int>(Qt::ShiftModifier));
     ColorSet::Instance().SetColor(IColorBase::DrawPaneGrid, QColor(Qt::magenta), true);
     ColorSet::Instance().Save(nullptr, folder + QStringLiteral("/own.cst"));
     window.resize(777, 555);

@@ -1,16 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "centre/bandview.h"
+#include "colorsdialog.h"
 #include "mainwindowtest.h"
 #include "model/jobs.h"
 #include "panels/signalspanel.h"
+#include "radiopanes/panecolors.h"
+#include "radiopanes/spectrumpane.h"
 #include "support/files.h"
 #include "support/modaldialogcloser.h"
 
 #include <QDesktopServices>
+#include <QDialogButtonBox>
+#include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QUrl>
+#include <guibase/colors/colorset.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
 
@@ -27,6 +37,35 @@ class tst_MainWindow : public MainWindowTest
         return writeFile(m_folder.filePath(name), content) ? m_folder.filePath(name) : QString();
     }
     void prepare() override { openWindow(); }
+
+    /// The entries of the menu and of its sub-menus, without what is only a list of files.
+    static QList<QAction*> commands(const QList<QAction*>& entries)
+    {
+        QList<QAction*> found;
+        for (QAction* entry : entries) {
+            const QMenu* menu = entry->menu();
+            if (menu == nullptr && !entry->isSeparator())
+                found << entry;
+            else if (menu != nullptr && menu->objectName() != QLatin1String("recentRecordings") &&
+                     menu->objectName() != QLatin1String("colorSets"))
+                found << commands(menu->actions());
+        }
+        return found;
+    }
+    /// Types a colour in the row of the editor, as the operator does.
+    static void choose(QDialog* dialog, const QString& element, const QString& color)
+    {
+        auto* list = dialog->findChild<SortListView*>();
+        list->setCurrentItem(list->findItems(element, Qt::MatchExactly | Qt::MatchRecursive).at(0));
+        QTest::keyClick(list, Qt::Key_Return);
+        const QList<QLineEdit*> edits = list->viewport()->findChildren<QLineEdit*>();
+        for (QLineEdit* edit : edits) {
+            if (!edit->isVisible())
+                continue;
+            edit->setText(color);
+            QTest::keyClick(edit, Qt::Key_Return);
+        }
+    }
 
 public Q_SLOTS:
     void takeUrl(const QUrl& url) { m_opened = url; }
@@ -118,16 +157,95 @@ private Q_SLOTS:
     void menusAndSelectionsAgree()
     {
         GuiBase& services = GuiBase::Instance();
-        for (const char* name : {"3  MHz", "2  kHz", "1  Hz", "4  GHz"}) {
+        for (const char* name : {"3  Frequencies in MHz", "2  Frequencies in kHz",
+                                 "1  Frequencies in Hz", "4  Frequencies in GHz"}) {
             entry(name)->trigger();
             QCOMPARE(services.GetFrequencyUnit()->GetCurrentIndex() + 1, name[0] - '0');
         }
         services.SetFrequencyUnit(UnitPrefix::Kilo);
-        QVERIFY(entry("2  kHz")->isChecked() && !entry("4  GHz")->isChecked());
-        entry("2  1 kHz")->trigger();
+        QVERIFY(entry("2  Frequencies in kHz")->isChecked() &&
+                !entry("4  Frequencies in GHz")->isChecked());
+        entry("2  Frequencies to 1 kHz")->trigger();
         QCOMPARE(services.GetFrequencyResolution(), UnitPrefix::Kilo);
-        entry("1  1 Hz")->trigger();
+        entry("1  Frequencies to 1 Hz")->trigger();
         services.SetFrequencyUnit(UnitPrefix::Mega);
+    }
+
+    void overviewShowsEveryCommandOnce()
+    {
+        const std::unique_ptr<QWidget> overview(GuiBase::Instance().GetHotkeysCtrl(nullptr));
+        const auto* list = qobject_cast<QTreeWidget*>(overview.get());
+        QStringList shown;
+        for (int row = 0; row < list->topLevelItemCount(); ++row) {
+            const QTreeWidgetItem* item = list->topLevelItem(row);
+            shown << item->text(5);
+            QVERIFY2(item->icon(0).isNull(), qPrintable(item->toolTip(0))); // no conflict
+        }
+        const QList<QAction*> all = commands(m_window->menuBar()->actions());
+        QVERIFY(all.size() > 60);
+        QSet<QString> keys;
+        for (const QAction* command : all) {
+            const QString text = command->text().remove(u'&');
+            QVERIFY2(!command->shortcut().isEmpty(), qPrintable(text));
+            QVERIFY2(!keys.contains(command->shortcut().toString()), qPrintable(text));
+            QVERIFY2(shown.contains(text), qPrintable(text));
+            keys << command->shortcut().toString();
+        }
+    }
+
+    void toolTipsFollowChangedKeys()
+    {
+        GuiBase& services = GuiBase::Instance();
+        const auto tip = [this] { return entry("Step forward")->toolTip(); };
+        QCOMPARE(tip(), QStringLiteral("Step forward (.)"));
+        const int id = services.GetIndex4HotKey(Qt::Key_Period, 0);
+        services.ChangeHotKey(id, Qt::Key_N, 0);
+        QCOMPARE(tip(), QStringLiteral("Step forward (N)"));
+        openWindow();
+        QCOMPARE(tip(), QStringLiteral("Step forward (N)"));
+        services.ChangeHotKey(services.GetIndex4HotKey(Qt::Key_N, 0), Qt::Key(0), 0);
+        QCOMPARE(tip(), QStringLiteral("Step forward"));
+    }
+
+    void colorsAreEdited()
+    {
+        ColorSet& colors = ColorSet::Instance();
+        colors.Save(nullptr, m_folder.filePath(QStringLiteral("own.cst")));
+        const auto openEditor = [this] {
+            entry("Edit Colors")->trigger();
+            return m_window->findChild<ColorsDialog*>();
+        };
+        QPointer<ColorsDialog> dialog = openEditor();
+        QVERIFY(dialog->isVisible());
+        const auto spectrum = [this] { return m_window->bandView().spectrum().grab().toImage(); };
+        const auto press = [&dialog](QDialogButtonBox::StandardButton button) {
+            dialog->findChild<QDialogButtonBox*>()->button(button)->click();
+        };
+        const QImage before = spectrum();
+        choose(dialog, QStringLiteral("Main Curve"), QStringLiteral("Gold"));
+        QCOMPARE(spectrum(), before);
+        press(QDialogButtonBox::Apply);
+        const QColor gold = paneColor(PaneSlot::Curve);
+        const QImage applied = spectrum();
+        QVERIFY(applied != before);
+        choose(dialog, QStringLiteral("Main Curve"), QStringLiteral("Red"));
+        press(QDialogButtonBox::Cancel);
+        QTRY_VERIFY(dialog == nullptr);
+        QVERIFY(paneColor(PaneSlot::Curve) == gold && spectrum() == applied);
+
+        dialog = openEditor();
+        const QSize size(560, 520);
+        dialog->resize(size);
+        choose(dialog, QStringLiteral("Main Curve"), QStringLiteral("Red"));
+        press(QDialogButtonBox::Ok);
+        QTRY_VERIFY(dialog == nullptr);
+        QVERIFY(paneColor(PaneSlot::Curve) != gold && spectrum() != applied);
+        dialog = openEditor();
+        QCOMPARE(dialog->size(), size);
+        dialog->close();
+        QTRY_VERIFY(dialog == nullptr);
+        entry("Factory")->trigger();
+        QCOMPARE(spectrum(), before);
     }
 
     void manualIsARealFile()

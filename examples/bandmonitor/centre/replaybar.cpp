@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "centre/replaybar.h"
 
+#include "keys.h"
 #include "model/replay.h"
 #include "panels/readableoutline.h"
 
@@ -49,6 +50,7 @@ QAction* ReplayBar::makeAction(const QString& text, Icon picture, const QKeySequ
 {
     auto* action = new QAction(makeIcon(picture), text, this);
     action->setShortcut(key);
+    Keys::nameInToolTip(action, QString());
     return action;
 }
 

@@ -3,6 +3,7 @@
 
 #include "docks/paneldocks.h"
 #include "docks/panelfocus.h"
+#include "keys.h"
 
 #include <guibase/docks/active/activedockwidgetsupport.h>
 #include <guibase/docks/areas/tabifysupport.h>
@@ -10,7 +11,6 @@
 #include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/mainwindowhelpers.h>
 #include <guibase/docks/maximizeminimizesupport.h>
-#include <guibase/services/guibase.h>
 
 #include <QAction>
 #include <QDockWidget>
@@ -33,12 +33,22 @@ constexpr char floatsForMaximizing[] = "bandmonitor_floatsForMaximizing";
 
 constexpr int firstPanelKey = Qt::Key_2; // the waterfall has the 1
 constexpr int lastPanelKey = Qt::Key_9;
+// One for each area, with Control and Alt.
+constexpr int firstTabifyKey = Qt::Key_1;
+constexpr int firstTileKey = Qt::Key_5;
 
 bool hasVisibleAction(const QMenu& menu)
 {
     const QList<QAction*> actions = menu.actions();
     return std::any_of(actions.begin(), actions.end(),
                        [](const QAction* action) { return action->isVisible(); });
+}
+
+void addAreaEntry(QMenu& menu, QAction& action, int key)
+{
+    action.setShortcut(Qt::CTRL | Qt::ALT | static_cast<Qt::Key>(key));
+    Keys::listEverywhere(&action);
+    menu.addAction(&action);
 }
 
 } // namespace
@@ -65,19 +75,13 @@ WindowMenu::WindowMenu(PanelDocks* panels, QWidget* centre, QWidget* parent)
 
 WindowMenu::~WindowMenu() = default;
 
-void WindowMenu::listKey(QAction* action) const
-{
-    if (!action->shortcut().isEmpty())
-        GuiBase::Instance().ShowHotKeyFrom(action, tr("Panels"));
-}
-
 QAction* WindowMenu::addEntry(const QString& text, const QKeySequence& key,
                               const std::function<void()>& perform)
 {
     QAction* action = addAction(text);
     action->setShortcut(key);
     connect(action, &QAction::triggered, this, perform);
-    listKey(action);
+    Keys::listEverywhere(action);
     return action;
 }
 
@@ -100,7 +104,7 @@ void WindowMenu::addPanels()
         });
         if (key <= lastPanelKey)
             action->setShortcut(Qt::ALT | static_cast<Qt::Key>(key++));
-        listKey(action);
+        Keys::listEverywhere(action);
     }
 }
 
@@ -111,10 +115,12 @@ void WindowMenu::addAreas()
     QMainWindow& window = m_panels->window();
     const TabifySupport* tabify = TabifySupport::get(window);
     const TileSupport* tile = TileSupport::get(window);
+    int tabifyKey = firstTabifyKey;
+    int tileKey = firstTileKey;
     for (const Qt::DockWidgetArea area :
          QMainWindowHelpers::listDockWidgetAreas(Qt::AllDockWidgetAreas)) {
-        m_tabify->addAction(&tabify->tabifyDockWidgetsAction(area));
-        m_tile->addAction(&tile->tileDockWidgetsAction(area));
+        addAreaEntry(*m_tabify, tabify->tabifyDockWidgetsAction(area), tabifyKey++);
+        addAreaEntry(*m_tile, tile->tileDockWidgetsAction(area), tileKey++);
     }
 }
 

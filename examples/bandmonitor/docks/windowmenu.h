@@ -35,7 +35,6 @@ private:
     void toggleMaximized(QDockWidget& dock);
     void toggleAutoHide(QDockWidget& dock);
     void closePanel(QDockWidget& dock);
-    void listKey(QAction* action) const;
 
     PanelDocks* m_panels;
     QWidget* m_centre;

@@ -165,7 +165,9 @@ void EventLogPanel::buildActions()
         m_filter->setFocus(Qt::ShortcutFocusReason);
         m_filter->selectAll();
     });
-    m_filter->setToolTip(find->toolTip());
+    const auto showTip = [this, find] { m_filter->setToolTip(find->toolTip()); };
+    connect(find, &QAction::changed, m_filter, showTip);
+    showTip();
 }
 
 bool EventLogPanel::eventFilter(QObject* watched, QEvent* event)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panels/jobsmenu.h"
 
+#include "keys.h"
 #include "model/jobs.h"
 #include "settings/settings.h"
 
@@ -18,12 +19,17 @@ struct OrderEntry
 {
     JobOrder order;
     const char* text;
+    Qt::Key key; ///< With Alt and Shift.
 };
 
+constexpr int firstJobKey = Qt::Key_F5; // Control+F4 closes a panel
+constexpr int lastJobKey = Qt::Key_F12;
+
 constexpr OrderEntry orderEntries[] = {
-    {JobOrder::Name, QT_TRANSLATE_NOOP("bandmonitor::JobsMenu", "by &name")},
-    {JobOrder::State, QT_TRANSLATE_NOOP("bandmonitor::JobsMenu", "by &state")},
-    {JobOrder::Time, QT_TRANSLATE_NOOP("bandmonitor::JobsMenu", "by &time, latest first")},
+    {JobOrder::Name, QT_TRANSLATE_NOOP("bandmonitor::JobsMenu", "Jobs by &name"), Qt::Key_N},
+    {JobOrder::State, QT_TRANSLATE_NOOP("bandmonitor::JobsMenu", "Jobs by &state"), Qt::Key_S},
+    {JobOrder::Time, QT_TRANSLATE_NOOP("bandmonitor::JobsMenu", "Jobs by &time, latest first"),
+     Qt::Key_T},
 };
 
 JobOrder keptOrder()
@@ -43,8 +49,13 @@ JobsMenu::JobsMenu(Jobs* jobs, QWidget* parent)
     , m_order(keptOrder())
 {
     setTitle(tr("&Jobs"));
-    for (const Job& job : m_jobs->list().jobs())
-        insertItem(job.name, job.id);
+    int key = firstJobKey;
+    for (const Job& job : m_jobs->list().jobs()) {
+        QAction* action = insertItem(job.name, job.id);
+        if (key <= lastJobKey)
+            action->setShortcut(Qt::CTRL | static_cast<Qt::Key>(key++));
+        Keys::listEverywhere(action);
+    }
     m_orderMenuId = createUniqueId();
     insertItem(m_orderMenu->title(), m_orderMenu, m_orderMenuId);
     buildOrderMenu();
@@ -64,6 +75,8 @@ void JobsMenu::buildOrderMenu()
         action->setCheckable(true);
         action->setChecked(entry.order == m_order);
         group->addAction(action);
+        action->setShortcut(Qt::ALT | Qt::SHIFT | entry.key);
+        Keys::listEverywhere(action);
         connect(action, &QAction::triggered, this,
                 [this, order = entry.order] { setOrder(order); });
     }
@@ -82,11 +95,11 @@ QString JobsMenu::textOf(const Job& job) const
     const QString when = GuiBase::Instance().TimeString(time, QStringLiteral("hh:mm:ss"));
     switch (job.state) {
     case JobState::Waiting:
-        return tr("%1\twaiting since %2").arg(job.name, when);
+        return tr("%1 – waiting since %2").arg(job.name, when);
     case JobState::Failed:
-        return tr("%1\tfailed at %2").arg(job.name, when);
+        return tr("%1 – failed at %2").arg(job.name, when);
     case JobState::Done:
-        return tr("%1\tdone at %2").arg(job.name, when);
+        return tr("%1 – done at %2").arg(job.name, when);
     case JobState::Ready:
         break;
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panels/panelactions.h"
 
+#include "keys.h"
+
 #include <QAction>
 #include <QHBoxLayout>
 #include <QToolButton>
@@ -13,7 +15,7 @@ QAction* addPanelAction(QWidget* panel, const QString& text, const QKeySequence&
     auto* action = new QAction(text, panel);
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    action->setToolTip(QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
+    Keys::nameInToolTip(action, tip);
     panel->addAction(action);
     return action;
 }
