@@ -45,7 +45,7 @@ ColorsDialog::ColorsDialog(QWidget* parent)
 
 ColorsDialog::~ColorsDialog() = default;
 
-void ColorsDialog::open(QWidget* parent)
+void ColorsDialog::edit(QWidget* parent)
 {
     auto* dialog = new ColorsDialog(parent);
     dialog->setAttribute(Qt::WA_DeleteOnClose);

@@ -15,7 +15,7 @@ public:
     ~ColorsDialog() override;
 
     /// Opens a dialog that deletes itself when it is closed.
-    static void open(QWidget* parent);
+    static void edit(QWidget* parent);
 
 public Q_SLOTS:
     /// Accepts the changes, and closes.

@@ -66,7 +66,7 @@ void ColorsMenu::listSets()
 
 void ColorsMenu::edit()
 {
-    ColorsDialog::open(parentWidget());
+    ColorsDialog::edit(parentWidget());
 }
 
 void ColorsMenu::load()

@@ -285,7 +285,7 @@ void ScreenshotSeries::takeColorEditor()
 {
     const auto take = [this](const QString& name) {
         m_dialogs.useNext([this, name] { write(name); });
-        ColorsDialog::open(&m_window);
+        ColorsDialog::edit(&m_window);
         settle();
     };
     take(QStringLiteral("color-editor.png"));
