@@ -26,6 +26,7 @@ ColorsDialog::ColorsDialog(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     auto* editor = qobject_cast<ColorsCtrl*>(ColorSet::Instance().GetCtrl(this));
     connect(this, &ColorsDialog::discarded, editor, &ColorsCtrl::slotDiscardChanges);
+    editor->layout()->setContentsMargins(0, 0, 0, 0); // in line with the buttons
     column->addWidget(editor, 1);
 
     auto* buttons = new QDialogButtonBox(

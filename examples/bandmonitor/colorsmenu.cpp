@@ -35,7 +35,7 @@ ColorsMenu::ColorsMenu(QWidget* parent)
     addEntry(tr("&Load…"), Qt::CTRL | Qt::Key_L, &ColorsMenu::load);
     addEntry(tr("Save &as…"), Qt::CTRL | Qt::SHIFT | Qt::Key_L, &ColorsMenu::save);
     addSeparator();
-    addEntry(tr("&Factory"), Qt::CTRL | Qt::SHIFT | Qt::Key_F, &ColorsMenu::restoreFactory);
+    addEntry(tr("&Factory colours"), Qt::CTRL | Qt::SHIFT | Qt::Key_F, &ColorsMenu::restoreFactory);
 }
 
 ColorsMenu::~ColorsMenu() = default;

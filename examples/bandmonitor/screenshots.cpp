@@ -292,11 +292,13 @@ void ScreenshotSeries::takeColorEditor()
     const QPalette light = QApplication::palette();
     QApplication::setPalette(darkPalette());
     ColorSet& colors = ColorSet::Instance();
+    colors.slotRestoreSystemColors();
     colors.Load(&m_window, QString::fromLatin1(ColorSet::darkDesktopName));
     settle();
     take(QStringLiteral("color-editor-dark.png"));
     takeDialog(QStringLiteral("keyboard-dark.png"), "slotShowHotKeysInMenu", &GuiBase::Instance());
     QApplication::setPalette(light);
+    colors.slotRestoreSystemColors();
     colors.slotRestoreFactoryColors();
     GuiBase::Instance().emit_signalColorsChanged();
 }
