@@ -231,11 +231,11 @@ private Q_SLOTS:
         };
         const char* const magenta = "#ff00ff";
         const char* const blue = "#0000ff";
-        choose(dialog, QStringLiteral("Main Curve"), QStringLiteral("Magenta"));
+        choose(dialog, QStringLiteral("Main Curve"), QStringLiteral("Light Magenta"));
         QVERIFY(!isDrawnWith(magenta));
         press(QDialogButtonBox::Apply);
         QVERIFY(isDrawnWith(magenta));
-        choose(dialog, QStringLiteral("Main Curve"), QStringLiteral("Blue"));
+        choose(dialog, QStringLiteral("Main Curve"), QStringLiteral("Light Blue"));
         press(QDialogButtonBox::Cancel);
         QTRY_VERIFY(dialog == nullptr);
         QVERIFY(isDrawnWith(magenta) && !isDrawnWith(blue));
@@ -243,7 +243,7 @@ private Q_SLOTS:
         dialog = openEditor();
         const QSize size(560, 520);
         dialog->resize(size);
-        choose(dialog, QStringLiteral("Main Curve"), QStringLiteral("Blue"));
+        choose(dialog, QStringLiteral("Main Curve"), QStringLiteral("Light Blue"));
         press(QDialogButtonBox::Ok);
         QTRY_VERIFY(dialog == nullptr);
         QVERIFY(!isDrawnWith(magenta) && isDrawnWith(blue));

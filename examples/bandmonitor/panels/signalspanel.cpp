@@ -9,6 +9,7 @@
 #include <guibase/services/guibase.h>
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
@@ -120,6 +121,13 @@ void SignalsPanel::showEvent(QShowEvent* event)
     Panel::showEvent(event);
     if (m_isStale)
         update();
+}
+
+void SignalsPanel::changeEvent(QEvent* event)
+{
+    Panel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        refreshTexts();
 }
 
 void SignalsPanel::refresh()
@@ -237,7 +245,7 @@ bool SignalsPanel::fillRow(Row& row, const SignalTrack& track, bool anew)
         // What is not there at present steps back, but stays readable: the disabled colour would
         // not contrast enough.
         constexpr float absentOpacity = 0.6F;
-        QColor color = m_list->palette().color(QPalette::Text);
+        QColor color = palette().color(QPalette::Text); // that of the list may follow later
         if (!track.isPresent())
             color.setAlphaF(absentOpacity);
         for (int column = Frequency; column < ColumnCount; ++column)
