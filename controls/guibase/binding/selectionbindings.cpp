@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "selectionbindings_p.h"
 
+#include <QPointer>
 #include <QStandardItemModel>
 #include <QStringList>
 
@@ -124,12 +125,16 @@ void ValueSelectionQComboBoxBinding::slCurrentIndexChanged(int index)
     const int chosen = index < 0 ? -1 : chosenIndex(index);
     const SelectionItem* item = value()->GetItem(chosen);
     const bool isForUser = item != nullptr && !item->IsDisabled();
+    const int key = item != nullptr ? item->GetKey() : 0;
+    const QPointer<QObject> guard(this); // The guard of the value may delete all of it.
     const QString refusal = isForUser ? refusalOf(item->GetValue()) : QString();
+    if (!guard || value() == nullptr)
+        return;
     if (!isForUser || !refusal.isEmpty()) {
         refuse(refusal);
         return;
     }
-    scheduleUpdate([this, chosen, key = item->GetKey()] { take(chosen, key); });
+    scheduleUpdate([this, chosen, key] { take(chosen, key); });
 }
 
 void ValueSelectionQComboBoxBinding::take(int index, int key)
@@ -139,8 +144,16 @@ void ValueSelectionQComboBoxBinding::take(int index, int key)
     if (item == nullptr || item->GetKey() != key)
         index = value()->FindByKey(key);
     item = value()->GetItem(index);
-    if (item != nullptr && refusalOf(item->GetValue()).isEmpty())
+    if (item == nullptr)
+        return;
+    const QPointer<QObject> guard(this);
+    const QString refusal = refusalOf(item->GetValue());
+    if (!guard || value() == nullptr)
+        return;
+    if (refusal.isEmpty())
         value()->SetCurrentIndex(index);
+    else
+        refuse(refusal);
 }
 
 ValueSelectionQLabelBinding::ValueSelectionQLabelBinding(ValueSelection& value, QLabel& label,

@@ -14,7 +14,6 @@ ListHeader::ListHeader(SortListView& view)
     setSectionsMovable(true);
     setStretchLastSection(true);
     setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    setSectionsClickable(true);
 }
 
 void ListHeader::mouseReleaseEvent(QMouseEvent* event)

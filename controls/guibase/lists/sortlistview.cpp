@@ -62,6 +62,7 @@ SortListView::SortListView(QWidget* parent, const char* name)
     , d(std::make_unique<Private>(*this))
 {
     setHeader(new ListHeader(*this));
+    header()->setSectionsClickable(true); // setHeader() has switched it off.
     header()->setSortIndicator(d->sorter.column(), d->sorter.order());
     if (name != nullptr)
         setObjectName(QString::fromUtf8(name));

@@ -42,7 +42,8 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::ChildRemoved && m_window == watched)
+        // A window that is being destroyed is no main window any more.
+        if (event->type() == QEvent::ChildRemoved && qobject_cast<QMainWindow*>(watched) != nullptr)
             forget(static_cast<const QChildEvent*>(event)->child());
         return false;
     }

@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QMainWindow>
+#include <QPointer>
 
 #include <utility>
 
@@ -126,13 +127,14 @@ void AutoHideSupportPrivate::unregisterDock(const QObject* key, QDockWidget* doc
     timer.forget(key);
     if (entry.autoHideAction)
         entry.autoHideAction->disconnect(&q);
+    const QPointer<AutoHideSupport> guard(&q); // Who hears of the action may delete it.
     // A dock that dies may do so at the end of the program: in the next run it comes back as it
     // was.
     if (dock != nullptr)
         letGo(*dock, entry);
     else if (entry.isOn && !entry.name.isEmpty() && record.hasName())
         record.expect(entry.name, side);
-    if (entry.isOn) {
+    if (entry.isOn && guard) {
         bars.updateVisibility();
         store();
     }
