@@ -98,8 +98,11 @@ protected:
             Access::set(this->widget(), target.quantity);
             if (!transaction.isBindingAlive() || !this->isWidgetAlive())
                 return;
-            if (m_timesTold - toldBefore <= 1) // Nobody else has set the widget.
+            if (m_timesTold - toldBefore <= 1) { // Nobody else has set the widget.
                 m_shown.emplace(target.quantity, Access::get(this->widget()));
+                tellWhetherShown(value, target, m_shown->second);
+                return;
+            }
         }
     }
 
