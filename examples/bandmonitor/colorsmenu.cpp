@@ -2,7 +2,7 @@
 #include "colorsmenu.h"
 
 #include "colorsdialog.h"
-#include "keys.h"
+#include "settings/keys.h"
 #include "settings/settings.h"
 
 #include <guibase/colors/colorset.h>

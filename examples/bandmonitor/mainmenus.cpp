@@ -5,7 +5,7 @@
 #include "centre/replaybar.h"
 #include "colorsmenu.h"
 #include "docks/windowmenu.h"
-#include "keys.h"
+#include "settings/keys.h"
 #include "manual.h"
 #include "panels/jobsmenu.h"
 #include "panels/panel.h"

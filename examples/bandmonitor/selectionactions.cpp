@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "selectionactions.h"
 
-#include "keys.h"
+#include "settings/keys.h"
 
 #include <valueframework/valueselection.h>
 

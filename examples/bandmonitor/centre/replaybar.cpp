@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "centre/replaybar.h"
 
-#include "keys.h"
+#include "settings/keys.h"
 #include "model/replay.h"
 #include "panels/readableoutline.h"
 

@@ -3,7 +3,7 @@
 
 #include "docks/paneldocks.h"
 #include "docks/panelfocus.h"
-#include "keys.h"
+#include "settings/keys.h"
 
 #include <guibase/docks/active/activedockwidgetsupport.h>
 #include <guibase/docks/areas/tabifysupport.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panels/jobsmenu.h"
 
-#include "keys.h"
+#include "settings/keys.h"
 #include "model/jobs.h"
 #include "settings/settings.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panels/panelactions.h"
 
-#include "keys.h"
+#include "settings/keys.h"
 
 #include <QAction>
 #include <QHBoxLayout>

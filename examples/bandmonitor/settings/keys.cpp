@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "keys.h"
+#include "settings/keys.h"
 
 #include <guibase/services/guibase.h>
 
