@@ -4,7 +4,7 @@
 
 #include <jtbase/coordformat.h>
 
-class CoordFormatTest : public GuardedTest
+class tst_CoordFormat : public GuardedTest
 {
     Q_OBJECT
     using Positions = TestRows<double, double, CoordFormat, QString>;
@@ -64,5 +64,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(CoordFormatTest)
+QTEST_GUILESS_MAIN(tst_CoordFormat)
 #include "tst_coordformat.moc"

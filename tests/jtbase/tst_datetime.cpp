@@ -8,7 +8,7 @@
 
 using Trov::DateTime;
 
-class DateTimeTest : public GuardedTest
+class tst_DateTime : public GuardedTest
 {
     Q_OBJECT
     using Formats = TestRows<quint64, QString, qint64, QString>;
@@ -50,5 +50,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DateTimeTest)
+QTEST_GUILESS_MAIN(tst_DateTime)
 #include "tst_datetime.moc"

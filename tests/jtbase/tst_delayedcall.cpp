@@ -5,7 +5,7 @@
 
 #include <QTimer>
 
-class DelayedCallTest : public GuardedTest
+class tst_DelayedCall : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -52,5 +52,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DelayedCallTest)
+QTEST_GUILESS_MAIN(tst_DelayedCall)
 #include "tst_delayedcall.moc"

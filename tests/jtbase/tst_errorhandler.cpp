@@ -32,7 +32,7 @@ struct TraceAtExit
 
 } // namespace
 
-class ErrorHandlerTest : public GuardedTest
+class tst_ErrorHandler : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -96,5 +96,5 @@ private:
     QTemporaryDir m_dir;
 };
 
-QTEST_GUILESS_MAIN(ErrorHandlerTest)
+QTEST_GUILESS_MAIN(tst_ErrorHandler)
 #include "tst_errorhandler.moc"

@@ -8,7 +8,7 @@
 
 using Rows = QList<QList<int>>;
 
-class GeometryArrayParserTest : public GuardedTest
+class tst_GeometryArrayParser : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -64,5 +64,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(GeometryArrayParserTest)
+QTEST_GUILESS_MAIN(tst_GeometryArrayParser)
 #include "tst_geometryarrayparser.moc"

@@ -12,7 +12,7 @@ QStringList letters(const char* text)
 
 } // namespace
 
-class LruStringListTest : public GuardedTest
+class tst_LruStringList : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -44,5 +44,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(LruStringListTest)
+QTEST_GUILESS_MAIN(tst_LruStringList)
 #include "tst_lrustringlist.moc"

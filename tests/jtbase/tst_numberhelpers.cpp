@@ -53,7 +53,7 @@ QLocale grouping(const QString& name)
 
 } // namespace
 
-class NumberHelpersTest : public GuardedTest
+class tst_NumberHelpers : public GuardedTest
 {
     Q_OBJECT
     using Value = std::optional<double>;
@@ -199,5 +199,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(NumberHelpersTest)
+QTEST_GUILESS_MAIN(tst_NumberHelpers)
 #include "tst_numberhelpers.moc"

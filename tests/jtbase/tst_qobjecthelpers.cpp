@@ -29,7 +29,7 @@ void send(QObject* receiver)
 
 } // namespace
 
-class QObjectHelpersTest : public GuardedTest
+class tst_QObjectHelpers : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -104,5 +104,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(QObjectHelpersTest)
+QTEST_GUILESS_MAIN(tst_QObjectHelpers)
 #include "tst_qobjecthelpers.moc"

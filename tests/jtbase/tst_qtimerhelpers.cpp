@@ -9,7 +9,7 @@
 
 using QTimerHelpers::singleShot;
 
-class QTimerHelpersTest : public GuardedTest
+class tst_QTimerHelpers : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -55,5 +55,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(QTimerHelpersTest)
+QTEST_GUILESS_MAIN(tst_QTimerHelpers)
 #include "tst_qtimerhelpers.moc"

@@ -7,7 +7,7 @@
 #include <QTemporaryFile>
 #include <QUrl>
 
-class TrovOsTest : public GuardedTest
+class tst_TrovOs : public GuardedTest
 {
     Q_OBJECT
 public Q_SLOTS:
@@ -34,5 +34,5 @@ private:
     QList<QUrl> m_opened;
 };
 
-QTEST_MAIN(TrovOsTest)
+QTEST_MAIN(tst_TrovOs)
 #include "tst_trovos.moc"

@@ -45,7 +45,7 @@ const QString number = QStringLiteral("number");
 
 } // namespace
 
-class TestCfgCenter : public GuardedTest
+class tst_CfgCenter : public GuardedTest
 {
     Q_OBJECT
     using Kinds = TestRows<QByteArray, QString, int, bool>;
@@ -268,5 +268,5 @@ private:
     ICfg* settings = nullptr;
 };
 
-QTEST_GUILESS_MAIN(TestCfgCenter)
+QTEST_GUILESS_MAIN(tst_CfgCenter)
 #include "tst_cfgcenter.moc"

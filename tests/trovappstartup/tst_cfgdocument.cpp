@@ -49,7 +49,7 @@ void changeSomething(RandomBytes& random, CfgDocument& document)
 
 } // namespace
 
-class TestCfgDocument : public QObject
+class tst_CfgDocument : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -115,5 +115,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCfgDocument)
+QTEST_GUILESS_MAIN(tst_CfgDocument)
 #include "tst_cfgdocument.moc"

@@ -13,7 +13,7 @@
 #include <vector>
 
 /// What becomes of the configuration when several processes use it, and when they die.
-class TestCfgProcesses : public GuardedTest
+class tst_CfgProcesses : public GuardedTest
 {
     Q_OBJECT
     using Ends = TestRows<int>;
@@ -132,5 +132,5 @@ private:
     ICfg* settings = nullptr;
 };
 
-QTEST_GUILESS_MAIN(TestCfgProcesses)
+QTEST_GUILESS_MAIN(tst_CfgProcesses)
 #include "tst_cfgprocesses.moc"

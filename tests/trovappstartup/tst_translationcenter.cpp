@@ -22,7 +22,7 @@ const QByteArray austrianFile = QByteArray::fromBase64(
 
 } // namespace
 
-class TestTranslationCenter : public GuardedTest
+class tst_TranslationCenter : public GuardedTest
 {
     Q_OBJECT
     using Languages = TestRows<QString, QString, QString, const char*>;
@@ -61,5 +61,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTranslationCenter)
+QTEST_GUILESS_MAIN(tst_TranslationCenter)
 #include "tst_translationcenter.moc"

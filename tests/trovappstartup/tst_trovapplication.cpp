@@ -52,7 +52,7 @@ auto handlerOf(int signalNumber)
 
 } // namespace
 
-class TestTrovApplication : public GuardedTest
+class tst_TrovApplication : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -142,5 +142,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTrovApplication)
+QTEST_MAIN(tst_TrovApplication)
 #include "tst_trovapplication.moc"

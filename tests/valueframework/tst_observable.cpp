@@ -132,7 +132,7 @@ private:
 
 } // namespace
 
-class TestObservable : public QObject
+class tst_Observable : public QObject
 {
     Q_OBJECT
 
@@ -190,5 +190,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestObservable)
+QTEST_GUILESS_MAIN(tst_Observable)
 #include "tst_observable.moc"

@@ -50,7 +50,7 @@ public:
 
 } // namespace
 
-class TestPersistant : public GuardedTest
+class tst_Persistant : public GuardedTest
 {
     Q_OBJECT
     using Stored = TestRows<QByteArray, QString>;
@@ -112,5 +112,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPersistant)
+QTEST_GUILESS_MAIN(tst_Persistant)
 #include "tst_persistant.moc"

@@ -17,7 +17,7 @@
 
 using Trigger = UndoRecordingTriggerByValueClient;
 
-class TestUndoRecording : public QObject
+class tst_UndoRecording : public QObject
 {
     Q_OBJECT
 
@@ -168,5 +168,5 @@ private:
     UndoRecording& m_undo = UndoRecording::Instance();
 };
 
-QTEST_GUILESS_MAIN(TestUndoRecording)
+QTEST_GUILESS_MAIN(tst_UndoRecording)
 #include "tst_undorecording.moc"

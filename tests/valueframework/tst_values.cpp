@@ -43,7 +43,7 @@ bool refill(ValueSelection& selection, const QList<int>& keys)
 
 } // namespace
 
-class TestValues : public QObject
+class tst_Values : public QObject
 {
     Q_OBJECT
     using S = ValueSelection&;
@@ -175,5 +175,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestValues)
+QTEST_GUILESS_MAIN(tst_Values)
 #include "tst_values.moc"

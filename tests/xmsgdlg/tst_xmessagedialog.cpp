@@ -27,7 +27,7 @@ public:
 
 } // namespace
 
-class TestXMessageDialog : public GuardedTest
+class tst_XMessageDialog : public GuardedTest
 {
     Q_OBJECT
     using Texts = TestRows<QString, QString>;
@@ -119,5 +119,5 @@ private:
     std::unique_ptr<QWidget> m_parent = std::make_unique<QWidget>();
 };
 
-QTEST_MAIN(TestXMessageDialog)
+QTEST_MAIN(tst_XMessageDialog)
 #include "tst_xmessagedialog.moc"

@@ -76,7 +76,7 @@ std::vector<SelectionItem> items(const QList<int>& keys)
 
 } // namespace
 
-class TestBinding : public GuardedTest
+class tst_Binding : public GuardedTest
 {
     Q_OBJECT
     using Pairs = TestRows<Pair, QVariantList>;
@@ -375,5 +375,5 @@ private:
     UndoRecording& m_undo = UndoRecording::Instance();
 };
 
-QTEST_MAIN(TestBinding)
+QTEST_MAIN(tst_Binding)
 #include "tst_binding.moc"

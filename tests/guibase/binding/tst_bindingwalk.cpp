@@ -200,7 +200,7 @@ private:
 
 } // namespace
 
-class TestBindingWalk : public GuardedTest
+class tst_BindingWalk : public GuardedTest
 {
     Q_OBJECT
 
@@ -215,5 +215,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestBindingWalk)
+QTEST_MAIN(tst_BindingWalk)
 #include "tst_bindingwalk.moc"

@@ -75,7 +75,7 @@ QString textsOf(const QMenu& menu)
 
 } // namespace
 
-class TestFileOpenManager : public GuardedTest
+class tst_FileOpenManager : public GuardedTest
 {
     Q_OBJECT
     using Names = TestRows<QString, QString, QString>;
@@ -288,5 +288,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestFileOpenManager)
+QTEST_MAIN(tst_FileOpenManager)
 #include "tst_fileopenmanager.moc"

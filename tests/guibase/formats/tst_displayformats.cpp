@@ -103,7 +103,7 @@ bool survives(const ValueDisplayFormatBase<T>& format, const QString& text)
 
 } // namespace
 
-class TestDisplayFormats : public GuardedTest
+class tst_DisplayFormats : public GuardedTest
 {
     Q_OBJECT
     using Framed = TestRows<QString, QString, QString>;
@@ -488,5 +488,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDisplayFormats)
+QTEST_GUILESS_MAIN(tst_DisplayFormats)
 #include "tst_displayformats.moc"

@@ -8,7 +8,7 @@
 
 #include <optional>
 
-class TestFrequencyToAxisString : public GuardedTest
+class tst_FrequencyToAxisString : public GuardedTest
 {
     Q_OBJECT
 
@@ -41,5 +41,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestFrequencyToAxisString)
+QTEST_MAIN(tst_FrequencyToAxisString)
 #include "tst_frequencytoaxisstring.moc"

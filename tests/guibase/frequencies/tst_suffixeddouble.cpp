@@ -42,7 +42,7 @@ ESuffix randomUnit(RandomBytes& random)
 
 } // namespace
 
-class TestSuffixedDouble : public GuardedTest
+class tst_SuffixedDouble : public GuardedTest
 {
     Q_OBJECT
     using Formats = TestRows<ESuffix, ESuffix, double, QString, QString, QString>;
@@ -304,5 +304,5 @@ private:
     }
 };
 
-QTEST_MAIN(TestSuffixedDouble)
+QTEST_MAIN(tst_SuffixedDouble)
 #include "tst_suffixeddouble.moc"

@@ -19,7 +19,7 @@
 
 #include <memory>
 
-class TestHotKeyEditor : public GuardedTest
+class tst_HotKeyEditor : public GuardedTest
 {
     Q_OBJECT
     using Names = TestRows<int, QString>;
@@ -194,5 +194,5 @@ private:
     }
 };
 
-QTEST_MAIN(TestHotKeyEditor)
+QTEST_MAIN(tst_HotKeyEditor)
 #include "tst_hotkeyeditor.moc"

@@ -31,7 +31,7 @@ public Q_SLOTS:
     void slotHotKey(int id) { ids << id; }
 };
 
-class TestHotKeys : public GuardedTest
+class tst_HotKeys : public GuardedTest
 {
     Q_OBJECT
     using Matches = TestRows<Qt::Key, int, bool, int, QEvent::Type, bool, bool, bool>;
@@ -256,5 +256,5 @@ private:
     GuiBase* m_services = nullptr;
 };
 
-QTEST_MAIN(TestHotKeys)
+QTEST_MAIN(tst_HotKeys)
 #include "tst_hotkeys.moc"

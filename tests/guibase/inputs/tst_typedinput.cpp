@@ -11,7 +11,7 @@
 
 #include <limits>
 
-class TestTypedInput : public GuardedTest
+class tst_TypedInput : public GuardedTest
 {
     Q_OBJECT
 
@@ -74,5 +74,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTypedInput)
+QTEST_MAIN(tst_TypedInput)
 #include "tst_typedinput.moc"

@@ -99,7 +99,7 @@ QString looks(const Window& window)
 
 } // namespace
 
-class TestDockLayouts : public GuardedTest
+class tst_DockLayouts : public GuardedTest
 {
     Q_OBJECT
     using Cycles = TestRows<Qt::WindowState, bool>;
@@ -547,5 +547,5 @@ private:
     GuiBase* m_services = &GuiBase::Instance();
 };
 
-QTEST_MAIN(TestDockLayouts)
+QTEST_MAIN(tst_DockLayouts)
 #include "tst_docklayouts.moc"

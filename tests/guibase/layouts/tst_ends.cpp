@@ -10,7 +10,7 @@
 
 /// Whatever way a program ends, its next start looks the same. Whole processes, which write at
 /// their end only.
-class TestEnds : public GuardedTest
+class tst_Ends : public GuardedTest
 {
     Q_OBJECT
     using Ways = TestRows<const char*, int>;
@@ -54,5 +54,5 @@ private:
                        "hiding, tabbed below, column 77, panes \\d+ \\d+")};
 };
 
-QTEST_GUILESS_MAIN(TestEnds)
+QTEST_GUILESS_MAIN(tst_Ends)
 #include "tst_ends.moc"

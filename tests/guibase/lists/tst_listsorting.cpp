@@ -91,7 +91,7 @@ private:
 
 } // namespace
 
-class ListSorting : public GuardedTest
+class tst_ListSorting : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -389,5 +389,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(ListSorting)
+QTEST_MAIN(tst_ListSorting)
 #include "tst_listsorting.moc"

@@ -56,7 +56,7 @@ public:
 
 } // namespace
 
-class ResortPopupMenus : public GuardedTest
+class tst_ResortPopupMenu : public GuardedTest
 {
     Q_OBJECT
     using Orders = TestRows<QList<int>, bool, QString>;
@@ -180,5 +180,5 @@ private:
     std::unique_ptr<ResortPopupMenu> m_menu;
 };
 
-QTEST_MAIN(ResortPopupMenus)
+QTEST_MAIN(tst_ResortPopupMenu)
 #include "tst_resortpopupmenu.moc"

@@ -38,7 +38,7 @@ private:
 
 } // namespace
 
-class SortListViews : public GuardedTest
+class tst_SortListView : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -209,5 +209,5 @@ private:
     std::unique_ptr<SortListView> m_list;
 };
 
-QTEST_MAIN(SortListViews)
+QTEST_MAIN(tst_SortListView)
 #include "tst_sortlistview.moc"

@@ -36,7 +36,7 @@ const QString c = QStringLiteral("c");
 
 } // namespace
 
-class SortListViewItems : public GuardedTest
+class tst_SortListViewItem : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -191,5 +191,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(SortListViewItems)
+QTEST_MAIN(tst_SortListViewItem)
 #include "tst_sortlistviewitem.moc"

@@ -51,7 +51,7 @@ QString rowsOf(const QTableWidget& table)
 
 } // namespace
 
-class SortRowTables : public GuardedTest
+class tst_SortRowTable : public GuardedTest
 {
     Q_OBJECT
     using Deletions = TestRows<QList<int>, int, QString>;
@@ -204,5 +204,5 @@ private:
     std::unique_ptr<SortRowTable> m_table;
 };
 
-QTEST_MAIN(SortRowTables)
+QTEST_MAIN(tst_SortRowTable)
 #include "tst_sortrowtable.moc"

@@ -68,7 +68,7 @@ private:
 
 } // namespace
 
-class TestDockStateCheck : public GuardedTest
+class tst_DockStateCheck : public GuardedTest
 {
     Q_OBJECT
     using States = TestRows<QByteArray>;
@@ -185,5 +185,5 @@ private:
     const QByteArray toolBars{"fc00000000"};
 };
 
-QTEST_MAIN(TestDockStateCheck)
+QTEST_MAIN(tst_DockStateCheck)
 #include "tst_dockstatecheck.moc"

@@ -40,7 +40,7 @@ QByteArray withLengthHeader(QByteArray packed, quint32 length)
 
 } // namespace
 
-class TestLayoutRecords : public GuardedTest
+class tst_LayoutRecords : public GuardedTest
 {
     Q_OBJECT
     using Texts = TestRows<QString>;
@@ -161,5 +161,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLayoutRecords)
+QTEST_GUILESS_MAIN(tst_LayoutRecords)
 #include "tst_layoutrecords.moc"

@@ -14,7 +14,7 @@
 #include <QTimer>
 
 /// What the services touch may die while they are at work on it.
-class TestDyingObjects : public GuardedTest
+class tst_DyingObjects : public GuardedTest
 {
     Q_OBJECT
     using Dialogs = TestRows<void (*)(QWidget*)>;
@@ -96,5 +96,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestDyingObjects)
+QTEST_MAIN(tst_DyingObjects)
 #include "tst_dyingobjects.moc"

@@ -25,7 +25,7 @@
 #include <ctime>
 #include <memory>
 
-class TestGuiBase : public GuardedTest
+class tst_GuiBase : public GuardedTest
 {
     Q_OBJECT
     using Sheets = TestRows<QString, QString, QString>;
@@ -285,5 +285,5 @@ private:
     GuiBase* m_services = &GuiBase::Instance();
 };
 
-QTEST_MAIN(TestGuiBase)
+QTEST_MAIN(tst_GuiBase)
 #include "tst_guibase.moc"

@@ -54,7 +54,7 @@ private:
     QString& m_opened;
 };
 
-class TestHelpMenu : public GuardedTest
+class tst_HelpMenu : public GuardedTest
 {
     Q_OBJECT
     using Entries = TestRows<bool, const char*, const char*, QString, QString>;
@@ -219,5 +219,5 @@ private:
     GuiBase* m_services = &GuiBase::Instance();
 };
 
-QTEST_MAIN(TestHelpMenu)
+QTEST_MAIN(tst_HelpMenu)
 #include "tst_helpmenu.moc"

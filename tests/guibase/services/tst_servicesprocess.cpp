@@ -11,7 +11,7 @@
 
 #include <csignal>
 
-class TestServicesProcess : public GuardedTest
+class tst_ServicesProcess : public GuardedTest
 {
     Q_OBJECT
     using Resolutions = TestRows<QString, int>;
@@ -106,5 +106,5 @@ private:
     QTemporaryDir m_runtimeDir;
 };
 
-QTEST_MAIN(TestServicesProcess)
+QTEST_MAIN(tst_ServicesProcess)
 #include "tst_servicesprocess.moc"

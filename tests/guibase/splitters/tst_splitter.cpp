@@ -53,7 +53,7 @@ void drag(QSplitterHandle& handle, int pixels)
 
 } // namespace
 
-class TestSplitter : public GuardedTest
+class tst_Splitter : public GuardedTest
 {
     Q_OBJECT
     using Sizes = TestRows<QString, QList<int>, bool>;
@@ -245,5 +245,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSplitter)
+QTEST_MAIN(tst_Splitter)
 #include "tst_splitter.moc"

@@ -24,7 +24,7 @@ class Control : public QWidget, public UndoRecordingControlBase
 
 } // namespace
 
-class TestGuiUndoRecordingHelper : public GuardedTest
+class tst_GuiUndoRecordingHelper : public GuardedTest
 {
     Q_OBJECT
     using Paths = TestRows<bool, QString, QString, QString, QString, bool, QString>;
@@ -116,5 +116,5 @@ private:
     const std::array<ValueNumeric<int>*, 4> m_values{&m_own, &m_inner, &m_outer, &m_default};
 };
 
-QTEST_MAIN(TestGuiUndoRecordingHelper)
+QTEST_MAIN(tst_GuiUndoRecordingHelper)
 #include "tst_guiundorecordinghelper.moc"

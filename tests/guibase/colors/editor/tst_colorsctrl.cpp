@@ -51,7 +51,7 @@ Q_SIGNALS:
     void applyButtonPressed();
 };
 
-class TestColorsCtrl : public GuardedTest
+class tst_ColorsCtrl : public GuardedTest
 {
     Q_OBJECT
 
@@ -326,5 +326,5 @@ private:
     QPointer<ColorsCtrl> m_page;
 };
 
-QTEST_MAIN(TestColorsCtrl)
+QTEST_MAIN(tst_ColorsCtrl)
 #include "tst_colorsctrl.moc"

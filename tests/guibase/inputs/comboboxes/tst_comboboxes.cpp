@@ -49,7 +49,7 @@ using Change = void (*)(Filtered&);
 
 } // namespace
 
-class TestComboBoxes : public GuardedTest
+class tst_ComboBoxes : public GuardedTest
 {
     Q_OBJECT
     using Closest = TestRows<QString, QString, double, int>;
@@ -344,5 +344,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestComboBoxes)
+QTEST_MAIN(tst_ComboBoxes)
 #include "tst_comboboxes.moc"

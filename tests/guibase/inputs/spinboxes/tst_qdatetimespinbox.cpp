@@ -14,7 +14,7 @@
 
 using namespace SpinBoxes;
 
-class TestQDateTimeSpinBox : public GuardedTest
+class tst_QDateTimeSpinBox : public GuardedTest
 {
     Q_OBJECT
 
@@ -81,5 +81,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestQDateTimeSpinBox)
+QTEST_MAIN(tst_QDateTimeSpinBox)
 #include "tst_qdatetimespinbox.moc"

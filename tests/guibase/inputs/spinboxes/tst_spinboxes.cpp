@@ -69,7 +69,7 @@ void checkInteger()
 
 } // namespace
 
-class TestSpinBoxes : public GuardedTest
+class tst_SpinBoxes : public GuardedTest
 {
     Q_OBJECT
     using Texts = TestRows<QString, QString>;
@@ -469,5 +469,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSpinBoxes)
+QTEST_MAIN(tst_SpinBoxes)
 #include "tst_spinboxes.moc"

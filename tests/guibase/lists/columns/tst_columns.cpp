@@ -44,7 +44,7 @@ QString storedBy(const std::unique_ptr<SortListView>& list)
 
 } // namespace
 
-class TestColumns : public GuardedTest
+class tst_Columns : public GuardedTest
 {
     Q_OBJECT
     using Texts = TestRows<int, QString, QString, bool>;
@@ -110,5 +110,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestColumns)
+QTEST_MAIN(tst_Columns)
 #include "tst_columns.moc"

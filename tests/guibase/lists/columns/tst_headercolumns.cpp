@@ -77,7 +77,7 @@ void openMenu(QHeaderView& header, std::function<void(QMenu&)> visit)
 
 } // namespace
 
-class HeaderColumns : public GuardedTest
+class tst_HeaderColumns : public GuardedTest
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -200,5 +200,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(HeaderColumns)
+QTEST_MAIN(tst_HeaderColumns)
 #include "tst_headercolumns.moc"
