@@ -7,10 +7,11 @@ namespace DockFocus {
 
 QWidget* target(QDockWidget& dock)
 {
-    if (QWidget* last = dock.focusWidget())
-        return last;
     if (dock.widget() == nullptr)
         return &dock;
+    // A floating dock that becomes the active window gives the focus to its title bar first.
+    if (QWidget* last = dock.focusWidget(); isInside(last, *dock.widget()))
+        return last;
     QWidget* candidate = dock.widget();
     do {
         if (candidate->isEnabled() && candidate->isVisibleTo(&dock) &&

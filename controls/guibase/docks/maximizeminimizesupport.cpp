@@ -83,6 +83,8 @@ struct MaximizeMinimizeSupportPrivate
     void becomeNormal(QDockWidget& dock);
     void followEdgeHiding(QDockWidget& dock);
     void reapply(QDockWidget& dock);
+    /// Whether the window manager has just taken the state back.
+    bool isUndone(const QDockWidget& dock) const;
     void takeNotice(const QWindowStateChangeEvent& stateChange);
     void announcePossible(size_t operation);
     void announceChanges();
@@ -250,7 +252,7 @@ void MaximizeMinimizeSupportPrivate::becomeNormal(QDockWidget& dock)
     const QPointer<Support> alive(&q);
     const Notifier notifier(*this, Notifier::ChangesOnly);
     state = State::Normal;
-    timesToInsist = 0;
+    timesToInsist = maximumInsistence;
     if (Support::dockWidgetState(dock) == State::Normal)
         return;
     const bool wasChanging = std::exchange(changing, true);
@@ -271,18 +273,27 @@ void MaximizeMinimizeSupportPrivate::followEdgeHiding(QDockWidget& dock)
         announceChanges();
 }
 
+bool MaximizeMinimizeSupportPrivate::isUndone(const QDockWidget& dock) const
+{
+    if (timesToInsist == 0 || !dock.isFloating() || Support::dockWidgetState(dock) == state)
+        return false;
+    return EdgeHiding::isOn(dock) || (dock.isVisible() && !insistence.hasExpired());
+}
+
 void MaximizeMinimizeSupportPrivate::takeNotice(const QWindowStateChangeEvent& stateChange)
 {
     QDockWidget* dock = q.dockWidget();
     // What the application itself does to the window stays.
     if (!stateChange.spontaneous())
         timesToInsist = 0;
-    if (dock != nullptr && timesToInsist > 0 && !insistence.hasExpired() && dock->isFloating() &&
-        dock->isVisible() && Support::dockWidgetState(*dock) != state) {
+    if (dock != nullptr && isUndone(*dock)) {
         const QPointer<Support> alive(&q);
         const QDeadlineTimer deadline = insistence;
         const int timesLeft = timesToInsist - 1;
-        reapply(*dock);
+        if (EdgeHiding::isOn(*dock))
+            becomeNormal(*dock);
+        else
+            reapply(*dock);
         if (!alive)
             return;
         insistence = deadline;

@@ -28,6 +28,10 @@ AutoHideSupportPrivate::AutoHideSupportPrivate(AutoHideSupport& support, QMainWi
     , served(&mainWindow)
     , bars(support, areas)
     , timer(support, {[this](const QDockWidget& dock) { return isOn(dock); },
+                      [this](const QDockWidget& dock) {
+                          const QWidget* button = bars.buttonOf(&dock);
+                          return button != nullptr && AutoHideTimer::isUnderCursor(*button);
+                      },
                       [this](QDockWidget& dock) {
                           if (Entry* entry = entryOf(&dock))
                               entry->hiddenByMode = true;

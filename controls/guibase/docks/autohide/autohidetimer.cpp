@@ -16,7 +16,7 @@ namespace QMainWindowHelpers {
 
 namespace {
 
-/// Milliseconds, at least, until it is looked again whether a dock's menu or dialog is still open.
+/// Milliseconds, at least, until it is looked again whether something keeps a dock open.
 constexpr int shortestWait = 50;
 
 /// Whether a menu, list or dialog is open that belongs to the dock, or that may: their parents do
@@ -48,9 +48,9 @@ void AutoHideTimer::setDelay(int milliseconds)
     m_delay = std::max(0, milliseconds);
 }
 
-bool AutoHideTimer::isUnderCursor(const QDockWidget& dock)
+bool AutoHideTimer::isUnderCursor(const QWidget& widget)
 {
-    return dock.rect().contains(dock.mapFromGlobal(QCursor::pos()));
+    return widget.rect().contains(widget.mapFromGlobal(QCursor::pos()));
 }
 
 void AutoHideTimer::start(QDockWidget& dock)
@@ -68,7 +68,6 @@ void AutoHideTimer::start(QDockWidget& dock)
 QDockWidget* AutoHideTimer::stop()
 {
     m_timer.stop();
-    m_waitsForOpenWindow = false;
     return std::exchange(m_pending, nullptr).get();
 }
 
@@ -121,15 +120,14 @@ bool AutoHideTimer::handle(const QTimerEvent& event)
 {
     if (event.timerId() != m_timer.timerId())
         return false;
-    const bool waited = m_waitsForOpenWindow;
     QDockWidget* dock = stop();
     if (dock == nullptr)
         return true;
-    if (hasOpenWindow(*dock)) {
+    // On a busy computer the mouse is back before the toolkit tells so.
+    if (hasOpenWindow(*dock) || isUnderCursor(*dock) || m_hooks.isButtonUnderCursor(*dock)) {
         m_pending = dock;
         m_timer.start(std::max(m_delay, shortestWait), &m_owner);
-        m_waitsForOpenWindow = true;
-    } else if (!waited || !isUnderCursor(*dock)) {
+    } else {
         hide(*dock);
     }
     return true;

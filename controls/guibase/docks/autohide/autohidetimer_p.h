@@ -13,13 +13,14 @@ class QTimerEvent;
 namespace QMainWindowHelpers {
 
 /// Decides when a dock that was shown in auto-hide mode hides again: a while after the mouse has
-/// left it, but not while a menu, list or dialog of its own is open.
+/// left it and its button, but not while a menu, list or dialog of its own is open.
 class AutoHideTimer
 {
 public:
     struct Hooks
     {
         std::function<bool(const QDockWidget&)> isInMode;
+        std::function<bool(const QDockWidget&)> isButtonUnderCursor;
         /// Called right before a dock is hidden.
         std::function<void(QDockWidget&)> hides;
     };
@@ -46,7 +47,7 @@ public:
     /// False for the events of other timers.
     bool handle(const QTimerEvent& event);
 
-    static bool isUnderCursor(const QDockWidget& dock);
+    static bool isUnderCursor(const QWidget& widget);
 
 private:
     void hideLater(QDockWidget& dock);
@@ -57,8 +58,7 @@ private:
     int m_delay = 500;
     QBasicTimer m_timer;
     DockPointer m_pending;
-    bool m_waitsForOpenWindow = false; ///< The hiding was put off for something that was open.
-    QSet<const QObject*> m_waiting;    ///< Docks that hide once what they have open is closed.
+    QSet<const QObject*> m_waiting; ///< Docks that hide once what they have open is closed.
 };
 
 } // namespace QMainWindowHelpers

@@ -139,6 +139,7 @@ private Q_SLOTS:
     void popsUpInItsNormalState()
     {
         Window w;
+        w.support->setAutoHideDelay(100'000); // the pointer leaves when the dock shrinks
         auto* states = QDockWidgetHelpers::MaximizeMinimizeSupport::install(*w.left);
         const auto canChange = [states] {
             return states->maximizeDockWidgetAction().isVisible() ||
@@ -155,7 +156,7 @@ private Q_SLOTS:
         w.left->hide();
         w.buttons(w.left).first()->click();
         settle();
-        QVERIFY(w.left->isVisible() && !w.left->isMaximized() && !canChange());
+        QTRY_VERIFY(w.left->isVisible() && !w.left->isMaximized() && !canChange());
         w.support->disableAutoHide(*w.left);
         QVERIFY(canChange());
     }
@@ -265,13 +266,18 @@ private Q_SLOTS:
             QTRY_COMPARE(central->underMouse(), inside);
             QTest::keyClick(widget, key);
         };
+        // Which window is active is for the window manager to say.
+        const bool isManaged = QGuiApplication::platformName() != u"offscreen"_s;
+        const auto focusIn = [isManaged](const QWidget* window) {
+            return isManaged ? window->focusWidget() : QApplication::focusWidget();
+        };
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
             button->setFocus();
             press(button, key);
-            QTRY_COMPARE(QApplication::focusWidget(), w.left->widget());
+            QTRY_COMPARE(focusIn(w.left), w.left->widget());
             press(w.left->widget(), Qt::Key_Escape);
             QVERIFY(!w.left->isVisible());
-            QTRY_COMPARE(QApplication::focusWidget(), button);
+            QTRY_COMPARE(focusIn(w.window.get()), button);
         }
     }
     void dockingLeavesTheMode()
