@@ -4,9 +4,10 @@
 #include "ratio.h"
 
 #include "centre/bandview.h"
-#include "radiopanes/core/columnreducer.h"
-#include "radiopanes/spectrumpane.h"
-#include "radiopanes/waterfallpane.h"
+
+#include <radiopanes/core/columnreducer.h>
+#include <radiopanes/panes/spectrumpane.h>
+#include <radiopanes/panes/waterfallpane.h>
 
 #include <QApplication>
 #include <QImage>

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ratio.h"
 
-#include "radiopanes/core/columnreducer.h"
+#include <radiopanes/core/columnreducer.h>
+
 #include <model/recordingloader.h>
 #include <model/recordingparser.h>
 #include <model/samplegenerator.h>

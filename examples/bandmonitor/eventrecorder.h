@@ -2,8 +2,10 @@
 #pragma once
 
 #include "docks/mode.h"
+#include "model/panenames.h"
 #include "model/signaltracker.h"
-#include "radiopanes/frequencytext.h"
+
+#include <radiopanes/panes/frequencytext.h>
 
 #include <QObject>
 

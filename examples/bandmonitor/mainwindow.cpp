@@ -6,10 +6,12 @@
 #include "counts.h"
 #include "eventrecorder.h"
 #include "infodialog.h"
+#include "model/panenames.h"
 #include "panels/panel.h"
-#include "radiopanes/spectrumpane.h"
 #include "recentrecordings.h"
 #include "settings/settings.h"
+
+#include <radiopanes/panes/spectrumpane.h>
 
 #include <guibase/services/guibase.h>
 #include <jtbase/coordformat.h>

@@ -5,10 +5,12 @@
 #include "colorsdialog.h"
 #include "dialogcloser.h"
 #include "mainwindow.h"
+#include "model/panenames.h"
 #include "panels/levelspanel.h"
 #include "panels/signalspanel.h"
-#include "radiopanes/panecolors.h"
 #include "receiver/receiverpanel.h"
+
+#include <radiopanes/colors/panecolors.h>
 
 #include <guibase/colors/colorset.h>
 #include <guibase/docks/areas/tabifysupport.h>

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/panenames.h"
 #include "model/signalalarm.h"
-#include "radiopanes/frequencytext.h"
+
+#include <radiopanes/panes/frequencytext.h>
 
 #include <QObject>
 

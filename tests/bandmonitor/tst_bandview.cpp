@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "centre/bandview.h"
-#include "radiopanes/panecolors.h"
-#include "radiopanes/spectrumpane.h"
-#include "radiopanes/waterfallpane.h"
 #include "support/guardedtest.h"
+
+#include <radiopanes/colors/panecolors.h>
+#include <radiopanes/panes/spectrumpane.h>
+#include <radiopanes/panes/waterfallpane.h>
 
 #include <guibase/colors/colorset.h>
 #include <guibase/services/guibase.h>

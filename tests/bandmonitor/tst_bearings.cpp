@@ -4,7 +4,8 @@
 
 #include "panels/bearingspanel.h"
 #include "panels/headingspinbox.h"
-#include "radiopanes/bearingrose.h"
+
+#include <radiopanes/bearings/bearingrose.h>
 #include <model/bearings.h>
 
 #include <QAction>

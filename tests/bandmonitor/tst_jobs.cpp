@@ -7,7 +7,7 @@
 #include "recordings.h"
 #include "support/testrows.h"
 
-#include "radiopanes/core/levelline.h"
+#include <radiopanes/core/levelline.h>
 
 #include <guibase/lists/sortrowtable.h>
 

@@ -4,11 +4,13 @@
 #include "model/samplegenerator.h"
 #include "panels/jobbar.h"
 #include "panels/jobspanel.h"
-#include "radiopanes/contrast.h"
-#include "radiopanes/panecolors.h"
 #include "recordings.h"
 #include "support/guardedtest.h"
 
+#include <radiopanes/colors/contrast.h>
+#include <radiopanes/colors/panecolors.h>
+
+#include <guibase/colors/colorcontrast.h>
 #include <guibase/colors/colorset.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
@@ -109,12 +111,12 @@ private Q_SLOTS:
         for (const char* color : {"#000", "#800", "#888", "#f00", "#ff0", "#2323dc", "#999999"}) {
             ColorSet::Instance().SetColor(IColorBase::PlannerFailed, QColor(QLatin1String(color)),
                                           true);
-            QVERIFY(
-                contrastRatio(colorOf(m_fail), row(m_fail)->foreground(JobsPanel::State).color()) >=
-                textContrast);
+            QVERIFY(ColorContrast::ratio(colorOf(m_fail),
+                                         row(m_fail)->foreground(JobsPanel::State).color()) >=
+                    textContrast);
         }
         ColorSet::Instance().Restore();
-        QVERIFY(qAbs(contrastRatio(QColor(0x76, 0x76, 0x76), Qt::white) - 4.54) < 0.005);
+        QVERIFY(qAbs(ColorContrast::ratio(QColor(0x76, 0x76, 0x76), Qt::white) - 4.54) < 0.005);
     }
 
     void barsStayInTheirCells()

@@ -6,8 +6,9 @@
 #include "panels/levelspanel.h"
 #include "panels/referencelevels.h"
 #include "panels/signalspanel.h"
-#include "radiopanes/frequencytext.h"
-#include "radiopanes/panecolors.h"
+
+#include <radiopanes/colors/panecolors.h>
+#include <radiopanes/panes/frequencytext.h>
 #include <model/samplegenerator.h>
 
 #include <guibase/lists/checksortlistviewitem.h>

@@ -4,9 +4,10 @@
 #include "mainwindowtest.h"
 #include "model/jobs.h"
 #include "panels/signalspanel.h"
-#include "radiopanes/spectrumpane.h"
 #include "support/files.h"
 #include "support/modaldialogcloser.h"
+
+#include <radiopanes/panes/spectrumpane.h>
 
 #include <QDesktopServices>
 #include <QDialogButtonBox>

@@ -2,10 +2,11 @@
 #include "centre/bandview.h"
 #include "mainwindowtest.h"
 #include "panels/signalspanel.h"
-#include "radiopanes/spectrumpane.h"
 #include "receiver/receiverpanel.h"
 #include "settings/settings.h"
 #include "support/testrows.h"
+
+#include <radiopanes/panes/spectrumpane.h>
 
 #include <guibase/inputs/typedinput.h>
 #include <guibase/lists/sortlistview.h>

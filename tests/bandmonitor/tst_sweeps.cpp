@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "recordings.h"
 
-#include "radiopanes/core/columnreducer.h"
-#include "radiopanes/core/holdmaximum.h"
 #include <model/samplegenerator.h>
 
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
 #include "support/testrows.h"
+
+#include <radiopanes/core/columnreducer.h>
+#include <radiopanes/core/holdmaximum.h>
 
 #include <cmath>
 

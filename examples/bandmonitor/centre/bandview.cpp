@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "centre/bandview.h"
 
-#include "radiopanes/axes.h"
-#include "radiopanes/spectrumpane.h"
-#include "radiopanes/waterfallpane.h"
+#include <radiopanes/panes/axes.h>
+#include <radiopanes/panes/spectrumpane.h>
+#include <radiopanes/panes/waterfallpane.h>
 
 #include <guibase/services/guibase.h>
 #include <guibase/splitters/splitter.h>

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/panenames.h"
 #include "model/recording.h"
 #include "model/traceprocessor.h"
-#include "radiopanes/core/holdmaximum.h"
-#include "radiopanes/frequencytext.h"
-#include "radiopanes/visibleband.h"
+
+#include <radiopanes/core/holdmaximum.h>
+#include <radiopanes/panes/frequencytext.h>
+#include <radiopanes/panes/visibleband.h>
 
 #include <QWidget>
 
@@ -13,13 +15,15 @@
 
 class Splitter;
 
-namespace bandmonitor {
-
+namespace RadioPanes {
 class FrequencyAxis;
 class LevelPyramid;
 class SideAxis;
 class SpectrumPane;
 class WaterfallPane;
+} // namespace RadioPanes
+
+namespace bandmonitor {
 
 /// The spectrum with its axes and, below it, the waterfall of the same frequencies.
 class BandView : public QWidget

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "panenames.h"
 #include "signaltracker.h"
 
-#include "radiopanes/core/bearing.h"
+#include <radiopanes/bearings/bearing.h>
 
 #include <QObject>
 

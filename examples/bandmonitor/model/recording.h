@@ -2,9 +2,10 @@
 #pragma once
 
 #include "chunkedarray.h"
+#include "panenames.h"
 
-#include "radiopanes/core/levelrange.h"
-#include "radiopanes/core/sweep.h"
+#include <radiopanes/core/levelrange.h>
+#include <radiopanes/core/sweep.h>
 
 #include <QtGlobal>
 

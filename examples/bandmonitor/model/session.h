@@ -4,11 +4,12 @@
 #include "bearings.h"
 #include "eventlog.h"
 #include "jobs.h"
+#include "panenames.h"
 #include "recordingloader.h"
 #include "replay.h"
 #include "signalwatch.h"
 
-#include "radiopanes/core/levelline.h"
+#include <radiopanes/core/levelline.h>
 
 #include <QObject>
 #include <QString>

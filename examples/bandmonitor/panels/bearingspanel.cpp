@@ -4,7 +4,8 @@
 #include "model/bearings.h"
 #include "panels/headingspinbox.h"
 #include "panels/panelactions.h"
-#include "radiopanes/bearingrose.h"
+
+#include <radiopanes/bearings/bearingrose.h>
 
 #include <QAction>
 #include <QHBoxLayout>

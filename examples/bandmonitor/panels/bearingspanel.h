@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/panenames.h"
 #include "panels/panel.h"
 
 class QLabel;
 
+namespace RadioPanes {
+class BearingRose;
+}
+
 namespace bandmonitor {
 
-class BearingRose;
 class Bearings;
 class HeadingSpinBox;
 

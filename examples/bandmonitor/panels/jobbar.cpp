@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "panels/jobbar.h"
 
-#include "radiopanes/contrast.h"
+#include "model/panenames.h"
+
+#include <radiopanes/colors/contrast.h>
 
 #include <QPainter>
 

@@ -2,12 +2,14 @@
 #include "panels/jobspanel.h"
 
 #include "model/jobs.h"
+#include "model/panenames.h"
 #include "model/replay.h"
 #include "panels/emptyhint.h"
 #include "panels/jobbar.h"
 #include "panels/panelactions.h"
-#include "radiopanes/contrast.h"
-#include "radiopanes/panecolors.h"
+
+#include <radiopanes/colors/contrast.h>
+#include <radiopanes/colors/panecolors.h>
 
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/panenames.h"
 #include "panels/panel.h"
-#include "radiopanes/core/levelline.h"
-#include "radiopanes/frequencytext.h"
+
+#include <radiopanes/core/levelline.h>
+#include <radiopanes/panes/frequencytext.h>
 
 #include <QTimer>
 

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "panels/readableoutline.h"
 
-#include "radiopanes/contrast.h"
+#include "model/panenames.h"
+
+#include <radiopanes/colors/contrast.h>
+
+#include <guibase/colors/colorcontrast.h>
 
 #include <QEvent>
 #include <QWidget>
@@ -51,7 +55,7 @@ void ReadableOutline::adapt()
     QColor window = given.color(QPalette::Window);
     // From the window's colour towards that of texts, as far as it takes.
     constexpr float step = 0.1F;
-    for (float share = step; share <= 1 && contrastRatio(outlineOf(window), ground) < lineContrast;
+    for (float share = step; share <= 1 && ColorContrast::ratio(outlineOf(window), ground) < lineContrast;
          share += step)
         window = mixed(given.color(QPalette::Window), given.color(QPalette::WindowText), share);
     if (m_control->palette().color(QPalette::Window) == window)

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "panels/signalspanel.h"
 
+#include "model/panenames.h"
 #include "panels/readableoutline.h"
-#include "radiopanes/panecolors.h"
+
+#include <radiopanes/colors/panecolors.h>
 
 #include <guibase/lists/checksortlistviewitem.h>
 #include <guibase/lists/sortlistview.h>

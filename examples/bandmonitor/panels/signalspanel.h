@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/panenames.h"
 #include "model/signalwatch.h"
 #include "panels/panel.h"
-#include "radiopanes/frequencytext.h"
+
+#include <radiopanes/panes/frequencytext.h>
 
 #include <QElapsedTimer>
 #include <QIcon>

@@ -2,10 +2,12 @@
 #include "receivercontrol.h"
 
 #include "centre/bandview.h"
+#include "model/panenames.h"
 #include "model/session.h"
-#include "radiopanes/spectrumpane.h"
 #include "receiver/receiverpanel.h"
 #include "settings/settings.h"
+
+#include <radiopanes/panes/spectrumpane.h>
 
 #include <algorithm>
 #include <cmath>

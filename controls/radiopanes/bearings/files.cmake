@@ -1,0 +1,5 @@
+# SPDX-License-Identifier: MIT
+guibase_room(bearings
+    PUBLIC
+        bearing.cpp bearing.h
+        bearingrose.cpp bearingrose.h)

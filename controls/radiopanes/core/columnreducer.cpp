@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: MIT
+#include "columnreducer.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace RadioPanes {
+
+namespace {
+
+// Powers of two, so that a block is found by a shift instead of a division.
+constexpr unsigned baseShift = 3;
+constexpr unsigned factorShift = 2;
+constexpr std::size_t baseBlock = std::size_t{1} << baseShift;
+constexpr std::size_t blockFactor = std::size_t{1} << factorShift;
+
+constexpr float noMaximum = -std::numeric_limits<float>::infinity();
+
+float maximumOf(std::span<const float> levels)
+{
+    float maximum = noMaximum;
+    for (const float level : levels)
+        maximum = level > maximum ? level : maximum;
+    return maximum;
+}
+
+LevelRange rangeOfBlocks(std::span<const float> minima, std::span<const float> maxima)
+{
+    LevelRange range;
+    for (std::size_t i = 0; i < minima.size(); ++i)
+        range.add(LevelRange{minima[i], maxima[i]});
+    return range;
+}
+
+// A column takes in levels as a range, or as their maximum alone.
+
+void addLevels(LevelRange& column, std::span<const float> levels)
+{
+    column.add(rangeOf(levels));
+}
+
+void addLevels(float& column, std::span<const float> levels)
+{
+    column = std::max(column, maximumOf(levels));
+}
+
+void addBlocks(LevelRange& column, std::span<const float> minima, std::span<const float> maxima)
+{
+    column.add(rangeOfBlocks(minima, maxima));
+}
+
+void addBlocks(float& column, std::span<const float>, std::span<const float> maxima)
+{
+    column = std::max(column, maximumOf(maxima));
+}
+
+/// The bins of a segment that each column of a view touches.
+class ColumnBins
+{
+public:
+    ColumnBins(const Segment& segment, const ColumnView& view, std::size_t columns)
+        : m_binCount(static_cast<double>(segment.levels.size()))
+        , m_columnHz((view.highHz - view.lowHz) / static_cast<double>(columns))
+        , m_binsPerColumn(m_columnHz / segment.stepHz)
+        , m_firstBin((view.lowHz - segment.startHz) / segment.stepHz)
+    {
+        const double count = static_cast<double>(columns);
+        const double first = std::floor((segment.startHz - view.lowHz) / m_columnHz);
+        const double end = std::ceil((segment.endHz() - view.lowHz) / m_columnHz);
+        m_firstColumn = static_cast<std::size_t>(std::clamp(first, 0.0, count));
+        m_endColumn = static_cast<std::size_t>(std::clamp(end, 0.0, count));
+    }
+
+    double binsPerColumn() const { return m_binsPerColumn; }
+
+    /// Calls `use(column, firstBin, endBin)` for each column with at least one bin.
+    template <typename Use>
+    void forEach(Use use) const
+    {
+        // A bin that reaches into a column by less than this share of a bin does so by rounding.
+        constexpr double rounding = 1e-6;
+        for (std::size_t column = m_firstColumn; column < m_endColumn; ++column) {
+            const double low = m_firstBin + static_cast<double>(column) * m_binsPerColumn;
+            const double first = std::floor(low + rounding);
+            const double end = std::max(std::ceil(low + m_binsPerColumn - rounding), first + 1);
+            const auto firstBin = static_cast<std::size_t>(std::clamp(first, 0.0, m_binCount));
+            const auto endBin = static_cast<std::size_t>(std::clamp(end, 0.0, m_binCount));
+            if (firstBin < endBin)
+                use(column, firstBin, endBin);
+        }
+    }
+
+private:
+    double m_binCount;
+    double m_columnHz;
+    double m_binsPerColumn;
+    double m_firstBin;
+    std::size_t m_firstColumn = 0;
+    std::size_t m_endColumn = 0;
+};
+
+/// False when nothing can be seen in the view.
+bool isVisible(const ColumnView& view, std::size_t columns)
+{
+    const double width = view.highHz - view.lowHz;
+    return columns > 0 && std::isfinite(width) && width / static_cast<double>(columns) > 0;
+}
+
+bool isInView(const Segment& segment, const ColumnView& view)
+{
+    return segment.startHz < view.highHz && segment.endHz() > view.lowHz;
+}
+
+template <typename Column>
+void reduceExactly(const Segment& segment, const ColumnBins& bins, std::span<Column> columns)
+{
+    bins.forEach([&](std::size_t column, std::size_t first, std::size_t end) {
+        addLevels(columns[column], segment.levels.subspan(first, end - first));
+    });
+}
+
+template <typename Column>
+void reduceAll(const Sweep& sweep, const ColumnView& view, std::span<Column> columns)
+{
+    if (!isVisible(view, columns.size()))
+        return;
+    for (const Segment& segment : sweep.segments) {
+        if (isInView(segment, view))
+            reduceExactly(segment, ColumnBins(segment, view, columns.size()), columns);
+    }
+}
+
+} // namespace
+
+void reduceToColumns(const Sweep& sweep, const ColumnView& view, std::span<LevelRange> columns)
+{
+    std::fill(columns.begin(), columns.end(), LevelRange());
+    reduceAll(sweep, view, columns);
+}
+
+void reduceToMaxima(const Sweep& sweep, const ColumnView& view, std::span<float> columns)
+{
+    std::fill(columns.begin(), columns.end(), noMaximum);
+    reduceAll(sweep, view, columns);
+}
+
+LevelPyramid::LevelPyramid() = default;
+
+LevelPyramid::LevelPyramid(const Sweep& sweep)
+{
+    m_hops.reserve(sweep.segments.size());
+    for (const Segment& segment : sweep.segments) {
+        Hop& hop = m_hops.emplace_back();
+        hop.segment = segment;
+        Blocks blocks;
+        blocks.reserve(segment.levels.size() / baseBlock + 1);
+        for (std::size_t at = 0; at < segment.levels.size(); at += baseBlock) {
+            const std::size_t size = std::min(baseBlock, segment.levels.size() - at);
+            LevelRange range;
+            for (const float level : segment.levels.subspan(at, size))
+                range.add(level);
+            blocks.add(range);
+        }
+        m_levels.add(rangeOfBlocks(blocks.minima, blocks.maxima));
+        while (blocks.maxima.size() > blockFactor) {
+            Blocks coarser = blocks.coarser();
+            hop.blocks.push_back(std::move(blocks));
+            blocks = std::move(coarser);
+        }
+        hop.blocks.push_back(std::move(blocks));
+    }
+}
+
+void LevelPyramid::Blocks::reserve(std::size_t count)
+{
+    minima.reserve(count);
+    maxima.reserve(count);
+}
+
+void LevelPyramid::Blocks::add(const LevelRange& range)
+{
+    minima.push_back(range.minimum);
+    maxima.push_back(range.maximum);
+}
+
+LevelPyramid::Blocks LevelPyramid::Blocks::coarser() const
+{
+    Blocks result;
+    result.reserve(maxima.size() / blockFactor + 1);
+    for (std::size_t at = 0; at < maxima.size(); at += blockFactor) {
+        const std::size_t size = std::min(blockFactor, maxima.size() - at);
+        result.add(rangeOfBlocks(std::span(minima).subspan(at, size),
+                                 std::span(maxima).subspan(at, size)));
+    }
+    return result;
+}
+
+template <typename Column>
+void LevelPyramid::reduceTo(const ColumnView& view, std::span<Column> columns) const
+{
+    if (!isVisible(view, columns.size()))
+        return;
+    for (const Hop& hop : m_hops) {
+        if (!isInView(hop.segment, view))
+            continue;
+        const ColumnBins bins(hop.segment, view, columns.size());
+        const double largestBlock = bins.binsPerColumn() / 4;
+        if (largestBlock < static_cast<double>(baseBlock)) {
+            reduceExactly(hop.segment, bins, columns);
+            continue;
+        }
+        std::size_t level = 0;
+        unsigned shift = baseShift;
+        while (level + 1 < hop.blocks.size() &&
+               static_cast<double>(std::size_t{1} << (shift + factorShift)) <= largestBlock) {
+            ++level;
+            shift += factorShift;
+        }
+        const std::span<const float> minima(hop.blocks[level].minima);
+        const std::span<const float> maxima(hop.blocks[level].maxima);
+        bins.forEach([&](std::size_t column, std::size_t first, std::size_t end) {
+            const std::size_t begin = first >> shift;
+            const std::size_t count = ((end - 1) >> shift) - begin + 1;
+            addBlocks(columns[column], minima.subspan(begin, count), maxima.subspan(begin, count));
+        });
+    }
+}
+
+void LevelPyramid::reduce(const ColumnView& view, std::span<LevelRange> columns) const
+{
+    std::fill(columns.begin(), columns.end(), LevelRange());
+    reduceTo(view, columns);
+}
+
+void LevelPyramid::reduceMaxima(const ColumnView& view, std::span<float> columns) const
+{
+    std::fill(columns.begin(), columns.end(), noMaximum);
+    reduceTo(view, columns);
+}
+
+} // namespace RadioPanes

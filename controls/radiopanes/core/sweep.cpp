@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "sweep.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace RadioPanes {
+
+std::optional<float> Sweep::levelAt(double hz) const
+{
+    if (!(hz >= lowHz && hz < highHz))
+        return std::nullopt;
+    auto segment =
+        std::upper_bound(segments.begin(), segments.end(), hz,
+                         [](double value, const Segment& s) { return value < s.startHz; });
+    while (segment != segments.begin()) {
+        --segment;
+        const double bin = std::floor((hz - segment->startHz) / segment->stepHz);
+        if (bin < static_cast<double>(segment->levels.size())) {
+            const float level = segment->levels[static_cast<std::size_t>(bin)];
+            return std::isnan(level) ? std::nullopt : std::optional(level);
+        }
+    }
+    return std::nullopt;
+}
+
+Sweep makeSweep(quint64 timeUs, std::span<const Segment> segments)
+{
+    Sweep sweep;
+    sweep.timeUs = timeUs;
+    sweep.segments = segments;
+    if (segments.empty())
+        return sweep;
+    sweep.lowHz = segments.front().startHz;
+    sweep.highHz = sweep.lowHz;
+    for (const Segment& segment : segments) {
+        sweep.highHz = std::max(sweep.highHz, segment.endHz());
+        sweep.binCount += segment.levels.size();
+    }
+    return sweep;
+}
+
+SweepHistory::~SweepHistory() = default;
+
+} // namespace RadioPanes

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <radiopanes/radiopanes_export.h>
+
+#include <QtGlobal>
+
+#include <limits>
+#include <optional>
+#include <span>
+
+namespace RadioPanes {
+
+/// Marks a bin without a level: the receiver wrote `nan`, `inf`, or nothing that a level can be.
+inline constexpr float noLevel = std::numeric_limits<float>::quiet_NaN();
+
+/// One hop of a receiver: levels of adjoining bins of equal width. Bin `i` covers the frequencies
+/// from `startHz + i * stepHz` up to, but without, `startHz + (i + 1) * stepHz`.
+struct Segment
+{
+    double startHz = 0;
+    double stepHz = 1;             ///< width of a bin, greater than 0
+    quint64 samples = 0;           ///< how many samples the receiver averaged, as it told
+    std::span<const float> levels; ///< in dB; `noLevel` where there is none
+
+    double endHz() const { return startHz + stepHz * static_cast<double>(levels.size()); }
+};
+
+/// A view of one sweep: all hops with one time stamp, in order of frequency. It owns nothing.
+/// Between hops there may be gaps of any width, and hops may overlap: never make an array with
+/// one entry per step over `lowHz` to `highHz`.
+struct RADIOPANES_EXPORT Sweep
+{
+    quint64 timeUs = 0;                ///< microseconds since 1970-01-01T00:00 UTC
+    std::span<const Segment> segments; ///< by `startHz`, ascending
+    double lowHz = 0;                  ///< start of the first segment
+    double highHz = 0;                 ///< highest end of a segment
+    std::size_t binCount = 0;          ///< levels in all segments
+
+    bool isEmpty() const { return segments.empty(); }
+    /// The level of the bin that covers `hz`, in dB; nothing in a gap, outside, or where the bin
+    /// has no level. Where hops overlap, the one with the highest start counts.
+    std::optional<float> levelAt(double hz) const;
+};
+
+/// Makes a sweep of `segments`, which must be sorted by `startHz`, and works out the rest.
+RADIOPANES_EXPORT Sweep makeSweep(quint64 timeUs, std::span<const Segment> segments);
+
+/// Sweeps by number, for panes that show many of them. What sweep() returns must stay valid as long
+/// as the history lives.
+class RADIOPANES_EXPORT SweepHistory
+{
+public:
+    virtual ~SweepHistory();
+
+    virtual qsizetype count() const = 0;
+    /// The sweep at `index`, from 0; an empty sweep for an index outside.
+    virtual Sweep sweep(qsizetype index) const = 0;
+    /// The largest number of levels in one sweep.
+    virtual std::size_t largestBinCount() const = 0;
+};
+
+} // namespace RadioPanes

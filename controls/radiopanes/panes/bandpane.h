@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <radiopanes/radiopanes_export.h>
+
+#include <QPoint>
+#include <QWidget>
+
+class QPainter;
+
+namespace RadioPanes {
+
+class VisibleBand;
+
+/// A pane with the shared frequencies from its left to its right edge. It turns the mouse and the
+/// keys into zoom, cursor and pins of the view, and draws the cursor and the pins on top.
+///
+/// Mouse: moving sets the cursor, a click sets or removes a pin, dragging moves the view, dragging
+/// with the right button zooms to the part dragged over, the middle button shows the whole band,
+/// the wheel zooms. Keys: left and right move the cursor (with Control ten times as far, with Shift
+/// the view). All other keys are left to the window.
+class RADIOPANES_EXPORT BandPane : public QWidget
+{
+    Q_OBJECT
+public:
+    /// The view is not owned and must outlive the pane.
+    BandPane(VisibleBand* view, QWidget* parent);
+    ~BandPane() override;
+
+    VisibleBand& visibleBand() const { return *m_visibleBand; }
+    /// Pixels between a click and a pin that still hit it.
+    static constexpr int pinReach = 5;
+
+    double frequencyAt(double x) const;
+    double positionOf(double hertz) const;
+
+protected:
+    /// Cursor, pins, zoom rectangle and focus frame; to be called at the end of paintEvent().
+    void paintOverlay(QPainter& painter);
+    /// Repaints the columns around the frequency.
+    virtual void updateAround(double hertz);
+
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    enum class Drag { None, Undecided, Pan, Zoom };
+
+    void followCursor();
+    void togglePin(double x);
+
+    VisibleBand* m_visibleBand;
+    double m_paintedCursor = 0;
+    Drag m_drag = Drag::None;
+    QPoint m_pressedAt;
+    QPoint m_draggedTo;
+};
+
+} // namespace RadioPanes
