@@ -6,27 +6,9 @@
 #include <QLocale>
 #include <QStringView>
 
-/// Reading numbers from text, exactly or not at all.
-///
-/// Rules shared by all readers here:
-/// - blanks (any Unicode white space) at both ends are ignored;
-/// - characters that mean the same in numbers are read alike: digits of any script, the typographic
-///   minus, full-width signs (NumberCharacters has the table);
-/// - one sign may stand in front; the direction marks that some locales write before it are
-/// skipped;
-/// - the whole remaining text must be the number; an empty text is not a number;
-/// - base prefixes such as "0x" are not accepted;
-/// - group separators are accepted only where the locale's number options allow them (see
-///   QLocale::RejectGroupSeparator), in base 10, and only between groups of the locale's sizes;
-///   whether the locale would group so short a number does not matter. A typed blank or apostrophe
-///   will do for one of another width or form;
-/// - a real number has the locale's decimal separator and exponent sign, or 'e'; a point will do
-/// for
-///   the Arabic separator. One side of the separator may be empty; infinity and NaN are not
-///   accepted;
-/// - a value outside the range of the type is refused, never wrapped, cut or turned to infinity; so
-///   is a negative text for an unsigned type, except "-0", and a number other than zero that is too
-///   small for a double.
+/// Reading numbers from text, exactly or not at all: a value outside the range of the type is
+/// refused, never wrapped, cut or turned to infinity. Blanks at both ends do not matter; digits of
+/// any script are read. Which texts are numbers: docs/decisions/0005-texts-that-are-numbers.md.
 namespace NumberHelpers {
 
 /// Reads a `T` (signed char, unsigned char, short, unsigned short, int, unsigned int, qint64,

@@ -17,18 +17,9 @@ enum CfgView : int {
 /// The configuration centre: one configuration per application and user, one per application set by
 /// the administrator, and the components that are saved with them.
 ///
-/// Each configuration is a readable JSON file named "<application name>.json": the application's in
-/// the user's configuration folder (or the folder given to SetConfigDir), the administrator's in
-/// the system's (or SetAdminConfigDir). Files are read on first use. A file that cannot be read as
-/// configuration is renamed to "<name>.damaged-<time>" and reported, and the application starts
-/// with defaults. Several processes may use one configuration: storing locks it, reads it again,
-/// applies what this process changed, and replaces the file in one step; so the last writer of a
-/// value wins and no other value is lost.
-///
-/// Changes are stored by Store(), by TrovApplication at termination, and by themselves a short
-/// while after the last change as long as an event loop runs (SetAutoStoreDelay).
-///
-/// GUI thread only. Usable without an application object, also after it is gone.
+/// Each is a JSON file named "<application name>.json", read on first use and stored by Store(), by
+/// TrovApplication at the end, and a while after the last change (SetAutoStoreDelay). Several
+/// processes may use one file. GUI thread only; usable without an application object.
 class TROVAPPSTARTUP_EXPORT CfgCenter
 {
 public:
@@ -55,8 +46,8 @@ public:
     static bool Store();
     /// Delay in milliseconds of the store after a change; negative switches it off. Default 2000.
     static void SetAutoStoreDelay(int milliseconds);
-    /// Stores what waits for that delay as soon as the event loop runs: for changes that have waited
-    /// elsewhere already.
+    /// Stores what waits for that delay as soon as the event loop runs: for changes that have
+    /// waited elsewhere already.
     static void StoreSoon();
 
     /// Components are not owned; registering twice counts once; unregistering an unknown one does

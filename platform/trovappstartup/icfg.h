@@ -9,13 +9,10 @@
 #include <memory>
 
 /// A place in a configuration: named values, and sub-configurations that are such places
-/// themselves.
-///
-/// A read never fails: a value that is missing or of another kind gives the default (numbers and
-/// booleans are also read from their texts). What is written is seen by every reader of the process
-/// at once and reaches the disk with the configuration's next store. An ICfg does not own what it
-/// shows; releasing it loses nothing. Keys and names are any non-empty texts; operations with an
-/// empty one do nothing.
+/// themselves. A read never fails: a value that is missing or of another kind gives the default
+/// (numbers and booleans are also read from their texts). What is written is seen at once in the
+/// process and reaches the disk with the next store. Releasing an ICfg loses nothing. Operations
+/// with an empty key or name do nothing.
 class TROVAPPSTARTUP_EXPORT ICfg
 {
 public:

@@ -12,13 +12,8 @@
 class TrovApplicationPrivate;
 
 /// The start-up object of an application: shows the splash screen and ends the application in good
-/// order. Made in main() after the QApplication, as a local object; one per process.
-///
-/// Termination runs once, whichever comes first: the event loop ends
-/// (QCoreApplication::aboutToQuit), the desktop session ends and the application quits, Terminate()
-/// is called, or this object is destroyed. It calls CfgCenter::SaveAll(), then aboutToTerminate()
-/// of every termination target, then CfgCenter::Store(). SIGTERM, SIGINT and SIGHUP call
-/// RequestEnd().
+/// order, however the end comes (event loop, desktop session, Terminate(), destructor, SIGTERM,
+/// SIGINT or SIGHUP). Made in main() after the QApplication, as a local object; one per process.
 class TROVAPPSTARTUP_EXPORT TrovApplication : public QObject
 {
     Q_OBJECT
@@ -44,7 +39,8 @@ public:
     /// When the splash screen was last shown, in seconds since 1970-01-01 00:00 UTC; 0 if never.
     qint64 SplashShowTime() const;
 
-    /// Runs the termination unless it has run already.
+    /// Runs the termination unless it has run already: CfgCenter::SaveAll(), then
+    /// aboutToTerminate() of every termination target, then CfgCenter::Store().
     void Terminate();
     bool IsTerminated() const;
 

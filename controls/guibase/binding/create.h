@@ -66,19 +66,17 @@ using ShownToItem = std::function<SelectionItem(const QVariant& choice, WidgetCl
 /// keeps its own. A value that the widget cannot show is marked there and stays as it is. Real
 /// numbers are rounded for integer widgets, and back. Widgets of derived classes are bound by
 /// naming the classes: `Create<ValueNumeric<int>, QSpinBox>(value, box)`. Null when somebody who is
-/// told of the first value deletes the binding.
+/// told of the first value deletes the binding. Values and their widgets:
 ///
-/// | value                                | widgets                                              |
-/// |--------------------------------------|------------------------------------------------------|
-/// | `ValueNumeric<int>`                  | QSpinBox, QDoubleSpinBox, QSlider, QDial, QScrollBar,
-/// QProgressBar, QComboBox (its index), QLabel, typed boxes of 8 to 32 bits | |
-/// `ValueNumeric<qint64>`, `<quint64>`  | typed boxes of that type, QLabel; qint64 also
-/// FrequencySpinBox and boxes of 32 bits | | `ValueNumeric<double>`               | QDoubleSpinBox,
-/// QProgressBar (in parts of the value's range), QSlider and QDial (likewise), QLabel,
-/// DoubleSpinBox, DoubleComboBox, FrequencySpinBox | | `Value<bool>`                        |
-/// QAbstractButton; see also CreateForAction()          | | `Value<QString>`                     |
-/// QLineEdit, QPlainTextEdit, QLabel                    | | `Value<QDateTime>`                   |
-/// QDateTimeEdit, QDateTimeSpinBox                      |
+/// - `ValueNumeric<int>`: QSpinBox, QDoubleSpinBox, QSlider, QDial, QScrollBar, QProgressBar,
+///   QComboBox (its index), QLabel, typed boxes of 8 to 32 bits
+/// - `ValueNumeric<qint64>` and `<quint64>`: typed boxes of that type, QLabel; for qint64 also
+///   FrequencySpinBox and boxes of 32 bits
+/// - `ValueNumeric<double>`: QDoubleSpinBox, QProgressBar, QSlider and QDial (in parts of the
+///   range of the value), QLabel, DoubleSpinBox, DoubleComboBox, FrequencySpinBox
+/// - `Value<bool>`: QAbstractButton; see also CreateForAction()
+/// - `Value<QString>`: QLineEdit, QPlainTextEdit, QLabel
+/// - `Value<QDateTime>`: QDateTimeEdit, QDateTimeSpinBox
 template <typename ValueKind, typename WidgetClass>
 GUIBASE_EXPORT ValueWidgetBindingBase<ValueKind, WidgetClass>*
 Create(ValueKind& value, WidgetClass& widget, QObject* parent = nullptr);

@@ -42,13 +42,9 @@ private:
 };
 
 /// Keeps a value and a widget in step, until the widget or the parent is destroyed, or the value is
-/// gone; the widget is then disabled, and the binding does nothing any more.
-///
-/// A change of the value is shown at once and never written back. What the user enters is written
-/// at once or after a delay: at its end, or earlier, when the user leaves the widget, the widget is
-/// hidden or destroyed, values are stored, or the application ends. Where an undo base path applies
-/// to the widget (see GuiUndoRecordingHelper), the write is an undo step; what is entered by one
-/// drag, or with no more than the burst time in between, is one step together.
+/// gone; the widget is then disabled, and the binding does nothing any more. A change of the value
+/// is shown at once and never written back. An input is written at once or after a delay, as an
+/// undo step where an undo base path applies to the widget (see GuiUndoRecordingHelper).
 class GUIBASE_EXPORT ValueWidgetBinding : public QObject, public IObserver
 {
     Q_OBJECT
@@ -59,10 +55,13 @@ public:
     /// Writes nothing.
     ~ValueWidgetBinding() override;
 
-    /// In milliseconds; negative, as at first, writes at once.
+    /// In milliseconds; negative, as at first, writes at once. An input is written earlier when the
+    /// user leaves the widget, the widget is hidden or destroyed, values are stored, or the
+    /// application ends.
     int delay() const;
     void setDelay(int milliseconds);
-    /// In milliseconds, 1000 at first; 0 makes every input but those of a drag a step of its own.
+    /// Inputs with no more than this time in between, and those of one drag, are one undo step. In
+    /// milliseconds, 1000 at first; 0 makes every input but those of a drag a step of its own.
     int burstTime() const;
     void setBurstTime(int milliseconds);
     /// The text of the undo steps; empty, as at first, for the helper's own.

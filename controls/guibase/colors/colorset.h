@@ -31,9 +31,9 @@ public:
     /// The current file name while the factory assignment is in use.
     static constexpr const char* factoryDefaultName = "*** Factory Default ***";
 
-    /// The names of the other sets that come with the library: for dark desktops, and for people who
-    /// cannot tell red from green. SetApplication() chooses the dark one when nothing is stored yet
-    /// and the desktop is dark.
+    /// The names of the other sets that come with the library: for dark desktops, and for people
+    /// who cannot tell red from green. SetApplication() chooses the dark one when nothing is stored
+    /// yet and the desktop is dark.
     static constexpr const char* darkDesktopName = "*** Dark Desktop ***";
     static constexpr const char* colorBlindName = "*** Color Blind ***";
 
@@ -82,12 +82,13 @@ public:
     /// Writes the assignment to the file `name`, which becomes the current one when it has more
     /// than one character; otherwise to the current file. Asks for a file when that cannot be
     /// opened; "**" therefore always asks. A name that the user types is put in lower case, but for
-    /// its folders, and gets the extension ".cst"; an existing file of that name is only replaced
-    /// when the user agrees. When the user gives up nothing is written, the
-    /// set stays dirty and a given name stays the current one; Backup() and Restore() help. A file
-    /// that cannot be written is reported, and keeps what it held unless its folder admits no
-    /// second file to write to first. The file holds the 600 bytes of the assignment and nothing
-    /// else afterwards, even if it was longer before.
+    /// its folders, and gets the extension ".cst"; the user is asked before an existing file of
+    /// that name is replaced.
+    ///
+    /// When the user gives up, nothing is written, the set stays dirty and a given name stays the
+    /// current one; Backup() and Restore() help. A file that cannot be written is reported, and
+    /// keeps what it held unless its folder admits no second file to write to first. Afterwards the
+    /// file holds the 600 bytes of the assignment and nothing else.
     void Save(QWidget* parent, const QString& name);
 
     /// Reads the file `name` and announces the change of colours. Nothing happens when it is the
@@ -111,7 +112,8 @@ public:
     QComboBox* GetColorSetsComboBox(QWidget* parent);
     /// Fills the box with the factory default, the ".cst" files of the directory of the last file
     /// loaded or saved (at first the current one), and the other sets that come with the library,
-    /// without a signal of the box. The current set is selected and marked with " [changed]" while it is dirty.
+    /// without a signal of the box. The current set is selected and marked with " [changed]" while
+    /// it is dirty.
     void UpdateComboBox(QComboBox* box);
 
     // --- Editor ----------------------------------------------------------------------------------

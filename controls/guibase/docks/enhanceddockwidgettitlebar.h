@@ -9,18 +9,10 @@
 
 class QDockWidget;
 
-/// A title bar for dock widgets that also holds actions as buttons.
-///
-/// It shows icon, title, the actions, and a float and a close button as far as the dock's features
-/// allow, and follows the dock in all of them. The mouse on its free parts works as on the
-/// toolkit's own bar: dragging moves the dock, a double click floats or docks it. A title that does
-/// not fit is elided and shown in full as tool tip; actions that do not fit move into a menu. With
-/// QDockWidget::DockWidgetVerticalTitleBar the bar stands on the left side of the dock and reads
-/// from bottom to top. One button of the bar is in the tab order, arrow keys lead to the others.
-///
-/// The actions are the widget's own (QWidget::actions()): an action that is hidden, removed or
-/// deleted takes its button with it. Of the actions that tabify or tile the docks of an area, it
-/// shows those of the area where its dock lies. Buttons are made while the bar is visible.
+/// A title bar for dock widgets with icon, title, the widget's own actions (QWidget::actions()) as
+/// buttons, and a float and a close button as far as the dock's features allow. It follows the dock
+/// in all of them, and can be dragged and double-clicked like the toolkit's own bar. More:
+/// docs/decisions/0041-title-bars-and-docks-at-the-edge.md.
 class GUIBASE_EXPORT EnhancedDockWidgetTitleBar : public QWidget
 {
     Q_OBJECT

@@ -26,9 +26,8 @@ class GUIBASE_EXPORT FileOpenManager : public QObject, public ILruStringListDisp
     Q_OBJECT
 public:
     /// Opener, menu and configuration (usually CfgCenter::GetAppCfg(SettingsView)) are not owned
-    /// and may be null. Opener and menu may die first:
-    /// without an opener nothing is asked. The filter is one for QFileDialog. A `maxCount` below 1
-    /// keeps no recent files.
+    /// and may be null. Opener and menu may die first; without an opener nothing is asked. The
+    /// filter is one for QFileDialog. A `maxCount` below 1 keeps no recent files.
     ///
     /// Dialogs start in the program's current folder when `cfg` holds "UseNativeDialogs" with the
     /// value false; else where the platform's dialog starts. Later they start at the file chosen

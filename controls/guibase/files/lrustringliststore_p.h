@@ -10,14 +10,9 @@
 class ICfg;
 
 /// Keeps a list of strings, most recently used first, in a configuration that other running
-/// programs may write the same list to.
-///
-/// Entry i stands under the key prefix followed by i. An empty or missing entry ends the list.
-///
-/// What this program does to the list is remembered until it is saved. Saving reads the list as it
-/// is stored by then, repeats that on it, and stores the result. So the strings that this program
-/// has just used come first, then those that other programs have used meanwhile, then the older
-/// ones, up to the limit; and what one program has erased stays erased.
+/// programs may write the same list to: entry i under the key prefix followed by i, up to the first
+/// empty one. Saving reads the list as it is stored by then, repeats on it what this program has
+/// done, and stores the result.
 class LruStringListStore
 {
 public:

@@ -4,17 +4,10 @@
 #include <guibase/formats/valuedisplayformatbase.h>
 #include <guibase/frequencies/unitprefix.h>
 
-/// Writes and reads whole numbers of hertz in one of the units Hz, kHz, MHz and GHz, exactly: no
-/// frequency passes through a floating-point number.
-///
-/// It writes as many decimals as the frequency has, in the locale. It reads a decimal number with
-/// point or comma, followed by the unit, its first letter (in either case), or nothing:
-/// - a single point is the decimal sign in MHz and GHz in every locale, since radio frequencies are
-///   written so everywhere ("14.225 MHz"), and in kHz unless the locale parts thousands with
-///   points;
-/// - several points are read in Hz only, since radios show hertz so ("7.074.000");
-/// - for other doubtful separators see RealNumberDisplayFormat;
-/// - fractions of a hertz are refused.
+/// Writes and reads whole numbers of hertz in Hz, kHz, MHz or GHz, exactly: no frequency passes
+/// through a floating-point number. It writes as many decimals as the frequency has, in the locale.
+/// It reads a number with point or comma, then the unit, its first letter (in either case), or
+/// nothing, and refuses fractions of a hertz. See docs/decisions/0005-texts-that-are-numbers.md.
 class GUIBASE_EXPORT FrequencyDisplayFormat : public ValueDisplayFormatBase<qint64>
 {
 public:

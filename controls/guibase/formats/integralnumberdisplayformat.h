@@ -3,16 +3,9 @@
 
 #include <guibase/formats/numberdisplayformatbase.h>
 
-/// Writes and reads integers in any base, exactly over the whole range of the type.
-///
-/// Base 10 is written in the locale, other bases with ASCII letters; negative numbers have a minus
-/// sign in every base. Whether useLocale() is set or not, it reads:
-/// - what the locale (with useLocale()) or the C locale reads, base prefixes such as "0x" included;
-/// - the locale's own and full-width digits, the typographic minus;
-/// - in base 10 pasted group separators, where they can be nothing else: blanks and apostrophes
-///   ("12 500"), or several points or commas ("1.234.567"). A single point or comma is refused.
-///
-/// A number outside the range of T is refused, never cut or rounded.
+/// Writes and reads integers in any base, exactly over the whole range of the type: in base 10 in
+/// the locale, otherwise with ASCII letters, always with a minus sign for negative ones. A number
+/// outside the range is refused. See docs/decisions/0005-texts-that-are-numbers.md.
 template <typename T>
 class GUIBASE_EXPORT IntegralNumberDisplayFormat : public NumberDisplayFormatBase<T>
 {

@@ -3,19 +3,9 @@
 
 #include <guibase/formats/numberdisplayformatbase.h>
 
-/// Writes and reads real numbers.
-///
-/// They are written in the locale. They are read by the rules of the locale with useLocale(), or
-/// else of the C locale: then "1.500" is 1.5 everywhere, so a format that writes group separators
-/// must use its locale. Beyond that it reads whatever can mean one number only:
-/// - the decimal sign of the locale, or else point or comma: "1,5", "1234,500", "0,125";
-/// - group separators of any kind next to a decimal sign of another kind, or several of a kind:
-///   "1.234,5", "1 234.5", "1'234", "1.234.567";
-/// - digits of any script, full-width characters, the typographic minus.
-///
-/// A single separator in front of three digits ("1,500") may mean thousands. It is refused unless
-/// it is the decimal sign of the locale or, for a point, where the locale parts thousands with
-/// another sign. Infinity, NaN, and groups that begin with a zero ("0,475,500") are refused, too.
+/// Writes real numbers in the locale, and reads them by its rules with useLocale() or else by those
+/// of the C locale. Beyond that it reads whatever can mean one number only ("1.234,5"), and refuses
+/// what can mean two ("1,500"). See docs/decisions/0005-texts-that-are-numbers.md.
 template <typename T>
 class GUIBASE_EXPORT RealNumberDisplayFormat : public NumberDisplayFormatBase<T>
 {

@@ -12,24 +12,12 @@
 
 class ValueSelection;
 
-/// One physical quantity, such as a frequency, held as a double and shown with a unit prefix.
-///
-/// It writes the quantity at several precisions, reads what a person types ("12.5 M"), and supports
-/// the editing of single digits. The unit shown follows GuiBase::GetFrequencyUnit() until another
-/// unit is connected, and the precision follows the resolution: one base unit, or one kilo unit.
-///
-/// Units, factors and decimals stand in a table of five rows, one per ESuffix. All objects made
-/// with `ownsConverters` false share one table for the whole process: SetResolution(),
-/// SetStringSuffix() and SetFactor() of one of them are seen by all of them.
+/// One physical quantity, such as a frequency, held as a double and shown with a unit prefix. It
+/// writes the quantity at several precisions, reads what a person types ("12.5 M"), and edits
+/// single digits. Numbers have a decimal point, whatever the locale.
 ///
 /// Operations with a parameter `v` store it first, in base units; the default NoValue leaves the
-/// stored quantity. Numbers are written and read with a decimal point, whatever the locale.
-///
-/// Positions of digits are powers of ten in internal units; the operations count them from the
-/// lowest digit that can be edited at the shown unit and resolution (digit 0). Positions outside
-/// the digits are safe: they read as the null character, and setting them changes no digit.
-///
-/// Not copyable, because it observes the unit value. GUI thread only.
+/// stored quantity. Not copyable, because it observes the unit value. GUI thread only.
 class GUIBASE_EXPORT SuffixedDouble : public IObserver
 {
 public:
@@ -51,7 +39,11 @@ public:
 
     /// `unit` is the text of the base unit ("Hz") and `factor` the ratio of neighbouring prefixes
     /// (1000). Takes over the application's frequency resolution, which rewrites the table, and
-    /// observes the application's frequency unit. With `ownsConverters` the table is its own.
+    /// follows GuiBase::GetFrequencyUnit() until another unit is connected.
+    ///
+    /// Units, factors and decimals stand in a table with a row for each ESuffix. With
+    /// `ownsConverters` the object has one of its own. All others of the process share one, so that
+    /// SetResolution(), SetStringSuffix() and SetFactor() of one of them change them all.
     SuffixedDouble(const QString& unit, int factor, bool ownsConverters);
     SuffixedDouble(const SuffixedDouble&) = delete;
     SuffixedDouble& operator=(const SuffixedDouble&) = delete;
@@ -140,6 +132,10 @@ public:
     bool IsLongSuffixedOk(double v);
 
     // --- Editing of digits ---------------------------------------------------------------------
+    //
+    // Digits are powers of ten in internal units. They are counted from 0, the lowest one that can
+    // be edited at the shown unit and resolution. Outside the digits the null character is read,
+    // and setting changes none.
 
     /// The quantity in internal units, rounded to an integer and filled with zeros in front.
     QString GetPureNumbers(double v = NoValue);

@@ -12,9 +12,13 @@
 public:                                                                                            \
     using Base::setRange;                                                                          \
 Q_SIGNALS:                                                                                         \
+    /** The value has become another one. */                                                       \
     void valueChanged(Type value) override;                                                        \
+    /** The range begins at another value. */                                                      \
     void minimumChanged(Type minimum) override;                                                    \
+    /** The range ends at another value. */                                                        \
     void maximumChanged(Type maximum) override;                                                    \
+    /** At least one end of the range is another one. */                                           \
     void rangeChanged(Type minimum, Type maximum) override;                                        \
 public Q_SLOTS:                                                                                    \
     void setValue(Type value) override                                                             \
@@ -44,6 +48,7 @@ public Q_SLOTS:                                                                 
         explicit Class(QWidget* parent = nullptr);                                                 \
         ~Class() override;                                                                         \
     Q_SIGNALS:                                                                                     \
+        /** Steps have another size. */                                                            \
         void singleStepChanged(Type step) override;                                                \
     public Q_SLOTS:                                                                                \
         void setSingleStep(Type step) { NumberSpinBoxBase<Type>::setSingleStep(step); }            \

@@ -21,15 +21,9 @@ class QMainWindow;
 class QTimer;
 
 /// Keeps the geometry of one window, and its dock layout in each mode, from run to run, in a
-/// configuration record of its own.
-///
-/// A change of the mode changes the docks and shows the window, unless the user has closed it. The
-/// program start stays the one of the record.
-///
-/// The widget is not owned. What it looked like last is remembered with every change, so that it
-/// can be written also after the widget is gone; docks that close only because their window or the
-/// application does are no change. A stored state that does not pass its check is not applied; the
-/// record is then kept aside, once, under its name followed by "_damaged".
+/// configuration record of its own. The widget is not owned; what it looked like last is remembered
+/// with every change, so that it can be written also after the widget is gone. A damaged record is
+/// kept aside, once, under its name followed by "_damaged".
 class PersistentWidget : public QObject, public PersistantOwner, public SaveComponentIf
 {
     Q_OBJECT
@@ -52,7 +46,8 @@ public:
     void writeChanges();
     void restoreProgramStart();
     void restoreFactory();
-    /// Takes over what the widget looks like now.
+    /// Takes over what the widget looks like now. Docks that close only because their window or the
+    /// application does are no change.
     void capture();
     /// The application starts to end, or goes on after all. In between the toolkit closes floating
     /// docks: they are not captured as closed, and giveUpEnd() opens them again.

@@ -13,16 +13,9 @@
 
 class IUpdateMenu;
 
-/// A menu whose entries are addressed by integer ids and can be put into a new order after they
-/// were made.
-///
-/// The id of an entry is the data of its action. Every triggered entry with an id is told by
-/// signalActivated(). Operations on an id or text that no entry has do nothing; where several
+/// A menu whose entries are addressed by integer ids, the data of their actions, and can be put
+/// into a new order. Operations on an id or text that no entry has do nothing; where several
 /// entries have the id, the first one counts, and where several have the text, all of them do.
-///
-/// Decisions: the overloads of insertItem() append, as the plain one does. A separator goes before
-/// or after the entry at the given position; a position outside the menu puts it at the nearer end.
-/// A member that was given for several entries is called once for each triggered entry.
 class GUIBASE_EXPORT ResortPopupMenu : public QMenu
 {
     Q_OBJECT
@@ -81,6 +74,7 @@ public:
     void removeItem(int id);
     void RemoveAllEntries();
     void removeAllSeparators();
+    /// Before or after the entry at this position; outside the menu at its nearer end.
     QAction* insertSeparatorBeforeIndex(int index);
     QAction* insertSeparatorAfterIndex(int index);
 

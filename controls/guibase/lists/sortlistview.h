@@ -14,21 +14,13 @@ class ISortCallback;
 class ListSorter;
 class QMenu;
 
-/// A flat or shallow list of SortListViewItems that sorts its rows by compare functions and sort
-/// keys, lets the user hide columns, and keeps its column widths under a name.
+/// A flat or shallow list of SortListViewItems that sorts its rows, lets the user hide columns, and
+/// keeps its column widths under a name. It sorts when it is shown, when a header section is
+/// clicked and when it is told to (see AllowSort()); a hidden view never reorders its rows.
 ///
-/// A view that may sort (AllowSort()) sorts when it is shown, when a header section is clicked and
-/// when it is told to; a hidden view never reorders its rows. Rows that are appended stay at the
-/// end, unless setPlacingArrivals() is on. Selection, current item, expanded and hidden rows and
-/// the scroll position stay, and rows that compare as equal keep their order.
-///
-/// Tab leaves the list. Ctrl+Alt+H opens the column menu, when that is switched on; Alt+Left and
-/// Alt+Right choose the current column, Alt+Shift+Left and Alt+Shift+Right move it, Alt+Shift+Up
-/// and Alt+Shift+Down sort by it in ascending and descending order, also in a list without rows.
-///
-/// To hide many rows use setRowHidden(): QTreeWidgetItem::setHidden() looks for the row's number
-/// each time, which takes minutes in a list of a million. Operations on columns that do not exist,
-/// and on null items or items of other views, do nothing and return null, false or an empty value.
+/// Selection, expanded and hidden rows and the scroll position stay. Operations on columns that do
+/// not exist, and on null items or items of other views, do nothing and return null, false or an
+/// empty value. Keys: docs/decisions/0012-keys-in-lists.md.
 class GUIBASE_EXPORT SortListView : public QTreeWidget
 {
     Q_OBJECT
@@ -76,6 +68,7 @@ public:
     int SortFunction(int column, const QString& a, const QString& b) const;
     /// Not owned; must outlive the view or be set back to null.
     void SetSortCallback(ISortCallback* callback);
+    /// Whether the view sorts at all; on at start.
     void AllowSort(bool allow);
     /// Whether rows that are appended to a shown list go to their places in the order that the list
     /// has; off at start. They go there together, in the next pass of the event loop or, when

@@ -13,14 +13,12 @@
 
 class SortListView;
 
-/// A row of a SortListView: texts, and optionally keys that it is sorted by in their place.
-///
-/// Works in a plain QTreeWidget as well. Rows belong to their tree as all QTreeWidgetItems do; a
-/// null tree or parent makes a row that belongs to the caller.
+/// A row of a SortListView, also of a plain QTreeWidget: texts, and optionally keys that it is
+/// sorted by in their place. It belongs to its tree as all QTreeWidgetItems do; with a null tree or
+/// parent it belongs to the caller.
 ///
 /// The constructors put the texts into the columns from 0 on, up to the first null QString behind
-/// column 0; an empty text that is not null is a text. A row behind `after` goes first when `after`
-/// is null or stands elsewhere.
+/// column 0. A row behind `after` goes first when `after` is null or stands elsewhere.
 class GUIBASE_EXPORT SortListViewItem : public QTreeWidgetItem
 {
 public:

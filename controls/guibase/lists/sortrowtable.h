@@ -9,17 +9,9 @@
 #include <QString>
 #include <QTableWidget>
 
-/// A sortable table with two columns of texts, frequency and level, that the user fills row by row.
-///
-/// Texts that are numbers (with a point or a comma, a unit behind a blank may follow) sort as
-/// numbers, before all other texts.
-///
-/// Return, F2 and a double click edit a cell, so that a stray key replaces nothing; Escape brings
-/// its old text back. The keys Insert and Delete, without modifiers, add and delete rows, unless a
-/// cell is being edited. Copy puts the selected cells on the clipboard, columns parted by tabs.
-/// Paste adds a row for every line of the clipboard's text and never overwrites one; a single value
-/// goes into the current cell; a message tells of lines that were left out. The delete question
-/// offers Yes, No, Yes to All and No to All; rows are asked for from the top down.
+/// A sortable table of frequencies and levels that the user fills row by row. Texts that are
+/// numbers (with a point or a comma, a unit behind a blank may follow) sort as numbers, before all
+/// other texts. Keys and pasting: docs/decisions/0012-keys-in-lists.md.
 class GUIBASE_EXPORT SortRowTable : public QTableWidget
 {
     Q_OBJECT

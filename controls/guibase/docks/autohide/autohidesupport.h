@@ -21,18 +21,11 @@ namespace QMainWindowHelpers {
 
 struct AutoHideSupportPrivate;
 
-/// Lets the docks of a main window hide themselves.
-///
-/// A dock in auto-hide mode floats and has a button on a narrow tool bar at the left or right edge
-/// of the main window. A click on the button, and the mouse over it if the user wants that, shows
-/// the dock against the tool bar; it hides again a while after the mouse has left it. A dock whose
-/// own menu, list or dialog is open stays until that is closed. With the keyboard, Enter or Space
-/// on the button shows the dock and leads into it, Escape in the dock leads back; Escape that
-/// nothing in the main window takes hides what the mouse has shown.
-///
-/// The support belongs to its main window and sees docks come and go by itself. A dock that enters
-/// the mode hides those that it would cover at its edge. A dock that the user docks or closes, or
-/// that joins a floating group or another main window, leaves the mode.
+/// Lets the docks of a main window hide themselves. A dock in auto-hide mode floats and has a
+/// button on a narrow tool bar at the left or right edge. A click on it, or the mouse over it if
+/// the user wants that, shows the dock against the tool bar; it hides again a while after the mouse
+/// has left it. The support belongs to its main window and sees docks come and go by itself. More:
+/// docs/decisions/0041-title-bars-and-docks-at-the-edge.md.
 class GUIBASE_EXPORT AutoHideSupport : public QObject
 {
     Q_OBJECT

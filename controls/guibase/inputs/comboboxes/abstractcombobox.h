@@ -17,20 +17,9 @@ class TypedInputBody;
 namespace ComboBoxes {
 
 /// The part of the typed combo boxes that does not depend on the type: the line edit, keys, focus,
-/// the current display format, and the mark for refused texts.
-///
-/// What is typed stays as it is, without completion, until it is committed by Return, Enter,
-/// another item, or leaving the field. It never becomes an item. A text that cannot be taken is
-/// then replaced by the value, and the reason is shown as tool tip and by a red frame until the
-/// next good input. A text that nobody changed is not read again, so that values do not lose the
-/// digits that the format does not show.
-///
-/// Changes of the items change neither the value nor what is being typed. One does: when the
-/// current item goes and the toolkit selects another one, that item gives its value, unless the
-/// user is typing. The wheel does nothing without the focus, and never takes the focus.
-///
-/// A line edit that the box gets later has no completer, is aligned to the right and takes long
-/// texts, unless the application has set something else by then.
+/// the current display format, and the mark for refused texts. A typed text is committed by Return,
+/// Enter, another item, or leaving the field; it never becomes an item. A text that cannot be taken
+/// is replaced by the value. More: docs/decisions/0020-typed-inputs.md.
 class GUIBASE_EXPORT AbstractComboBox : public QComboBox, public TypedInput
 {
     Q_OBJECT

@@ -17,16 +17,9 @@ class TypedInputBody;
 namespace SpinBoxes {
 
 /// The part of the typed spin boxes that does not depend on the type: the line edit, keys, focus,
-/// the current display format, and the mark for refused texts.
-///
-/// What is typed stays as it is until it is committed by Return, Enter, a step, or leaving the
-/// field. A text that cannot be taken is then replaced by the value, and the reason is shown as
-/// tool tip and by a red frame until the next good input. A text that nobody changed is not read
-/// again, so that values do not lose the digits that the format does not show.
-///
-/// Up, Down and the buttons step by the single step, the Page keys by ten. Ctrl+Up and Ctrl+Down
-/// step the digit behind the cursor (at the end of the number, the one before it). The wheel does
-/// nothing without the focus, and never takes the focus.
+/// the current display format, and the mark for refused texts. A typed text is committed by Return,
+/// Enter, a step, or leaving the field. A text that cannot be taken is replaced by the value. More:
+/// docs/decisions/0020-typed-inputs.md.
 class GUIBASE_EXPORT AbstractSpinBox : public QAbstractSpinBox, public TypedInput
 {
     Q_OBJECT
