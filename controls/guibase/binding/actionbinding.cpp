@@ -10,10 +10,17 @@
 
 namespace ValueWidgetBinding {
 
+struct ActionBinding::Private
+{
+    Value<bool>* value;
+    QAction& action;
+    QString undoText{};
+    bool isUpdating = false;
+};
+
 ActionBinding::ActionBinding(Value<bool>& value, QAction& action)
     : QObject(&action)
-    , m_value(&value)
-    , m_action(action)
+    , d(std::make_unique<Private>(Private{&value, action}))
 {
     setObjectName(QStringLiteral("{%1}->{%2}").arg(value.GetPathName(), action.objectName()));
     action.setCheckable(true);
@@ -24,32 +31,37 @@ ActionBinding::ActionBinding(Value<bool>& value, QAction& action)
 
 ActionBinding::~ActionBinding() = default;
 
+void ActionBinding::setUndoText(const QString& text)
+{
+    d->undoText = text;
+}
+
 void ActionBinding::Update(Observable* observable, TChangeCode code)
 {
-    if (m_value == nullptr || observable != m_value)
+    if (d->value == nullptr || observable != d->value)
         return;
     const Observable::State state = observable->GetState();
     if (state == Observable::Gone)
-        m_value = nullptr;
+        d->value = nullptr;
     const QPointer<ActionBinding> guard(this);
     if (code == ChangeCode::State)
-        m_action.setEnabled(state == Observable::Enabled);
-    if (!guard || m_value == nullptr)
+        d->action.setEnabled(state == Observable::Enabled);
+    if (!guard || d->value == nullptr)
         return;
-    m_isUpdating = true;
-    m_action.setChecked(m_value->GetValue());
+    d->isUpdating = true;
+    d->action.setChecked(d->value->GetValue());
     if (guard)
-        m_isUpdating = false;
+        d->isUpdating = false;
 }
 
 void ActionBinding::toggled(bool checked)
 {
-    if (m_isUpdating || m_value == nullptr)
+    if (d->isUpdating || d->value == nullptr)
         return;
     std::optional<GuiUndoRecordingHelper> recording;
-    if (const auto* widget = qobject_cast<QWidget*>(m_action.parent()))
-        recording.emplace(*widget, m_undoText.isEmpty() ? m_action.iconText() : m_undoText);
-    m_value->SetValue(checked);
+    if (const auto* widget = qobject_cast<QWidget*>(d->action.parent()))
+        recording.emplace(*widget, d->undoText.isEmpty() ? d->action.iconText() : d->undoText);
+    d->value->SetValue(checked);
 }
 
 } // namespace ValueWidgetBinding

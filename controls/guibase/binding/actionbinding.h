@@ -9,6 +9,8 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
 namespace ValueWidgetBinding {
 
 /// Keeps a value and a checkable action in step: checked means true. The binding belongs to the
@@ -23,7 +25,7 @@ public:
     ~ActionBinding() override;
 
     /// The text of the undo steps; the action's own at first.
-    void setUndoText(const QString& text) { m_undoText = text; }
+    void setUndoText(const QString& text);
 
 protected:
     void Update(Observable* observable, TChangeCode code) override;
@@ -31,10 +33,8 @@ protected:
 private:
     void toggled(bool checked);
 
-    Value<bool>* m_value;
-    QAction& m_action;
-    QString m_undoText;
-    bool m_isUpdating = false;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace ValueWidgetBinding

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <guibase/colors/colors.h>
-#include <guibase/colors/colorset.h>
-#include <guibase/colors/colorsetbuiltin.h>
-#include <guibase/colors/colorsetfactory_p.h>
-#include <guibase/colors/colorsetfile_p.h>
+#include "colorset.h"
+
+#include "colors.h"
+#include "colorsetbuiltin.h"
+#include "colorsetcodec.h"
+#include "colorsetfactory_p.h"
+#include "colorsetfile_p.h"
+
 #include <guibase/colors/editor/colorsctrl.h>
 #include <guibase/services/guibase.h>
 
@@ -12,9 +15,11 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 using ColorSetFile::WriteResult;
@@ -50,36 +55,8 @@ void announceChange()
     GuiBase::Instance().emit_signalColorsChanged();
 }
 
-} // namespace
-
-ColorSet& ColorSet::Instance()
-{
-    static ColorSet instance;
-    return instance;
-}
-
-ColorSet::ColorSet()
-    : m_directory(QDir::currentPath())
-    , m_knownFiles{factoryName()}
-    , m_propertyPagePath(tr("Assignments"))
-{
-    slotRestoreFactoryColors();
-    Backup();
-}
-
-ColorSet::~ColorSet() = default;
-
-const QColor& ColorSet::GetColor(ECOLOR slot) const
-{
-    if (static_cast<unsigned>(slot) < static_cast<unsigned>(slotCount)) [[likely]] {
-        if (const ColorDefinition* definition = m_slots[position(slot)]) [[likely]]
-            return definition->GetColor();
-    }
-    return fallbackColor(slot);
-}
-
 /// Two colours rather than one that changes: a reference that someone holds keeps its colour.
-const QColor& ColorSet::fallbackColor(int slot) const
+const QColor& fallbackColor(int slot)
 {
     static const QColor outOfRange(Qt::red);
     static const QColor empty(Qt::cyan);
@@ -93,9 +70,74 @@ const QColor& ColorSet::fallbackColor(int slot) const
     return exists ? empty : outOfRange;
 }
 
+} // namespace
+
+struct ColorSet::Private
+{
+    ColorSetCodec::Ids ids() const;
+    void assign(const ColorSetCodec::Ids& ids);
+    /// The set is the one of this file now.
+    void rememberFile(const QString& name);
+
+    quint32 showInDialog = 1;
+    bool dirty = false;
+    QString fileName;
+    QString backupFileName;
+    QString directory = QDir::currentPath();
+    QStringList knownFiles{factoryName()};
+    ColorSetCodec::Ids backupIds{};
+    std::array<const ColorDefinition*, slotCount> slotDefinitions{};
+    QPointer<ColorsCtrl> editor;
+};
+
+ColorSetCodec::Ids ColorSet::Private::ids() const
+{
+    ColorSetCodec::Ids ids{};
+    std::transform(slotDefinitions.begin(), slotDefinitions.end(), ids.begin(),
+                   [](const ColorDefinition* slot) { return slot ? slot->GetId() : 0; });
+    return ids;
+}
+
+void ColorSet::Private::assign(const ColorSetCodec::Ids& ids)
+{
+    std::transform(ids.begin(), ids.end(), slotDefinitions.begin(),
+                   [](qint32 id) { return Colors::Instance().GetColorDefinition(id); });
+}
+
+void ColorSet::Private::rememberFile(const QString& name)
+{
+    fileName = ColorSetFile::absoluteName(name);
+    directory = QFileInfo(fileName).absolutePath();
+    dirty = false;
+}
+
+ColorSet& ColorSet::Instance()
+{
+    static ColorSet instance;
+    return instance;
+}
+
+ColorSet::ColorSet()
+    : d(std::make_unique<Private>())
+{
+    slotRestoreFactoryColors();
+    Backup();
+}
+
+ColorSet::~ColorSet() = default;
+
+const QColor& ColorSet::GetColor(ECOLOR slot) const
+{
+    if (static_cast<unsigned>(slot) < static_cast<unsigned>(slotCount)) [[likely]] {
+        if (const ColorDefinition* definition = d->slotDefinitions[position(slot)]) [[likely]]
+            return definition->GetColor();
+    }
+    return fallbackColor(slot);
+}
+
 const ColorDefinition* ColorSet::GetColorDefinition(ECOLOR slot) const
 {
-    return isSlot(slot) ? m_slots[position(slot)] : nullptr;
+    return isSlot(slot) ? d->slotDefinitions[position(slot)] : nullptr;
 }
 
 void ColorSet::SetColor(ECOLOR slot, const QColor& color, bool emitSignal)
@@ -118,8 +160,8 @@ void ColorSet::setDefinition(ECOLOR slot, const ColorDefinition* definition, boo
 {
     if (!isSlot(slot))
         return;
-    m_slots[position(slot)] = definition;
-    m_dirty = true;
+    d->slotDefinitions[position(slot)] = definition;
+    d->dirty = true;
     if (emitSignal)
         announceChange();
 }
@@ -137,47 +179,26 @@ char ColorSet::Index2Type(ECOLOR index)
     return static_cast<char>(static_cast<unsigned>(index) + 'a');
 }
 
-ColorSetCodec::Ids ColorSet::ids() const
-{
-    ColorSetCodec::Ids ids{};
-    std::transform(m_slots.begin(), m_slots.end(), ids.begin(),
-                   [](const ColorDefinition* slot) { return slot ? slot->GetId() : 0; });
-    return ids;
-}
-
-void ColorSet::assign(const ColorSetCodec::Ids& ids)
-{
-    std::transform(ids.begin(), ids.end(), m_slots.begin(),
-                   [](qint32 id) { return Colors::Instance().GetColorDefinition(id); });
-}
-
 void ColorSet::Backup()
 {
-    m_backupIds = ids();
-    m_backupFileName = m_fileName;
+    d->backupIds = d->ids();
+    d->backupFileName = d->fileName;
 }
 
 void ColorSet::Restore()
 {
-    assign(m_backupIds);
-    m_fileName = m_backupFileName;
+    d->assign(d->backupIds);
+    d->fileName = d->backupFileName;
     announceChange();
-}
-
-void ColorSet::rememberFile(const QString& name)
-{
-    m_fileName = ColorSetFile::absoluteName(name);
-    m_directory = QFileInfo(m_fileName).absolutePath();
-    m_dirty = false;
 }
 
 void ColorSet::Save(QWidget* parent, const QString& name)
 {
     const QPointer<QWidget> dialogParent(parent); // may die while a dialog is open
     if (name.size() > 1)
-        m_fileName = ColorSetFile::absoluteName(name);
-    QString file = m_fileName;
-    WriteResult result = ColorSetFile::write(file, ids());
+        d->fileName = ColorSetFile::absoluteName(name);
+    QString file = d->fileName;
+    WriteResult result = ColorSetFile::write(file, d->ids());
     // A current file that cannot be opened is no error: the user has just not named one yet.
     bool isError = result == WriteResult::WriteFailed;
     while (result != WriteResult::Written) {
@@ -187,10 +208,10 @@ void ColorSet::Save(QWidget* parent, const QString& name)
         file = ColorSetFile::chooseForSaving(dialogParent, tr("Save current ColorSet"));
         if (file.isEmpty())
             return;
-        result = ColorSetFile::write(file, ids());
+        result = ColorSetFile::write(file, d->ids());
         isError = true;
     }
-    rememberFile(file);
+    d->rememberFile(file);
 }
 
 void ColorSet::Load(QWidget* parent, const QString& name)
@@ -199,17 +220,17 @@ void ColorSet::Load(QWidget* parent, const QString& name)
         slotRestoreFactoryColors();
         return;
     }
-    if (ColorSetFile::absoluteName(name) == m_fileName)
+    if (ColorSetFile::absoluteName(name) == d->fileName)
         return;
     const QPointer<QWidget> dialogParent(parent); // may die while a dialog is open
-    if (m_dirty && ColorSetFile::ask(dialogParent, tr("Load ColorSet"),
-                                     tr("Current ColorSet was changed. Do you want to save now?")))
+    if (d->dirty && ColorSetFile::ask(dialogParent, tr("Load ColorSet"),
+                                      tr("Current ColorSet was changed. Do you want to save now?")))
         Save(dialogParent, QString());
 
     if (const auto builtIn = ColorSetBuiltIn::find(name)) {
-        assign(builtIn->ids);
-        m_fileName = QString::fromLatin1(builtIn->name);
-        m_dirty = false;
+        d->assign(builtIn->ids);
+        d->fileName = QString::fromLatin1(builtIn->name);
+        d->dirty = false;
         announceChange();
         return;
     }
@@ -228,17 +249,17 @@ void ColorSet::Load(QWidget* parent, const QString& name)
         }
         file.clear();
     }
-    assign(*loaded);
-    rememberFile(file);
+    d->assign(*loaded);
+    d->rememberFile(file);
     announceChange();
 }
 
 void ColorSet::Load(int index)
 {
-    if (index > 0 && index < m_knownFiles.size()) {
+    if (index > 0 && index < d->knownFiles.size()) {
         // a copy: the list may be made anew while a dialog is open
-        Load(nullptr, QString(m_knownFiles.at(index)));
-    } else if (index == 0 && m_fileName != factoryName()) {
+        Load(nullptr, QString(d->knownFiles.at(index)));
+    } else if (index == 0 && d->fileName != factoryName()) {
         slotRestoreFactoryColors();
         announceChange();
     }
@@ -246,7 +267,7 @@ void ColorSet::Load(int index)
 
 bool ColorSet::LoadPrinterSet()
 {
-    const QFileInfoList files = colorSetFiles(m_directory);
+    const QFileInfoList files = colorSetFiles(d->directory);
     const auto found = std::find_if(files.begin(), files.end(), [](const QFileInfo& file) {
         return file.fileName().contains(QLatin1String("print"), Qt::CaseInsensitive);
     });
@@ -254,6 +275,36 @@ bool ColorSet::LoadPrinterSet()
         return false;
     Load(nullptr, found->absoluteFilePath());
     return true;
+}
+
+const QString& ColorSet::GetName() const
+{
+    return d->fileName;
+}
+
+bool ColorSet::GetDirty() const
+{
+    return d->dirty;
+}
+
+void ColorSet::SetShowInDialog(quint32 mask)
+{
+    d->showInDialog = mask;
+}
+
+void ColorSet::AddShowInDialog(quint32 bits)
+{
+    d->showInDialog |= bits;
+}
+
+quint32 ColorSet::GetShowInDialog() const
+{
+    return d->showInDialog;
+}
+
+QString ColorSet::GetPropertyPagePath() const
+{
+    return tr("Assignments");
 }
 
 QComboBox* ColorSet::GetColorSetsComboBox(QWidget* parent)
@@ -265,22 +316,22 @@ QComboBox* ColorSet::GetColorSetsComboBox(QWidget* parent)
 
 void ColorSet::UpdateComboBox(QComboBox* box)
 {
-    m_knownFiles = QStringList{factoryName()};
+    d->knownFiles = QStringList{factoryName()};
     QStringList texts{tr(factoryDefaultName)};
-    for (const QFileInfo& file : colorSetFiles(m_directory)) {
-        m_knownFiles.append(file.absoluteFilePath());
+    for (const QFileInfo& file : colorSetFiles(d->directory)) {
+        d->knownFiles.append(file.absoluteFilePath());
         texts.append(file.fileName());
     }
     for (const char* builtIn : ColorSetBuiltIn::names()) {
-        m_knownFiles.append(QString::fromLatin1(builtIn));
+        d->knownFiles.append(QString::fromLatin1(builtIn));
         texts.append(tr(builtIn));
     }
     if (!box)
         return;
-    qsizetype current = m_knownFiles.indexOf(m_fileName);
+    qsizetype current = d->knownFiles.indexOf(d->fileName);
     if (current < 0)
-        current = m_knownFiles.indexOf(QFileInfo(m_fileName).absoluteFilePath());
-    if (current >= 0 && m_dirty)
+        current = d->knownFiles.indexOf(QFileInfo(d->fileName).absoluteFilePath());
+    if (current >= 0 && d->dirty)
         texts[current] += QStringLiteral(" [changed]");
     const QSignalBlocker blocker(box);
     box->clear();
@@ -290,8 +341,8 @@ void ColorSet::UpdateComboBox(QComboBox* box)
 
 ColorsCtrl* ColorSet::makeEditor(QWidget* parent)
 {
-    m_editor = new ColorsCtrl(parent);
-    return m_editor;
+    d->editor = new ColorsCtrl(parent);
+    return d->editor;
 }
 
 QWidget* ColorSet::GetPropertyPage(QWidget* parent, const char* name)
@@ -312,20 +363,20 @@ QWidget* ColorSet::GetCtrl(QWidget* parent)
 
 void ColorSet::slotAcceptPropertyChanges()
 {
-    if (m_editor)
-        m_editor->slotAcceptChanges();
+    if (d->editor)
+        d->editor->slotAcceptChanges();
 }
 
 void ColorSet::slotRestoreFactoryColors()
 {
-    assign(ColorSetFactory::ids);
-    m_fileName = factoryName();
-    m_dirty = false;
+    d->assign(ColorSetFactory::ids);
+    d->fileName = factoryName();
+    d->dirty = false;
 }
 
 void ColorSet::slotRestoreSystemColors()
 {
     Colors::Instance().RestoreSystemColors();
-    m_slots[position(Slot66)] = Colors::Instance().GetSystemColors().At(0);
-    m_dirty = false;
+    d->slotDefinitions[position(Slot66)] = Colors::Instance().GetSystemColors().At(0);
+    d->dirty = false;
 }

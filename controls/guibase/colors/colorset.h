@@ -2,18 +2,15 @@
 #pragma once
 
 #include <guibase/colors/colordefinition.h>
-#include <guibase/colors/colorsetcodec.h>
 #include <guibase/colors/icolorbase.h>
 #include <guibase/colors/ihaspropertypage.h>
 #include <guibase/guibase_export.h>
 
 #include <QColor>
 #include <QObject>
-#include <QPointer>
 #include <QString>
-#include <QStringList>
 
-#include <array>
+#include <memory>
 
 class ColorsCtrl;
 class QComboBox;
@@ -75,9 +72,9 @@ public:
     // --- Colour-set files ------------------------------------------------------------------------
 
     /// The colour-set file last loaded or saved, with its whole path, or factoryDefaultName.
-    const QString& GetName() const { return m_fileName; }
+    const QString& GetName() const;
     /// Whether a slot was set since the last load, save or restoring.
-    bool GetDirty() const { return m_dirty; }
+    bool GetDirty() const;
 
     /// Writes the assignment to the file `name`, which becomes the current one when it has more
     /// than one character; otherwise to the current file. Asks for a file when that cannot be
@@ -119,13 +116,13 @@ public:
     // --- Editor ----------------------------------------------------------------------------------
 
     /// Which groups the editor shows, see ColorSlotGroup::maskBit; 1 at first.
-    void SetShowInDialog(quint32 mask) { m_showInDialog = mask; }
-    void AddShowInDialog(quint32 bits) { m_showInDialog |= bits; }
-    quint32 GetShowInDialog() const { return m_showInDialog; }
+    void SetShowInDialog(quint32 mask);
+    void AddShowInDialog(quint32 bits);
+    quint32 GetShowInDialog() const;
 
     /// Makes a new editor (ColorsCtrl) under `parent`.
     QWidget* GetPropertyPage(QWidget* parent, const char* name) override;
-    QString GetPropertyPagePath() const override { return m_propertyPagePath; }
+    QString GetPropertyPagePath() const override;
     /// Makes an editor that accepts its changes on the parent's signal applyButtonPressed(), if the
     /// parent has that.
     QWidget* GetCtrl(QWidget* parent);
@@ -142,21 +139,9 @@ public Q_SLOTS:
 private:
     ColorSet();
 
-    const QColor& fallbackColor(int slot) const;
     void setDefinition(ECOLOR slot, const ColorDefinition* definition, bool emitSignal);
-    ColorSetCodec::Ids ids() const;
-    void assign(const ColorSetCodec::Ids& ids);
-    void rememberFile(const QString& name);
     ColorsCtrl* makeEditor(QWidget* parent);
 
-    quint32 m_showInDialog = 1;
-    bool m_dirty = false;
-    QString m_fileName;
-    QString m_backupFileName;
-    QString m_directory;
-    QStringList m_knownFiles;
-    ColorSetCodec::Ids m_backupIds{};
-    std::array<const ColorDefinition*, slotCount> m_slots{};
-    QString m_propertyPagePath;
-    QPointer<ColorsCtrl> m_editor;
+    struct Private;
+    std::unique_ptr<Private> d;
 };

@@ -13,6 +13,7 @@
 
 #include <QAction>
 
+#include <optional>
 #include <utility>
 
 namespace QDockWidgetHelpers {
@@ -40,76 +41,101 @@ void appendAreaActions(const Support* support,
 
 } // namespace
 
-DockWidgetConfigurator::DockWidgetConfigurator() = default;
-DockWidgetConfigurator::DockWidgetConfigurator(const DockWidgetConfigurator& other) = default;
-DockWidgetConfigurator&
-DockWidgetConfigurator::operator=(const DockWidgetConfigurator& other) = default;
+struct DockWidgetConfigurator::Private
+{
+    const QList<QAction*>* actions = nullptr;
+    const QMainWindowHelpers::TabifySupport* tabifySupport = nullptr;
+    const QMainWindowHelpers::TileSupport* tileSupport = nullptr;
+    std::optional<QFlags<Qt::DockWidgetArea>> allowedAreas;
+    std::optional<QFlags<QDockWidget::DockWidgetFeature>> features;
+    std::optional<Qt::FocusPolicy> focusPolicy;
+    std::optional<QFlags<Qt::WindowType>> windowFlags;
+    QString styleSheet;
+    bool autoHideSupport = false;
+    bool minimizeSupport = false;
+    bool maximizeSupport = false;
+};
+
+DockWidgetConfigurator::DockWidgetConfigurator()
+    : d(std::make_unique<Private>())
+{}
+
+DockWidgetConfigurator::DockWidgetConfigurator(const DockWidgetConfigurator& other)
+    : d(std::make_unique<Private>(*other.d))
+{}
+
+DockWidgetConfigurator& DockWidgetConfigurator::operator=(const DockWidgetConfigurator& other)
+{
+    *d = *other.d;
+    return *this;
+}
+
 DockWidgetConfigurator::~DockWidgetConfigurator() = default;
 
 DockWidgetConfigurator& DockWidgetConfigurator::includeActionsFrom(const QList<QAction*>* actions)
 {
-    m_actions = actions;
+    d->actions = actions;
     return *this;
 }
 
 DockWidgetConfigurator& DockWidgetConfigurator::includeActionsFrom(const TabifySupport* support)
 {
-    m_tabifySupport = support;
+    d->tabifySupport = support;
     return *this;
 }
 
 DockWidgetConfigurator& DockWidgetConfigurator::includeActionsFrom(const TileSupport* support)
 {
-    m_tileSupport = support;
+    d->tileSupport = support;
     return *this;
 }
 
 DockWidgetConfigurator& DockWidgetConfigurator::withAllowedAreas(QFlags<Qt::DockWidgetArea> areas)
 {
-    m_allowedAreas = areas;
+    d->allowedAreas = areas;
     return *this;
 }
 
 DockWidgetConfigurator&
 DockWidgetConfigurator::withFeatures(QFlags<QDockWidget::DockWidgetFeature> features)
 {
-    m_features = features;
+    d->features = features;
     return *this;
 }
 
 DockWidgetConfigurator& DockWidgetConfigurator::withFocusPolicy(Qt::FocusPolicy policy)
 {
-    m_focusPolicy = policy;
+    d->focusPolicy = policy;
     return *this;
 }
 
 DockWidgetConfigurator& DockWidgetConfigurator::withWindowFlags(QFlags<Qt::WindowType> flags)
 {
-    m_windowFlags = flags;
+    d->windowFlags = flags;
     return *this;
 }
 
 DockWidgetConfigurator& DockWidgetConfigurator::withStyleSheet(const QString& styleSheet)
 {
-    m_styleSheet = styleSheet;
+    d->styleSheet = styleSheet;
     return *this;
 }
 
 DockWidgetConfigurator& DockWidgetConfigurator::withAutoHideSupport(bool enabled)
 {
-    m_autoHideSupport = enabled;
+    d->autoHideSupport = enabled;
     return *this;
 }
 
 DockWidgetConfigurator& DockWidgetConfigurator::withMinimizeSupport(bool enabled)
 {
-    m_minimizeSupport = enabled;
+    d->minimizeSupport = enabled;
     return *this;
 }
 
 DockWidgetConfigurator& DockWidgetConfigurator::withMaximizeSupport(bool enabled)
 {
-    m_maximizeSupport = enabled;
+    d->maximizeSupport = enabled;
     return *this;
 }
 
@@ -121,12 +147,12 @@ DockWidgetConfigurator::configure(QDockWidget& dockWidget, QList<QAction*>& acti
     const UpdatesBlocker blocker(dockWidget);
     applyWindowIdentity(dockWidget, objectName, windowTitle, windowIcon, windowIconText);
     applySettings(dockWidget);
-    if (m_actions != nullptr)
-        actions << *m_actions;
-    if (m_autoHideSupport)
+    if (d->actions != nullptr)
+        actions << *d->actions;
+    if (d->autoHideSupport)
         actions << AutoHideSupport::createAutoHideAction(dockWidget);
-    appendAreaActions(m_tabifySupport, &TabifySupport::tabifyDockWidgetsAction, actions);
-    appendAreaActions(m_tileSupport, &TileSupport::tileDockWidgetsAction, actions);
+    appendAreaActions(d->tabifySupport, &TabifySupport::tabifyDockWidgetsAction, actions);
+    appendAreaActions(d->tileSupport, &TileSupport::tileDockWidgetsAction, actions);
     appendStateActions(dockWidget, actions);
     return *this;
 }
@@ -147,27 +173,27 @@ const DockWidgetConfigurator& DockWidgetConfigurator::configure(QDockWidget& doc
 
 void DockWidgetConfigurator::applySettings(QDockWidget& dockWidget) const
 {
-    if (m_allowedAreas)
-        dockWidget.setAllowedAreas(*m_allowedAreas);
-    if (m_features)
-        dockWidget.setFeatures(*m_features);
-    if (m_focusPolicy)
-        dockWidget.setFocusPolicy(*m_focusPolicy);
-    if (m_windowFlags)
-        dockWidget.setWindowFlags(*m_windowFlags);
-    if (!m_styleSheet.isNull())
-        dockWidget.setStyleSheet(m_styleSheet);
+    if (d->allowedAreas)
+        dockWidget.setAllowedAreas(*d->allowedAreas);
+    if (d->features)
+        dockWidget.setFeatures(*d->features);
+    if (d->focusPolicy)
+        dockWidget.setFocusPolicy(*d->focusPolicy);
+    if (d->windowFlags)
+        dockWidget.setWindowFlags(*d->windowFlags);
+    if (!d->styleSheet.isNull())
+        dockWidget.setStyleSheet(d->styleSheet);
 }
 
 void DockWidgetConfigurator::appendStateActions(QDockWidget& dockWidget,
                                                 QList<QAction*>& actions) const
 {
-    if (!m_maximizeSupport && !m_minimizeSupport)
+    if (!d->maximizeSupport && !d->minimizeSupport)
         return;
     const MaximizeMinimizeSupport* support = MaximizeMinimizeSupport::install(dockWidget);
-    if (m_maximizeSupport)
+    if (d->maximizeSupport)
         actions << &support->maximizeDockWidgetAction();
-    if (m_minimizeSupport)
+    if (d->minimizeSupport)
         actions << &support->minimizeDockWidgetAction();
     actions << &support->restoreDockWidgetAction();
 }

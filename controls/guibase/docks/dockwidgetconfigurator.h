@@ -8,7 +8,7 @@
 #include <QList>
 #include <QString>
 
-#include <optional>
+#include <memory>
 
 class QAction;
 
@@ -66,17 +66,8 @@ private:
     void applySettings(QDockWidget& dockWidget) const;
     void appendStateActions(QDockWidget& dockWidget, QList<QAction*>& actions) const;
 
-    const QList<QAction*>* m_actions = nullptr;
-    const QMainWindowHelpers::TabifySupport* m_tabifySupport = nullptr;
-    const QMainWindowHelpers::TileSupport* m_tileSupport = nullptr;
-    std::optional<QFlags<Qt::DockWidgetArea>> m_allowedAreas;
-    std::optional<QFlags<QDockWidget::DockWidgetFeature>> m_features;
-    std::optional<Qt::FocusPolicy> m_focusPolicy;
-    std::optional<QFlags<Qt::WindowType>> m_windowFlags;
-    QString m_styleSheet;
-    bool m_autoHideSupport = false;
-    bool m_minimizeSupport = false;
-    bool m_maximizeSupport = false;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace QDockWidgetHelpers

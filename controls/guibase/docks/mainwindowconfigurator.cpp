@@ -10,6 +10,10 @@
 #include <guibase/docks/areas/tilesupport.h>
 #include <guibase/docks/autohide/autohidesupport.h>
 
+#include <QMap>
+
+#include <optional>
+
 namespace QMainWindowHelpers {
 
 namespace {
@@ -23,40 +27,62 @@ void installFor(QMainWindow& mainWindow, const std::optional<Areas>& areas)
 
 } // namespace
 
-MainWindowConfigurator::MainWindowConfigurator() = default;
-MainWindowConfigurator::MainWindowConfigurator(const MainWindowConfigurator& other) = default;
-MainWindowConfigurator&
-MainWindowConfigurator::operator=(const MainWindowConfigurator& other) = default;
+struct MainWindowConfigurator::Private
+{
+    bool activeDockWidgetSupport = false;
+    std::optional<QFlags<Qt::ToolBarArea>> autoHideAreas;
+    std::optional<QFlags<QMainWindow::DockOption>> dockOptions;
+    std::optional<bool> documentMode;
+    std::optional<QFlags<Qt::DockWidgetArea>> tabifyAreas;
+    QMap<Qt::DockWidgetArea, QTabWidget::TabPosition> tabPositions;
+    std::optional<QTabWidget::TabShape> tabShape;
+    std::optional<QFlags<Qt::DockWidgetArea>> tileAreas;
+};
+
+MainWindowConfigurator::MainWindowConfigurator()
+    : d(std::make_unique<Private>())
+{}
+
+MainWindowConfigurator::MainWindowConfigurator(const MainWindowConfigurator& other)
+    : d(std::make_unique<Private>(*other.d))
+{}
+
+MainWindowConfigurator& MainWindowConfigurator::operator=(const MainWindowConfigurator& other)
+{
+    *d = *other.d;
+    return *this;
+}
+
 MainWindowConfigurator::~MainWindowConfigurator() = default;
 
 MainWindowConfigurator& MainWindowConfigurator::withActiveDockWidgetSupport(bool enabled)
 {
-    m_activeDockWidgetSupport = enabled;
+    d->activeDockWidgetSupport = enabled;
     return *this;
 }
 
 MainWindowConfigurator& MainWindowConfigurator::withAutoHideSupport(QFlags<Qt::ToolBarArea> areas)
 {
-    m_autoHideAreas = areas;
+    d->autoHideAreas = areas;
     return *this;
 }
 
 MainWindowConfigurator&
 MainWindowConfigurator::withDockOptions(QFlags<QMainWindow::DockOption> options)
 {
-    m_dockOptions = options;
+    d->dockOptions = options;
     return *this;
 }
 
 MainWindowConfigurator& MainWindowConfigurator::withDocumentMode(bool enabled)
 {
-    m_documentMode = enabled;
+    d->documentMode = enabled;
     return *this;
 }
 
 MainWindowConfigurator& MainWindowConfigurator::withTabifySupport(QFlags<Qt::DockWidgetArea> areas)
 {
-    m_tabifyAreas = areas;
+    d->tabifyAreas = areas;
     return *this;
 }
 
@@ -65,19 +91,19 @@ MainWindowConfigurator& MainWindowConfigurator::withTabPosition(QFlags<Qt::DockW
 {
     const QList<Qt::DockWidgetArea> singleAreas = listDockWidgetAreas(areas);
     for (const Qt::DockWidgetArea area : singleAreas)
-        m_tabPositions.insert(area, position);
+        d->tabPositions.insert(area, position);
     return *this;
 }
 
 MainWindowConfigurator& MainWindowConfigurator::withTabShape(QTabWidget::TabShape shape)
 {
-    m_tabShape = shape;
+    d->tabShape = shape;
     return *this;
 }
 
 MainWindowConfigurator& MainWindowConfigurator::withTileSupport(QFlags<Qt::DockWidgetArea> areas)
 {
-    m_tileAreas = areas;
+    d->tileAreas = areas;
     return *this;
 }
 
@@ -88,20 +114,20 @@ const MainWindowConfigurator& MainWindowConfigurator::configure(QMainWindow& mai
                                                                 const QString& windowIconText) const
 {
     applyWindowIdentity(mainWindow, objectName, windowTitle, windowIcon, windowIconText);
-    if (m_dockOptions)
-        mainWindow.setDockOptions(*m_dockOptions);
-    if (m_documentMode)
-        mainWindow.setDocumentMode(*m_documentMode);
-    for (auto entry = m_tabPositions.cbegin(); entry != m_tabPositions.cend(); ++entry)
+    if (d->dockOptions)
+        mainWindow.setDockOptions(*d->dockOptions);
+    if (d->documentMode)
+        mainWindow.setDocumentMode(*d->documentMode);
+    for (auto entry = d->tabPositions.cbegin(); entry != d->tabPositions.cend(); ++entry)
         mainWindow.setTabPosition(entry.key(), entry.value());
-    if (m_tabShape)
-        mainWindow.setTabShape(*m_tabShape);
+    if (d->tabShape)
+        mainWindow.setTabShape(*d->tabShape);
     CoveredDocks::install(mainWindow);
-    if (m_activeDockWidgetSupport)
+    if (d->activeDockWidgetSupport)
         ActiveDockWidgetSupport::install(mainWindow);
-    installFor<AutoHideSupport>(mainWindow, m_autoHideAreas);
-    installFor<TabifySupport>(mainWindow, m_tabifyAreas);
-    installFor<TileSupport>(mainWindow, m_tileAreas);
+    installFor<AutoHideSupport>(mainWindow, d->autoHideAreas);
+    installFor<TabifySupport>(mainWindow, d->tabifyAreas);
+    installFor<TileSupport>(mainWindow, d->tileAreas);
     return *this;
 }
 

@@ -5,11 +5,10 @@
 
 #include <QIcon>
 #include <QMainWindow>
-#include <QMap>
 #include <QString>
 #include <QTabWidget>
 
-#include <optional>
+#include <memory>
 
 namespace QMainWindowHelpers {
 
@@ -51,14 +50,8 @@ public:
                                             const QString& windowIconText = {}) const;
 
 private:
-    bool m_activeDockWidgetSupport = false;
-    std::optional<QFlags<Qt::ToolBarArea>> m_autoHideAreas;
-    std::optional<QFlags<QMainWindow::DockOption>> m_dockOptions;
-    std::optional<bool> m_documentMode;
-    std::optional<QFlags<Qt::DockWidgetArea>> m_tabifyAreas;
-    QMap<Qt::DockWidgetArea, QTabWidget::TabPosition> m_tabPositions;
-    std::optional<QTabWidget::TabShape> m_tabShape;
-    std::optional<QFlags<Qt::DockWidgetArea>> m_tileAreas;
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace QMainWindowHelpers

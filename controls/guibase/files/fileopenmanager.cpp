@@ -20,42 +20,64 @@ constexpr char sourceModule[] = "controls/guibase/fileopenmanager";
 
 } // namespace
 
+struct FileOpenManager::Private
+{
+    IFileOpener* opener;
+    QString filter;
+    int maxCount;
+    ICfg* cfg;
+    std::unique_ptr<RecentFilesMenu> menu;
+    std::weak_ptr<const void> openerLifetime{};
+    int menuPosition = 0;
+    /// The entry whose file the manager has just opened; only to compare with.
+    const QAction* justOpened = nullptr;
+    std::unique_ptr<LruStringListController> controller{};
+    QString lastDirectory{};
+};
+
 FileOpenManager::FileOpenManager(IFileOpener* opener, const QString& filter, QMenu* menu,
                                  int maxCount, ICfg* cfg)
-    : m_opener(opener)
-    , m_filter(filter)
-    , m_maxCount(maxCount)
-    , m_cfg(cfg)
-    , m_menu(std::make_unique<RecentFilesMenu>(menu))
+    : d(std::make_unique<Private>(
+          Private{opener, filter, maxCount, cfg, std::make_unique<RecentFilesMenu>(menu)}))
 {
     if (opener != nullptr)
-        m_openerLifetime = opener->lifetime();
+        d->openerLifetime = opener->lifetime();
     if (cfg != nullptr && !cfg->GetBool(QStringLiteral("UseNativeDialogs"), true))
-        m_lastDirectory = QDir::currentPath();
+        d->lastDirectory = QDir::currentPath();
     if (menu == nullptr)
         return;
     connect(menu, &QMenu::triggered, this, [this](QAction* action) {
-        if (m_menu->isEntry(action))
+        if (d->menu->isEntry(action))
             openTriggered(action);
     });
 }
 
 FileOpenManager::~FileOpenManager()
 {
-    m_controller.reset(); // It may call this object until then.
+    d->controller.reset(); // It may call this object until then.
 }
 
 void FileOpenManager::InitMenu(int position)
 {
-    m_menuPosition = position;
-    if (m_controller != nullptr) {
+    d->menuPosition = position;
+    if (d->controller != nullptr) {
         ErrorHandler::Assertion("NULL == m_pLruCtrl", sourceModule, __LINE__);
         return;
     }
-    m_menu->setPosition(position);
-    m_controller = std::make_unique<LruStringListController>(this, m_maxCount, m_cfg,
-                                                             QStringLiteral("RecentFile"));
-    m_controller->Init();
+    d->menu->setPosition(position);
+    d->controller = std::make_unique<LruStringListController>(this, d->maxCount, d->cfg,
+                                                              QStringLiteral("RecentFile"));
+    d->controller->Init();
+}
+
+int FileOpenManager::menuPosition() const
+{
+    return d->menuPosition;
+}
+
+void FileOpenManager::setLastDirectory(const QString& path)
+{
+    d->lastDirectory = path;
 }
 
 void FileOpenManager::addRecentFile(const QString& name)
@@ -65,29 +87,29 @@ void FileOpenManager::addRecentFile(const QString& name)
 
 void FileOpenManager::removeRecentFile(const QString& name)
 {
-    if (m_controller == nullptr)
+    if (d->controller == nullptr)
         return;
-    m_controller->Erase(name);
-    m_controller->Save();
+    d->controller->Erase(name);
+    d->controller->Save();
 }
 
 void FileOpenManager::InsertItem(int index, const QString& name)
 {
-    m_menu->insert(index, name);
+    d->menu->insert(index, name);
 }
 
 void FileOpenManager::RemoveItem(int index)
 {
-    m_menu->remove(index);
+    d->menu->remove(index);
 }
 
 // Saved at once: the file may take the program down.
 QString FileOpenManager::select(const QString& name)
 {
-    if (m_controller == nullptr || m_maxCount < 1)
+    if (d->controller == nullptr || d->maxCount < 1)
         return name;
-    const QString selected = m_controller->Select(name);
-    m_controller->Save();
+    const QString selected = d->controller->Select(name);
+    d->controller->Save();
     return selected;
 }
 
@@ -100,24 +122,24 @@ QString FileOpenManager::askForFile(Purpose purpose)
     } else {
         question.title = tr("File Open Dialog");
     }
-    question.startAt = m_lastDirectory;
-    question.filter = m_filter;
+    question.startAt = d->lastDirectory;
+    question.filter = d->filter;
     const QPointer<FileOpenManager> guard(this);
     const QString name = ModalDialogs::askForFile(nullptr, question);
     if (guard && !name.isEmpty())
-        m_lastDirectory = QDir::cleanPath(name);
+        d->lastDirectory = QDir::cleanPath(name);
     return guard ? name : QString();
 }
 
 void FileOpenManager::SlotOpen()
 {
-    if (m_openerLifetime.expired())
+    if (d->openerLifetime.expired())
         return;
     const QString name = askForFile(Purpose::Open);
-    if (name.isEmpty() || m_openerLifetime.expired())
+    if (name.isEmpty() || d->openerLifetime.expired())
         return;
     select(name);
-    m_opener->Open(name);
+    d->opener->Open(name);
 }
 
 void FileOpenManager::openTriggered(QAction* action)
@@ -127,30 +149,30 @@ void FileOpenManager::openTriggered(QAction* action)
     if (!guard)
         return;
     // Connections of the application to the same signal are called next.
-    m_justOpened = action;
+    d->justOpened = action;
     QMetaObject::invokeMethod(
-        this, [this] { m_justOpened = nullptr; }, Qt::QueuedConnection);
+        this, [this] { d->justOpened = nullptr; }, Qt::QueuedConnection);
 }
 
 void FileOpenManager::SlotOpen(QAction* action)
 {
-    if (action != nullptr && action == m_justOpened) {
-        m_justOpened = nullptr;
+    if (action != nullptr && action == d->justOpened) {
+        d->justOpened = nullptr;
         return;
     }
-    if (action == nullptr || m_controller == nullptr || m_openerLifetime.expired())
+    if (action == nullptr || d->controller == nullptr || d->openerLifetime.expired())
         return;
     const QVariant data = action->data();
     if (data.typeId() != QMetaType::Int)
         return;
-    const QString name = select(m_controller->GetDisplayed(data.toInt()));
+    const QString name = select(d->controller->GetDisplayed(data.toInt()));
     if (!name.isEmpty())
-        m_opener->Open(name);
+        d->opener->Open(name);
 }
 
 void FileOpenManager::SlotSaveAs()
 {
-    if (m_openerLifetime.expired())
+    if (d->openerLifetime.expired())
         return;
     const QPointer<FileOpenManager> guard(this);
     QString name = askForFile(Purpose::SaveAs);
@@ -160,11 +182,11 @@ void FileOpenManager::SlotSaveAs()
         Q_EMIT signalNotSaved();
         return;
     }
-    if (!m_openerLifetime.expired())
-        m_opener->SaveAs(select(name));
+    if (!d->openerLifetime.expired())
+        d->opener->SaveAs(select(name));
 }
 
 QString FileOpenManager::AddFileExtension(QString name)
 {
-    return ModalDialogs::withExtension(name, m_filter);
+    return ModalDialogs::withExtension(name, d->filter);
 }

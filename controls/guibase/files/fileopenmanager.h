@@ -5,16 +5,13 @@
 #include <guibase/guibase_export.h>
 
 #include <QObject>
-#include <QPointer>
 
 #include <memory>
 
 class ICfg;
 class IFileOpener;
-class LruStringListController;
 class QAction;
 class QMenu;
-class RecentFilesMenu;
 
 /// Asks for the names of files to open and to save, and keeps the recent ones in a menu and in the
 /// configuration, under "RecentFile0", "RecentFile1", and so on; see LruStringListController.
@@ -41,7 +38,7 @@ public:
     /// front of the action that is at this position when they are first shown, a moment later; a
     /// position below 0 or behind the last action appends them.
     void InitMenu(int position);
-    int menuPosition() const { return m_menuPosition; }
+    int menuPosition() const;
 
     /// Makes the file the most recent one, for files that are opened in other ways. Like the next
     /// one it does nothing before InitMenu().
@@ -49,7 +46,7 @@ public:
     /// Takes the file out of the list, for files that are gone.
     void removeRecentFile(const QString& name);
     /// Where the next dialog starts: a folder, or a file that is proposed.
-    void setLastDirectory(const QString& path) { m_lastDirectory = path; }
+    void setLastDirectory(const QString& path);
 
     /// Adds the entry with the text "&<index + 1> <name>" behind those that were added before; long
     /// names are shortened while the menu is open.
@@ -83,15 +80,6 @@ private:
     QString askForFile(Purpose purpose);
     QString select(const QString& name);
 
-    IFileOpener* m_opener;
-    std::weak_ptr<const void> m_openerLifetime;
-    QString m_filter;
-    int m_menuPosition = 0;
-    int m_maxCount;
-    ICfg* m_cfg;
-    std::unique_ptr<RecentFilesMenu> m_menu;
-    /// The entry whose file the manager has just opened; only to compare with.
-    const QAction* m_justOpened = nullptr;
-    std::unique_ptr<LruStringListController> m_controller;
-    QString m_lastDirectory;
+    struct Private;
+    std::unique_ptr<Private> d;
 };

@@ -9,90 +9,99 @@
 
 using Operation = LruStringListStore::Operation;
 
+struct LruStringListController::Private
+{
+    ILruStringListDisplayer* displayer; ///< Not owned.
+    LruStringList list;
+    LruStringListStore store;
+    QStringList displayed{};
+    bool isScheduled = false;
+    bool isRetryScheduled = false;
+};
+
 LruStringListController::LruStringListController(ILruStringListDisplayer* displayer, int limit,
                                                  ICfg* cfg, const QString& keyPrefix)
-    : m_displayer(displayer)
-    , m_list(std::make_unique<LruStringList>(limit))
-    , m_store(std::make_unique<LruStringListStore>(cfg, keyPrefix))
+    : d(std::make_unique<Private>(
+          Private{displayer, LruStringList(limit), LruStringListStore(cfg, keyPrefix)}))
 {}
 
 LruStringListController::~LruStringListController()
 {
-    m_store->saveFinally(*m_list);
+    d->store.saveFinally(d->list);
 }
 
 void LruStringListController::Init()
 {
-    m_store->read(*m_list);
+    d->store.read(d->list);
     DisplayList();
 }
 
 QString LruStringListController::Select(const QString& text)
 {
     const QString selected = text;
-    m_store->apply(*m_list, Operation::Select, selected);
+    d->store.apply(d->list, Operation::Select, selected);
     DisplayList();
     return selected;
 }
 
 QString LruStringListController::Select(int index)
 {
-    return Select(m_list->At(index));
+    return Select(d->list.At(index));
 }
 
 void LruStringListController::Erase(const QString& text)
 {
-    m_store->apply(*m_list, Operation::Erase, text);
+    d->store.apply(d->list, Operation::Erase, text);
     DisplayList();
 }
 
 void LruStringListController::Erase(int index)
 {
-    Erase(m_list->At(index));
+    Erase(d->list.At(index));
 }
 
 int LruStringListController::GetCount() const
 {
-    return m_list->GetCount();
+    return d->list.GetCount();
 }
 
 QString LruStringListController::GetDisplayed(int index) const
 {
-    return m_displayed.value(index, m_list->At(index));
+    return d->displayed.value(index, d->list.At(index));
 }
 
 void LruStringListController::DisplayList()
 {
-    if (m_isScheduled)
+    if (d->isScheduled)
         return;
-    m_isScheduled = true;
+    d->isScheduled = true;
     QTimer::singleShot(displayDelay, this, &LruStringListController::SlotDisplayList);
 }
 
 void LruStringListController::Save()
 {
     constexpr int patience = 100;
-    if (!m_store->hasChanges() || m_store->save(*m_list, patience) || m_isRetryScheduled)
+    if (!d->store.hasChanges() || d->store.save(d->list, patience) || d->isRetryScheduled)
         return;
-    m_isRetryScheduled = true;
+    d->isRetryScheduled = true;
     QTimer::singleShot(retryDelay, this, [this] {
-        m_isRetryScheduled = false;
+        d->isRetryScheduled = false;
         Save();
     });
 }
 
 void LruStringListController::SlotDisplayList()
 {
-    m_isScheduled = false;
+    d->isScheduled = false;
     Save();
-    if (m_displayer == nullptr)
+    if (d->displayer == nullptr)
         return;
     // What the displayer does may reach the application, which may end the controller.
     const QPointer<LruStringListController> guard(this);
-    const auto shown = static_cast<int>(m_displayed.size());
-    const QStringList entries = m_displayed = m_list->GetStrings();
+    const auto shown = static_cast<int>(d->displayed.size());
+    const QStringList entries = d->displayed = d->list.GetStrings();
     for (int i = shown - 1; i >= 0 && guard; --i)
-        m_displayer->RemoveItem(i);
+        d->displayer->RemoveItem(i);
     for (int i = 0; i < static_cast<int>(entries.size()) && guard; ++i)
-        m_displayer->InsertItem(i, entries.at(i));
+        d->displayer->InsertItem(i, entries.at(i));
 }

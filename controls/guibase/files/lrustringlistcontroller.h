@@ -4,14 +4,12 @@
 #include <guibase/guibase_export.h>
 
 #include <QObject>
-#include <QStringList>
+#include <QString>
 
 #include <memory>
 
 class ICfg;
 class ILruStringListDisplayer;
-class LruStringList;
-class LruStringListStore;
 
 /// Shows a list of strings, most recently used first, and keeps it in the configuration under the
 /// keys "<key prefix>0", "<key prefix>1", and so on.
@@ -56,10 +54,6 @@ public Q_SLOTS:
     void SlotDisplayList();
 
 private:
-    ILruStringListDisplayer* m_displayer;
-    QStringList m_displayed;
-    std::unique_ptr<LruStringList> m_list;
-    std::unique_ptr<LruStringListStore> m_store;
-    bool m_isScheduled = false;
-    bool m_isRetryScheduled = false;
+    struct Private;
+    std::unique_ptr<Private> d;
 };

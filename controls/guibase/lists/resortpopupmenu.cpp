@@ -27,12 +27,19 @@ std::optional<int> idOf(const QAction& action)
 
 IUpdateMenu::~IUpdateMenu() = default;
 
+struct ResortPopupMenu::Private
+{
+    std::vector<IUpdateMenu*> updaters; ///< Not owned.
+    QPoint cursorPositionOnShow;
+};
+
 ResortPopupMenu::ResortPopupMenu()
     : ResortPopupMenu(nullptr, nullptr)
 {}
 
 ResortPopupMenu::ResortPopupMenu(QWidget* parent, const char* name)
     : QMenu(parent)
+    , d(std::make_unique<Private>())
 {
     if (name != nullptr)
         setObjectName(QString::fromUtf8(name));
@@ -291,17 +298,17 @@ void ResortPopupMenu::resortOnIndex()
 void ResortPopupMenu::NotifyBeforeShow(IUpdateMenu* updater)
 {
     if (updater != nullptr)
-        m_updaters.push_back(updater);
+        d->updaters.push_back(updater);
 }
 
 void ResortPopupMenu::StopNotify(IUpdateMenu* updater)
 {
-    std::erase(m_updaters, updater);
+    std::erase(d->updaters, updater);
 }
 
 QPoint ResortPopupMenu::GetCursorPosOnShow() const
 {
-    return m_cursorPositionOnShow;
+    return d->cursorPositionOnShow;
 }
 
 void ResortPopupMenu::slotSignalRouter(QAction* action)
@@ -314,12 +321,12 @@ void ResortPopupMenu::slotSignalRouter(QAction* action)
 
 void ResortPopupMenu::showEvent(QShowEvent* event)
 {
-    m_cursorPositionOnShow = QCursor::pos();
+    d->cursorPositionOnShow = QCursor::pos();
     // A copy, for an updater may add or remove updaters.
-    const std::vector<IUpdateMenu*> updaters = m_updaters;
+    const std::vector<IUpdateMenu*> updaters = d->updaters;
     const QSize placedSize = size();
     for (IUpdateMenu* updater : updaters) {
-        if (std::find(m_updaters.begin(), m_updaters.end(), updater) != m_updaters.end())
+        if (std::find(d->updaters.begin(), d->updaters.end(), updater) != d->updaters.end())
             updater->UpdateMenu(this);
     }
     // The toolkit has placed the menu with the entries it had before.

@@ -9,6 +9,7 @@
 #include <QPoint>
 #include <QString>
 
+#include <memory>
 #include <vector>
 
 class IUpdateMenu;
@@ -119,6 +120,6 @@ private:
     template <typename Change>
     void changeByText(const QString& text, Change change);
 
-    std::vector<IUpdateMenu*> m_updaters;
-    QPoint m_cursorPositionOnShow;
+    struct Private;
+    std::unique_ptr<Private> d;
 };

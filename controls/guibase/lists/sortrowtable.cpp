@@ -91,12 +91,19 @@ private:
 
 } // namespace
 
+struct SortRowTable::Private
+{
+    /// Insert or Delete from its press with modifiers, which may be let go first, to its release.
+    int modifiedKey = 0;
+};
+
 SortRowTable::SortRowTable(QWidget* parent, const char* name)
     : SortRowTable(0, 2, parent, name)
 {}
 
 SortRowTable::SortRowTable(int rows, int columns, QWidget* parent, const char* name)
     : QTableWidget(std::max(rows, 0), std::max(columns, 0), parent)
+    , d(std::make_unique<Private>())
 {
     init(name);
 }
@@ -337,10 +344,10 @@ bool SortRowTable::eventFilter(QObject* object, QEvent* event)
     const bool isOurs = key == Qt::Key_Delete || key == Qt::Key_Insert;
     const bool isModified = (keyEvent->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
     if (isOurs && type != QEvent::KeyRelease)
-        m_modifiedKey = isModified ? key : 0;
+        d->modifiedKey = isModified ? key : 0;
     if (!isOurs || type != QEvent::KeyRelease || keyEvent->isAutoRepeat())
         return QTableWidget::eventFilter(object, event);
-    const bool wasModified = std::exchange(m_modifiedKey, 0) == key;
+    const bool wasModified = std::exchange(d->modifiedKey, 0) == key;
     if (isModified || wasModified || state() == QAbstractItemView::EditingState)
         return QTableWidget::eventFilter(object, event);
     if (key == Qt::Key_Delete)

@@ -9,6 +9,8 @@
 #include <QString>
 #include <QTableWidget>
 
+#include <memory>
+
 /// A sortable table of frequencies and levels that the user fills row by row. Texts that are
 /// numbers (with a point or a comma, a unit behind a blank may follow) sort as numbers, before all
 /// other texts. Keys and pasting: docs/decisions/0012-keys-in-lists.md.
@@ -55,6 +57,6 @@ private:
     void removeRows(QList<QPersistentModelIndex> rows);
     QList<int> rowsToDelete() const;
 
-    /// Insert or Delete from its press with modifiers, which may be let go first, to its release.
-    int m_modifiedKey = 0;
+    struct Private;
+    std::unique_ptr<Private> d;
 };

@@ -14,23 +14,37 @@
 #include <algorithm>
 #include <utility>
 
-Splitter::Splitter(QWidget* parent)
-    : QSplitter(parent)
+/// The indices of the shown widgets before and after a handle, -1 where there is none.
+struct Splitter::Neighbours
 {
-    init();
-}
+    int before = -1;
+    int after = -1;
+    bool isComplete() const { return before >= 0 && after >= 0; }
+};
+
+struct Splitter::Private
+{
+    QString name;
+    QString variant;
+    QList<int> awaitedSizes; ///< For widgets that are added next.
+    QList<int> sizesBeforeMove;
+    int placedWidgets = 0;
+};
+
+Splitter::Splitter(QWidget* parent)
+    : Splitter(Qt::Horizontal, parent)
+{}
 
 Splitter::Splitter(Qt::Orientation orientation, QWidget* parent)
-    : QSplitter(orientation, parent)
-{
-    init();
-}
+    : Splitter(orientation, parent, {}, {})
+{}
 
 Splitter::Splitter(Qt::Orientation orientation, QWidget* parent, const QString& objectName,
                    const QString& name)
     : QSplitter(orientation, parent)
-    , m_name(name)
+    , d(std::make_unique<Private>())
 {
+    d->name = name;
     setObjectName(objectName);
     init();
 }
@@ -46,7 +60,7 @@ void Splitter::init()
 
 void Splitter::setSizes(const QList<int>& sizes)
 {
-    m_awaitedSizes = sizes.size() > count() ? sizes : QList<int>();
+    d->awaitedSizes = sizes.size() > count() ? sizes : QList<int>();
     QSplitter::setSizes(withHints(sizes));
 }
 
@@ -83,7 +97,7 @@ void Splitter::childEvent(QChildEvent* event)
 {
     QSplitter::childEvent(event);
     if (event->removed())
-        m_placedWidgets = std::min(m_placedWidgets, count());
+        d->placedWidgets = std::min(d->placedWidgets, count());
     else if (event->added() && event->child()->isWidgetType())
         QTimerHelpers::singleShot(0, this, [this] { placeNewWidgets(); });
     else if (event->polished())
@@ -92,19 +106,19 @@ void Splitter::childEvent(QChildEvent* event)
 
 void Splitter::placeNewWidgets()
 {
-    if (count() <= m_placedWidgets)
+    if (count() <= d->placedWidgets)
         return;
-    const bool isFirst = m_placedWidgets == 0;
-    m_placedWidgets = count();
+    const bool isFirst = d->placedWidgets == 0;
+    d->placedWidgets = count();
     if (isFirst)
         applyStored();
-    else if (!m_awaitedSizes.isEmpty())
-        setSizes(QList<int>(m_awaitedSizes));
+    else if (!d->awaitedSizes.isEmpty())
+        setSizes(QList<int>(d->awaitedSizes));
 }
 
 void Splitter::setVariant(const QString& variant)
 {
-    m_variant = variant;
+    d->variant = variant;
     const QObjectList all = children();
     for (QObject* child : all) {
         if (auto* splitter = qobject_cast<Splitter*>(child))
@@ -115,22 +129,22 @@ void Splitter::setVariant(const QString& variant)
 
 void Splitter::applyStored()
 {
-    if (m_name.isEmpty())
+    if (d->name.isEmpty())
         return;
-    GuiBase::Instance().ApplySplitterSizes4(m_name + m_variant, this);
+    GuiBase::Instance().ApplySplitterSizes4(d->name + d->variant, this);
     // Stored states tell how they were resized, too.
     setOpaqueResize(false);
 }
 
 void Splitter::beginMove()
 {
-    m_sizesBeforeMove = SplitterStateCheck::sizes(saveState()).value_or(QList<int>());
+    d->sizesBeforeMove = SplitterStateCheck::sizes(saveState()).value_or(QList<int>());
 }
 
 /// The toolkit takes hidden widgets for collapsed ones when the mouse moves a handle.
 void Splitter::keepHiddenSizes()
 {
-    const QList<int> before = std::exchange(m_sizesBeforeMove, {});
+    const QList<int> before = std::exchange(d->sizesBeforeMove, {});
     QList<int> all = sizes();
     bool isChanged = false;
     for (int i = 0; i < std::min(before.size(), all.size()); ++i) {
@@ -145,10 +159,10 @@ void Splitter::keepHiddenSizes()
 
 void Splitter::slotKeepSettings(int, int)
 {
-    m_awaitedSizes.clear();
+    d->awaitedSizes.clear();
     keepHiddenSizes();
-    if (!m_name.isEmpty())
-        GuiBase::Instance().StoreSplitterSizes4(m_name + m_variant, this);
+    if (!d->name.isEmpty())
+        GuiBase::Instance().StoreSplitterSizes4(d->name + d->variant, this);
 }
 
 void Splitter::showEvent(QShowEvent* event)

@@ -6,6 +6,8 @@
 #include <QSplitter>
 #include <QString>
 
+#include <memory>
+
 /// A splitter that keeps its positions from run to run, under its name followed by its variant.
 ///
 /// Positions are stored whenever the user moves a handle, and come back when the splitter gets its
@@ -53,13 +55,8 @@ protected:
     QSplitterHandle* createHandle() override;
 
 private:
-    /// The indices of the shown widgets before and after a handle, -1 where there is none.
-    struct Neighbours
-    {
-        int before = -1;
-        int after = -1;
-        bool isComplete() const { return before >= 0 && after >= 0; }
-    };
+    struct Neighbours;
+    struct Private;
 
     Neighbours neighbours(int index) const;
     int minimumSizeOf(int widgetIndex) const;
@@ -69,9 +66,5 @@ private:
     void placeNewWidgets();
     void keepHiddenSizes();
 
-    QString m_name;
-    QString m_variant;
-    QList<int> m_awaitedSizes;
-    QList<int> m_sizesBeforeMove;
-    int m_placedWidgets = 0;
+    std::unique_ptr<Private> d;
 };

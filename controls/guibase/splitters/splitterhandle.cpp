@@ -13,13 +13,19 @@ constexpr int farther = 1 << 16; // than any splitter is long
 
 } // namespace
 
+struct SplitterHandle::Private
+{
+    Splitter* splitter; ///< The parent. Null when that is a splitter of another class.
+    bool isPressed = false;
+};
+
 SplitterHandle::SplitterHandle(Qt::Orientation orientation, QSplitter* parent)
     : QSplitterHandle(orientation, parent)
-    , m_splitter(qobject_cast<Splitter*>(parent))
+    , d(std::make_unique<Private>(Private{qobject_cast<Splitter*>(parent)}))
 {
     setAttribute(Qt::WA_Hover);
     setAccessibleName(tr("Divider"));
-    if (m_splitter == nullptr)
+    if (d->splitter == nullptr)
         return;
     setFocusPolicy(Qt::TabFocus);
     setAccessibleDescription(
@@ -37,7 +43,7 @@ void SplitterHandle::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const bool isActive = m_isPressed || underMouse() || hasFocus();
+    const bool isActive = d->isPressed || underMouse() || hasFocus();
     QColor color = palette().color(isActive ? QPalette::Highlight : QPalette::WindowText);
     if (!isActive)
         color.setAlphaF(0.55F);
@@ -58,7 +64,7 @@ void SplitterHandle::paintEvent(QPaintEvent* event)
 
 void SplitterHandle::setPressed(bool pressed)
 {
-    m_isPressed = pressed;
+    d->isPressed = pressed;
     update();
 }
 
@@ -67,15 +73,15 @@ void SplitterHandle::mousePressEvent(QMouseEvent* event)
     QSplitterHandle::mousePressEvent(event);
     if (event->button() != Qt::LeftButton)
         return;
-    if (m_splitter != nullptr)
-        m_splitter->beginMove();
+    if (d->splitter != nullptr)
+        d->splitter->beginMove();
     setPressed(true);
 }
 
 void SplitterHandle::mouseReleaseEvent(QMouseEvent* event)
 {
     // After a double click there is no drag to end: the base would move the handle to the mouse.
-    if (m_isPressed)
+    if (d->isPressed)
         QSplitterHandle::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton)
         setPressed(false);
@@ -83,8 +89,8 @@ void SplitterHandle::mouseReleaseEvent(QMouseEvent* event)
 
 void SplitterHandle::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (m_splitter != nullptr && event->button() == Qt::LeftButton) {
-        m_splitter->equalizeNeighbours(m_splitter->indexOf(this));
+    if (d->splitter != nullptr && event->button() == Qt::LeftButton) {
+        d->splitter->equalizeNeighbours(d->splitter->indexOf(this));
         event->accept();
     } else {
         QSplitterHandle::mouseDoubleClickEvent(event);
@@ -118,14 +124,14 @@ void SplitterHandle::keyPressEvent(QKeyEvent* event)
 {
     const int shift = shiftFor(*event);
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (m_splitter == nullptr || (shift == 0 && !isEnter)) {
+    if (d->splitter == nullptr || (shift == 0 && !isEnter)) {
         QSplitterHandle::keyPressEvent(event);
         return;
     }
-    const int index = m_splitter->indexOf(this);
+    const int index = d->splitter->indexOf(this);
     if (isEnter)
-        m_splitter->equalizeNeighbours(index);
+        d->splitter->equalizeNeighbours(index);
     else
-        m_splitter->shiftHandle(index, shift);
+        d->splitter->shiftHandle(index, shift);
     event->accept();
 }

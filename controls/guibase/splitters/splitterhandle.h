@@ -5,7 +5,7 @@
 
 #include <QSplitterHandle>
 
-class Splitter;
+#include <memory>
 
 /// The handle of a Splitter: shows a grip where to drag, and works with the keyboard too.
 ///
@@ -33,6 +33,6 @@ private:
     int shiftFor(const QKeyEvent& event) const;
     void setPressed(bool pressed);
 
-    Splitter* m_splitter; ///< Null in a splitter of another class. The parent.
-    bool m_isPressed = false;
+    struct Private;
+    std::unique_ptr<Private> d;
 };

@@ -4,13 +4,12 @@
 #include <guibase/files/ilrustringlistdisplayer.h>
 #include <guibase/guibase_export.h>
 
-#include <QPointer>
+#include <QString>
 #include <QWidget>
 
 #include <memory>
 
 class ICfg;
-class LruStringListController;
 class QComboBox;
 
 /// Fills a combo box with the texts that were chosen in it, most recent first, and keeps them in
@@ -33,6 +32,6 @@ public Q_SLOTS:
     void Select(const QString& text);
 
 private:
-    QPointer<QComboBox> m_combo;
-    std::unique_ptr<LruStringListController> m_controller;
+    struct Private;
+    std::unique_ptr<Private> d;
 };

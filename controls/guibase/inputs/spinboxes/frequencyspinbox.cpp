@@ -10,8 +10,15 @@
 
 namespace SpinBoxes {
 
+struct FrequencySpinBox::Private
+{
+    std::unique_ptr<SelectionFollower> follower;
+    bool isUnitPending = false;
+};
+
 FrequencySpinBox::FrequencySpinBox(QWidget* parent)
     : Int64SpinBox(parent)
+    , m_d(std::make_unique<Private>())
 {
     using enum UnitPrefix::ESuffix;
     for (const UnitPrefix::ESuffix unit : {BaseUnit, Kilo, Mega, Giga})
@@ -27,13 +34,18 @@ FrequencySpinBox::FrequencySpinBox(QWidget* parent)
 
 FrequencySpinBox::~FrequencySpinBox() = default;
 
+bool FrequencySpinBox::isFollowingFrequencyUnit() const
+{
+    return m_d->follower != nullptr;
+}
+
 void FrequencySpinBox::setFollowingFrequencyUnit(bool follow)
 {
-    m_follower.reset();
+    m_d->follower.reset();
     if (!follow)
         return;
-    m_follower = std::make_unique<SelectionFollower>(GuiBase::Instance().GetFrequencyUnit(),
-                                                     [this] { adoptFrequencyUnit(); });
+    m_d->follower = std::make_unique<SelectionFollower>(GuiBase::Instance().GetFrequencyUnit(),
+                                                        [this] { adoptFrequencyUnit(); });
     adoptFrequencyUnit();
 }
 
@@ -41,15 +53,15 @@ void FrequencySpinBox::interpret()
 {
     const QPointer<QObject> guard(this);
     Int64SpinBox::interpret();
-    if (guard && m_isUnitPending && isFollowingFrequencyUnit())
+    if (guard && m_d->isUnitPending && isFollowingFrequencyUnit())
         adoptFrequencyUnit();
 }
 
 void FrequencySpinBox::adoptFrequencyUnit()
 {
     // What is being typed counts in the unit that is shown.
-    m_isUnitPending = isTextChanged();
-    if (m_isUnitPending)
+    m_d->isUnitPending = isTextChanged();
+    if (m_d->isUnitPending)
         return;
     const double unit = GuiBase::Instance().GetFrequencyUnit()->GetValue();
     setCurrentDisplayFormatIndex(static_cast<int>(unit) - UnitPrefix::BaseUnit);

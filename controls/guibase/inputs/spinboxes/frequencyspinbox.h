@@ -6,8 +6,6 @@
 
 #include <memory>
 
-class SelectionFollower;
-
 namespace SpinBoxes {
 
 /// Enters a frequency as a whole number of hertz, exactly, in the application's frequency unit.
@@ -28,7 +26,7 @@ public:
     static constexpr qint64 defaultStep = 1000;               ///< Hz
 
     /// Whether the unit follows the application's one; true at first. Setting it adopts that unit.
-    bool isFollowingFrequencyUnit() const { return m_follower != nullptr; }
+    bool isFollowingFrequencyUnit() const;
     void setFollowingFrequencyUnit(bool follow);
 
     void interpret() override;
@@ -36,8 +34,8 @@ public:
 private:
     void adoptFrequencyUnit();
 
-    std::unique_ptr<SelectionFollower> m_follower;
-    bool m_isUnitPending = false;
+    struct Private;
+    std::unique_ptr<Private> m_d;
 };
 
 } // namespace SpinBoxes

@@ -31,8 +31,15 @@ int baseOf(const ValueDisplayFormatBase<T>* format)
 namespace SpinBoxes {
 
 template <typename T>
+struct NumberSpinBoxBase<T>::Private
+{
+    T singleStep = T(1);
+};
+
+template <typename T>
 NumberSpinBoxBase<T>::NumberSpinBoxBase(QWidget* parent)
     : SpinBoxBase<T>(parent)
+    , m_d(std::make_unique<Private>())
 {
     this->setAlignment(Qt::AlignRight); // As combo boxes for numbers are.
 }
@@ -41,29 +48,35 @@ template <typename T>
 NumberSpinBoxBase<T>::~NumberSpinBoxBase() = default;
 
 template <typename T>
+T NumberSpinBoxBase<T>::singleStep() const
+{
+    return m_d->singleStep;
+}
+
+template <typename T>
 void NumberSpinBoxBase<T>::setSingleStep(T step)
 {
     if constexpr (std::is_same_v<T, double>) {
         if (!std::isfinite(step))
             return;
     }
-    if (step == m_singleStep)
+    if (step == m_d->singleStep)
         return;
-    m_singleStep = step;
+    m_d->singleStep = step;
     singleStepChanged(step);
 }
 
 template <typename T>
 T NumberSpinBoxBase<T>::normalizeValueToMultipleOfStep(T value) const
 {
-    return StepArithmetic::nearestMultiple(value, m_singleStep);
+    return StepArithmetic::nearestMultiple(value, m_d->singleStep);
 }
 
 template <typename T>
 void NumberSpinBoxBase<T>::stepBy(int steps)
 {
     if (this->interpretIfTextChanged())
-        step(steps, m_singleStep);
+        step(steps, m_d->singleStep);
 }
 
 template <typename T>
@@ -109,8 +122,9 @@ void NumberSpinBoxBase<T>::stepAtCursor(int steps)
 template <typename T>
 QVariant NumberSpinBoxBase<T>::inputQuantity(TypedInput::Quantity quantity) const
 {
-    return quantity == TypedInput::Quantity::SingleStep ? TypedInputVariant::toVariant(m_singleStep)
-                                                        : SpinBoxBase<T>::inputQuantity(quantity);
+    return quantity == TypedInput::Quantity::SingleStep
+               ? TypedInputVariant::toVariant(m_d->singleStep)
+               : SpinBoxBase<T>::inputQuantity(quantity);
 }
 
 #define INSTANTIATE(T) template class NumberSpinBoxBase<T>;

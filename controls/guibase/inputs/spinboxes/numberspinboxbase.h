@@ -3,6 +3,8 @@
 
 #include <guibase/inputs/spinboxes/spinboxbase.h>
 
+#include <memory>
+
 namespace SpinBoxes {
 
 /// A spin box for numbers: it adds the single step, and the rounding to a multiple of it. Numbers
@@ -14,7 +16,7 @@ public:
     ~NumberSpinBoxBase() override;
 
     /// 1 at first.
-    T singleStep() const { return m_singleStep; }
+    T singleStep() const;
     /// Does not round the value anew. NaN and infinity are ignored.
     void setSingleStep(T step);
 
@@ -40,7 +42,8 @@ protected:
 private:
     void step(qint64 steps, T size);
 
-    T m_singleStep = T(1);
+    struct Private;
+    std::unique_ptr<Private> m_d;
 };
 
 #define GUIBASE_EXTERN_SPIN_BOX(T) extern template class NumberSpinBoxBase<T>;

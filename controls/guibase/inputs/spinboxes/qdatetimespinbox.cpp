@@ -29,11 +29,19 @@ QString patternOf(const ValueDisplayFormatBase<QDateTime>& format)
 
 } // namespace
 
+struct QDateTimeSpinBox::Private
+{
+    explicit Private(QDateTimeSpinBox& box)
+        : follower(GuiBase::Instance().GetTimeZone(), [&box] { box.adoptTimeZone(); })
+    {}
+
+    bool isUtc = isUtcChosen(); ///< The zone that is shown.
+    SelectionFollower follower;
+};
+
 QDateTimeSpinBox::QDateTimeSpinBox(QWidget* parent)
     : SpinBoxBase<QDateTime>(parent)
-    , m_isUtc(isUtcChosen())
-    , m_follower(std::make_unique<SelectionFollower>(GuiBase::Instance().GetTimeZone(),
-                                                     [this] { adoptTimeZone(); }))
+    , m_d(std::make_unique<Private>(*this))
 {}
 
 QDateTimeSpinBox::~QDateTimeSpinBox() = default;
@@ -43,7 +51,7 @@ void QDateTimeSpinBox::adoptTimeZone()
     // What is being typed counts in the zone that is shown.
     if (isTextChanged())
         return;
-    m_isUtc = isUtcChosen();
+    m_d->isUtc = isUtcChosen();
     updateEdit();
 }
 
@@ -51,13 +59,13 @@ void QDateTimeSpinBox::interpret()
 {
     const QPointer<QObject> guard(this);
     SpinBoxBase<QDateTime>::interpret();
-    if (guard && m_isUtc != isUtcChosen())
+    if (guard && m_d->isUtc != isUtcChosen())
         adoptTimeZone();
 }
 
 QDateTime QDateTimeSpinBox::inShownZone(const QDateTime& time) const
 {
-    return m_isUtc ? time.toUTC() : time.toLocalTime();
+    return m_d->isUtc ? time.toUTC() : time.toLocalTime();
 }
 
 QString QDateTimeSpinBox::textFromValue(QDateTime value) const
@@ -74,8 +82,8 @@ QDateTimeSpinBox::Reading QDateTimeSpinBox::readText(const QString& text) const
     Reading reading = SpinBoxBase<QDateTime>::readText(text);
     // Formats of the application's own class know nothing of the zone.
     const auto* format = displayFormats().current(reading.index);
-    if (reading.outcome == Reading::Read && reading.value.timeSpec() == Qt::LocalTime && m_isUtc &&
-        dynamic_cast<const QDateTimeDisplayFormat*>(format) == nullptr)
+    if (reading.outcome == Reading::Read && reading.value.timeSpec() == Qt::LocalTime &&
+        m_d->isUtc && dynamic_cast<const QDateTimeDisplayFormat*>(format) == nullptr)
         reading.value.setTimeSpec(Qt::UTC);
     return reading;
 }

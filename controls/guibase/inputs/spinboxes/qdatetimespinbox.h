@@ -6,8 +6,6 @@
 
 #include <memory>
 
-class SelectionFollower;
-
 namespace SpinBoxes {
 
 /// Enters a point in time, shown in the time zone that the application has chosen
@@ -36,8 +34,8 @@ private:
     void adoptTimeZone();
     QDateTime inShownZone(const QDateTime& time) const;
 
-    bool m_isUtc; ///< The zone that is shown.
-    std::unique_ptr<SelectionFollower> m_follower;
+    struct Private;
+    std::unique_ptr<Private> m_d;
 };
 
 } // namespace SpinBoxes
