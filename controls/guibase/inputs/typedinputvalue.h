@@ -16,7 +16,7 @@
 #include <type_traits>
 #include <utility>
 
-/// The value of a typed input with its range and its formats. It knows no widgets.
+/// The value of a typed input with its range and its formats.
 template <typename T>
 class TypedInputValue
 {
@@ -51,11 +51,16 @@ public:
     /// Invalid for the single step.
     QVariant quantity(TypedInput::Quantity quantity) const;
 
+    /// Makes this the value, shows it and tells of it, of which the input may die. `Input` has
+    /// body() and the signal.
+    template <typename Input>
+    void moveTo(Input& input, T other, bool maySwitchFormat = false);
+
     /// Takes the bounds in any order; does nothing when one is no value. A value outside the range
     /// moves to the nearer bound, below the minimum to `special` if there is one. The input tells
     /// of all changes, and may die of it.
     ///
-    /// `Input` has moveTo(T), adoptRange(), and the signals of the range.
+    /// `Input` has body(), adoptRange() and the signals.
     template <typename Input>
     void setRange(Input& input, T first, T second, const std::optional<T>& special = {});
 
@@ -102,6 +107,21 @@ QVariant TypedInputValue<T>::quantity(TypedInput::Quantity quantity) const
 
 template <typename T>
 template <typename Input>
+void TypedInputValue<T>::moveTo(Input& input, T other, bool maySwitchFormat)
+{
+    const QPointer<QObject> guard(&input);
+    value = other;
+    input.body().mark.clear();
+    if (maySwitchFormat)
+        input.body().formats.switchIfAutomatic();
+    if (!guard)
+        return;
+    input.body().showNewValue();
+    input.valueChanged(other);
+}
+
+template <typename T>
+template <typename Input>
 void TypedInputValue<T>::setRange(Input& input, T first, T second, const std::optional<T>& special)
 {
     if (!isValue(first) || !isValue(second))
@@ -117,13 +137,13 @@ void TypedInputValue<T>::setRange(Input& input, T first, T second, const std::op
     const QPointer<QObject> guard(&input);
     if (isMinimumChanged) {
         if (value < minimum)
-            input.moveTo(special.value_or(minimum));
+            moveTo(input, special.value_or(minimum));
         if (guard)
             input.minimumChanged(minimum);
     }
     if (guard && isMaximumChanged) {
         if (maximum < value)
-            input.moveTo(maximum);
+            moveTo(input, maximum);
         if (guard)
             input.maximumChanged(maximum);
     }

@@ -71,6 +71,7 @@ T NumberComboBoxBase<T>::maximum() const
 template <typename T>
 void NumberComboBoxBase<T>::setValue(T value)
 {
+    constexpr bool maySwitchFormat = true;
     if (!m_d->isValue(value))
         return;
     if (hasSpecialValue() && value < m_d->minimum)
@@ -83,23 +84,7 @@ void NumberComboBoxBase<T>::setValue(T value)
         const QSignalBlocker blocker(this);
         selectClosestIndexForValue(value);
     }
-    m_d->value = value;
-    body().mark.clear();
-    const QPointer<QObject> guard(this);
-    body().formats.switchIfAutomatic();
-    if (!guard)
-        return;
-    body().showNewValue();
-    valueChanged(value);
-}
-
-template <typename T>
-void NumberComboBoxBase<T>::moveTo(T value)
-{
-    m_d->value = value;
-    body().mark.clear();
-    body().showNewValue();
-    valueChanged(value);
+    m_d->moveTo(*this, value, maySwitchFormat);
 }
 
 template <typename T>

@@ -104,7 +104,6 @@ private:
     bool hasSpecialValue() const { return !specialValueText().isEmpty(); }
     bool isSpecialText(const QString& text) const;
     Reading readText(const QString& text) const;
-    void moveTo(T value);
     void adoptRange() {}
     void readItems();
 

@@ -98,6 +98,7 @@ T SpinBoxBase<T>::normalizeValueToMultipleOfStep(T value) const
 template <typename T>
 void SpinBoxBase<T>::setValue(T value)
 {
+    constexpr bool maySwitchFormat = true;
     if (!m_d->isValue(value))
         return;
     value = normalized(value);
@@ -108,23 +109,7 @@ void SpinBoxBase<T>::setValue(T value)
             return;
         value = value < m_d->minimum ? m_d->minimum : m_d->maximum;
     }
-    m_d->value = value;
-    body().mark.clear();
-    const QPointer<QObject> guard(this);
-    body().formats.switchIfAutomatic();
-    if (!guard)
-        return;
-    body().showNewValue();
-    valueChanged(value);
-}
-
-template <typename T>
-void SpinBoxBase<T>::moveTo(T value)
-{
-    m_d->value = value;
-    body().mark.clear();
-    body().showNewValue();
-    valueChanged(value);
+    m_d->moveTo(*this, value, maySwitchFormat);
 }
 
 template <typename T>

@@ -103,7 +103,6 @@ private:
     friend class TypedInputValue<T>;
     struct Private;
 
-    void moveTo(T value);
     void adoptRange();
     QString refusalOfReading(const QString& text, const Reading& reading) const;
     QString refusalOfValue(const T& value) const;
