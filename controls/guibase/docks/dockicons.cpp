@@ -156,35 +156,35 @@ void drawMore(IconCanvas& canvas)
         canvas.fill({{x, 4}, {x + 1.4, 3}, {x + 6, 8}, {x + 1.4, 13}, {x, 12}, {x + 3.6, 8}});
 }
 
-struct Picture
+struct IconDrawing
 {
     DockIcon kind;
     void (*draw)(IconCanvas& canvas);
 };
 
 /// One row for each kind, in the order of the enumerators.
-constexpr std::array pictures{
-    Picture{DockIcon::TabifyLeft, [](IconCanvas& canvas) { drawTabs(canvas, leftSide); }},
-    Picture{DockIcon::TabifyRight, [](IconCanvas& canvas) { drawTabs(canvas, rightSide); }},
-    Picture{DockIcon::TabifyTop, [](IconCanvas& canvas) { drawTabs(canvas, topSide); }},
-    Picture{DockIcon::TabifyBottom, [](IconCanvas& canvas) { drawTabs(canvas, bottomSide); }},
-    Picture{DockIcon::TileLeft, [](IconCanvas& canvas) { drawTiles(canvas, leftSide); }},
-    Picture{DockIcon::TileRight, [](IconCanvas& canvas) { drawTiles(canvas, rightSide); }},
-    Picture{DockIcon::TileTop, [](IconCanvas& canvas) { drawTiles(canvas, topSide); }},
-    Picture{DockIcon::TileBottom, [](IconCanvas& canvas) { drawTiles(canvas, bottomSide); }},
-    Picture{DockIcon::AutoHideDisabled, [](IconCanvas& canvas) { drawPin(canvas, true); }},
-    Picture{DockIcon::AutoHideEnabled, [](IconCanvas& canvas) { drawPin(canvas, false); }},
-    Picture{DockIcon::PopupOnHover, drawPointerAtEdge},
-    Picture{DockIcon::Float, drawFloat},
-    Picture{DockIcon::Dock, drawDock},
-    Picture{DockIcon::Close, drawCross},
-    Picture{DockIcon::More, drawMore},
+constexpr std::array drawings{
+    IconDrawing{DockIcon::TabifyLeft, [](IconCanvas& canvas) { drawTabs(canvas, leftSide); }},
+    IconDrawing{DockIcon::TabifyRight, [](IconCanvas& canvas) { drawTabs(canvas, rightSide); }},
+    IconDrawing{DockIcon::TabifyTop, [](IconCanvas& canvas) { drawTabs(canvas, topSide); }},
+    IconDrawing{DockIcon::TabifyBottom, [](IconCanvas& canvas) { drawTabs(canvas, bottomSide); }},
+    IconDrawing{DockIcon::TileLeft, [](IconCanvas& canvas) { drawTiles(canvas, leftSide); }},
+    IconDrawing{DockIcon::TileRight, [](IconCanvas& canvas) { drawTiles(canvas, rightSide); }},
+    IconDrawing{DockIcon::TileTop, [](IconCanvas& canvas) { drawTiles(canvas, topSide); }},
+    IconDrawing{DockIcon::TileBottom, [](IconCanvas& canvas) { drawTiles(canvas, bottomSide); }},
+    IconDrawing{DockIcon::AutoHideDisabled, [](IconCanvas& canvas) { drawPin(canvas, true); }},
+    IconDrawing{DockIcon::AutoHideEnabled, [](IconCanvas& canvas) { drawPin(canvas, false); }},
+    IconDrawing{DockIcon::PopupOnHover, drawPointerAtEdge},
+    IconDrawing{DockIcon::Float, drawFloat},
+    IconDrawing{DockIcon::Dock, drawDock},
+    IconDrawing{DockIcon::Close, drawCross},
+    IconDrawing{DockIcon::More, drawMore},
 };
 
 constexpr bool inEnumeratorOrder()
 {
-    for (std::size_t i = 0; i < pictures.size(); ++i) {
-        if (pictures[i].kind != static_cast<DockIcon>(i))
+    for (std::size_t i = 0; i < drawings.size(); ++i) {
+        if (drawings[i].kind != static_cast<DockIcon>(i))
             return false;
     }
     return true;
@@ -252,7 +252,7 @@ protected:
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         IconCanvas canvas(painter, size, ink);
-        pictures[static_cast<std::size_t>(kind)].draw(canvas);
+        drawings[static_cast<std::size_t>(kind)].draw(canvas);
         painter.end();
         QPixmapCache::insert(cacheKey, picture);
         return picture;
