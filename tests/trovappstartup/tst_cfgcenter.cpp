@@ -4,6 +4,7 @@
 #include "support/guardedtest.h"
 #include "support/testrows.h"
 
+#include <jtbase/errorhandler.h>
 #include <trovappstartup/cfgcenter.h>
 #include <trovappstartup/savecomponentif.h>
 
@@ -205,9 +206,12 @@ private Q_SLOTS:
         QTRY_VERIFY(readFile(fileName).contains("\"key\": " + QByteArray::number(last)));
         QLockFile lock(fileName + QStringLiteral(".lock"));
         QVERIFY(lock.lock());
+        const QString traces = configDir() + QStringLiteral("/traces");
+        QVERIFY(ErrorHandler::SetTraceFile(traces));
         expectTrace("was not stored: another process");
         settings->SetInt(key, -1);
-        QTest::qWait(150);
+        QTRY_VERIFY(readFile(traces).contains("was not stored"));
+        ErrorHandler::SetTraceFile(QString());
         lock.unlock();
         QTRY_VERIFY(readFile(fileName).contains("\"key\": -1"));
         CfgCenter::SetAutoStoreDelay(-1);

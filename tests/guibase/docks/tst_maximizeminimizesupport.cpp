@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/dockwindow.h"
 #include "support/guardedtest.h"
+#include "support/windowmanager.h"
 
 #include <guibase/docks/enhanceddockwidgettitlebar.h>
 #include <guibase/docks/maximizeminimizesupport.h>
@@ -158,7 +159,7 @@ private Q_SLOTS:
                 QTest::mouseDClick(bar, Qt::LeftButton, {}, bar->rect().center());
             QVERIFY(f.dock->isFloating());
             QVERIFY(QTest::qWaitForWindowExposed(f.dock));
-            QTest::qWait(50); // for messages that may come or not
+            QVERIFY(windowManagerIsReady());
             QCOMPARE(f.dock->geometry().topLeft(), place);
         }
     }

@@ -1,88 +1,21 @@
 // SPDX-License-Identifier: MIT
+#include "layoutwindow.h"
 #include "support/files.h"
 #include "support/guardedtest.h"
 #include "support/testrows.h"
+#include "support/windowmanager.h"
 
 #include <guibase/records/geometryrecord.h>
-#include <guibase/records/staterecord.h>
-#include <guibase/services/guibase.h>
 
 #include <jtbase/errorhandler.h>
-#include <trovappstartup/cfgcenter.h>
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QDialog>
-#include <QDockWidget>
-#include <QMainWindow>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
-#include <QTextEdit>
-#include <QToolBar>
 
 namespace {
-
-const QString recordName = QStringLiteral("GuiBase_docks");
-
-std::unique_ptr<ICfg> record(const QString& name = recordName)
-{
-    return CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(name);
-}
-
-QString stored(const char* key, const QString& name = recordName)
-{
-    return record(name)->GetString(QLatin1String(key));
-}
-
-QByteArray storedLayout(quint32 mode)
-{
-    const auto reading = StateRecord::decode(stored("State"));
-    return reading && reading->layouts.contains(mode) ? reading->layouts.at(mode) : QByteArray();
-}
-
-QString hexadecimal(const QByteArray& bytes)
-{
-    return QString::fromLatin1(bytes.toHex());
-}
-
-/// A main window with docks A and B on the left, C and D tabbed on the right, and a tool bar.
-class Window : public QMainWindow
-{
-public:
-    explicit Window(const QString& docks = QStringLiteral("ABCD"))
-    {
-        setCentralWidget(new QTextEdit);
-        setGeometry(40, 60, 700, 500);
-        for (const QChar name : docks) {
-            auto* dock = new QDockWidget(name, this);
-            dock->setObjectName(name);
-            dock->setWidget(new QTextEdit);
-            addDockWidget(
-                name < QLatin1Char('C') ? Qt::LeftDockWidgetArea : Qt::RightDockWidgetArea, dock);
-        }
-        if (dock("C") && dock("D"))
-            tabifyDockWidget(dock("C"), dock("D"));
-        addBar(QStringLiteral("bar"))->addAction(QStringLiteral("action"));
-    }
-
-    QDockWidget* dock(const char* name) const { return dock(QString::fromLatin1(name)); }
-    QDockWidget* dock(const QString& name) const { return findChild<QDockWidget*>(name); }
-    QToolBar* addBar(const QString& name)
-    {
-        QToolBar* bar = addToolBar(name);
-        bar->setObjectName(name);
-        return bar;
-    }
-    void enlist(const QString& name = QStringLiteral("docks"))
-    {
-        GuiBase::Instance().RegisterPersistentWidget(this, name);
-        QVERIFY(QTest::qWaitForWindowExposed(this));
-    }
-};
 
 /// Everything of the window that a user sees in place and size.
 QString looks(const Window& window)
@@ -131,7 +64,7 @@ private Q_SLOTS:
                 window.dock("B")->setFloating(true);
                 window.dock("B")->setGeometry(300, 260, 222, 188);
             }
-            QTest::qWait(200); // Until the window manager has placed what was just shown.
+            QVERIFY(windowManagerIsReady());
             before = looks(window);
             m_services->StoreWidgetSize();
         }
@@ -350,15 +283,6 @@ private Q_SLOTS:
         last.enlist();
         QVERIFY(last.dock("B")->isHidden());
     }
-    void dismissedDialogStaysAway()
-    {
-        QDialog dialog;
-        m_services->RegisterPersistentWidget(&dialog, QStringLiteral("dialog"));
-        QVERIFY(dialog.isVisible());
-        dialog.reject();
-        m_services->setMode(1);
-        QVERIFY(dialog.isHidden());
-    }
     /// A maximized window from a larger screen never gets its stored size.
     void changesBeforeTheSizeIsThere()
     {
@@ -380,158 +304,10 @@ private Q_SLOTS:
         window.dock("A")->hide();
         window.showNormal();
         window.resize(610, 410);
-        QTest::qWait(50);
+        QVERIFY(windowManagerIsReady());
         QVERIFY(window.dock("A")->isHidden());
         m_services->StoreWidgetSize();
         QCOMPARE(storedLayout(3), window.saveState(1));
-    }
-    void minimizedWindow()
-    {
-        QString geometry;
-        {
-            Window window;
-            window.enlist();
-            window.resize(640, 480);
-            QTest::qWait(100); // Until the window manager has done it.
-            m_services->StoreWidgetSize();
-            geometry = stored("Geometry");
-            window.showMinimized();
-            QTRY_VERIFY(window.isMinimized());
-            window.close();
-        }
-        QCOMPARE(stored("Geometry"), geometry);
-        Window closed;
-        closed.enlist();
-        closed.close();
-        Window window;
-        window.enlist();
-        QVERIFY(!window.isMinimized());
-        QTRY_COMPARE(window.size(), QSize(640, 480));
-        QTRY_VERIFY(window.isMinimized());
-        QVERIFY(closed.isHidden());
-        window.showNormal();
-        QVERIFY(m_services->RestoreWidgetSize());
-        QTRY_VERIFY(window.isMinimized());
-    }
-    void subWindow()
-    {
-        const auto makeSubWindow = [this](QMdiArea& area) {
-            auto* window = new Window;
-            QMdiSubWindow* subWindow = area.addSubWindow(window);
-            area.show();
-            m_services->RegisterPersistentWidget(subWindow, QStringLiteral("docks"));
-            return std::pair(subWindow, window);
-        };
-        const QRect place(11, 27, 510, 430); // The toolkit keeps room for a title bar.
-        {
-            QMdiArea area;
-            const auto [subWindow, window] = makeSubWindow(area);
-            subWindow->setGeometry(place);
-            window->dock("B")->hide();
-            subWindow->showMaximized();
-            m_services->StoreWidgetSize();
-            delete window;
-            m_services->StoreWidgetSize();
-        }
-        QMdiArea area;
-        const auto [subWindow, window] = makeSubWindow(area);
-        QVERIFY(subWindow->isMaximized());
-        QVERIFY(window->dock("B")->isHidden());
-        m_services->StoreWidgetSize(); // Maximized since the start, it has its
-                                       // place all the same.
-        subWindow->showNormal();
-        QCOMPARE(subWindow->geometry(), place);
-    }
-    void destroyedMeanwhile_data()
-    {
-        TestRows<bool> row;
-        row("by registration", true);
-        row("by reset", false);
-    }
-    /// The application deletes, unregisters and registers windows while they come back.
-    void destroyedMeanwhile()
-    {
-        const bool byRegistration = std::get<bool>(TestRows<bool>::fetch());
-        {
-            Window window;
-            window.enlist();
-            m_services->StoreWidgetSize();
-        }
-        auto doomed = std::make_unique<Window>();
-        Window other;
-        class Handler : public QObject
-        {
-        public:
-            bool eventFilter(QObject*, QEvent* event) override
-            {
-                if (event->type() != QEvent::Show || !action)
-                    return false;
-                const auto once = std::exchange(action, nullptr);
-                isRefused = !GuiBase::Instance().RestoreWidgetSize();
-                once();
-                return false;
-            }
-            std::function<void()> action;
-            bool isRefused = false;
-        } handler;
-        if (!byRegistration) {
-            doomed->enlist();
-            other.enlist(QStringLiteral("other"));
-            doomed->hide();
-            other.hide();
-        }
-        doomed->dock("A")->installEventFilter(&handler);
-        doomed->dock("A")->hide();
-        handler.action = [&] {
-            m_services->UnregisterPersistentWidget(doomed.get());
-            doomed->dock("B")->deleteLater();
-            m_services->RegisterPersistentWidget(&other, QStringLiteral("other"));
-        };
-        if (byRegistration)
-            m_services->RegisterPersistentWidget(doomed.get(), QStringLiteral("docks"));
-        else
-            QVERIFY(m_services->RestoreWidgetSize());
-        QVERIFY(!handler.action);
-        QCOMPARE(handler.isRefused, !byRegistration);
-        doomed.reset();
-        m_services->StoreWidgetSize();
-        QVERIFY(!stored("State", QStringLiteral("GuiBase_other")).isEmpty());
-    }
-    void writtenWhileRunning()
-    {
-        Window window;
-        window.enlist();
-        QTest::qWait(50); // Until showing has come to its end.
-        m_services->StoreWidgetSize();
-        const auto written = [&] {
-            return storedLayout(0) == window.saveState(1) &&
-                   stored("Geometry") == hexadecimal(window.saveGeometry());
-        };
-        window.resize(620, 420);
-        QVERIFY(!written());
-        m_services->SetLayoutWriteDelay(10); // Also for the change that waits already.
-        QTRY_VERIFY(written());
-        for (const auto& change : std::initializer_list<std::function<void()>>{
-                 [&] { window.resize(610, 410); }, [&] { window.dock("A")->hide(); },
-                 [&] { window.dock("C")->setFloating(true); },
-                 [&] { window.dock("C")->move(333, 222); }}) {
-            change();
-            QVERIFY(!written());
-            QTRY_VERIFY(written());
-        }
-    }
-    // The last function: afterwards the services take no part in the save cycle.
-    void terminationStoresAndForgets()
-    {
-        Window window;
-        window.enlist();
-        m_services->aboutToTerminate();
-        const QString geometry = stored("Geometry");
-        QVERIFY(!geometry.isEmpty());
-        QVERIFY(CfgCenter::GetAppCfg(SettingsView)->HasSubCfg(QStringLiteral("GuiCentral")));
-        window.resize(456, 300);
-        m_services->StoreWidgetSize();
-        QCOMPARE(stored("Geometry"), geometry);
     }
 
 private:
