@@ -3,7 +3,6 @@
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
 
-#include <guibase/colors/colorcontrast.h>
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
 #include <guibase/colors/colorslotgroups.h>
@@ -237,27 +236,6 @@ private Q_SLOTS:
         QCOMPARE(select.GetCurrentId(), 2010);
         QCOMPARE(select.GetCurrent(), white);
         QCOMPARE(select.currentText(), QStringLiteral("user 11"));
-    }
-
-    /// Texts and lines of the sets that come with the library stand out from their backgrounds.
-    void contrastOfBuiltInSets()
-    {
-        QCOMPARE(ColorContrast::ratio(Qt::black, Qt::white), 21.0);
-        QCOMPARE(ColorContrast::ratio(Qt::red, Qt::red), 1.0);
-        for (const char* name : {ColorSet::factoryDefaultName, ColorSet::colorBlindName,
-                                 ColorSet::darkDesktopName}) {
-            colors().Load(nullptr, QString::fromLatin1(name));
-            for (int slot = 0; slot < IColorBase::slotCount; ++slot) {
-                const auto ratio = ColorContrast::ratioOf(
-                    static_cast<IColorBase::ECOLOR>(slot),
-                    [](IColorBase::ECOLOR each) { return colors().GetColor(each); });
-                QVERIFY2(!ratio || *ratio >= ColorContrast::lowest,
-                         qPrintable(QStringLiteral("%1 slot %2: %3")
-                                        .arg(QLatin1String(name))
-                                        .arg(slot)
-                                        .arg(ratio.value_or(0))));
-            }
-        }
     }
 
 private:
