@@ -11,7 +11,7 @@ namespace UserColors {
 /// counts as not there.
 void read();
 /// Redefines the user colour with this id, everywhere where it is used, and keeps it. The change is
-/// not announced. False for an id that is none of a user colour, and for an invalid color.
+/// not announced. False for an id of no user colour, and for an invalid colour.
 bool redefine(int id, const QColor& color);
 
 } // namespace UserColors

@@ -40,8 +40,8 @@ public:
     void InitMenu(int position);
     int menuPosition() const;
 
-    /// Makes the file the most recent one, for files that are opened in other ways. Like the next
-    /// one it does nothing before InitMenu().
+    /// Makes the file the most recent one, for files that are opened in other ways. Like
+    /// removeRecentFile() it does nothing before InitMenu().
     void addRecentFile(const QString& name);
     /// Takes the file out of the list, for files that are gone.
     void removeRecentFile(const QString& name);

@@ -11,8 +11,8 @@
 
 namespace {
 
-/// From reading to storing no other program may save its list. False when one does for all the
-/// time; where no lock can be had at all, a change of theirs in this moment may get lost.
+/// Keeps other programs from saving their lists between reading and storing. False when one of them
+/// holds the lock all the time. Where no lock can be had at all, a change of theirs may get lost.
 bool waitFor(QLockFile& lock, int milliseconds)
 {
     // QLockFile itself waits with pauses that double, and starves among busy programs.
@@ -61,8 +61,8 @@ void LruStringListStore::read(LruStringList& list) const
     }
 }
 
-// Storing is what makes a configuration read again what other programs have written, but it does so
-// for changes only; so here is one that changes nothing.
+// A configuration reads what other programs have written when it stores a change. So this makes a
+// change that changes nothing.
 bool LruStringListStore::refresh() const
 {
     const QString marker = m_keyPrefix + u'-';

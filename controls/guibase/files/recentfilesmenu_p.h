@@ -17,7 +17,7 @@ class RecentFileAction;
 /// The entries of recent files in a menu that may have other entries too, and may die first. The
 /// entries go with this object.
 ///
-/// The text of an entry is "&<number> <name>". While the menu is open it has one to be looked at:
+/// The text of an entry is "&<number> <name>". While the menu is open, it is made easy to read:
 /// long names are shortened in the middle, '&' in names is no mnemonic, and the mnemonics are 1 to
 /// 9. The whole name is the tool tip.
 class RecentFilesMenu : public QObject

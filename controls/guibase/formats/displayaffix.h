@@ -31,7 +31,7 @@ public:
     void setPattern(const QRegularExpression& pattern);
     QRegularExpression pattern() const;
 
-    /// The match that begins exactly at `offset`, which is what "^" means here.
+    /// The match that begins exactly at `offset`; "^" stands for that place.
     Match matchAt(const QString& text, qsizetype offset) const;
     /// The match that ends exactly at `end`, found by searching backwards: the one that starts last
     /// counts. Patterns of its own are searched in the last `longestSuffix` characters only, so

@@ -23,7 +23,7 @@ struct DisplayFormatReading
     int index; ///< The format's; -1 is the default one.
     Outcome outcome;
 
-    /// Whether text and format are known, be it without a new value.
+    /// Whether the format is known; the text may be a suffix alone, without a value.
     bool isKnown() const { return outcome != Unreadable; }
     /// The parts that callers without this struct ask for; `ok` is isKnown().
     T unpacked(bool& ok, int& formatIndex) const

@@ -22,7 +22,7 @@ enum class Outcome {
 using Ascii = QVarLengthArray<char, 128>;
 
 /// Writes the decimal number to `ascii` in C notation: '-', digits, '.', 'e', without groups. It
-/// need not be a number in all points: digits may be missing. A single separator that is
+/// need not be a complete number: digits may be missing. A single separator that is
 /// `decimalPoint` is the decimal one. Digits may be of any script.
 Outcome normalize(QStringView text, QChar decimalPoint, Ascii& ascii);
 

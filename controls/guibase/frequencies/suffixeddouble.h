@@ -57,7 +57,7 @@ public:
     /// Observes the ValueSelection at this path of the value tree instead of what was observed
     /// before, and takes over its unit. False, observing nothing, when there is none.
     bool SetSuffix_ValuePath(const QString& path);
-    /// Takes over the unit that the current item's name of the observed selection contains. A name
+    /// Takes over the unit in the name of the current item of the observed selection. A name
     /// without a known unit changes nothing.
     void SetSuffixFromValue();
     void Update(Observable* observable, TChangeCode code) override;
@@ -96,10 +96,9 @@ public:
     /// occurs in it, in internal units; without one times the factor of the shown unit, in base
     /// units. Other Latin letters are ignored. A text that is no number gives 0.
     double GetValue(const QString& text) const;
-    /// Stores what a person typed: a number, and perhaps a unit that a single letter is enough for:
-    /// k, m (mega), g or h (base unit; kilo at the resolution Kilo) in either case. Without a
-    /// letter the shown unit counts. A text that is no number stores 0; one that gives NoValue
-    /// nothing.
+    /// Stores what a person typed: a number and perhaps a unit, of which one letter in either case
+    /// is enough: k, m (mega), g or h (base unit; kilo at the resolution Kilo). Without a letter
+    /// the shown unit counts. A text that is no number stores 0; one that gives NoValue nothing.
     void SetFrequencyString(const QString& text);
     /// The decimals of the shown unit.
     int GetDotPosition(double v = NoValue);

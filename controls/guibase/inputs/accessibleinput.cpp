@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Does not make the list of a combo box, which is made when it opens first.
+/// Leaves the list of a combo box alone, which the box makes when it opens for the first time.
 bool isOpen(const QComboBox& box)
 {
     const auto* list = box.findChild<QAbstractItemView*>();

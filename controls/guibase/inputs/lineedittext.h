@@ -10,6 +10,7 @@ class QString;
 /// where the user has put it (`isInUse`), unless it was at the end.
 void showLineEditText(QLineEdit& edit, const QString& text, bool isInUse);
 
-/// Selects all once the event loop runs. It does not when the user types before that, since the
-/// next key would replace what was typed, nor after a menu of the line edit, which may have pasted.
+/// Selects the whole text once the event loop runs. Nothing is selected when the user has typed
+/// meanwhile, since the next key would replace that, or when the focus comes back from a menu of
+/// the line edit, which may have pasted.
 void selectAllOnFocus(QLineEdit& edit, Qt::FocusReason reason);

@@ -20,8 +20,8 @@ public:
     /// Integers come as qlonglong or qulonglong, real numbers as double, points in time as
     /// QDateTime. Invalid for a quantity that the input does not have.
     virtual QVariant inputQuantity(Quantity quantity) const = 0;
-    /// Sets the value as the user would; false, with nothing changed, for a variant that the type
-    /// cannot hold exactly (integers), or at all.
+    /// Sets the value as the user would. False, with nothing changed, when the type cannot hold the
+    /// variant; integers must fit exactly.
     virtual bool setInputValue(const QVariant& value) = 0;
     /// Null for a combo box that is not editable any more.
     virtual QLineEdit* inputLineEdit() const = 0;

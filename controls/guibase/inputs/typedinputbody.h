@@ -39,8 +39,8 @@ public:
     void showText();
     /// Whether the text has changed since it was shown.
     bool isTextChanged() const;
-    /// False when the text is refused, which the user is to see before anything else happens, or
-    /// when the widget is gone.
+    /// False when the text was refused, or the widget is gone: the caller must do nothing more, so
+    /// that the user sees the reason.
     bool commitIfTextChanged();
     /// Shows a value that has just been set, and tells assistive technologies.
     void showNewValue();
@@ -51,8 +51,8 @@ public:
 
     /// Return and Enter commit. False for other keys, which have not been dealt with.
     bool handleReturn(QKeyEvent& event);
-    /// Whether the wheel may change the value now: not without the focus, so that scrolling a page
-    /// changes nothing, nor when the text is refused.
+    /// Whether the wheel may change the value now. It may not without the focus, so that scrolling
+    /// a page changes nothing, and not when the text is refused.
     bool mayTurn(QWheelEvent& event);
     void handleFocusIn(const QFocusEvent& event);
 
@@ -70,7 +70,7 @@ TypedInputBody<Widget>::TypedInputBody(Widget& widget)
     , m_widget(widget)
 {
     AccessibleInput::install();
-    // With the wheel, turning it would give the focus, and then change the value.
+    // Not Qt::WheelFocus: turning the wheel would take the focus, and then change the value.
     widget.setFocusPolicy(Qt::StrongFocus);
     QObject::connect(&GuiBase::Instance(), &GuiBase::endEdit, &widget,
                      [this, &widget](const QWidget* edited) {

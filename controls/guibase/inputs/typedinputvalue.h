@@ -51,8 +51,8 @@ public:
     /// Invalid for the single step.
     QVariant quantity(TypedInput::Quantity quantity) const;
 
-    /// Makes this the value, shows it and tells of it, of which the input may die. `Input` has
-    /// body() and the signal.
+    /// Makes this the value, shows it and emits valueChanged(), in which the input may be deleted.
+    /// `Input` has body() and the signal.
     template <typename Input>
     void moveTo(Input& input, T other, bool maySwitchFormat = false);
 

@@ -18,8 +18,8 @@ class ISortCallback;
 class QTreeView;
 class SortListView;
 
-/// Keeps the row at a view's upper edge there while others move. A view that shows its first row
-/// goes on doing so.
+/// Keeps the row at a view's upper edge in its place while others move. A view that shows its first
+/// row goes on showing the first row.
 class UpperEdge
 {
 public:
@@ -60,7 +60,7 @@ public:
 
     /// Whether the items compare at all at present.
     bool maySort() const;
-    /// 0 while it may not sort.
+    /// See SortListView::SortFunction(); 0 while the list must not sort.
     int compare(int column, const QString& a, const QString& b) const;
 
     int column() const { return m_column; }

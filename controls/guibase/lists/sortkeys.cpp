@@ -28,9 +28,8 @@ qsizetype commonPrefixLength(const std::vector<QString>& texts)
     return length;
 }
 
-/// Characters `from` and following; the prefixes of two texts are ordered as the texts are, unless
-/// they are equal. Nothing where this cannot be said: characters of two code units have no case of
-/// their own in each unit.
+/// The characters from `from` on as one number. Two texts are ordered as their numbers are, unless
+/// those are equal. Nothing for characters of two code units, since one unit alone has no case.
 std::optional<quint64> prefixOf(QStringView text, qsizetype from, bool ignoreCase)
 {
     quint64 prefix = 0;

@@ -22,10 +22,10 @@ public:
     void add(const SortKeys& earlier, quint32 row);
     bool isLess(quint32 a, quint32 b) const;
 
-    /// Whether every row can have a number that is less than another's when isLess() says so of the
-    /// rows; not when only some rows have sort keys, nor with a function of the application.
+    /// Whether one number per row can stand for the order of the rows. Not when only some rows have
+    /// sort keys, and not with a compare function of the application.
     bool canRank() const;
-    /// Whether number() is such a number.
+    /// Whether number() gives these numbers.
     bool isNumeric() const;
     /// NaN, which equals all others, for a text that should be a number and is none.
     double number(quint32 row) const;

@@ -27,7 +27,7 @@ public:
     explicit SortListViewItem(QTreeWidget* tree)
         : SortListViewItem(tree, QStringList())
     {}
-    /// For bool alone, since pointers, as a text in quotes is one, turn into it silently.
+    /// For bool alone: a pointer, such as a text in quotes, would silently turn into one.
     SortListViewItem(QTreeWidget* tree, std::same_as<bool> auto insertOnTop)
         : SortListViewItem(tree, QStringList(), insertOnTop)
     {}
@@ -102,7 +102,7 @@ public:
     bool isOpen() const;
     /// In pixels; 0 when the row is not shown.
     int height() const;
-    /// True shows the sign for children also where there are none, false never.
+    /// True: the sign for children is shown even without any. False: it is never shown.
     void setExpandable(bool expandable);
 
 private:

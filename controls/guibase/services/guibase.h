@@ -50,8 +50,8 @@ public:
     void SetApplication(QApplication* application);
     QApplication* GetApplication() const;
     /// Makes the widget the main one: its layout is kept under the name "main", and the application
-    /// quits when it is destroyed, even if another window refuses to close. Calls SetApplication(qApp) if that was not done. Not owned; null
-    /// leaves no main widget.
+    /// quits when it is destroyed, even if another window refuses to close. Calls
+    /// SetApplication(qApp) if that was not done. Not owned; null leaves no main widget.
     void SetMainWidget(QWidget* widget);
     QWidget* GetMainWidget() const;
 
@@ -103,11 +103,11 @@ public:
 
     /// Makes the Help menu, which belongs to `parent`: manual (F1), keyboard (Ctrl+F1) and info
     /// (Ctrl+Q). The manual entry calls `manualSlot` of the receiver; without `manualSlot` it opens
-    /// `helpFile`, see slotHelpContents(). The info entry calls `infoSlot` of the receiver. An entry
-    /// whose slot has no receiver, or a receiver without that slot, is left out; the latter is
-    /// reported by a trace. Slots are given as SLOT() makes them. Warnings get `messageParent`, or
-    /// `parent` when that is null. An entry whose shortcut another action of the window has too
-    /// gives it up when the shortcut is first used.
+    /// `helpFile`, see slotHelpContents(). The info entry calls `infoSlot` of the receiver. An
+    /// entry whose slot has no receiver, or a receiver without that slot, is left out; the latter
+    /// is reported by a trace. Slots are given as SLOT() makes them. Warnings get `messageParent`,
+    /// or `parent` when that is null. When another action of the window has the same shortcut, the
+    /// entry gives its own up as soon as the shortcut is used.
     QMenu* CreateHelpMenu(QWidget* parent, const QString& helpFile, QObject* infoReceiver,
                           const char* infoSlot, QWidget* messageParent, const char* manualSlot);
     QMenu* GetHelpMenu() const;
@@ -124,9 +124,9 @@ public:
     /// are damaged are not applied; the record is kept aside under its name followed by "_damaged".
     void RegisterPersistentWidget(QWidget* widget, const QString& name);
     void UnregisterPersistentWidget(QWidget* widget);
-    /// Time from the last change of a layout, the time zone, the position format or the colours to
-    /// its way to the disk in milliseconds, at most five times as long from the first one; negative
-    /// switches writing off until the application ends. Default 2000.
+    /// How long a changed layout, time zone, position format or colour set waits for a pause in the
+    /// changes before it is written, in milliseconds; five times as long at most. Negative: nothing
+    /// is written until the application ends. Default 2000.
     void SetLayoutWriteDelay(int milliseconds);
     /// Actions for menus, which reset all windows; they belong to `parent`.
     QAction* CreateResetWidgetViewAction(QObject* parent);
@@ -141,9 +141,9 @@ public:
     /// Columns of lists, by the lists' names: applied as the configuration has them, from the first
     /// column or a later one on; stored only while the list is visible. Null lists are ignored.
     void ApplyColumnWidth4(const QString& name, SortListView* list, int firstColumn = 0);
-    /// The columns of a visible list have changed: they are stored after the write delay of layouts
-    /// and when the application ends; before that StoreColumnWidth4() stores them also when the
-    /// list has become invisible. A SortListView with a name calls it by itself.
+    /// The columns of a visible list have changed: they are stored after the write delay of
+    /// layouts, or when the application ends. Until then StoreColumnWidth4() stores them even if
+    /// the list has become invisible. A SortListView with a name calls this by itself.
     void KeepColumnWidth4(const QString& name, SortListView* list);
     void StoreColumnWidth4(const QString& name, SortListView* list);
     void StoreColumnSizes2Cfg();

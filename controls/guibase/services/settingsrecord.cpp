@@ -91,6 +91,6 @@ void SettingsRecord::afterRead()
 {
     for (Part& part : m_parts)
         part.known = part.value();
-    // What the user chooses instead of a colour set that is missing is news.
+    // When the file is missing, the user chooses another one, which is to be written.
     m_colorDefinitionFile = ApplicationColors::load(m_colorDefinitionFile);
 }

@@ -10,11 +10,9 @@
 
 /// A splitter that keeps its positions from run to run, under its name followed by its variant.
 ///
-/// Positions are stored whenever the user moves a handle, and come back when the splitter gets its
-/// widgets, is shown, or gets another variant; but not when its window only comes back from being
-/// minimized, which would undo sizes that the application has set meanwhile. An empty name means
-/// that nothing is kept. Resizing is not opaque: the widgets follow when the handle is let go. The
-/// handles are SplitterHandles.
+/// Positions are stored whenever the user moves a handle. They come back when the splitter gets its
+/// widgets, is shown, or gets another variant, but not when its window was only minimized. With an
+/// empty name nothing is kept. The widgets follow a SplitterHandle when it is let go.
 class GUIBASE_EXPORT Splitter : public QSplitter
 {
     Q_OBJECT
@@ -26,11 +24,11 @@ public:
     ~Splitter() override;
 
     /// Sizes in pixels, by widget. Sizes beyond the widgets are kept for the widgets that are added
-    /// next, until the user moves a handle; widgets beyond the sizes, and with a negative one, get
-    /// the size they ask for.
+    /// next, until the user moves a handle. Widgets without a size, or with a negative one, get the
+    /// size they ask for.
     void setSizes(const QList<int>& sizes);
-    /// Also give the widget the size that is stored or kept for it; one that gets here as a child
-    /// gets it as soon as the event loop runs.
+    /// As in QSplitter; the widget also gets the size that is stored or kept for it. A widget that
+    /// is only made a child of the splitter gets it as soon as the event loop runs.
     void addWidget(QWidget* widget);
     void insertWidget(int index, QWidget* widget);
     /// Applies the positions that are stored for the variant, here and in child splitters.

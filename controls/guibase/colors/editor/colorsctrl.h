@@ -34,7 +34,7 @@ public Q_SLOTS:
     void slotDiscardChanges();
 
 Q_SIGNALS:
-    /// Whether there are changes to accept has changed.
+    /// There are changes to accept now, or none any more.
     void changesPending(bool pending);
 
 private:

@@ -39,7 +39,7 @@ AbstractComboBox::AbstractComboBox(QWidget* parent)
     : QComboBox(parent)
     , m_d(std::make_unique<Private>(*this))
 {
-    // Not the toolkit's first model, whose changes the toolkit knows of first.
+    // In place of the toolkit's first model, whose changes would reach the toolkit before this.
     AbstractComboBox::setModel(new QStandardItemModel(0, 1, this));
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
@@ -64,7 +64,7 @@ void AbstractComboBox::adoptLineEdit()
     m_d->body.adopt(*edit);
 }
 
-// Becoming editable again makes another line edit, which is not told of in any other way.
+// A box that becomes editable again has another line edit, and only this event tells of it.
 void AbstractComboBox::childEvent(QChildEvent* event)
 {
     QComboBox::childEvent(event);
@@ -134,8 +134,8 @@ void AbstractComboBox::setModel(QAbstractItemModel* model)
     QComboBox::setModel(model);
     if (isOther)
         m_d->items.watchAfter(*model);
-    if (currentIndex() < 0 &&
-        lineEdit() != nullptr) // The toolkit clears the text, and may not tell.
+    // The toolkit clears the text, and may not tell.
+    if (currentIndex() < 0 && lineEdit() != nullptr)
         showValue();
 }
 

@@ -35,14 +35,14 @@ public:
     bool isAutoSwitchDisplayFormat() const;
     void setAutoSwitchDisplayFormat(bool automatic);
 
-    /// The text that stands for the special value; empty, which means that there is none, at first.
+    /// The text that stands for the special value. Empty, as at first: there is no special value.
     const QString& specialValueText() const;
     void setSpecialValueText(const QString& text);
 
     /// The text of the current value.
     virtual QString textValue() const = 0;
 
-    /// A model without items leaves the value.
+    /// A model without items does not change the value.
     void setModel(QAbstractItemModel* model) override;
 
     QLineEdit* inputLineEdit() const override;
@@ -80,17 +80,17 @@ protected:
     void showValue();
     /// Whether the user has changed the text since it was shown.
     bool isTextChanged() const;
-    /// False when the text is refused, which the user is to see before anything else happens, or
-    /// when this object is gone.
+    /// Commits a text that was changed. False when it was refused, or this object is gone: the
+    /// caller must do nothing more, so that the user sees the reason.
     bool interpretIfTextChanged();
-    /// Whether the text is committed by whoever typed it, instead of by a change of items.
+    /// Whether the user commits the text; false while a change of the items does.
     bool isCommitting() const;
     /// For the typed classes of this library.
     TypedInputBody<AbstractComboBox>& body();
 
-    /// To be called when items may read as other values than before.
+    /// To be called when the texts of items may stand for other values than before.
     void forgetItemValues() const;
-    /// Whether the items, or what they read as, may have changed since the last call.
+    /// Whether the items, or the values of their texts, may have changed since the last call.
     bool takeItemsChanged();
 
     void childEvent(QChildEvent* event) override;

@@ -24,8 +24,8 @@ T itemDistance(T a, T b)
     }
 }
 
-/// Whether no other item needs to be looked at. A distance that has wrapped ends the search, too:
-/// so it has always been, and users' presets rely on it.
+/// Whether the search can end. It also ends at a distance that has wrapped: it always has, and
+/// users' presets rely on it.
 template <typename T>
 bool isCloseEnough(T distance)
 {

@@ -13,12 +13,9 @@
 
 class QComboBox;
 
-/// Watches the items of a combo box. It knows of a change before the toolkit's own slots do, which
-/// select other items and write their texts, and puts the text back that these slots have replaced.
-///
-/// While the model changes, the text stays the one that was shown or typed before. Only an item
-/// that takes the place of the current one may give its value, and not over a text that is being
-/// typed.
+/// Watches the items of a combo box. It hears of a change before the toolkit's own slots, which
+/// select another item and show its text, and puts the former text back afterwards. Only an item
+/// that takes the place of the current one gives its value, and only when nobody is typing.
 class ItemWatch
 {
 public:
@@ -31,15 +28,15 @@ public:
     void watchBefore(QAbstractItemModel& model);
     void watchAfter(QAbstractItemModel& model);
 
-    /// To be called when items may read as other values than before.
+    /// To be called when the texts of items may stand for other values than before.
     void forgetValues() { m_areValuesKnown = false; }
-    /// Whether the items, or what they read as, may have changed since the last call.
+    /// Whether the items, or the values of their texts, may have changed since the last call.
     bool takeValuesChanged(int formatIndex);
 
-    /// To be called when a value is shown: it is the text that stays, and its item the current one.
+    /// To be called when a value is shown: its text and its item are what must stay.
     void noteShown();
-    /// To be called when the current index has changed. False when there is nothing to take from
-    /// it, since the same item has moved, or the change of the model took the current one away.
+    /// To be called when the current index has changed. False when this gives no value: the same
+    /// item has moved, or a change of the model has taken the current one away.
     bool takeCurrentItem();
 
 private:

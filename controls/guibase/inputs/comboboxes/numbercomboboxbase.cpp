@@ -220,7 +220,7 @@ void NumberComboBoxBase<T>::interpret(int itemIndex)
     const bool isChanged = isTextChanged();
     const QString text = lineEdit()->text(); // The displayed text has blanks for line breaks.
     const Reading reading = readText(text);
-    // The text that goes with the last item is nobody's input.
+    // A text that disappears with the last item is nobody's input.
     const bool isInput = isChanged && (itemIndex >= 0 || !text.isEmpty() || isCommitting());
     body().take(*this, reading, isChanged,
                 isInput ? m_d->formats.refusal(text, reading) : QString());

@@ -36,8 +36,8 @@ public:
     /// value if there is a text for it. Selects the closest item.
     virtual void setValue(T value);
     /// The bounds in any order. A value outside moves to the nearer bound; below the minimum to the
-    /// special value if there is a text for it, which is told of also when it is the value already.
-    /// The current item stays.
+    /// special value if there is a text for it. Then valueChanged() is emitted even if the special
+    /// value was the value before. The current item stays.
     virtual void setRange(T first, T second);
     void setRange(const QPair<T, T>& range) { setRange(range.first, range.second); }
     void setMinimum(T bound) { setRange(bound, maximum()); }

@@ -97,7 +97,7 @@ void AbstractSpinBox::showValue()
 {
     m_d->body.showText();
     if (hasFocus())
-        updateMicroFocus(); // The line edit does not tell of texts that it is made to show.
+        updateMicroFocus(); // The line edit sends no signal for a text that is set like this.
     updateButtons();
 }
 

@@ -73,8 +73,8 @@ protected:
 
     /// Whether the user has changed the text since it was shown.
     bool isTextChanged() const;
-    /// False when the text is refused, which the user is to see before anything else happens, or
-    /// when this object is gone.
+    /// Commits a text that was changed. False when it was refused, or this object is gone: the
+    /// caller must do nothing more, so that the user sees the reason.
     bool interpretIfTextChanged();
     /// Shows the current value.
     void showValue();

@@ -11,8 +11,7 @@
 
 namespace {
 
-/// Real numbers can have hundreds of digits: the width of a field is that of at most so many
-/// characters.
+/// Real numbers can have hundreds of digits; no field is wider than this many characters.
 constexpr qsizetype longestRealSample = 18;
 
 template <typename T>

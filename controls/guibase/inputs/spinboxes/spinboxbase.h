@@ -17,7 +17,7 @@ namespace SpinBoxes {
 /// Value, range, display formats and text handling of a spin box that holds a `T`.
 ///
 /// The class has no meta-object: the signals are operations that the typed classes implement by
-/// declaring them as signals. Values that are no values (NaN, invalid date-times) are ignored
+/// declaring them as signals. NaN and invalid date-times are ignored
 /// everywhere. A converter of a format that throws counts as a text that cannot be read or, when
 /// writing, leaves the field empty.
 template <typename T>
@@ -39,7 +39,7 @@ public:
     static T maximumLimit();
 
     /// A value outside the range is ignored or, with QAbstractSpinBox::CorrectToNearestValue,
-    /// replaced by the nearer bound, which is told of also when it is the value already.
+    /// replaced by the nearer bound; valueChanged() is then emitted even if that was the value.
     virtual void setValue(T value);
     /// The bounds in any order. A value outside moves to the nearer bound.
     void setRange(T first, T second);

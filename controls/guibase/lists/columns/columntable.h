@@ -27,12 +27,12 @@ public:
     void noteChange(const QString& name, SortListView* list);
     /// In milliseconds; negative: noted changes wait for store() and storeChanges().
     void setWriteDelay(int milliseconds);
-    /// Takes the columns of a list over that is visible, or has noted changes from when it was. A
-    /// hidden column keeps the width that is known for it.
+    /// Takes over the columns of a list that is visible, or whose changes were noted while it was.
+    /// A hidden column keeps the width that is known for it.
     void store(const QString& name, const SortListView* list);
-    /// Gives the list, from a column on, what the configuration has for the name. Columns that it
-    /// does not know stay as they are, and so do widths of columns without one. A damaged text
-    /// changes nothing and is kept aside.
+    /// Gives the list, from `firstColumn` on, what the configuration has for the name. Columns and
+    /// widths that it does not know stay as they are. A damaged text changes nothing and is kept
+    /// aside.
     void apply(const QString& name, SortListView* list, int firstColumn);
     void storeChanges();
 

@@ -111,7 +111,7 @@ void HeaderArrangement::apply(QHeaderView& header, QList<ColumnRecord> columns, 
         first == 0 ? wholeOrder(header, columns) : orderWithLate(header, columns, first);
     for (int place = 0; place < order.size(); ++place)
         header.moveSection(header.visualIndex(order.at(place)), place);
-    // Without any section there would be no header to bring the others back with.
+    // A header without sections could not open the menu that brings them back.
     if (header.count() > 0 && header.hiddenSectionCount() == header.count())
         header.showSection(header.logicalIndex(0));
     header.setUpdatesEnabled(isPainting);

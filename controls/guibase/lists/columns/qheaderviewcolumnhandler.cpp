@@ -102,7 +102,7 @@ void QHeaderViewColumnHandler::watchView()
 
 bool QHeaderViewColumnHandler::eventFilter(QObject* object, QEvent* event)
 {
-    // Other events come while the header is being destroyed, too, and is none any more.
+    // Other events also come while the header is being destroyed, and is no header any more.
     const bool isParentChange = event->type() == QEvent::ParentChange;
     if ((!isParentChange && event->type() != QEvent::KeyPress) || !m_header)
         return false;
