@@ -384,6 +384,16 @@ std::optional<bool> ListSorter::isLessByKeys(const SortListViewItem& a, const QT
 
 // --- Rows that arrive ---------------------------------------------------------------------------
 
+void ListSorter::setPlacingArrivals(bool on)
+{
+    m_isPlacing = on;
+    if (on || !m_arrivals.isActive())
+        return;
+    // Those that wait stay where they are, too.
+    m_arrivals.stop();
+    forgetOrder();
+}
+
 void ListSorter::rowsInserted(const QModelIndex& parent, int last)
 {
     if (!m_isSorted)

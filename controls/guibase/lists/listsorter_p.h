@@ -55,7 +55,7 @@ public:
     bool hasCallback() const { return m_callback != nullptr; }
     void setAllowed(bool allowed) { m_isAllowed = allowed; }
     bool isAllowed() const { return m_isAllowed; }
-    void setPlacingArrivals(bool on) { m_isPlacing = on; }
+    void setPlacingArrivals(bool on);
     bool isPlacingArrivals() const { return m_isPlacing; }
 
     /// Whether the items compare at all at present.

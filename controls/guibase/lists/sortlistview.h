@@ -73,7 +73,7 @@ public:
     /// Whether rows that are appended to a shown list go to their places in the order that the list
     /// has; off at start. They go there together, in the next pass of the event loop or, when
     /// sorting takes long, a little later. The row at the upper edge of a scrolled view stays
-    /// there.
+    /// there. When it is switched off, rows that still wait stay where they are.
     ///
     /// A row that is put anywhere else (on top, after another row, with moveItem()) stays there,
     /// and so do rows appended after it, until the list is sorted again. Nothing is put in place

@@ -337,6 +337,13 @@ private Q_SLOTS:
         fill(list, QStringLiteral("a"));
         QTest::qWait(1);
         QCOMPARE(columnTexts(list), QStringLiteral("bca"));
+        // Those that wait when the application changes its mind stay, too.
+        list.setPlacingArrivals(true);
+        list.sort();
+        fill(list, QStringLiteral("0"));
+        list.setPlacingArrivals(false);
+        QTest::qWait(1);
+        QCOMPARE(columnTexts(list), QStringLiteral("abc0"));
     }
     void arrivalsGoToTheirPlaces()
     {
