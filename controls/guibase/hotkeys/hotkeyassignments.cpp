@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hotkeyassignments.h"
 
-#include <guibase/services/tracing.h>
+#include <guibase/records/recordstore.h>
 
 #include <trovappstartup/cfgcenter.h>
 
@@ -34,10 +34,9 @@ std::optional<HotKeyStroke> HotKeyAssignments::read(const HotKey& hotKey)
     const QString stored = place->GetString(name);
     const std::optional<HotKeyStroke> stroke = fromText(stored);
     if (!stroke)
-        ErrorHandler::Trace(ErrorHandler::TraceGuiBase, Tracing::module, __LINE__,
-                            QStringLiteral("Stored hot key \"%1\": \"%2\" is no key; the "
-                                           "registered one is used")
-                                .arg(name, stored.left(80)));
+        RecordStore::keepAside(
+            *place, {{RecordStore::asideName(name), stored}}, name,
+            QStringLiteral("\"%1\" is no key, the registered one is used").arg(stored.left(80)));
     return stroke;
 }
 

@@ -9,7 +9,7 @@
 ///
 /// They stand under "HotKeys", the scope, and the comment with the registered key: "Ctrl+F7", or an
 /// empty text for a hot key that has no key any more. A text that is no key counts as not there; it
-/// stays until the operator chooses another key.
+/// is kept aside under its name followed by "_damaged".
 namespace HotKeyAssignments {
 
 /// Nothing when the operator has not changed the key.

@@ -71,6 +71,6 @@ void RecordStore::keepAside(ICfg& place, const Texts& texts, const QString& name
     }
     if (isNews)
         ErrorHandler::Trace(ErrorHandler::TraceGuiBase, module, __LINE__,
-                            QStringLiteral("Layout record \"%1\": %2; it is kept as \"%3\"")
+                            QStringLiteral("Record \"%1\": %2; it is kept as \"%3\"")
                                 .arg(name, damage, asideName(name)));
 }

@@ -159,7 +159,7 @@ private Q_SLOTS:
         const QString aside = recordName + QStringLiteral("_damaged");
         QCOMPARE(stored("State", aside), isDamaged ? state : QString());
         QCOMPARE(stored("Geometry", aside), isDamaged ? geometry : QString());
-        QCOMPARE(readFile(traces).count("Layout record \"GuiBase_docks\""), isDamaged ? 1 : 0);
+        QCOMPARE(readFile(traces).count("Record \"GuiBase_docks\""), isDamaged ? 1 : 0);
         QCOMPARE(storedLayout(0), window.saveState(1));
     }
     void recordNames_data()
