@@ -29,6 +29,15 @@ public:
     QString text(const QString& name) const;
     bool contains(const QString& name) const;
     void write(const QString& name, const QString& text) const;
+    /// The same for a record that nobody may have read yet: what `parse` refuses is kept aside
+    /// first, as by read().
+    template <typename Parse>
+    void replace(const QString& name, const QString& text, const QString& damage,
+                 Parse&& parse) const
+    {
+        read(name, damage, std::forward<Parse>(parse));
+        write(name, text);
+    }
 
     /// What `parse` makes of the record's text: an optional. Nothing without a text, and for one
     /// that `parse` refuses, which is kept aside with `damage` as the reason.

@@ -13,6 +13,7 @@
 
 namespace {
 
+const QString damage = QStringLiteral("the splitter positions are damaged");
 const QLatin1String stateSuffix("_State");
 const QLatin1String geometrySuffix("_Geometry");
 const QLatin1String sizesSuffix("_Sizes");
@@ -28,6 +29,11 @@ std::optional<State> parsedState(const QString& text)
     auto bytes = Hexadecimal::decode(text);
     auto sizes = bytes ? SplitterStateCheck::sizes(*bytes) : std::nullopt;
     return sizes ? std::optional(State{*std::move(bytes), *std::move(sizes)}) : std::nullopt;
+}
+
+std::optional<QByteArray> parsedGeometry(const QString& text)
+{
+    return WidgetPlacement::fromText(text);
 }
 
 std::optional<QList<int>> parsedSizes(const QString& text)
@@ -46,20 +52,20 @@ void SplitterTable::store(const QString& key, const Splitter* splitter) const
 {
     if (splitter == nullptr || !splitter->isVisible())
         return;
-    m_store.write(key + stateSuffix, Hexadecimal::encode(splitter->saveState()));
-    m_store.write(key + geometrySuffix, Hexadecimal::encode(splitter->saveGeometry()));
-    m_store.write(key + sizesSuffix, GeometryArrayParser::formatList(splitter->sizes()));
+    m_store.replace(key + stateSuffix, Hexadecimal::encode(splitter->saveState()), damage,
+                    parsedState);
+    m_store.replace(key + geometrySuffix, Hexadecimal::encode(splitter->saveGeometry()), damage,
+                    parsedGeometry);
+    m_store.replace(key + sizesSuffix, GeometryArrayParser::formatList(splitter->sizes()), damage,
+                    parsedSizes);
 }
 
 void SplitterTable::apply(const QString& key, Splitter* splitter) const
 {
     if (splitter == nullptr || splitter->count() == 0)
         return;
-    const QString damage = QStringLiteral("the splitter positions are damaged");
     const auto state = m_store.read(key + stateSuffix, damage, parsedState);
-    const auto geometry = m_store.read(key + geometrySuffix, damage, [](const QString& text) {
-        return WidgetPlacement::fromText(text);
-    });
+    const auto geometry = m_store.read(key + geometrySuffix, damage, parsedGeometry);
     const auto sizes = m_store.read(key + sizesSuffix, damage, parsedSizes);
     // A state that knows fewer widgets would collapse the others.
     if (state && state->sizes.size() >= splitter->count())

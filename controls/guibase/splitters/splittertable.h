@@ -12,7 +12,8 @@ class Splitter;
 class SplitterTable
 {
 public:
-    /// Takes the positions of a visible splitter over; nothing for others.
+    /// Takes the positions of a visible splitter over; nothing for others. Damaged ones that were
+    /// there are kept aside.
     void store(const QString& key, const Splitter* splitter) const;
     /// Gives the splitter the positions that were stored last, in this run or an earlier one.
     /// Damaged ones change nothing and are kept aside. A splitter without widgets stays as it is.

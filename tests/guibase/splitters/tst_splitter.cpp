@@ -64,11 +64,13 @@ private Q_SLOTS:
         const auto splitter = makeSplitter(QStringLiteral("texts"));
         QVERIFY(!splitter->opaqueResize());
         splitter->setSizes({200, 400});
+        configuration()->SetString(QStringLiteral("texts_State"), QStringLiteral("not read yet"));
         splitter->slotKeepSettings(0, 1);
         const auto value = [](const char* key) {
             return configuration()->GetString(QLatin1String(key));
         };
         QCOMPARE(value("texts_State").toLatin1(), splitter->saveState().toHex());
+        QCOMPARE(value("texts_State_damaged"), QStringLiteral("not read yet"));
         QCOMPARE(value("texts_Geometry").toLatin1(), splitter->saveGeometry().toHex());
         splitter->hide();
         splitter->setSizes({300, 300});

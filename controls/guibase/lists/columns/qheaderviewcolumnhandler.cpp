@@ -17,6 +17,21 @@
 
 namespace guiHelper {
 
+namespace {
+
+const QString geometryDamage = QStringLiteral("the header geometry is damaged");
+const QString stateDamage = QStringLiteral("the header state is damaged");
+
+std::optional<QByteArray> geometryOf(const QString& text)
+{
+    auto bytes =
+        QByteArray::fromBase64Encoding(text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+    return bytes && GeometryRecord::fromBytes(*bytes) ? std::optional(*std::move(bytes))
+                                                      : std::nullopt;
+}
+
+} // namespace
+
 QHeaderViewColumnHandler::QHeaderViewColumnHandler(const QString& name, QHeaderView* header)
     : QObject(header)
     , m_header(header)
@@ -40,14 +55,21 @@ QString QHeaderViewColumnHandler::key(const char* suffix) const
     return QStringLiteral("QHeaderViewColumnSettings_") + objectName() + QLatin1String(suffix);
 }
 
+std::optional<HeaderState> QHeaderViewColumnHandler::stateOf(const QString& text) const
+{
+    return HeaderState::fromText(text, m_header->orientation());
+}
+
 void QHeaderViewColumnHandler::saveColumnStatus()
 {
     if (!m_header)
         return;
-    ICfg* const cfg = CfgCenter::GetAppCfg(SettingsView);
-    cfg->SetString(key("_GEOM"), QString::fromLatin1(m_header->saveGeometry().toBase64()));
-    cfg->SetString(key("_STATE"), QString::fromLatin1(m_header->saveState().toBase64()));
-    cfg->Store();
+    const RecordStore store(SettingsView);
+    store.replace(key("_GEOM"), QString::fromLatin1(m_header->saveGeometry().toBase64()),
+                  geometryDamage, geometryOf);
+    store.replace(key("_STATE"), QString::fromLatin1(m_header->saveState().toBase64()), stateDamage,
+                  [this](const QString& text) { return stateOf(text); });
+    CfgCenter::GetAppCfg(SettingsView)->Store();
 }
 
 void QHeaderViewColumnHandler::restoreColumnStatus()
@@ -55,14 +77,12 @@ void QHeaderViewColumnHandler::restoreColumnStatus()
     if (!m_header)
         return;
     const RecordStore store(SettingsView);
-    const QByteArray geometry = QByteArray::fromBase64(store.text(key("_GEOM")).toLatin1());
+    const auto geometry = store.read(key("_GEOM"), geometryDamage, geometryOf);
     // A view places its headers itself.
-    if (m_header->isWindow() && GeometryRecord::fromBytes(geometry))
-        m_header->restoreGeometry(geometry);
-    const auto state = store.read(key("_STATE"), QStringLiteral("the header state is damaged"),
-                                  [this](const QString& text) {
-                                      return HeaderState::fromText(text, m_header->orientation());
-                                  });
+    if (geometry && m_header->isWindow())
+        m_header->restoreGeometry(*geometry);
+    const auto state = store.read(key("_STATE"), stateDamage,
+                                  [this](const QString& text) { return stateOf(text); });
     if (state)
         restoreState(*state, 0);
 }

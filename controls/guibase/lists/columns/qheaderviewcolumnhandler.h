@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class QHeaderView;
 class QWidget;
@@ -44,6 +45,7 @@ private Q_SLOTS:
 
 private:
     QString key(const char* suffix) const;
+    std::optional<HeaderState> stateOf(const QString& text) const;
     void restoreState(const HeaderState& state, int firstSection);
     void restoreAwaited(int oldCount, int newCount);
     void watchView();

@@ -21,6 +21,7 @@ namespace {
 using guiHelper::QHeaderViewColumnHandler;
 
 const QString stateKey = QStringLiteral("QHeaderViewColumnSettings_name_STATE");
+const QString geometryKey = QStringLiteral("QHeaderViewColumnSettings_name_GEOM");
 
 struct Header
 {
@@ -170,12 +171,17 @@ private Q_SLOTS:
                 random.below(10) == 0 ? random.bytes(300) : random.mutated(newState());
             QVERIFY2(survives(state), state.toHex());
         }
-        CfgCenter::GetAppCfg(SettingsView)->SetString(stateKey, QStringLiteral("no base64!"));
-        original.handler->restoreColumnStatus();
+        // Also when it is stored before it was ever read.
+        ICfg* const cfg = CfgCenter::GetAppCfg(SettingsView);
+        for (const QString& key : {stateKey, geometryKey})
+            cfg->SetString(key, key + QStringLiteral(": no base64!"));
         original.handler->saveColumnStatus();
-        QCOMPARE(
-            CfgCenter::GetAppCfg(SettingsView)->GetString(stateKey + QStringLiteral("_damaged")),
-            QStringLiteral("no base64!"));
+        for (const QString& key : {stateKey, geometryKey}) {
+            QCOMPARE(cfg->GetString(key + QStringLiteral("_damaged")),
+                     key + QStringLiteral(": no base64!"));
+            QVERIFY(QByteArray::fromBase64Encoding(cfg->GetString(key).toLatin1(),
+                                                   QByteArray::AbortOnBase64DecodingErrors));
+        }
     }
     void headerInView()
     {
