@@ -2,8 +2,10 @@
 #include "dockrestore_p.h"
 
 #include "floatingdockkeeper.h"
+#include "widgetplacement.h"
 
 #include <guibase/docks/mainwindowhelpers.h>
+#include <guibase/docks/maximizeminimizesupport.h>
 #include <guibase/records/dockstatecheck.h>
 
 #include <QMainWindow>
@@ -82,6 +84,25 @@ void putBack(QMainWindow& window, const FormerDock& former)
         dock->setHidden(wasHidden);
 }
 
+void placeFloating(QDockWidget& dock, const MaximizedDocks& maximized)
+{
+    using QDockWidgetHelpers::MaximizeMinimizeSupport;
+    const auto found = maximized.find(dock.objectName());
+    const bool shallMaximize = found != maximized.end() && !dock.isMaximized();
+    const QPointer<QDockWidget> guard(&dock);
+    if (shallMaximize)
+        dock.setGeometry(WidgetPlacement::reachableGeometry(found->second, dock));
+    if (guard)
+        FloatingDockKeeper::keep(dock, FloatingDockKeeper::Place::OnScreen);
+    if (!shallMaximize || !guard)
+        return;
+    // It would undo what it does not know of.
+    if (auto* const support = MaximizeMinimizeSupport::get(dock))
+        support->maximizeDockWidget();
+    else
+        MaximizeMinimizeSupport::maximizeDockWidget(dock);
+}
+
 /// The toolkit puts all unknown tool bars of an area into one line.
 void putBack(QMainWindow& window, const FormerToolBar& former)
 {
@@ -92,9 +113,16 @@ void putBack(QMainWindow& window, const FormerToolBar& former)
 
 } // namespace
 
-QByteArray DockRestore::save(const QMainWindow& window)
+DockLayout DockRestore::save(const QMainWindow& window)
 {
-    return window.saveState(stateVersion);
+    DockLayout layout{window.saveState(stateVersion), std::nullopt, {}};
+    const auto docks = QMainWindowHelpers::dockWidgets(window);
+    for (const QDockWidget* dock : docks) {
+        const bool isMaximized = dock->isFloating() && dock->isMaximized();
+        if (isMaximized && !dock->objectName().isEmpty() && dock->normalGeometry().isValid())
+            layout.maximized.emplace(dock->objectName(), dock->normalGeometry());
+    }
+    return layout;
 }
 
 void DockRestore::restore(QMainWindow& window, const DockLayout& layout)
@@ -112,7 +140,7 @@ void DockRestore::restore(QMainWindow& window, const DockLayout& layout)
         if (guard)
             putBack(window, former);
         if (former.dock && former.dock->isFloating() && former.dock->isVisible())
-            FloatingDockKeeper::keep(*former.dock, FloatingDockKeeper::Place::OnScreen);
+            placeFloating(*former.dock, layout.maximized);
     }
     for (const FormerToolBar& former : toolBars) {
         if (guard)

@@ -3,7 +3,6 @@
 
 #include <guibase/records/docklayout.h>
 
-#include <QByteArray>
 #include <QDockWidget>
 #include <QPointer>
 
@@ -16,9 +15,10 @@ namespace DockRestore {
 
 inline constexpr int stateVersion = 1;
 
-QByteArray save(const QMainWindow& window);
+DockLayout save(const QMainWindow& window);
 /// Applies the layout. Docks and tool bars that it does not know stay where they are: in their
-/// area, tabs and line. Floating docks come back whole on a screen of today. A state that
+/// area, tabs and line. Floating docks come back whole on a screen of today, or
+/// maximized. A state that
 /// DockStateCheck refuses changes nothing.
 void restore(QMainWindow& window, const DockLayout& layout);
 

@@ -5,12 +5,15 @@ ModeTable::ModeTable()
     : m_current(&m_layouts[0])
 {}
 
-void ModeTable::load(const StateRecord::Layouts& layouts)
+void ModeTable::load(const StateRecord::Layouts& layouts,
+                     const MaximizedDocksText::Modes& maximized)
 {
     for (const auto& [mode, state] : layouts) {
         ModeLayout& layout = m_layouts[mode];
-        layout.latest = {state, std::nullopt};
-        layout.programStart = state;
+        const auto docks = maximized.find(mode);
+        layout.latest = {state, std::nullopt,
+                         docks != maximized.end() ? docks->second : MaximizedDocks()};
+        layout.programStart = layout.latest;
     }
     if (layouts.empty())
         reset(&ModeLayout::programStart);
@@ -24,8 +27,18 @@ StateRecord::Layouts ModeTable::latest() const
     return result;
 }
 
-void ModeTable::reset(QByteArray ModeLayout::*former)
+MaximizedDocksText::Modes ModeTable::latestMaximized() const
+{
+    MaximizedDocksText::Modes result;
+    for (const auto& [mode, layout] : m_layouts) {
+        if (!layout.latest.maximized.empty())
+            result.emplace_hint(result.end(), mode, layout.latest.maximized);
+    }
+    return result;
+}
+
+void ModeTable::reset(DockLayout ModeLayout::*former)
 {
     for (auto& [mode, layout] : m_layouts)
-        layout.latest = {layout.*former, std::nullopt};
+        layout.latest = layout.*former;
 }

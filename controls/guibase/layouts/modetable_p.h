@@ -2,9 +2,8 @@
 #pragma once
 
 #include <guibase/records/docklayout.h>
+#include <guibase/records/maximizeddocks.h>
 #include <guibase/records/staterecord.h>
-
-#include <QByteArray>
 
 #include <map>
 
@@ -12,8 +11,8 @@
 /// known.
 struct ModeLayout
 {
-    QByteArray factory;      ///< Before any stored layout was applied.
-    QByteArray programStart; ///< As the record was read.
+    DockLayout factory;      ///< Before any stored layout was applied.
+    DockLayout programStart; ///< As the record was read.
     DockLayout latest;
 };
 
@@ -31,10 +30,11 @@ public:
 
     /// Takes over the record's layouts as those at program start. Without any, all modes go back to
     /// their layouts at program start.
-    void load(const StateRecord::Layouts& layouts);
+    void load(const StateRecord::Layouts& layouts, const MaximizedDocksText::Modes& maximized);
     StateRecord::Layouts latest() const;
+    MaximizedDocksText::Modes latestMaximized() const;
     /// All modes go back to the layouts that `former` points to.
-    void reset(QByteArray ModeLayout::*former);
+    void reset(DockLayout ModeLayout::*former);
 
 private:
     std::map<quint32, ModeLayout> m_layouts;

@@ -119,7 +119,7 @@ void PersistentWidget::CommitData()
 
 WindowRecord::Content PersistentWidget::content() const
 {
-    return {m_modes.latest(), m_geometry, m_isMinimized};
+    return {m_modes.latest(), m_modes.latestMaximized(), m_geometry, m_isMinimized};
 }
 
 void PersistentWidget::ApplyPersistantBeforeWrite()
@@ -132,7 +132,7 @@ void PersistentWidget::ApplyPersistantAfterRead()
     if (!m_widget)
         return;
     const WindowRecord::Content content = m_record.take(m_widget->isWindow());
-    m_modes.load(content.layouts);
+    m_modes.load(content.layouts, content.maximized);
     m_modes.current().latest.names = m_record.takeFirstNames();
     m_isMinimized = content.isMinimized;
     m_geometry = content.geometry;
@@ -198,7 +198,7 @@ void PersistentWidget::captureDocks()
     // The application or the user has other plans than the layout that is awaited.
     m_sizeWait.endIfRearranged();
     if (!m_sizeWait.isOn())
-        update(m_modes.current().latest, {DockRestore::save(*docks), std::nullopt});
+        update(m_modes.current().latest, DockRestore::save(*docks));
 }
 
 /// Once for all the docks that change together. Their window may be gone before the next write.
@@ -371,12 +371,12 @@ void PersistentWidget::applyCurrentLayout()
     if (docks == nullptr)
         return;
     ModeLayout& layout = m_modes.current();
-    const QByteArray present = DockRestore::save(*docks);
-    if (layout.factory.isEmpty())
+    const DockLayout present = DockRestore::save(*docks);
+    if (layout.factory.state.isEmpty())
         layout.factory = present;
-    if (layout.programStart.isEmpty())
-        layout.programStart = layout.latest.state.isEmpty() ? present : layout.latest.state;
-    if (layout.latest.state != present)
+    if (layout.programStart.state.isEmpty())
+        layout.programStart = layout.latest.state.isEmpty() ? present : layout.latest;
+    if (!(layout.latest == present))
         restoreDocks(DockLayout(layout.latest));
 }
 
@@ -437,7 +437,7 @@ void PersistentWidget::restoreFactory()
     }
 }
 
-void PersistentWidget::restore(const QByteArray& geometry, QByteArray ModeLayout::*former)
+void PersistentWidget::restore(const QByteArray& geometry, DockLayout ModeLayout::*former)
 {
     if (!m_widget)
         return;
@@ -488,6 +488,6 @@ void PersistentWidget::storeFactory(quint32 mode)
     ModeLayout& layout = m_modes.layout(mode);
     layout.factory = DockRestore::save(*docks);
     if (layout.latest.state.isEmpty())
-        layout.latest.state = layout.factory;
+        layout.latest = layout.factory;
     noteChange();
 }

@@ -93,7 +93,7 @@ private:
     void noteVisibility(const QEvent& event);
     void applyStart();
     void applyCurrentLayout();
-    void restore(const QByteArray& geometry, QByteArray ModeLayout::*former);
+    void restore(const QByteArray& geometry, DockLayout ModeLayout::*former);
     void restoreDocks(const DockLayout& layout);
     void awaitSize(const QSize& size);
     void restoreGeometryIfMoved(const QByteArray& geometry);

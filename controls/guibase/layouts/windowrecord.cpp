@@ -15,6 +15,7 @@ WindowRecord::WindowRecord(const QString& name, PersistantOwner& owner)
     m_record.Add(&m_stateText, QStringLiteral("State"));
     m_record.Add(&m_geometryText, QStringLiteral("Geometry"));
     m_record.Add(&m_isMinimized, QStringLiteral("Minimized"), false);
+    m_record.Add(&m_maximizedText, QStringLiteral("MaximizedDocks"));
 }
 
 void WindowRecord::read()
@@ -33,7 +34,8 @@ WindowRecord::Content WindowRecord::take(bool isWindow)
     Content content;
     content.isMinimized = m_isMinimized;
     const bool areLayoutsWhole = takeLayouts(content.layouts);
-    if (takeGeometry(content.geometry, isWindow) && areLayoutsWhole)
+    const bool areMaximizedWhole = takeMaximized(content.maximized);
+    if (takeGeometry(content.geometry, isWindow) && areLayoutsWhole && areMaximizedWhole)
         m_known = content;
     return content;
 }
@@ -48,6 +50,7 @@ void WindowRecord::set(const Content& content)
     m_geometryText = Hexadecimal::encode(content.geometry);
     if (!m_known || m_known->layouts != content.layouts)
         m_stateText = StateRecord::encode(content.layouts);
+    m_maximizedText = MaximizedDocksText::format(content.maximized);
     m_isMinimized = content.isMinimized;
     m_known = content;
 }
@@ -77,6 +80,17 @@ bool WindowRecord::takeLayouts(StateRecord::Layouts& layouts)
     return !layouts.empty() && reading->damagedModes.isEmpty();
 }
 
+bool WindowRecord::takeMaximized(MaximizedDocksText::Modes& maximized)
+{
+    auto modes = MaximizedDocksText::parse(m_maximizedText);
+    if (!modes) {
+        keepAside(QStringLiteral("the maximized docks cannot be read"));
+        return false;
+    }
+    maximized = *std::move(modes);
+    return true;
+}
+
 bool WindowRecord::takeGeometry(QByteArray& geometry, bool isWindow)
 {
     const auto bytes = WidgetPlacement::fromText(m_geometryText, isWindow);
@@ -91,8 +105,9 @@ void WindowRecord::keepAside(const QString& reason) const
     const QString& name = m_record.GetName();
     const std::unique_ptr<ICfg> place =
         CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(RecordStore::asideName(name));
-    RecordStore::keepAside(
-        *place,
-        {{QStringLiteral("State"), m_stateText}, {QStringLiteral("Geometry"), m_geometryText}},
-        name, reason);
+    RecordStore::keepAside(*place,
+                           {{QStringLiteral("State"), m_stateText},
+                            {QStringLiteral("Geometry"), m_geometryText},
+                            {QStringLiteral("MaximizedDocks"), m_maximizedText}},
+                           name, reason);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <guibase/records/dockstatecheck.h>
+#include <guibase/records/maximizeddocks.h>
 #include <guibase/records/staterecord.h>
 
 #include <valueframework/persistant.h>
@@ -12,14 +13,15 @@
 #include <optional>
 
 /// What the configuration holds of one window: its geometry, whether it was minimized, and its dock
-/// layout in each mode. Damaged parts are left out; the record is then kept aside under its name
-/// followed by "_damaged".
+/// layout in each mode, with the docks that were maximized. Damaged parts are left out; the record
+/// is then kept aside under its name followed by "_damaged".
 class WindowRecord
 {
 public:
     struct Content
     {
         StateRecord::Layouts layouts;
+        MaximizedDocksText::Modes maximized;
         QByteArray geometry; ///< As QWidget::saveGeometry() gives it; empty when
                              ///< there is none.
         bool isMinimized = false;
@@ -44,12 +46,14 @@ public:
 private:
     /// False when something else than what was read must be written.
     bool takeLayouts(StateRecord::Layouts& layouts);
+    bool takeMaximized(MaximizedDocksText::Modes& maximized);
     bool takeGeometry(QByteArray& geometry, bool isWindow);
     void keepAside(const QString& reason) const;
 
     Persistant m_record;
     QString m_stateText;
     QString m_geometryText;
+    QString m_maximizedText;
     bool m_isMinimized = false;
     std::optional<Content> m_known; ///< What these say; packing takes its time.
     std::optional<DockStateCheck::DockNames> m_firstNames;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dockstatecheck.h"
+#include "maximizeddocks.h"
 
 #include <QByteArray>
 
@@ -14,5 +15,10 @@ struct DockLayout
     /// Those in the state, when somebody has walked through it already.
     std::optional<DockStateCheck::DockNames> names;
 
-    bool operator==(const DockLayout& other) const { return state == other.state; }
+    MaximizedDocks maximized; ///< They cover the screen in the state.
+
+    bool operator==(const DockLayout& other) const
+    {
+        return state == other.state && maximized == other.maximized;
+    }
 };

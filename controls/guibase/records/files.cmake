@@ -8,6 +8,7 @@ guibase_room(records OBJECT
         geometryrecord.cpp geometryrecord.h
         headerstate.cpp headerstate.h
         hexadecimal.cpp hexadecimal.h
+        maximizeddocks.cpp maximizeddocks.h
         recordstore.cpp recordstore.h
         screenplacement.cpp screenplacement.h
         splitterstatecheck.cpp splitterstatecheck.h

@@ -7,6 +7,7 @@
 #include <guibase/docks/dockwidgetconfigurator.h>
 #include <guibase/docks/dockwidgethelpers.h>
 #include <guibase/docks/mainwindowconfigurator.h>
+#include <guibase/docks/maximizeminimizesupport.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
 #include <guibase/splitters/splitter.h>
@@ -26,6 +27,7 @@
 
 #include <functional>
 
+using QDockWidgetHelpers::MaximizeMinimizeSupport;
 using QMainWindowHelpers::AutoHideSupport;
 using QMainWindowHelpers::MainWindowConfigurator;
 
@@ -52,21 +54,26 @@ public:
             const QString name = QString::number(&dock - m_docks);
             dock = QDockWidgetHelpers::makeDockWidgetFrom(*new QTextEdit);
             addDockWidget(Qt::LeftDockWidgetArea, dock);
-            QDockWidgetHelpers::DockWidgetConfigurator().withAutoHideSupport(true).configure(
-                *dock, name, name);
+            QDockWidgetHelpers::DockWidgetConfigurator()
+                .withAutoHideSupport(true)
+                .withMaximizeSupport(true)
+                .configure(*dock, name, name);
         }
         AutoHideSupport::get(*this)->setStorageName(QStringLiteral("panels"));
     }
 
     void change()
     {
-        const auto& [docked, open, hidden, hiding, tab, raised] = m_docks;
+        const auto& [docked, open, hidden, hiding, tab, raised, large] = m_docks;
         addDockWidget(Qt::RightDockWidgetArea, docked);
         for (QDockWidget* dock : {open, hidden}) {
             dock->setFloating(true);
             dock->setGeometry(300, 260, 222, 188);
         }
         hidden->hide();
+        large->setFloating(true);
+        large->setGeometry(310, 240, 210, 170);
+        MaximizeMinimizeSupport::get(*large)->maximizeDockWidget();
         AutoHideSupport::autoHideAction(*hiding)->setChecked(true);
         tabifyDockWidget(tab, raised);
         raised->raise();
@@ -78,8 +85,9 @@ public:
 
     QString looks() const
     {
-        const auto& [docked, open, hidden, hiding, tab, raised] = m_docks;
+        const auto& [docked, open, hidden, hiding, tab, raised, large] = m_docks;
         const QRect place = open->geometry();
+        const QRect former = large->normalGeometry();
         const bool isAtEdge = AutoHideSupport::autoHideAction(*hiding)->isChecked();
         const QList<int> panes = m_splitter->sizes();
         QString text;
@@ -89,6 +97,9 @@ public:
             << docked->width()
             << (open->isVisible() && open->isFloating() ? ", open" : ", not open") << " at "
             << place.x() << ' ' << place.y() << ' ' << place.width() << ' ' << place.height()
+            << (large->isFloating() && large->isMaximized() ? ", large" : ", not large")
+            << " before " << former.x() << ' ' << former.y() << ' ' << former.width() << ' '
+            << former.height()
             << (hidden->isHidden() && hidden->isFloating() ? ", hidden" : ", shown")
             << (isAtEdge ? ", hiding" : ", not hiding")
             << (tabifiedDockWidgets(tab).contains(raised) ? ", tabbed" : ", not tabbed")
@@ -98,7 +109,7 @@ public:
     }
 
 private:
-    QDockWidget* m_docks[6] = {};
+    QDockWidget* m_docks[7] = {};
     Splitter* m_splitter = nullptr;
     SortListView* m_list = nullptr;
 };

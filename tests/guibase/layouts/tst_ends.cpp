@@ -49,9 +49,9 @@ private Q_SLOTS:
 
 private:
     /// What the program changes at its first start, and where the rest has come to be.
-    const QRegularExpression m_looks{
-        QStringLiteral("window maximized, docked right \\d+, open at 300 260 222 188, hidden, "
-                       "hiding, tabbed below, column 77, panes \\d+ \\d+")};
+    const QRegularExpression m_looks{QStringLiteral(
+        "window maximized, docked right \\d+, open at 300 260 222 188, large "
+        "before 310 240 210 170, hidden, hiding, tabbed below, column 77, panes \\d+ \\d+")};
 };
 
 QTEST_GUILESS_MAIN(tst_Ends)

@@ -4,6 +4,7 @@
 #include "support/testrows.h"
 
 #include <guibase/records/geometryrecord.h>
+#include <guibase/records/maximizeddocks.h>
 #include <guibase/records/screenplacement.h>
 #include <guibase/records/staterecord.h>
 
@@ -133,6 +134,23 @@ private Q_SLOTS:
                 const auto read = GeometryRecord::fromBytes(bytes);
                 QVERIFY(!read || read->toBytes() == bytes);
             }
+        }
+    }
+    void mutatedMaximizedDocks()
+    {
+        using namespace MaximizedDocksText;
+        RandomBytes random("maximized docks");
+        const QRect place(-5, 20, 800, 600);
+        const Modes modes{{0, {{QStringLiteral("A;,"), place}, {QStringLiteral("\u4e00"), place}}},
+                          {0xffffffff, {{QStringLiteral("A"), place}}}};
+        const QString good = format(modes);
+        QVERIFY(parse(good) == modes && parse(QString()) == Modes());
+        for (const char* bad : {"0,1,2,3,4,41", "0,1,2,0,4,41;", "0,1,2,3,4,;", "0,1,2,3,41;",
+                                "-1,1,2,3,4,41;", "0,1,2,3,4,41;0,1,2,3,4,41;"})
+            QVERIFY2(!parse(QString::fromLatin1(bad)), bad);
+        for (int round = 0; round < RandomBytes::rounds(1000); ++round) {
+            const auto read = parse(QString::fromLatin1(random.mutated(good.toLatin1())));
+            QVERIFY(!read || parse(format(*read)) == read);
         }
     }
     void screenPlacement_data()
