@@ -116,6 +116,7 @@ void MainWindow::buildViewMenu()
         for (QAction* action : actions)
             services.ShowHotKeyFrom(action, panel->windowTitle());
     }
+    services.ShowListHotKeys();
 }
 
 void MainWindow::buildBandEntries(QMenu* menu)

@@ -85,6 +85,23 @@ void GuiBase::ShowHotKeyFrom(QAction* action, const QString& scope)
         d->hotKeys.addAction(*action, scope);
 }
 
+int GuiBase::ShowHotKey(Qt::Key key, int modifiers, const QString& comment, const QString& scope)
+{
+    HotKey hotKey;
+    hotKey.registered = {key, modifiers};
+    hotKey.comment = comment;
+    hotKey.scope = scope;
+    hotKey.isShownOnly = true;
+    return d->hotKeys.add(hotKey);
+}
+
+QKeyCombination GuiBase::GetHotKey(int id)
+{
+    const HotKey* hotKey = d->hotKeys.find(id);
+    return hotKey != nullptr && hotKey->enabled ? hotKey->stroke.combination()
+                                                : QKeyCombination::fromCombined(0);
+}
+
 QWidget* GuiBase::GetHotkeysCtrl(QWidget* parent)
 {
     return HotKeyOverview::createList(d->hotKeys, parent);

@@ -27,14 +27,14 @@ struct HotKey
     HotKeyStroke stroke;
     HotKeyStroke registered; ///< What the application gave; the operator may have changed it.
     QPointer<QObject> receiver;
-    /// The action whose shortcut the line shows; it handles its shortcut itself, so that the line
-    /// is never matched. Null for a hot key.
+    /// The action whose shortcut the line shows. Null for a hot key.
     QPointer<QAction> action;
     QString comment;
     QString scope;
     int id = 0; ///< From 1, in the order of registration; never used again.
     bool onPress = false;
-    bool listed = true;      ///< Shown in the overview.
-    bool enabled = true;     ///< Takes part in matching.
-    bool isShortcut = false; ///< Made for an action, which may be gone by now.
+    bool listed = true;       ///< Shown in the overview.
+    bool enabled = true;      ///< Takes part in matching.
+    bool isShownOnly = false; ///< What it does is done elsewhere: it is never matched.
+    bool isShortcut = false;  ///< Made for an action, which may be gone by now.
 };

@@ -113,6 +113,7 @@ void HotKeyRegistry::addAction(QAction& action, const QString& scope)
     hotKey.scope = scope;
     hotKey.action = &action;
     hotKey.isShortcut = true;
+    hotKey.isShownOnly = true;
     const HotKey& added = *find(add(std::move(hotKey)));
     if (added.stroke != added.registered)
         setShortcut(action, added.stroke);
@@ -245,7 +246,7 @@ QList<int> HotKeyRegistry::matches(const QKeyEvent& event) const
 {
     QList<int> ids;
     for (const HotKey& hotKey : m_hotKeys) {
-        if (hotKey.stroke.key == event.key() && hotKey.enabled && !hotKey.isShortcut &&
+        if (hotKey.stroke.key == event.key() && hotKey.enabled && !hotKey.isShownOnly &&
             !hotKey.stroke.isNone() &&
             matchesModifiers(hotKey.stroke.modifiers, event.modifiers()) &&
             matchesAction(hotKey, event)) {

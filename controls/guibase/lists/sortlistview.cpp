@@ -18,6 +18,7 @@
 #include <QTreeWidgetItemIterator>
 
 #include <algorithm>
+#include <optional>
 #include <typeinfo>
 
 namespace {
@@ -447,12 +448,13 @@ void SortListView::contextMenuEvent(QContextMenuEvent* event)
 
 void SortListView::keyPressEvent(QKeyEvent* event)
 {
-    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
-    if (d->columns.hasMenu() && event->key() == Qt::Key_H &&
-        modifiers == (Qt::ControlModifier | Qt::AltModifier))
-        slotHeaderContextMenuRequested(QPoint(0, header()->height()));
-    else if (!d->columnKeys.handle(event->key(), modifiers))
+    const std::optional<ListColumnKeys::Command> command = ListColumnKeys::commandOf(*event);
+    if (!command || (*command == ListColumnKeys::OpenMenu && !d->columns.hasMenu()))
         QTreeWidget::keyPressEvent(event);
+    else if (*command == ListColumnKeys::OpenMenu)
+        slotHeaderContextMenuRequested(QPoint(0, header()->height()));
+    else
+        d->columnKeys.perform(*command);
 }
 
 void SortListView::rowsInserted(const QModelIndex& parent, int first, int last)

@@ -8,6 +8,7 @@
 #include <valueframework/persistant.h>
 
 #include <QFileDialog>
+#include <QKeyCombination>
 #include <QObject>
 #include <QPixmap>
 #include <QString>
@@ -185,6 +186,14 @@ public:
     /// Enters the action's shortcut and text in the hot-key overview, under the scope. The operator
     /// can change the shortcut there; a changed one is set when the action is entered.
     void ShowHotKeyFrom(QAction* action, const QString& scope);
+    /// Enters a key that a widget handles itself in the hot-key overview, and returns its id. The
+    /// operator can change it there; the widget asks GetHotKey() for the key that counts.
+    int ShowHotKey(Qt::Key key, int modifiers, const QString& comment, const QString& scope);
+    /// The key that a hot key has now; no key for one that is disabled or was never given.
+    QKeyCombination GetHotKey(int id);
+    /// Enters the keys for the columns of every SortListView in the hot-key overview, under
+    /// "Lists".
+    void ShowListHotKeys();
     /// The overview as a list, which belongs to `parent`.
     QWidget* GetHotkeysCtrl(QWidget* parent);
     /// The overview as a modal dialog; tells when there are no hot keys.

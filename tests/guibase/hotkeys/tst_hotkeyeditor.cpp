@@ -168,6 +168,36 @@ private Q_SLOTS:
         QCOMPARE(services.GetIndex4HotKey(Qt::Key_O, Qt::ControlModifier), open);
     }
 
+    /// The keys of all lists stand in the overview, once, and do what they say after a change.
+    void keysOfLists()
+    {
+        GuiBase& services = GuiBase::Instance();
+        SortListView list;
+        list.addColumn(QStringLiteral("Name"));
+        for (const char* name : {"a", "c", "b"})
+            new SortListViewItem(&list, QString::fromLatin1(name));
+        list.show();
+        const auto first = [&list] { return list.topLevelItem(0)->text(0); };
+        services.ShowListHotKeys();
+        services.ShowListHotKeys();
+        const std::unique_ptr<QWidget> overview(services.GetHotkeysCtrl(nullptr));
+        const auto& rows = dynamic_cast<const SortListView&>(*overview);
+        QCOMPARE(rows.findItems(QStringLiteral("Lists"), Qt::MatchExactly, 4).size(), 7);
+        const auto altShift = Qt::AltModifier | Qt::ShiftModifier;
+        QTest::keyClick(&list, Qt::Key_Up, altShift);
+        QCOMPARE(first(), QStringLiteral("a"));
+        const int down = services.GetIndex4HotKey(Qt::Key_Down, int(altShift.toInt()));
+        services.ChangeHotKey(down, Qt::Key_F4, 0);
+        QTest::keyClick(&list, Qt::Key_Down, altShift);
+        QCOMPARE(first(), QStringLiteral("a"));
+        QTest::keyClick(&list, Qt::Key_F4);
+        QCOMPARE(first(), QStringLiteral("c"));
+        services.EnableHotKey(down, false);
+        QTest::keyClick(&list, Qt::Key_Up, altShift);
+        QTest::keyClick(&list, Qt::Key_F4);
+        QCOMPARE(first(), QStringLiteral("a"));
+    }
+
 private:
     static int add(Qt::Key key, const QString& comment, int modifiers = 0)
     {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The members of GuiBase that keep the columns of lists.
 #include "columntable.h"
+#include "listcolumnkeys.h"
 
 #include <guibase/services/guibase.h>
 #include <guibase/services/guibase_p.h>
@@ -18,6 +19,11 @@ void GuiBase::KeepColumnWidth4(const QString& name, SortListView* list)
 void GuiBase::StoreColumnWidth4(const QString& name, SortListView* list)
 {
     d->columns.store(name, list);
+}
+
+void GuiBase::ShowListHotKeys()
+{
+    ListColumnKeys::showInOverview(*this);
 }
 
 void GuiBase::StoreColumnSizes2Cfg()

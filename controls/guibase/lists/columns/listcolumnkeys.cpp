@@ -2,10 +2,45 @@
 #include "listcolumnkeys.h"
 
 #include <guibase/lists/sortlistview.h>
+#include <guibase/services/guibase.h>
 
 #include <QHeaderView>
+#include <QKeyEvent>
+
+#include <array>
 
 namespace {
+
+struct CommandKey
+{
+    QKeyCombination key;
+    const char* comment;
+};
+
+// In the order of the commands.
+constexpr std::array commandKeys{
+    CommandKey{Qt::ALT | Qt::Key_Left, QT_TRANSLATE_NOOP("SortListView", "Column to the left")},
+    CommandKey{Qt::ALT | Qt::Key_Right, QT_TRANSLATE_NOOP("SortListView", "Column to the right")},
+    CommandKey{Qt::ALT | Qt::SHIFT | Qt::Key_Left,
+               QT_TRANSLATE_NOOP("SortListView", "Move column to the left")},
+    CommandKey{Qt::ALT | Qt::SHIFT | Qt::Key_Right,
+               QT_TRANSLATE_NOOP("SortListView", "Move column to the right")},
+    CommandKey{Qt::ALT | Qt::SHIFT | Qt::Key_Up,
+               QT_TRANSLATE_NOOP("SortListView", "Sort by column, ascending")},
+    CommandKey{Qt::ALT | Qt::SHIFT | Qt::Key_Down,
+               QT_TRANSLATE_NOOP("SortListView", "Sort by column, descending")},
+    CommandKey{Qt::CTRL | Qt::ALT | Qt::Key_H,
+               QT_TRANSLATE_NOOP("SortListView", "Show or hide columns")},
+};
+
+/// In the hot-key overview; 0 for keys that are not in it.
+std::array<int, commandKeys.size()> hotKeyIds{};
+
+QKeyCombination keyOf(size_t command)
+{
+    return hotKeyIds[command] != 0 ? GuiBase::Instance().GetHotKey(hotKeyIds[command])
+                                   : commandKeys[command].key;
+}
 
 /// The next visual place with a visible section; -1 at the end.
 int nextVisiblePlace(const QHeaderView& header, int place, int step)
@@ -23,24 +58,51 @@ ListColumnKeys::ListColumnKeys(SortListView& view)
     : m_view(view)
 {}
 
-bool ListColumnKeys::handle(int key, Qt::KeyboardModifiers modifiers)
+std::optional<ListColumnKeys::Command> ListColumnKeys::commandOf(const QKeyEvent& event)
 {
-    const bool choose = modifiers == Qt::AltModifier;
-    const bool change = modifiers == (Qt::AltModifier | Qt::ShiftModifier);
-    const bool isSideways = key == Qt::Key_Left || key == Qt::Key_Right;
-    const int step = (key == Qt::Key_Left) == m_view.isRightToLeft() ? 1 : -1;
+    const QKeyCombination pressed(event.modifiers() & ~Qt::KeypadModifier, Qt::Key(event.key()));
+    for (size_t command = 0; command < commandKeys.size(); ++command) {
+        if (keyOf(command) == pressed && event.key() != 0)
+            return static_cast<Command>(command);
+    }
+    return std::nullopt;
+}
+
+void ListColumnKeys::perform(Command command)
+{
     const int column = chosenColumn();
-    const QHeaderView& header = *m_view.header();
-    if (choose && isSideways)
-        chooseColumn(nextVisiblePlace(header, header.visualIndex(column), step));
-    else if (change && isSideways)
+    const int place = m_view.header()->visualIndex(column);
+    const bool isToTheLeft = command == ChooseLeft || command == MoveLeft;
+    const int step = isToTheLeft == m_view.isRightToLeft() ? 1 : -1;
+    switch (command) {
+    case ChooseLeft:
+    case ChooseRight:
+        chooseColumn(nextVisiblePlace(*m_view.header(), place, step));
+        break;
+    case MoveLeft:
+    case MoveRight:
         moveColumn(column, step);
-    else if (change && (key == Qt::Key_Up || key == Qt::Key_Down) &&
-             header.visualIndex(column) >= 0)
-        m_view.setSorting(column, key == Qt::Key_Up);
-    else
-        return false;
-    return true;
+        break;
+    case SortUp:
+    case SortDown:
+        if (place >= 0)
+            m_view.setSorting(column, command == SortUp);
+        break;
+    case OpenMenu:
+        break;
+    }
+}
+
+void ListColumnKeys::showInOverview(GuiBase& services)
+{
+    if (hotKeyIds[0] != 0)
+        return;
+    for (size_t command = 0; command < commandKeys.size(); ++command) {
+        const auto& [key, comment] = commandKeys[command];
+        hotKeyIds[command] =
+            services.ShowHotKey(key.key(), static_cast<int>(key.keyboardModifiers().toInt()),
+                                SortListView::tr(comment), SortListView::tr("Lists"));
+    }
 }
 
 int ListColumnKeys::chosenColumn() const
