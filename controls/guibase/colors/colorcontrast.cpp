@@ -72,14 +72,12 @@ double luminance(const QColor& color)
 
 double ColorContrast::ratio(const QColor& foreground, const QColor& background)
 {
-    const auto [darker, lighter] =
-        std::minmax({luminance(foreground), luminance(background)});
+    const auto [darker, lighter] = std::minmax({luminance(foreground), luminance(background)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-std::optional<double>
-ColorContrast::ratioOf(IColorBase::ECOLOR slot,
-                       const std::function<QColor(IColorBase::ECOLOR)>& color)
+std::optional<double> ColorContrast::ratioOf(IColorBase::ECOLOR slot,
+                                             const std::function<QColor(IColorBase::ECOLOR)>& color)
 {
     const auto* row = std::find_if(std::begin(drawn), std::end(drawn),
                                    [slot](const Drawn& each) { return each.slot == slot; });
@@ -87,4 +85,15 @@ ColorContrast::ratioOf(IColorBase::ECOLOR slot,
         return std::nullopt;
     const QColor own = color(slot);
     return std::min(ratio(own, color(row->on)), ratio(own, color(row->alsoOn)));
+}
+
+QColor ColorContrast::placeholder(const QPalette& palette)
+{
+    const QColor own = palette.color(QPalette::PlaceholderText);
+    if (ratio(own, palette.color(QPalette::Base)) >= lowest)
+        return own;
+    QColor color = palette.color(QPalette::Text);
+    constexpr int halfTransparent = 128;
+    color.setAlpha(halfTransparent);
+    return color;
 }

@@ -5,6 +5,7 @@
 #include <guibase/guibase_export.h>
 
 #include <QColor>
+#include <QPalette>
 
 #include <functional>
 #include <optional>
@@ -27,5 +28,9 @@ GUIBASE_EXPORT double ratio(const QColor& foreground, const QColor& background);
 /// a slot.
 GUIBASE_EXPORT std::optional<double>
 ratioOf(IColorBase::ECOLOR slot, const std::function<QColor(IColorBase::ECOLOR)>& color);
+
+/// For texts that stand in for a missing input: the palette's own colour, or the half transparent
+/// one of its texts when that would be hard to see, as in dark palettes that set only some colours.
+GUIBASE_EXPORT QColor placeholder(const QPalette& palette);
 
 } // namespace ColorContrast

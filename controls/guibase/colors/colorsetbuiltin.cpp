@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "colorsetbuiltin.h"
 
-#include "colorsetfactory_p.h"
 #include "colorset.h"
+#include "colorsetfactory_p.h"
 
 #include <QCoreApplication>
 

@@ -18,7 +18,8 @@ std::unique_ptr<ICfg> place()
 
 bool isUserColor(int id)
 {
-    return id >= ColorCatalogue::firstUserId && Colors::Instance().GetColorDefinition(id) != nullptr;
+    return id >= ColorCatalogue::firstUserId &&
+           Colors::Instance().GetColorDefinition(id) != nullptr;
 }
 
 } // namespace

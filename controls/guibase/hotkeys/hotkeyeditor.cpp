@@ -3,6 +3,8 @@
 
 #include "keynames.h"
 
+#include <guibase/colors/colorcontrast.h>
+
 #include <QCheckBox>
 #include <QCompleter>
 #include <QDialogButtonBox>
@@ -197,6 +199,7 @@ void HotKeyEditor::Private::judge()
 {
     const std::optional<Qt::Key> typed = typedKey();
     QPalette palette = q.palette();
+    palette.setColor(QPalette::PlaceholderText, ColorContrast::placeholder(palette));
     if (!typed) {
         palette.setColor(QPalette::Base, invalidBackground);
         palette.setColor(QPalette::Text, Qt::black);

@@ -50,8 +50,10 @@ void ColorRows::populate(quint32 mask)
         if (group.isShown(mask))
             addGroup(group);
     }
-    if (topLevelItemCount() > 0)
+    if (topLevelItemCount() > 0) {
         topLevelItem(0)->setExpanded(true);
+        setCurrentItem(topLevelItem(0));
+    }
     resizeColumnToContents(0);
     header()->resizeSection(0, std::max(header()->sectionSize(0), 16 * fontMetrics().height()));
 }

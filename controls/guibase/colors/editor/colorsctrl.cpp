@@ -91,6 +91,7 @@ ColorsCtrl::Private::Private(ColorsCtrl& editor)
     connect(&undo, &QUndoStack::indexChanged, &q, [this] { followChange(); });
     connect(&undo, &QUndoStack::cleanChanged, &q,
             [this](bool clean) { Q_EMIT q.changesPending(!clean); });
+    q.setFocusProxy(rows);
     populate();
     setName();
 }
@@ -179,6 +180,9 @@ void ColorsCtrl::Private::followChange()
 {
     rows->markContrasts();
     showContrast();
+    QPalette palette;
+    palette.setColor(QPalette::PlaceholderText, ColorContrast::placeholder(q.palette()));
+    filter->setPalette(palette);
     preview->update();
 }
 
@@ -188,11 +192,11 @@ void ColorsCtrl::Private::showContrast()
     if (!ratio)
         contrast->setText(tr("Press Return on a row to choose another color."));
     else if (*ratio < ColorContrast::lowest)
-        contrast->setText(tr("Contrast with the background: %1 : 1, hard to see below %2 : 1.")
+        contrast->setText(tr("Contrast with the background: %L1 : 1, hard to see below %L2 : 1.")
                               .arg(*ratio, 0, 'f', 1)
                               .arg(ColorContrast::lowest, 0, 'f', 0));
     else
-        contrast->setText(tr("Contrast with the background: %1 : 1.").arg(*ratio, 0, 'f', 1));
+        contrast->setText(tr("Contrast with the background: %L1 : 1.").arg(*ratio, 0, 'f', 1));
 }
 
 ColorsCtrl::ColorsCtrl(QWidget* parent)

@@ -43,7 +43,7 @@ struct ColorSelect::Private
 {
     Private(ColorSelect& box, bool system);
 
-    /// The current entry stays by its id.
+    /// The current entry stays by its id, and so does what is being typed.
     void fill();
     void addGroup(const QString& heading, ColorDefinitionSet& set);
     void makeSearchable();
@@ -71,6 +71,7 @@ ColorSelect::Private::Private(ColorSelect& box, bool system)
 void ColorSelect::Private::fill()
 {
     const int id = q.GetCurrentId();
+    const QString typed = q.currentText();
     const QSignalBlocker blocker(q);
     entries->clear();
     if (withSystemColors)
@@ -78,6 +79,8 @@ void ColorSelect::Private::fill()
     addGroup(ColorSelect::tr("Palette"), Colors::Instance().GetColors());
     addGroup(ColorSelect::tr("User"), Colors::Instance().GetUserColors());
     q.setCurrentIndex(q.findData(id, IdRole));
+    if (isOpen)
+        q.setEditText(typed);
 }
 
 void ColorSelect::Private::addGroup(const QString& heading, ColorDefinitionSet& set)

@@ -41,6 +41,7 @@ ColorSelectListViewItem::~ColorSelectListViewItem()
 {
     // The row may die within the picker's own signal.
     if (m_picker) {
+        m_picker->disconnect(this); // Hiding it ends the choice.
         m_picker->hide();
         m_picker->deleteLater();
     }

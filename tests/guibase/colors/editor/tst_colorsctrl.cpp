@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/dialogscript.h"
+#include "support/files.h"
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
 
@@ -185,11 +186,15 @@ private Q_SLOTS:
     void anyFile()
     {
         RandomBytes random("colour-set files");
+        const QString saved = m_folder->filePath(QStringLiteral("valid.cst"));
+        colors().Save(nullptr, saved);
+        const QByteArray valid = readFile(saved);
+        QVERIFY(!valid.isEmpty());
         for (int round = 0; round < RandomBytes::rounds(30); ++round) {
             const QString file = m_folder->filePath(QStringLiteral("f%1.cst").arg(round % 3));
             QFile out(file);
             QVERIFY(out.open(QIODevice::WriteOnly));
-            out.write(random.bytes(700));
+            out.write(round % 2 == 0 ? random.bytes(700) : random.mutated(valid));
             out.close();
             colors().Load(nullptr, QString::fromLatin1(ColorSet::darkDesktopName));
             DialogScript script({file});
@@ -249,9 +254,7 @@ private:
     SortListView* list() const { return m_page->findChild<SortListView*>(); }
     QString nameText() const
     {
-        return m_page->findChild<QWidget*>(QStringLiteral("Toolbar"))
-            ->findChild<QLabel*>()
-            ->text();
+        return m_page->findChild<QWidget*>(QStringLiteral("Toolbar"))->findChild<QLabel*>()->text();
     }
     QList<ColorSelectListViewItem*> rows() const
     {
