@@ -38,6 +38,27 @@ bool isLess(SortListView::CompareFunction function, const Row& a, const Row& b)
     return (function == nullptr ? QString::compare(x, y) : function(y, x)) < 0;
 }
 
+/// Sorts the rows by the stated rule.
+QString sortedNumbers(std::vector<Row>& rows, SortListView::CompareFunction function,
+                      Qt::SortOrder order)
+{
+    std::stable_sort(rows.begin(), rows.end(), [=](const Row& a, const Row& b) {
+        return order == Qt::AscendingOrder ? isLess(function, a, b) : isLess(function, b, a);
+    });
+    QString numbers;
+    for (const Row& row : rows)
+        numbers += row.number;
+    return numbers;
+}
+
+void addRow(SortListView& list, std::vector<Row>& rows, const QString& text, const QString& key)
+{
+    rows.push_back({text, key, QString::number(rows.size()) + u' '});
+    auto* const item = new SortListViewItem(&list, text, rows.back().number);
+    item->SetColCount(1);
+    item->SetSortKey(0, key);
+}
+
 QString randomText(RandomBytes& random, int kind)
 {
     static const QStringList odd =
@@ -117,23 +138,11 @@ private Q_SLOTS:
                 for (; count > 0; --count) {
                     const QString key =
                         random.below(2) < keyShare ? randomText(random, 0) : QString();
-                    rows.push_back(
-                        {randomText(random, textKind), key, QString::number(rows.size()) + u' '});
-                    auto* const item =
-                        new SortListViewItem(&list, rows.back().text, rows.back().number);
-                    item->SetColCount(1);
-                    item->SetSortKey(0, key);
+                    addRow(list, rows, randomText(random, textKind), key);
                 }
             };
             const auto expected = [&](Qt::SortOrder direction) {
-                std::stable_sort(rows.begin(), rows.end(), [&](const Row& a, const Row& b) {
-                    const bool isUp = direction == Qt::AscendingOrder;
-                    return isUp ? isLess(function, a, b) : isLess(function, b, a);
-                });
-                QString numbers;
-                for (const Row& row : rows)
-                    numbers += row.number;
-                return numbers;
+                return sortedNumbers(rows, function, direction);
             };
             addRows(random.below(60));
             list.sortByColumn(0, order);
