@@ -35,11 +35,12 @@ struct DisplayFormatReading
 };
 
 /// The formats of one input: the built-in default format, which has the index -1, and those that
-/// were added, in their order. Shared by the families of spin boxes and combo boxes.
+/// were added, in their order. Shared by the families of spin boxes and combo boxes, through which
+/// applications reach the formats: its members are not exported.
 ///
 /// Exceptions of value converters end here: they are traced, and count as a failure.
 template <typename T>
-class GUIBASE_EXPORT DisplayFormatList
+class DisplayFormatList
 {
 public:
     using Format = ValueDisplayFormatBase<T>;

@@ -3,6 +3,7 @@ guibase_room(formats OBJECT
     PUBLIC
         displayaffix.cpp displayaffix.h
         displayformatlist.cpp displayformatlist.h
+        displayformattext.cpp displayformattext.h
         frequencydisplayformat.cpp frequencydisplayformat.h
         integralnumberdisplayformat.cpp integralnumberdisplayformat.h
         numberdisplayformatbase.cpp numberdisplayformatbase.h

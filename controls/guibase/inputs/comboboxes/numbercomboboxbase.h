@@ -99,13 +99,13 @@ protected:
 
 private:
     friend class TypedInputValue<T>;
-    struct Private;
+    struct GUIBASE_NO_EXPORT Private;
 
-    bool hasSpecialValue() const { return !specialValueText().isEmpty(); }
-    bool isSpecialText(const QString& text) const;
-    Reading readText(const QString& text) const;
-    void adoptRange() {}
-    void readItems();
+    GUIBASE_NO_EXPORT bool hasSpecialValue() const { return !specialValueText().isEmpty(); }
+    GUIBASE_NO_EXPORT bool isSpecialText(const QString& text) const;
+    GUIBASE_NO_EXPORT Reading readText(const QString& text) const;
+    GUIBASE_NO_EXPORT void adoptRange() {}
+    GUIBASE_NO_EXPORT void readItems();
 
     std::unique_ptr<Private> m_d;
 };

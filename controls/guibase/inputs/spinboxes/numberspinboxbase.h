@@ -40,7 +40,7 @@ protected:
     void stepAtCursor(int steps) override;
 
 private:
-    void step(qint64 steps, T size);
+    GUIBASE_NO_EXPORT void step(qint64 steps, T size);
 
     struct Private;
     std::unique_ptr<Private> m_d;

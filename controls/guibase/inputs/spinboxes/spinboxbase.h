@@ -97,16 +97,16 @@ protected:
     QStringList sizeSamples() const override;
     /// After a step that leads out of the type: the bound, or nothing, as setValue() would do.
     void stepBeyondLimit(bool up);
-    const DisplayFormatList<T>& displayFormats() const;
+    GUIBASE_NO_EXPORT const DisplayFormatList<T>& displayFormats() const;
 
 private:
     friend class TypedInputValue<T>;
-    struct Private;
+    struct GUIBASE_NO_EXPORT Private;
 
-    void adoptRange();
-    QString refusalOfReading(const QString& text, const Reading& reading) const;
-    QString refusalOfValue(const T& value) const;
-    T normalized(T value) const;
+    GUIBASE_NO_EXPORT void adoptRange();
+    GUIBASE_NO_EXPORT QString refusalOfReading(const QString& text, const Reading& reading) const;
+    GUIBASE_NO_EXPORT QString refusalOfValue(const T& value) const;
+    GUIBASE_NO_EXPORT T normalized(T value) const;
 
     std::unique_ptr<Private> m_d;
 };
