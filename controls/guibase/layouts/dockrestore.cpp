@@ -113,14 +113,21 @@ void putBack(QMainWindow& window, const FormerToolBar& former)
 
 } // namespace
 
-DockLayout DockRestore::save(const QMainWindow& window)
+DockLayout DockRestore::save(const QMainWindow& window, const DockLayout& former)
 {
     DockLayout layout{window.saveState(stateVersion), std::nullopt, {}};
     const auto docks = QMainWindowHelpers::dockWidgets(window);
     for (const QDockWidget* dock : docks) {
-        const bool isMaximized = dock->isFloating() && dock->isMaximized();
-        if (isMaximized && !dock->objectName().isEmpty() && dock->normalGeometry().isValid())
-            layout.maximized.emplace(dock->objectName(), dock->normalGeometry());
+        const QString name = dock->objectName();
+        if (!dock->isFloating() || !dock->isMaximized() || name.isEmpty())
+            continue;
+        // The toolkit forgets the place when the window manager maximizes a dock that it has not
+        // shown before.
+        const auto known = former.maximized.find(name);
+        const QRect place =
+            known != former.maximized.end() ? known->second : dock->normalGeometry();
+        if (place.isValid())
+            layout.maximized.emplace(name, place);
     }
     return layout;
 }

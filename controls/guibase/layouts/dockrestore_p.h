@@ -15,7 +15,8 @@ namespace DockRestore {
 
 inline constexpr int stateVersion = 1;
 
-DockLayout save(const QMainWindow& window);
+/// Docks that are still maximized as in the former layout keep the place that they had there.
+DockLayout save(const QMainWindow& window, const DockLayout& former = {});
 /// Applies the layout. Docks and tool bars that it does not know stay where they are: in their
 /// area, tabs and line. Floating docks come back whole on a screen of today, or
 /// maximized. A state that

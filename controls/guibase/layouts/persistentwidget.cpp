@@ -198,7 +198,7 @@ void PersistentWidget::captureDocks()
     // The application or the user has other plans than the layout that is awaited.
     m_sizeWait.endIfRearranged();
     if (!m_sizeWait.isOn())
-        update(m_modes.current().latest, DockRestore::save(*docks));
+        update(m_modes.current().latest, DockRestore::save(*docks, m_modes.current().latest));
 }
 
 /// Once for all the docks that change together. Their window may be gone before the next write.
@@ -486,7 +486,7 @@ void PersistentWidget::storeFactory(quint32 mode)
     if (!m_widget || docks == nullptr)
         return;
     ModeLayout& layout = m_modes.layout(mode);
-    layout.factory = DockRestore::save(*docks);
+    layout.factory = DockRestore::save(*docks, m_modes.current().latest);
     if (layout.latest.state.isEmpty())
         layout.latest = layout.factory;
     noteChange();
