@@ -10,8 +10,8 @@
 /// Compares pairs of ways to do the same thing, "ours" and "theirs", in one run.
 ///
 /// Each side is an ordinary Google Benchmark body (`for (auto _ : state) ...`). All sides are
-/// repeated in a random order, so that a slow phase of the machine hits both alike, and the medians
-/// of the repetitions are compared. The library's command line options work as usual.
+/// repeated in a random order, so that a slow phase of the machine hits both alike, and the lower
+/// quartiles of the repetitions are compared. The library's command line options work as usual.
 class RatioRun
 {
 public:
