@@ -12,14 +12,21 @@ constexpr qsizetype hashOffset = 14;
 
 } // namespace
 
-QByteArray NotificationMessage::encoded() const
+void NotificationMessage::appendTo(QByteArray& bytes) const
 {
-    QByteArray bytes(size, '\0');
-    char* data = bytes.data();
+    bytes.resize(bytes.size() + size);
+    char* data = bytes.data() + bytes.size() - size;
+    data[0] = '\0';
     data[typeOffset] = static_cast<char>(type);
     qToLittleEndian(id, data + idOffset);
     qToLittleEndian(value, data + valueOffset);
     qToLittleEndian(listHash, data + hashOffset);
+}
+
+QByteArray NotificationMessage::encoded() const
+{
+    QByteArray bytes;
+    appendTo(bytes);
     return bytes;
 }
 

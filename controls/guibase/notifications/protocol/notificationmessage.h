@@ -35,6 +35,8 @@ struct NotificationMessage
     bool operator==(const NotificationMessage&) const = default;
 
     QByteArray encoded() const;
+    /// The same, behind other messages.
+    void appendTo(QByteArray& bytes) const;
     /// Nothing for any other number of bytes, a reserved byte that is used, an unknown type and a
     /// height above the maximum. A value that means nothing reads as 0.
     static std::optional<NotificationMessage> decoded(QByteArrayView bytes);

@@ -10,7 +10,9 @@
 
 namespace {
 
+/// Each message of a client is one to all others, each of a server's only a change of a list.
 constexpr int messagesPerTurn = 64;
+constexpr int serverMessagesPerTurn = 1024;
 /// A program that comes back announces all its pop-ups at once.
 constexpr int burstSeconds = 2;
 constexpr int budgetPause = 50; // milliseconds
@@ -23,11 +25,12 @@ NotificationConnection::NotificationConnection(QTcpSocket* socket, qint64 sendBu
     , m_socket(socket)
     , m_sendBuffer(sendBuffer)
     , m_messagesPerSecond(messagesPerSecond)
+    , m_messagesPerTurn(messagesPerSecond > 0 ? messagesPerTurn : serverMessagesPerTurn)
     , m_budget(burstSeconds * messagesPerSecond)
 {
     m_sinceRefill.start();
     m_socket->setParent(this);
-    m_socket->setReadBufferSize(2 * messagesPerTurn * NotificationMessage::size);
+    m_socket->setReadBufferSize(2 * m_messagesPerTurn * NotificationMessage::size);
     // Each message is a step that others wait for.
     m_socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     connect(m_socket, &QTcpSocket::connected, this, [this] {
@@ -113,9 +116,9 @@ void NotificationConnection::readLater(int milliseconds)
 int NotificationConnection::allowance()
 {
     if (m_messagesPerSecond <= 0)
-        return messagesPerTurn;
+        return m_messagesPerTurn;
     const double seconds = static_cast<double>(m_sinceRefill.restart()) / 1000;
     m_budget = std::min<double>(m_budget + seconds * m_messagesPerSecond,
                                 burstSeconds * m_messagesPerSecond);
-    return std::min(static_cast<int>(m_budget), messagesPerTurn);
+    return std::min(static_cast<int>(m_budget), m_messagesPerTurn);
 }

@@ -17,7 +17,8 @@ class NotificationConnection : public QObject
 {
     Q_OBJECT
 public:
-    /// Takes the socket over. Reads at most `messagesPerSecond` on average, as many as come for 0.
+    /// Takes the socket over. Reads at most `messagesPerSecond` on average; as many as come for 0,
+    /// which is for a server's.
     NotificationConnection(QTcpSocket* socket, qint64 sendBuffer, int messagesPerSecond,
                            QObject* parent);
     ~NotificationConnection() override;
@@ -51,6 +52,7 @@ private:
     QTcpSocket* m_socket; // a child
     const qint64 m_sendBuffer;
     const int m_messagesPerSecond;
+    const int m_messagesPerTurn;
     double m_budget = 0;
     QElapsedTimer m_sinceRefill;
     bool m_isClosed = false;

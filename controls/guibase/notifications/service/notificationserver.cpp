@@ -7,10 +7,14 @@
 #include <QTcpSocket>
 #include <QTimer>
 
+#include <utility>
+
 namespace {
 
 /// Without file descriptors a listening socket goes deaf; time enough for some to come free.
 constexpr int deafTime = 500; // milliseconds
+/// So much is sent without waiting for the end of the turn.
+constexpr qsizetype largestBatch = 256 * NotificationMessage::size;
 
 } // namespace
 
@@ -30,6 +34,7 @@ NotificationServer::NotificationServer(const NotificationSettings& settings,
 
 NotificationServer::~NotificationServer()
 {
+    sendPending();
     for (NotificationConnection* client : std::as_const(m_clients)) {
         client->disconnect(this);
         client->flush();
@@ -51,10 +56,23 @@ void NotificationServer::publish(const NotificationMessage& change, Notification
     m_stack.apply(change, sender);
     NotificationMessage stamped = change;
     stamped.listHash = m_stack.hash();
-    const QByteArray bytes = stamped.encoded();
-    for (NotificationConnection* client : std::as_const(m_clients))
-        client->send(bytes);
+    if (m_pending.isEmpty())
+        QMetaObject::invokeMethod(this, &NotificationServer::sendPending, Qt::QueuedConnection);
+    stamped.appendTo(m_pending);
+    if (m_pending.size() >= largestBatch)
+        sendPending();
     Q_EMIT published(stamped);
+}
+
+void NotificationServer::sendPending()
+{
+    const QByteArray bytes = std::exchange(m_pending, {});
+    if (bytes.isEmpty())
+        return;
+    for (NotificationConnection* client : std::as_const(m_clients)) {
+        client->send(bytes);
+        client->flush();
+    }
 }
 
 void NotificationServer::acceptClients()
@@ -80,17 +98,21 @@ void NotificationServer::addClient(NotificationConnection* client)
         if (!client->hasSpoken())
             client->close();
     });
+    sendPending(); // The greeting holds it already.
     greet(*client);
     m_clients.insert(owner, client);
 }
 
 void NotificationServer::greet(NotificationConnection& client) const
 {
+    const QList<NotificationStack::Entry>& entries = m_stack.entries();
     QByteArray bytes;
-    for (const NotificationStack::Entry& entry : m_stack.entries())
-        bytes += NotificationMessage{NotificationMessage::Add, entry.id, entry.height}.encoded();
-    bytes += NotificationMessage{NotificationMessage::Connected, 0, 0, m_stack.hash()}.encoded();
+    bytes.reserve((entries.size() + 1) * NotificationMessage::size);
+    for (const NotificationStack::Entry& entry : entries)
+        NotificationMessage{NotificationMessage::Add, entry.id, entry.height}.appendTo(bytes);
+    NotificationMessage{NotificationMessage::Connected, 0, 0, m_stack.hash()}.appendTo(bytes);
     client.send(bytes);
+    client.flush();
 }
 
 void NotificationServer::onReceived(NotificationStack::Owner owner,

@@ -5,6 +5,7 @@
 
 #include <guibase/notifications/protocol/notificationstack.h>
 
+#include <QByteArray>
 #include <QHash>
 #include <QObject>
 
@@ -27,7 +28,8 @@ public:
     /// The port; what the system chose when the settings leave that to it by 0.
     quint16 port() const;
     qsizetype clientCount() const { return m_clients.size(); }
-    /// Applies a change of `sender` (nobody: this process) and sends it to every client.
+    /// Applies a change of `sender` (nobody: this process) and sends it to every client. The
+    /// changes of one turn of the event loop leave together.
     void publish(const NotificationMessage& change, NotificationStack::Owner sender);
 
 Q_SIGNALS:
@@ -37,6 +39,7 @@ Q_SIGNALS:
 private:
     void acceptClients();
     void addClient(NotificationConnection* client);
+    void sendPending();
     void greet(NotificationConnection& client) const;
     void onReceived(NotificationStack::Owner owner, const NotificationMessage& message);
     void onClosed(NotificationStack::Owner owner);
@@ -45,5 +48,6 @@ private:
     NotificationStack& m_stack;
     QTcpServer* m_server;                                               // a child
     QHash<NotificationStack::Owner, NotificationConnection*> m_clients; // children
+    QByteArray m_pending;
     NotificationStack::Owner m_lastOwner = NotificationStack::nobody;
 };

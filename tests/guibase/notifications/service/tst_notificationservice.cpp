@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <guibase/notifications/service/notificationservice.h>
 
+#include "support/descriptorlimit.h"
 #include "support/guardedtest.h"
 #include "support/testrows.h"
 
@@ -8,6 +9,9 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
+
+#include <netinet/in.h>
+#include <sys/socket.h>
 
 #include <memory>
 #include <tuple>
@@ -68,6 +72,7 @@ private Q_SLOTS:
     void leavesSilentServer();
     void leavesServerThatDiverges();
     void holdsBackWhatIsTooMuch();
+    void survivesLackOfDescriptors();
 
 protected:
     void prepare() override;
@@ -255,6 +260,30 @@ void tst_NotificationService::holdsBackWhatIsTooMuch()
     services[1]->remove(2);
     QTRY_COMPARE(idsOf(*services[0]), (QList<quint64>{1, 11, 12, 13}));
     QCOMPARE(services[1]->role(), Role::Client);
+}
+
+void tst_NotificationService::survivesLackOfDescriptors()
+{
+    m_settings.firstPause = 1ms;
+    m_settings.retries = 2;
+    m_settings.rejoinPause = 100ms;
+    const Services services = startServices(1);
+    const int client = ::socket(AF_INET, SOCK_STREAM, 0);
+    std::unique_ptr<NotificationService> other;
+    {
+        const DescriptorLimit none;
+        sockaddr_in address{AF_INET, htons(m_settings.port), {htonl(INADDR_LOOPBACK)}, {}};
+        QCOMPARE(::connect(client, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+        other = startService();
+        other->add(50, 10);
+        QTRY_COMPARE(other->role(), Role::Standalone);
+        QCOMPARE(idsOf(*other), (QList<quint64>{50}));
+    }
+    QTcpSocket socket;
+    socket.setSocketDescriptor(client);
+    QCOMPARE(readMessages(socket, 2).last().type, Message::Connected);
+    QTRY_COMPARE(idsOf(*services[0]), (QList<quint64>{1, 50}));
+    QCOMPARE(other->role(), Role::Client);
 }
 
 QTEST_MAIN(tst_NotificationService)
