@@ -6,25 +6,31 @@
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QGuiApplication>
+#include <QUrl>
 
 namespace {
 
 constexpr qsizetype maximumWaiting = 100;
 
+QString busAddress()
+{
+    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    return !address.isEmpty()
+               ? address
+               : QStringLiteral("unix:path=%1/bus").arg(qEnvironmentVariable("XDG_RUNTIME_DIR"));
+}
+
 /// Connects to the socket of the session bus, as the bus's address names it.
 void connectToBus(QLocalSocket& socket)
 {
-    QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
-    if (address.isEmpty())
-        address = QStringLiteral("unix:path=%1/bus").arg(qEnvironmentVariable("XDG_RUNTIME_DIR"));
-    const QString first = address.section(QLatin1Char(';'), 0, 0);
+    const QString first = busAddress().section(QLatin1Char(';'), 0, 0);
     const QString place = first.section(QLatin1Char(','), 0, 0);
     const bool isAbstract = place.startsWith(QLatin1String("unix:abstract="));
     if (!isAbstract && !place.startsWith(QLatin1String("unix:path=")))
         return;
     socket.setSocketOptions(isAbstract ? QLocalSocket::AbstractNamespaceOption
                                        : QLocalSocket::NoOptions);
-    socket.connectToServer(place.section(QLatin1Char('='), 1));
+    socket.connectToServer(QUrl::fromPercentEncoding(place.section(QLatin1Char('='), 1).toUtf8()));
 }
 
 } // namespace
@@ -55,6 +61,14 @@ void DesktopNotifier::notify(const QString& title, const QString& text)
 
 void DesktopNotifier::sendWaiting()
 {
+    // Not the toolkit's own connection: that is lost for good once it has failed.
+    const QString name = QStringLiteral("GuiBase notifications");
+    const QDBusConnection bus = QDBusConnection::connectToBus(busAddress(), name);
+    if (!bus.isConnected()) {
+        QDBusConnection::disconnectFromBus(name);
+        m_isBusAwake = false; // The next notification asks again.
+        return;
+    }
     for (const auto& [title, text] : std::as_const(m_waiting)) {
         QDBusMessage message = QDBusMessage::createMethodCall(
             QStringLiteral("org.freedesktop.Notifications"),
@@ -62,7 +76,7 @@ void DesktopNotifier::sendWaiting()
             QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
         message << QGuiApplication::applicationDisplayName() << 0U << QString() << title
                 << text.toHtmlEscaped() << QStringList() << QVariantMap() << -1;
-        QDBusConnection::sessionBus().asyncCall(message);
+        bus.asyncCall(message);
     }
     m_waiting.clear();
 }

@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLocale>
+#include <QTextDocument>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -32,9 +33,12 @@ void HistoryDialog::setRecords(const QList<NotificationRecord>& records)
 {
     m_list->clear();
     for (auto record = records.crbegin(); record != records.crend(); ++record) {
-        const QString time = QLocale().toString(record->time, QStringLiteral("HH:mm:ss"));
+        QString time = record->time.toString(QStringLiteral("HH:mm:ss"));
+        if (record->time.date() != QDate::currentDate())
+            time.prepend(QLocale().toString(record->time.date(), QLocale::ShortFormat) +
+                         QLatin1Char(' '));
         auto* item = new QTreeWidgetItem(m_list, {time, record->title, record->text.simplified()});
-        item->setToolTip(2, record->text);
+        item->setToolTip(2, Qt::convertFromPlainText(record->text));
     }
     m_list->header()->resizeSections(QHeaderView::ResizeToContents);
 }

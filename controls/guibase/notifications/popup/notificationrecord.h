@@ -8,6 +8,6 @@
 struct NotificationRecord
 {
     QDateTime time; ///< When it was raised, in local time.
-    QString title; ///< The window title.
-    QString text;  ///< Of another pop-up than StandardNotification, its accessible description.
+    QString title;  ///< The window title.
+    QString text;   ///< Of another pop-up than StandardNotification, its accessible description.
 };

@@ -92,6 +92,7 @@ public:
     QMap<quint64, QPointer<QWidget>> popups;
     QMap<const QObject*, quint64> ids;
     QSet<quint64> toldToDesktop;
+    QSet<const QObject*> refusing; ///< To close, perhaps.
     QList<NotificationRecord> history;
     QPointer<HistoryDialog> dialog;
     QTimer layoutTimer;
@@ -261,10 +262,12 @@ void Notifications::notify(QWidget* widget)
 {
     if (widget == nullptr || instance() == nullptr)
         return;
-    if (const quint64 id = instance()->d->idOf(widget); id != 0)
+    if (const quint64 id = instance()->d->idOf(widget); id != 0) {
         instance()->d->service.raise(id);
-    else
+    } else {
         instance()->add(widget);
+        instance()->d->record(*widget);
+    }
 }
 
 void Notifications::add(QWidget* widget)
@@ -276,8 +279,11 @@ void Notifications::add(QWidget* widget)
     d->popups.insert(id, widget);
     d->ids.insert(widget, id);
     widget->installEventFilter(this);
-    connect(widget, &QObject::destroyed, this, [this](QObject* gone) { d->forget(gone); });
-    d->record(*widget);
+    widget->disconnect(this); // It may be here for the second time.
+    connect(widget, &QObject::destroyed, this, [this](QObject* gone) {
+        d->refusing.remove(gone);
+        d->forget(gone);
+    });
     d->watchEscape();
     d->service.add(id, widget->height());
 }
@@ -297,10 +303,28 @@ void Notifications::cleanup()
 bool Notifications::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Close)
-        d->forget(watched);
+        onClose(static_cast<QWidget*>(watched));
+    else if (event->type() == QEvent::Hide)
+        d->refusing.remove(watched);
     else if (event->type() == QEvent::Resize && d->idOf(watched) != 0)
         d->service.resize(d->idOf(watched), static_cast<QResizeEvent*>(event)->size().height());
     return false;
+}
+
+void Notifications::onClose(QWidget* widget)
+{
+    if (d->idOf(widget) == 0)
+        return;
+    d->forget(widget);
+    if (!widget->isVisible())
+        return;
+    // A pop-up that refuses to close still needs a place. It hides by then when it agrees.
+    d->refusing.insert(widget);
+    QTimer::singleShot(0, widget, [self = QPointer(this), widget] {
+        if (self != nullptr && NotificationsPrivate::current == self &&
+            self->d->refusing.remove(widget) && self->d->idOf(widget) == 0)
+            self->add(widget);
+    });
 }
 
 QList<NotificationRecord> Notifications::history()

@@ -80,6 +80,7 @@ private:
     /// Null without an application object.
     static Notifications* instance();
     void add(QWidget* widget);
+    void onClose(QWidget* widget);
     void cleanup();
 
     std::unique_ptr<NotificationsPrivate> d;

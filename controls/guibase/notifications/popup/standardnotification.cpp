@@ -1,38 +1,34 @@
 // SPDX-License-Identifier: MIT
 #include "standardnotification.h"
 
+#include <guibase/colors/colorcontrast.h>
+
 #include <QAbstractButton>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPixmap>
 #include <QPointer>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
 constexpr QSize basicSize(400, 100);
 constexpr qsizetype maximumTextLength = 1000;
+constexpr int maximumTitleLines = 3;
+constexpr int maximumTextLines = 15;
+constexpr int maximumIconSize = 128;
 constexpr int lighterPercent = 150;
-
-/// The relative luminance by which the web's accessibility guidelines measure contrast.
-double luminanceOf(const QColor& color)
-{
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
 
 /// Black or white, by the weaker of the contrasts with both ends of the tint.
 QColor readableOn(const QColor& first, const QColor& second)
 {
-    const auto [dark, light] = std::minmax({luminanceOf(first), luminanceOf(second)});
-    const double withBlack = (dark + 0.05) / 0.05;
-    const double withWhite = 1.05 / (light + 0.05);
-    return withBlack >= withWhite ? QColor(Qt::black) : QColor(Qt::white);
+    const auto weaker = [&](const QColor& text) {
+        return std::min(ColorContrast::ratio(text, first), ColorContrast::ratio(text, second));
+    };
+    return weaker(Qt::black) >= weaker(Qt::white) ? QColor(Qt::black) : QColor(Qt::white);
 }
 
 } // namespace
@@ -47,6 +43,15 @@ public:
         , text(new QLabel(&owner))
     {}
 
+    /// Wraps the text, and shows no more than so many lines; a long word does not widen the panel.
+    static void bound(QLabel& label, int lines)
+    {
+        label.ensurePolished();
+        label.setWordWrap(true);
+        label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        label.setMinimumWidth(1);
+        label.setMaximumHeight(lines * label.fontMetrics().lineSpacing());
+    }
     /// Arranges the labels once, and adapts the size to what they hold now.
     void arrange()
     {
@@ -69,8 +74,9 @@ public:
         layout->setColumnStretch(1, 1);
         layout->setRowStretch(2, 1);
         title->setStyleSheet(QStringLiteral("font-size: 12pt; font-weight: bold;"));
-        title->setWordWrap(true);
-        text->setWordWrap(true);
+        title->setTextFormat(Qt::PlainText);
+        bound(*title, maximumTitleLines);
+        bound(*text, maximumTextLines);
         text->setOpenExternalLinks(false);
     }
 
@@ -123,7 +129,11 @@ void StandardNotification::setColor(const QColor& color)
 
 void StandardNotification::setIcon(const QPixmap& icon)
 {
-    d->icon->setPixmap(icon);
+    const QSizeF size = icon.deviceIndependentSize();
+    const bool isLarge = std::max(size.width(), size.height()) > maximumIconSize;
+    const int side = static_cast<int>(maximumIconSize * icon.devicePixelRatio());
+    d->icon->setPixmap(
+        isLarge ? icon.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation) : icon);
     d->arrange();
 }
 
@@ -148,9 +158,16 @@ QString StandardNotification::text() const
 void StandardNotification::setText(const QString& text)
 {
     d->wholeText = text;
-    setAccessibleDescription(text);
+    const QString plain =
+        Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+    setAccessibleDescription(plain);
+    // Cut, rich text would lose the ends of its tags.
     const bool isLong = text.size() > maximumTextLength;
-    d->text->setText(isLong ? text.left(maximumTextLength) + QChar(0x2026) : text);
+    d->text->setTextFormat(isLong ? Qt::PlainText : Qt::AutoText);
+    if (plain.size() > maximumTextLength)
+        d->text->setText(plain.left(maximumTextLength) + QChar(0x2026));
+    else
+        d->text->setText(isLong ? plain : text);
     d->arrange();
 }
 

@@ -29,13 +29,15 @@ public:
     /// Tints the panel from this color to a lighter one; the texts turn black or white, whichever
     /// can be read on both. An invalid color is the default one.
     void setColor(const QColor& color);
+    /// Made smaller when it is larger than 128 by 128.
     void setIcon(const QPixmap& icon);
     QString title() const;
-    /// The bold line, and the window title.
+    /// The bold text, up to three lines, and the window title. Plain text.
     void setTitle(const QString& title);
     QString text() const;
-    /// May hold rich text. The panel grows with it; of a text of more than 1000 characters the
-    /// beginning is shown.
+    /// May hold rich text, which the history and assistive technologies get as plain text. The
+    /// panel grows with it up to 15 lines; of a text of more than 1000 characters the beginning is
+    /// shown, without its markup.
     void setText(const QString& text);
     QDialogButtonBox::StandardButtons buttons() const;
     /// Replaces the buttons. A click on any closes the pop-up.

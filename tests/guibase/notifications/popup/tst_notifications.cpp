@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/childprocess.h"
 #include "support/guardedtest.h"
 #include "support/testrows.h"
 
@@ -7,33 +8,52 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QCloseEvent>
+#include <QDBusConnection>
 #include <QDialog>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
-#include <QProxyStyle>
+#include <QPropertyAnimation>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTcpServer>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
+#include <QWindow>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// A style for users who want things to stand still.
-class StillStyle : public QProxyStyle
+/// Takes the part of the desktop that shows notifications.
+class Desktop : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+public:
+    QStringList told;
+public Q_SLOTS:
+    uint Notify(const QString&, uint, const QString&, const QString& title, const QString& text,
+                const QStringList&, const QVariantMap&, int)
+    {
+        told << title << text;
+        return 1;
+    }
+};
+
+/// Stays, like something that holds what is not saved yet.
+class StubbornLabel : public QLabel
 {
 public:
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* data) const override
-    {
-        if (hint == SH_Widget_Animation_Duration)
-            return 0;
-        return QProxyStyle::styleHint(hint, option, widget, data);
-    }
+    using QLabel::QLabel;
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
 };
 
 StandardNotification* show(const QString& title, int timeout = 0)
@@ -41,9 +61,10 @@ StandardNotification* show(const QString& title, int timeout = 0)
     return Notifications::notify(title, title + u" text"_s, timeout);
 }
 
-QPoint placeOf(const QWidget& popup, int offset)
+QPoint placeOf(const QWidget& popup, int offset,
+               const QScreen* screen = QGuiApplication::primaryScreen())
 {
-    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect area = screen->availableGeometry();
     return {area.right() - 7 - (popup.width() - 1), area.bottom() - offset - popup.height() - 6};
 }
 
@@ -80,11 +101,22 @@ private Q_SLOTS:
     void collapsesWhatDoesNotFit();
     void closesNewestByEscape();
     void keepsHistory();
+    void followsTheActiveWindow();
+    void movesUnlessTheDesktopStandsStill_data();
+    void movesUnlessTheDesktopStandsStill();
+    void boundsWhatItShows_data();
+    void boundsWhatItShows();
     void movesIntoWindows();
+    void goesToTheDesktop();
     void closesAtQuit();
 
 protected:
     void tidy() override;
+
+private:
+    void setDesktopSetting(const QString& file, const QByteArray& text) const;
+
+    QTemporaryDir m_desktopSettings;
 };
 
 void tst_Notifications::initTestCase()
@@ -92,7 +124,15 @@ void tst_Notifications::initTestCase()
     QTcpServer server;
     QVERIFY(server.listen(QHostAddress::LocalHost));
     Notifications::setPort(server.serverPort());
-    QApplication::setStyle(new StillStyle); // The application takes it over.
+    qputenv("XDG_CONFIG_HOME", m_desktopSettings.path().toLocal8Bit());
+    QVERIFY(QDir(m_desktopSettings.path()).mkpath(u"gtk-3.0"_s));
+    setDesktopSetting(u"kdeglobals"_s, "[KDE]\nAnimationDurationFactor=0\n");
+}
+
+void tst_Notifications::setDesktopSetting(const QString& name, const QByteArray& text) const
+{
+    QFile file(m_desktopSettings.filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
 }
 
 void tst_Notifications::tidy()
@@ -141,8 +181,27 @@ void tst_Notifications::looksAsItsKind()
     // Readable also where the desktop's texts are white.
     for (const QLabel* label : popup->findChildren<QLabel*>())
         QCOMPARE(label->palette().color(QPalette::WindowText), QColor(Qt::black));
-    popup->setText(QString(100000, u'x').replace(50, 1, u' '));
-    QVERIFY(popup->height() < QGuiApplication::primaryScreen()->availableGeometry().height());
+}
+
+void tst_Notifications::boundsWhatItShows_data()
+{
+    TestRows<QString, QString, int, QString> row; // title, text, side of the icon, told
+    row("long words", QString(5000, u'x'), QString(5000, u'y'), 1, QString(5000, u'y'));
+    row("many lines", u"a\n"_s.repeated(400), u"a\n"_s.repeated(400), 1, u"a\n"_s.repeated(400));
+    row("large icon", "Title", "Text", 4000, "Text");
+    row("rich text", "Title", "<b>AT&amp;T</b> lost", 1, "AT&T lost");
+    row("much rich text", "Title", u"<br>"_s.repeated(1000), 1, u"\n"_s.repeated(1000));
+}
+
+void tst_Notifications::boundsWhatItShows()
+{
+    const auto& [title, text, side, told] = TestRows<QString, QString, int, QString>::fetch();
+    StandardNotification* popup = Notifications::notify(QPixmap(side, side), title, text);
+    QCOMPARE(popup->width(), 400);
+    QVERIFY(popup->height() < 500);
+    QTRY_VERIFY(popup->isVisible());
+    QCOMPARE(Notifications::history().last().text, told);
+    QCOMPARE(popup->text(), text);
 }
 
 void tst_Notifications::reportsButtons()
@@ -204,6 +263,14 @@ void tst_Notifications::takesAnyWidget()
     QTRY_COMPARE(older->pos(), placeOf(*older, widget->height() + 6));
     widget.reset(); // Without having been closed.
     QTRY_COMPARE(older->pos(), placeOf(*older, 0));
+    StubbornLabel stubborn(u"not saved"_s);
+    Notifications::notify(&stubborn);
+    QTRY_COMPARE(older->pos(), placeOf(*older, stubborn.height() + 6));
+    QVERIFY(!stubborn.close());
+    older->resize(400, 150);
+    QTRY_COMPARE(stubborn.pos(), placeOf(stubborn, 0));
+    QTRY_COMPARE(older->pos(), placeOf(*older, stubborn.height() + 6));
+    QCOMPARE(Notifications::history().last().text, stubborn.accessibleDescription());
 }
 
 void tst_Notifications::collapsesWhatDoesNotFit()
@@ -267,6 +334,7 @@ void tst_Notifications::closesAtQuit()
 {
     const QPointer popup = show(u"popup"_s);
     quit();
+    Notifications::setPlacement(Notifications::Placement::Automatic);
     QTRY_VERIFY(popup == nullptr);
     QVERIFY(Notifications::history().isEmpty());
     StandardNotification* next = show(u"next"_s);
@@ -299,7 +367,89 @@ void tst_Notifications::movesIntoWindows()
     QTRY_VERIFY(popup->parentWidget() == nullptr);
     QVERIFY(!popup->isVisible());
     popup->close();
-    Notifications::setPlacement(Notifications::Placement::Automatic);
+}
+
+void tst_Notifications::goesToTheDesktop()
+{
+    const QString program = QStandardPaths::findExecutable(u"dbus-daemon"_s);
+    if (program.isEmpty())
+        QSKIP("There is no dbus-daemon.");
+    ChildProcess bus(program, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
+    const QRegularExpression addressLine(u"^unix:.*(?=\n)"_s, QRegularExpression::MultilineOption);
+    QByteArray address;
+    const auto hasAddress = [&] {
+        address = addressLine.match(QString::fromLatin1(bus.readAll())).captured().toLatin1();
+        return !address.isEmpty();
+    };
+    QTRY_VERIFY(hasAddress());
+    QDBusConnection connection =
+        QDBusConnection::connectToBus(QString::fromLatin1(address), u"desktop"_s);
+    Desktop desktop;
+    QVERIFY(connection.registerObject(u"/org/freedesktop/Notifications"_s, &desktop,
+                                      QDBusConnection::ExportAllSlots));
+    QVERIFY(connection.registerService(u"org.freedesktop.Notifications"_s));
+
+    quit();
+    Notifications::setPlacement(Notifications::Placement::InWindow);
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+    show(u"without a bus"_s);
+    QCoreApplication::processEvents();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    StandardNotification* popup = Notifications::warning(u"a <title>"_s, u"1 < 2"_s);
+    const QStringList expected{u"without a bus"_s, u"without a bus text"_s, u"a <title>"_s,
+                               u"1 &lt; 2"_s};
+    QTRY_COMPARE(desktop.told, expected);
+    QVERIFY(!popup->isVisible());
+    QMainWindow window; // A place, and it is not told again.
+    window.resize(600, 500);
+    window.show();
+    QTRY_VERIFY(popup->isVisible());
+    show(u"seen"_s);
+    QTRY_COMPARE(window.findChildren<StandardNotification*>().size(), 3);
+    QCOMPARE(desktop.told, expected);
+    QDBusConnection::disconnectFromBus(u"desktop"_s);
+}
+
+void tst_Notifications::followsTheActiveWindow()
+{
+    if (QGuiApplication::screens().size() < 2)
+        QSKIP("There is only one screen.");
+    const QScreen* second = QGuiApplication::screens().at(1);
+    StandardNotification* popup = show(u"popup"_s);
+    QTRY_COMPARE(popup->pos(), placeOf(*popup, 0));
+    QMainWindow window;
+    window.setGeometry({second->geometry().topLeft() + QPoint(50, 50), QSize(200, 100)});
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QTRY_COMPARE(popup->pos(), placeOf(*popup, 0, second));
+    window.windowHandle()->setScreen(QGuiApplication::primaryScreen());
+    QTRY_COMPARE(popup->pos(), placeOf(*popup, 0));
+}
+
+void tst_Notifications::movesUnlessTheDesktopStandsStill_data()
+{
+    TestRows<QString, QByteArray, bool> row;
+    row("slowly", "kdeglobals", "[KDE]\nAnimationDurationFactor=0.5\n", true);
+    row("plasma", "kdeglobals", "[KDE]\nAnimationDurationFactor=0\n", false);
+    row("gtk", "gtk-3.0/settings.ini", "[Settings]\ngtk-enable-animations=false\n", false);
+}
+
+void tst_Notifications::movesUnlessTheDesktopStandsStill()
+{
+    const auto& [file, text, isMoving] = TestRows<QString, QByteArray, bool>::fetch();
+    const auto reset = qScopeGuard([this] {
+        QFile::remove(m_desktopSettings.filePath(u"gtk-3.0/settings.ini"_s));
+        setDesktopSetting(u"kdeglobals"_s, "[KDE]\nAnimationDurationFactor=0\n");
+    });
+    setDesktopSetting(u"kdeglobals"_s, {});
+    setDesktopSetting(file, text);
+    StandardNotification* popup = show(u"older"_s);
+    QTRY_VERIFY(popup->isVisible());
+    const QWidget* newer = show(u"newer"_s);
+    const QPoint former = popup->pos();
+    QTRY_VERIFY(popup->pos() != former);
+    QCOMPARE(popup->findChild<QPropertyAnimation*>() != nullptr, isMoving);
+    QTRY_COMPARE(popup->pos(), placeOf(*popup, newer->height() + 6));
 }
 
 QTEST_MAIN(tst_Notifications)
