@@ -69,10 +69,8 @@ void NotificationServer::sendPending()
     const QByteArray bytes = std::exchange(m_pending, {});
     if (bytes.isEmpty())
         return;
-    for (NotificationConnection* client : std::as_const(m_clients)) {
+    for (NotificationConnection* client : std::as_const(m_clients))
         client->send(bytes);
-        client->flush();
-    }
 }
 
 void NotificationServer::acceptClients()
@@ -112,7 +110,6 @@ void NotificationServer::greet(NotificationConnection& client) const
         NotificationMessage{NotificationMessage::Add, entry.id, entry.height}.appendTo(bytes);
     NotificationMessage{NotificationMessage::Connected, 0, 0, m_stack.hash()}.appendTo(bytes);
     client.send(bytes);
-    client.flush();
 }
 
 void NotificationServer::onReceived(NotificationStack::Owner owner,
