@@ -28,6 +28,7 @@ ColorsDialog::ColorsDialog(QWidget* parent)
     connect(this, &ColorsDialog::discarded, editor, &ColorsCtrl::slotDiscardChanges);
     editor->layout()->setContentsMargins(0, 0, 0, 0); // in line with the buttons
     column->addWidget(editor, 1);
+    editor->setFocus();
 
     auto* buttons = new QDialogButtonBox(
         QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Cancel, this);

@@ -104,6 +104,15 @@ void HotKeyList::populate()
             setCurrentItem(row);
     }
     sort();
+    if (QTreeWidget::currentItem() != nullptr)
+        scrollToItem(QTreeWidget::currentItem());
+}
+
+void HotKeyList::showEvent(QShowEvent* event)
+{
+    SortListView::showEvent(event); // Brings the rows in their order.
+    if (QTreeWidget::currentItem() == nullptr)
+        setCurrentItem(topLevelItem(0));
 }
 
 int HotKeyList::currentId() const

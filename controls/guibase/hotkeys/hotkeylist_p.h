@@ -33,6 +33,8 @@ Q_SIGNALS:
 protected:
     /// Return opens the editor, and does not press the default button of a dialog as well.
     void keyPressEvent(QKeyEvent* event) override;
+    /// Begins with the first row.
+    void showEvent(QShowEvent* event) override;
 
 private:
     void edit(int id);

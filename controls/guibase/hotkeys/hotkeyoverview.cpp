@@ -59,7 +59,6 @@ Overview::Overview(HotKeyRegistry& registry, QWidget* parent)
     addButtons();
     connect(m_list, &HotKeyList::hotKeyChanged, this, [this] { followList(); });
     connect(m_list, &QTreeWidget::currentItemChanged, this, [this] { followList(); });
-    m_list->setCurrentItem(m_list->topLevelItem(0));
     followList();
     m_list->setFocus();
     // As large as the keys need; the toolkit itself would stop at two thirds of the screen.
