@@ -8,6 +8,7 @@
 #include "support/modaldialogcloser.h"
 
 #include <radiopanes/panes/spectrumpane.h>
+#include <radiopanes/panes/waterfallpane.h>
 
 #include <QDesktopServices>
 #include <QDialogButtonBox>
@@ -23,6 +24,7 @@
 #include <guibase/colors/colorset.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
+#include <jtbase/qobjecthelpers.h>
 
 using namespace bandmonitor;
 
@@ -254,6 +256,29 @@ private Q_SLOTS:
         QTRY_VERIFY(dialog == nullptr);
         entry("Factory colours")->trigger();
         QVERIFY(!isDrawnWith(blue));
+    }
+
+    void colorChangePaintsEachPaneOnce()
+    {
+        QHash<const QObject*, int> paints;
+        const QObjectHelpers::EventFilter counter(
+            qApp, [&paints](const QObject* object, const QEvent* event) {
+                paints[object] += event->type() == QEvent::Paint ? 1 : 0;
+                return false;
+            });
+        const auto isQuiet = [&paints] {
+            paints.clear();
+            QCoreApplication::processEvents();
+            const QList<int> counts = paints.values();
+            return std::all_of(counts.begin(), counts.end(), [](int count) { return count == 0; });
+        };
+        QTRY_VERIFY(isQuiet());
+        entry("Factory colours")->trigger();
+        BandView& band = m_window->bandView();
+        QTRY_VERIFY(paints.value(&band.spectrum()) > 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(paints.value(&band.spectrum()), 1);
+        QCOMPARE(paints.value(&band.waterfall()), 1);
     }
 
     void manualIsARealFile()
