@@ -7,6 +7,7 @@
 #include <jtbase/errorhandler.h>
 #include <trovappstartup/cfgcenter.h>
 
+#include <QDateTime>
 #include <QLocale>
 
 #include <cmath>
@@ -126,6 +127,44 @@ private:
     ValueSelection* m_selection;
 };
 
+class ValueMember : public PersistantObject
+{
+public:
+    ValueMember(ValueBase* value, const QString& key)
+        : PersistantObject(key)
+        , m_value(value)
+    {}
+
+    void Read(const ICfg& cfg) override
+    {
+        const QVariant now = m_value->GetVariant();
+        if (now.typeId() == QMetaType::Bool) {
+            m_value->SetVariant(cfg.GetBool(GetKey(), now.toBool()));
+        } else if (now.typeId() == QMetaType::Int) {
+            m_value->SetVariant(cfg.GetInt(GetKey(), now.toInt()));
+        } else {
+            const QString nothing(QChar(0));
+            if (const QString text = cfg.GetString(GetKey(), nothing); text != nothing)
+                m_value->SetVariant(text);
+        }
+    }
+    void Write(ICfg& cfg) const override
+    {
+        const QVariant now = m_value->GetVariant();
+        if (now.typeId() == QMetaType::Bool)
+            cfg.SetBool(GetKey(), now.toBool());
+        else if (now.typeId() == QMetaType::Int)
+            cfg.SetInt(GetKey(), now.toInt());
+        else if (now.typeId() == QMetaType::QDateTime)
+            cfg.SetString(GetKey(), now.toDateTime().toUTC().toString(Qt::ISODateWithMs));
+        else if (now.isValid())
+            cfg.SetString(GetKey(), now.toString());
+    }
+
+private:
+    ValueBase* m_value;
+};
+
 template <typename T>
 std::unique_ptr<PersistantObject> makeVariable(T* member, const QString& key, T defaultValue)
 {
@@ -196,6 +235,12 @@ void Persistant::Add(ValueSelection* selection, const QString& key, int storage)
         Add(std::make_unique<SelectionByValue>(selection, key));
     else
         Add(std::make_unique<SelectionByKey>(selection, key));
+}
+
+void Persistant::Add(ValueBase* value, const QString& key)
+{
+    if (TROV_ASSERT(value != nullptr, moduleName))
+        Add(std::make_unique<ValueMember>(value, key));
 }
 
 void Persistant::Add(std::unique_ptr<PersistantObject> object)

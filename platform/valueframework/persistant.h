@@ -66,6 +66,10 @@ public:
     void Add(int* member, const QString& key, int defaultValue);
     /// A selection keeps its current item when nothing, or an unknown item, is stored.
     void Add(ValueSelection* selection, const QString& key, int storage);
+    /// A value of any kind: truths and whole numbers of 32 bits are stored as such, a selection by
+    /// the key of its current item, everything else as text. It stays as it is when nothing, or
+    /// nothing that it can take, is stored.
+    void Add(ValueBase* value, const QString& key);
     void Add(std::unique_ptr<PersistantObject> object);
 
     /// Reads every member (defaults for what is not stored), then calls the owner.

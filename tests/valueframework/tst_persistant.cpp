@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <valueframework/persistant.h>
+#include <valueframework/value.h>
 #include <valueframework/valueselection.h>
 
 #include <trovappstartup/cfgcenter.h>
@@ -7,6 +8,8 @@
 #include "support/files.h"
 #include "support/guardedtest.h"
 #include "support/testrows.h"
+
+#include <array>
 
 namespace {
 
@@ -16,7 +19,7 @@ class Settings : public PersistantOwner
 public:
     Settings()
     {
-        for (ValueSelection* selection : {&byKey, &byValue}) {
+        for (ValueSelection* selection : {&byKey, &byValue, &choice}) {
             selection->AddItem(SelectionItem(QStringLiteral("none"), false, 0.0, 10));
             selection->AddItem(SelectionItem(QStringLiteral("half"), false, 0.5, 11));
             selection->AddItem(SelectionItem(QStringLiteral("one"), false, 1.0, 12));
@@ -27,6 +30,8 @@ public:
         record.Add(&number, QStringLiteral("Number"), 7);
         record.Add(&byKey, QStringLiteral("ByKey"), 0);
         record.Add(&byValue, QStringLiteral("ByValue"), 1);
+        for (ValueBase* value : values())
+            record.Add(value, value->GetName());
     }
     void ApplyPersistantBeforeWrite() override { number *= 2; }
     void ApplyPersistantAfterRead() override
@@ -39,6 +44,25 @@ public:
                     .arg(byValue.GetCurrentIndex());
     }
 
+    std::array<ValueBase*, 7> values()
+    {
+        return {&truth, &whole, &large, &real, &time, &words, &choice};
+    }
+    QString valuesText()
+    {
+        QStringList texts;
+        for (const ValueBase* value : values())
+            texts << value->GetVariant().toString();
+        return texts.join(QLatin1Char('|'));
+    }
+
+    Value<bool> truth{QStringLiteral("Truth")};
+    ValueNumeric<int> whole{QStringLiteral("Whole"), 5, -10, 10};
+    ValueNumeric<quint64> large{QStringLiteral("Large")};
+    ValueNumeric<double> real{QStringLiteral("Real")};
+    Value<QDateTime> time{QStringLiteral("Time"), QDateTime::fromMSecsSinceEpoch(1, Qt::UTC)};
+    Value<QString> words{QStringLiteral("Words")};
+    ValueSelection choice{QStringLiteral("Choice")};
     QString text = QStringLiteral("initial");
     bool flag = false;
     int number = -1;
@@ -78,6 +102,39 @@ private Q_SLOTS:
         QVERIFY(!erased.record.Exists());
         erased.record.Read(QStringLiteral("sub"));
         QCOMPARE(erased.shown, QStringLiteral("default|1|7|1|1"));
+    }
+    void valuesOfAllKindsComeBack()
+    {
+        const QString initial = Settings().valuesText();
+        Settings written;
+        written.truth.SetValue(true);
+        written.whole.SetValue(-7);
+        written.large.SetValue(~0ULL);
+        written.real.SetValue(0.1 + 0.2);
+        written.time.SetValue(QDateTime(QDate(2026, 3, 1), QTime(1, 2, 3, 4), Qt::LocalTime));
+        written.words.SetValue(QStringLiteral("two\nlines"));
+        written.choice.SetCurrentIndex(2);
+        written.record.Write(QString());
+        CfgCenter::LoadAll();
+        Settings read;
+        read.record.Read(QStringLiteral("nothing stored"));
+        QCOMPARE(read.valuesText(), initial);
+        read.record.Read(QString());
+        for (std::size_t i = 0; i < read.values().size(); ++i)
+            QCOMPARE(read.values()[i]->GetVariant(), written.values()[i]->GetVariant());
+        written.words.SetValue({});
+        written.record.Write(QString());
+        read.record.Read(QString());
+        QVERIFY(read.words.GetValue().isEmpty()); // not the same as nothing stored
+
+        QVERIFY(writeFile(CfgCenter::GetAppCfgFileName(),
+                          R"({"settings": {"Record": {"Truth": 3, "Whole": 11, "Large": "-1",
+                              "Real": "nan", "Time": "soon", "Words": false, "Choice": 99}}})"));
+        CfgCenter::LoadAll();
+        Settings damaged;
+        damaged.record.Read(QString());
+        QCOMPARE(damaged.valuesText(),
+                 QString(initial).replace(QStringLiteral("|5|"), QStringLiteral("|10|")));
     }
     void readsWhatIsStored_data()
     {

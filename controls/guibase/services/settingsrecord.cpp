@@ -4,7 +4,8 @@
 #include "applicationcolors_p.h"
 #include "displaysettings_p.h"
 
-#include <valueframework/selectionfollower.h>
+#include <valueframework/valuefollower.h>
+#include <valueframework/valueselection.h>
 
 #include <QScopedValueRollback>
 
@@ -66,8 +67,7 @@ void SettingsRecord::followChoices()
     if (!m_followers.empty())
         return;
     for (ValueSelection* selection : m_selections)
-        m_followers.push_back(
-            std::make_unique<SelectionFollower>(selection, [this] { noteChoice(); }));
+        m_followers.push_back(std::make_unique<ValueFollower>(selection, [this] { noteChoice(); }));
 }
 
 void SettingsRecord::noteChoice()

@@ -13,7 +13,7 @@
 #include <vector>
 
 class DisplaySettings;
-class SelectionFollower;
+class ValueFollower;
 
 /// The record of what the user chose for the whole application: colour set, time zone and position
 /// format.
@@ -58,6 +58,6 @@ private:
     std::vector<Part> m_parts;
     bool m_isReading = false; ///< Which may take a question to the user about the colour set.
     std::vector<ValueSelection*> m_selections;
-    std::vector<std::unique_ptr<SelectionFollower>> m_followers;
+    std::vector<std::unique_ptr<ValueFollower>> m_followers;
     RecordStore m_store{SettingsView, QStringLiteral("GuiCentral"), [this] { write(); }};
 };

@@ -4,7 +4,8 @@
 #include <guibase/formats/frequencydisplayformat.h>
 #include <guibase/services/guibase.h>
 
-#include <valueframework/selectionfollower.h>
+#include <valueframework/valuefollower.h>
+#include <valueframework/valueselection.h>
 
 #include <QPointer>
 
@@ -12,7 +13,7 @@ namespace SpinBoxes {
 
 struct FrequencySpinBox::Private
 {
-    std::unique_ptr<SelectionFollower> follower;
+    std::unique_ptr<ValueFollower> follower;
     bool isUnitPending = false;
 };
 
@@ -44,8 +45,8 @@ void FrequencySpinBox::setFollowingFrequencyUnit(bool follow)
     m_d->follower.reset();
     if (!follow)
         return;
-    m_d->follower = std::make_unique<SelectionFollower>(GuiBase::Instance().GetFrequencyUnit(),
-                                                        [this] { adoptFrequencyUnit(); });
+    m_d->follower = std::make_unique<ValueFollower>(GuiBase::Instance().GetFrequencyUnit(),
+                                                    [this] { adoptFrequencyUnit(); });
     adoptFrequencyUnit();
 }
 

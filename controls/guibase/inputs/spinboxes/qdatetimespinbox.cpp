@@ -6,7 +6,8 @@
 #include <guibase/services/guibase.h>
 
 #include <jtbase/datetime.h>
-#include <valueframework/selectionfollower.h>
+#include <valueframework/valuefollower.h>
+#include <valueframework/valueselection.h>
 
 #include <QLineEdit>
 #include <QPointer>
@@ -36,7 +37,7 @@ struct QDateTimeSpinBox::Private
     {}
 
     bool isUtc = isUtcChosen(); ///< The zone that is shown.
-    SelectionFollower follower;
+    ValueFollower follower;
 };
 
 QDateTimeSpinBox::QDateTimeSpinBox(QWidget* parent)
