@@ -11,7 +11,6 @@ guibase_room(binding
         conversion_p.h
         createbyclass_p.h
         inputbinding_p.h
-        inputburst.cpp inputburst_p.h
         inputmark.cpp inputmark_p.h
         namedbindings_p.h
         selectionbindings.cpp selectionbindings_p.h

@@ -52,8 +52,9 @@ protected:
         if (entered != told)
             return; // Who heard of it before has changed it already.
         // Not an input: the widget has rounded or clamped what it was shown, or tells it again.
-        const Target target = targetOf(this->value()->GetValue());
-        if (!this->hasPendingUpdate() && isShownAs(target.quantity, entered)) {
+        const Held value = this->value()->GetValue();
+        if (!this->hasPendingUpdate() && isShowable(value) &&
+            isShownAs(targetOf(value).quantity, entered)) {
             showValue();
             return;
         }
@@ -147,6 +148,15 @@ private:
     bool isShownAs(const Shown& quantity, const Shown& now) const
     {
         return now == quantity || (m_shown && m_shown->first == quantity && m_shown->second == now);
+    }
+
+    /// No widget can show a point in time that there is not.
+    static bool isShowable(const Held& value)
+    {
+        if constexpr (std::is_same_v<Held, QDateTime>)
+            return value.isValid();
+        else
+            return true;
     }
 
     static bool isBound(const Held& minimum, const Held& maximum)

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "valuewidgetbinding.h"
 
-#include "inputburst_p.h"
 #include "inputmark_p.h"
 
 #include <guibase/undo/guiundorecordinghelper.h>
 
 #include <valueframework/pendingwrite.h>
+#include <valueframework/undoburst.h>
 #include <valueframework/value.h>
 #include <valueframework/valueselection.h>
 
@@ -30,6 +30,12 @@ Observable* observableOf(ValueBase& value)
     return numeric != nullptr ? numeric->GetObservable() : &value;
 }
 
+bool isDragged(const QWidget& widget)
+{
+    const auto* slider = qobject_cast<const QAbstractSlider*>(&widget);
+    return slider != nullptr && slider->isSliderDown();
+}
+
 } // namespace
 
 struct ValueWidgetBinding::Private
@@ -43,34 +49,43 @@ struct ValueWidgetBinding::Private
     ValueBase* value;
     Observable* observable; ///< Only compared once the value is gone.
     QPointer<QWidget> widget;
-    bool isUpdatingWidget = false;
+    WidgetUpdateTransaction* transaction = nullptr; ///< The innermost that is open.
     int delay = -1;
     int timerId = 0;
     std::function<void()> pendingUpdate;
     std::optional<PendingWrite> heldBack; ///< While the timer runs.
     bool isLeaving = false;               ///< The widget handles an event that ends the input.
-    InputBurst burst;
+    UndoBurst burst;
     QString undoText;
     QPointer<InputMark> mark;
 };
 
 WidgetUpdateTransaction::WidgetUpdateTransaction(ValueWidgetBinding& binding)
     : m_binding(&binding)
-    , m_widget(binding.d->widget)
-    , m_wasUpdating(std::exchange(binding.d->isUpdatingWidget, true))
+    , m_outer(std::exchange(binding.d->transaction, this))
     // What the widget itself was told, not what its parents have it do for the moment.
-    , m_hadUpdates(m_widget && !m_widget->testAttribute(Qt::WA_ForceUpdatesDisabled))
+    , m_hadUpdates(binding.d->widget &&
+                   !binding.d->widget->testAttribute(Qt::WA_ForceUpdatesDisabled))
 {
-    if (m_widget)
-        m_widget->setUpdatesEnabled(false);
+    if (m_hadUpdates)
+        binding.d->widget->setUpdatesEnabled(false);
 }
 
 WidgetUpdateTransaction::~WidgetUpdateTransaction()
 {
-    if (m_widget)
-        m_widget->setUpdatesEnabled(m_hadUpdates);
-    if (m_binding)
-        m_binding->d->isUpdatingWidget = m_wasUpdating;
+    QWidget* widget = m_binding != nullptr ? m_binding->d->widget.data() : m_orphan.data();
+    if (widget != nullptr)
+        widget->setUpdatesEnabled(m_hadUpdates);
+    if (m_binding != nullptr)
+        m_binding->d->transaction = m_outer;
+}
+
+void WidgetUpdateTransaction::bindingDies(const QPointer<QWidget>& widget)
+{
+    m_binding = nullptr;
+    m_orphan = widget;
+    if (m_outer != nullptr)
+        m_outer->bindingDies(widget);
 }
 
 ValueWidgetBinding::ValueWidgetBinding(ValueBase& value, QWidget& widget, QObject* parent)
@@ -91,6 +106,8 @@ ValueWidgetBinding::~ValueWidgetBinding()
     disconnect();
     if (d->value != nullptr)
         d->observable->Detach(this);
+    if (d->transaction != nullptr)
+        d->transaction->bindingDies(d->widget);
     delete d->mark;
 }
 
@@ -153,7 +170,7 @@ bool ValueWidgetBinding::hasPendingUpdate() const
 
 bool ValueWidgetBinding::isUpdatingWidget() const
 {
-    return d->isUpdatingWidget;
+    return d->transaction != nullptr;
 }
 
 WidgetUpdateTransaction ValueWidgetBinding::openWidgetUpdateTransaction()
@@ -199,7 +216,7 @@ bool ValueWidgetBinding::adoptState()
 
 void ValueWidgetBinding::scheduleUpdate(const std::function<void()>& update)
 {
-    if (d->isUpdatingWidget || d->value == nullptr)
+    if (isUpdatingWidget() || d->value == nullptr)
         return;
     d->pendingUpdate = update;
     if (d->delay < 0 || d->isLeaving) {
@@ -218,7 +235,8 @@ void ValueWidgetBinding::writePending()
         return;
     const QPointer<ValueWidgetBinding> guard(this);
     if (d->widget) {
-        const GuiUndoRecordingHelper recording(*d->widget, d->undoText, d->burst.next(*d->widget));
+        const GuiUndoRecordingHelper recording(*d->widget, d->undoText,
+                                               d->burst.next(isDragged(*d->widget)));
         update();
     } else {
         update();

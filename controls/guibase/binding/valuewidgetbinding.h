@@ -29,15 +29,18 @@ public:
     WidgetUpdateTransaction& operator=(const WidgetUpdateTransaction&) = delete;
 
     /// False once the binding is gone.
-    bool isBindingAlive() const { return !m_binding.isNull(); }
+    bool isBindingAlive() const { return m_binding != nullptr; }
 
 private:
     friend class ValueWidgetBinding;
     explicit WidgetUpdateTransaction(ValueWidgetBinding& binding);
 
-    QPointer<ValueWidgetBinding> m_binding;
-    QPointer<QWidget> m_widget;
-    bool m_wasUpdating;
+    void bindingDies(const QPointer<QWidget>& widget);
+
+    // Guarded pointers would be a good part of what it costs to show a value.
+    ValueWidgetBinding* m_binding;
+    WidgetUpdateTransaction* m_outer; ///< Of the same binding.
+    QPointer<QWidget> m_orphan;       ///< The widget once the binding is gone.
     bool m_hadUpdates;
 };
 

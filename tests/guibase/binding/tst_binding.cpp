@@ -113,6 +113,8 @@ private Q_SLOTS:
         row("text", compare<Value<QString>, QPlainTextEdit>,
             {QStringLiteral("a\nb"), QStringLiteral("a\nb"), QString(), QString()});
         row("time", compare<Value<QDateTime>, QDateTimeEdit>, {noon, noon, later, later});
+        row("no time yet", compare<Value<QDateTime>, QDateTimeEdit>,
+            {QDateTime(), QDateTime(QDate(2000, 1, 1), QTime(0, 0)), later, later});
         row("typed time", compare<Value<QDateTime>, SpinBoxes::QDateTimeSpinBox>,
             {noon, noon, later, later});
     }
