@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <guibase/binding/create.h>
-#include <guibase/inputs/spinboxes/spinboxes.h>
+#include <guibase/binding/formbinding.h>
+#include <guibase/inputs/comboboxes/comboboxes.h>
+#include <guibase/inputs/spinboxes/frequencyspinbox.h>
+#include <guibase/inputs/spinboxes/qdatetimespinbox.h>
 #include <guibase/undo/guiundorecordinghelper.h>
 
 #include <valueframework/pendingwrite.h>
@@ -11,8 +14,17 @@
 #include "support/randombytes.h"
 
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QComboBox>
+#include <QDateTimeEdit>
+#include <QDial>
 #include <QDoubleSpinBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMetaProperty>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QScrollBar>
 #include <QSpinBox>
 
 #include <array>
@@ -198,6 +210,203 @@ private:
     QPointer<ValueWidgetBindingBase<ValueSelection, QComboBox>> m_listBinding;
 };
 
+template <typename V>
+ValueBase* makeValue(const QString& name)
+{
+    return new V(name);
+}
+
+template <typename W>
+QWidget* makeWidget(QWidget* parent)
+{
+    return new W(parent);
+}
+
+/// A value and a widget of classes that can be bound.
+struct Kind
+{
+    ValueBase* (*makeValue)(const QString& name);
+    QWidget* (*makeWidget)(QWidget* parent);
+};
+template <typename V, typename W>
+constexpr Kind kindOf{makeValue<V>, makeWidget<W>};
+template <typename W>
+constexpr Kind int32 = kindOf<ValueNumeric<int>, W>;
+template <typename W>
+constexpr Kind int64 = kindOf<ValueNumeric<qint64>, W>;
+template <typename W>
+constexpr Kind real = kindOf<ValueNumeric<double>, W>;
+using namespace SpinBoxes;
+using namespace ComboBoxes;
+constexpr Kind kinds[] = {
+    int32<QSpinBox>,
+    int32<QDoubleSpinBox>,
+    int32<QSlider>,
+    int32<QDial>,
+    int32<QScrollBar>,
+    int32<QProgressBar>,
+    int32<QLabel>,
+    int32<QComboBox>,
+    int32<Int8SpinBox>,
+    int32<UInt8SpinBox>,
+    int32<Int16SpinBox>,
+    int32<UInt16SpinBox>,
+    int32<Int32SpinBox>,
+    int32<Int8ComboBox>,
+    int32<UInt8ComboBox>,
+    int32<Int16ComboBox>,
+    int32<UInt16ComboBox>,
+    int32<Int32ComboBox>,
+    int64<FrequencySpinBox>,
+    int64<Int64SpinBox>,
+    int64<UInt32SpinBox>,
+    int64<Int64ComboBox>,
+    int64<UInt32ComboBox>,
+    int64<QLabel>,
+    real<QDoubleSpinBox>,
+    real<QSlider>,
+    real<QDial>,
+    real<QProgressBar>,
+    real<QLabel>,
+    real<DoubleSpinBox>,
+    real<FrequencySpinBox>,
+    real<DoubleComboBox>,
+    kindOf<ValueNumeric<quint64>, UInt64SpinBox>,
+    kindOf<ValueNumeric<quint64>, UInt64ComboBox>,
+    kindOf<ValueNumeric<quint64>, QLabel>,
+    kindOf<Value<bool>, QCheckBox>,
+    kindOf<Value<QString>, QLineEdit>,
+    kindOf<Value<QString>, QPlainTextEdit>,
+    kindOf<Value<QString>, QLabel>,
+    kindOf<Value<QDateTime>, QDateTimeEdit>,
+    kindOf<Value<QDateTime>, QDateTimeSpinBox>,
+    kindOf<Value<QDateTime>, QLabel>,
+    kindOf<ValueSelection, QComboBox>,
+    kindOf<ValueSelection, QLabel>,
+};
+
+/// A form with a widget of every kind, bound to values that come, go and change at random.
+class Form
+{
+public:
+    Form()
+    {
+        GuiUndoRecordingHelper::SetDefaultUndoRecordingTrigger_BasePath(m_base);
+        for (std::size_t i = 0; i < std::size(kinds); ++i) {
+            renewValue(i);
+            renewWidget(i);
+        }
+        m_form.show();
+    }
+    ~Form() { GuiUndoRecordingHelper::SetDefaultUndoRecordingTrigger_BasePath({}); }
+
+    /// Empty, or what went wrong.
+    QString act()
+    {
+        const auto i = std::size_t(m_random.below(int(std::size(kinds))));
+        switch (m_random.below(12)) {
+        case 0:
+            renewValue(i);
+            break;
+        case 1:
+            renewWidget(i);
+            break;
+        case 2:
+            ValueWidgetBinding::BindForm(m_form, m_base, m_random.below(4) == 0 ? 0 : -1);
+            break;
+        case 3:
+            UndoRecording::Instance().undo();
+            break;
+        case 4:
+            UndoRecording::Instance().redo();
+            break;
+        case 5:
+            m_values[i]->SetState(m_random.below(2) == 0 ? Observable::Disabled
+                                                         : Observable::Enabled);
+            break;
+        case 6:
+            PendingWrite::WriteAll();
+            QCoreApplication::processEvents();
+            break;
+        case 7:
+        case 8:
+            return change(i);
+        default:
+            enter(i);
+        }
+        return {};
+    }
+
+private:
+    static QString nameOf(std::size_t i) { return QStringLiteral("kind%1").arg(i); }
+
+    static void fill(ValueBase& value)
+    {
+        if (auto* selection = dynamic_cast<ValueSelection*>(&value))
+            selection->SetItems({SelectionItem(QStringLiteral("a"), false, 7),
+                                 SelectionItem(QStringLiteral("b"), true, 12),
+                                 SelectionItem(QStringLiteral("c"), false, 0)});
+    }
+    void renewValue(std::size_t i)
+    {
+        m_values[i].reset();
+        m_values[i].reset(kinds[i].makeValue(nameOf(i)));
+        fill(*m_values[i]);
+        Tree::Instance().Add(m_base, m_values[i].get());
+    }
+    void renewWidget(std::size_t i)
+    {
+        delete m_widgets[i];
+        m_widgets[i] = kinds[i].makeWidget(&m_form);
+        m_widgets[i]->setObjectName(nameOf(i));
+        m_widgets[i]->setVisible(m_random.below(2) == 0);
+    }
+    QVariant anything()
+    {
+        static const QVariantList all = {7,
+                                         -3,
+                                         12.5,
+                                         1e300,
+                                         -1e300,
+                                         std::nan(""),
+                                         ~0ULL,
+                                         true,
+                                         QStringLiteral("12"),
+                                         QStringLiteral("two\nlines"),
+                                         QString(),
+                                         QDateTime(QDate(2026, 3, 1), QTime(1, 2, 3, 4), Qt::UTC),
+                                         QDateTime()};
+        return all[m_random.below(int(all.size()))];
+    }
+    /// A value that the program sets becomes what it would be without a widget.
+    QString change(std::size_t i)
+    {
+        const QVariant next = anything();
+        PendingWrite::WriteAll();
+        const std::unique_ptr<ValueBase> twin(kinds[i].makeValue(nameOf(i)));
+        fill(*twin);
+        twin->SetVariant(m_values[i]->GetVariant());
+        const bool isTaken = twin->SetVariant(next);
+        const bool isSame = m_values[i]->SetVariant(next) == isTaken &&
+                            m_values[i]->GetVariant() == twin->GetVariant();
+        return isSame ? QString()
+                      : QStringLiteral("%1 becomes %2")
+                            .arg(nameOf(i), m_values[i]->GetVariant().toString());
+    }
+    void enter(std::size_t i)
+    {
+        const char* property = m_widgets[i]->metaObject()->userProperty().name();
+        if (property != nullptr && m_widgets[i]->isEnabled())
+            m_widgets[i]->setProperty(property, anything());
+    }
+
+    const QString m_base = QStringLiteral("form");
+    RandomBytes m_random{"forms"};
+    QWidget m_form;
+    std::array<std::unique_ptr<ValueBase>, std::size(kinds)> m_values;
+    std::array<QWidget*, std::size(kinds)> m_widgets{};
+};
+
 } // namespace
 
 class tst_BindingWalk : public GuardedTest
@@ -212,6 +421,13 @@ private Q_SLOTS:
             world.act();
             QCOMPARE(world.fault(), QString());
         }
+    }
+
+    void survivesWithAllKindsOfWidgets()
+    {
+        Form form;
+        for (int i = RandomBytes::rounds(3000); i > 0; --i)
+            QCOMPARE(form.act(), QString());
     }
 };
 
