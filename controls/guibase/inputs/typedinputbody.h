@@ -137,7 +137,7 @@ void TypedInputBody<Widget>::take(Input& input, const Reading& reading, bool isC
     const QPointer<QObject> guard(&m_widget);
     if (isChanged) {
         mark.clear();
-        if (reading.outcome == Reading::Read)
+        if (reading.outcome == Reading::Read && refusal.isEmpty())
             input.setValue(reading.value);
     }
     if (guard)

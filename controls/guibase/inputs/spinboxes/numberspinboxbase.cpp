@@ -83,7 +83,7 @@ template <typename T>
 void NumberSpinBoxBase<T>::step(qint64 steps, T size)
 {
     if (const std::optional<T> result = StepArithmetic::stepped(this->value(), steps, size))
-        this->setValue(*result);
+        this->enter(*result);
     else
         this->stepBeyondLimit((steps < 0) == (size < 0));
 }

@@ -104,7 +104,7 @@ void QDateTimeSpinBox::stepBy(int steps)
                              time, patternOf(format), format.locale());
     const QDateTime result = DateTimeSections::stepped(time, section, steps);
     if (result.isValid())
-        setValue(result);
+        enter(result);
     else
         stepBeyondLimit(steps > 0);
     if (edit)

@@ -35,6 +35,7 @@ struct SpinBoxBase<T>::Private : TypedInputValue<T>
     {}
 
     bool isNormalizing = false;
+    ValueGuard valueGuard;
 };
 
 template <typename T>
@@ -245,7 +246,7 @@ template <typename T>
 void SpinBoxBase<T>::stepBeyondLimit(bool up)
 {
     if (correctionMode() == QAbstractSpinBox::CorrectToNearestValue)
-        setValue(up ? m_d->maximum : m_d->minimum);
+        enter(up ? m_d->maximum : m_d->minimum);
 }
 
 template <typename T>
@@ -266,9 +267,40 @@ QString SpinBoxBase<T>::refusalOfValue(const T& value) const
 {
     if (correctionMode() != QAbstractSpinBox::CorrectToPreviousValue ||
         m_d->isInRange(normalized(value)))
-        return {};
+        return refusalOfGuard(value);
     return QCoreApplication::translate("SpinBox", "Type a value from %1 to %2.")
         .arg(textFromValue(m_d->minimum), textFromValue(m_d->maximum));
+}
+
+template <typename T>
+void SpinBoxBase<T>::setValueGuard(ValueGuard guard)
+{
+    m_d->valueGuard = std::move(guard);
+}
+
+/// Of what the value would become.
+template <typename T>
+QString SpinBoxBase<T>::refusalOfGuard(const T& value) const
+{
+    if (!m_d->valueGuard || !m_d->isValue(value))
+        return {};
+    const T taken = std::clamp(normalized(value), m_d->minimum, m_d->maximum);
+    const ValueGuard guard = m_d->valueGuard; // It may destroy the box.
+    return taken == m_d->value ? QString() : guard(taken);
+}
+
+template <typename T>
+void SpinBoxBase<T>::enter(const T& value)
+{
+    const QPointer<QObject> survivor(this);
+    const QString refusal = refusalOfGuard(value);
+    if (!survivor)
+        return;
+    body().mark.clear();
+    if (refusal.isEmpty())
+        setValue(value);
+    else
+        body().mark.show(refusal);
 }
 
 template <typename T>
@@ -285,7 +317,10 @@ void SpinBoxBase<T>::interpret()
             reading = readText(text);
         }
     }
-    body().take(*this, reading, isChanged, isChanged ? refusalOfReading(text, reading) : QString());
+    const QPointer<QObject> survivor(this);
+    const QString refusal = isChanged ? refusalOfReading(text, reading) : QString();
+    if (survivor)
+        body().take(*this, reading, isChanged, refusal);
 }
 
 template <typename T>
@@ -313,7 +348,10 @@ bool SpinBoxBase<T>::setInputValue(const QVariant& value)
     const std::optional<T> typed = TypedInputVariant::fromVariant<T>(value);
     if (!typed || isReadOnly() || !isEnabled())
         return false;
+    const QPointer<QObject> survivor(this);
     const QString refusal = refusalOfValue(*typed);
+    if (!survivor)
+        return false;
     body().mark.clear();
     body().mark.show(refusal);
     if (!refusal.isEmpty())

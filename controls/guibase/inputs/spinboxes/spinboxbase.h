@@ -7,6 +7,7 @@
 #include <QPair>
 #include <QValidator>
 
+#include <functional>
 #include <memory>
 
 template <typename T>
@@ -53,6 +54,13 @@ public:
     /// The value as it would be stored; the same value where there is no single step.
     virtual T normalizeValueToMultipleOfStep(T value) const;
 
+    /// Tells why a value must not be taken; empty when it may.
+    using ValueGuard = std::function<QString(const T& value)>;
+    /// Judges what the user enters, by typing, by steps or through assistive technologies, before
+    /// it is taken; an empty function, as at first, takes all. The reason is shown like that of a
+    /// text that cannot be read. What the program sets is not judged.
+    void setValueGuard(ValueGuard guard);
+
     /// The box owns the format; its index is the count of formats before. Null is ignored.
     void addDisplayFormat(std::unique_ptr<ValueDisplayFormatBase<T>> format);
     int countDisplayFormats() const;
@@ -95,6 +103,8 @@ protected:
 
     QString refusalOf(const QString& text) const override;
     QStringList sizeSamples() const override;
+    /// Sets what the user has chosen by a step, unless the guard refuses it.
+    void enter(const T& value);
     /// After a step that leads out of the type: the bound, or nothing, as setValue() would do.
     void stepBeyondLimit(bool up);
     GUIBASE_NO_EXPORT const DisplayFormatList<T>& displayFormats() const;
@@ -106,6 +116,7 @@ private:
     GUIBASE_NO_EXPORT void adoptRange();
     GUIBASE_NO_EXPORT QString refusalOfReading(const QString& text, const Reading& reading) const;
     GUIBASE_NO_EXPORT QString refusalOfValue(const T& value) const;
+    GUIBASE_NO_EXPORT QString refusalOfGuard(const T& value) const;
     GUIBASE_NO_EXPORT T normalized(T value) const;
 
     std::unique_ptr<Private> m_d;

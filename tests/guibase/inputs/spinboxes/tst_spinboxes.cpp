@@ -246,6 +246,32 @@ private Q_SLOTS:
         QCOMPARE(box.toolTip(), QStringLiteral("Level"));
         QVERIFY(mark() != RefusalMark::color(box.palette()));
     }
+    void guardsJudgeTheUserOnly()
+    {
+        auto box = std::make_unique<Int32SpinBox>();
+        box->setRange(0, 100);
+        const QString reason = QStringLiteral("It is odd.");
+        box->setValueGuard([&](int value) { return value % 2 == 0 ? QString() : reason; });
+        box->setValue(3);
+        QCOMPARE(box->value(), 3);
+        enter(*box, QStringLiteral("5"));
+        QCOMPARE(box->value(), 3);
+        QCOMPARE(box->inputRefusal(), reason);
+        enter(*box, QStringLiteral("6"));
+        QVERIFY(box->value() == 6 && box->inputRefusal().isEmpty());
+        box->stepUp();
+        QVERIFY(box->value() == 6 && box->inputRefusal() == reason);
+        box->setSingleStep(2);
+        box->stepUp();
+        QVERIFY(box->value() == 8 && box->inputRefusal().isEmpty());
+        QVERIFY(!box->setInputValue(9) && box->value() == 8);
+        box->setValue(9);
+        QVERIFY(box->value() == 9 && box->inputRefusal().isEmpty());
+        box->setValueGuard([&](int) { return box.reset(), reason; }); // may destroy its box
+        box->stepUp();
+        QVERIFY(!box);
+    }
+
     void switchesFormats()
     {
         Int32SpinBox box;
