@@ -2,4 +2,5 @@
 guibase_room(undo
     PUBLIC
         guiundorecordinghelper.cpp guiundorecordinghelper.h
+        undoactions.cpp undoactions.h
         undorecordingcontrols.cpp undorecordingcontrols.h)
