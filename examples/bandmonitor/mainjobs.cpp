@@ -17,9 +17,9 @@ namespace bandmonitor {
 
 namespace {
 
-QByteArray exportText(const Sweep& sweep)
+QByteArray exportText(const SessionValues& values, const Sweep& sweep)
 {
-    return receiverRemark(Settings::receiver().addressText()) + sweepText(sweep);
+    return receiverRemark(values.receiver().addressText()) + sweepText(sweep);
 }
 
 } // namespace
@@ -62,7 +62,7 @@ std::optional<JobState> MainWindow::exportSweep()
     const Sweep sweep = m_session.replay().sweep();
     if (sweep.isEmpty())
         return JobState::Failed;
-    const QByteArray text = exportText(sweep);
+    const QByteArray text = exportText(*m_values, sweep);
     const QString path =
         ModalDialogs::askForFile(this, {QFileDialog::AcceptSave, tr("Export the sweep"),
                                         Settings::lastFolder(), tr("Recordings (*.csv)")});
@@ -87,7 +87,7 @@ void MainWindow::saveVisibleSweep()
     const QString name = tr("%1 sweep %2.csv")
                              .arg(QFileInfo(m_session.fileName()).completeBaseName())
                              .arg(m_session.replay().position() + 1);
-    m_recordings->saveAs(name, exportText(makeSweep(sweep.timeUs, hops)));
+    m_recordings->saveAs(name, exportText(*m_values, makeSweep(sweep.timeUs, hops)));
 }
 
 } // namespace bandmonitor

@@ -4,18 +4,22 @@
 #include "centre/bandview.h"
 #include "centre/replaybar.h"
 #include "colorsmenu.h"
+#include "docks/panelfocus.h"
 #include "docks/windowmenu.h"
-#include "settings/keys.h"
 #include "manual.h"
 #include "panels/jobsmenu.h"
 #include "panels/panel.h"
+#include "receiver/receiverbar.h"
 #include "recentrecordings.h"
 #include "selectionactions.h"
-#include "settings/settings.h"
+#include "settings/keys.h"
 
+#include <guibase/binding/actionbinding.h>
 #include <guibase/services/guibase.h>
+#include <guibase/undo/undoactions.h>
 
 #include <QActionGroup>
+#include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -28,6 +32,7 @@ constexpr double zoomPerKey = 1.5;
 void MainWindow::buildMenus()
 {
     buildFileMenu();
+    buildEditMenu();
     buildViewMenu();
     buildReplayMenu();
     buildJobsMenu();
@@ -84,6 +89,23 @@ void MainWindow::buildFileMenu()
             &QAction::triggered, this, &QWidget::close);
 }
 
+void MainWindow::buildEditMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    addEntry(menu, m_undo->undoAction(), false);
+    addEntry(menu, m_undo->redoAction(), false);
+    menu->addSeparator();
+    QDockWidget* history = m_panelDocks->dock(QStringLiteral("history"));
+    QAction* show = addEntry(menu, tr("Show &history"), {Qt::CTRL | Qt::Key_H}, false);
+    show->setCheckable(true);
+    connect(show, &QAction::triggered, history, [this, history](bool shown) {
+        history->setVisible(shown);
+        if (shown)
+            PanelFocus::enter(*m_panelDocks, *history, Qt::ShortcutFocusReason);
+    });
+    connect(history->toggleViewAction(), &QAction::toggled, show, &QAction::setChecked);
+}
+
 void MainWindow::buildViewMenu()
 {
     GuiBase& services = GuiBase::Instance();
@@ -105,6 +127,9 @@ void MainWindow::buildViewMenu()
     buildBandEntries(menu);
     menu->addSeparator();
     buildModeEntries(menu);
+    auto* bar = findChild<ReceiverBar*>();
+    bar->toggleViewAction()->setShortcut(Qt::ALT | Qt::Key_0);
+    addEntry(menu, bar->toggleViewAction(), false);
     QAction* toStart = services.CreateResetWidgetViewAction(this);
     toStart->setShortcut(Qt::CTRL | Qt::Key_R);
     addEntry(menu, toStart, false);
@@ -130,12 +155,9 @@ void MainWindow::buildBandEntries(QMenu* menu)
             &VisibleBand::showAll);
     menu->addSeparator();
     QAction* hold = addEntry(menu, tr("&Hold maximum"), {Qt::Key_H}, true);
-    hold->setCheckable(true);
-    hold->setChecked(Settings::isHoldVisible());
-    connect(hold, &QAction::toggled, this, [this](bool visible) {
-        Settings::setHoldVisible(visible);
-        m_bandView->setHoldVisible(visible);
-    });
+    connect(hold, &QAction::toggled, m_bandView, &BandView::setHoldVisible);
+    new ValueWidgetBinding::ActionBinding(m_values->isHoldVisible, *hold);
+    m_bandView->setHoldVisible(hold->isChecked());
     connect(addEntry(menu, tr("R&eset hold"), {Qt::Key_R}, true), &QAction::triggered, m_bandView,
             &BandView::resetHold);
     menu->addSeparator();
@@ -174,7 +196,7 @@ void MainWindow::buildReplayMenu()
 
 void MainWindow::buildJobsMenu()
 {
-    menuBar()->addMenu(new JobsMenu(&m_session.jobs(), this));
+    menuBar()->addMenu(new JobsMenu(&m_session.jobs(), m_values, this));
 }
 
 void MainWindow::buildHelpMenu()

@@ -4,6 +4,7 @@
 #include "centre/bandview.h"
 #include "panels/bearingspanel.h"
 #include "panels/eventlogpanel.h"
+#include "panels/historypanel.h"
 #include "panels/icons.h"
 #include "panels/jobspanel.h"
 #include "panels/levelspanel.h"
@@ -22,19 +23,20 @@ Panel* makeSignals(Session& session)
     return panel;
 }
 
-Panel* makeLevels(Session& session)
+Panel* makeLevels(Session& session, const std::shared_ptr<SessionValues>& values)
 {
-    auto* panel = new LevelsPanel;
+    auto* panel = new LevelsPanel(values);
     const auto take = [panel, &session] { session.setReferenceLevels(panel->points()); };
     QObject::connect(panel, &LevelsPanel::pointsChanged, &session, take);
     take();
     return panel;
 }
 
-Panel* makeReceiver(Session& session, BandView& bandView)
+Panel* makeReceiver(Session& session, const std::shared_ptr<SessionValues>& values,
+                    BandView& bandView)
 {
-    auto* panel = new ReceiverPanel;
-    new ReceiverControl(panel, &bandView, &session, panel);
+    auto* panel = new ReceiverPanel(*values);
+    new ReceiverControl(values, panel, &bandView, &session, panel);
     return panel;
 }
 
@@ -71,17 +73,19 @@ void MainWindow::buildPanels()
         {name("events"), tr("&Event log"), makeIcon(Icon::Events),
          new EventLogPanel(&m_session.events()),
          {tabbed(bottom), hidden(bottom), tabbed(bottom)}},
-        {name("levels"), tr("&Reference levels"), makeIcon(Icon::Levels), makeLevels(m_session),
+        {name("levels"), tr("&Reference levels"), makeIcon(Icon::Levels), makeLevels(m_session, m_values),
          {hidden(bottom), beside(bottom, 1100, 200), beside(bottom, 330, 220)}},
         {name("jobs"), tr("&Jobs"), makeIcon(Icon::Jobs),
          new JobsPanel(&m_session.jobs(), &m_session.replay()),
          {hidden(right), hidden(right), beside(right, 360, 500)}},
         {name("bearings"), tr("&Bearings"), makeIcon(Icon::Bearings),
-         new BearingsPanel(&m_session.bearings()),
+         new BearingsPanel(&m_session.bearings(), *m_values),
          {hidden(right), beside(right, 260, 500), tabbed(right)}},
         {name("receiver"), tr("Re&ceiver"), makeIcon(Icon::Receiver),
-         makeReceiver(m_session, *m_bandView),
+         makeReceiver(m_session, m_values, *m_bandView),
          {beside(left, 240, 500), beside(left, 240, 500), hidden(left)}},
+        {name("history"), tr("H&istory"), makeIcon(Icon::History), new HistoryPanel,
+         {hidden(left), hidden(left), hidden(left)}},
         // clang-format on
     };
     for (const PanelRow& row : rows) {

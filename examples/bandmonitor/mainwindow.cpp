@@ -2,22 +2,29 @@
 #include "mainwindow.h"
 
 #include "centre/bandview.h"
+#include "centre/pinkeeper.h"
 #include "centre/replaybar.h"
+#include "colorskeeper.h"
 #include "counts.h"
 #include "eventrecorder.h"
 #include "infodialog.h"
 #include "model/panenames.h"
+#include "panels/icons.h"
 #include "panels/panel.h"
+#include "receiver/receiverbar.h"
 #include "recentrecordings.h"
 #include "settings/settings.h"
 
 #include <radiopanes/panes/spectrumpane.h>
 
 #include <guibase/services/guibase.h>
+#include <guibase/undo/guiundorecordinghelper.h>
+#include <guibase/undo/undoactions.h>
 #include <jtbase/coordformat.h>
 #include <jtbase/errorhandler.h>
 #include <xmsgdlg/xmessagedialog.h>
 
+#include <QAction>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLabel>
@@ -38,8 +45,9 @@ constexpr QSize normalSize(1100, 800);
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , m_resolution(QStringLiteral("frequency_resolution"))
+    , m_undo(new UndoActions(this))
     , m_bandView(new BandView(this))
-    , m_replayBar(new ReplayBar(&m_session.replay(), this))
+    , m_replayBar(new ReplayBar(&m_session.replay(), m_values, this))
     , m_panelDocks(new PanelDocks(*this))
     , m_modes(new Modes(m_panelDocks, m_bandView->waterfallRow(), m_bandView->splitter(), this))
     , m_recorder(new EventRecorder(&m_session, m_modes, this))
@@ -49,6 +57,7 @@ MainWindow::MainWindow(QWidget* parent)
     setAcceptDrops(true);
     if (ErrorHandler::GetMessageDlg() == nullptr)
         ErrorHandler::SetMessageDlg(std::make_unique<XMessageDialog>());
+    buildUndo();
     buildCentre();
     buildStatusBar();
     connectSession();
@@ -66,6 +75,15 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow() = default;
 
+void MainWindow::buildUndo()
+{
+    GuiUndoRecordingHelper::SetDefaultUndoRecordingTrigger_BasePath(m_values->path());
+    m_undo->undoAction()->setIcon(makeIcon(Icon::Undo));
+    m_undo->redoAction()->setIcon(makeIcon(Icon::Redo));
+    addToolBar(new ReceiverBar(*m_values, *m_undo, this));
+    new ColorsKeeper(m_values, this);
+}
+
 void MainWindow::buildCentre()
 {
     auto* centre = new QWidget(this);
@@ -82,8 +100,10 @@ void MainWindow::connectSession()
     connect(&m_session, &Session::openProgress, this, [this](qint64 done, qint64 total) {
         m_progress->setValue(total > 0 ? static_cast<int>(done * progressSteps / total) : 0);
     });
-    connect(&m_session, &Session::recordingChanged, m_bandView,
-            [this] { m_bandView->setRecording(m_session.recording()); });
+    auto* pins = new PinKeeper(m_values, &m_bandView->visibleBand(), this);
+    connect(&m_session, &Session::recordingChanged, pins, [this, pins] {
+        pins->changeBand([this] { m_bandView->setRecording(m_session.recording()); });
+    });
     connect(&m_session, &Session::sweepShown, m_bandView, &BandView::showSweep);
     connect(&m_session, &Session::sweepShown, this, &MainWindow::updateTitle);
     connect(&m_session, &Session::referenceLevelsChanged, m_bandView,
@@ -122,7 +142,6 @@ void MainWindow::restoreSettings()
     GuiBase& services = GuiBase::Instance();
     services.SetFrequencyResolution(Settings::frequencyResolution());
     services.SetFrequencyUnit(Settings::frequencyUnit());
-    m_bandView->setHoldVisible(Settings::isHoldVisible());
     refreshTexts();
 }
 

@@ -4,6 +4,7 @@
 #include "docks/modes.h"
 #include "docks/paneldocks.h"
 #include "model/session.h"
+#include "settings/sessionvalues.h"
 
 #include <valueframework/observable.h>
 #include <valueframework/valueselection.h>
@@ -15,6 +16,7 @@
 class QLabel;
 class QProgressBar;
 class QPushButton;
+class UndoActions;
 
 namespace bandmonitor {
 
@@ -40,6 +42,8 @@ public:
     ~MainWindow() override;
 
     Session& session() { return m_session; }
+    /// What the user sets in the window.
+    SessionValues& values() { return *m_values; }
     /// Opens the recording in the session, see Session::open().
     void open(const QString& path, OnFailure onFailure = OnFailure::ShowMessage);
     /// Tells the services the modes of the window; once it is their main widget.
@@ -69,6 +73,7 @@ private:
     // mainmenus.cpp
     void buildMenus();
     void buildFileMenu();
+    void buildEditMenu();
     void buildViewMenu();
     void buildBandEntries(QMenu* menu);
     void buildModeEntries(QMenu* menu);
@@ -92,6 +97,7 @@ private:
     void saveVisibleSweep();
 
     void buildCentre();
+    void buildUndo();
     void buildStatusBar();
     void connectSession();
     void connectRecordings();
@@ -111,6 +117,8 @@ private:
     static constexpr int messageTime = 8000; // of the status bar, in milliseconds
 
     ValueSelection m_resolution;
+    std::shared_ptr<SessionValues> m_values = std::make_shared<SessionValues>();
+    UndoActions* m_undo;
     Session m_session;
     OnFailure m_onFailure = OnFailure::ShowMessage;
     BandView* m_bandView;

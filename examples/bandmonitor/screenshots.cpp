@@ -23,6 +23,7 @@
 
 #include <jtbase/coordformat.h>
 #include <trovappstartup/cfgcenter.h>
+#include <valueframework/undorecording.h>
 
 #include <QAction>
 #include <QApplication>
@@ -291,14 +292,22 @@ void ScreenshotSeries::takeColorEditor()
         settle();
     };
     take(QStringLiteral("color-editor.png"));
+    takeDark([this, take] {
+        take(QStringLiteral("color-editor-dark.png"));
+        takeDialog(QStringLiteral("keyboard-dark.png"), "slotShowHotKeysInMenu",
+                   &GuiBase::Instance());
+    });
+}
+
+void ScreenshotSeries::takeDark(const std::function<void()>& take)
+{
     const QPalette light = QApplication::palette();
     QApplication::setPalette(darkPalette());
     ColorSet& colors = ColorSet::Instance();
     colors.slotRestoreSystemColors();
     colors.Load(&m_window, QString::fromLatin1(ColorSet::darkDesktopName));
     settle();
-    take(QStringLiteral("color-editor-dark.png"));
-    takeDialog(QStringLiteral("keyboard-dark.png"), "slotShowHotKeysInMenu", &GuiBase::Instance());
+    take();
     QApplication::setPalette(light);
     colors.slotRestoreSystemColors();
     colors.slotRestoreFactoryColors();
@@ -313,11 +322,15 @@ void ScreenshotSeries::takeReceiver()
         {"deviceAddress", 0xC0FFEE},      {"threshold", -30},
     };
     GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
+    UndoRecording::Instance().clear();
     for (const auto& [field, value] : entries) {
         auto* input = m_window.panel<ReceiverPanel>().findChild<QWidget*>(QLatin1String(field));
         dynamic_cast<TypedInput&>(*input).setInputValue(value);
     }
+    m_window.panelDocks().dock(QStringLiteral("history"))->show();
+    UndoRecording::Instance().undo();
     write(QStringLiteral("receiver.png"));
+    takeDark([this] { write(QStringLiteral("receiver-dark.png")); });
 }
 
 void ScreenshotSeries::takeMessage()

@@ -5,6 +5,8 @@
 #include <QPixmap>
 #include <QString>
 
+#include <functional>
+
 namespace bandmonitor {
 
 class DialogCloser;
@@ -34,6 +36,8 @@ private:
     void takeColors();
     void takeColorEditor();
     void takeReceiver();
+    /// Calls the operation while the desktop is dark.
+    void takeDark(const std::function<void()>& take);
     void takeMenus();
     void takeDialog(const QString& name, const char* slot, QObject* receiver);
     void takeMessage();

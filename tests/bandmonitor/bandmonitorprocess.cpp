@@ -50,7 +50,7 @@ QString state(MainWindow& window)
                        .arg(services.GetFrequencyResolution())
                        .arg(services.GetTimeZoneValue())
                        .arg(services.GetPositionFormat()->GetValue())
-                       .arg(Settings::isHoldVisible())
+                       .arg(window.values().isHoldVisible.GetValue())
                        .arg(ColorSet::Instance().GetColor(IColorBase::DrawPaneGrid).name())
                        .arg(action(window, "&Hold maximum")->shortcut().toString());
     QDebug(&text) << " layout" << window.size() << static_cast<int>(window.modes().mode());

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "settings/sessionvalues.h"
 #include "support/guardedtest.h"
 #include "support/testrows.h"
 
@@ -91,7 +92,8 @@ private Q_SLOTS:
     void signalsAreChosenByMouseAndKeys()
     {
         Bearings bearings;
-        BearingsPanel panel(&bearings);
+        const SessionValues values;
+        BearingsPanel panel(&bearings, values);
         panel.resize(400, 500);
         panel.show();
         BearingRose& rose = panel.rose();
@@ -129,7 +131,8 @@ private Q_SLOTS:
     {
         auto bearings = std::make_unique<Bearings>();
         bearings->update(tracks({98e6}));
-        BearingsPanel panel(bearings.get());
+        const SessionValues values;
+        BearingsPanel panel(bearings.get(), values);
         panel.show();
         panel.rose().select(1);
         bearings.reset();

@@ -98,7 +98,7 @@ private Q_SLOTS:
         QVERIFY(entries[5]->isSeparator() && entries[6]->menu() != nullptr);
         for (qsizetype i = 0; i < first.size(); ++i)
             QVERIFY2(entries[i]->text().startsWith(first[i]), qPrintable(entries[i]->text()));
-        QCOMPARE(JobsMenu(&jobs, nullptr).order(), order);
+        QTRY_COMPARE(JobsMenu(&jobs, std::make_shared<SessionValues>(), nullptr).order(), order);
         jobs.reset();
         QCOMPARE(job("Jump").state, JobState::Ready);
     }

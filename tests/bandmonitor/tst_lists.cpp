@@ -15,6 +15,7 @@
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortrowtable.h>
 #include <guibase/services/guibase.h>
+#include <valueframework/undorecording.h>
 #include <valueframework/valueselection.h>
 
 #include <QCheckBox>
@@ -206,7 +207,7 @@ private Q_SLOTS:
     {
         const std::vector<LevelPoint> expected{{95e6, -30}, {98.1e6, -40}};
         for (const bool first : {true, false}) {
-            LevelsPanel pane;
+            LevelsPanel pane(std::make_shared<SessionValues>());
             pane.show();
             SortRowTable& table = pane.table();
             if (first) {
@@ -224,7 +225,8 @@ private Q_SLOTS:
             QCOMPARE(marks, 2);
             QCOMPARE(table.item(0, 0)->text(), QStringLiteral("95.000000 MHz"));
         }
-        LevelsPanel pane;
+        auto values = std::make_shared<SessionValues>();
+        LevelsPanel pane(values);
         GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
         pane.refreshTexts();
         QCOMPARE(pane.table().item(0, 0)->text(), QStringLiteral("95000.000 kHz"));
@@ -234,6 +236,14 @@ private Q_SLOTS:
         QTRY_COMPARE(pane.points(), (std::vector<LevelPoint>{{95e6, -31}}));
         pane.table().slotClearAll();
         QTRY_VERIFY(pane.points().empty());
+        UndoRecording& steps = UndoRecording::Instance();
+        QCOMPARE(steps.undoText(), QStringLiteral("Delete reference level"));
+        QVERIFY(steps.undo());
+        QCOMPARE(pane.points(), (std::vector<LevelPoint>{{95e6, -31}}));
+        QCOMPARE(pane.table().rowCount(), 4); // with those that cannot be read
+        QVERIFY(steps.undo());
+        QCOMPARE(pane.points(), expected);
+        QVERIFY(steps.redo() && steps.redo() && pane.points().empty());
     }
 };
 

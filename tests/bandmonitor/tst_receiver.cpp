@@ -2,16 +2,19 @@
 #include "centre/bandview.h"
 #include "mainwindowtest.h"
 #include "panels/signalspanel.h"
+#include "receiver/receiverbar.h"
 #include "receiver/receiverpanel.h"
-#include "settings/settings.h"
 #include "support/testrows.h"
 
 #include <radiopanes/panes/spectrumpane.h>
 
+#include <guibase/colors/colorset.h>
+#include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/inputs/typedinput.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
 #include <trovappstartup/cfgcenter.h>
+#include <valueframework/undorecording.h>
 
 #include <QApplication>
 #include <QLineEdit>
@@ -105,14 +108,17 @@ private Q_SLOTS:
         for (const char* key : {"Centre", "Span", "Resolution", "Gain", "Attenuation", "Threshold"})
             cfg->SetString(QLatin1String(key), QStringLiteral("-20000000"));
         cfg->SetString(QStringLiteral("Address"), QStringLiteral("tomorrow"));
-        const ReceiverSettings clamped = Settings::receiver();
-        QCOMPARE(clamped.centreHz + clamped.spanHz + clamped.resolutionHz, 0);
-        QCOMPARE(clamped.gainDb, -100.0);
-        QCOMPARE(clamped.attenuationDb, -100);
-        QCOMPARE(clamped.thresholdDb, -1000.0);
-        QCOMPARE(clamped.address, 0U);
+        {
+            const SessionValues values;
+            const ReceiverSettings clamped = values.receiver();
+            QCOMPARE(values.centre.GetValue() + values.span.GetValue() + clamped.resolutionHz, 0);
+            QCOMPARE(clamped.gainDb, -100.0);
+            QCOMPARE(clamped.attenuationDb, -100);
+            QVERIFY(!clamped.thresholdDb);
+            QCOMPARE(clamped.address, 0U);
+        }
         cfg->SetString(QStringLiteral("Gain"), QStringLiteral("nan"));
-        QCOMPARE(Settings::receiver().gainDb, 0.0);
+        QCOMPARE(SessionValues().receiver().gainDb, 0.0);
     }
 
     void panelAndSpectrumFollowEachOther()
@@ -236,24 +242,85 @@ private Q_SLOTS:
         QVERIFY(timeAt(position) >= start.toMSecsSinceEpoch());
         QVERIFY(timeAt(position - 1) < start.toMSecsSinceEpoch());
 
-        ReceiverSettings expected;
-        expected.centreHz = 98'500'123;
-        expected.spanHz = 7'500'000;
-        expected.resolutionHz = 100'000;
-        expected.gainDb = 12.5;
-        expected.attenuationDb = -3;
-        expected.samples = std::numeric_limits<quint64>::max();
-        expected.address = 0xC0FFEE;
-        expected.isAddressHexadecimal = false;
-        expected.startTime = start;
-        expected.thresholdDb = -62.5;
-        QVERIFY(Settings::receiver() == expected);
+        const auto check = [&] {
+            const SessionValues& values = m_window->values();
+            QCOMPARE(values.centre.GetValue(), 98'500'123);
+            QCOMPARE(values.span.GetValue(), 7'500'000);
+            QCOMPARE(values.enteredStart.GetValue(), start);
+            const ReceiverSettings settings = values.receiver();
+            QCOMPARE(settings.resolutionHz, 100'000);
+            QCOMPARE(settings.gainDb, 12.5);
+            QCOMPARE(settings.attenuationDb, -3);
+            QCOMPARE(settings.samples, std::numeric_limits<quint64>::max());
+            QCOMPARE(settings.address, 0xC0FFEEU);
+            QVERIFY(!settings.isAddressHexadecimal);
+            QCOMPARE(settings.thresholdDb, std::optional(-62.5));
+        };
+        check();
         openForm();
         QCOMPARE(m_window->session().replay().position(), position);
         QCOMPARE(shown("centreFrequency"), QStringLiteral("98,500123 MHz"));
-        expected.startTime =
-            m_window->panel<ReceiverPanel>().settings().startTime; // that of the sweep
-        QVERIFY(m_window->panel<ReceiverPanel>().settings() == expected);
+        check();
+    }
+
+    void everythingCanBeUndone()
+    {
+        openForm();
+        UndoRecording& steps = UndoRecording::Instance();
+        SessionValues& values = m_window->values();
+        VisibleBand& view = m_window->bandView().visibleBand();
+        QVERIFY(!steps.canUndo()); // opening is no step
+        auto* second = m_window->findChild<ReceiverBar*>()->findChild<SpinBoxes::FrequencySpinBox*>(
+            QStringLiteral("centreFrequency"));
+        enter("span", QStringLiteral("2"));
+        enter("centreFrequency", QStringLiteral("98.5"));
+        QCOMPARE(second->value(), 98'500'000);
+        second->setFocus();
+        for (int i = 0; i < 5; ++i) // a burst in the other view
+            QTest::keyClick(second, Qt::Key_Up);
+        QVERIFY(values.centre.GetValue() > 98'500'000);
+        QCOMPARE(steps.undoText(), QStringLiteral("Change centre frequency"));
+        const double moved = view.low();
+        view.pan(1e6); // as a drag does
+        view.pan(1e6);
+        QCOMPARE(steps.undoText(), QStringLiteral("Move the view"));
+        const auto press = [&](Qt::KeyboardModifiers modifiers) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, modifiers);
+        };
+        press(Qt::ControlModifier);
+        QCOMPARE(view.low(), moved);
+        press(Qt::ControlModifier);
+        QCOMPARE(shown("centreFrequency"), QStringLiteral("98.5 MHz"));
+        QCOMPARE(second->value(), 98'500'000);
+        press(Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(view.low(), moved);
+
+        const qsizetype position = m_window->session().replay().position();
+        enter("startTime", QStringLiteral("2100-01-01 00:00:00.000"));
+        QVERIFY(m_window->session().replay().position() > position);
+        QTest::keyClicks(field("startTime"), QStringLiteral("7"));
+        press(Qt::ControlModifier); // what is typed first
+        QCOMPARE(steps.undoText(), QStringLiteral("Change start time"));
+        press(Qt::ControlModifier);
+        QCOMPARE(m_window->session().replay().position(), position);
+
+        view.addPin(99e6);
+        view.clearPins();
+        QVERIFY(steps.undo());
+        QCOMPARE(view.pins(), std::vector<double>{99e6});
+        const QColor grid = ColorSet::Instance().GetColor(IColorBase::DrawPaneGrid);
+        ColorSet::Instance().SetColor(IColorBase::DrawPaneGrid, Qt::red, true);
+        QVERIFY(steps.undo());
+        QCOMPARE(ColorSet::Instance().GetColor(IColorBase::DrawPaneGrid), grid);
+        open(samplePath());
+        QCOMPARE(view.pins(), std::vector<double>{99e6}); // it stays, and so do the steps
+        QVERIFY(steps.undo() && view.pins().empty());
+        while (steps.undo()) {
+        }
+        QVERIFY(view.showsAll());
+        QVERIFY(steps.canRedo());
+        openForm();
+        QVERIFY(!steps.canRedo());
     }
 };
 

@@ -71,11 +71,9 @@ private Q_SLOTS:
 
     void savesWhatIsVisible()
     {
-        ReceiverSettings receiver; // changes what is shown, not what is saved
-        receiver.gainDb = 20;
-        receiver.address = 0x1F;
-        Settings::setReceiver(receiver);
         openWindow();
+        m_window->values().gain.SetValue(20); // changes what is shown, not what is saved
+        m_window->values().address.SetValue(0x1F);
         m_window->session().replay().jump(3);
         const Sweep sweep = m_window->session().replay().sweep();
         VisibleBand& view = m_window->bandView().visibleBand();

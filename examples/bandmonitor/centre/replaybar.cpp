@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "centre/replaybar.h"
 
-#include "settings/keys.h"
 #include "model/replay.h"
 #include "panels/readableoutline.h"
+#include "settings/boundform.h"
+#include "settings/keys.h"
 
 #include <guibase/services/guibase.h>
 
@@ -19,9 +20,10 @@
 
 namespace bandmonitor {
 
-ReplayBar::ReplayBar(Replay* replay, QWidget* parent)
+ReplayBar::ReplayBar(Replay* replay, std::shared_ptr<SessionValues> values, QWidget* parent)
     : QWidget(parent)
     , m_replay(replay)
+    , m_values(std::move(values))
     , m_first(makeAction(tr("&First sweep"), Icon::ToStart, QKeySequence(Qt::CTRL | Qt::Key_Home)))
     , m_back(makeAction(tr("Step &back"), Icon::Backward, QKeySequence(Qt::Key_Comma)))
     , m_play(makeAction(tr("&Play"), Icon::Play, QKeySequence(Qt::Key_Space)))
@@ -36,11 +38,14 @@ ReplayBar::ReplayBar(Replay* replay, QWidget* parent)
     connect(m_play, &QAction::triggered, m_replay, &Replay::toggle);
     connect(m_forward, &QAction::triggered, m_replay, &Replay::stepForward);
     connect(m_slider, &QSlider::valueChanged, this, &ReplayBar::jumpTo);
-    connect(m_speed, &QDoubleSpinBox::valueChanged, m_replay, &Replay::setSpeed);
     connect(m_replay, &Replay::recordingChanged, this, &ReplayBar::refresh);
     connect(m_replay, &Replay::playingChanged, this, &ReplayBar::showPlaying);
     connect(m_replay, &Replay::positionChanged, this, &ReplayBar::showPosition);
-    connect(m_replay, &Replay::speedChanged, m_speed, &QDoubleSpinBox::setValue);
+    connect(m_replay, &Replay::speedChanged, this,
+            [this](double factor) { m_values->speed.SetValue(factor); });
+    m_followers = SessionValues::follow({&m_values->speed},
+                                        [this] { m_replay->setSpeed(m_values->speed.GetValue()); });
+    bindForm(*this, m_values->path());
     refresh();
 }
 
@@ -78,7 +83,8 @@ void ReplayBar::buildLayout()
     m_speed->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
     m_speed->setSuffix(QStringLiteral(" ×"));
     m_speed->setKeyboardTracking(false);
-    m_speed->setValue(m_replay->speed());
+    m_speed->setObjectName(QStringLiteral("speed"));
+    m_speed->setAccessibleName(tr("Replay speed"));
     m_speed->setToolTip(tr("Replay speed, 0.1 to 100 times as fast as recorded"));
     row->addWidget(m_speed);
 }

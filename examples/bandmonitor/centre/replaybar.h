@@ -2,6 +2,7 @@
 #pragma once
 
 #include "panels/icons.h"
+#include "settings/sessionvalues.h"
 
 #include <QWidget>
 
@@ -24,7 +25,7 @@ public:
     static constexpr double fastest = 100;
 
     /// The replay must outlive the bar.
-    ReplayBar(Replay* replay, QWidget* parent);
+    ReplayBar(Replay* replay, std::shared_ptr<SessionValues> values, QWidget* parent);
     ~ReplayBar() override;
 
     /// For menus and shortcuts; owned by the bar.
@@ -45,6 +46,8 @@ private:
     void jumpTo(int index);
 
     Replay* m_replay;
+    std::shared_ptr<SessionValues> m_values;
+    SessionValues::Followers m_followers;
     QAction* m_first;
     QAction* m_back;
     QAction* m_play;

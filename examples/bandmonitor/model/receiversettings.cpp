@@ -1,34 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "receiversettings.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace bandmonitor {
-
-namespace {
-
-double clampedNumber(double value, double largest)
-{
-    return std::isnan(value) ? 0 : std::clamp(value, -largest, largest);
-}
-
-} // namespace
-
-ReceiverSettings ReceiverSettings::clamped() const
-{
-    ReceiverSettings result = *this;
-    for (qint64* frequency : {&result.centreHz, &result.spanHz, &result.resolutionHz})
-        *frequency = std::clamp<qint64>(*frequency, 0, highestHz);
-    result.gainDb = clampedNumber(gainDb, largestGainDb);
-    result.attenuationDb =
-        std::clamp<qint8>(attenuationDb, -largestAttenuationDb, largestAttenuationDb);
-    if (thresholdDb && std::isnan(*thresholdDb))
-        result.thresholdDb.reset();
-    else if (thresholdDb)
-        result.thresholdDb = clampedNumber(*thresholdDb, largestThresholdDb);
-    return result;
-}
 
 TraceSettings ReceiverSettings::trace() const
 {

@@ -4,6 +4,8 @@
 #include "model/bearings.h"
 #include "panels/headingspinbox.h"
 #include "panels/panelactions.h"
+#include "settings/boundform.h"
+#include "settings/sessionvalues.h"
 
 #include <radiopanes/bearings/bearingrose.h>
 
@@ -27,7 +29,7 @@ QLabel* makeLabel(QWidget* parent, const QString& name)
 
 } // namespace
 
-BearingsPanel::BearingsPanel(const Bearings* bearings, QWidget* parent)
+BearingsPanel::BearingsPanel(const Bearings* bearings, const SessionValues& values, QWidget* parent)
     : Panel(parent)
     , m_rose(new BearingRose(this))
     , m_heading(new HeadingSpinBox(this))
@@ -70,6 +72,7 @@ BearingsPanel::BearingsPanel(const Bearings* bearings, QWidget* parent)
     connect(m_rose, &BearingRose::signalChosen, this, &Panel::frequencyWanted);
     connect(m_heading, &HeadingSpinBox::valueChanged, m_rose, &BearingRose::setHeading);
     connect(m_headingUp, &QAction::toggled, m_rose, &BearingRose::setHeadingUp);
+    bindForm(*this, values.bearingsPath());
     showBearings();
     showSelection();
 }

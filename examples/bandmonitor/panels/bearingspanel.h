@@ -14,6 +14,7 @@ namespace bandmonitor {
 
 class Bearings;
 class HeadingSpinBox;
+class SessionValues;
 
 /// The compass rose of the bearings with the heading and what is known of the selected signal. It
 /// says that the bearings are simulated.
@@ -22,7 +23,7 @@ class BearingsPanel : public Panel
     Q_OBJECT
 public:
     /// The bearings may go before the panel, which is empty then.
-    explicit BearingsPanel(const Bearings* bearings, QWidget* parent = nullptr);
+    BearingsPanel(const Bearings* bearings, const SessionValues& values, QWidget* parent = nullptr);
     ~BearingsPanel() override;
 
     BearingRose& rose() { return *m_rose; }

@@ -84,6 +84,28 @@ void drawReceiver(QPainterPath& outline, QPainterPath& filling)
     addLine(outline, {4, 11.2}, {7, 11.2});
 }
 
+void drawHistory(QPainterPath& outline, QPainterPath&)
+{
+    outline.addEllipse(QPointF(8, 8), 6.3, 6.3);
+    addLine(outline, {8, 4}, {8, 8});
+    addLine(outline, {8, 8}, {11, 10});
+}
+
+void drawUndo(QPainterPath& outline, QPainterPath& filling)
+{
+    outline.moveTo(4, 5.5);
+    outline.cubicTo(16, 2.5, 16, 14, 6, 13.5);
+    filling.addPolygon(QPolygonF{QPointF(6.5, 1.5), QPointF(6.5, 9.5), QPointF(1.5, 5.5)});
+}
+
+void drawRedo(QPainterPath& outline, QPainterPath& filling)
+{
+    const QTransform mirror(-1, 0, 0, 1, 16, 0);
+    drawUndo(outline, filling);
+    outline = mirror.map(outline);
+    filling = mirror.map(filling);
+}
+
 void drawToStart(QPainterPath&, QPainterPath& filling)
 {
     filling.addRect(2, 3, 2, 10);
@@ -115,9 +137,9 @@ void drawForward(QPainterPath&, QPainterPath& filling)
 }
 
 /// In the order of the enumerators.
-constexpr std::array drawings{drawSignals,  drawEvents,   drawLevels,  drawJobs,
-                              drawBearings, drawReceiver, drawToStart, drawBackward,
-                              drawPlay,     drawPause,    drawForward};
+constexpr std::array drawings{drawSignals,  drawEvents,  drawLevels, drawJobs,   drawBearings,
+                              drawReceiver, drawHistory, drawUndo,   drawRedo,   drawToStart,
+                              drawBackward, drawPlay,    drawPause,  drawForward};
 
 class DrawnIconEngine : public QIconEngine
 {

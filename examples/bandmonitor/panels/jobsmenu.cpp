@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "panels/jobsmenu.h"
 
-#include "settings/keys.h"
 #include "model/jobs.h"
-#include "settings/settings.h"
+#include "settings/keys.h"
 
 #include <guibase/services/guibase.h>
+#include <valueframework/undorecording.h>
 
 #include <QActionGroup>
-
-#include <algorithm>
 
 namespace bandmonitor {
 
@@ -32,21 +30,13 @@ constexpr OrderEntry orderEntries[] = {
      Qt::Key_T},
 };
 
-JobOrder keptOrder()
-{
-    const int order = Settings::jobOrder();
-    return order >= 0 && order < static_cast<int>(std::size(orderEntries))
-               ? static_cast<JobOrder>(order)
-               : JobOrder::Name;
-}
-
 } // namespace
 
-JobsMenu::JobsMenu(Jobs* jobs, QWidget* parent)
+JobsMenu::JobsMenu(Jobs* jobs, std::shared_ptr<SessionValues> values, QWidget* parent)
     : ResortPopupMenu(parent, "jobs")
     , m_jobs(jobs)
     , m_orderMenu(new QMenu(tr("S&ort"), this))
-    , m_order(keptOrder())
+    , m_values(std::move(values))
 {
     setTitle(tr("&Jobs"));
     int key = firstJobKey;
@@ -61,7 +51,8 @@ JobsMenu::JobsMenu(Jobs* jobs, QWidget* parent)
     buildOrderMenu();
     connect(this, &ResortPopupMenu::signalActivated, m_jobs, &Jobs::run);
     NotifyBeforeShow(this);
-    UpdateMenu(this);
+    showOrder();
+    m_followers = SessionValues::follow({&m_values->jobOrder}, [this] { showOrder(); });
 }
 
 JobsMenu::~JobsMenu() = default;
@@ -73,8 +64,8 @@ void JobsMenu::buildOrderMenu()
         // Without data: an entry with a number would be taken for a job.
         QAction* action = m_orderMenu->addAction(tr(entry.text));
         action->setCheckable(true);
-        action->setChecked(entry.order == m_order);
         group->addAction(action);
+        m_orderActions << action;
         action->setShortcut(Qt::ALT | Qt::SHIFT | entry.key);
         Keys::listEverywhere(action);
         connect(action, &QAction::triggered, this,
@@ -82,10 +73,20 @@ void JobsMenu::buildOrderMenu()
     }
 }
 
+JobOrder JobsMenu::order() const
+{
+    return static_cast<JobOrder>(m_values->jobOrder.GetValue());
+}
+
 void JobsMenu::setOrder(JobOrder order)
 {
-    m_order = order;
-    Settings::setJobOrder(static_cast<int>(order));
+    const SessionValues::Step step = m_values->step(tr("Sort the jobs"));
+    m_values->jobOrder.SetValue(static_cast<int>(order));
+}
+
+void JobsMenu::showOrder()
+{
+    m_orderActions.at(m_values->jobOrder.GetValue())->setChecked(true);
     UpdateMenu(this);
 }
 
@@ -110,7 +111,7 @@ void JobsMenu::UpdateMenu(ResortPopupMenu* menu)
 {
     menu->removeAllSeparators();
     std::vector<int> positions;
-    for (const int id : m_jobs->list().ids(m_order)) {
+    for (const int id : m_jobs->list().ids(order())) {
         menu->changeItem(id, textOf(*m_jobs->list().find(id)));
         positions.push_back(menu->indexOf(id));
     }

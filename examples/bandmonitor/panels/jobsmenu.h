@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/joblist.h"
+#include "settings/sessionvalues.h"
 
 #include <guibase/lists/iupdatemenu.h>
 #include <guibase/lists/resortpopupmenu.h>
@@ -17,21 +18,25 @@ class JobsMenu : public ResortPopupMenu, private IUpdateMenu
     Q_OBJECT
 public:
     /// The jobs must be complete, and outlive the menu.
-    JobsMenu(Jobs* jobs, QWidget* parent);
+    JobsMenu(Jobs* jobs, std::shared_ptr<SessionValues> values, QWidget* parent);
     ~JobsMenu() override;
 
-    JobOrder order() const { return m_order; }
+    JobOrder order() const;
+    /// As an undo step.
     void setOrder(JobOrder order);
 
 private:
     void UpdateMenu(ResortPopupMenu* menu) override;
     void buildOrderMenu();
+    void showOrder();
     QString textOf(const Job& job) const;
 
     Jobs* m_jobs;
     QMenu* m_orderMenu;
     int m_orderMenuId = 0;
-    JobOrder m_order;
+    std::shared_ptr<SessionValues> m_values;
+    QList<QAction*> m_orderActions; ///< By order.
+    SessionValues::Followers m_followers;
 };
 
 } // namespace bandmonitor

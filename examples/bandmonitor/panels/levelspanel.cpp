@@ -4,9 +4,9 @@
 #include "panels/emptyhint.h"
 #include "panels/panelactions.h"
 #include "panels/referencelevels.h"
-#include "settings/settings.h"
 
 #include <guibase/lists/sortrowtable.h>
+#include <valueframework/undorecording.h>
 
 #include <QAction>
 #include <QHeaderView>
@@ -32,8 +32,9 @@ constexpr int readTextRole = Qt::UserRole + 1;
 
 } // namespace
 
-LevelsPanel::LevelsPanel(QWidget* parent)
+LevelsPanel::LevelsPanel(std::shared_ptr<SessionValues> values, QWidget* parent)
     : Panel(parent)
+    , m_values(std::move(values))
     , m_table(new SortRowTable(this, "referenceLevels"))
 {
     setAccessibleName(tr("Reference levels"));
@@ -58,7 +59,8 @@ LevelsPanel::LevelsPanel(QWidget* parent)
     new EmptyHint(tr("Reference levels appear here, and as a line in the spectrum."), m_table);
     m_readLater.setSingleShot(true);
     connect(&m_readLater, &QTimer::timeout, this, &LevelsPanel::readRows);
-    restoreRows();
+    showRows();
+    m_followers = SessionValues::follow({&m_values->referenceLevels}, [this] { showRows(); });
     const QAbstractItemModel* model = m_table->model();
     connect(model, &QAbstractItemModel::dataChanged, this, &LevelsPanel::scheduleRead);
     connect(model, &QAbstractItemModel::rowsInserted, this, &LevelsPanel::scheduleRead);
@@ -83,13 +85,18 @@ void LevelsPanel::buildLayout()
     column->addLayout(makeButtonRow(this, m_actions));
 }
 
-void LevelsPanel::restoreRows()
+void LevelsPanel::showRows()
 {
-    m_table->addRows(SortRowTable::parseRows(Settings::referenceLevels()));
+    const QString text = m_values->referenceLevels.GetValue();
+    if (text == rowsText())
+        return;
+    m_table->setRowCount(0);
+    m_table->addRows(SortRowTable::parseRows(text));
     readRows();
 }
 
-void LevelsPanel::storeRows()
+/// Rows without any text do not count: they are about to be filled.
+QString LevelsPanel::rowsText() const
 {
     QString text;
     for (int row = 0; row < m_table->rowCount(); ++row) {
@@ -99,10 +106,24 @@ void LevelsPanel::storeRows()
         QString first = frequency != nullptr ? frequency->text() : QString();
         if (hertz.isValid())
             first = ReferenceLevels::writeFrequency(hertz.toDouble());
-        text += first + QLatin1Char('\t') + (level != nullptr ? level->text() : QString()) +
-                QLatin1Char('\n');
+        const QString second = level != nullptr ? level->text() : QString();
+        if (!first.isEmpty() || !second.isEmpty())
+            text += first + QLatin1Char('\t') + second + QLatin1Char('\n');
     }
-    Settings::setReferenceLevels(text);
+    return text;
+}
+
+void LevelsPanel::storeRows()
+{
+    const QString text = rowsText();
+    Value<QString>& kept = m_values->referenceLevels;
+    const auto difference =
+        text.count(QLatin1Char('\n')) - kept.GetValue().count(QLatin1Char('\n'));
+    const SessionValues::Step step =
+        m_values->step(difference > 0   ? tr("Add reference level")
+                       : difference < 0 ? tr("Delete reference level")
+                                        : tr("Change reference level"));
+    kept.SetValue(text);
 }
 
 void LevelsPanel::clearAll()

@@ -5,7 +5,10 @@
 #include "model/panenames.h"
 #include "model/session.h"
 #include "receiver/receiverpanel.h"
-#include "settings/settings.h"
+
+#include <valueframework/undorecording.h>
+
+#include <QScopedValueRollback>
 
 #include <radiopanes/panes/spectrumpane.h>
 
@@ -24,23 +27,35 @@ QDateTime timeOf(const Sweep& sweep)
         static_cast<qint64>(sweep.timeUs / microsecondsPerMillisecond), Qt::UTC);
 }
 
+qint64 centreOf(const VisibleBand& view)
+{
+    return std::llround((view.low() + view.high()) / 2);
+}
+
+qint64 spanOf(const VisibleBand& view)
+{
+    return std::llround(view.high() - view.low());
+}
+
 } // namespace
 
-ReceiverControl::ReceiverControl(ReceiverPanel* panel, BandView* bandView, Session* session,
-                                 QObject* parent)
+ReceiverControl::ReceiverControl(std::shared_ptr<SessionValues> values, ReceiverPanel* panel,
+                                 BandView* bandView, Session* session, QObject* parent)
     : QObject(parent)
+    , m_values(std::move(values))
     , m_panel(panel)
     , m_bandView(bandView)
     , m_session(session)
     , m_replay(&session->replay())
-    , m_settings(Settings::receiver())
 {
-    m_panel->setSettings(m_settings);
     apply();
-    connect(m_panel, &ReceiverPanel::centreEdited, this, &ReceiverControl::centreEdited);
-    connect(m_panel, &ReceiverPanel::spanEdited, this, &ReceiverControl::spanEdited);
-    connect(m_panel, &ReceiverPanel::startTimeEdited, this, &ReceiverControl::startTimeEdited);
-    connect(m_panel, &ReceiverPanel::edited, this, &ReceiverControl::edited);
+    SessionValues& v = *m_values;
+    m_followers.push_back(SessionValues::follow({&v.centre}, [this] { steerCentre(); }));
+    m_followers.push_back(SessionValues::follow({&v.span}, [this] { steerSpan(); }));
+    m_followers.push_back(SessionValues::follow({&v.startTime}, [this] { steerTime(); }));
+    m_followers.push_back(SessionValues::follow({&v.resolution, &v.gain, &v.attenuation, &v.samples,
+                                                 &v.address, &v.isAddressHexadecimal, &v.threshold},
+                                                [this] { apply(); }));
     connect(m_panel, &ReceiverPanel::editingFinished, this, &ReceiverControl::followWindow);
     connect(m_panel, &ReceiverPanel::editingFinished, this, &ReceiverControl::followReplay);
     connect(&m_bandView->visibleBand(), &VisibleBand::rangeChanged, this,
@@ -58,34 +73,46 @@ void ReceiverControl::recordingOpened()
         restoreStartTime();
     }
     m_hasRecording = true;
+    m_recording = m_session->recording();
     const Sweep sweep = m_replay->sweep();
     if (!sweep.isEmpty())
         m_panel->setSamplesOfSweep(sweep.segments.front().samples);
+    const QScopedValueRollback steering(m_isSteering, true);
     followWindow();
     followReplay();
+}
+
+bool ReceiverControl::isReady() const
+{
+    return m_hasRecording && m_session;
 }
 
 void ReceiverControl::restoreWindow()
 {
     VisibleBand& view = m_bandView->visibleBand();
-    const auto centre = static_cast<double>(m_settings.centreHz);
-    const double half = static_cast<double>(m_settings.spanHz) / 2;
-    if (half > 0 && centre + half > view.bandLow() && centre - half < view.bandHigh())
+    const auto centre = static_cast<double>(m_values->centre.GetValue());
+    const double half = static_cast<double>(m_values->span.GetValue()) / 2;
+    if (!m_values->showsWholeBand.GetValue() && half > 0 && centre + half > view.bandLow() &&
+        centre - half < view.bandHigh())
         view.setVisible(centre - half, centre + half);
 }
 
 void ReceiverControl::restoreStartTime()
 {
-    const QDateTime& time = m_settings.startTime;
+    const QDateTime& time = m_values->enteredStart.GetValue();
     const auto recording = m_replay->recording();
     if (time.isValid() && recording && time >= timeOf(recording->sweep(0)) &&
         time <= timeOf(recording->sweep(recording->count() - 1)))
         goTo(time);
 }
 
-void ReceiverControl::centreEdited(qint64 hertz)
+void ReceiverControl::steerCentre()
 {
     VisibleBand& view = m_bandView->visibleBand();
+    const qint64 hertz = m_values->centre.GetValue();
+    if (!isReady() || hertz == centreOf(view))
+        return;
+    const QScopedValueRollback steering(m_isSteering, true);
     const double centre = std::clamp(static_cast<double>(hertz), view.bandLow(), view.bandHigh());
     // The span gives way at the ends of the band: else the whole band could not be left.
     const double half = std::min(
@@ -94,12 +121,16 @@ void ReceiverControl::centreEdited(qint64 hertz)
     followWindow();
 }
 
-void ReceiverControl::spanEdited(qint64 hertz)
+void ReceiverControl::steerSpan()
 {
     VisibleBand& view = m_bandView->visibleBand();
+    const qint64 hertz = m_values->span.GetValue();
+    if (!isReady() || hertz == spanOf(view))
+        return;
+    const QScopedValueRollback steering(m_isSteering, true);
     const double centre = (view.low() + view.high()) / 2;
     const double half = static_cast<double>(hertz) / 2;
-    if (hertz == 0)
+    if (hertz == 0 || hertz >= std::llround(view.bandHigh() - view.bandLow()))
         view.showAll();
     else
         view.setVisible(centre - half, centre + half);
@@ -108,20 +139,32 @@ void ReceiverControl::spanEdited(qint64 hertz)
 
 void ReceiverControl::followWindow()
 {
-    if (!m_hasRecording)
+    // While a recording is being opened the view changes, but not by the user.
+    if (!isReady() || m_recording.lock() != m_session->recording())
         return;
     const VisibleBand& view = m_bandView->visibleBand();
-    const qint64 span = std::llround(view.high() - view.low());
-    m_settings.centreHz = std::llround((view.low() + view.high()) / 2);
-    m_settings.spanHz = view.showsAll() ? 0 : span;
-    m_panel->showWindow(m_settings.centreHz, span);
-    Settings::setReceiver(m_settings);
+    const auto follow = [&](ValueNumeric<qint64>& value, qint64 hertz) {
+        if (m_isSteering || !m_panel->isTyping(value))
+            value.SetValue(hertz);
+    };
+    SessionValues::Step step;
+    if (!m_isSteering)
+        step = m_values->step(tr("Move the view"), m_moves.next());
+    follow(m_values->centre, centreOf(view));
+    follow(m_values->span, spanOf(view));
+    m_values->showsWholeBand.SetValue(view.showsAll());
 }
 
-void ReceiverControl::startTimeEdited(const QDateTime& time)
+void ReceiverControl::steerTime()
 {
-    m_settings.startTime = time;
-    Settings::setReceiver(m_settings);
+    if (!m_session)
+        return;
+    const QDateTime time = m_values->startTime.GetValue();
+    const Sweep sweep = m_replay->sweep();
+    if (!sweep.isEmpty() && time == timeOf(sweep))
+        return;
+    m_values->enteredStart.SetValue(time);
+    const QScopedValueRollback steering(m_isSteering, true);
     goTo(time);
     followReplay();
 }
@@ -139,32 +182,24 @@ void ReceiverControl::goTo(const QDateTime& time)
 
 void ReceiverControl::followReplay()
 {
-    const Sweep sweep = m_replay->sweep();
-    if (m_hasRecording && !sweep.isEmpty())
-        m_panel->showTime(timeOf(sweep));
-}
-
-void ReceiverControl::edited()
-{
-    ReceiverSettings settings = m_panel->settings();
-    settings.centreHz = m_settings.centreHz;
-    settings.spanHz = m_settings.spanHz;
-    settings.startTime = m_settings.startTime;
-    if (settings == m_settings)
+    if (!isReady())
         return;
-    m_settings = settings;
-    Settings::setReceiver(m_settings);
-    apply();
+    const Sweep sweep = m_replay->sweep();
+    if (!sweep.isEmpty() && (m_isSteering || !m_panel->isTyping(m_values->startTime)))
+        m_values->startTime.SetValue(timeOf(sweep));
 }
 
 void ReceiverControl::apply()
 {
-    m_bandView->setTrace(m_settings.trace());
+    if (!m_session)
+        return;
+    const ReceiverSettings settings = m_values->receiver();
+    m_bandView->setTrace(settings.trace());
     SpectrumPane& spectrum = m_bandView->spectrum();
-    spectrum.setThreshold(m_settings.thresholdDb);
-    const QString address = m_settings.addressText();
+    spectrum.setThreshold(settings.thresholdDb);
+    const QString address = settings.addressText();
     spectrum.setCaption(address.isEmpty() ? address : tr("Receiver %1").arg(address));
-    m_session->setThreshold(m_settings.recordedThresholdDb());
+    m_session->setThreshold(settings.recordedThresholdDb());
 }
 
 } // namespace bandmonitor

@@ -1,35 +1,40 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/receiversettings.h"
+#include "settings/sessionvalues.h"
+
+#include <valueframework/undoburst.h>
 
 #include <QObject>
+#include <QPointer>
 
 namespace bandmonitor {
 
 class BandView;
 class ReceiverPanel;
+class Recording;
 class Replay;
 class Session;
 
-/// Lets the receiver panel steer what the spectrum shows, and lets the panel follow where that is
-/// changed elsewhere. What the user sets is kept, and comes back at the next start.
+/// Lets the values of the receiver steer what the spectrum shows, and lets them follow where that
+/// is changed elsewhere: a view that the user moves is an undo step as well.
 class ReceiverControl : public QObject
 {
     Q_OBJECT
 public:
-    /// All of them must outlive the control.
-    ReceiverControl(ReceiverPanel* panel, BandView* bandView, Session* session, QObject* parent);
+    /// When the session has gone the control does nothing any more; the others must outlive it.
+    ReceiverControl(std::shared_ptr<SessionValues> values, ReceiverPanel* panel, BandView* bandView,
+                    Session* session, QObject* parent);
     ~ReceiverControl() override;
 
 private:
     /// At the first recording, frequencies and start time that were kept are shown as far as it has
     /// them.
     void recordingOpened();
-    void centreEdited(qint64 hertz);
-    void spanEdited(qint64 hertz);
-    void startTimeEdited(const QDateTime& time);
-    void edited();
+    bool isReady() const;
+    void steerCentre();
+    void steerSpan();
+    void steerTime();
     void apply();
     void restoreWindow();
     void restoreStartTime();
@@ -37,12 +42,16 @@ private:
     void followReplay();
     void goTo(const QDateTime& time);
 
+    std::shared_ptr<SessionValues> m_values;
     ReceiverPanel* m_panel;
     BandView* m_bandView;
-    Session* m_session;
+    QPointer<Session> m_session;
     Replay* m_replay;
-    ReceiverSettings m_settings;
+    std::weak_ptr<const Recording> m_recording; ///< That is open.
     bool m_hasRecording = false;
+    bool m_isSteering = false; ///< The view follows the values.
+    UndoBurst m_moves;
+    std::vector<SessionValues::Followers> m_followers;
 };
 
 } // namespace bandmonitor

@@ -2,6 +2,8 @@
 #include "receiver/receiverpanel.h"
 
 #include "panels/readableoutline.h"
+#include "settings/boundform.h"
+#include "settings/sessionvalues.h"
 
 #include <guibase/formats/integralnumberdisplayformat.h>
 #include <guibase/formats/qdatetimedisplayformat.h>
@@ -16,10 +18,11 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
+
+using SpinBoxes::AbstractSpinBox;
 
 namespace bandmonitor {
 
@@ -64,7 +67,7 @@ public:
 
 } // namespace
 
-ReceiverPanel::ReceiverPanel(QWidget* parent)
+ReceiverPanel::ReceiverPanel(const SessionValues& values, QWidget* parent)
     : Panel(parent)
     , m_form(new QFormLayout)
     , m_content(new QWidget)
@@ -98,8 +101,12 @@ ReceiverPanel::ReceiverPanel(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(area);
-    connectInputs();
-    setSettings(ReceiverSettings());
+    const QList<AbstractSpinBox*> inputs = m_content->findChildren<AbstractSpinBox*>();
+    for (const AbstractSpinBox* input : inputs)
+        connect(input, &AbstractSpinBox::editingFinished, this, &ReceiverPanel::editingFinished);
+    connect(m_hexadecimal, &QCheckBox::toggled, this, &ReceiverPanel::showAddressFormat);
+    bindForm(*this, values.receiverPath());
+    showAddressFormat(m_hexadecimal->isChecked());
 }
 
 ReceiverPanel::~ReceiverPanel() = default;
@@ -134,18 +141,15 @@ SpinBoxes::FrequencySpinBox* ReceiverPanel::addFrequency(const QString& label, c
                                                          const QString& toolTip)
 {
     auto* input = add(new SpinBoxes::FrequencySpinBox(m_content), label, name, toolTip);
-    input->setRange(0, ReceiverSettings::highestHz);
     return input;
 }
 
 void ReceiverPanel::addLevels()
 {
-    using Settings = ReceiverSettings;
     m_gain = add(new SpinBoxes::DoubleSpinBox(m_content), tr("&Gain:"), "gain",
                  tr("Added to the recorded levels"));
     m_gain->addDisplayFormat(realDecibels());
     m_gain->setCurrentDisplayFormatIndex(0);
-    m_gain->setRange(-Settings::largestGainDb, Settings::largestGainDb);
     m_gain->setSingleStep(gainStepDb);
     m_attenuation = add(new SpinBoxes::Int8SpinBox(m_content), tr("A&ttenuation:"), "attenuation",
                         tr("Subtracted from the recorded levels; negative ones amplify"));
@@ -153,7 +157,6 @@ void ReceiverPanel::addLevels()
     format->setSuffix(decibels());
     m_attenuation->addDisplayFormat(std::move(format));
     m_attenuation->setCurrentDisplayFormatIndex(0);
-    m_attenuation->setRange(-Settings::largestAttenuationDb, Settings::largestAttenuationDb);
     m_samples = add(new SpinBoxes::UInt64SpinBox(m_content), tr("Sample c&ount:"), "sampleCount",
                     tr("Averages as many of the last sweeps as it takes to reach this number of "
                        "samples; 0 shows the current sweep only"));
@@ -196,47 +199,10 @@ void ReceiverPanel::addThreshold()
     m_threshold->lineEdit()->setAlignment(m_gain->alignment()); // in line with the other fields
     m_threshold->addDisplayFormat(realDecibels());
     m_threshold->setCurrentDisplayFormatIndex(0);
-    m_threshold->setRange(-ReceiverSettings::largestThresholdDb,
-                          ReceiverSettings::largestThresholdDb);
-    m_threshold->setSpecialValueText(tr("off"));
+    m_threshold->setSpecialValueText(tr("off"), ReceiverSettings::noThresholdDb);
     m_threshold->addItem(m_threshold->specialValueText());
     for (int preset = highestPresetDb; preset >= lowestPresetDb; preset -= presetStepDb)
         m_threshold->addItem(m_threshold->displayFormatAt(0)->fullTextFromValue(preset));
-}
-
-void ReceiverPanel::connectInputs()
-{
-    const auto unlessShowing = [this](auto signal) {
-        return [this, signal](const auto& value) {
-            if (m_isShowing)
-                return;
-            const QScopedValueRollback telling(m_isTelling, true);
-            Q_EMIT(this->*signal)(value);
-        };
-    };
-    using namespace SpinBoxes;
-    connect(m_centre, &FrequencySpinBox::valueChanged, this,
-            unlessShowing(&ReceiverPanel::centreEdited));
-    connect(m_span, &FrequencySpinBox::valueChanged, this,
-            unlessShowing(&ReceiverPanel::spanEdited));
-    connect(m_startTime, &QDateTimeSpinBox::valueChanged, this,
-            unlessShowing(&ReceiverPanel::startTimeEdited));
-    for (const AbstractSpinBox* input :
-         {static_cast<AbstractSpinBox*>(m_centre), static_cast<AbstractSpinBox*>(m_span),
-          static_cast<AbstractSpinBox*>(m_startTime)})
-        connect(input, &AbstractSpinBox::editingFinished, this, &ReceiverPanel::editingFinished);
-    const auto tell = [this] {
-        if (!m_isShowing)
-            Q_EMIT edited();
-    };
-    connect(m_resolution, &FrequencySpinBox::valueChanged, this, tell);
-    connect(m_gain, &DoubleSpinBox::valueChanged, this, tell);
-    connect(m_attenuation, &Int8SpinBox::valueChanged, this, tell);
-    connect(m_samples, &UInt64SpinBox::valueChanged, this, tell);
-    connect(m_address, &UInt32SpinBox::valueChanged, this, tell);
-    connect(m_threshold, &ComboBoxes::DoubleComboBox::valueChanged, this, tell);
-    connect(m_hexadecimal, &QCheckBox::toggled, this, &ReceiverPanel::showAddressFormat);
-    connect(m_hexadecimal, &QCheckBox::toggled, this, tell);
 }
 
 void ReceiverPanel::showAddressFormat(bool hexadecimal)
@@ -244,60 +210,11 @@ void ReceiverPanel::showAddressFormat(bool hexadecimal)
     m_address->setCurrentDisplayFormatIndex(hexadecimal ? hexadecimalFormat : decimalFormat);
 }
 
-ReceiverSettings ReceiverPanel::settings() const
+bool ReceiverPanel::isTyping(const ValueBase& value) const
 {
-    ReceiverSettings result;
-    result.centreHz = m_centre->value();
-    result.spanHz = m_span->value();
-    result.resolutionHz = m_resolution->value();
-    result.gainDb = m_gain->value();
-    result.attenuationDb = m_attenuation->value();
-    result.samples = m_samples->value();
-    result.address = m_address->value();
-    result.isAddressHexadecimal = m_hexadecimal->isChecked();
-    result.startTime = m_startTime->value();
-    if (m_threshold->value() >= m_threshold->minimum())
-        result.thresholdDb = m_threshold->value();
-    return result;
-}
-
-void ReceiverPanel::setSettings(const ReceiverSettings& settings)
-{
-    const QScopedValueRollback showing(m_isShowing, true);
-    const ReceiverSettings shown = settings.clamped();
-    m_centre->setValue(shown.centreHz);
-    m_span->setValue(shown.spanHz);
-    m_resolution->setValue(shown.resolutionHz);
-    m_gain->setValue(shown.gainDb);
-    m_attenuation->setValue(shown.attenuationDb);
-    m_samples->setValue(shown.samples);
-    m_address->setValue(shown.address);
-    m_hexadecimal->setChecked(shown.isAddressHexadecimal);
-    showAddressFormat(shown.isAddressHexadecimal);
-    m_startTime->setValue(shown.startTime);
-    m_threshold->setValue(shown.thresholdDb.value_or(m_threshold->specialValue()));
-}
-
-/// Shows a value that has changed elsewhere, unless the user is typing another one.
-template <typename Input, typename T>
-void ReceiverPanel::follow(Input& input, const T& value) const
-{
-    const bool isTyping = input.hasFocus() && input.inputLineEdit()->text() != input.textValue();
-    if (m_isTelling || !isTyping)
-        input.setValue(value);
-}
-
-void ReceiverPanel::showWindow(qint64 centreHz, qint64 spanHz)
-{
-    const QScopedValueRollback showing(m_isShowing, true);
-    follow(*m_centre, centreHz);
-    follow(*m_span, spanHz);
-}
-
-void ReceiverPanel::showTime(const QDateTime& time)
-{
-    const QScopedValueRollback showing(m_isShowing, true);
-    follow(*m_startTime, time);
+    const auto* input = m_content->findChild<AbstractSpinBox*>(value.GetName());
+    return input != nullptr && input->hasFocus() &&
+           input->inputLineEdit()->text() != input->textValue();
 }
 
 void ReceiverPanel::setSamplesOfSweep(quint64 samples)

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/receiversettings.h"
 #include "panels/panel.h"
 
 class QCheckBox;
 class QFormLayout;
 class QScrollBar;
+class ValueBase;
 
 namespace ComboBoxes {
 class DoubleComboBox;
@@ -22,35 +22,25 @@ class UInt64SpinBox;
 
 namespace bandmonitor {
 
-/// The form in which the user sets the receiver. Signals come only from what the user does.
+class SessionValues;
+
+/// The form in which the user sets the receiver: its fields are bound to the values of the receiver
+/// and follow them, whoever changes them.
 class ReceiverPanel : public Panel
 {
     Q_OBJECT
 public:
-    explicit ReceiverPanel(QWidget* parent = nullptr);
+    explicit ReceiverPanel(const SessionValues& values, QWidget* parent = nullptr);
     ~ReceiverPanel() override;
 
-    ReceiverSettings settings() const;
-    /// Shows them, clamped.
-    void setSettings(const ReceiverSettings& settings);
-    /// The part of the band that is shown now. A field in which the user is typing stays.
-    void showWindow(qint64 centreHz, qint64 spanHz);
-    /// The time of the current sweep. A field in which the user is typing stays.
-    void showTime(const QDateTime& time);
+    /// Whether the user is typing in the field of the value: it should not change then.
+    bool isTyping(const ValueBase& value) const;
     /// How many samples one sweep more is.
     void setSamplesOfSweep(quint64 samples);
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The user has entered another centre of what the spectrum shows, in hertz.
-    void centreEdited(qint64 hertz);
-    /// The user has entered another width of what the spectrum shows, in hertz; 0: the whole band.
-    void spanEdited(qint64 hertz);
-    /// The user has entered a time to go to.
-    void startTimeEdited(const QDateTime& time);
-    /// The user has changed any of the other settings.
-    void edited();
     /// The user has left a field that follows the spectrum or the replay, which may have gone on
     /// without it.
     void editingFinished();
@@ -62,8 +52,6 @@ protected:
 private:
     SpinBoxes::FrequencySpinBox* addFrequency(const QString& label, const char* name,
                                               const QString& toolTip);
-    template <typename Input, typename T>
-    void follow(Input& input, const T& value) const;
     template <typename Input>
     Input* add(Input* input, const QString& label, const char* name, const QString& toolTip,
                QWidget* field = nullptr);
@@ -71,7 +59,6 @@ private:
     void addAddress();
     void addStartTime();
     void addThreshold();
-    void connectInputs();
     void showAddressFormat(bool hexadecimal);
 
     QFormLayout* m_form;
@@ -87,8 +74,6 @@ private:
     QCheckBox* m_hexadecimal = nullptr;
     SpinBoxes::QDateTimeSpinBox* m_startTime = nullptr;
     ComboBoxes::DoubleComboBox* m_threshold = nullptr;
-    bool m_isShowing = false;
-    bool m_isTelling = false;
 };
 
 } // namespace bandmonitor

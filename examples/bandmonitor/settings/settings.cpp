@@ -4,8 +4,6 @@
 #include <jtbase/numberhelpers.h>
 #include <trovappstartup/cfgcenter.h>
 
-#include <algorithm>
-#include <cmath>
 #include <limits>
 
 namespace bandmonitor::Settings {
@@ -56,16 +54,6 @@ void setFrequencyResolution(UnitPrefix::ESuffix resolution)
     section()->SetInt(QStringLiteral("FrequencyResolution"), resolution);
 }
 
-bool isHoldVisible()
-{
-    return section()->GetBool(QStringLiteral("HoldMaximum"), true);
-}
-
-void setHoldVisible(bool visible)
-{
-    section()->SetBool(QStringLiteral("HoldMaximum"), visible);
-}
-
 QString lastFolder()
 {
     return section()->GetString(QStringLiteral("LastFolder"));
@@ -74,17 +62,6 @@ QString lastFolder()
 void setLastFolder(const QString& folder)
 {
     section()->SetString(QStringLiteral("LastFolder"), folder);
-}
-
-QString referenceLevels()
-{
-    return section()->GetString(QStringLiteral("ReferenceLevels"));
-}
-
-void setReferenceLevels(const QString& rows)
-{
-    if (rows != referenceLevels())
-        section()->SetString(QStringLiteral("ReferenceLevels"), rows);
 }
 
 int mode(int standard)
@@ -105,59 +82,6 @@ bool isWaterfallShown(const QString& mode, bool standard)
 void setWaterfallShown(const QString& mode, bool shown)
 {
     section()->SetBool(QStringLiteral("Waterfall") + mode, shown);
-}
-
-int jobOrder()
-{
-    return section()->GetInt(QStringLiteral("JobOrder"));
-}
-
-void setJobOrder(int order)
-{
-    section()->SetInt(QStringLiteral("JobOrder"), order);
-}
-
-ReceiverSettings receiver()
-{
-    const std::unique_ptr<ICfg> kept = section()->OpenSubCfg(QStringLiteral("Receiver"));
-    const auto text = [&kept](const char* key) { return kept->GetString(QLatin1String(key)); };
-    ReceiverSettings result;
-    result.centreHz = text("Centre").toLongLong();
-    result.spanHz = text("Span").toLongLong();
-    result.resolutionHz = text("Resolution").toLongLong();
-    result.gainDb = text("Gain").toDouble();
-    result.attenuationDb =
-        static_cast<qint8>(std::clamp(text("Attenuation").toInt(), INT8_MIN, INT8_MAX));
-    result.samples = text("Samples").toULongLong();
-    result.address = text("Address").toUInt();
-    result.isAddressHexadecimal = text("AddressBase") != QLatin1String("10");
-    result.startTime = QDateTime::fromString(text("StartTime"), Qt::ISODateWithMs);
-    bool hasThreshold = false;
-    const double threshold = text("Threshold").toDouble(&hasThreshold);
-    if (hasThreshold)
-        result.thresholdDb = threshold;
-    return result.clamped();
-}
-
-void setReceiver(const ReceiverSettings& settings)
-{
-    const std::unique_ptr<ICfg> kept = section()->OpenSubCfg(QStringLiteral("Receiver"));
-    const auto set = [&kept](const char* key, const QString& text) {
-        const QLatin1String name(key);
-        if (kept->GetString(name) != text)
-            kept->SetString(name, text);
-    };
-    const auto exactly = [](double number) { return QString::number(number, 'g', 17); };
-    set("Centre", QString::number(settings.centreHz));
-    set("Span", QString::number(settings.spanHz));
-    set("Resolution", QString::number(settings.resolutionHz));
-    set("Gain", exactly(settings.gainDb));
-    set("Attenuation", QString::number(settings.attenuationDb));
-    set("Samples", QString::number(settings.samples));
-    set("Address", QString::number(settings.address));
-    set("AddressBase", QString::number(settings.isAddressHexadecimal ? 16 : 10));
-    set("StartTime", settings.startTime.toUTC().toString(Qt::ISODateWithMs));
-    set("Threshold", settings.thresholdDb ? exactly(*settings.thresholdDb) : QString());
 }
 
 Position receiverPosition()

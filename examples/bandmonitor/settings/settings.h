@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/receiversettings.h"
-
 #include <guibase/frequencies/unitprefix.h>
 
 #include <QString>
@@ -10,35 +8,24 @@
 namespace bandmonitor {
 
 /// What the application itself keeps in its configuration; written at once, stored with the rest.
-/// Zone, position format, colours and window layout are kept by the services.
+/// SessionValues keeps what the user can undo. Zone, position format, colours and window layout are
+/// kept by the services.
 namespace Settings {
 
 UnitPrefix::ESuffix frequencyUnit();
 void setFrequencyUnit(UnitPrefix::ESuffix unit);
 UnitPrefix::ESuffix frequencyResolution();
 void setFrequencyResolution(UnitPrefix::ESuffix resolution);
-bool isHoldVisible();
-void setHoldVisible(bool visible);
 /// The folder of the file that was opened last; empty at first.
 QString lastFolder();
 void setLastFolder(const QString& folder);
 
-/// The rows of the reference levels, one a line; see SortRowTable::parseRows().
-QString referenceLevels();
-void setReferenceLevels(const QString& rows);
 /// The mode of the window, and whether a mode shows the waterfall; the defaults when nothing was
 /// kept.
 int mode(int standard);
 void setMode(int mode);
 bool isWaterfallShown(const QString& mode, bool standard);
 void setWaterfallShown(const QString& mode, bool shown);
-/// How the jobs are sorted.
-int jobOrder();
-void setJobOrder(int order);
-
-/// What was set in the receiver panel, within its limits.
-ReceiverSettings receiver();
-void setReceiver(const ReceiverSettings& settings);
 
 /// The position of the receiver in degrees; NaN where the configuration has no number.
 struct Position

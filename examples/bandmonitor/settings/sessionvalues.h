@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/receiversettings.h"
+
+#include <jtbase/delayedcall.h>
+#include <trovappstartup/savecomponentif.h>
+#include <valueframework/persistant.h>
+#include <valueframework/value.h>
+#include <valueframework/valuefollower.h>
+
+#include <QString>
+
+#include <functional>
+#include <initializer_list>
+#include <limits>
+#include <memory>
+#include <vector>
+
+class UndoRecordingTriggerByValueClient;
+
+namespace bandmonitor {
+
+/// What the user sets in a window: values of the value tree, bound to the widgets that show them.
+/// What the user changes is an undo step. They are kept in the configuration; those who show them
+/// share them.
+class SessionValues : private SaveComponentIf
+{
+public:
+    /// Takes what was kept.
+    SessionValues();
+    /// Keeps them, and forgets the undo steps.
+    ~SessionValues() override;
+    SessionValues(const SessionValues&) = delete;
+    SessionValues& operator=(const SessionValues&) = delete;
+
+    /// Where they stand in the value tree.
+    const QString& path() const { return m_path; }
+    QString receiverPath() const;
+    QString bearingsPath() const;
+    /// Those of the receiver panel that need no recording.
+    ReceiverSettings receiver() const;
+
+    /// An undo step of what changes as long as it lives; for `burst` see UndoBurst.
+    using Step = std::unique_ptr<UndoRecordingTriggerByValueClient>;
+    Step step(const QString& text, int burst = -1) const;
+    /// Has the operation follow the values, as long as what it returns lives.
+    using Followers = std::vector<std::unique_ptr<ValueFollower>>;
+    static Followers follow(std::initializer_list<ValueBase*> values,
+                            const std::function<void()>& operation);
+
+    // The fields of the receiver panel; frequencies in hertz, levels in dB.
+    using Settings = ReceiverSettings;
+    ValueNumeric<qint64> centre{QStringLiteral("centreFrequency"), 0, 0, Settings::highestHz};
+    ValueNumeric<qint64> span{QStringLiteral("span"), 0, 0, Settings::highestHz};
+    ValueNumeric<qint64> resolution{QStringLiteral("resolutionBandwidth"), 0, 0,
+                                    Settings::highestHz};
+    ValueNumeric<double> gain{QStringLiteral("gain"), 0, -Settings::largestGainDb,
+                              Settings::largestGainDb};
+    ValueNumeric<int> attenuation{QStringLiteral("attenuation"), 0, -Settings::largestAttenuationDb,
+                                  Settings::largestAttenuationDb};
+    ValueNumeric<quint64> samples{QStringLiteral("sampleCount")};
+    ValueNumeric<qint64> address{QStringLiteral("deviceAddress"), 0, 0,
+                                 std::numeric_limits<quint32>::max()};
+    Value<bool> isAddressHexadecimal{QStringLiteral("hexadecimal"), true};
+    Value<QDateTime> startTime{QStringLiteral("startTime")}; ///< That of the current sweep.
+    ValueNumeric<double> threshold{QStringLiteral("threshold"), Settings::noThresholdDb,
+                                   Settings::noThresholdDb, Settings::largestThresholdDb};
+
+    Value<QDateTime> enteredStart{QStringLiteral("enteredStart")}; ///< The user's last start time.
+    Value<bool> showsWholeBand{QStringLiteral("wholeBand"), true};
+    Value<bool> isHoldVisible{QStringLiteral("holdMaximum"), true};
+    Value<QString> pins{QStringLiteral("pins")};              ///< In hertz, parted by blanks.
+    Value<QString> referenceLevels{QStringLiteral("levels")}; ///< See SortRowTable::parseRows().
+    ValueNumeric<int> jobOrder{QStringLiteral("jobOrder"), 0, 0, 2}; ///< A JobOrder.
+    ValueNumeric<int> heading{QStringLiteral("heading"), 0, 0, 359}; ///< In degrees.
+    Value<bool> isHeadingUp{QStringLiteral("headingUp")};
+    ValueNumeric<double> speed{QStringLiteral("speed"), 1}; ///< Of the replay; not kept.
+    // See ColorsKeeper.
+    Value<QString> colors{QStringLiteral("colors")};
+    Value<QString> changedColors{QStringLiteral("changedColors")};
+
+private:
+    void Save() override { write(); }
+    void Load() override {}
+    void CommitData() override { write(); }
+    void add(const QString& path, Persistant& record, ValueBase& value, const char* key);
+    void write();
+
+    QString m_path;
+    Persistant m_record;
+    Persistant m_receiverRecord;
+    DelayedCall m_save;
+    Followers m_followers;
+};
+
+} // namespace bandmonitor
