@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What a pane of 1600 x 900 pixels costs must follow its pixels: 100,000 bins ("ours") against
-// 2,000 bins ("theirs") on the same pixels.
+// What a pane of 1600 x 900 pixels costs: against drawing one ready image of that size, and with
+// 100,000 bins against 2,000 on the same pixels.
 #include "ratio.h"
 
 #include "centre/bandview.h"
@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QPainter>
 
 #include <cmath>
 #include <map>
@@ -26,6 +27,10 @@ constexpr int fewBins = 2'000;
 constexpr int sweeps = 16;
 constexpr QSize paneSize(1600, 900);
 constexpr double pixelLimit = 1.5;
+// In ready images.
+constexpr double spectrumLimit = 4;
+constexpr double cursorLimit = 2;
+constexpr double waterfallLimit = 1;
 // A new sweep must also be read once, bin by bin, for the pyramids and the hold maximum.
 constexpr double newSweepLimit = 3;
 
@@ -86,27 +91,84 @@ struct Bench
 };
 
 using Step = std::function<void(Bench&, int sweep)>;
+using Benches = std::map<int, Bench>;
 
-void compare(RatioRun& run, const std::string& name, double limit, std::map<int, Bench>& benches,
-             const Step& step)
+RatioRun::Body bodyOf(Benches& benches, int bins, const Step& step)
 {
-    const auto body = [&benches, step](int bins) {
-        return [&benches, step, bins](benchmark::State& state) {
-            Bench& bench = benches.at(bins);
-            int sweep = 0;
-            clearVectorRegisters();
-            for (auto _ : state) {
-                if (++sweep == sweeps) {
-                    state.PauseTiming();
-                    bench.view.waterfall().setPosition(0, bench.pyramids[0]);
-                    sweep = 1;
-                    state.ResumeTiming();
-                }
-                step(bench, sweep);
+    return [&bench = benches.at(bins), step](benchmark::State& state) {
+        int sweep = 0;
+        clearVectorRegisters();
+        for (auto _ : state) {
+            if (++sweep == sweeps) {
+                state.PauseTiming();
+                bench.view.waterfall().setPosition(0, bench.pyramids[0]);
+                sweep = 1;
+                state.ResumeTiming();
             }
-        };
+            step(bench, sweep);
+        }
     };
-    run.compare(name, limit, body(manyBins), body(fewBins));
+}
+
+void drawReadyImage(benchmark::State& state)
+{
+    QImage image(paneSize, QImage::Format_RGB32);
+    image.fill(Qt::darkBlue);
+    QImage canvas(paneSize, QImage::Format_RGB32);
+    clearVectorRegisters();
+    for (auto _ : state) {
+        QPainter painter(&canvas);
+        painter.drawImage(0, 0, image);
+    }
+}
+
+void compareBins(RatioRun& run, const std::string& name, double limit, Benches& benches,
+                 const Step& step)
+{
+    run.compare(name + ", 100,000 against 2,000 bins", limit, bodyOf(benches, manyBins, step),
+                bodyOf(benches, fewBins, step));
+}
+
+void compareImage(RatioRun& run, const std::string& name, double limit, Benches& benches,
+                  const Step& step)
+{
+    for (const int bins : {fewBins, manyBins})
+        run.compare(name + ", " + std::to_string(bins) + " bins, against a ready image", limit,
+                    bodyOf(benches, bins, step), drawReadyImage);
+}
+
+/// Curve, hold, grid and text.
+void showInSpectrum(Bench& bench, int sweep)
+{
+    const auto& pyramid = bench.pyramids[static_cast<size_t>(sweep)];
+    bench.view.spectrum().setTrace(Trace::Live, bench.recording->sweep(sweep), pyramid);
+    const auto& held = bench.pyramids[static_cast<size_t>(sweep - 1)];
+    bench.view.spectrum().setTrace(Trace::Maximum, bench.recording->sweep(sweep - 1), held);
+    bench.paint(bench.view.spectrum());
+}
+
+void moveCursor(Bench& bench, int sweep)
+{
+    bench.view.visibleBand().setCursor(90e6 + sweep * 1e5);
+    bench.paint(bench.view.spectrum());
+}
+
+void addLine(Bench& bench, int sweep)
+{
+    bench.view.waterfall().setPosition(sweep, bench.pyramids[static_cast<size_t>(sweep)]);
+}
+
+void addLineAndPaint(Bench& bench, int sweep)
+{
+    addLine(bench, sweep);
+    bench.paint(bench.view.waterfall());
+}
+
+void showSweep(Bench& bench, int sweep)
+{
+    bench.view.showSweep(sweep, sweep - 1);
+    bench.paint(bench.view.spectrum());
+    bench.paint(bench.view.waterfall());
 }
 
 } // namespace
@@ -115,35 +177,17 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    std::map<int, Bench> benches;
+    Benches benches;
     benches.try_emplace(manyBins, manyBins);
     benches.try_emplace(fewBins, fewBins);
 
     RatioRun run;
-    compare(run, "spectrum: paint, 100,000 against 2,000 bins", pixelLimit, benches,
-            [](Bench& bench, int) { bench.paint(bench.view.spectrum()); });
-    compare(run, "spectrum: reduce and paint, 100,000 against 2,000 bins", pixelLimit, benches,
-            [](Bench& bench, int sweep) {
-                bench.view.spectrum().setSweep(bench.recording->sweep(sweep),
-                                               bench.pyramids[static_cast<size_t>(sweep)]);
-                bench.paint(bench.view.spectrum());
-            });
-    compare(run, "waterfall: new line without painting, 100,000 against 2,000 bins", pixelLimit,
-            benches, [](Bench& bench, int sweep) {
-                bench.view.waterfall().setPosition(sweep,
-                                                   bench.pyramids[static_cast<size_t>(sweep)]);
-            });
-    compare(run, "waterfall: new line and paint, 100,000 against 2,000 bins", pixelLimit, benches,
-            [](Bench& bench, int sweep) {
-                bench.view.waterfall().setPosition(sweep,
-                                                   bench.pyramids[static_cast<size_t>(sweep)]);
-                bench.paint(bench.view.waterfall());
-            });
-    compare(run, "whole new sweep, both panes, 100,000 against 2,000 bins", newSweepLimit, benches,
-            [](Bench& bench, int sweep) {
-                bench.view.showSweep(sweep, sweep - 1);
-                bench.paint(bench.view.spectrum());
-                bench.paint(bench.view.waterfall());
-            });
+    compareImage(run, "spectrum: reduce and paint", spectrumLimit, benches, showInSpectrum);
+    compareImage(run, "spectrum: move the cursor and paint", cursorLimit, benches, moveCursor);
+    compareImage(run, "waterfall: new line and paint", waterfallLimit, benches, addLineAndPaint);
+    compareBins(run, "spectrum: reduce and paint", pixelLimit, benches, showInSpectrum);
+    compareBins(run, "waterfall: new line without painting", pixelLimit, benches, addLine);
+    compareBins(run, "waterfall: new line and paint", pixelLimit, benches, addLineAndPaint);
+    compareBins(run, "whole new sweep, both panes", newSweepLimit, benches, showSweep);
     return run.run(argc, argv);
 }

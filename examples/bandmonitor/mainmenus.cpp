@@ -14,6 +14,8 @@
 #include "selectionactions.h"
 #include "settings/keys.h"
 
+#include <radiopanes/panes/spectrumpane.h>
+
 #include <guibase/binding/actionbinding.h>
 #include <guibase/services/guibase.h>
 #include <guibase/undo/undoactions.h>
@@ -158,6 +160,11 @@ void MainWindow::buildBandEntries(QMenu* menu)
     connect(hold, &QAction::toggled, m_bandView, &BandView::setHoldVisible);
     new ValueWidgetBinding::ActionBinding(m_values->isHoldVisible, *hold);
     m_bandView->setHoldVisible(hold->isChecked());
+    connect(&m_bandView->spectrum(), &SpectrumPane::traceVisibleChanged, hold,
+            [hold](Trace trace, bool visible) {
+                if (trace == Trace::Maximum)
+                    hold->setChecked(visible);
+            });
     connect(addEntry(menu, tr("R&eset hold"), {Qt::Key_R}, true), &QAction::triggered, m_bandView,
             &BandView::resetHold);
     menu->addSeparator();

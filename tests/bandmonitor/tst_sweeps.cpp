@@ -8,7 +8,7 @@
 #include "support/testrows.h"
 
 #include <radiopanes/core/columnreducer.h>
-#include <radiopanes/core/holdmaximum.h>
+#include <radiopanes/core/heldlevels.h>
 
 #include <cmath>
 
@@ -106,7 +106,7 @@ private Q_SLOTS:
     }
     void holdMaximum()
     {
-        HoldMaximum hold;
+        HeldLevels hold;
         OwnedSegments first;
         first.add(0, 1, {1, noLevel, 3, noLevel});
         first.add(10, 1, {5});
@@ -122,12 +122,12 @@ private Q_SLOTS:
         QCOMPARE(sweepText(first.sweep(1)).count("nan"), 2); // its levels are its own
         hold.clear();
         QVERIFY(hold.isEmpty());
-        for (std::size_t hop = 0; hop < HoldMaximum::maximumHops + 10; ++hop) {
+        for (std::size_t hop = 0; hop < HeldLevels::maximumHops + 10; ++hop) {
             OwnedSegments segments;
             segments.add(static_cast<double>(hop), 1, {1});
             hold.add(segments.sweep());
         }
-        QCOMPARE(hold.sweep().segments.size(), HoldMaximum::maximumHops);
+        QCOMPARE(hold.sweep().segments.size(), HeldLevels::maximumHops);
     }
     void memoryIsBounded_data()
     {

@@ -3,6 +3,7 @@
 
 #include <radiopanes/colors/contrast.h>
 #include <radiopanes/colors/panecolors.h>
+#include <radiopanes/panes/frequencytext.h>
 
 #include <guibase/services/guibase.h>
 
@@ -69,8 +70,19 @@ QColor ringColor(int relative)
 
 } // namespace
 
+class BearingRosePrivate
+{
+public:
+    std::vector<Bearing> bearings;
+    FrequencyText text;
+    double heading = 0;
+    bool headingUp = false;
+    std::uint32_t selected = 0;
+};
+
 BearingRose::BearingRose(QWidget* parent)
     : QWidget(parent)
+    , d(std::make_unique<BearingRosePrivate>())
 {
     setObjectName(QStringLiteral("bearingRose"));
     setAccessibleName(tr("Compass rose of the bearings"));
@@ -93,36 +105,51 @@ QSize BearingRose::minimumSizeHint() const
     return {smallestExtent, smallestExtent};
 }
 
+double BearingRose::heading() const
+{
+    return d->heading;
+}
+
+bool BearingRose::isHeadingUp() const
+{
+    return d->headingUp;
+}
+
+std::uint32_t BearingRose::selected() const
+{
+    return d->selected;
+}
+
 void BearingRose::setHeading(double degrees)
 {
-    m_heading = normalizedDegrees(degrees);
+    d->heading = normalizedDegrees(degrees);
     showChange();
 }
 
 void BearingRose::setHeadingUp(bool on)
 {
-    m_headingUp = on;
+    d->headingUp = on;
     showChange();
 }
 
 void BearingRose::refreshTexts()
 {
-    m_text.refresh();
+    d->text.refresh();
     showChange();
 }
 
 void BearingRose::setBearings(std::span<const Bearing> bearings)
 {
-    m_bearings.assign(bearings.begin(), bearings.end());
-    if (find(m_selected) == nullptr)
-        m_selected = 0;
+    d->bearings.assign(bearings.begin(), bearings.end());
+    if (find(d->selected) == nullptr)
+        d->selected = 0;
     showChange();
 }
 
 const Bearing* BearingRose::find(std::uint32_t id) const
 {
-    const auto found = std::ranges::find(m_bearings, id, &Bearing::id);
-    return found == m_bearings.end() ? nullptr : &*found;
+    const auto found = std::ranges::find(d->bearings, id, &Bearing::id);
+    return found == d->bearings.end() ? nullptr : &*found;
 }
 
 void BearingRose::showChange()
@@ -138,7 +165,7 @@ void BearingRose::showChange()
 
 double BearingRose::screenAngle(double bearing) const
 {
-    return m_headingUp ? relativeBearing(bearing, m_heading) : normalizedDegrees(bearing);
+    return d->headingUp ? relativeBearing(bearing, d->heading) : normalizedDegrees(bearing);
 }
 
 double BearingRose::ringWidth() const
@@ -181,7 +208,7 @@ std::uint32_t BearingRose::signalAt(QPointF point) const
     std::uint32_t nearest = 0;
     double smallest =
         std::min(90.0, std::asin(std::min(1.0, reach / distance)) * 180 / std::numbers::pi);
-    for (const Bearing& bearing : m_bearings) {
+    for (const Bearing& bearing : d->bearings) {
         const double between = angleBetween(angle, screenAngle(bearing.degrees));
         if (between > smallest)
             continue;
@@ -196,7 +223,7 @@ std::uint32_t BearingRose::signalAt(QPointF point) const
 std::vector<const Bearing*> BearingRose::ordered() const
 {
     std::vector<const Bearing*> result;
-    for (const Bearing& bearing : m_bearings)
+    for (const Bearing& bearing : d->bearings)
         result.push_back(&bearing);
     std::ranges::stable_sort(
         result, {}, [this](const Bearing* bearing) { return screenAngle(bearing->degrees); });
@@ -205,9 +232,9 @@ std::vector<const Bearing*> BearingRose::ordered() const
 
 void BearingRose::select(std::uint32_t id)
 {
-    if (id == m_selected || (id != 0 && find(id) == nullptr))
+    if (id == d->selected || (id != 0 && find(id) == nullptr))
         return;
-    m_selected = id;
+    d->selected = id;
     showChange();
 }
 
@@ -218,7 +245,7 @@ void BearingRose::selectStep(int step)
         return;
     const auto count = static_cast<std::ptrdiff_t>(all.size());
     const auto found = std::ranges::find_if(
-        all, [this](const Bearing* bearing) { return bearing->id == m_selected; });
+        all, [this](const Bearing* bearing) { return bearing->id == d->selected; });
     std::ptrdiff_t index = step > 0 ? 0 : count - 1;
     if (found != all.end())
         index = (found - all.begin() + step + count) % count;
@@ -238,7 +265,7 @@ void BearingRose::choose(std::uint32_t id)
 QString BearingRose::textOf(const Bearing& bearing) const
 {
     QString side;
-    const int relative = wholeDegrees(relativeBearing(bearing.degrees, m_heading));
+    const int relative = wholeDegrees(relativeBearing(bearing.degrees, d->heading));
     switch (sideOf(relative)) {
     case BearingSide::Ahead:
         side = tr("ahead");
@@ -254,7 +281,7 @@ QString BearingRose::textOf(const Bearing& bearing) const
         break;
     }
     return tr("%1: bearing %2° ± %3°, %4")
-        .arg(m_text.full(bearing.hertz))
+        .arg(d->text.full(bearing.hertz))
         .arg(wholeDegrees(bearing.degrees), 3, 10, QLatin1Char('0'))
         .arg(bearing.spread, 0, 'f', 1)
         .arg(side);
@@ -262,9 +289,9 @@ QString BearingRose::textOf(const Bearing& bearing) const
 
 QString BearingRose::selectedText() const
 {
-    if (const Bearing* bearing = find(m_selected))
+    if (const Bearing* bearing = find(d->selected))
         return textOf(*bearing);
-    return tr("Signals: %1, none selected").arg(m_bearings.size());
+    return tr("Signals: %1, none selected").arg(d->bearings.size());
 }
 
 // --- Events --------------------------------------------------------------------------------------
@@ -309,7 +336,7 @@ void BearingRose::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        return choose(m_selected);
+        return choose(d->selected);
     default:
         QWidget::keyPressEvent(event);
     }
@@ -323,15 +350,15 @@ void BearingRose::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     paintRing(painter);
     paintScale(painter);
-    const Bearing* selected = find(m_selected);
-    for (const Bearing& bearing : m_bearings) {
+    const Bearing* selected = find(d->selected);
+    for (const Bearing& bearing : d->bearings) {
         if (&bearing != selected)
             paintBearing(painter, bearing);
     }
     if (selected != nullptr)
         paintBearing(painter, *selected);
     paintMark(painter);
-    if (m_bearings.empty())
+    if (d->bearings.empty())
         paintHint(painter);
     if (hasFocus()) {
         QStyleOptionFocusRect option;
@@ -346,7 +373,7 @@ void BearingRose::paintRing(QPainter& painter) const
     const QPointF centre = QRectF(rect()).center();
     const QRectF ring = circleAround(centre, outerRadius());
     painter.setPen(Qt::NoPen);
-    if (m_headingUp) {
+    if (d->headingUp) {
         painter.setBrush(ringColor(90));
         drawSector(painter, ring, 0, 180);
         painter.setBrush(ringColor(270));
@@ -381,16 +408,16 @@ void BearingRose::paintScale(QPainter& painter) const
     constexpr double tickLength = 4;
     for (int angle = 0; angle < 360; angle += tickStep) {
         const QColor background =
-            m_headingUp ? ringColor(angle) : axisColor(PaneSlot::LevelAxisBackground, palette());
-        const QColor text = m_headingUp ? paneColor(IColorBase::RelativeBearingText)
-                                        : axisColor(PaneSlot::LevelAxisText, palette());
+            d->headingUp ? ringColor(angle) : axisColor(PaneSlot::LevelAxisBackground, palette());
+        const QColor text = d->headingUp ? paneColor(IColorBase::RelativeBearingText)
+                                         : axisColor(PaneSlot::LevelAxisText, palette());
         painter.setPen(readableOn(background, text));
         painter.drawLine(pointAt(angle, innerRadius()), pointAt(angle, innerRadius() + tickLength));
         if (angle % labelStep != 0)
             continue;
         // To both sides of the bow the scale goes up to 180.
-        QString label = QString::number(m_headingUp ? std::min(angle, 360 - angle) : angle);
-        if (!m_headingUp && angle % 90 == 0)
+        QString label = QString::number(d->headingUp ? std::min(angle, 360 - angle) : angle);
+        if (!d->headingUp && angle % 90 == 0)
             label = tr(winds[angle / 90]);
         const double extent = 2 * ringWidth();
         const QPointF middle = pointAt(angle, (innerRadius() + tickLength + outerRadius()) / 2);
@@ -401,7 +428,7 @@ void BearingRose::paintScale(QPainter& painter) const
 void BearingRose::paintMark(QPainter& painter) const
 {
     // Heading up north is marked, north up the heading.
-    const double angle = m_headingUp ? screenAngle(0) : m_heading;
+    const double angle = d->headingUp ? screenAngle(0) : d->heading;
     const QColor background = paneColor(PaneSlot::BackgroundLow);
     const QColor color =
         readableOn(background, paneColor(IColorBase::RelativeBearingZeroAnd180), lineContrast);
@@ -417,13 +444,13 @@ void BearingRose::paintMark(QPainter& painter) const
     const double extent = fontMetrics().height();
     const QPointF middle = pointAt(angle, base - extent * 0.6);
     painter.drawText(circleAround(middle, extent), Qt::AlignCenter,
-                     m_headingUp ? tr("N") : tr("H", "Mark of the heading"));
+                     d->headingUp ? tr("N") : tr("H", "Mark of the heading"));
 }
 
 void BearingRose::paintBearing(QPainter& painter, const Bearing& bearing) const
 {
     constexpr float spreadOpacity = 0.25F;
-    const bool isSelected = bearing.id == m_selected;
+    const bool isSelected = bearing.id == d->selected;
     const QColor background = paneColor(PaneSlot::BackgroundLow);
     const QColor color =
         readableOn(background, paneColor(signalTypeSlot(bearing.type)), lineContrast);

@@ -3,15 +3,17 @@
 
 #include "bearing.h"
 
-#include <radiopanes/panes/frequencytext.h>
 #include <radiopanes/radiopanes_export.h>
 
 #include <QWidget>
 
+#include <memory>
 #include <span>
 #include <vector>
 
 namespace RadioPanes {
+
+class BearingRosePrivate;
 
 /// A compass rose with a line per signal from the receiver in the centre, as wide as the spread of
 /// its bearing, in the colour of its type; signals that are not there at present are dashed.
@@ -35,12 +37,12 @@ public:
 
     /// In degrees clockwise from north; any angle.
     void setHeading(double degrees);
-    double heading() const { return m_heading; }
+    double heading() const;
     void setHeadingUp(bool on);
-    bool isHeadingUp() const { return m_headingUp; }
+    bool isHeadingUp() const;
 
     /// The number of the selected signal; 0 for none.
-    std::uint32_t selected() const { return m_selected; }
+    std::uint32_t selected() const;
     /// Nothing happens when the signal has no bearing; 0 selects none.
     void select(std::uint32_t id);
     /// The signal whose line is at the point, or nearest to it within a few pixels; 0 for none.
@@ -91,11 +93,7 @@ private:
     void paintBearing(QPainter& painter, const Bearing& bearing) const;
     void paintHint(QPainter& painter) const;
 
-    std::vector<Bearing> m_bearings;
-    FrequencyText m_text;
-    double m_heading = 0;
-    bool m_headingUp = false;
-    std::uint32_t m_selected = 0;
+    std::unique_ptr<BearingRosePrivate> d;
 };
 
 } // namespace RadioPanes

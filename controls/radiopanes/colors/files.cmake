@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 guibase_room(colors
     PUBLIC
+        colormap.cpp colormap.h
         contrast.cpp contrast.h
         panecolors.cpp panecolors.h)

@@ -8,8 +8,6 @@
 #include <QColor>
 #include <QPalette>
 
-#include <array>
-
 namespace RadioPanes {
 
 /// The slots of the application's colour set that the panes draw with.
@@ -18,6 +16,8 @@ inline constexpr auto BackgroundLow = IColorBase::DrawPaneBackgroundLow;
 inline constexpr auto BackgroundHigh = IColorBase::DrawPaneBackgroundHigh;
 inline constexpr auto Grid = IColorBase::DrawPaneGrid;
 inline constexpr auto Curve = IColorBase::DrawPaneMainCurve;
+inline constexpr auto Average = IColorBase::DrawPaneSecondaryCurve;
+inline constexpr auto HoldMinimum = IColorBase::DrawPaneMinimumPoints;
 inline constexpr auto Hold = IColorBase::DrawPaneMainCurveMaximumShadow;
 inline constexpr auto ReadOut = IColorBase::DrawPaneResultPanelText;
 inline constexpr auto Cursor = IColorBase::MarkerMain;
@@ -41,12 +41,5 @@ RADIOPANES_EXPORT QColor axisColor(IColorBase::ECOLOR slot, const QPalette& pale
 
 /// The slot of a signal type, 'a' to 'q'; that of 'a' for any other letter.
 RADIOPANES_EXPORT IColorBase::ECOLOR signalTypeSlot(char letter);
-
-/// The colours of the levels from the lowest to the highest one.
-using ColorRamp = std::array<QRgb, 256>;
-
-/// A ramp through the colours of the draw pane: from its background over the hold and the main
-/// curve to the colour of maximum points, from the darkest to the brightest of them.
-RADIOPANES_EXPORT ColorRamp waterfallRamp();
 
 } // namespace RadioPanes

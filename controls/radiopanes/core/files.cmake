@@ -3,7 +3,9 @@ guibase_room(core
     PUBLIC
         axisticks.cpp axisticks.h
         columnreducer.cpp columnreducer.h
-        holdmaximum.cpp holdmaximum.h
+        heldlevels.cpp heldlevels.h
+        levelhistory.cpp levelhistory.h
         levelline.cpp levelline.h
         levelrange.cpp levelrange.h
+        measurements.cpp measurements.h
         sweep.cpp sweep.h)

@@ -47,14 +47,18 @@ struct RADIOPANES_EXPORT Sweep
 RADIOPANES_EXPORT Sweep makeSweep(quint64 timeUs, std::span<const Segment> segments);
 
 /// Sweeps by number, for panes that show many of them. What sweep() returns must stay valid as long
-/// as the history lives.
+/// as the history lives and has not left that sweep behind.
 class RADIOPANES_EXPORT SweepHistory
 {
 public:
     virtual ~SweepHistory();
 
+    /// One more than the number of the newest sweep.
     virtual qsizetype count() const = 0;
-    /// The sweep at `index`, from 0; an empty sweep for an index outside.
+    /// The oldest sweep that is still here: what sweep() returned for those before it is valid no
+    /// longer.
+    virtual qsizetype first() const { return 0; }
+    /// The sweep at `index`, from first(); an empty sweep for an index outside.
     virtual Sweep sweep(qsizetype index) const = 0;
     /// The largest number of levels in one sweep.
     virtual std::size_t largestBinCount() const = 0;

@@ -6,7 +6,9 @@
 
 #include <radiopanes/colors/panecolors.h>
 
+#include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cstdlib>
@@ -19,13 +21,43 @@ constexpr int labelMargin = 3;
 constexpr int gapBetweenLabels = 14;
 } // namespace
 
+class FrequencyAxisPrivate
+{
+public:
+    /// What the ticks were worked out for: the axis and the panes ask with every painting.
+    struct TicksKey
+    {
+        AxisRange range;
+        QString unit;
+        double resolution = 0;
+        QFont font;
+
+        bool operator==(const TicksKey&) const = default;
+    };
+
+    const VisibleBand* visibleBand = nullptr;
+    const FrequencyText* text = nullptr;
+    int indent = 0;
+    TicksKey key;
+    std::vector<AxisTick> ticks;
+};
+
+class SideAxisPrivate
+{
+public:
+    QString caption;
+    SideAxis::Ticks ticks;
+    int draggedTo = 0;
+};
+
 FrequencyAxis::FrequencyAxis(const VisibleBand* view, const FrequencyText* text, int indent,
                              QWidget* parent)
     : QWidget(parent)
-    , m_visibleBand(view)
-    , m_text(text)
-    , m_indent(indent)
+    , d(std::make_unique<FrequencyAxisPrivate>())
 {
+    d->visibleBand = view;
+    d->text = text;
+    d->indent = indent;
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(view, &VisibleBand::rangeChanged, this, qOverload<>(&QWidget::update));
@@ -35,21 +67,22 @@ FrequencyAxis::~FrequencyAxis() = default;
 
 const std::vector<AxisTick>& FrequencyAxis::ticks(int pixels) const
 {
-    TicksKey key{m_visibleBand->range(pixels), m_text->unit(), m_text->resolution(), font()};
-    if (key == m_ticksKey)
-        return m_ticks;
-    m_ticksKey = std::move(key);
+    FrequencyAxisPrivate::TicksKey key{d->visibleBand->range(pixels), d->text->unit(),
+                                       d->text->resolution(), font()};
+    if (key == d->key)
+        return d->ticks;
+    d->key = std::move(key);
     const QFontMetrics metrics = fontMetrics();
-    m_ticks = layoutTicks(
-        m_ticksKey.range, m_ticksKey.resolution, gapBetweenLabels, 0,
-        [this](double hertz) { return m_text->label(hertz); },
+    d->ticks = layoutTicks(
+        d->key.range, d->key.resolution, gapBetweenLabels, 0,
+        [this](double hertz) { return d->text->label(hertz); },
         [&metrics](const QString& label) { return metrics.horizontalAdvance(label); });
-    return m_ticks;
+    return d->ticks;
 }
 
 QSize FrequencyAxis::sizeHint() const
 {
-    return {m_indent * 4, fontMetrics().height() + tickLength + 2 * labelMargin};
+    return {d->indent * 4, fontMetrics().height() + tickLength + 2 * labelMargin};
 }
 
 void FrequencyAxis::paintEvent(QPaintEvent*)
@@ -60,10 +93,10 @@ void FrequencyAxis::paintEvent(QPaintEvent*)
     background.setColorAt(1, axisColor(PaneSlot::FrequencyAxisLow, palette()));
     painter.fillRect(rect(), background);
     painter.setPen(axisColor(PaneSlot::FrequencyAxisText, palette()));
-    painter.drawText(QRect(0, tickLength, m_indent - 2 * labelMargin, height() - tickLength),
-                     Qt::AlignRight | Qt::AlignVCenter, m_text->unit());
-    for (const AxisTick& tick : ticks(width() - m_indent)) {
-        const int x = m_indent + static_cast<int>(tick.position);
+    painter.drawText(QRect(0, tickLength, d->indent - 2 * labelMargin, height() - tickLength),
+                     Qt::AlignRight | Qt::AlignVCenter, d->text->unit());
+    for (const AxisTick& tick : ticks(width() - d->indent)) {
+        const int x = d->indent + static_cast<int>(tick.position);
         painter.drawLine(x, 0, x, tickLength - 1);
         const int extent = fontMetrics().horizontalAdvance(tick.label);
         painter.drawText(QRect(x - extent / 2 - 1, tickLength, extent + 2, height() - tickLength),
@@ -73,9 +106,10 @@ void FrequencyAxis::paintEvent(QPaintEvent*)
 
 SideAxis::SideAxis(const QString& caption, Ticks ticks, QWidget* parent)
     : QWidget(parent)
-    , m_caption(caption)
-    , m_ticks(std::move(ticks))
+    , d(std::make_unique<SideAxisPrivate>())
 {
+    d->caption = caption;
+    d->ticks = std::move(ticks);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
 }
@@ -100,9 +134,9 @@ void SideAxis::paintEvent(QPaintEvent*)
     painter.setPen(axisColor(PaneSlot::LevelAxisText, palette()));
     const int textHeight = fontMetrics().height();
     const int textWidth = width() - tickLength - 2 * labelMargin;
-    const int captionBottom = m_caption.isEmpty() ? 0 : textHeight + labelMargin;
-    painter.drawText(QRect(labelMargin, 1, textWidth, textHeight), Qt::AlignLeft, m_caption);
-    for (const AxisTick& tick : m_ticks(height())) {
+    const int captionBottom = d->caption.isEmpty() ? 0 : textHeight + labelMargin;
+    painter.drawText(QRect(labelMargin, 1, textWidth, textHeight), Qt::AlignLeft, d->caption);
+    for (const AxisTick& tick : d->ticks(height())) {
         const int y = height() - 1 - static_cast<int>(tick.position);
         painter.drawLine(width() - tickLength, y, width() - 1, y);
         // At the ends a label moves to where it has room, but never away from its tick.
@@ -113,6 +147,28 @@ void SideAxis::paintEvent(QPaintEvent*)
             painter.drawText(QRect(labelMargin, top, textWidth, textHeight),
                              Qt::AlignRight | Qt::AlignVCenter, tick.label);
     }
+}
+
+void SideAxis::mousePressEvent(QMouseEvent* event)
+{
+    d->draggedTo = event->position().toPoint().y();
+}
+
+void SideAxis::mouseMoveEvent(QMouseEvent* event)
+{
+    const int y = event->position().toPoint().y();
+    if (event->buttons().testFlag(Qt::LeftButton))
+        Q_EMIT dragged(d->draggedTo - y);
+    d->draggedTo = y;
+}
+
+void SideAxis::wheelEvent(QWheelEvent* event)
+{
+    constexpr double wheelStep = 120; // eighths of a degree that one notch turns
+    const int angle = event->angleDelta().y();
+    if (angle != 0)
+        Q_EMIT wheelTurned(angle / wheelStep);
+    event->setAccepted(angle != 0);
 }
 
 } // namespace RadioPanes

@@ -7,10 +7,14 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
+#include <vector>
 
 namespace RadioPanes {
 
+class FrequencyAxisPrivate;
 class FrequencyText;
+class SideAxisPrivate;
 class VisibleBand;
 
 /// The frequencies below the spectrum and above the waterfall. Labels stand below their ticks; the
@@ -32,26 +36,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    const VisibleBand* m_visibleBand;
-    /// What the ticks were worked out for: the axis and the panes ask with every painting.
-    struct TicksKey
-    {
-        AxisRange range;
-        QString unit;
-        double resolution = 0;
-        QFont font;
-
-        bool operator==(const TicksKey&) const = default;
-    };
-
-    const FrequencyText* m_text;
-    int m_indent;
-    mutable TicksKey m_ticksKey;
-    mutable std::vector<AxisTick> m_ticks;
+    std::unique_ptr<FrequencyAxisPrivate> d;
 };
 
 /// The scale at the left of a pane, from bottom to top: levels, or the times of sweeps. Its owner
-/// supplies the ticks.
+/// supplies the ticks, and decides what dragging and the wheel do.
 class RADIOPANES_EXPORT SideAxis : public QWidget
 {
     Q_OBJECT
@@ -66,12 +55,20 @@ public:
     static int preferredWidth(const QWidget& widget);
     QSize sizeHint() const override;
 
+Q_SIGNALS:
+    /// The mouse has dragged the scale by so many pixels upwards.
+    void dragged(int pixels);
+    /// The wheel has turned by so many notches, away from the user above 0.
+    void wheelTurned(double steps);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
-    QString m_caption;
-    Ticks m_ticks;
+    std::unique_ptr<SideAxisPrivate> d;
 };
 
 } // namespace RadioPanes

@@ -6,10 +6,12 @@
 #include <radiopanes/colors/panecolors.h>
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
 
 #include <cmath>
+#include <optional>
 
 namespace RadioPanes {
 
@@ -20,36 +22,84 @@ constexpr int fastCursorPixels = 10;
 constexpr double panShare = 0.1; // of the visible range, per key press
 } // namespace
 
+class BandPanePrivate
+{
+public:
+    enum class Drag { None, Undecided, Pin, Pan, Zoom };
+
+    VisibleBand* visibleBand = nullptr;
+    double paintedCursor = 0;
+    bool isSnapping = false;
+    Drag drag = Drag::None;
+    std::optional<std::size_t> pressedPin;
+    QPoint pressedAt;
+    QPoint draggedTo;
+
+    /// Control turns snapping over.
+    bool snaps(Qt::KeyboardModifiers modifiers) const
+    {
+        return isSnapping != modifiers.testFlag(Qt::ControlModifier);
+    }
+};
+
+using Drag = BandPanePrivate::Drag;
+
 BandPane::BandPane(VisibleBand* view, QWidget* parent)
     : QWidget(parent)
-    , m_visibleBand(view)
-    , m_paintedCursor(view->cursor())
+    , d(std::make_unique<BandPanePrivate>())
 {
+    d->visibleBand = view;
+    d->paintedCursor = view->cursor();
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setCursor(Qt::CrossCursor);
-    connect(m_visibleBand, &VisibleBand::cursorChanged, this, &BandPane::followCursor);
-    connect(m_visibleBand, &VisibleBand::pinsChanged, this, qOverload<>(&QWidget::update));
+    connect(d->visibleBand, &VisibleBand::cursorChanged, this, &BandPane::followCursor);
+    connect(d->visibleBand, &VisibleBand::pinsChanged, this, qOverload<>(&QWidget::update));
 }
 
 BandPane::~BandPane() = default;
 
+VisibleBand& BandPane::visibleBand() const
+{
+    return *d->visibleBand;
+}
+
+double BandPane::hertzOf(double pixels) const
+{
+    return pixels * (d->visibleBand->high() - d->visibleBand->low()) / std::max(width(), 1);
+}
+
+void BandPane::setSnapping(bool on)
+{
+    d->isSnapping = on;
+}
+
+bool BandPane::isSnapping() const
+{
+    return d->isSnapping;
+}
+
+double BandPane::snapped(double hertz) const
+{
+    return hertz;
+}
+
 double BandPane::frequencyAt(double x) const
 {
-    return m_visibleBand->range(std::max(width(), 1)).valueAt(x);
+    return d->visibleBand->range(std::max(width(), 1)).valueAt(x);
 }
 
 double BandPane::positionOf(double hertz) const
 {
-    return m_visibleBand->range(std::max(width(), 1)).positionOf(hertz);
+    return d->visibleBand->range(std::max(width(), 1)).positionOf(hertz);
 }
 
 void BandPane::followCursor()
 {
-    updateAround(m_paintedCursor);
-    m_paintedCursor = m_visibleBand->cursor();
-    updateAround(m_paintedCursor);
+    updateAround(d->paintedCursor);
+    d->paintedCursor = d->visibleBand->cursor();
+    updateAround(d->paintedCursor);
 }
 
 void BandPane::updateAround(double hertz)
@@ -69,14 +119,14 @@ void BandPane::paintOverlay(QPainter& painter)
         painter.setPen(QPen(color, 1, style));
         painter.drawLine(inside, 0, inside, height() - 1);
     };
-    for (const double pin : m_visibleBand->pins())
+    for (const double pin : d->visibleBand->pins())
         verticalLine(pin, paneColor(PaneSlot::Pin), Qt::DashLine);
-    verticalLine(m_visibleBand->cursor(), paneColor(PaneSlot::Cursor), Qt::SolidLine);
-    if (m_drag == Drag::Zoom) {
+    verticalLine(d->visibleBand->cursor(), paneColor(PaneSlot::Cursor), Qt::SolidLine);
+    if (d->drag == Drag::Zoom) {
         QColor fill = paneColor(PaneSlot::Cursor);
         fill.setAlphaF(0.25F);
-        const int left = std::min(m_pressedAt.x(), m_draggedTo.x());
-        painter.fillRect(left, 0, std::abs(m_draggedTo.x() - m_pressedAt.x()), height(), fill);
+        const int left = std::min(d->pressedAt.x(), d->draggedTo.x());
+        painter.fillRect(left, 0, std::abs(d->draggedTo.x() - d->pressedAt.x()), height(), fill);
     }
     if (hasFocus()) {
         painter.setPen(palette().color(QPalette::Highlight));
@@ -93,74 +143,93 @@ void BandPane::keyPressEvent(QKeyEvent* event)
     }
     const int direction = event->key() == Qt::Key_Left ? -1 : 1;
     if (event->modifiers().testFlag(Qt::ShiftModifier))
-        m_visibleBand->pan(direction * panShare * (m_visibleBand->high() - m_visibleBand->low()));
+        d->visibleBand->pan(direction * panShare *
+                            (d->visibleBand->high() - d->visibleBand->low()));
     else
-        m_visibleBand->stepCursor(event->modifiers().testFlag(Qt::ControlModifier)
-                                      ? direction * fastCursorPixels
-                                      : direction,
-                                  width());
+        d->visibleBand->stepCursor(event->modifiers().testFlag(Qt::ControlModifier)
+                                       ? direction * fastCursorPixels
+                                       : direction,
+                                   width());
 }
 
 void BandPane::mousePressEvent(QMouseEvent* event)
 {
-    m_pressedAt = event->position().toPoint();
-    m_draggedTo = m_pressedAt;
-    if (event->button() == Qt::LeftButton)
-        m_drag = Drag::Undecided;
-    else if (event->button() == Qt::RightButton)
-        m_drag = Drag::Zoom;
+    d->pressedAt = event->position().toPoint();
+    d->draggedTo = d->pressedAt;
+    d->pressedPin.reset();
+    if (event->button() == Qt::LeftButton) {
+        d->drag = Drag::Undecided;
+        d->pressedPin =
+            d->visibleBand->pinNear(frequencyAt(event->position().x()), hertzOf(pinReach));
+    } else if (event->button() == Qt::RightButton)
+        d->drag = Drag::Zoom;
     else if (event->button() == Qt::MiddleButton)
-        m_visibleBand->showAll();
+        d->visibleBand->showAll();
 }
 
 void BandPane::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint position = event->position().toPoint();
-    if (m_drag == Drag::None)
-        m_visibleBand->setCursor(frequencyAt(event->position().x()));
-    if (m_drag == Drag::Undecided &&
-        (position - m_pressedAt).manhattanLength() >= QApplication::startDragDistance())
-        m_drag = Drag::Pan;
-    if (m_drag == Drag::Pan) {
-        m_visibleBand->pan(frequencyAt(m_draggedTo.x()) - frequencyAt(position.x()));
-        m_draggedTo = position;
+    if (d->drag == Drag::None)
+        d->visibleBand->setCursor(frequencyAt(event->position().x()));
+    if (d->drag == Drag::Undecided &&
+        (position - d->pressedAt).manhattanLength() >= QApplication::startDragDistance())
+        d->drag = d->pressedPin ? Drag::Pin : Drag::Pan;
+    if (d->drag == Drag::Pin) {
+        const double hertz = frequencyAt(event->position().x());
+        d->visibleBand->movePin(*d->pressedPin,
+                                d->snaps(event->modifiers()) ? snapped(hertz) : hertz);
     }
-    if (m_drag == Drag::Zoom) {
-        const int left = std::min({m_pressedAt.x(), m_draggedTo.x(), position.x()});
-        const int right = std::max({m_pressedAt.x(), m_draggedTo.x(), position.x()});
-        m_draggedTo = position;
+    if (d->drag == Drag::Pan) {
+        d->visibleBand->pan(frequencyAt(d->draggedTo.x()) - frequencyAt(position.x()));
+        d->draggedTo = position;
+    }
+    if (d->drag == Drag::Zoom) {
+        const int left = std::min({d->pressedAt.x(), d->draggedTo.x(), position.x()});
+        const int right = std::max({d->pressedAt.x(), d->draggedTo.x(), position.x()});
+        d->draggedTo = position;
         update(left - 1, 0, right - left + 3, height());
     }
 }
 
 void BandPane::mouseReleaseEvent(QMouseEvent* event)
 {
-    const Drag drag = std::exchange(m_drag, Drag::None);
+    const Drag drag = std::exchange(d->drag, Drag::None);
     if (drag == Drag::Undecided && event->button() == Qt::LeftButton)
-        togglePin(event->position().x());
+        togglePin(event->position().x(), event->modifiers());
     if (drag == Drag::Zoom && event->button() == Qt::RightButton) {
-        if (std::abs(m_draggedTo.x() - m_pressedAt.x()) >= QApplication::startDragDistance())
-            m_visibleBand->setVisible(frequencyAt(m_pressedAt.x()), frequencyAt(m_draggedTo.x()));
+        if (std::abs(d->draggedTo.x() - d->pressedAt.x()) >= QApplication::startDragDistance())
+            d->visibleBand->setVisible(frequencyAt(d->pressedAt.x()),
+                                       frequencyAt(d->draggedTo.x()));
+        else
+            Q_EMIT menuRequested(event->globalPosition().toPoint());
         update();
     }
 }
 
-void BandPane::togglePin(double x)
+/// With the mouse the menu comes when the button is released: a drag zooms.
+void BandPane::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT menuRequested(event->globalPos());
+}
+
+void BandPane::togglePin(double x, Qt::KeyboardModifiers modifiers)
 {
     const double hertz = frequencyAt(x);
-    if (!m_visibleBand->removePinNear(
-            hertz, pinReach * (m_visibleBand->high() - m_visibleBand->low()) / width()))
-        m_visibleBand->addPin(hertz);
+    if (!d->visibleBand->removePinNear(hertz, hertzOf(pinReach)))
+        d->visibleBand->addPin(d->snaps(modifiers) ? snapped(hertz) : hertz);
 }
 
 void BandPane::wheelEvent(QWheelEvent* event)
 {
     const QPointF steps = QPointF(event->angleDelta()) / wheelStep;
     if (steps.y() != 0)
-        m_visibleBand->zoom(std::pow(zoomPerWheelStep, steps.y()),
-                            frequencyAt(event->position().x()));
+        d->visibleBand->zoom(std::pow(zoomPerWheelStep, steps.y()),
+                             frequencyAt(event->position().x()));
     if (steps.x() != 0)
-        m_visibleBand->pan(-steps.x() * panShare * (m_visibleBand->high() - m_visibleBand->low()));
+        d->visibleBand->pan(-steps.x() * panShare *
+                            (d->visibleBand->high() - d->visibleBand->low()));
     event->accept();
 }
 

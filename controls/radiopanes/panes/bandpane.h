@@ -3,22 +3,24 @@
 
 #include <radiopanes/radiopanes_export.h>
 
-#include <QPoint>
 #include <QWidget>
+
+#include <memory>
 
 class QPainter;
 
 namespace RadioPanes {
 
+class BandPanePrivate;
 class VisibleBand;
 
 /// A pane with the shared frequencies from its left to its right edge. It turns the mouse and the
 /// keys into zoom, cursor and pins of the view, and draws the cursor and the pins on top.
 ///
-/// Mouse: moving sets the cursor, a click sets or removes a pin, dragging moves the view, dragging
-/// with the right button zooms to the part dragged over, the middle button shows the whole band,
-/// the wheel zooms. Keys: left and right move the cursor (with Control ten times as far, with Shift
-/// the view). All other keys are left to the window.
+/// Mouse: moving sets the cursor, a click sets or removes a pin, dragging moves a pin or the view,
+/// dragging with the right button zooms to the part dragged over, a click with it asks for a menu,
+/// the middle button shows the whole band, the wheel zooms. Keys: left and right move the cursor
+/// (with Control ten times as far, with Shift the view). All other keys are left to the window.
 class RADIOPANES_EXPORT BandPane : public QWidget
 {
     Q_OBJECT
@@ -27,12 +29,25 @@ public:
     BandPane(VisibleBand* view, QWidget* parent);
     ~BandPane() override;
 
-    VisibleBand& visibleBand() const { return *m_visibleBand; }
+    VisibleBand& visibleBand() const;
     /// Pixels between a click and a pin that still hit it.
     static constexpr int pinReach = 5;
 
     double frequencyAt(double x) const;
     double positionOf(double hertz) const;
+    /// The width of so many pixels.
+    double hertzOf(double pixels) const;
+
+    /// Whether pins that are set or dragged snap to what snapped() finds. Not at first; holding
+    /// Control turns it over.
+    void setSnapping(bool on);
+    bool isSnapping() const;
+    /// Where a pin at the frequency snaps to; the frequency itself where there is nothing.
+    virtual double snapped(double hertz) const;
+
+Q_SIGNALS:
+    /// The right button was clicked, or the menu key pressed, at this place of the screen.
+    void menuRequested(QPoint globalPosition);
 
 protected:
     /// Cursor, pins, zoom rectangle and focus frame; to be called at the end of paintEvent().
@@ -40,6 +55,7 @@ protected:
     /// Repaints the columns around the frequency.
     virtual void updateAround(double hertz);
 
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -49,16 +65,10 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    enum class Drag { None, Undecided, Pan, Zoom };
-
     void followCursor();
-    void togglePin(double x);
+    void togglePin(double x, Qt::KeyboardModifiers modifiers);
 
-    VisibleBand* m_visibleBand;
-    double m_paintedCursor = 0;
-    Drag m_drag = Drag::None;
-    QPoint m_pressedAt;
-    QPoint m_draggedTo;
+    std::unique_ptr<BandPanePrivate> d;
 };
 
 } // namespace RadioPanes

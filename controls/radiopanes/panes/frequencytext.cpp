@@ -11,6 +11,10 @@
 
 namespace RadioPanes {
 
+namespace {
+constexpr std::array units{"Hz", "kHz", "MHz", "GHz"};
+} // namespace
+
 FrequencyText::FrequencyText()
 {
     refresh();
@@ -35,9 +39,23 @@ QString FrequencyText::full(double hertz) const
     return m_number->GetString(hertz);
 }
 
+QString FrequencyText::rounded(double hertz, double stepHz) const
+{
+    const auto shown =
+        std::ranges::find(units, unit(), [](const char* name) { return QLatin1String(name); });
+    if (!(stepHz > 0) || !std::isfinite(stepHz) || shown == units.end())
+        return full(hertz);
+    const int power = static_cast<int>(std::floor(std::log10(stepHz) + 1e-9));
+    const double digit = std::pow(10, power);
+    QString number = m_number->GetStringNoSuffix(std::round(hertz / digit) * digit);
+    const int decimals = m_number->GetDotPosition();
+    const int wanted = std::clamp(3 * static_cast<int>(shown - units.begin()) - power, 0, decimals);
+    number.chop(wanted > 0 ? decimals - wanted : decimals > 0 ? decimals + 1 : 0);
+    return number + m_number->GetSuffix();
+}
+
 QString FrequencyText::width(double hertz)
 {
-    constexpr std::array units{"Hz", "kHz", "MHz", "GHz"};
     const double step = std::pow(10, std::floor(std::log10(std::max(hertz, 1.0))) - 2);
     double number = std::round(hertz / step) * step;
     std::size_t unit = 0;

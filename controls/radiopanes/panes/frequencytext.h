@@ -26,6 +26,9 @@ public:
     QString label(double hertz) const;
     /// The number with all its digits, and the unit.
     QString full(double hertz) const;
+    /// The number with no more digits than bins of this width leave, and the unit. A width of 0
+    /// leaves all.
+    QString rounded(double hertz, double stepHz) const;
     /// A width to three digits, in the unit that leaves one to three of them in front of the point.
     static QString width(double hertz);
     QString unit() const;

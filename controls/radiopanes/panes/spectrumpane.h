@@ -6,7 +6,10 @@
 #include <radiopanes/core/axisticks.h>
 #include <radiopanes/core/columnreducer.h>
 #include <radiopanes/core/levelline.h>
+#include <radiopanes/core/measurements.h>
 #include <radiopanes/radiopanes_export.h>
+
+#include <guibase/colors/icolorbase.h>
 
 #include <functional>
 #include <memory>
@@ -16,12 +19,23 @@
 namespace RadioPanes {
 
 class FrequencyText;
+class SpectrumPanePrivate;
 
-/// Shows one sweep as a curve: each column of pixels a line from the lowest to the highest level of
-/// its bins, over the hold maximum, with grid and read-outs.
+/// What a spectrum can show of the same bins.
+enum class Trace { Live, Average, Maximum, Minimum };
+inline constexpr int traceCount = 4;
+/// The slot of the colour set that the trace is drawn with.
+RADIOPANES_EXPORT IColorBase::ECOLOR traceSlot(Trace trace);
+
+/// Shows sweeps as curves: each column of pixels a line from the lowest to the highest level of its
+/// bins, with grid, read-outs and a legend. The hold maximum lies behind as a line over a shadow.
 ///
-/// Levels are reduced to columns when a sweep comes or the view changes; painting follows the
-/// pixels to be painted, whatever the number of bins.
+/// Levels are reduced to columns once for every sweep and view; the time to draw follows the
+/// pixels, whatever the number of bins.
+///
+/// Keys: up and down move the reference level by a division, with Control they change the dB of a
+/// division; page up and page down move the cursor to the next peak at its left or right. Wheel:
+/// with Shift the reference level, with Control the dB of a division. The rest is as in BandPane.
 class RADIOPANES_EXPORT SpectrumPane : public BandPane
 {
     Q_OBJECT
@@ -33,32 +47,57 @@ public:
                  QWidget* parent);
     ~SpectrumPane() override;
 
-    /// The sweep, and a pyramid of it; its levels must stay until the next call. Null: none.
-    void setSweep(const Sweep& sweep, std::shared_ptr<const LevelPyramid> pyramid);
-    /// As setSweep(), for the hold maximum that is drawn behind the curve.
-    void setHold(const Sweep& hold, std::shared_ptr<const LevelPyramid> pyramid);
-    void setHoldVisible(bool visible);
+    /// The sweep that the trace shows, and a pyramid of it; its levels must stay until the next
+    /// call for this trace. Null: none. Nothing at first.
+    void setTrace(Trace trace, const Sweep& sweep, std::shared_ptr<const LevelPyramid> pyramid);
+    /// Live and Maximum are visible at first.
+    void setTraceVisible(Trace trace, bool visible);
+    bool isTraceVisible(Trace trace) const;
+    /// The trace as the legend names it.
+    static QString traceName(Trace trace);
+    /// The legend stands where more than one trace is visible. Shown at first.
+    void setLegendVisible(bool visible);
+    bool isLegendVisible() const;
 
     /// The line of reference levels, in order of frequency; empty for none.
     void setReferenceLevels(std::vector<LevelPoint> points);
-
     /// A level that is drawn as a dashed line, in dB; nothing for none.
     void setThreshold(std::optional<double> levelDb);
     /// The first line of the read-out; empty for none.
     void setCaption(const QString& caption);
-    const QString& caption() const { return m_caption; }
+    const QString& caption() const;
+    /// Whether the read-out tells the widths at -3 dB and of 99 % of the power at the cursor. Not
+    /// at first.
+    void setWidthsVisible(bool visible);
+    bool areWidthsVisible() const;
 
-    double lowLevel() const { return m_lowLevel; }
-    double highLevel() const { return m_highLevel; }
-    /// The levels at the bottom and the top of the pane, in dB; 10 dB apart at least.
+    double lowLevel() const;
+    double highLevel() const;
+    /// The levels at the bottom and the top of the pane, in dB; 10 dB apart at least. Levels that
+    /// are not finite change nothing.
     void setLevelRange(double low, double high);
+    static constexpr int levelDivisions = 10;
+    /// The level at the top, in dB; the range moves along.
+    void setReferenceLevel(double levelDb);
+    double decibelsPerDivision() const;
+    /// 1 to 50 dB; the reference level stays.
+    void setDecibelsPerDivision(double decibels);
+    /// The next larger (above 0) or smaller of 1, 2, 5, 10, 20 and 50 dB a division.
+    void stepDecibelsPerDivision(int steps);
+    /// Moves the reference level by tenths of the range, upwards above 0.
+    void stepReferenceLevel(double divisions);
     /// Ticks of the level axis for a scale of `pixels` pixels.
     std::vector<AxisTick> levelTicks(int pixels) const;
 
-    /// The level of the bin at the frequency; nothing where the sweep has none.
-    std::optional<float> levelAt(double hertz) const { return m_curve.sweep.levelAt(hertz); }
-    /// The lines of the read-out: the caption, the cursor, then the pins.
+    /// The level of the live trace's bin at the frequency; nothing where the sweep has none.
+    std::optional<float> levelAt(double hertz) const;
+    /// The lines of the read-out: the caption, the cursor, the widths, then the pins; from the
+    /// second pin on with their differences to the first one.
     QStringList readOut() const;
+    /// Moves the cursor to the next peak of the live trace; false when there is none.
+    bool moveToPeak(Direction direction);
+    /// The highest bin within a pin's reach.
+    double snapped(double hertz) const override;
 
     QSize sizeHint() const override { return {960, 320}; }
     QSize minimumSizeHint() const override { return {240, 100}; }
@@ -67,45 +106,22 @@ public Q_SLOTS:
     /// Texts have changed: unit, resolution or zone.
     void refreshTexts();
 
+Q_SIGNALS:
+    /// lowLevel() or highLevel() is another one: axes and other panes follow.
+    void levelRangeChanged();
+    /// The trace is visible now, or no longer.
+    void traceVisibleChanged(Trace trace, bool visible);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void updateAround(double hertz) override;
 
 private:
-    struct Trace
-    {
-        Sweep sweep;
-        std::shared_ptr<const LevelPyramid> pyramid;
-        std::vector<LevelRange> columns;
-    };
-
-    void setTrace(Trace& trace, const Sweep& sweep, std::shared_ptr<const LevelPyramid> pyramid);
-    void reduce(Trace& trace) const;
-    void reduceAll();
-    int yOf(double level) const;
-    void paintGrid(QPainter& painter, const QRect& dirty) const;
-    void paintHold(QPainter& painter, int first, int last) const;
-    void paintCurve(QPainter& painter, int first, int last) const;
-    void paintReferenceLevels(QPainter& painter) const;
-    void paintThreshold(QPainter& painter) const;
-    void paintPinNumbers(QPainter& painter) const;
-    void paintReadOut(QPainter& painter) const;
-    QString readOutLine(const QString& title, double hertz) const;
-    QRect readOutRect() const;
     void updateReadOut();
 
-    const FrequencyText* m_text;
-    GridTicks m_frequencyTicks;
-    Trace m_curve;
-    Trace m_hold;
-    std::vector<LevelPoint> m_referenceLevels;
-    std::optional<double> m_thresholdDb;
-    QString m_caption;
-    bool m_holdVisible = true;
-    double m_lowLevel = -120;
-    double m_highLevel = 0;
-    QRect m_paintedReadOut;
+    std::unique_ptr<SpectrumPanePrivate> d;
 };
 
 } // namespace RadioPanes

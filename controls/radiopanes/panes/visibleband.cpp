@@ -11,8 +11,21 @@ constexpr double binsOfSmallestView = 8;
 constexpr int maximumPins = 16;
 } // namespace
 
+class VisibleBandPrivate
+{
+public:
+    double bandLow = 0;
+    double bandHigh = 1;
+    double low = 0;
+    double high = 1;
+    double smallestSpan = 1;
+    double cursor = 0.5;
+    std::vector<double> pins;
+};
+
 VisibleBand::VisibleBand(QObject* parent)
     : QObject(parent)
+    , d(std::make_unique<VisibleBandPrivate>())
 {}
 
 VisibleBand::~VisibleBand() = default;
@@ -21,38 +34,73 @@ void VisibleBand::setBand(double low, double high, double resolution)
 {
     if (!AxisRange{low, high, 1}.isValid())
         return;
-    m_bandLow = low;
-    m_bandHigh = high;
-    m_smallestSpan = std::clamp(resolution * binsOfSmallestView, (high - low) * 1e-9, high - low);
-    m_low = low;
-    m_high = high;
-    m_cursor = (low + high) / 2;
-    m_pins.clear();
+    d->bandLow = low;
+    d->bandHigh = high;
+    d->smallestSpan = std::clamp(resolution * binsOfSmallestView, (high - low) * 1e-9, high - low);
+    d->low = low;
+    d->high = high;
+    d->cursor = (low + high) / 2;
+    d->pins.clear();
     Q_EMIT rangeChanged();
     Q_EMIT cursorChanged();
     Q_EMIT pinsChanged();
 }
 
+double VisibleBand::bandLow() const
+{
+    return d->bandLow;
+}
+
+double VisibleBand::bandHigh() const
+{
+    return d->bandHigh;
+}
+
+double VisibleBand::low() const
+{
+    return d->low;
+}
+
+double VisibleBand::high() const
+{
+    return d->high;
+}
+
+AxisRange VisibleBand::range(int pixels) const
+{
+    return {d->low, d->high, pixels};
+}
+
+double VisibleBand::cursor() const
+{
+    return d->cursor;
+}
+
+const std::vector<double>& VisibleBand::pins() const
+{
+    return d->pins;
+}
+
 bool VisibleBand::showsAll() const
 {
-    return m_low <= m_bandLow && m_high >= m_bandHigh;
+    return d->low <= d->bandLow && d->high >= d->bandHigh;
 }
 
 void VisibleBand::zoom(double factor, double anchor)
 {
     if (!(factor > 0) || !std::isfinite(factor) || !std::isfinite(anchor))
         return;
-    const double span = m_high - m_low;
-    const double newSpan = std::clamp(span / factor, m_smallestSpan, m_bandHigh - m_bandLow);
-    const double share = std::clamp((anchor - m_low) / span, 0.0, 1.0);
-    const double low = m_low + share * (span - newSpan);
+    const double span = d->high - d->low;
+    const double newSpan = std::clamp(span / factor, d->smallestSpan, d->bandHigh - d->bandLow);
+    const double share = std::clamp((anchor - d->low) / span, 0.0, 1.0);
+    const double low = d->low + share * (span - newSpan);
     setVisible(low, low + newSpan);
 }
 
 void VisibleBand::zoomAtCursor(double factor)
 {
-    const bool inside = m_cursor >= m_low && m_cursor <= m_high;
-    zoom(factor, inside ? m_cursor : (m_low + m_high) / 2);
+    const bool inside = d->cursor >= d->low && d->cursor <= d->high;
+    zoom(factor, inside ? d->cursor : (d->low + d->high) / 2);
 }
 
 void VisibleBand::setVisible(double low, double high)
@@ -61,35 +109,35 @@ void VisibleBand::setVisible(double low, double high)
         return;
     if (high < low)
         std::swap(low, high);
-    const double span = std::clamp(high - low, m_smallestSpan, m_bandHigh - m_bandLow);
-    low = std::clamp((low + high - span) / 2, m_bandLow, m_bandHigh - span);
-    high = std::min(low + span, m_bandHigh);
-    if (low == m_low && high == m_high)
+    const double span = std::clamp(high - low, d->smallestSpan, d->bandHigh - d->bandLow);
+    low = std::clamp((low + high - span) / 2, d->bandLow, d->bandHigh - span);
+    high = std::min(low + span, d->bandHigh);
+    if (low == d->low && high == d->high)
         return;
-    m_low = low;
-    m_high = high;
+    d->low = low;
+    d->high = high;
     Q_EMIT rangeChanged();
 }
 
 void VisibleBand::pan(double hertz)
 {
-    const double shift = std::clamp(hertz, m_bandLow - m_low, m_bandHigh - m_high);
-    setVisible(m_low + shift, m_high + shift);
+    const double shift = std::clamp(hertz, d->bandLow - d->low, d->bandHigh - d->high);
+    setVisible(d->low + shift, d->high + shift);
 }
 
 void VisibleBand::showAll()
 {
-    setVisible(m_bandLow, m_bandHigh);
+    setVisible(d->bandLow, d->bandHigh);
 }
 
 void VisibleBand::setCursor(double hertz)
 {
     if (!std::isfinite(hertz))
         return;
-    hertz = std::clamp(hertz, m_bandLow, m_bandHigh);
-    if (hertz == m_cursor)
+    hertz = std::clamp(hertz, d->bandLow, d->bandHigh);
+    if (hertz == d->cursor)
         return;
-    m_cursor = hertz;
+    d->cursor = hertz;
     Q_EMIT cursorChanged();
 }
 
@@ -97,39 +145,62 @@ void VisibleBand::stepCursor(int pixels, int width)
 {
     if (width <= 0)
         return;
-    setCursor(m_cursor + pixels * (m_high - m_low) / width);
-    if (m_cursor < m_low)
-        pan(m_cursor - m_low);
-    else if (m_cursor > m_high)
-        pan(m_cursor - m_high);
+    setCursor(d->cursor + pixels * (d->high - d->low) / width);
+    if (d->cursor < d->low)
+        pan(d->cursor - d->low);
+    else if (d->cursor > d->high)
+        pan(d->cursor - d->high);
+}
+
+void VisibleBand::showAt(double hertz)
+{
+    if (hertz < d->low || hertz > d->high)
+        pan(hertz - (d->low + d->high) / 2);
+    setCursor(hertz);
 }
 
 void VisibleBand::addPin(double hertz)
 {
     if (!std::isfinite(hertz))
         return;
-    if (m_pins.size() >= maximumPins)
-        m_pins.erase(m_pins.begin());
-    m_pins.push_back(std::clamp(hertz, m_bandLow, m_bandHigh));
+    if (d->pins.size() >= maximumPins)
+        d->pins.erase(d->pins.begin());
+    d->pins.push_back(std::clamp(hertz, d->bandLow, d->bandHigh));
+    Q_EMIT pinsChanged();
+}
+
+std::optional<std::size_t> VisibleBand::pinNear(double hertz, double reach) const
+{
+    const auto nearest = std::ranges::min_element(
+        d->pins, {}, [hertz](double pin) { return std::abs(pin - hertz); });
+    if (nearest == d->pins.end() || !(std::abs(*nearest - hertz) <= reach))
+        return std::nullopt;
+    return static_cast<std::size_t>(nearest - d->pins.begin());
+}
+
+void VisibleBand::movePin(std::size_t number, double hertz)
+{
+    if (number >= d->pins.size() || !std::isfinite(hertz))
+        return;
+    d->pins[number] = std::clamp(hertz, d->bandLow, d->bandHigh);
     Q_EMIT pinsChanged();
 }
 
 bool VisibleBand::removePinNear(double hertz, double reach)
 {
-    const auto nearest =
-        std::ranges::min_element(m_pins, {}, [hertz](double pin) { return std::abs(pin - hertz); });
-    if (nearest == m_pins.end() || std::abs(*nearest - hertz) > reach)
+    const std::optional<std::size_t> number = pinNear(hertz, reach);
+    if (!number)
         return false;
-    m_pins.erase(nearest);
+    d->pins.erase(d->pins.begin() + static_cast<std::ptrdiff_t>(*number));
     Q_EMIT pinsChanged();
     return true;
 }
 
 void VisibleBand::clearPins()
 {
-    if (m_pins.empty())
+    if (d->pins.empty())
         return;
-    m_pins.clear();
+    d->pins.clear();
     Q_EMIT pinsChanged();
 }
 

@@ -6,9 +6,13 @@
 
 #include <QObject>
 
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace RadioPanes {
+
+class VisibleBandPrivate;
 
 /// The part of the band that all panes show, the cursor on it and the pins set by the user. The
 /// panes share one such object, so that zooming or moving the cursor in one of them shows in all.
@@ -22,13 +26,15 @@ public:
 
     /// The whole band; shows all of it, puts the cursor in its middle and removes the pins.
     /// `resolution` is the distance of two bins: no view is narrower than a few of them.
+    /// Frequencies may be negative, as in baseband. An empty range, or one that is not finite,
+    /// changes nothing.
     void setBand(double low, double high, double resolution);
-    double bandLow() const { return m_bandLow; }
-    double bandHigh() const { return m_bandHigh; }
+    double bandLow() const;
+    double bandHigh() const;
 
-    double low() const { return m_low; }
-    double high() const { return m_high; }
-    AxisRange range(int pixels) const { return {m_low, m_high, pixels}; }
+    double low() const;
+    double high() const;
+    AxisRange range(int pixels) const;
     bool showsAll() const;
 
     /// Narrows the view by `factor` (widens it below 1); `anchor` keeps its place on the screen.
@@ -40,15 +46,23 @@ public:
     void pan(double hertz);
     void showAll();
 
-    double cursor() const { return m_cursor; }
+    double cursor() const;
     /// Cut to the band.
     void setCursor(double hertz);
     /// Moves the cursor by `pixels` of a pane that is `width` pixels wide; the view follows it.
     void stepCursor(int pixels, int width);
 
+    /// Puts the cursor there, and moves the view when it does not show the frequency.
+    void showAt(double hertz);
+
     /// In the order in which they were set.
-    const std::vector<double>& pins() const { return m_pins; }
+    const std::vector<double>& pins() const;
+    /// Cut to the band. Beyond 16 pins the oldest one goes.
     void addPin(double hertz);
+    /// The number of the pin nearest to `hertz` that is at most `reach` away; nothing for none.
+    std::optional<std::size_t> pinNear(double hertz, double reach) const;
+    /// Cut to the band. Nothing happens when there is no such pin.
+    void movePin(std::size_t number, double hertz);
     /// Removes the pin nearest to `hertz` that is at most `reach` away; false when there is none.
     bool removePinNear(double hertz, double reach);
     void clearPins();
@@ -58,17 +72,11 @@ Q_SIGNALS:
     void rangeChanged();
     /// cursor() is at another frequency.
     void cursorChanged();
-    /// Pins were set or removed.
+    /// Pins were set, moved or removed.
     void pinsChanged();
 
 private:
-    double m_bandLow = 0;
-    double m_bandHigh = 1;
-    double m_low = 0;
-    double m_high = 1;
-    double m_smallestSpan = 1;
-    double m_cursor = 0.5;
-    std::vector<double> m_pins;
+    std::unique_ptr<VisibleBandPrivate> d;
 };
 
 } // namespace RadioPanes

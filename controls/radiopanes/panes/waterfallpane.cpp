@@ -3,9 +3,14 @@
 
 #include "visibleband.h"
 
+#include <radiopanes/colors/panecolors.h>
+
+#include <QImage>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace RadioPanes {
 
@@ -14,31 +19,67 @@ namespace {
 // Above this many bins in all lines the pyramids would take too much memory; zooming then reduces
 // the bins themselves again.
 constexpr qsizetype largestPyramidHistory = qsizetype{64} << 20;
+constexpr int legendMargin = 4;
+constexpr int legendWidth = 96;
 
 } // namespace
 
+class WaterfallPanePrivate
+{
+public:
+    explicit WaterfallPanePrivate(WaterfallPane* pane)
+        : q(pane)
+    {}
+
+    qsizetype lineCount() const { return image.height(); }
+    bool isShown(qsizetype sweep) const;
+    int imageRow(qsizetype sweep) const;
+    std::shared_ptr<const LevelPyramid>& pyramidOf(qsizetype sweep);
+    void forgetOld();
+    void drawLine(qsizetype sweep);
+    void drawLines(qsizetype first, qsizetype last);
+    void redrawAll();
+    void rebuild();
+    void paintLegend(QPainter& painter) const;
+
+    WaterfallPane* q;
+    std::shared_ptr<const SweepHistory> history;
+    QString hint;
+    qsizetype position = -1;
+    double lowLevel = -120;
+    double highLevel = 0;
+    ColorMap map = ColorMap::ColorSet;
+    ColorRamp ramp = colorRamp(ColorMap::ColorSet);
+    bool isLegendVisible = false;
+    QImage image; ///< One row per line; sweep i in row lineCount() - 1 - i % lineCount().
+    std::vector<std::shared_ptr<const LevelPyramid>> pyramids; ///< Beside the rows of the image.
+    qsizetype oldest = 0;       ///< Sweeps before it have no pyramid.
+    std::vector<float> columns; ///< The highest levels.
+};
+
 WaterfallPane::WaterfallPane(VisibleBand* view, QWidget* parent)
     : BandPane(view, parent)
-    , m_ramp(waterfallRamp())
+    , d(std::make_unique<WaterfallPanePrivate>(this))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(tr("Waterfall"));
-    connect(view, &VisibleBand::rangeChanged, this, &WaterfallPane::redrawAll);
+    connect(view, &VisibleBand::rangeChanged, this, [this] { d->redrawAll(); });
 }
 
 WaterfallPane::~WaterfallPane() = default;
 
 void WaterfallPane::setHistory(std::shared_ptr<const SweepHistory> history)
 {
-    m_history = std::move(history);
-    m_position = -1;
-    m_pyramids.assign(m_pyramids.size(), nullptr);
+    d->history = std::move(history);
+    d->position = -1;
+    d->oldest = 0;
+    d->pyramids.assign(d->pyramids.size(), nullptr);
     update();
 }
 
 void WaterfallPane::setHint(const QString& text)
 {
-    m_hint = text;
+    d->hint = text;
     update();
 }
 
@@ -46,142 +87,210 @@ void WaterfallPane::setLevelRange(double low, double high)
 {
     if (!std::isfinite(low) || !std::isfinite(high))
         return;
-    m_lowLevel = low;
-    m_highLevel = std::max(high, low + 1);
-    redrawAll();
+    d->lowLevel = low;
+    d->highLevel = std::max(high, low + 1);
+    d->redrawAll();
 }
 
 void WaterfallPane::refreshColors()
 {
-    m_ramp = waterfallRamp();
-    redrawAll();
+    d->ramp = colorRamp(d->map);
+    d->redrawAll();
 }
 
-bool WaterfallPane::isShown(qsizetype sweep) const
+void WaterfallPane::setColorMap(ColorMap map)
 {
-    return sweep >= 0 && sweep <= m_position && sweep > m_position - lineCount();
+    d->map = map;
+    refreshColors();
 }
 
-int WaterfallPane::imageRow(qsizetype sweep) const
+ColorMap WaterfallPane::colorMap() const
+{
+    return d->map;
+}
+
+bool WaterfallPane::isLegendVisible() const
+{
+    return d->isLegendVisible;
+}
+
+void WaterfallPane::setLegendVisible(bool visible)
+{
+    d->isLegendVisible = visible;
+    update();
+}
+
+bool WaterfallPanePrivate::isShown(qsizetype sweep) const
+{
+    return sweep >= 0 && sweep <= position && sweep > position - lineCount();
+}
+
+int WaterfallPanePrivate::imageRow(qsizetype sweep) const
 {
     return static_cast<int>(lineCount() - 1 - sweep % lineCount());
 }
 
+std::shared_ptr<const LevelPyramid>& WaterfallPanePrivate::pyramidOf(qsizetype sweep)
+{
+    return pyramids[static_cast<size_t>(imageRow(sweep))];
+}
+
+/// The levels that pyramids refer to go with their sweeps.
+void WaterfallPanePrivate::forgetOld()
+{
+    const qsizetype first = history->first();
+    if (first <= oldest)
+        return;
+    for (qsizetype sweep = std::max(oldest, position - lineCount() + 1); sweep < first; ++sweep) {
+        if (isShown(sweep))
+            pyramidOf(sweep).reset();
+    }
+    oldest = first;
+}
+
 void WaterfallPane::setPosition(qsizetype position, std::shared_ptr<const LevelPyramid> pyramid)
 {
-    if (!m_history || position < 0 || position >= m_history->count() || lineCount() == 0) {
-        m_position = m_history && position < m_history->count() ? position : -1;
+    if (!d->history || position < 0 || position >= d->history->count() || d->lineCount() == 0) {
+        d->position = d->history && position < d->history->count() ? position : -1;
         update();
         return;
     }
-    const qsizetype before = m_position;
-    const qsizetype oldest = position - lineCount() + 1;
-    m_position = position;
-    if (before < 0 || std::abs(position - before) >= lineCount()) {
-        m_pyramids.assign(m_pyramids.size(), nullptr);
-        m_pyramids[static_cast<size_t>(imageRow(position))] = std::move(pyramid);
-        drawLines(oldest, position);
+    d->forgetOld();
+    const qsizetype before = d->position;
+    const qsizetype oldest = position - d->lineCount() + 1;
+    d->position = position;
+    if (before < 0 || std::abs(position - before) >= d->lineCount()) {
+        d->pyramids.assign(d->pyramids.size(), nullptr);
+        d->pyramidOf(position) = std::move(pyramid);
+        d->drawLines(oldest, position);
     } else if (position > before) {
         for (qsizetype sweep = before + 1; sweep <= position; ++sweep)
-            m_pyramids[static_cast<size_t>(imageRow(sweep))] = nullptr;
-        m_pyramids[static_cast<size_t>(imageRow(position))] = std::move(pyramid);
-        drawLines(before + 1, position);
+            d->pyramidOf(sweep) = nullptr;
+        d->pyramidOf(position) = std::move(pyramid);
+        d->drawLines(before + 1, position);
     } else {
         for (qsizetype sweep = oldest; sweep < oldest + before - position; ++sweep) {
             if (sweep >= 0)
-                m_pyramids[static_cast<size_t>(imageRow(sweep))] = nullptr;
+                d->pyramidOf(sweep) = nullptr;
         }
-        drawLines(oldest, oldest + before - position - 1);
+        d->drawLines(oldest, oldest + before - position - 1);
     }
     update();
 }
 
-void WaterfallPane::drawLines(qsizetype first, qsizetype last)
+void WaterfallPanePrivate::drawLines(qsizetype first, qsizetype last)
 {
-    for (qsizetype sweep = std::max(first, qsizetype{0}); sweep <= last; ++sweep)
+    for (qsizetype sweep = std::max(first, history->first()); sweep <= last; ++sweep)
         drawLine(sweep);
 }
 
-void WaterfallPane::drawLine(qsizetype sweep)
+void WaterfallPanePrivate::drawLine(qsizetype sweep)
 {
-    const ColumnView columns{visibleBand().low(), visibleBand().high()};
-    auto& pyramid = m_pyramids[static_cast<size_t>(imageRow(sweep))];
-    const auto bins = static_cast<qsizetype>(m_history->largestBinCount());
+    const ColumnView view{q->visibleBand().low(), q->visibleBand().high()};
+    auto& pyramid = pyramidOf(sweep);
+    const auto bins = static_cast<qsizetype>(history->largestBinCount());
     if (!pyramid && bins * lineCount() <= largestPyramidHistory)
-        pyramid = std::make_shared<LevelPyramid>(m_history->sweep(sweep));
+        pyramid = std::make_shared<LevelPyramid>(history->sweep(sweep));
     if (pyramid)
-        pyramid->reduceMaxima(columns, m_columns);
+        pyramid->reduceMaxima(view, columns);
     else
-        reduceToMaxima(m_history->sweep(sweep), columns, m_columns);
-    auto* pixel = reinterpret_cast<QRgb*>(m_image.scanLine(imageRow(sweep)));
-    for (const float maximum : m_columns)
-        *pixel++ = colorOf(maximum);
+        reduceToMaxima(history->sweep(sweep), view, columns);
+    auto* pixel = reinterpret_cast<QRgb*>(image.scanLine(imageRow(sweep)));
+    for (const float maximum : columns)
+        *pixel++ = q->colorOf(maximum);
 }
 
 QRgb WaterfallPane::colorOf(float level) const
 {
-    const double share = (static_cast<double>(level) - m_lowLevel) / (m_highLevel - m_lowLevel);
-    const double index = std::clamp(share, 0.0, 1.0) * static_cast<double>(m_ramp.size() - 1);
-    return m_ramp[static_cast<size_t>(index)];
+    const double share = (static_cast<double>(level) - d->lowLevel) / (d->highLevel - d->lowLevel);
+    const double index = std::clamp(share, 0.0, 1.0) * static_cast<double>(d->ramp.size() - 1);
+    return d->ramp[static_cast<size_t>(index)];
 }
 
-void WaterfallPane::redrawAll()
+void WaterfallPanePrivate::redrawAll()
 {
-    if (m_history && m_position >= 0 && lineCount() > 0)
-        drawLines(m_position - lineCount() + 1, m_position);
-    update();
+    if (history)
+        forgetOld();
+    if (history && history->first() > position - lineCount())
+        image.fill(QColor(ramp.front())); // sweeps that are gone cannot be drawn anew
+    if (history && position >= 0 && lineCount() > 0)
+        drawLines(position - lineCount() + 1, position);
+    q->update();
 }
 
-void WaterfallPane::rebuild()
+void WaterfallPanePrivate::rebuild()
 {
-    const int lines = (height() + linePixels - 1) / linePixels;
-    if (m_image.width() == width() && lineCount() == lines)
+    const int lines = (q->height() + WaterfallPane::linePixels - 1) / WaterfallPane::linePixels;
+    if (image.width() == q->width() && lineCount() == lines)
         return;
     // The rows belong to other sweeps when their number changes; the pyramids move with them.
     std::vector<std::shared_ptr<const LevelPyramid>> kept(static_cast<size_t>(lines));
-    for (qsizetype sweep = m_position; lines > 0 && isShown(sweep) && sweep > m_position - lines;
+    for (qsizetype sweep = position; lines > 0 && isShown(sweep) && sweep > position - lines;
          --sweep)
-        kept[static_cast<size_t>(lines - 1 - sweep % lines)] =
-            m_pyramids[static_cast<size_t>(imageRow(sweep))];
-    m_pyramids = std::move(kept);
-    m_image = QImage(width(), lines, QImage::Format_RGB32);
-    m_image.fill(m_ramp.front());
-    m_columns.resize(static_cast<size_t>(width()));
+        kept[static_cast<size_t>(lines - 1 - sweep % lines)] = pyramidOf(sweep);
+    pyramids = std::move(kept);
+    image = QImage(q->width(), lines, QImage::Format_RGB32);
+    image.fill(ramp.front());
+    columns.resize(static_cast<size_t>(q->width()));
     redrawAll();
 }
 
 void WaterfallPane::resizeEvent(QResizeEvent* event)
 {
     BandPane::resizeEvent(event);
-    rebuild();
+    d->rebuild();
 }
 
 void WaterfallPane::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const int lines = static_cast<int>(std::min<qsizetype>(m_position + 1, lineCount()));
+    const int lines = static_cast<int>(std::min<qsizetype>(d->position + 1, d->lineCount()));
     if (lines > 0) {
-        const int newest = imageRow(m_position);
-        const int upper = std::min(lines, static_cast<int>(lineCount()) - newest);
-        painter.drawImage(QRect(0, 0, width(), upper * linePixels), m_image,
+        const int newest = d->imageRow(d->position);
+        const int upper = std::min(lines, static_cast<int>(d->lineCount()) - newest);
+        painter.drawImage(QRect(0, 0, width(), upper * linePixels), d->image,
                           QRect(0, newest, width(), upper));
         if (upper < lines)
             painter.drawImage(QRect(0, upper * linePixels, width(), (lines - upper) * linePixels),
-                              m_image, QRect(0, 0, width(), lines - upper));
+                              d->image, QRect(0, 0, width(), lines - upper));
     }
     painter.fillRect(0, lines * linePixels, width(), height() - lines * linePixels,
-                     QColor(m_ramp.front()));
-    if (m_position == 0 && m_history && m_history->count() > 1) {
+                     QColor(d->ramp.front()));
+    if (d->position == 0 && d->history && d->history->count() > 1) {
         painter.setPen(paneColor(PaneSlot::ReadOut));
-        painter.drawText(rect(), Qt::AlignCenter, m_hint);
+        painter.drawText(rect(), Qt::AlignCenter, d->hint);
     }
     paintOverlay(painter);
+    if (d->isLegendVisible)
+        d->paintLegend(painter);
+}
+
+void WaterfallPanePrivate::paintLegend(QPainter& painter) const
+{
+    const QFontMetrics metrics = q->fontMetrics();
+    const auto textOf = [](double level) { return QStringLiteral("%1 dB").arg(qRound(level)); };
+    const QString low = textOf(lowLevel);
+    const QString high = textOf(highLevel);
+    const int lowWidth = metrics.horizontalAdvance(low);
+    const int highWidth = metrics.horizontalAdvance(high);
+    const int width = lowWidth + highWidth + legendWidth + 4 * legendMargin;
+    const QRect box(q->width() - width - legendMargin, legendMargin, width,
+                    metrics.height() + 2 * legendMargin);
+    painter.fillRect(box, q->palette().color(QPalette::Window));
+    QImage bar(static_cast<int>(ramp.size()), 1, QImage::Format_RGB32);
+    std::ranges::copy(ramp, reinterpret_cast<QRgb*>(bar.scanLine(0)));
+    const QRect inside = box.adjusted(legendMargin, legendMargin, -legendMargin, -legendMargin);
+    painter.drawImage(inside.adjusted(lowWidth + legendMargin, 0, -highWidth - legendMargin, 0),
+                      bar);
+    painter.setPen(q->palette().color(QPalette::WindowText));
+    painter.drawText(inside, Qt::AlignLeft | Qt::AlignVCenter, low);
+    painter.drawText(inside, Qt::AlignRight | Qt::AlignVCenter, high);
 }
 
 qsizetype WaterfallPane::sweepAt(int y) const
 {
-    const qsizetype sweep = y < 0 ? -1 : m_position - y / linePixels;
-    return isShown(sweep) ? sweep : -1;
+    const qsizetype sweep = y < 0 ? -1 : d->position - y / linePixels;
+    return d->isShown(sweep) ? sweep : -1;
 }
 
 std::vector<AxisTick> WaterfallPane::timeTicks(int pixels, const TimeText& text) const
@@ -191,10 +300,10 @@ std::vector<AxisTick> WaterfallPane::timeTicks(int pixels, const TimeText& text)
     const double needed = 2.0 * fontMetrics().height() / linePixels;
     const auto step = static_cast<qsizetype>(std::max(niceStep(needed), 1.0));
     std::vector<AxisTick> ticks;
-    for (qsizetype sweep = m_position - m_position % step; isShown(sweep); sweep -= step) {
-        const double fromTop = static_cast<double>(m_position - sweep) * linePixels;
+    for (qsizetype sweep = d->position - d->position % step; d->isShown(sweep); sweep -= step) {
+        const double fromTop = static_cast<double>(d->position - sweep) * linePixels;
         ticks.push_back({static_cast<double>(sweep), pixels - 1 - fromTop - linePixels / 2.0,
-                         text(m_history->sweep(sweep).timeUs)});
+                         text(d->history->sweep(sweep).timeUs)});
     }
     return ticks;
 }

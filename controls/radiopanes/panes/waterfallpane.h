@@ -3,18 +3,18 @@
 
 #include "bandpane.h"
 
-#include <radiopanes/colors/panecolors.h>
+#include <radiopanes/colors/colormap.h>
 #include <radiopanes/core/axisticks.h>
 #include <radiopanes/core/columnreducer.h>
 #include <radiopanes/radiopanes_export.h>
-
-#include <QImage>
 
 #include <functional>
 #include <memory>
 #include <vector>
 
 namespace RadioPanes {
+
+class WaterfallPanePrivate;
 
 /// Shows the sweeps up to the current one, newest line on top, levels as colours.
 ///
@@ -40,8 +40,14 @@ public:
     /// A text that is shown as long as there is one line only, but more could follow; none at
     /// first.
     void setHint(const QString& text);
-    /// The levels of the first and the last colour, in dB.
+    /// The levels of the first and the last colour, in dB; 1 dB apart at least.
     void setLevelRange(double low, double high);
+    /// ColorMap::ColorSet at first.
+    void setColorMap(ColorMap map);
+    ColorMap colorMap() const;
+    /// A bar of the colours with the levels at its ends, in the upper right corner; not at first.
+    void setLegendVisible(bool visible);
+    bool isLegendVisible() const;
 
     /// Times for a scale of `pixels` pixels beside the pane, counted from its bottom.
     std::vector<AxisTick> timeTicks(int pixels, const TimeText& text) const;
@@ -62,23 +68,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    qsizetype lineCount() const { return m_image.height(); }
-    bool isShown(qsizetype sweep) const;
-    int imageRow(qsizetype sweep) const;
-    void drawLine(qsizetype sweep);
-    void drawLines(qsizetype first, qsizetype last);
-    void redrawAll();
-    void rebuild();
-
-    std::shared_ptr<const SweepHistory> m_history;
-    QString m_hint;
-    qsizetype m_position = -1;
-    double m_lowLevel = -120;
-    double m_highLevel = 0;
-    ColorRamp m_ramp;
-    QImage m_image; ///< One row per line; sweep i in row lineCount() - 1 - i % lineCount().
-    std::vector<std::shared_ptr<const LevelPyramid>> m_pyramids; ///< Beside the rows of the image.
-    std::vector<float> m_columns;                                ///< The highest levels.
+    std::unique_ptr<WaterfallPanePrivate> d;
 };
 
 } // namespace RadioPanes

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <radiopanes/core/axisticks.h>
 #include "support/testrows.h"
+#include <radiopanes/core/axisticks.h>
 
 #include <cmath>
 

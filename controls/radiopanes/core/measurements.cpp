@@ -1,0 +1,249 @@
+// SPDX-License-Identifier: MIT
+#include "measurements.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace RadioPanes {
+
+namespace {
+
+BinLevel binOf(const Segment& hop, std::size_t index)
+{
+    return {hop.startHz + (static_cast<double>(index) + 0.5) * hop.stepHz, hop.stepHz,
+            hop.levels[index]};
+}
+
+/// A bin by its hop and its number there.
+struct Place
+{
+    const Segment* hop = nullptr;
+    std::size_t index = 0;
+};
+
+/// Where hops overlap, the one with the highest start counts.
+Place placeOf(const Sweep& sweep, double hertz)
+{
+    for (auto hop = sweep.segments.rbegin(); hop != sweep.segments.rend(); ++hop) {
+        const double index = std::floor((hertz - hop->startHz) / hop->stepHz);
+        if (index >= 0 && index < static_cast<double>(hop->levels.size()))
+            return {&*hop, static_cast<std::size_t>(index)};
+    }
+    return {};
+}
+
+/// The bins of a hop whose centres lie from `lowHz` to `highHz`: first and end.
+std::pair<std::size_t, std::size_t> binsBetween(const Segment& hop, double lowHz, double highHz)
+{
+    const auto count = static_cast<double>(hop.levels.size());
+    const double first = std::ceil((lowHz - hop.startHz) / hop.stepHz - 0.5);
+    const double end = std::floor((highHz - hop.startHz) / hop.stepHz - 0.5) + 1;
+    if (!(end > first))
+        return {0, 0};
+    return {static_cast<std::size_t>(std::clamp(first, 0.0, count)),
+            static_cast<std::size_t>(std::clamp(end, 0.0, count))};
+}
+
+/// Finds the peaks of the levels that it is told one after the other.
+class PeakFinder
+{
+public:
+    explicit PeakFinder(float excursion)
+        : m_excursion(excursion)
+    {}
+
+    /// True when the highest level so far, at peak(), turns out to be a peak.
+    bool next(std::size_t index, float level)
+    {
+        if (m_rises && !(level >= m_highest - m_excursion)) { // also without a level
+            m_rises = false;
+            m_lowest = level != level ? nothing : level;
+            return true;
+        }
+        if (m_rises ? level > m_highest : level >= m_lowest + m_excursion) {
+            m_rises = true;
+            m_highest = level;
+            m_peak = index;
+        } else if (!m_rises)
+            m_lowest = level != level ? nothing : std::min(m_lowest, level);
+        return false;
+    }
+    std::size_t peak() const { return m_peak; }
+    /// Behind the last level it falls: whether that made a peak.
+    bool end() const { return m_rises; }
+
+private:
+    static constexpr float nothing = -std::numeric_limits<float>::infinity();
+
+    float m_excursion;
+    bool m_rises = false;
+    float m_highest = 0;
+    float m_lowest = nothing;
+    std::size_t m_peak = 0;
+};
+
+/// Calls `found(index)` for each peak of the hop, from its one end to the other, until it says
+/// true.
+template <typename Found>
+void forEachPeak(const Segment& hop, Direction direction, float excursion, Found found)
+{
+    PeakFinder finder(excursion);
+    const std::size_t count = hop.levels.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t index = direction == Direction::Up ? i : count - 1 - i;
+        if (finder.next(index, hop.levels[index]) && found(finder.peak()))
+            return;
+    }
+    if (finder.end())
+        found(finder.peak());
+}
+
+double powerOf(float level)
+{
+    return level != level ? 0 : std::pow(10, static_cast<double>(level) / 10);
+}
+
+} // namespace
+
+std::optional<BinLevel> binAt(const Sweep& sweep, double hertz)
+{
+    const Place place = placeOf(sweep, hertz);
+    if (place.hop == nullptr || std::isnan(place.hop->levels[place.index]))
+        return std::nullopt;
+    return binOf(*place.hop, place.index);
+}
+
+std::optional<BinLevel> highestNear(const Sweep& sweep, double hertz, double reachHz)
+{
+    std::optional<BinLevel> highest;
+    for (const Segment& hop : sweep.segments) {
+        const auto [first, end] = binsBetween(hop, hertz - reachHz, hertz + reachHz);
+        for (std::size_t i = first; i < end; ++i) {
+            const BinLevel bin = binOf(hop, i);
+            const auto isNearer = [&] {
+                return std::abs(bin.hertz - hertz) < std::abs(highest->hertz - hertz);
+            };
+            if (std::isnan(bin.levelDb))
+                continue;
+            if (!highest || bin.levelDb > highest->levelDb ||
+                (bin.levelDb == highest->levelDb && isNearer()))
+                highest = bin;
+        }
+    }
+    return highest;
+}
+
+std::optional<BinLevel> nextPeak(const Sweep& sweep, double hertz, Direction direction,
+                                 float excursionDb)
+{
+    std::optional<BinLevel> nearest;
+    const bool up = direction == Direction::Up;
+    for (const Segment& hop : sweep.segments) {
+        if (up ? hop.endHz() <= hertz : hop.startHz >= hertz)
+            continue;
+        forEachPeak(hop, direction, excursionDb, [&](std::size_t index) {
+            const BinLevel bin = binOf(hop, index);
+            // The bin that covers the frequency is no next one.
+            if ((up ? bin.hertz - hertz : hertz - bin.hertz) <= bin.stepHz / 2)
+                return false;
+            if (!nearest || (up ? bin.hertz < nearest->hertz : bin.hertz > nearest->hertz))
+                nearest = bin;
+            return true;
+        });
+    }
+    return nearest;
+}
+
+std::optional<Extent> widthBelow(const Sweep& sweep, double hertz, float dropDb)
+{
+    const Place place = placeOf(sweep, hertz);
+    if (place.hop == nullptr || std::isnan(place.hop->levels[place.index]))
+        return std::nullopt;
+    const std::span<const float> levels = place.hop->levels;
+    const float edge = levels[place.index] - dropDb;
+    std::size_t first = place.index;
+    std::size_t last = place.index;
+    while (first > 0 && levels[first - 1] >= edge)
+        --first;
+    while (last + 1 < levels.size() && levels[last + 1] >= edge)
+        ++last;
+    if (first == 0 || last + 1 == levels.size())
+        return std::nullopt;
+    const auto edgeHz = [&](std::size_t index) {
+        return place.hop->startHz + static_cast<double>(index) * place.hop->stepHz;
+    };
+    return Extent{edgeHz(first), edgeHz(last + 1)};
+}
+
+std::optional<Extent> occupiedWidth(const Sweep& sweep, const Extent& range, double share)
+{
+    struct Bin
+    {
+        Extent extent;
+        double power;
+    };
+    std::vector<Bin> bins;
+    double total = 0;
+    for (const Segment& hop : sweep.segments) {
+        const auto [first, end] = binsBetween(hop, range.lowHz, range.highHz);
+        for (std::size_t i = first; i < end; ++i) {
+            const double low = hop.startHz + static_cast<double>(i) * hop.stepHz;
+            bins.push_back({{low, low + hop.stepHz}, powerOf(hop.levels[i])});
+            total += bins.back().power;
+        }
+    }
+    if (!(total > 0) || !std::isfinite(total))
+        return std::nullopt;
+    const double outside = total * (1 - std::clamp(share, 0.0, 1.0)) / 2;
+    std::size_t first = 0;
+    for (double sum = 0; first + 1 < bins.size(); ++first) {
+        sum += bins[first].power;
+        if (sum > outside)
+            break;
+    }
+    std::size_t last = bins.size() - 1;
+    for (double sum = 0; last > first; --last) {
+        sum += bins[last].power;
+        if (sum > outside)
+            break;
+    }
+    return Extent{bins[first].extent.lowHz, bins[last].extent.highHz};
+}
+
+LevelRange usualLevels(std::span<const Sweep> sweeps, double outside)
+{
+    constexpr int stepsPerDecibel = 10;
+    constexpr int limit = 500 * stepsPerDecibel;
+    constexpr std::size_t leastIgnored = 2;
+    std::vector<std::size_t> counts(2 * limit + 1);
+    std::size_t total = 0;
+    for (const Sweep& sweep : sweeps) {
+        for (const Segment& hop : sweep.segments) {
+            for (const float level : hop.levels) {
+                if (level != level)
+                    continue;
+                const float step = std::clamp(level * stepsPerDecibel, -1.0F * limit, 1.0F * limit);
+                ++counts[static_cast<std::size_t>(std::lround(step) + limit)];
+                ++total;
+            }
+        }
+    }
+    if (total == 0)
+        return {};
+    const auto share = static_cast<std::size_t>(static_cast<double>(total) * outside);
+    const std::size_t ignored = std::min(std::max(share, leastIgnored), (total - 1) / 2);
+    const auto levelBehind = [ignored](auto first, auto end) {
+        std::size_t sum = 0;
+        return std::find_if(first, end,
+                            [&](std::size_t count) { return (sum += count) > ignored; });
+    };
+    const auto levelOf = [](std::ptrdiff_t index) {
+        return static_cast<float>(index - limit) / stepsPerDecibel;
+    };
+    const auto lowest = levelBehind(counts.begin(), counts.end()) - counts.begin();
+    const auto highest = counts.rend() - levelBehind(counts.rbegin(), counts.rend()) - 1;
+    return {levelOf(lowest), levelOf(highest)};
+}
+
+} // namespace RadioPanes

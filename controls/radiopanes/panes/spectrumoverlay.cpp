@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+#include "spectrumpane_p.h"
+
+#include "frequencytext.h"
+#include "visibleband.h"
+
+#include <radiopanes/colors/panecolors.h>
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace RadioPanes {
+
+namespace {
+
+constexpr int boxMargin = 6;
+constexpr double pointRadius = 3;
+constexpr int swatchWidth = 16;
+constexpr int swatchHeight = 3;
+
+QString levelText(std::optional<float> level)
+{
+    return level ? QStringLiteral("%1 dB").arg(static_cast<double>(*level), 0, 'f', 1)
+                 : QStringLiteral("– dB");
+}
+
+} // namespace
+
+double SpectrumPanePrivate::yOf(double level) const
+{
+    return q->height() - 1 - AxisRange{lowLevel, highLevel, q->height()}.positionOf(level);
+}
+
+void SpectrumPanePrivate::paintReferenceLevels(QPainter& painter) const
+{
+    if (referenceLevels.empty())
+        return;
+    // The points in view, and the next one on either side for the line that leaves it.
+    const VisibleBand& band = q->visibleBand();
+    auto first = std::ranges::lower_bound(referenceLevels, band.low(), {}, &LevelPoint::hertz);
+    auto last = std::ranges::upper_bound(referenceLevels, band.high(), {}, &LevelPoint::hertz);
+    first -= first != referenceLevels.begin() ? 1 : 0;
+    last += last != referenceLevels.end() ? 1 : 0;
+    QPolygonF line;
+    for (auto point = first; point != last; ++point)
+        line << QPointF(q->positionOf(point->hertz), yOf(point->levelDb));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(paneColor(PaneSlot::ReferenceLine), 1.5));
+    painter.drawPolyline(line);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(paneColor(PaneSlot::ReferencePoint));
+    for (const QPointF& point : std::as_const(line))
+        painter.drawEllipse(point, pointRadius, pointRadius);
+    painter.restore();
+}
+
+void SpectrumPanePrivate::paintThreshold(QPainter& painter) const
+{
+    if (!thresholdDb || *thresholdDb < lowLevel || *thresholdDb > highLevel)
+        return;
+    painter.setPen(QPen(paneColor(PaneSlot::ReferenceLine), 1, Qt::DashLine));
+    const int y = static_cast<int>(std::ceil(yOf(*thresholdDb)));
+    painter.drawLine(0, y, q->width() - 1, y);
+}
+
+void SpectrumPanePrivate::paintPinNumbers(QPainter& painter) const
+{
+    painter.setPen(paneColor(PaneSlot::Pin));
+    int number = 0;
+    for (const double pin : q->visibleBand().pins()) {
+        const int x = static_cast<int>(q->positionOf(pin));
+        painter.drawText(x + 3, q->height() - 5, QString::number(++number));
+    }
+}
+
+QString SpectrumPanePrivate::readOutLine(const QString& title, double hertz) const
+{
+    const Sweep& live = trace(Trace::Live).sweep;
+    const std::optional<BinLevel> bin = binAt(live, hertz);
+    QString line = QStringLiteral("%1  %2  %3")
+                       .arg(title, text->rounded(hertz, bin ? bin->stepHz : 0),
+                            levelText(live.levelAt(hertz)));
+    const std::array held{std::pair(Trace::Maximum, SpectrumPane::tr("  (hold %1)")),
+                          std::pair(Trace::Average, SpectrumPane::tr("  (average %1)")),
+                          std::pair(Trace::Minimum, SpectrumPane::tr("  (minimum %1)"))};
+    for (const auto& [kind, pattern] : held) {
+        if (trace(kind).isShown())
+            line += pattern.arg(levelText(trace(kind).sweep.levelAt(hertz)));
+    }
+    return line;
+}
+
+QString SpectrumPanePrivate::difference(double hertz, double fromHertz) const
+{
+    const Sweep& live = trace(Trace::Live).sweep;
+    const std::optional<BinLevel> bin = binAt(live, hertz);
+    const std::optional<BinLevel> from = binAt(live, fromHertz);
+    if (!bin || !from)
+        return {};
+    const double step = std::max(bin->stepHz, from->stepHz);
+    const double levels = static_cast<double>(bin->levelDb) - static_cast<double>(from->levelDb);
+    return QStringLiteral("  Δ1 %1  %2 dB")
+        .arg(text->rounded(bin->hertz - from->hertz, step))
+        .arg(levels, 0, 'f', 1);
+}
+
+QString SpectrumPanePrivate::widths(double hertz) const
+{
+    const Sweep& live = trace(Trace::Live).sweep;
+    const VisibleBand& band = q->visibleBand();
+    const auto widthText = [](const std::optional<Extent>& extent) {
+        return extent ? FrequencyText::width(extent->widthHz()) : QStringLiteral("–");
+    };
+    return SpectrumPane::tr("-3 dB  %1,  99 % of the view  %2")
+        .arg(widthText(widthBelow(live, hertz)),
+             widthText(occupiedWidth(live, {band.low(), band.high()})));
+}
+
+QStringList SpectrumPanePrivate::readOut() const
+{
+    const VisibleBand& band = q->visibleBand();
+    QStringList lines;
+    if (!caption.isEmpty())
+        lines << caption;
+    lines << readOutLine(SpectrumPane::tr("Cursor"), band.cursor());
+    if (areWidthsVisible)
+        lines << widths(band.cursor());
+    int number = 0;
+    for (const double pin : band.pins()) {
+        QString line = readOutLine(SpectrumPane::tr("Pin %1").arg(++number), pin);
+        if (number > 1)
+            line += difference(pin, band.pins().front());
+        lines << line;
+    }
+    return lines;
+}
+
+QRect SpectrumPanePrivate::readOutRect() const
+{
+    const QFontMetrics metrics = q->fontMetrics();
+    int textWidth = 0;
+    const QStringList lines = readOut();
+    for (const QString& line : lines)
+        textWidth = std::max(textWidth, metrics.horizontalAdvance(line));
+    const int boxWidth = textWidth + 2 * boxMargin;
+    const int boxHeight = static_cast<int>(lines.size()) * metrics.height() + boxMargin;
+    // At the right, unless the cursor is there.
+    const int right = q->width() - boxWidth - boxMargin;
+    const bool cursorAtRight = q->positionOf(q->visibleBand().cursor()) >= right - boxMargin;
+    return {cursorAtRight ? boxMargin : right, boxMargin, boxWidth, boxHeight};
+}
+
+void SpectrumPanePrivate::paintBox(QPainter& painter, const QRect& place) const
+{
+    QColor box = paneColor(PaneSlot::BackgroundLow);
+    box.setAlphaF(0.75F);
+    painter.fillRect(place, box);
+    painter.setPen(paneColor(PaneSlot::ReadOut));
+}
+
+void SpectrumPanePrivate::paintReadOut(QPainter& painter) const
+{
+    const QRect place = readOutRect();
+    paintBox(painter, place);
+    painter.drawText(place.adjusted(boxMargin, boxMargin / 2, 0, 0),
+                     Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip,
+                     readOut().join(QLatin1Char('\n')));
+}
+
+void SpectrumPanePrivate::paintLegend(QPainter& painter) const
+{
+    std::vector<Trace> shown;
+    int textWidth = 0;
+    const QFontMetrics metrics = q->fontMetrics();
+    for (int number = 0; number < traceCount; ++number) {
+        const auto kind = static_cast<Trace>(number);
+        if (!trace(kind).isShown())
+            continue;
+        shown.push_back(kind);
+        textWidth = std::max(textWidth, metrics.horizontalAdvance(SpectrumPane::traceName(kind)));
+    }
+    if (!isLegendVisible || shown.size() < 2)
+        return;
+    const int lineHeight = metrics.height();
+    QRect place(boxMargin, boxMargin, textWidth + swatchWidth + 3 * boxMargin,
+                static_cast<int>(shown.size()) * lineHeight + boxMargin);
+    const QRect taken = readOutRect();
+    if (place.intersects(taken)) // below the read-out, where that stands at the left
+        place.moveTop(taken.bottom() + boxMargin);
+    paintBox(painter, place);
+    QRect line(place.x() + boxMargin, place.y() + boxMargin / 2, place.width(), lineHeight);
+    for (const Trace kind : shown) {
+        painter.fillRect(line.x(), line.center().y() - 1, swatchWidth, swatchHeight,
+                         paneColor(traceSlot(kind)));
+        painter.drawText(line.adjusted(swatchWidth + boxMargin, 0, 0, 0),
+                         Qt::AlignLeft | Qt::AlignVCenter, SpectrumPane::traceName(kind));
+        line.translate(0, lineHeight);
+    }
+}
+
+} // namespace RadioPanes

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "spectrumpane.h"
+
+#include <QImage>
+
+#include <array>
+
+class QPainter;
+
+namespace RadioPanes {
+
+/// What a SpectrumPane shows, and the picture of its background, grid and traces, which is drawn
+/// anew only when one of them has changed.
+class SpectrumPanePrivate
+{
+public:
+    struct TraceState
+    {
+        Sweep sweep;
+        std::shared_ptr<const LevelPyramid> pyramid;
+        bool isVisible = false;
+        std::vector<LevelRange> columns; ///< Of the picture's width, for `view`.
+        ColumnView view;
+
+        bool isShown() const { return isVisible && !sweep.isEmpty(); }
+    };
+
+    SpectrumPanePrivate(SpectrumPane* pane, const FrequencyText* frequencyText,
+                        SpectrumPane::GridTicks ticks);
+    ~SpectrumPanePrivate();
+
+    TraceState& trace(Trace kind) { return traces[static_cast<std::size_t>(kind)]; }
+    const TraceState& trace(Trace kind) const { return traces[static_cast<std::size_t>(kind)]; }
+    /// The picture, in device pixels, as it is to be now.
+    const QImage& picture();
+    void invalidate() { isDrawn = false; }
+
+    // What is painted over the picture.
+    void paintReferenceLevels(QPainter& painter) const;
+    void paintThreshold(QPainter& painter) const;
+    void paintPinNumbers(QPainter& painter) const;
+    void paintReadOut(QPainter& painter) const;
+    void paintLegend(QPainter& painter) const;
+
+    double yOf(double level) const;
+    QStringList readOut() const;
+    QRect readOutRect() const;
+
+    SpectrumPane* q;
+    const FrequencyText* text;
+    SpectrumPane::GridTicks frequencyTicks;
+    std::array<TraceState, traceCount> traces;
+    std::vector<LevelPoint> referenceLevels;
+    std::optional<double> thresholdDb;
+    QString caption;
+    bool isLegendVisible = true;
+    bool areWidthsVisible = false;
+    double lowLevel = -120;
+    double highLevel = 0;
+    QRect paintedReadOut;
+
+private:
+    /// All that the picture depends on, but the traces.
+    struct PictureKey
+    {
+        QSize pixels;
+        double low = 0;
+        double high = 0;
+        ColumnView view;
+        std::vector<QRgb> colors;
+        std::vector<int> gridRows;
+        std::vector<int> gridColumns;
+
+        bool operator==(const PictureKey&) const = default;
+    };
+    /// The pixels that a trace takes in each column.
+    struct Pixels
+    {
+        std::vector<int> top;
+        std::vector<int> bottom;
+    };
+
+    PictureKey makeKey() const;
+    void draw();
+    void reduce(TraceState& state) const;
+    void makeCurve(const TraceState& state, Pixels& place) const;
+    /// A line along the highest or lowest levels; returns the row of each column's level.
+    std::vector<int> makeOutline(const TraceState& state, float LevelRange::*level,
+                                 Pixels& place) const;
+    /// From the level to a row of the picture.
+    int rowOf(float level) const;
+    QString readOutLine(const QString& title, double hertz) const;
+    QString difference(double hertz, double fromHertz) const;
+    QString widths(double hertz) const;
+    void paintBox(QPainter& painter, const QRect& place) const;
+
+    PictureKey key;
+    double rowsPerDecibel = 1;
+    bool isDrawn = false;
+    QImage image;
+    std::array<Pixels, traceCount> pixels;
+    std::vector<int> shadowTop;
+};
+
+} // namespace RadioPanes

@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: MIT
+#include "support/guardedtest.h"
+#include "support/testrows.h"
+
+#include <radiopanes/colors/panecolors.h>
+#include <radiopanes/panes/levelpanes.h>
+#include <radiopanes/panes/spectrumpane.h>
+#include <radiopanes/panes/waterfallpane.h>
+
+#include <guibase/services/guibase.h>
+
+#include <QSignalSpy>
+#include <QWheelEvent>
+
+#include <cmath>
+
+using namespace RadioPanes;
+
+namespace {
+
+constexpr double startHz = -500e3; // baseband
+constexpr double stepHz = 1e3;
+constexpr int bins = 1000;
+const std::vector<int> carriers{200, 300, 800};
+
+/// Noise of -100 dB and carriers of -40 dB.
+std::vector<float> levels(float noise = -100)
+{
+    std::vector<float> result(bins, noise);
+    for (const int carrier : carriers)
+        result[static_cast<size_t>(carrier)] = -40;
+    return result;
+}
+
+double centreOf(int bin)
+{
+    return startHz + (bin + 0.5) * stepHz;
+}
+
+} // namespace
+
+class tst_LevelPanes : public GuardedTest
+{
+    Q_OBJECT
+    std::unique_ptr<LevelPanes> m_panes;
+    quint64 m_timeUs = 0;
+
+    VisibleBand& band() { return m_panes->visibleBand(); }
+    SpectrumPane& spectrum() { return m_panes->spectrum(); }
+    bool add(const std::vector<float>& sweep)
+    {
+        return m_panes->addSweep(++m_timeUs, startHz, stepHz, sweep);
+    }
+    void turnWheel(Qt::KeyboardModifiers modifiers, int angle)
+    {
+        const QPointF place(50, 50);
+        QWheelEvent event(place, spectrum().mapToGlobal(place), {}, {0, angle}, Qt::NoButton,
+                          modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&spectrum(), &event);
+    }
+    QPoint placeOf(double hertz) { return {static_cast<int>(spectrum().positionOf(hertz)), 90}; }
+    void drag(QPoint from, QPoint to, Qt::KeyboardModifiers modifiers)
+    {
+        QTest::mousePress(&spectrum(), Qt::LeftButton, modifiers, from);
+        QMouseEvent move(QEvent::MouseMove, to, spectrum().mapToGlobal(to), Qt::NoButton,
+                         Qt::LeftButton, modifiers);
+        QApplication::sendEvent(&spectrum(), &move);
+        QTest::mouseRelease(&spectrum(), Qt::LeftButton, modifiers, to);
+    }
+
+    void prepare() override
+    {
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
+        m_panes = std::make_unique<LevelPanes>();
+        m_panes->resize(1000, 600);
+        m_panes->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_panes.get()));
+        QVERIFY(add(levels()));
+    }
+    void tidy() override { m_panes.reset(); }
+
+private Q_SLOTS:
+    void levelsAndBandAreThoseOfTheSweeps()
+    {
+        QCOMPARE(band().bandLow(), startHz);
+        QCOMPARE(band().bandHigh(), startHz + bins * stepHz);
+        QVERIFY(spectrum().lowLevel() < -100 && spectrum().highLevel() > -40);
+        QVERIFY(!m_panes->addSweep(5, 0, 0, levels()));
+        QVERIFY(!m_panes->addSweep(5, 0, 1, std::span<const float>()));
+        spectrum().setLevelRange(-77, -33);
+        for (int i = 0; i < 20; ++i)
+            QVERIFY(add(levels()));
+        QCOMPARE(spectrum().lowLevel(), -77.0); // the operator's own
+        QVERIFY(m_panes->addSweep(6, 1e6, 1e3, levels()));
+        QCOMPARE(band().bandLow(), 1e6);
+    }
+
+    void oldSweepsGoAndThePicturesStay()
+    {
+        m_panes->clear(10 * bins * sizeof(float));
+        for (int i = 0; i < 60; ++i)
+            QVERIFY(add(levels()));
+        QVERIFY(m_panes->history().first() > 40);
+        const auto picture = [this] { return m_panes->waterfall().grab().toImage(); };
+        const int x = placeOf(centreOf(300)).x();
+        const QRgb loud = m_panes->waterfall().colorOf(-40);
+        QCOMPARE(picture().pixel(x, 100), loud); // line 50, of a sweep that is gone
+        band().zoom(2, centreOf(300));
+        const int zoomed = placeOf(centreOf(300)).x();
+        QCOMPARE(picture().pixel(zoomed, 2), loud);
+        QVERIFY(picture().pixel(zoomed, 100) != loud);
+        m_panes->resize(700, 500);
+        QVERIFY(add(levels()));
+        m_panes->clear();
+        QVERIFY(spectrum().readOut().first().contains(QStringLiteral("– dB")));
+    }
+
+    void tracesAreToldApart_data()
+    {
+        TestRows<int> row;
+        for (int trace = 0; trace < traceCount; ++trace)
+            row.add(trace);
+    }
+
+    void tracesAreToldApart()
+    {
+        const auto trace = static_cast<Trace>(std::get<0>(TestRows<int>::fetch()));
+        spectrum().setLegendVisible(false);
+        for (int other = 0; other < traceCount; ++other)
+            spectrum().setTraceVisible(static_cast<Trace>(other), false);
+        const QColor color = paneColor(traceSlot(trace));
+        const auto isDrawn = [&] {
+            const QImage image = spectrum().grab().toImage();
+            const int x = placeOf(centreOf(600)).x();
+            for (int y = 0; y < image.height(); ++y) {
+                if (image.pixelColor(x, y) == color)
+                    return true;
+            }
+            return false;
+        };
+        QVERIFY(!isDrawn());
+        spectrum().setTraceVisible(trace, true);
+        for (const float noise : {-95.0F, -90.0F, -92.0F})
+            QVERIFY(add(levels(noise)));
+        QVERIFY(isDrawn());
+        spectrum().setLevelRange(0, 50);
+        QVERIFY(!isDrawn());
+        for (int other = 0; other < traceCount; ++other)
+            QVERIFY(other == static_cast<int>(trace) ||
+                    paneColor(traceSlot(static_cast<Trace>(other))) != color);
+    }
+
+    void levelsFollowWheelAndKeys()
+    {
+        QSignalSpy changed(&spectrum(), &SpectrumPane::levelRangeChanged);
+        spectrum().setLevelRange(-120, -20);
+        QCOMPARE(spectrum().decibelsPerDivision(), 10.0);
+        QTest::keyClick(&spectrum(), Qt::Key_Up);
+        QCOMPARE(spectrum().highLevel(), -10.0);
+        QTest::keyClick(&spectrum(), Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(spectrum().decibelsPerDivision(), 5.0);
+        turnWheel(Qt::ControlModifier, -120);
+        turnWheel(Qt::ShiftModifier, -120);
+        QCOMPARE(spectrum().highLevel(), -20.0);
+        QCOMPARE(spectrum().lowLevel(), -120.0);
+        QCOMPARE(changed.count(), 5);
+        spectrum().stepDecibelsPerDivision(99);
+        QCOMPARE(spectrum().decibelsPerDivision(), 50.0);
+        spectrum().stepDecibelsPerDivision(-99);
+        QCOMPARE(spectrum().decibelsPerDivision(), 1.0);
+        spectrum().stepReferenceLevel(1e9);
+        QVERIFY(spectrum().highLevel() <= 1000);
+        QVERIFY(band().showsAll());
+    }
+
+    void markersFindPeaks()
+    {
+        band().setCursor(centreOf(0));
+        QTest::keyClick(&spectrum(), Qt::Key_PageDown);
+        QCOMPARE(band().cursor(), centreOf(200));
+        band().setVisible(startHz, centreOf(250));
+        QVERIFY(spectrum().moveToPeak(Direction::Up)); // out of the view, which follows
+        QVERIFY(band().low() < centreOf(300) && band().high() > centreOf(300));
+        QTest::keyClick(&spectrum(), Qt::Key_PageUp);
+        QCOMPARE(band().cursor(), centreOf(200));
+        QVERIFY(!spectrum().moveToPeak(Direction::Down));
+        band().showAll();
+        // Dragged near a carrier: it snaps on request.
+        band().addPin(centreOf(700));
+        const QPoint nearby = placeOf(centreOf(800)) + QPoint(3, 0);
+        drag(placeOf(centreOf(700)), nearby, {});
+        QVERIFY(band().pins().front() > centreOf(801));
+        drag(nearby, placeOf(centreOf(798)) + QPoint(0, 40), Qt::ControlModifier);
+        QCOMPARE(band().pins(), std::vector<double>{centreOf(800)});
+        spectrum().setSnapping(true);
+        QTest::mouseClick(&spectrum(), Qt::LeftButton, {}, placeOf(centreOf(202)));
+        QCOMPARE(band().pins().size(), 2u);
+        QCOMPARE(band().pins().back(), centreOf(200));
+    }
+
+    void figuresAreNoFinerThanTheBins()
+    {
+        band().setCursor(centreOf(200) + 123.4); // -299.4 kHz
+        QVERIFY2(spectrum().readOut().first().contains(QStringLiteral("-299 kHz  -40.0 dB")),
+                 qPrintable(spectrum().readOut().first()));
+        band().addPin(centreOf(300));
+        band().addPin(centreOf(250));
+        QVERIFY2(spectrum().readOut().last().contains(QStringLiteral("-50 kHz  -60.0 dB")),
+                 qPrintable(spectrum().readOut().last()));
+        spectrum().setWidthsVisible(true);
+        QVERIFY2(spectrum().readOut().at(1).contains(QStringLiteral("1 kHz,")),
+                 qPrintable(spectrum().readOut().at(1)));
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Mega);
+        QVERIFY(spectrum().readOut().first().contains(QStringLiteral("-0.299 MHz")));
+    }
+};
+
+QTEST_MAIN(tst_LevelPanes)
+#include "tst_levelpanes.moc"

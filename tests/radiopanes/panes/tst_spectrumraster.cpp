@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "support/randombytes.h"
+
+#include <radiopanes/panes/spectrumraster_p.h>
+
+#include <QTest>
+
+using namespace RadioPanes;
+
+/// Drawing by rows must give what drawing each column by itself gives.
+class tst_SpectrumRaster : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void matchesColumnByColumn()
+    {
+        constexpr QRgb ground = qRgb(0, 0, 0);
+        constexpr QRgb shadow = qRgb(200, 0, 0); // at full opacity, to tell it from the ground
+        constexpr QRgb grid = qRgb(0, 0, 90);
+        const std::array colors{qRgb(0, 255, 0), qRgb(255, 255, 0)};
+        RandomBytes random("raster");
+        for (int round = RandomBytes::rounds(100); round > 0; --round) {
+            const int width = 1 + random.below(300);
+            const int height = 1 + random.below(120);
+            const auto rows = [&] {
+                std::vector<int> result(static_cast<size_t>(width));
+                const int first = random.below(height + 20) - 10;
+                for (int& row : result)
+                    row = first + random.below(1 + height / 4);
+                return result;
+            };
+            const std::vector<int> shadowTop = rows();
+            const std::array tops{rows(), rows()};
+            const std::array bottoms{rows(), rows()};
+            const std::array lines{SpectrumRaster::Line{tops[0], bottoms[0], colors[0]},
+                                   SpectrumRaster::Line{tops[1], bottoms[1], colors[1]}};
+            const std::vector<int> gridRows{height / 3, height / 2};
+            const std::vector<int> gridColumns{width / 3, width - 1};
+            SpectrumRaster::Content content{ground, ground, grid, gridRows, gridColumns,
+                                            {},     shadow, 1,    lines};
+            const bool hasShadow = random.below(2) == 0;
+            if (hasShadow)
+                content.shadowTop = shadowTop;
+            QImage image(width, height, QImage::Format_RGB32);
+            image.fill(Qt::magenta);
+            SpectrumRaster::draw(image, content);
+            for (int y = 0; y < height; ++y) {
+                for (int x = 0; x < width; ++x) {
+                    const auto column = static_cast<size_t>(x);
+                    const bool isDot = (x % 3 == 0 && (y == gridRows[0] || y == gridRows[1])) ||
+                                       (y % 3 == 0 && (x == gridColumns[0] || x == gridColumns[1]));
+                    QRgb expected = isDot ? grid : ground;
+                    if (hasShadow && y >= shadowTop[column])
+                        expected = shadow;
+                    for (size_t line = 0; line < lines.size(); ++line) {
+                        if (y >= tops[line][column] && y <= bottoms[line][column])
+                            expected = colors[line];
+                    }
+                    QCOMPARE(image.pixel(x, y), expected);
+                }
+            }
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_SpectrumRaster)
+#include "tst_spectrumraster.moc"
