@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Installs the build, moves the installation, and builds and runs against it, each as a project of
-# its own: the consumer, the quick start, and the application that the README shows.
+# its own: the consumer, the quick start, and the applications that the README shows.
 #   cmake -DPROJECT_DIR=… -DBUILD_DIR=… -DWORK_DIR=… -DCXX_FLAGS=… -DLAUNCHER=…
 #         [-DRELEASE=ON] -P check.cmake
 # With RELEASE the libraries are first built for release in BUILD_DIR; else that is a ready build,
@@ -27,18 +27,32 @@ function(install_and_move prefix)
     file(RENAME "${prefix}_before" "${prefix}")
 endfunction()
 
-# The first block of this language in the README.
-function(readme_block language result)
+# The block of this language in the README, counted from 0.
+function(readme_block language number result)
     file(READ "${PROJECT_DIR}/README.md" readme)
-    if(NOT readme MATCHES "```${language}\n([^`]+)```")
-        message(FATAL_ERROR "The README shows no ${language}")
-    endif()
-    set(${result} "${CMAKE_MATCH_1}" PARENT_SCOPE)
+    set(fence "```${language}\n")
+    string(LENGTH "${fence}" fence_length)
+    foreach(block RANGE ${number})
+        string(FIND "${readme}" "${fence}" begin)
+        if(begin EQUAL -1)
+            message(FATAL_ERROR "The README shows no ${language} number ${number}")
+        endif()
+        math(EXPR begin "${begin} + ${fence_length}")
+        string(SUBSTRING "${readme}" ${begin} -1 readme)
+    endforeach()
+    string(FIND "${readme}" "```" end)
+    string(SUBSTRING "${readme}" 0 ${end} block)
+    set(${result} "${block}" PARENT_SCOPE)
 endfunction()
 
-function(write_readme_project folder)
-    readme_block(cmake package)
-    readme_block(cpp program)
+# The application that the README shows with this number.
+function(write_readme_project folder number)
+    set(package "")
+    foreach(page RANGE ${number})
+        readme_block(cmake ${page} lines)
+        string(APPEND package "${lines}")
+    endforeach()
+    readme_block(cpp ${number} program)
     file(WRITE "${folder}/CMakeLists.txt"
         "cmake_minimum_required(VERSION 3.25)\nproject(myapplication LANGUAGES CXX)\n"
         "add_executable(myapplication main.cpp)\n${package}")
@@ -54,11 +68,11 @@ endfunction()
 
 # It ends in good order when it is asked to, and leaves its configuration. On a busy machine the
 # request can come before the program is ready for it: then it gets more time.
-function(run_until_asked_to_end name)
-    set(config "${WORK_DIR}/config/${name}")
+function(run_until_asked_to_end folder name)
+    set(config "${WORK_DIR}/config/${folder}")
     foreach(seconds IN ITEMS 1 4 16 64)
         execute_process(COMMAND "${CMAKE_COMMAND}" -E env "XDG_CONFIG_HOME=${config}"
-            timeout --preserve-status ${seconds} "${WORK_DIR}/${name}/${name}"
+            timeout --preserve-status ${seconds} "${WORK_DIR}/${folder}/${name}"
             RESULT_VARIABLE result)
         if(NOT result EQUAL 143) # ended by the signal itself
             break()
@@ -66,7 +80,7 @@ function(run_until_asked_to_end name)
     endforeach()
     file(GLOB_RECURSE stored "${config}/*.json")
     if(NOT result EQUAL 0 OR NOT stored)
-        message(FATAL_ERROR "${name} ended with ${result} and stored: ${stored}")
+        message(FATAL_ERROR "${folder} ended with ${result} and stored: ${stored}")
     endif()
 endfunction()
 
@@ -77,10 +91,12 @@ if(RELEASE)
     set(header_check "")
 endif()
 install_and_move("${WORK_DIR}/prefix")
-write_readme_project("${WORK_DIR}/readme")
 build_project("${PROJECT_DIR}/tests/consumer" consumer ${header_check})
 build_project("${PROJECT_DIR}/examples/quickstart" quickstart)
-build_project("${WORK_DIR}/readme" myapplication)
 run("${WORK_DIR}/consumer/consumer")
-run_until_asked_to_end(quickstart)
-run_until_asked_to_end(myapplication)
+run_until_asked_to_end(quickstart quickstart)
+foreach(number IN ITEMS 0 1)
+    write_readme_project("${WORK_DIR}/readme${number}" ${number})
+    build_project("${WORK_DIR}/readme${number}" myapplication${number})
+    run_until_asked_to_end(myapplication${number} myapplication)
+endforeach()
