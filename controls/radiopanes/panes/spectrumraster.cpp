@@ -75,13 +75,17 @@ public:
         for (int next = m_heads[static_cast<std::size_t>(row)]; next != none;) {
             const Change& change = m_changes[static_cast<std::size_t>(next)];
             Kind& kind = m_kinds[static_cast<std::size_t>(change.tile)];
-            m_within += (change.kind == Within ? 1 : 0) - (kind == Within ? 1 : 0);
+            if (kind == Within)
+                std::erase(m_within, change.tile);
+            if (change.kind == Within)
+                m_within.push_back(change.tile);
             kind = change.kind;
             next = change.next;
         }
         return m_kinds;
     }
-    bool hasWithin() const { return m_within > 0; }
+    /// The tiles of the kind Within in that row, in any order.
+    std::span<const int> within() const { return m_within; }
 
 private:
     static constexpr int none = -1;
@@ -105,7 +109,7 @@ private:
     std::vector<Kind> m_kinds;
     std::vector<int> m_heads; ///< The first change in each row.
     std::vector<Change> m_changes;
-    int m_within = 0;
+    std::vector<int> m_within;
 };
 
 class Drawing
@@ -183,11 +187,10 @@ private:
 
     void drawGrid(QRgb* row, int y, bool isGridRow) const
     {
-        const QRgb shaded = mixed(m_content.grid, m_content.shadow, m_content.shadowOpacity);
         const auto dot = [&](int x) {
             const bool isShaded = !m_content.shadowTop.empty() &&
                                   y >= m_content.shadowTop[static_cast<std::size_t>(x)];
-            row[x] = isShaded ? shaded : m_content.grid;
+            row[x] = isShaded ? m_shadedGrid : m_content.grid;
         };
         if (isGridRow) {
             for (int x = 0; x < m_width; x += dotDistance)
@@ -199,13 +202,8 @@ private:
 
     void drawLine(QRgb* row, int y, const SpectrumRaster::Line& line, TileKinds& tiles) const
     {
-        const std::span<const TileKinds::Kind> kinds = tiles.at(y);
-        if (!tiles.hasWithin())
-            return;
-        const auto count = static_cast<int>(kinds.size());
-        for (int tile = 0; tile < count; ++tile) {
-            if (kinds[static_cast<std::size_t>(tile)] != TileKinds::Within)
-                continue;
+        tiles.at(y);
+        for (const int tile : tiles.within()) {
             forTile(tile, m_width, [&](int x, auto width) {
                 const int* top = line.top.data() + x;
                 const int* bottom = line.bottom.data() + x;
@@ -219,6 +217,7 @@ private:
     QImage& m_image;
     int m_width;
     const SpectrumRaster::Content& m_content;
+    QRgb m_shadedGrid = mixed(m_content.grid, m_content.shadow, m_content.shadowOpacity);
     TileKinds m_ground;
     std::vector<TileKinds> m_lines;
     std::size_t m_gridRow = 0;
