@@ -3,6 +3,7 @@
 
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
+#include <guibase/colors/colorsetcodec.h>
 #include <guibase/services/guibase.h>
 #include <valueframework/undorecording.h>
 

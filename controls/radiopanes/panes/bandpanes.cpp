@@ -8,7 +8,8 @@
 #include <guibase/services/guibase.h>
 #include <guibase/splitters/splitter.h>
 
-#include <valueframework/selectionfollower.h>
+#include <valueframework/valuefollower.h>
+#include <valueframework/valueselection.h>
 
 #include <QActionGroup>
 #include <QGridLayout>
@@ -32,8 +33,8 @@ public:
     FrequencyAxis* frequencyAxis = nullptr;
     SideAxis* timeAxis = nullptr;
     WaterfallPane* waterfall = nullptr;
-    std::unique_ptr<SelectionFollower> unitFollower;
-    std::unique_ptr<SelectionFollower> zoneFollower;
+    std::unique_ptr<ValueFollower> unitFollower;
+    std::unique_ptr<ValueFollower> zoneFollower;
 };
 
 BandPanes::BandPanes(const QString& splitterName, const QString& splitterGroup, QWidget* parent)
@@ -68,8 +69,8 @@ BandPanes::BandPanes(const QString& splitterName, const QString& splitterGroup, 
     connect(d->waterfall, &BandPane::menuRequested, this, &BandPanes::showMenu);
     GuiBase& services = GuiBase::Instance();
     const auto refresh = [this] { refreshTexts(); };
-    d->unitFollower = std::make_unique<SelectionFollower>(services.GetFrequencyUnit(), refresh);
-    d->zoneFollower = std::make_unique<SelectionFollower>(services.GetTimeZone(), refresh);
+    d->unitFollower = std::make_unique<ValueFollower>(services.GetFrequencyUnit(), refresh);
+    d->zoneFollower = std::make_unique<ValueFollower>(services.GetTimeZone(), refresh);
     connect(d->spectrum, &SpectrumPane::levelRangeChanged, d->levelAxis,
             qOverload<>(&QWidget::update));
     connect(d->levelAxis, &SideAxis::dragged, d->spectrum, [this](int pixels) {

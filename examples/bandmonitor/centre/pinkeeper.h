@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/panenames.h"
 #include "settings/sessionvalues.h"
 
 #include <QObject>
 
 #include <functional>
 
-namespace bandmonitor {
-
+namespace RadioPanes {
 class VisibleBand;
+}
+
+namespace bandmonitor {
 
 /// Keeps the pins of a band in the session's value, where each change by the user is an undo step.
 /// Another recording gets the pins that lie in its band; the others wait for one that has them.
