@@ -12,8 +12,10 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPointer>
 
 #include <algorithm>
+#include <optional>
 
 namespace guiHelper {
 
@@ -32,9 +34,24 @@ std::optional<QByteArray> geometryOf(const QString& text)
 
 } // namespace
 
+struct QHeaderViewColumnHandler::Private
+{
+    QString key(const char* suffix) const;
+    std::optional<HeaderState> stateOf(const QString& text) const;
+    void restoreState(const HeaderState& state, int firstSection);
+    void restoreAwaited(int oldCount, int newCount);
+    void watchView();
+
+    QHeaderViewColumnHandler& q;
+    QPointer<QHeaderView> header;
+    QPointer<QWidget> view;
+    /// Restored while sections that it knows were missing.
+    std::optional<HeaderState> awaited;
+};
+
 QHeaderViewColumnHandler::QHeaderViewColumnHandler(const QString& name, QHeaderView* header)
     : QObject(header)
-    , m_header(header)
+    , d(new Private{*this, header, {}, {}})
 {
     setObjectName(name);
     if (header == nullptr)
@@ -43,96 +60,95 @@ QHeaderViewColumnHandler::QHeaderViewColumnHandler(const QString& name, QHeaderV
     connect(header, &QWidget::customContextMenuRequested, this,
             &QHeaderViewColumnHandler::sl_contextMenu);
     connect(header, &QHeaderView::sectionCountChanged, this,
-            &QHeaderViewColumnHandler::restoreAwaited);
+            [this](int oldCount, int newCount) { d->restoreAwaited(oldCount, newCount); });
     header->installEventFilter(this);
-    watchView();
+    d->watchView();
 }
 
 QHeaderViewColumnHandler::~QHeaderViewColumnHandler() = default;
 
-QString QHeaderViewColumnHandler::key(const char* suffix) const
+QString QHeaderViewColumnHandler::Private::key(const char* suffix) const
 {
-    return QStringLiteral("QHeaderViewColumnSettings_") + objectName() + QLatin1String(suffix);
+    return QStringLiteral("QHeaderViewColumnSettings_") + q.objectName() + QLatin1String(suffix);
 }
 
-std::optional<HeaderState> QHeaderViewColumnHandler::stateOf(const QString& text) const
+std::optional<HeaderState> QHeaderViewColumnHandler::Private::stateOf(const QString& text) const
 {
-    return HeaderState::fromText(text, m_header->orientation());
+    return HeaderState::fromText(text, header->orientation());
 }
 
 void QHeaderViewColumnHandler::saveColumnStatus()
 {
-    if (!m_header)
+    if (!d->header)
         return;
     const RecordStore store(SettingsView);
-    store.replace(key("_GEOM"), QString::fromLatin1(m_header->saveGeometry().toBase64()),
+    store.replace(d->key("_GEOM"), QString::fromLatin1(d->header->saveGeometry().toBase64()),
                   geometryDamage, geometryOf);
-    store.replace(key("_STATE"), QString::fromLatin1(m_header->saveState().toBase64()), stateDamage,
-                  [this](const QString& text) { return stateOf(text); });
+    store.replace(d->key("_STATE"), QString::fromLatin1(d->header->saveState().toBase64()),
+                  stateDamage, [this](const QString& text) { return d->stateOf(text); });
     CfgCenter::GetAppCfg(SettingsView)->Store();
 }
 
 void QHeaderViewColumnHandler::restoreColumnStatus()
 {
-    if (!m_header)
+    if (!d->header)
         return;
     const RecordStore store(SettingsView);
-    const auto geometry = store.read(key("_GEOM"), geometryDamage, geometryOf);
+    const auto geometry = store.read(d->key("_GEOM"), geometryDamage, geometryOf);
     // A view places its headers itself.
-    if (geometry && m_header->isWindow())
-        m_header->restoreGeometry(*geometry);
-    const auto state = store.read(key("_STATE"), stateDamage,
-                                  [this](const QString& text) { return stateOf(text); });
+    if (geometry && d->header->isWindow())
+        d->header->restoreGeometry(*geometry);
+    const auto state = store.read(d->key("_STATE"), stateDamage,
+                                  [this](const QString& text) { return d->stateOf(text); });
     if (state)
-        restoreState(*state, 0);
+        d->restoreState(*state, 0);
 }
 
-void QHeaderViewColumnHandler::restoreState(const HeaderState& state, int firstSection)
+void QHeaderViewColumnHandler::Private::restoreState(const HeaderState& state, int firstSection)
 {
-    m_awaited.reset();
-    QHeaderView& header = *m_header;
-    const auto count = std::min<qsizetype>(header.count(), state.sections.size());
+    awaited.reset();
+    const auto count = std::min<qsizetype>(header->count(), state.sections.size());
     const bool isWhole = count == state.sections.size();
-    if (isWhole && firstSection == 0 && state.sortSection <= header.count()) {
-        header.restoreState(state.bytes);
-        HeaderArrangement::apply(header, {}, 0);
+    if (isWhole && firstSection == 0 && state.sortSection <= header->count()) {
+        header->restoreState(state.bytes);
+        HeaderArrangement::apply(*header, {}, 0);
     } else {
-        HeaderArrangement::apply(header, state.sections, firstSection);
+        HeaderArrangement::apply(*header, state.sections, firstSection);
         if (state.sortSection >= firstSection && state.sortSection < count)
-            header.setSortIndicator(state.sortSection, state.sortOrder);
+            header->setSortIndicator(state.sortSection, state.sortOrder);
     }
     if (!isWhole)
-        m_awaited = std::make_unique<HeaderState>(state);
+        awaited = state;
 }
 
-void QHeaderViewColumnHandler::restoreAwaited(int oldCount, int newCount)
+void QHeaderViewColumnHandler::Private::restoreAwaited(int oldCount, int newCount)
 {
-    if (newCount > oldCount && m_awaited)
-        restoreState(HeaderState(*m_awaited), oldCount);
+    if (newCount > oldCount && awaited)
+        restoreState(HeaderState(*awaited), oldCount);
 }
 
-void QHeaderViewColumnHandler::watchView()
+void QHeaderViewColumnHandler::Private::watchView()
 {
-    if (m_view)
-        m_view->removeEventFilter(this);
-    m_view = m_header->parentWidget();
-    if (m_view)
-        m_view->installEventFilter(this);
+    if (view)
+        view->removeEventFilter(&q);
+    view = header->parentWidget();
+    if (view)
+        view->installEventFilter(&q);
 }
 
 bool QHeaderViewColumnHandler::eventFilter(QObject* object, QEvent* event)
 {
     // Other events also come while the header is being destroyed, and is no header any more.
     const bool isParentChange = event->type() == QEvent::ParentChange;
-    if ((!isParentChange && event->type() != QEvent::KeyPress) || !m_header)
+    if ((!isParentChange && event->type() != QEvent::KeyPress) || !d->header)
         return false;
     if (isParentChange) {
-        if (object == m_header)
-            watchView();
+        if (object == d->header)
+            d->watchView();
         return false;
     }
     const auto* const keyEvent = static_cast<QKeyEvent*>(event);
-    const int menuKey = m_header->orientation() == Qt::Horizontal ? Qt::Key_H : Qt::Key_V;
+    const int menuKey = d->header->orientation() == Qt::Horizontal ? Qt::Key_H : Qt::Key_V;
     if (keyEvent->key() != menuKey ||
         keyEvent->modifiers() != (Qt::ControlModifier | Qt::AltModifier))
         return false;
@@ -142,21 +158,21 @@ bool QHeaderViewColumnHandler::eventFilter(QObject* object, QEvent* event)
 
 void QHeaderViewColumnHandler::sl_contextMenu(QPoint position)
 {
-    if (!m_header || m_header->model() == nullptr)
+    if (!d->header || d->header->model() == nullptr)
         return;
     // Belongs to the header, which may die while the menu is open.
-    const QPointer<ColumnMenu> menu = new ColumnMenu(m_header);
+    const QPointer<ColumnMenu> menu = new ColumnMenu(d->header);
     const QPointer<QHeaderViewColumnHandler> self(this);
     const int section =
-        menu->choose(*m_header, m_header->mapToGlobal(position), ColumnMenu::ShowAll::Offered);
+        menu->choose(*d->header, d->header->mapToGlobal(position), ColumnMenu::ShowAll::Offered);
     delete menu;
-    if (!self || !m_header)
+    if (!self || !d->header)
         return;
     if (section == ColumnMenu::allSections) {
-        for (int each = 0; each < m_header->count(); ++each)
-            m_header->showSection(each);
+        for (int each = 0; each < d->header->count(); ++each)
+            d->header->showSection(each);
     } else if (section >= 0) {
-        m_header->setSectionHidden(section, !m_header->isSectionHidden(section));
+        d->header->setSectionHidden(section, !d->header->isSectionHidden(section));
     }
 }
 

@@ -5,15 +5,11 @@
 
 #include <QObject>
 #include <QPoint>
-#include <QPointer>
 #include <QString>
 
 #include <memory>
-#include <optional>
 
 class QHeaderView;
-class QWidget;
-struct HeaderState;
 
 namespace guiHelper {
 
@@ -44,16 +40,9 @@ private Q_SLOTS:
     void sl_contextMenu(QPoint position);
 
 private:
-    QString key(const char* suffix) const;
-    std::optional<HeaderState> stateOf(const QString& text) const;
-    void restoreState(const HeaderState& state, int firstSection);
-    void restoreAwaited(int oldCount, int newCount);
-    void watchView();
+    struct Private;
 
-    QPointer<QHeaderView> m_header;
-    QPointer<QWidget> m_view;
-    /// Restored while sections that it knows were missing.
-    std::unique_ptr<HeaderState> m_awaited;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace guiHelper
