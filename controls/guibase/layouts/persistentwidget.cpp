@@ -23,6 +23,12 @@ namespace {
 /// In milliseconds: so long after the first showing, a move is that of the window manager.
 constexpr int placeMilliseconds = 1000;
 
+/// Also the docks in floating groups and in inner main windows: they end with the window, too.
+QList<QDockWidget*> docksWithin(const QObject* window)
+{
+    return window != nullptr ? window->findChildren<QDockWidget*>() : QList<QDockWidget*>();
+}
+
 QMainWindow* mainWindowOf(QWidget* widget)
 {
     if (auto* subWindow = qobject_cast<QMdiSubWindow*>(widget))
@@ -220,9 +226,7 @@ void PersistentWidget::beginEnd()
     capture();
     m_isEnding = true;
     m_openAtEnd.clear();
-    const auto docks =
-        m_mainWindow ? m_mainWindow->findChildren<QDockWidget*>() : QList<QDockWidget*>();
-    for (QDockWidget* dock : docks) {
+    for (QDockWidget* dock : docksWithin(m_mainWindow)) {
         if (dock->isFloating() && dock->isVisible())
             m_openAtEnd.emplace_back(dock);
     }
@@ -243,9 +247,7 @@ bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
     const bool isWindow = watched == m_widget || watched == m_mainWindow;
     if (watched == m_widget) {
         noteVisibility(*event);
-        // Not with a change of its state, in the middle of which a sub-window has none.
-        if ((event->type() == QEvent::Move || event->type() == QEvent::Resize) && isNormal())
-            m_normalPlace = m_widget->geometry();
+        notePlace(*event);
     }
     switch (event->type()) {
     case QEvent::MouseButtonRelease:
@@ -253,8 +255,6 @@ bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Resize:
     case QEvent::Close:
     case QEvent::WindowStateChange:
-        if (watched == m_widget && m_awaitsPlace && event->type() == QEvent::Move)
-            m_startGeometry = m_widget->saveGeometry();
         if (isWindow)
             capture();
         else
@@ -291,6 +291,15 @@ bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
+void PersistentWidget::notePlace(const QEvent& event)
+{
+    // Not with a change of its state, in the middle of which a sub-window has none.
+    if ((event.type() == QEvent::Move || event.type() == QEvent::Resize) && isNormal())
+        m_normalPlace = m_widget->geometry();
+    if (event.type() == QEvent::Move && m_awaitsPlace)
+        m_startGeometry = m_widget->saveGeometry();
+}
+
 /// A dialog that is accepted or rejected is hidden without being closed.
 void PersistentWidget::noteVisibility(const QEvent& event)
 {
@@ -323,10 +332,7 @@ void PersistentWidget::unwatch()
 
 void PersistentWidget::watchDocks()
 {
-    if (!m_mainWindow)
-        return;
-    const auto docks = m_mainWindow->findChildren<QDockWidget*>();
-    for (QDockWidget* dock : docks)
+    for (QDockWidget* dock : docksWithin(m_mainWindow))
         dock->installEventFilter(this);
 }
 

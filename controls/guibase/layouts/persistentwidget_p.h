@@ -91,6 +91,7 @@ private:
     void captureDocks();
     void captureDocksSoon();
     void noteVisibility(const QEvent& event);
+    void notePlace(const QEvent& event);
     void applyStart();
     void applyCurrentLayout();
     void restore(const QByteArray& geometry, DockLayout ModeLayout::*former);
