@@ -89,9 +89,9 @@ void Overview::followList()
     const int conflicts = m_list->conflictCount();
     m_note->setText(conflicts == 0
                         ? GuiBase::tr("Press Return on a row to give it another key.")
-                        : GuiBase::tr("%n hot key(s) share a key with another one. Both act when "
-                                      "it is pressed; give one of them another key.",
-                                      nullptr, conflicts));
+                        : GuiBase::tr("Hot keys that share a key: %1. All of them act when it is "
+                                      "pressed; give each one a key of its own.")
+                              .arg(conflicts));
 }
 
 void Overview::reject()
