@@ -36,24 +36,8 @@ struct SkippedLine
 };
 
 /// Reads the text of a band-scan recording in pieces cut anywhere, and appends its sweeps to a
-/// Recording.
-///
-/// A line is one hop: `date, time, Hz low, Hz high, Hz step, samples, dB, dB, ...`, such as
-/// `2018-11-18, 12:48:15, 80150000, 80250000, 781.25, 12480, -28.02, -27.81`. Adjoining hops with
-/// the same time stamp make one sweep, until a hop starts at a frequency that the sweep already
-/// has: stamps often have whole seconds only, and then the next sweep begins.
-///
-/// - Date and time have no zone in the text; they are read as UTC. Seconds may have a fraction,
-///   of which six digits count.
-/// - Blanks around fields, CR before the line's end, a comma after the last field, a byte order
-///   mark and empty lines do no harm.
-/// - `nan` and `inf` with either sign, and levels beyond +-1000 dB, are bins without a level.
-/// - Receivers round the step to two decimals: up to what that explains, the number of levels
-///   counts, and the step is worked out from it. One level more than fits is a repetition of the
-///   last bin, and is dropped.
-/// - Lines that begin with `#` are remarks.
-/// - Every other line is skipped, counted and kept in mind for the report; a sweep keeps its good
-///   hops. Memory follows the length of the text, whatever the numbers in it say.
+/// Recording. Bad lines are skipped, counted and kept in mind for the report. What counts as a good
+/// line, and which lines make a sweep, stands in docs/decisions/0060-text-of-recordings.md.
 class RecordingParser
 {
 public:

@@ -23,21 +23,9 @@ struct Signal
     bool operator==(const Signal&) const = default;
 };
 
-/// Finds the signals of a sweep, in a time that follows its bins.
-///
-/// The noise is worked out for each hop from its 10th and 30th percentile, as if it were normally
-/// distributed in dB: so up to two thirds of a hop may be occupied. A hop with few bins, or with a
-/// floor high above that of the whole sweep (a single signal fills it), takes the sweep's noise.
-///
-/// A signal begins where a bin is `openDeviations` standard deviations above the floor, or the mean
-/// of `smoothedBins` bins is that far beyond its own, smaller, deviation: thus narrow carriers and
-/// wide, weak bands are found alike. It reaches as far as bins, or means, stay `closeDeviations`
-/// above the floor; up to `joinBins` bins between two parts belong to the signal, also at the seam
-/// of two hops. The occupied band ends at the outermost bins that are at most `bandwidthDb` below
-/// the peak.
-///
-/// With a threshold, signals are instead the bins that reach this level, whatever the noise; they
-/// are joined and bounded in the same way.
+/// Finds the signals of a sweep, in a time that follows its bins: what stands out of the noise or,
+/// with a threshold, what reaches that level. docs/decisions/0061-signals-and-their-types.md tells
+/// how, and what the numbers below are for.
 class SignalDetector
 {
 public:

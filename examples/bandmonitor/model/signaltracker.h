@@ -34,21 +34,8 @@ struct SignalTrack
     int longestRun() const;
 };
 
-/// Follows the signals of a recording from sweep to sweep and tells their types.
-///
-/// A signal belongs to the track whose frequency, moved on by its drift, is nearest, when it is at
-/// most four bins or half of the larger bandwidth away. A track goes when it was not seen for 64
-/// sweeps, or when it is the longest unseen one and there are too many.
-///
-/// The type letter tells the behaviour in the last 64 sweeps:
-/// - 'i' (chirp): the frequency moved by four bins and half the bandwidth or more within eight
-///   sweeps on end, hardly back and not at a single leap; a track that once did so stays one;
-/// - 'a' (not known yet): first seen less than eight sweeps ago, or no other rule fits;
-/// - 'h' (fixed): there in four of five sweeps or more;
-/// - 'j' (hopper): it comes for three sweeps at most and is there in a third of the sweeps or less,
-///   and at three other frequencies or more there are such signals of like level (6 dB) and
-///   bandwidth (half to double, or two bins), hardly ever at the same time;
-/// - 'k' (burst): as short, in a fifth of the sweeps or less, without the others.
+/// Follows the signals of a recording from sweep to sweep and tells their types, which the last 64
+/// sweeps show. The rules stand in docs/decisions/0061-signals-and-their-types.md.
 class SignalTracker
 {
 public:

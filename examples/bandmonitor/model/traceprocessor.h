@@ -20,18 +20,8 @@ struct TraceSettings
 };
 
 /// Makes the trace that is shown of the recorded sweeps: averages, combines bins and moves levels,
-/// in this order.
-///
-/// Average: each bin becomes the mean of its linear powers 10^(L/10) in as many of the last sweeps
-/// as it takes to reach the wanted number of samples, `maximumSweeps` at most. A sweep counts as
-/// many samples as the hop that has the fewest of them, but 1 at least. Sweeps add to a hop only
-/// when they have one with the same bins.
-///
-/// Combining: N bins of width s become M = N * s / B of them, rounded, 1 at least, which fill the
-/// hop evenly; B is the resolution. Their levels are 10 * log10 of the sum of the linear powers,
-/// bins on a border being shared in proportion. A sum, and no mean, because a bin holds the power
-/// in its width: so noise rises with the bandwidth and a carrier keeps its level, as in a receiver
-/// with this filter. Bins without a level count as the mean of the others in their group.
+/// in this order, as a receiver with these settings would. The arithmetic stands in
+/// docs/decisions/0062-trace-of-a-receiver.md.
 class TraceProcessor
 {
 public:
