@@ -14,6 +14,27 @@
 
 using namespace bandmonitor;
 
+namespace {
+
+/// Up to three segments of up to 3000 levels, which may overlap or leave a gap.
+OwnedSegments randomSegments(RandomBytes& random)
+{
+    OwnedSegments segments;
+    double start = random.below(1000);
+    for (int hop = 1 + random.below(3); hop > 0; --hop) {
+        std::vector<float> levels(static_cast<std::size_t>(1 + random.below(3000)));
+        for (float& level : levels)
+            level = random.below(50) == 0 ? noLevel : static_cast<float>(random.below(9999));
+        const double step = 1 + random.below(4);
+        const double end = start + step * static_cast<double>(levels.size());
+        segments.add(start, step, std::move(levels));
+        start = std::max(start + 1, end + random.below(200) - 100);
+    }
+    return segments;
+}
+
+} // namespace
+
 /// What is worked out from the levels of sweeps: columns of pixels, held maxima, the level at the
 /// cursor; and the memory that a recording takes for them.
 class tst_Sweeps : public GuardedTest
@@ -56,18 +77,7 @@ private Q_SLOTS:
     {
         RandomBytes random("columns");
         for (int round = RandomBytes::rounds(300); round > 0; --round) {
-            OwnedSegments segments;
-            double start = random.below(1000);
-            for (int hop = 1 + random.below(3); hop > 0; --hop) {
-                std::vector<float> levels(static_cast<std::size_t>(1 + random.below(3000)));
-                for (float& level : levels)
-                    level =
-                        random.below(50) == 0 ? noLevel : static_cast<float>(random.below(9999));
-                const double step = 1 + random.below(4);
-                const double end = start + step * static_cast<double>(levels.size());
-                segments.add(start, step, std::move(levels));
-                start = std::max(start + 1, end + random.below(200) - 100);
-            }
+            const OwnedSegments segments = randomSegments(random);
             const Sweep sweep = segments.sweep();
             const double low = sweep.lowHz - 50 + random.below(2000);
             const ColumnView view{low, low + 1 + random.below(12'000)};

@@ -17,15 +17,58 @@
 
 using Trigger = UndoRecordingTriggerByValueClient;
 
+namespace {
+
+QVariantList stateOf(const std::vector<ValueBase*>& values)
+{
+    QVariantList state;
+    for (const ValueBase* value : values)
+        state << value->GetVariant();
+    return state;
+}
+
+/// The states that a recording with a limit must know, and the one that it is in.
+class ExpectedStates
+{
+public:
+    ExpectedStates(const QVariantList& first, std::size_t limit)
+        : m_states{first}
+        , m_limit(limit)
+    {}
+    int count() const { return static_cast<int>(m_states.size()); }
+    int index() const { return static_cast<int>(m_index); }
+    const QVariantList& present() const { return m_states[m_index]; }
+    /// Whether there is such a state.
+    bool goTo(int index)
+    {
+        if (index < 0 || index >= count())
+            return false;
+        m_index = static_cast<std::size_t>(index);
+        return true;
+    }
+    void add(const QVariantList& state)
+    {
+        m_states.resize(m_index + 1);
+        m_states.push_back(state);
+        if (m_states.size() > m_limit + 1)
+            m_states.pop_front();
+        m_index = m_states.size() - 1;
+    }
+
+private:
+    std::deque<QVariantList> m_states;
+    std::size_t m_index = 0;
+    std::size_t m_limit;
+};
+
+} // namespace
+
 class tst_UndoRecording : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup()
-    {
-        m_undo.setLimit(100);
-    }
+    void cleanup() { m_undo.setLimit(100); }
     void paths()
     {
         Tree& tree = Tree::Instance();
@@ -69,26 +112,17 @@ private Q_SLOTS:
         for (ValueBase* value : values)
             QVERIFY(Tree::Instance().Add(QStringLiteral("base/sub"), value));
 
-        const auto state = [&values] {
-            QVariantList list;
-            for (const ValueBase* value : values)
-                list << value->GetVariant();
-            return list;
-        };
-        std::deque<QVariantList> history{state()};
-        std::size_t present = 0;
+        ExpectedStates expected(stateOf(values), limit);
         RandomBytes random("undo");
         for (int round = RandomBytes::rounds(3000); round > 0; --round) {
             const int action = random.below(5);
             if (action == 0) {
-                QCOMPARE(m_undo.undo(), present > 0);
-                present -= present > 0 ? 1 : 0;
+                QCOMPARE(m_undo.undo(), expected.goTo(expected.index() - 1));
             } else if (action == 1) {
-                QCOMPARE(m_undo.redo(), present + 1 < history.size());
-                present += present + 1 < history.size() ? 1 : 0;
+                QCOMPARE(m_undo.redo(), expected.goTo(expected.index() + 1));
             } else if (action == 2) {
-                present = static_cast<std::size_t>(random.below(static_cast<int>(history.size())));
-                m_undo.stack()->setIndex(static_cast<int>(present)); // as a view of it does
+                expected.goTo(random.below(expected.count()));
+                m_undo.stack()->setIndex(expected.index()); // as a view of it does
             } else {
                 const Trigger outer(QStringLiteral("/base/"), QString::number(round));
                 for (int i = random.below(5); i > 0; --i) {
@@ -96,18 +130,14 @@ private Q_SLOTS:
                         random.below(100));
                 }
             }
-            if (action > 2 && state() != history[present]) {
-                history.resize(present + 1);
-                history.push_back(state());
-                if (history.size() > limit + 1)
-                    history.pop_front();
-                present = history.size() - 1;
+            if (action > 2 && stateOf(values) != expected.present()) {
+                expected.add(stateOf(values));
                 QCOMPARE(m_undo.undoText(), QString::number(round));
             }
-            QCOMPARE(state(), history[present]);
-            QCOMPARE(m_undo.canUndo(), present > 0);
-            QCOMPARE(m_undo.canRedo(), present + 1 < history.size());
-            QCOMPARE(m_undo.stack()->index(), static_cast<int>(present));
+            QCOMPARE(stateOf(values), expected.present());
+            QCOMPARE(m_undo.canUndo(), expected.index() > 0);
+            QCOMPARE(m_undo.canRedo(), expected.index() + 1 < expected.count());
+            QCOMPARE(m_undo.stack()->index(), expected.index());
         }
     }
     void overlappingTriggersAndReplays()
@@ -126,7 +156,8 @@ private Q_SLOTS:
             first.SetValue(2);
             const Trigger inner(QStringLiteral("b"), QStringLiteral("inner"));
             second.SetValue(2);
-            m_undo.stack()->undo(); // by a view; "first" starts from the state before its first step
+            m_undo.stack()
+                ->undo(); // by a view; "first" starts from the state before its first step
             QCOMPARE(first.GetValue(), 0);
             first.SetValue(3);
         }
