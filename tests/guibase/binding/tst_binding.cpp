@@ -11,6 +11,7 @@
 #include <valueframework/tree.h>
 #include <valueframework/undorecording.h>
 
+#include "support/duetimers.h"
 #include "support/guardedtest.h"
 #include "support/testrows.h"
 #include "support/typing.h"
@@ -216,7 +217,7 @@ private Q_SLOTS:
         value.reset();
         QVERIFY(!slow.isEnabled() && !orphan.isNull());
         slow.setValue(10);
-        QTest::qWait(0);
+        letTimersFire();
     }
     void limits()
     {

@@ -3,6 +3,7 @@
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortlistviewitem.h>
 
+#include "support/duetimers.h"
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
 
@@ -344,14 +345,14 @@ private Q_SLOTS:
         fill(list, QStringLiteral("cb"));
         list.show();
         fill(list, QStringLiteral("a"));
-        QTest::qWait(1);
+        letTimersFire();
         QCOMPARE(columnTexts(list), QStringLiteral("bca"));
         // Those that wait when the application changes its mind stay, too.
         list.setPlacingArrivals(true);
         list.sort();
         fill(list, QStringLiteral("0"));
         list.setPlacingArrivals(false);
-        QTest::qWait(1);
+        letTimersFire();
         QCOMPARE(columnTexts(list), QStringLiteral("abc0"));
     }
     void arrivalsGoToTheirPlaces()
@@ -394,13 +395,11 @@ private Q_SLOTS:
         list.show();
         new SortListViewItem(&list, QStringLiteral("z"), {}, {}, {}, {}, {}, {}, {}, true);
         fill(list, QStringLiteral("0"));
-        for (int i = 0; i < 5; ++i)
-            QCoreApplication::processEvents();
+        letTimersFire();
         QCOMPARE(columnTexts(list), QStringLiteral("zabc0"));
         list.sort();
         static_cast<SortListViewItem*>(list.topLevelItem(0))->moveItem(list.topLevelItem(4));
-        for (int i = 0; i < 5; ++i)
-            QCoreApplication::processEvents();
+        letTimersFire();
         QCOMPARE(columnTexts(list), QStringLiteral("abcz0"));
     }
 };
