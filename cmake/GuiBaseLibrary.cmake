@@ -58,15 +58,35 @@ function(guibase_add_library name)
         SOVERSION ${PROJECT_VERSION_MAJOR})
     install(TARGETS ${name} EXPORT GuiBaseTargets
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
-        FILE_SET HEADERS DESTINATION "${GUIBASE_INSTALL_INCLUDEDIR}"
-        FILE_SET generated_headers DESTINATION "${GUIBASE_INSTALL_INCLUDEDIR}")
+            COMPONENT runtime NAMELINK_COMPONENT development
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
+        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime
+        FILE_SET HEADERS DESTINATION "${GUIBASE_INSTALL_INCLUDEDIR}" COMPONENT development
+        FILE_SET generated_headers DESTINATION "${GUIBASE_INSTALL_INCLUDEDIR}"
+            COMPONENT development)
+    guibase_install_pkgconfig(${name} ${arg_LINKS})
+endfunction()
+
+# Installs <name>.pc, which requires those of the public dependencies. It finds the headers and the
+# library from where it lies itself, so that the installation may be moved.
+function(guibase_install_pkgconfig name)
+    set(requires ${ARGN})
+    list(TRANSFORM requires REPLACE "^GuiBase::" "")
+    list(TRANSFORM requires REPLACE "^Qt6::" "Qt6")
+    list(JOIN requires " " requires)
+    file(RELATIVE_PATH up "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
+    string(REGEX REPLACE "/$" "" up "${up}")
+    file(RELATIVE_PATH libdir "${CMAKE_INSTALL_PREFIX}" "${CMAKE_INSTALL_FULL_LIBDIR}")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/library.pc.in"
+        "${CMAKE_CURRENT_BINARY_DIR}/${name}.pc" @ONLY)
+    install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${name}.pc"
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
 endfunction()
 
 # Installs what find_package(GuiBase) reads.
 function(guibase_install_package)
-    install(EXPORT GuiBaseTargets NAMESPACE GuiBase:: DESTINATION "${GUIBASE_INSTALL_CMAKEDIR}")
+    install(EXPORT GuiBaseTargets NAMESPACE GuiBase:: DESTINATION "${GUIBASE_INSTALL_CMAKEDIR}"
+        COMPONENT development)
     configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/GuiBaseConfig.cmake.in"
         "${PROJECT_BINARY_DIR}/GuiBaseConfig.cmake"
         INSTALL_DESTINATION "${GUIBASE_INSTALL_CMAKEDIR}")
@@ -74,5 +94,5 @@ function(guibase_install_package)
         COMPATIBILITY SameMinorVersion)
     install(FILES "${PROJECT_BINARY_DIR}/GuiBaseConfig.cmake"
                   "${PROJECT_BINARY_DIR}/GuiBaseConfigVersion.cmake"
-        DESTINATION "${GUIBASE_INSTALL_CMAKEDIR}")
+        DESTINATION "${GUIBASE_INSTALL_CMAKEDIR}" COMPONENT development)
 endfunction()

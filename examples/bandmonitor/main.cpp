@@ -129,6 +129,7 @@ int main(int argc, char** argv)
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    QGuiApplication::setDesktopFileName(QStringLiteral("bandmonitor"));
     CfgCenter::SetAppName(QStringLiteral("bandmonitor"));
     if (commandLine.screenshotsFolder.isEmpty()) {
         CfgCenter::SetConfigDir(commandLine.configFolder);

@@ -3,7 +3,7 @@
 # its own: the consumer, the quick start, and the applications that the README shows.
 #   cmake -DPROJECT_DIR=… -DBUILD_DIR=… -DWORK_DIR=… -DCXX_FLAGS=… -DLAUNCHER=…
 #         [-DRELEASE=ON] -P check.cmake
-# With RELEASE the libraries are first built for release in BUILD_DIR; else that is a ready build,
+# With RELEASE all but the tests is first built for release in BUILD_DIR; else that is a ready build,
 # whose public headers are also compiled one by one.
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output
@@ -16,7 +16,7 @@ endfunction()
 
 function(build_release)
     run("${CMAKE_COMMAND}" -G Ninja -S "${PROJECT_DIR}" -B "${BUILD_DIR}"
-        -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=OFF -DGUIBASE_BUILD_EXAMPLES=OFF
+        -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=OFF -DGUIBASE_BUILD_EXAMPLES=ON
         "-DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}")
     run("${CMAKE_COMMAND}" --build "${BUILD_DIR}")
 endfunction()
@@ -66,6 +66,21 @@ function(build_project source_dir name)
     run("${CMAKE_COMMAND}" --build "${WORK_DIR}/${name}")
 endfunction()
 
+# Without CMake: the compiler and the linker are told what the installed pkg-config files say.
+function(build_with_pkgconfig name)
+    file(GLOB_RECURSE file "${WORK_DIR}/prefix/GuiBase.pc")
+    cmake_path(GET file PARENT_PATH folder)
+    set(ENV{PKG_CONFIG_PATH} "${folder}")
+    foreach(library IN ITEMS JTBase TrovAppStartUp ValueFramework XMsgDlg GuiBase RadioPanes)
+        run(pkg-config --print-errors --exists "${library} >= 0.2")
+    endforeach()
+    file(MAKE_DIRECTORY "${WORK_DIR}/${name}")
+    run(sh -c "c++ -std=c++20 -fPIC -o '${WORK_DIR}/${name}/${name}' main.cpp \
+        $(pkg-config --cflags --libs GuiBase) -Wl,-rpath,$(pkg-config --variable=libdir GuiBase)"
+        WORKING_DIRECTORY "${PROJECT_DIR}/tests/consumer")
+    run("${WORK_DIR}/${name}/${name}")
+endfunction()
+
 # It ends in good order when it is asked to, and leaves its configuration. On a busy machine the
 # request can come before the program is ready for it: then it gets more time.
 function(run_until_asked_to_end folder name)
@@ -100,3 +115,6 @@ foreach(number IN ITEMS 0 1)
     build_project("${WORK_DIR}/readme${number}" myapplication${number})
     run_until_asked_to_end(myapplication${number} myapplication)
 endforeach()
+if(RELEASE)
+    build_with_pkgconfig(pkgconfig)
+endif()
