@@ -129,6 +129,8 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(w.window.get()));
         w.support->setAutoHideDelay(300); // for a pointer that comes late on a busy machine
         w.support->enableAutoHide(*w.left);
+        // When it is hidden before the window manager has shown it, it may never count as exposed.
+        QVERIFY(QTest::qWaitForWindowExposed(w.left));
         w.left->hide();
         const QToolButton* button = w.buttons(w.left).first();
         QTRY_COMPARE(button->parentWidget()->width(), 24);
