@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "centre/bandview.h"
+#include "support/checked.h"
 #include "support/guardedtest.h"
 
 #include <radiopanes/colors/panecolors.h>
@@ -143,19 +144,19 @@ private Q_SLOTS:
                 QVERIFY(waterfallPixel(centreOfBin(505 + newest - line), line) != loud);
             }
         };
-        lineAtTop(sweeps - 1);
+        CHECKED(lineAtTop(sweeps - 1));
         QCOMPARE(pane.sweepAt(sweeps * WaterfallPane::linePixels), -1);
         m_pane->showSweep(24, -1);
-        lineAtTop(24);
+        CHECKED(lineAtTop(24));
         m_pane->showSweep(30, 24);
-        lineAtTop(30);
+        CHECKED(lineAtTop(30));
         // Resizing keeps what was shown; a pane lower than its history wraps around.
         m_pane->resize(800, 200);
-        lineAtTop(30);
+        CHECKED(lineAtTop(30));
         for (int sweep = 31; sweep < sweeps; ++sweep)
             m_pane->showSweep(sweep, sweep - 1);
         m_pane->resize(1200, 600);
-        lineAtTop(sweeps - 1);
+        CHECKED(lineAtTop(sweeps - 1));
     }
 
     void coloursAreTakenAnew()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "recordings.h"
+#include "support/checked.h"
 #include "support/guardedtest.h"
 #include "support/testrows.h"
 
@@ -96,10 +97,10 @@ private Q_SLOTS:
     void columnsSortByTheirValues()
     {
         const auto& [column, value] = Columns::fetch();
-        show(0, 60);
+        CHECKED(show(0, 60));
         for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
             m_signals->list().setSorting(column, order);
-            show(61 + order, 61 + order); // and they stay sorted
+            CHECKED(show(61 + order, 61 + order)); // and they stay sorted
             std::vector<double> values;
             for (const CheckSortListViewItem* item : items())
                 values.push_back(value(*m_watch.track(std::uint32_t(item->GetId()))));
@@ -111,7 +112,7 @@ private Q_SLOTS:
 
     void rowsChangeInPlace()
     {
-        show(0, 30);
+        CHECKED(show(0, 30));
         const std::uint32_t id = m_watch.tracks().front().id;
         CheckSortListViewItem* item = itemOf(id);
         QCOMPARE(item->text(SignalsPanel::LastSeen), QStringLiteral("00:00:30"));
@@ -140,7 +141,7 @@ private Q_SLOTS:
 
     void cursorFollowsWhatTheUserChose()
     {
-        show(0, 30);
+        CHECKED(show(0, 30));
         QSignalSpy wanted(m_signals.get(), &Panel::frequencyWanted);
         const SignalTrack drifter = *std::ranges::find(m_watch.tracks(), 'i', &SignalTrack::type);
         const SignalTrack station = m_watch.tracks().front();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "centre/bandview.h"
 #include "mainwindow.h"
+#include "support/checked.h"
 #include "support/guardedtest.h"
 
 #include <guibase/docks/areas/tabifysupport.h>
@@ -105,7 +106,7 @@ private Q_SLOTS:
         QVERIFY(plan.contains(QLatin1String("levels hidden")));
 
         closeWindow();
-        makeWindow();
+        CHECKED(makeWindow());
         Modes& later = m_window->modes();
         QCOMPARE(later.mode(), Mode::Plan);
         QCOMPARE(layout(), plan);

@@ -4,6 +4,7 @@
 #include "panels/signalspanel.h"
 #include "receiver/receiverbar.h"
 #include "receiver/receiverpanel.h"
+#include "support/checked.h"
 #include "support/testrows.h"
 
 #include <radiopanes/panes/spectrumpane.h>
@@ -157,7 +158,7 @@ private Q_SLOTS:
 
     void panelAndSpectrumFollowEachOther()
     {
-        openForm();
+        CHECKED(openForm());
         BandView& band = m_window->bandView();
         VisibleBand& view = band.visibleBand();
         const double bandLow = view.bandLow();
@@ -204,7 +205,7 @@ private Q_SLOTS:
 
     void thresholdDetectsWhatTheSpectrumShowsAboveIt()
     {
-        openForm();
+        CHECKED(openForm());
         m_window->panel<SignalsPanel>().setUpdateInterval(std::chrono::milliseconds(0));
         const auto peaks = [this] {
             QCoreApplication::processEvents();
@@ -233,11 +234,9 @@ private Q_SLOTS:
     void keyboardFillsTheForm()
     {
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-        openForm();
+        CHECKED(openForm());
         GuiBase::Instance().GetTimeZone()->SetValue(0);
-        typeIntoForm();
-        if (QTest::currentTestFailed())
-            return;
+        CHECKED(typeIntoForm());
         QCOMPARE(shown("deviceAddress"), QStringLiteral("12648430"));
         QVERIFY(
             !m_window->session().replay().isPlaying()); // nothing of it was taken for a short cut
@@ -264,18 +263,16 @@ private Q_SLOTS:
             QVERIFY(!settings.isAddressHexadecimal);
             QCOMPARE(settings.thresholdDb, std::optional(-62.5));
         };
-        check();
-        if (QTest::currentTestFailed())
-            return;
-        openForm();
+        CHECKED(check());
+        CHECKED(openForm());
         QCOMPARE(m_window->session().replay().position(), position);
         QCOMPARE(shown("centreFrequency"), QStringLiteral("98,500123 MHz"));
-        check();
+        CHECKED(check());
     }
 
     void inputsCanBeUndone()
     {
-        openForm();
+        CHECKED(openForm());
         UndoRecording& steps = UndoRecording::Instance();
         SessionValues& values = m_window->values();
         VisibleBand& view = m_window->bandView().visibleBand();
@@ -317,7 +314,7 @@ private Q_SLOTS:
 
     void stepsStayUntilTheWindowIsNew()
     {
-        openForm();
+        CHECKED(openForm());
         UndoRecording& steps = UndoRecording::Instance();
         VisibleBand& view = m_window->bandView().visibleBand();
         enter("span", QStringLiteral("2"));
@@ -336,7 +333,7 @@ private Q_SLOTS:
         }
         QVERIFY(view.showsAll());
         QVERIFY(steps.canRedo());
-        openForm();
+        CHECKED(openForm());
         QVERIFY(!steps.canRedo());
     }
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <model/replay.h>
 
+#include "support/checked.h"
 #include "support/guardedtest.h"
 
 #include <QSignalSpy>
@@ -41,7 +42,7 @@ private Q_SLOTS:
         for (const auto& [milliseconds, position] :
              {std::pair(999, 0), std::pair(1, 1), std::pair(99, 1), std::pair(1, 2),
               std::pair(100, 3), std::pair(1999, 3), std::pair(1, 4), std::pair(9999, 4)}) {
-            pass(milliseconds);
+            CHECKED(pass(milliseconds));
             QCOMPARE(m_replay->position(), position);
         }
     }
@@ -49,13 +50,13 @@ private Q_SLOTS:
     {
         QSignalSpy moved(m_replay.get(), &Replay::positionChanged);
         m_replay->play();
-        pass(500);
+        CHECKED(pass(500));
         m_replay->setSpeed(0.0); // cut to 0.1
         m_replay->setSpeed(qQNaN());
-        pass(4990);
+        CHECKED(pass(4990));
         QCOMPARE(moved.count(), 0);
         m_replay->setSpeed(5000); // cut to 1000: passes several sweeps at once
-        pass(2);
+        CHECKED(pass(2));
         QCOMPARE(moved.count(), 1);
         QCOMPARE(moved.at(0).at(0).toInt(), 3);
         QCOMPARE(moved.at(0).at(1).toInt(), 0);
@@ -68,7 +69,7 @@ private Q_SLOTS:
         const int looks = m_looks;
         QTRY_VERIFY(m_looks > looks);
         QCOMPARE(m_replay->position(), 3);
-        pass(1000);
+        CHECKED(pass(1000));
         QCOMPARE(m_replay->position(), 4);
     }
     void endAndStartAgain()
@@ -77,7 +78,7 @@ private Q_SLOTS:
         QSignalSpy playing(m_replay.get(), &Replay::playingChanged);
         m_replay->setMaximumGap(std::chrono::milliseconds(100));
         m_replay->play();
-        pass(500);
+        CHECKED(pass(500));
         QCOMPARE(m_replay->position(), 5);
         QCOMPARE(ended.count(), 1);
         QCOMPARE(playing.count(), 2);
@@ -104,7 +105,7 @@ private Q_SLOTS:
         growing->append(2, m_recording->sweep(0).segments);
         m_replay->play();
         QCOMPARE(m_replay->position(), 0);
-        pass(1);
+        CHECKED(pass(1));
         QCOMPARE(m_replay->position(), 1);
     }
 

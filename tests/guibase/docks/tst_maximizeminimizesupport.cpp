@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/checked.h"
 #include "support/dockwindow.h"
 #include "support/guardedtest.h"
 #include "support/windowmanager.h"
@@ -74,7 +75,7 @@ private Q_SLOTS:
     void maximizesAndRestores()
     {
         Fixture f;
-        f.floatDock();
+        CHECKED(f.floatDock());
         QStringList log;
         using Support = MaximizeMinimizeSupport;
         const auto note = [&log](const QString& what) {
@@ -99,7 +100,7 @@ private Q_SLOTS:
     void comesBackMaximized()
     {
         Fixture f;
-        f.floatDock();
+        CHECKED(f.floatDock());
         QVERIFY(f.support->maximizeDockWidget());
         QTRY_VERIFY(f.dock->width() > 700);
         f.dock->setFloating(false);
@@ -121,7 +122,7 @@ private Q_SLOTS:
     void leavesTheUsersDoingAlone()
     {
         Fixture f;
-        f.floatDock();
+        CHECKED(f.floatDock());
         f.dock->setWindowState(Qt::WindowMaximized);
         QTRY_COMPARE(f.visibleActions(), u"011"_s);
         QCOMPARE(f.support->dockWidgetState(), State::Normal);
@@ -167,7 +168,7 @@ private Q_SLOTS:
     {
         for (const bool dockItself : {true, false}) {
             Fixture f;
-            f.floatDock();
+            CHECKED(f.floatDock());
             const QPointer<QDockWidget> dock = f.dock;
             connect(f.support, &MaximizeMinimizeSupport::isMaximizeDockWidgetPossibleChanged, this,
                     [&] { delete (dockItself ? f.dock : static_cast<QObject*>(f.support)); });

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/checked.h"
 #include "support/dialogscript.h"
 #include "support/files.h"
 #include "support/guardedtest.h"
@@ -87,7 +88,7 @@ private Q_SLOTS:
     {
         cfg()->SetString(QStringLiteral("RecentFile2"), QStringLiteral("behind the gap"));
         cfg()->SetString(QStringLiteral("RecentFile9"), QStringLiteral("beyond the limit"));
-        storeList({QStringLiteral("a&b")});
+        CHECKED(storeList({QStringLiteral("a&b")}));
         QMenu menu;
         menu.addAction(QStringLiteral("Zoom"))->setData(0);
         menu.addAction(QStringLiteral("Quit"));
@@ -125,7 +126,7 @@ private Q_SLOTS:
     }
     void showsWhatOtherProgramsUse()
     {
-        storeList({QStringLiteral("c"), QStringLiteral("b"), QStringLiteral("a")});
+        CHECKED(storeList({QStringLiteral("c"), QStringLiteral("b"), QStringLiteral("a")}));
         LruStringListController list(nullptr, 4, cfg(), QStringLiteral("RecentFile"));
         list.Init();
         list.Select(1);
@@ -146,7 +147,7 @@ private Q_SLOTS:
     }
     void waitsForTheLockOfAnotherProgram()
     {
-        storeList({QStringLiteral("a")});
+        CHECKED(storeList({QStringLiteral("a")}));
         LruStringListController list(nullptr, 4, cfg(), QStringLiteral("RecentFile"));
         QLockFile other(CfgCenter::GetAppCfgFileName() + QStringLiteral(".lists.lock"));
         QVERIFY(other.tryLock());
@@ -158,7 +159,7 @@ private Q_SLOTS:
     }
     void keepsChangesThatCannotBeStored()
     {
-        storeList({QStringLiteral("a")});
+        CHECKED(storeList({QStringLiteral("a")}));
         const QString folder = configDir();
         const QString away = folder + QStringLiteral(".away");
         LruStringListController list(nullptr, 4, cfg(), QStringLiteral("RecentFile"));
@@ -260,7 +261,7 @@ private Q_SLOTS:
     void survivesTheDeathOf()
     {
         const QString who = std::get<0>(TestRows<QString>::fetch());
-        storeList({QStringLiteral("a"), QStringLiteral("b")});
+        CHECKED(storeList({QStringLiteral("a"), QStringLiteral("b")}));
         auto opener = std::make_unique<Opener>();
         auto menu = std::make_unique<QMenu>();
         auto manager =

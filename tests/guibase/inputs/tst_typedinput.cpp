@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/checked.h"
 #include "support/guardedtest.h"
 #include "support/typing.h"
 
@@ -69,8 +70,8 @@ private Q_SLOTS:
             GuiBase::Instance().ForceFinishEditing();
             QCOMPARE(box.value(), 12);
         };
-        check(SpinBoxes::Int32SpinBox());
-        check(ComboBoxes::Int32ComboBox());
+        CHECKED(check(SpinBoxes::Int32SpinBox()));
+        CHECKED(check(ComboBoxes::Int32ComboBox()));
     }
 };
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/checked.h"
 #include "support/guardedtest.h"
 #include "support/menuvisitor.h"
 
@@ -49,24 +50,24 @@ private Q_SLOTS:
         Q_EMIT m_list->header()->customContextMenuRequested(QPoint(5, 5));
         m_list->setColumnSelectionMenu(true);
         m_list->setColumnSelectionMenu(true);
-        openColumnMenu([](QMenu& menu) {
+        CHECKED(openColumnMenu([](QMenu& menu) {
             QCOMPARE(menu.actions().size(), 3);
             QVERIFY(menu.actions().at(1)->isChecked() && menu.actions().at(1)->isEnabled());
             MenuVisitor::choose(menu, 1);
-        });
+        }));
         QVERIFY(m_list->isColumnHidden(1));
         m_list->setColumnHidden(2, true);
-        openColumnMenu([](QMenu& menu) {
+        CHECKED(openColumnMenu([](QMenu& menu) {
             QVERIFY(menu.actions().at(0)->isChecked() && !menu.actions().at(0)->isEnabled());
             MenuVisitor::choose(menu, 1);
-        });
+        }));
         QVERIFY(!m_list->isColumnHidden(1));
         // A column that goes while its entry is chosen, and a list that does.
-        openColumnMenu([this](QMenu& menu) {
+        CHECKED(openColumnMenu([this](QMenu& menu) {
             m_list->setColumnCount(2);
             MenuVisitor::choose(menu, 2);
-        });
-        openColumnMenu([this](QMenu&) { m_list.reset(); });
+        }));
+        CHECKED(openColumnMenu([this](QMenu&) { m_list.reset(); }));
         QVERIFY(!m_list);
     }
     void keyboard()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/checked.h"
 #include "support/dialogscript.h"
 #include "support/files.h"
 #include "support/guardedtest.h"
@@ -64,7 +65,7 @@ protected:
         colors().SetShowInDialog(1);
         m_page = qobject_cast<ColorsCtrl*>(colors().GetPropertyPage(nullptr, "Page"));
         m_window.reset(m_page);
-        showWindow();
+        CHECKED(showWindow());
     }
     void tidy() override
     {
@@ -98,7 +99,7 @@ private Q_SLOTS:
         QSignalSpy announced(&GuiBase::Instance(), &GuiBase::signalColorsChanged);
         m_page->slotAcceptChanges();
         QCOMPARE(announced.count(), 0);
-        choose(DrawPaneMainCurve, QStringLiteral("blue"), Qt::Key_Return);
+        CHECKED(choose(DrawPaneMainCurve, QStringLiteral("blue"), Qt::Key_Return));
         auto* row = rowOf(DrawPaneMainCurve);
         QCOMPARE(row->text(1), QStringLiteral("Blue"));
         QCOMPARE(idOf(DrawPaneMainCurve), 1014);
@@ -124,9 +125,9 @@ private Q_SLOTS:
     /// Escape, an unknown name and the loss of the focus leave the row as it was.
     void abandonedChoices()
     {
-        choose(MarkerMain, QStringLiteral("Gold"), Qt::Key_Escape);
+        CHECKED(choose(MarkerMain, QStringLiteral("Gold"), Qt::Key_Escape));
         QCOMPARE(rowOf(MarkerMain)->GetColorId(), idOf(MarkerMain));
-        choose(MarkerMain, QStringLiteral("no such color"), Qt::Key_Return);
+        CHECKED(choose(MarkerMain, QStringLiteral("no such color"), Qt::Key_Return));
         QCOMPARE(rowOf(MarkerMain)->GetColorId(), idOf(MarkerMain));
         ColorSelect* picker = open(MarkerMain);
         picker->lineEdit()->setText(QStringLiteral("Gol"));
@@ -143,8 +144,8 @@ private Q_SLOTS:
     void undoFilterAndDiscard()
     {
         QSignalSpy pending(m_page, &ColorsCtrl::changesPending);
-        choose(AxisText, QStringLiteral("Gold"), Qt::Key_Return);
-        choose(AxisText, QStringLiteral("Green"), Qt::Key_Return);
+        CHECKED(choose(AxisText, QStringLiteral("Gold"), Qt::Key_Return));
+        CHECKED(choose(AxisText, QStringLiteral("Green"), Qt::Key_Return));
         QTest::keySequence(list(), QKeySequence::Undo);
         QCOMPARE(rowOf(AxisText)->text(1), QStringLiteral("Gold"));
         QTest::keySequence(list(), QKeySequence::Undo);
@@ -173,8 +174,8 @@ private Q_SLOTS:
         auto* dialog = new SettingsDialog;
         m_window.reset(dialog);
         m_page = qobject_cast<ColorsCtrl*>(colors().GetCtrl(dialog));
-        showWindow();
-        choose(AxisText, QStringLiteral("Gold"), Qt::Key_Return);
+        CHECKED(showWindow());
+        CHECKED(choose(AxisText, QStringLiteral("Gold"), Qt::Key_Return));
         DialogScript script({m_folder->filePath(QStringLiteral("applied"))});
         Q_EMIT dialog->applyButtonPressed();
         QCOMPARE(idOf(AxisText), 1084);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "autohidewindow.h"
 
+#include "support/checked.h"
 #include "support/duetimers.h"
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
@@ -26,20 +27,20 @@ private Q_SLOTS:
             settle();
             QVERIFY(w.isOn(dock) && !w.buttons(dock).isEmpty());
         };
-        hides(w.left);
+        CHECKED(hides(w.left));
         w.left->show();
         QCloseEvent refused;
         QCoreApplication::sendEvent(w.left, &refused);
         settle();
-        hides(w.left);
+        CHECKED(hides(w.left));
         w.left->show();
         w.left->close();
-        hides(w.right);
+        CHECKED(hides(w.right));
         w.right->setFloating(false);
         settle();
         for (QDockWidget* dock : {w.left, w.right})
             QVERIFY(!w.isOn(dock) && w.buttons(dock).isEmpty());
-        hides(w.right);
+        CHECKED(hides(w.right));
         w.window->removeDockWidget(w.right);
         settle();
         QVERIFY(!w.isOn(w.right) && w.buttons(w.right).isEmpty());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "autohidewindow.h"
 
+#include "support/checked.h"
 #include "support/duetimers.h"
 #include "support/guardedtest.h"
 
@@ -205,9 +206,9 @@ private Q_SLOTS:
         };
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
             button->setFocus();
-            press(button, key);
+            CHECKED(press(button, key));
             QTRY_COMPARE(focusIn(w.left), w.left->widget());
-            press(w.left->widget(), Qt::Key_Escape);
+            CHECKED(press(w.left->widget(), Qt::Key_Escape));
             QVERIFY(!w.left->isVisible());
             QTRY_COMPARE(focusIn(w.window.get()), button);
         }

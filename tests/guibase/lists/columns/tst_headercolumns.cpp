@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/checked.h"
 #include "support/guardedtest.h"
 #include "support/menuvisitor.h"
 #include "support/randombytes.h"
@@ -87,17 +88,17 @@ private Q_SLOTS:
         Header header(2, Qt::Horizontal);
         header.model.setHorizontalHeaderLabels({QStringLiteral("A"), QStringLiteral("B")});
         header.view->show();
-        openMenu(*header.view, [](QMenu& menu) {
+        CHECKED(openMenu(*header.view, [](QMenu& menu) {
             QCOMPARE(menu.actions().size(), 2);
             QCOMPARE(menu.actions().at(1)->text(), QStringLiteral("B"));
             MenuVisitor::choose(menu, 1);
-        });
+        }));
         QVERIFY(header.view->isSectionHidden(1));
-        openMenu(*header.view, [](QMenu& menu) {
+        CHECKED(openMenu(*header.view, [](QMenu& menu) {
             QCOMPARE(menu.actions().size(), 4);
             QVERIFY(!menu.actions().at(0)->isEnabled() && !menu.actions().at(1)->isChecked());
             MenuVisitor::choose(menu, 3);
-        });
+        }));
         QCOMPARE(header.view->hiddenSectionCount(), 0);
         header.view->hideSection(0);
         header.view->hideSection(1);
@@ -109,7 +110,7 @@ private Q_SLOTS:
     {
         Header header(2, Qt::Horizontal);
         header.view->show();
-        openMenu(*header.view, [&header](QMenu&) { header.view.reset(); });
+        CHECKED(openMenu(*header.view, [&header](QMenu&) { header.view.reset(); }));
         QVERIFY(!header.handler);
         QHeaderViewColumnHandler alone(QStringLiteral("name"), nullptr);
         alone.saveColumnStatus();
