@@ -19,6 +19,7 @@
 #include <QThread>
 
 #include <netinet/in.h>
+#include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -137,8 +138,12 @@ void broadcastByHand(benchmark::State& state)
     server.listen(QHostAddress::LocalHost);
     const Drain drain(server.serverPort());
     std::vector<int> sockets;
-    for (int i = 0; i < clientCount; ++i)
+    for (int i = 0; i < clientCount; ++i) {
         sockets.push_back(::accept(static_cast<int>(server.socketDescriptor()), nullptr, nullptr));
+        // Like ours: each message leaves at once. The system would gather several in a packet.
+        const int yes = 1;
+        ::setsockopt(sockets.back(), IPPROTO_TCP, TCP_NODELAY, &yes, sizeof yes);
+    }
     const QByteArray bytes = Message{Message::Resize, 1, 100}.encoded();
     qint64 expected = 0;
     for (auto _ : state) {
