@@ -39,6 +39,7 @@ LevelPanes::LevelPanes(const QString& name, QWidget* parent)
     d->held = std::make_unique<HeldTraces>(&spectrum());
     waterfall().setColorMap(ColorMap::Even);
     waterfall().setLegendVisible(true);
+    d->fitted = {spectrum().lowLevel(), spectrum().highLevel()};
     clear();
 }
 
@@ -80,8 +81,7 @@ void LevelPanes::fitLevels()
 {
     const qsizetype count = d->history->count();
     const std::pair shown(spectrum().lowLevel(), spectrum().highLevel());
-    if (std::ranges::find(fittedAfter, count) == fittedAfter.end() ||
-        (count > 1 && shown != d->fitted))
+    if (std::ranges::find(fittedAfter, count) == fittedAfter.end() || shown != d->fitted)
         return;
     std::vector<Sweep> sweeps;
     for (qsizetype i = d->history->first(); i < count; ++i)

@@ -91,6 +91,10 @@ private Q_SLOTS:
         for (int i = 0; i < 20; ++i)
             QVERIFY(add(levels()));
         QCOMPARE(spectrum().lowLevel(), -77.0); // the operator's own
+        LevelPanes other;
+        other.spectrum().setReferenceLevel(-20); // before the first sweep
+        QVERIFY(other.addSweep(1, startHz, stepHz, levels()));
+        QCOMPARE(other.spectrum().highLevel(), -20.0);
         QVERIFY(m_panes->addSweep(6, 1e6, 1e3, levels()));
         QCOMPARE(band().bandLow(), 1e6);
     }
