@@ -2,15 +2,18 @@
 #include "desktopnotifier_p.h"
 
 #include <QCoreApplication>
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QUrl>
 
 namespace {
 
 constexpr qsizetype maximumWaiting = 100;
+constexpr int imageSide = 64; // pixels
 
 QString busAddress()
 {
@@ -33,6 +36,22 @@ void connectToBus(QLocalSocket& socket)
     socket.connectToServer(QUrl::fromPercentEncoding(place.section(QLatin1Char('='), 1).toUtf8()));
 }
 
+/// With the picture as the service takes it: width, height, bytes of a line, with alpha, bits of a
+/// sample, samples of a pixel, and the pixels as red, green, blue and alpha.
+QVariantMap hintsFor(const QImage& image)
+{
+    if (image.isNull())
+        return {};
+    const QImage pixels = image.convertToFormat(QImage::Format_RGBA8888);
+    QDBusArgument data;
+    data.beginStructure();
+    data << pixels.width() << pixels.height() << static_cast<int>(pixels.bytesPerLine()) << true
+         << 8 << 4
+         << QByteArray(reinterpret_cast<const char*>(pixels.constBits()), pixels.sizeInBytes());
+    data.endStructure();
+    return {{QStringLiteral("image-data"), QVariant::fromValue(data)}};
+}
+
 } // namespace
 
 DesktopNotifier::DesktopNotifier()
@@ -49,10 +68,10 @@ DesktopNotifier::DesktopNotifier()
 
 DesktopNotifier::~DesktopNotifier() = default;
 
-void DesktopNotifier::notify(const QString& title, const QString& text)
+void DesktopNotifier::notify(const QString& title, const QString& text, const QIcon& icon)
 {
     if (m_waiting.size() < maximumWaiting)
-        m_waiting.append({title, text});
+        m_waiting.append({title, text, icon.pixmap(imageSide).toImage()});
     if (m_isBusAwake)
         sendWaiting();
     else if (m_probe.state() == QLocalSocket::UnconnectedState)
@@ -69,13 +88,13 @@ void DesktopNotifier::sendWaiting()
         m_isBusAwake = false; // The next notification asks again.
         return;
     }
-    for (const auto& [title, text] : std::as_const(m_waiting)) {
+    for (const auto& [title, text, image] : std::as_const(m_waiting)) {
         QDBusMessage message = QDBusMessage::createMethodCall(
             QStringLiteral("org.freedesktop.Notifications"),
             QStringLiteral("/org/freedesktop/Notifications"),
             QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
         message << QGuiApplication::applicationDisplayName() << 0U << QString() << title
-                << text.toHtmlEscaped() << QStringList() << QVariantMap() << -1;
+                << text.toHtmlEscaped() << QStringList() << hintsFor(image) << -1;
         bus.asyncCall(message);
     }
     m_waiting.clear();

@@ -130,7 +130,8 @@ void NotificationsPrivate::arrange()
         if (popup.value() == nullptr || toldToDesktop.contains(popup.key()))
             continue;
         toldToDesktop.insert(popup.key());
-        desktop.notify(popup.value()->windowTitle(), popup.value()->accessibleDescription());
+        desktop.notify(popup.value()->windowTitle(), popup.value()->accessibleDescription(),
+                       popup.value()->windowIcon());
     }
 }
 

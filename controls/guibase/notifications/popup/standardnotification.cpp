@@ -132,8 +132,10 @@ void StandardNotification::setIcon(const QPixmap& icon)
     const QSizeF size = icon.deviceIndependentSize();
     const bool isLarge = std::max(size.width(), size.height()) > maximumIconSize;
     const int side = static_cast<int>(maximumIconSize * icon.devicePixelRatio());
-    d->icon->setPixmap(
-        isLarge ? icon.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation) : icon);
+    const QPixmap fitting =
+        isLarge ? icon.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation) : icon;
+    d->icon->setPixmap(fitting);
+    setWindowIcon(fitting);
     d->arrange();
 }
 

@@ -29,7 +29,7 @@ public:
     /// Tints the panel from this color to a lighter one; the texts turn black or white, whichever
     /// can be read on both. An invalid color is the default one.
     void setColor(const QColor& color);
-    /// Made smaller when it is larger than 128 by 128.
+    /// Made smaller when it is larger than 128 by 128. It is the window icon as well.
     void setIcon(const QPixmap& icon);
     QString title() const;
     /// The bold text, up to three lines, and the window title. Plain text.

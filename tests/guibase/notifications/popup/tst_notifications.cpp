@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDialog>
 #include <QDir>
@@ -39,11 +40,22 @@ class Desktop : public QObject
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
 public:
     QStringList told;
+    QImage image; // of the last one
 public Q_SLOTS:
     uint Notify(const QString&, uint, const QString&, const QString& title, const QString& text,
-                const QStringList&, const QVariantMap&, int)
+                const QStringList&, const QVariantMap& hints, int)
     {
         told << title << text;
+        const auto data = hints.value(u"image-data"_s).value<QDBusArgument>();
+        int width = 0, height = 0, lineSize = 0, bits = 0, samples = 0;
+        bool hasAlpha = false;
+        QByteArray pixels;
+        data.beginStructure();
+        data >> width >> height >> lineSize >> hasAlpha >> bits >> samples >> pixels;
+        data.endStructure();
+        image = QImage(reinterpret_cast<const uchar*>(pixels.constData()), width, height, lineSize,
+                       QImage::Format_RGBA8888)
+                    .copy();
         return 1;
     }
 };
@@ -395,10 +407,13 @@ void tst_Notifications::goesToTheDesktop()
     show(u"without a bus"_s);
     QCoreApplication::processEvents();
     qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-    StandardNotification* popup = Notifications::warning(u"a <title>"_s, u"1 < 2"_s);
+    QPixmap icon(20, 10);
+    icon.fill(Qt::darkCyan);
+    StandardNotification* popup = Notifications::warning(icon, u"a <title>"_s, u"1 < 2"_s);
     const QStringList expected{u"without a bus"_s, u"without a bus text"_s, u"a <title>"_s,
                                u"1 &lt; 2"_s};
     QTRY_COMPARE(desktop.told, expected);
+    QCOMPARE(desktop.image, icon.toImage().convertToFormat(QImage::Format_RGBA8888));
     QVERIFY(!popup->isVisible());
     QMainWindow window; // A place, and it is not told again.
     window.resize(600, 500);
