@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
+#include "support/modaldialogcloser.h"
 #include "support/testrows.h"
 
 #include <guibase/colors/colorset.h>
@@ -7,11 +8,11 @@
 #include <trovappstartup/cfgcenter.h>
 
 #include <QApplication>
-#include <QDialog>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QTest>
-#include <QTimer>
+
+#include <memory>
 
 /// What the services touch may die while they are at work on it.
 class tst_DyingObjects : public GuardedTest
@@ -23,27 +24,21 @@ private Q_SLOTS:
     // Must be first to set an application: reading the settings then asks about the missing file.
     void mainWidgetWhileSettingsAreRead()
     {
-        CfgCenter::GetAppCfg(SettingsView)
-            ->OpenSubCfg(QStringLiteral("GuiCentral"))
-            ->SetString(QStringLiteral("ColorDefinitionFile"), QStringLiteral("/missing/set.cst"));
+        const std::unique_ptr<ICfg> settings =
+            CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(QStringLiteral("GuiCentral"));
+        const QString name = QStringLiteral("ColorDefinitionFile");
+        const QString file = QStringLiteral("/missing/set.cst");
+        settings->SetString(name, file);
         auto* const window = new QWidget;
-        QTimer timer;
-        timer.callOnTimeout(this, [&, guard = QPointer<QWidget>(window)] {
-            auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr)
-                return;
-            delete guard.data();
+        const ModalDialogCloser closer([window](const QDialog&) {
+            delete window;
             // What is stored stands until the user has answered.
             GuiBase::Instance().SavePersistant();
-            dialog->reject();
         });
-        timer.start(1);
         GuiBase::Instance().SetMainWidget(window);
+        QVERIFY(closer.hasSeenDialog());
         QVERIFY(GuiBase::Instance().GetMainWidget() == nullptr);
-        QCOMPARE(CfgCenter::GetAppCfg(SettingsView)
-                     ->OpenSubCfg(QStringLiteral("GuiCentral"))
-                     ->GetString(QStringLiteral("ColorDefinitionFile")),
-                 QStringLiteral("/missing/set.cst"));
+        QCOMPARE(settings->GetString(name), file);
     }
 
     void parentOfOpenDialog_data()
@@ -63,22 +58,10 @@ private Q_SLOTS:
     void parentOfOpenDialog()
     {
         const auto& [open] = Dialogs::fetch();
-        QPointer<QWidget> parent(new QWidget);
-        bool wasOpen = false;
-        QTimer timer;
-        timer.callOnTimeout(this, [&] {
-            QWidget* const dialog = QApplication::activeModalWidget();
-            if (dialog == nullptr)
-                return;
-            wasOpen = true;
-            if (parent != nullptr)
-                delete parent.data();
-            else
-                qobject_cast<QDialog*>(dialog)->reject();
-        });
-        timer.start(1);
+        const QPointer<QWidget> parent(new QWidget);
+        const ModalDialogCloser closer([&parent](const QDialog&) { delete parent.data(); });
         open(parent);
-        QVERIFY(wasOpen);
+        QVERIFY(closer.hasSeenDialog());
         QVERIFY(parent == nullptr);
     }
 

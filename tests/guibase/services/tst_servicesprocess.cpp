@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/childprocess.h"
+#include "support/files.h"
 #include "support/guardedtest.h"
 #include "support/testrows.h"
 
@@ -73,7 +74,7 @@ private Q_SLOTS:
             ChildProcess first(process, arguments);
             const QString file = CfgCenter::GetAppCfgFileName();
             for (const char* part : {"77,0,0;", "panes_Sizes", "GuiBase_main"})
-                QTRY_VERIFY2(read(file).contains(part), part);
+                QTRY_VERIFY2(readFile(file).contains(part), part);
             QVERIFY(first.send(SIGKILL));
             QCOMPARE(first.waitForEnd(), -SIGKILL);
         }
@@ -87,11 +88,6 @@ private Q_SLOTS:
     }
 
 private:
-    static QByteArray read(const QString& fileName)
-    {
-        QFile file(fileName);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     void prepare() override { CfgCenter::SetAppName(QStringLiteral("services")); }
     /// What the process told and what it complained about, with the exit code when it failed.
     QString run(const char* scenario)

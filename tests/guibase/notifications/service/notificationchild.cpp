@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // A program with pop-ups but no windows, for tests of whole processes:
 //     notificationchild PORT ANSWER-TIME COUNT
-// enters COUNT pop-ups, and obeys the lines "add" and "close" (its oldest) on its standard input.
-// After each change it writes one line: the time (ns of the steady clock), its role, the hash of
-// the list, and the top and the height of each of its own pop-ups on a high screen.
+// enters COUNT pop-ups, and another one for each line "add" on its standard input.
+// After each change it writes one line: its role, the hash of the list, and the top and the height
+// of each of its own pop-ups on a high screen.
 #include <guibase/notifications/service/notificationservice.h>
 
 #include <guibase/notifications/popup/popuplayout.h>
@@ -12,7 +12,6 @@
 #include <QMetaEnum>
 #include <QSocketNotifier>
 
-#include <chrono>
 #include <iostream>
 #include <string>
 
@@ -52,8 +51,6 @@ private:
             QCoreApplication::quit();
         else if (line == "add")
             add();
-        else if (line == "close")
-            m_service.remove(m_ids.takeFirst());
     }
     void report()
     {
@@ -62,8 +59,7 @@ private:
         for (auto entry = entries.crbegin(); entry != entries.crend(); ++entry)
             heights << entry->height;
         const PopupLayout::Plan plan = PopupLayout::plan(screen.height(), heights, 0);
-        std::cout << std::chrono::steady_clock::now().time_since_epoch().count() << ' '
-                  << QMetaEnum::fromType<NotificationService::Role>().valueToKey(
+        std::cout << QMetaEnum::fromType<NotificationService::Role>().valueToKey(
                          static_cast<int>(m_service.role()))
                   << ' ' << m_service.stack().hash();
         for (qsizetype i = 0; i < entries.size(); ++i) {
