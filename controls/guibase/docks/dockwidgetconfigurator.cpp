@@ -41,7 +41,7 @@ void appendAreaActions(const Support* support,
 
 } // namespace
 
-struct DockWidgetConfigurator::Private
+struct DockWidgetConfigurator::Private : QSharedData
 {
     const QList<QAction*>* actions = nullptr;
     const QMainWindowHelpers::TabifySupport* tabifySupport = nullptr;
@@ -57,19 +57,12 @@ struct DockWidgetConfigurator::Private
 };
 
 DockWidgetConfigurator::DockWidgetConfigurator()
-    : d(std::make_unique<Private>())
+    : d(new Private)
 {}
 
-DockWidgetConfigurator::DockWidgetConfigurator(const DockWidgetConfigurator& other)
-    : d(std::make_unique<Private>(*other.d))
-{}
-
-DockWidgetConfigurator& DockWidgetConfigurator::operator=(const DockWidgetConfigurator& other)
-{
-    *d = *other.d;
-    return *this;
-}
-
+DockWidgetConfigurator::DockWidgetConfigurator(const DockWidgetConfigurator& other) = default;
+DockWidgetConfigurator&
+DockWidgetConfigurator::operator=(const DockWidgetConfigurator& other) = default;
 DockWidgetConfigurator::~DockWidgetConfigurator() = default;
 
 DockWidgetConfigurator& DockWidgetConfigurator::includeActionsFrom(const QList<QAction*>* actions)

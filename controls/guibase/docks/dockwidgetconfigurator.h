@@ -6,9 +6,8 @@
 #include <QDockWidget>
 #include <QIcon>
 #include <QList>
+#include <QSharedDataPointer>
 #include <QString>
-
-#include <memory>
 
 class QAction;
 
@@ -67,7 +66,7 @@ private:
     void appendStateActions(QDockWidget& dockWidget, QList<QAction*>& actions) const;
 
     struct Private;
-    std::unique_ptr<Private> d;
+    QSharedDataPointer<Private> d;
 };
 
 } // namespace QDockWidgetHelpers

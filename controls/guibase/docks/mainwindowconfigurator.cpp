@@ -27,7 +27,7 @@ void installFor(QMainWindow& mainWindow, const std::optional<Areas>& areas)
 
 } // namespace
 
-struct MainWindowConfigurator::Private
+struct MainWindowConfigurator::Private : QSharedData
 {
     bool activeDockWidgetSupport = false;
     std::optional<QFlags<Qt::ToolBarArea>> autoHideAreas;
@@ -40,19 +40,12 @@ struct MainWindowConfigurator::Private
 };
 
 MainWindowConfigurator::MainWindowConfigurator()
-    : d(std::make_unique<Private>())
+    : d(new Private)
 {}
 
-MainWindowConfigurator::MainWindowConfigurator(const MainWindowConfigurator& other)
-    : d(std::make_unique<Private>(*other.d))
-{}
-
-MainWindowConfigurator& MainWindowConfigurator::operator=(const MainWindowConfigurator& other)
-{
-    *d = *other.d;
-    return *this;
-}
-
+MainWindowConfigurator::MainWindowConfigurator(const MainWindowConfigurator& other) = default;
+MainWindowConfigurator&
+MainWindowConfigurator::operator=(const MainWindowConfigurator& other) = default;
 MainWindowConfigurator::~MainWindowConfigurator() = default;
 
 MainWindowConfigurator& MainWindowConfigurator::withActiveDockWidgetSupport(bool enabled)

@@ -5,10 +5,9 @@
 
 #include <QIcon>
 #include <QMainWindow>
+#include <QSharedDataPointer>
 #include <QString>
 #include <QTabWidget>
-
-#include <memory>
 
 namespace QMainWindowHelpers {
 
@@ -51,7 +50,7 @@ public:
 
 private:
     struct Private;
-    std::unique_ptr<Private> d;
+    QSharedDataPointer<Private> d;
 };
 
 } // namespace QMainWindowHelpers
