@@ -6,19 +6,19 @@
 
 #include <QStringList>
 
-#include <cstdlib>
-
 namespace {
 
 constexpr QLatin1Char rowEnd(';');
 constexpr QLatin1Char separator(',');
 
-bool isPlausible(const QRect& place)
+bool isPlausible(int x, int y, int width, int height)
 {
     constexpr int farthest = GeometryRecord::farthestPosition;
-    return std::abs(place.x()) <= farthest && std::abs(place.y()) <= farthest &&
-           place.width() > 0 && place.width() <= farthest && place.height() > 0 &&
-           place.height() <= farthest;
+    const auto isWithin = [](int lowest, int value) {
+        return value >= lowest && value <= farthest;
+    };
+    return isWithin(-farthest, x) && isWithin(-farthest, y) && isWithin(1, width) &&
+           isWithin(1, height);
 }
 
 bool addRow(MaximizedDocksText::Modes& modes, const QString& text)
@@ -28,15 +28,14 @@ bool addRow(MaximizedDocksText::Modes& modes, const QString& text)
         return false;
     bool isNumber = false;
     const quint32 mode = parts.at(0).toUInt(&isNumber);
-    int numbers[4];
+    int numbers[4]{};
     for (int i = 0; i < 4 && isNumber; ++i)
         numbers[i] = parts.at(i + 1).toInt(&isNumber);
-    if (!isNumber)
-        return false;
-    const QRect place(numbers[0], numbers[1], numbers[2], numbers[3]);
+    const auto [x, y, width, height] = numbers;
     const auto name = Hexadecimal::decode(parts.at(5));
-    if (!isPlausible(place) || !name || name->isEmpty())
+    if (!isNumber || !isPlausible(x, y, width, height) || !name || name->isEmpty())
         return false;
+    const QRect place(x, y, width, height);
     return modes[mode].try_emplace(QString::fromUtf8(*name), place).second;
 }
 

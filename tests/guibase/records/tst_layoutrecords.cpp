@@ -146,7 +146,8 @@ private Q_SLOTS:
         const QString good = format(modes);
         QVERIFY(parse(good) == modes && parse(QString()) == Modes());
         for (const char* bad : {"0,1,2,3,4,41", "0,1,2,0,4,41;", "0,1,2,3,4,;", "0,1,2,3,41;",
-                                "-1,1,2,3,4,41;", "0,1,2,3,4,41;0,1,2,3,4,41;"})
+                                "-1,1,2,3,4,41;", "0,1,2,3,4,41;0,1,2,3,4,41;",
+                                "0,-2147483648,2,3,4,41;", "0,2147483647,2,2147483647,4,41;"})
             QVERIFY2(!parse(QString::fromLatin1(bad)), bad);
         for (int round = 0; round < RandomBytes::rounds(1000); ++round) {
             const auto read = parse(QString::fromLatin1(random.mutated(good.toLatin1())));
