@@ -52,21 +52,6 @@ QString sortedNumbers(std::vector<Row>& rows, SortListView::CompareFunction func
     return numbers;
 }
 
-/// Whether rows that are equal to a third one are equal to each other. Functions for numbers take a
-/// text that is no number for equal to every number.
-bool isConsistent(SortListView::CompareFunction function, const std::vector<Row>& rows)
-{
-    const auto isEqual = [function](const Row& a, const Row& b) {
-        return !isLess(function, a, b) && !isLess(function, b, a);
-    };
-    for (const Row& a : rows)
-        for (const Row& b : rows)
-            for (const Row& c : rows)
-                if (isEqual(a, b) && isEqual(b, c) && !isEqual(a, c))
-                    return false;
-    return true;
-}
-
 void addRow(SortListView& list, std::vector<Row>& rows, const QString& text, const QString& key)
 {
     rows.push_back({text, key, QString::number(rows.size()) + u' '});
@@ -163,23 +148,20 @@ private Q_SLOTS:
             addRows(random.below(60));
             list.sortByColumn(0, order);
             QCOMPARE(columnTexts(list, 1), expected(order));
-            bool hasOrder = true; // else none is right
+            QSignalSpy sorts(list.model(), &QAbstractItemModel::layoutChanged);
             for (int times = random.below(4); times >= 0; --times) {
+                sorts.clear();
                 addRows(1 + random.below(10));
-                const QString placed = expected(order);
-                const auto isPlaced = [&] { return columnTexts(list, 1) == placed; };
-                hasOrder = QTest::qWaitFor(isPlaced) || isConsistent(function, rows);
-                if (!hasOrder)
-                    break;
-                QCOMPARE(columnTexts(list, 1), placed);
+                // Also rows that are in place already: sorting them twice can make another order
+                // where texts that are no numbers equal all numbers.
+                QTRY_VERIFY(!sorts.isEmpty());
+                QCOMPARE(columnTexts(list, 1), expected(order));
                 if (random.below(3) == 0 && !rows.empty()) {
                     const int row = random.below(int(rows.size()));
                     delete list.topLevelItem(row);
                     rows.erase(rows.begin() + row);
                 }
             }
-            if (!hasOrder)
-                continue;
             list.sortByColumn(0, Qt::AscendingOrder);
             QCOMPARE(columnTexts(list, 1), expected(Qt::AscendingOrder));
             list.QTreeWidget::sortItems(0, order); // without keys that were read before
