@@ -22,8 +22,8 @@ enum class Outcome {
 using Ascii = QVarLengthArray<char, 128>;
 
 /// Writes the decimal number to `ascii` in C notation: '-', digits, '.', 'e', without groups. It
-/// need not be a complete number: digits may be missing. A single separator that is
-/// `decimalPoint` is the decimal one. Digits may be of any script.
+/// need not be a complete number: digits may be missing. A single separator that is `decimalPoint`
+/// is the decimal one. Digits may be of any script.
 Outcome normalize(QStringView text, QChar decimalPoint, Ascii& ascii);
 
 /// The two numbers that an ambiguous text may stand for, written so that they can be read.

@@ -18,9 +18,8 @@ inline constexpr int stateVersion = 1;
 /// Docks that are still maximized as in the former layout keep the place that they had there.
 DockLayout save(const QMainWindow& window, const DockLayout& former = {});
 /// Applies the layout. Docks and tool bars that it does not know stay where they are: in their
-/// area, tabs and line. Floating docks come back whole on a screen of today, or
-/// maximized. A state that
-/// DockStateCheck refuses changes nothing.
+/// area, tabs and line. Floating docks come back whole on a screen of today, or maximized. A state
+/// that DockStateCheck refuses changes nothing.
 void restore(QMainWindow& window, const DockLayout& layout);
 
 /// Where a dock is in its window, regardless of sizes.

@@ -22,8 +22,7 @@ public:
     {
         StateRecord::Layouts layouts;
         MaximizedDocksText::Modes maximized;
-        QByteArray geometry; ///< As QWidget::saveGeometry() gives it; empty when
-                             ///< there is none.
+        QByteArray geometry; ///< As QWidget::saveGeometry() gives it; empty when there is none.
         bool isMinimized = false;
 
         bool operator==(const Content&) const = default;

@@ -18,9 +18,8 @@ namespace SpinBoxes {
 /// Value, range, display formats and text handling of a spin box that holds a `T`.
 ///
 /// The class has no meta-object: the signals are operations that the typed classes implement by
-/// declaring them as signals. NaN and invalid date-times are ignored
-/// everywhere. A converter of a format that throws counts as a text that cannot be read or, when
-/// writing, leaves the field empty.
+/// declaring them as signals. NaN and invalid date-times are ignored everywhere. A converter of a
+/// format that throws counts as a text that cannot be read; in writing, it leaves the field empty.
 template <typename T>
 class GUIBASE_EXPORT SpinBoxBase : public AbstractSpinBox
 {

@@ -18,8 +18,8 @@ namespace guiHelper {
 ///
 /// The handler is a child of the header. The menu opens on a right click, and with Ctrl+Alt+H for a
 /// horizontal header or Ctrl+Alt+V for a vertical one while its view has the focus (headers never
-/// get it). The stored state is checked before it is applied. A damaged one changes
-/// nothing, and is kept aside under its key followed by "_damaged".
+/// get it). The stored state is checked before it is applied. A damaged one changes nothing, and is
+/// kept aside under its key followed by "_damaged".
 class GUIBASE_EXPORT QHeaderViewColumnHandler : public QObject
 {
     Q_OBJECT
