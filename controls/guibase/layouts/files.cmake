@@ -9,4 +9,5 @@ guibase_room(layouts
         persistentwidgetregistry.cpp persistentwidgetregistry.h
         sizewait.cpp sizewait_p.h
         widgetplacement.cpp widgetplacement.h
+        windowplaces.cpp windowplaces_p.h
         windowrecord.cpp windowrecord_p.h)

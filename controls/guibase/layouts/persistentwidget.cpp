@@ -3,8 +3,6 @@
 
 #include "widgetplacement.h"
 
-#include <guibase/records/geometryrecord.h>
-
 #include <jtbase/qtimerhelpers.h>
 #include <trovappstartup/cfgcenter.h>
 
@@ -15,13 +13,9 @@
 #include <QMdiSubWindow>
 #include <QRegularExpression>
 #include <QScopedValueRollback>
-#include <QScreen>
 #include <QTimer>
 
 namespace {
-
-/// In milliseconds: so long after the first showing, a move is that of the window manager.
-constexpr int placeMilliseconds = 1000;
 
 /// Also the docks in floating groups and in inner main windows: they end with the window, too.
 QList<QDockWidget*> docksWithin(const QObject* window)
@@ -44,6 +38,7 @@ PersistentWidget::PersistentWidget(QWidget* widget, const QString& recordName)
     , m_hasMainWindow(m_mainWindow != nullptr)
     , m_identity(widget)
     , m_record(cleanedName(recordName), *this)
+    , m_places(widget)
 {
     connect(widget, &QObject::destroyed, this, &PersistentWidget::slotWidgetDestroyed);
     if (m_mainWindow && m_mainWindow != m_widget)
@@ -142,8 +137,7 @@ void PersistentWidget::ApplyPersistantAfterRead()
     m_modes.current().latest.names = m_record.takeFirstNames();
     m_isMinimized = content.isMinimized;
     m_geometry = content.geometry;
-    if (const auto geometry = GeometryRecord::fromBytes(m_geometry))
-        m_normalPlace = geometry->normal;
+    m_places.load(m_geometry);
     applyStart();
 }
 
@@ -166,30 +160,13 @@ void PersistentWidget::noteChange()
     Q_EMIT changed();
 }
 
-QByteArray PersistentWidget::presentGeometry() const
-{
-    QByteArray bytes = m_widget->saveGeometry();
-    if (m_widget->isWindow() || isNormal() || m_normalPlace.isEmpty())
-        return bytes;
-    auto record = GeometryRecord::fromBytes(bytes);
-    if (!record)
-        return bytes;
-    record->normal = m_normalPlace;
-    return record->toBytes();
-}
-
-bool PersistentWidget::isNormal() const
-{
-    return !(m_widget->windowState() & ~Qt::WindowStates(Qt::WindowActive));
-}
-
 void PersistentWidget::capture()
 {
     // An MDI sub-window that has lost its main window shrinks to nothing.
     if (!m_widget || (m_hasMainWindow && mainWindow() == nullptr))
         return;
     if (!m_widget->isMinimized())
-        update(m_geometry, presentGeometry());
+        update(m_geometry, m_places.present());
     update(m_isMinimized, m_widget->isMinimized());
     captureDocks();
 }
@@ -247,7 +224,7 @@ bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
     const bool isWindow = watched == m_widget || watched == m_mainWindow;
     if (watched == m_widget) {
         noteVisibility(*event);
-        notePlace(*event);
+        m_places.note(*event);
     }
     switch (event->type()) {
     case QEvent::MouseButtonRelease:
@@ -291,15 +268,6 @@ bool PersistentWidget::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-void PersistentWidget::notePlace(const QEvent& event)
-{
-    // Not with a change of its state, in the middle of which a sub-window has none.
-    if ((event.type() == QEvent::Move || event.type() == QEvent::Resize) && isNormal())
-        m_normalPlace = m_widget->geometry();
-    if (event.type() == QEvent::Move && m_awaitsPlace)
-        m_startGeometry = m_widget->saveGeometry();
-}
-
 /// A dialog that is accepted or rejected is hidden without being closed.
 void PersistentWidget::noteVisibility(const QEvent& event)
 {
@@ -316,8 +284,7 @@ void PersistentWidget::watch()
     if (m_widget) {
         m_widget->installEventFilter(this);
         m_isClosed = m_isClosed && m_widget->isHidden(); // It may have been shown meanwhile.
-        if (isNormal())
-            m_normalPlace = m_widget->geometry();
+        m_places.noteNormal();
     }
     if (m_mainWindow && m_mainWindow != m_widget)
         m_mainWindow->installEventFilter(this);
@@ -342,27 +309,19 @@ void PersistentWidget::watchDocks()
 void PersistentWidget::applyStart()
 {
     unwatch();
-    const bool isPlaced =
-        !m_widget->isWindow() || m_widget->isVisible() || m_widget->testAttribute(Qt::WA_Moved);
-    if (m_factoryGeometry.isEmpty()) {
-        m_factoryGeometry = m_widget->saveGeometry();
-        m_isFactoryPlaced = isPlaced;
-    }
     const bool isStored = !m_geometry.isEmpty();
-    m_startGeometry = isStored ? m_geometry : m_widget->saveGeometry();
+    m_places.begin(m_geometry);
     QSize size;
     if (isStored)
-        size = WidgetPlacement::apply(*m_widget, m_startGeometry);
+        size = WidgetPlacement::apply(*m_widget, m_places.start());
     if (m_widget)
         m_widget->show();
     applyCurrentLayout();
     if (isStored) {
-        restoreGeometryIfMoved(m_startGeometry);
+        restoreGeometryIfMoved(m_places.start());
         awaitSize(size);
-    }
-    if (!isStored && !isPlaced) {
-        m_awaitsPlace = true;
-        QTimerHelpers::singleShot(placeMilliseconds, this, [this] { m_awaitsPlace = false; });
+    } else {
+        m_places.awaitWindowManager();
     }
     if (m_startMinimized == StartMinimized::Unknown)
         m_startMinimized = m_isMinimized ? StartMinimized::Yes : StartMinimized::No;
@@ -428,19 +387,15 @@ void PersistentWidget::minimizeLater()
 
 void PersistentWidget::restoreProgramStart()
 {
-    restore(m_startGeometry, &ModeLayout::programStart);
+    restore(m_places.start(), &ModeLayout::programStart);
     if (m_widget && m_startMinimized == StartMinimized::Yes)
         m_widget->showMinimized();
 }
 
 void PersistentWidget::restoreFactory()
 {
-    restore(m_factoryGeometry, &ModeLayout::factory);
-    if (m_widget && !m_isFactoryPlaced) {
-        QRect frame = m_widget->frameGeometry();
-        frame.moveCenter(m_widget->screen()->availableGeometry().center());
-        m_widget->move(frame.topLeft());
-    }
+    restore(m_places.factory(), &ModeLayout::factory);
+    m_places.centreUnplaced();
 }
 
 void PersistentWidget::restore(const QByteArray& geometry, DockLayout ModeLayout::*former)

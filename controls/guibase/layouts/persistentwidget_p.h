@@ -3,6 +3,7 @@
 
 #include "modetable_p.h"
 #include "sizewait_p.h"
+#include "windowplaces_p.h"
 #include "windowrecord_p.h"
 
 #include <trovappstartup/savecomponentif.h>
@@ -11,7 +12,6 @@
 #include <QByteArray>
 #include <QObject>
 #include <QPointer>
-#include <QRect>
 #include <QString>
 #include <QWidget>
 
@@ -86,12 +86,9 @@ private:
 
     QMainWindow* mainWindow() const;
     WindowRecord::Content content() const;
-    QByteArray presentGeometry() const;
-    bool isNormal() const;
     void captureDocks();
     void captureDocksSoon();
     void noteVisibility(const QEvent& event);
-    void notePlace(const QEvent& event);
     void applyStart();
     void applyCurrentLayout();
     void restore(const QByteArray& geometry, DockLayout ModeLayout::*former);
@@ -118,15 +115,8 @@ private:
     bool m_isEnding = false;
     std::vector<QPointer<QDockWidget>> m_openAtEnd; ///< The floating docks that were.
     StartMinimized m_startMinimized = StartMinimized::Unknown;
-    QByteArray m_startGeometry;
-    QByteArray m_factoryGeometry;
     QByteArray m_geometry; ///< The latest.
-    QRect m_normalPlace;   ///< Of a child widget: the toolkit knows it of windows
-                           ///< only.
-    /// Whether the application gave the window a place; otherwise the window manager does, and the
-    /// factory's place is the middle of the screen.
-    bool m_isFactoryPlaced = true;
-    bool m_awaitsPlace = false; ///< The window manager's, which counts as that of program start.
+    WindowPlaces m_places;
     ModeTable m_modes;
     SizeWait m_sizeWait;
     QPointer<QTimer> m_captureTimer;
