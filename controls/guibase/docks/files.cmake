@@ -3,6 +3,7 @@ guibase_room(docks
     PUBLIC
         dockwidgetconfigurator.cpp dockwidgetconfigurator.h
         dockwidgethelpers.cpp dockwidgethelpers.h
+        dockwindowstate.cpp
         enhanceddockwidgettitlebar.cpp enhanceddockwidgettitlebar.h
         mainwindowconfigurator.cpp mainwindowconfigurator.h
         mainwindowhelpers.cpp mainwindowhelpers.h

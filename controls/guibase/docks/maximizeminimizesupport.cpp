@@ -386,50 +386,9 @@ bool MaximizeMinimizeSupport::isRestoreDockWidgetPossible() const
     return dockWidget() != nullptr && isRestoreDockWidgetPossible(*dockWidget());
 }
 
-State::Type MaximizeMinimizeSupport::dockWidgetState(const QDockWidget& dock)
+bool MaximizeMinimizeSupport::maximizeWhenShown()
 {
-    if (dock.isMinimized())
-        return State::Minimized;
-    return dock.isMaximized() ? State::Maximized : State::Normal;
-}
-
-bool MaximizeMinimizeSupport::isMaximizeDockWidgetPossible(const QDockWidget& dock)
-{
-    return dock.isFloating() && !dock.isMaximized() && !EdgeHiding::isOn(dock);
-}
-
-bool MaximizeMinimizeSupport::isMinimizeDockWidgetPossible(const QDockWidget& dock)
-{
-    return dock.isFloating() && !dock.isMinimized() && !EdgeHiding::isOn(dock);
-}
-
-bool MaximizeMinimizeSupport::isRestoreDockWidgetPossible(const QDockWidget& dock)
-{
-    return dock.isFloating() && (dock.isMinimized() || dock.isMaximized());
-}
-
-bool MaximizeMinimizeSupport::maximizeDockWidget(QDockWidget& dock)
-{
-    if (!isMaximizeDockWidgetPossible(dock))
-        return false;
-    dock.showMaximized();
-    return true;
-}
-
-bool MaximizeMinimizeSupport::minimizeDockWidget(QDockWidget& dock)
-{
-    if (!isMinimizeDockWidgetPossible(dock))
-        return false;
-    dock.showMinimized();
-    return true;
-}
-
-bool MaximizeMinimizeSupport::restoreDockWidget(QDockWidget& dock)
-{
-    if (!isRestoreDockWidgetPossible(dock))
-        return false;
-    dock.showNormal();
-    return true;
+    return d->changeTo(State::Maximized, &MaximizeMinimizeSupport::maximizeWhenShown);
 }
 
 bool MaximizeMinimizeSupport::maximizeDockWidget()

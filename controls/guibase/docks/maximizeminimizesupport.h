@@ -81,6 +81,13 @@ public:
     static bool minimizeDockWidget(QDockWidget& dock);
     static bool restoreDockWidget(QDockWidget& dock);
 
+    /// Lets a hidden dock that floats appear maximized; its present geometry is the one that it
+    /// goes back to when it is restored. False, with nothing changed, for a dock that is visible or
+    /// docked, or hides at the edge.
+    bool maximizeWhenShown();
+    /// The same for any dock without a support.
+    static bool maximizeWhenShown(QDockWidget& dock);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:

@@ -84,23 +84,32 @@ void putBack(QMainWindow& window, const FormerDock& former)
         dock->setHidden(wasHidden);
 }
 
-void placeFloating(QDockWidget& dock, const MaximizedDocks& maximized)
+void maximize(QDockWidget& dock)
 {
     using QDockWidgetHelpers::MaximizeMinimizeSupport;
+    // A support would undo what it does not know of.
+    auto* const support = MaximizeMinimizeSupport::get(dock);
+    if (dock.isVisible() && support != nullptr)
+        support->maximizeDockWidget();
+    else if (dock.isVisible())
+        MaximizeMinimizeSupport::maximizeDockWidget(dock);
+    else if (support != nullptr)
+        support->maximizeWhenShown();
+    else
+        MaximizeMinimizeSupport::maximizeWhenShown(dock);
+}
+
+void placeFloating(QDockWidget& dock, const MaximizedDocks& maximized)
+{
     const auto found = maximized.find(dock.objectName());
     const bool shallMaximize = found != maximized.end() && !dock.isMaximized();
     const QPointer<QDockWidget> guard(&dock);
     if (shallMaximize)
         dock.setGeometry(WidgetPlacement::reachableGeometry(found->second, dock));
-    if (guard)
+    if (guard && dock.isVisible())
         FloatingDockKeeper::keep(dock, FloatingDockKeeper::Place::OnScreen);
-    if (!shallMaximize || !guard)
-        return;
-    // It would undo what it does not know of.
-    if (auto* const support = MaximizeMinimizeSupport::get(dock))
-        support->maximizeDockWidget();
-    else
-        MaximizeMinimizeSupport::maximizeDockWidget(dock);
+    if (guard && shallMaximize)
+        maximize(dock);
 }
 
 /// The toolkit puts all unknown tool bars of an area into one line.
@@ -146,7 +155,7 @@ void DockRestore::restore(QMainWindow& window, const DockLayout& layout)
     for (const FormerDock& former : docks) {
         if (guard)
             putBack(window, former);
-        if (former.dock && former.dock->isFloating() && former.dock->isVisible())
+        if (former.dock && former.dock->isFloating())
             placeFloating(*former.dock, layout.maximized);
     }
     for (const FormerToolBar& former : toolBars) {

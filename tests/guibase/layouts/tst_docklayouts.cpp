@@ -5,6 +5,7 @@
 #include "support/testrows.h"
 #include "support/windowmanager.h"
 
+#include <guibase/docks/maximizeminimizesupport.h>
 #include <guibase/records/geometryrecord.h>
 
 #include <jtbase/errorhandler.h>
@@ -73,6 +74,41 @@ private Q_SLOTS:
             window.enlist();
             QTRY_COMPARE(looks(window), before);
             m_services->StoreWidgetSize();
+        }
+    }
+    void hiddenDockIsStillMaximized()
+    {
+        using QDockWidgetHelpers::MaximizeMinimizeSupport;
+        const QRect place(300, 260, 222, 188);
+        for (const bool isSupported : {false, true}) {
+            const auto largeDock = [isSupported](Window& window) {
+                QDockWidget& dock = *window.dock("B");
+                if (isSupported)
+                    MaximizeMinimizeSupport::install(dock);
+                window.enlist();
+                return &dock;
+            };
+            {
+                Window window;
+                QDockWidget* dock = largeDock(window);
+                dock->setFloating(true);
+                dock->setGeometry(place);
+                dock->hide();
+                MaximizeMinimizeSupport* support = MaximizeMinimizeSupport::get(*dock);
+                QVERIFY(isSupported ? support->maximizeWhenShown()
+                                    : MaximizeMinimizeSupport::maximizeWhenShown(*dock));
+                m_services->StoreWidgetSize();
+            }
+            Window window;
+            QDockWidget* dock = largeDock(window);
+            QVERIFY(dock->isHidden());
+            dock->show();
+            QTRY_VERIFY(dock->width() > 2 * place.width());
+            QVERIFY(windowManagerIsReady() && dock->isMaximized());
+            // Where the dock goes back to; the offscreen platform itself does not know it.
+            QCOMPARE(dock->normalGeometry().size(), place.size());
+            QVERIFY(MaximizeMinimizeSupport::restoreDockWidget(*dock));
+            QTRY_VERIFY(QGuiApplication::platformName() != u"xcb" || dock->size() == place.size());
         }
     }
     void unknownDock_data()
