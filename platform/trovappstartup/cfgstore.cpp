@@ -19,6 +19,13 @@ void report(const QStringList& texts)
         ErrorHandler::Trace(ErrorHandler::TracePlatform, module, __LINE__, text);
 }
 
+/// Whether writing `next` would lose what nobody has read: an array, which is never written here,
+/// or a boolean where a text belongs. Such values were put there by hand.
+bool isLost(const QJsonValue& present, const QJsonValue& next)
+{
+    return (present.isArray() && !next.isUndefined()) || (present.isBool() && next.isString());
+}
+
 /// What the reading holds; a text that is no configuration makes the reading damaged.
 std::optional<CfgDocument> parsed(CfgFile::Reading& reading)
 {
@@ -153,7 +160,15 @@ QJsonValue CfgPlace::value(const QString& key) const
 
 void CfgPlace::setValue(const QString& key, const QJsonValue& value)
 {
-    if (!key.isEmpty() && m_store.document().setValue(m_path, key, value))
+    if (key.isEmpty())
+        return;
+    if (const QJsonValue present = this->value(key); isLost(present, value)) {
+        const QString aside = key + QStringLiteral("_damaged");
+        m_store.document().setValue(m_path, aside, present);
+        report({QStringLiteral("The value of \"%1\" is of another kind; it is kept as \"%2\"")
+                    .arg(key, aside)});
+    }
+    if (m_store.document().setValue(m_path, key, value))
         m_store.notifyChanged();
 }
 
