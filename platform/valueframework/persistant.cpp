@@ -6,31 +6,49 @@
 
 #include <jtbase/errorhandler.h>
 #include <trovappstartup/cfgcenter.h>
+#include <trovappstartup/damagedrecord.h>
 
 #include <QDateTime>
 #include <QLocale>
+#include <QVariant>
 
 #include <cmath>
 #include <limits>
+#include <optional>
+#include <type_traits>
 #include <utility>
 
 namespace {
 
 constexpr const char* moduleName = "persistant";
+constexpr qsizetype longestReport = 80; // of what is stored
 
-QString readStored(const ICfg& cfg, const QString& key, const QString& defaultValue)
+/// What is stored under the key; nothing when it is of another kind.
+template <typename T>
+std::optional<T> stored(const ICfg& cfg, const QString& key)
 {
-    return cfg.GetString(key, defaultValue);
+    // Everything else gives the default, so two defaults tell it from what is stored.
+    const auto read = [&](const T& standard) -> T {
+        if constexpr (std::is_same_v<T, bool>)
+            return cfg.GetBool(key, standard);
+        else if constexpr (std::is_same_v<T, int>)
+            return cfg.GetInt(key, standard);
+        else
+            return cfg.GetString(key, standard);
+    };
+    const T found = read(T{});
+    return found == read(QVariant(1).value<T>()) ? std::optional(found) : std::nullopt;
 }
 
-bool readStored(const ICfg& cfg, const QString& key, bool defaultValue)
+/// For a person; empty for what is neither text nor whole number nor truth.
+QString storedText(const ICfg& cfg, const QString& key)
 {
-    return cfg.GetBool(key, defaultValue);
-}
-
-int readStored(const ICfg& cfg, const QString& key, int defaultValue)
-{
-    return cfg.GetInt(key, defaultValue);
+    if (const auto text = stored<QString>(cfg, key))
+        return *text;
+    if (const auto number = stored<int>(cfg, key))
+        return QString::number(*number);
+    const auto truth = stored<bool>(cfg, key);
+    return truth ? QVariant(*truth).toString() : QString();
 }
 
 void writeStored(ICfg& cfg, const QString& key, const QString& value)
@@ -58,35 +76,17 @@ public:
         , m_default(std::move(defaultValue))
     {}
 
-    void Read(const ICfg& cfg) override { *m_variable = readStored(cfg, GetKey(), m_default); }
+    void Read(const ICfg& cfg) override
+    {
+        const std::optional<T> found = stored<T>(cfg, GetKey());
+        SetDamaged(!found && cfg.Contains(GetKey()));
+        *m_variable = found.value_or(m_default);
+    }
     void Write(ICfg& cfg) const override { writeStored(cfg, GetKey(), *m_variable); }
 
 private:
     T* m_variable;
     T m_default;
-};
-
-class SelectionByKey : public PersistantObject
-{
-public:
-    SelectionByKey(ValueSelection* selection, const QString& key)
-        : PersistantObject(key)
-        , m_selection(selection)
-    {}
-
-    void Read(const ICfg& cfg) override
-    {
-        if (const SelectionItem* current = m_selection->GetCurrentItem())
-            m_selection->SetKey(cfg.GetInt(GetKey(), current->GetKey()));
-    }
-    void Write(ICfg& cfg) const override
-    {
-        if (const SelectionItem* current = m_selection->GetCurrentItem())
-            cfg.SetInt(GetKey(), current->GetKey());
-    }
-
-private:
-    ValueSelection* m_selection;
 };
 
 /// Whole numbers are stored as such, others as the shortest text that gives the same number.
@@ -101,14 +101,13 @@ public:
     void Read(const ICfg& cfg) override
     {
         bool isNumber = false;
-        const double value = cfg.GetString(GetKey()).toDouble(&isNumber);
-        if (isNumber) {
-            m_selection->SetValue(value);
-            return;
+        double value = stored<QString>(cfg, GetKey()).value_or(QString()).toDouble(&isNumber);
+        if (const auto whole = stored<int>(cfg, GetKey()); whole && !isNumber) {
+            value = *whole;
+            isNumber = true;
         }
-        const int whole = cfg.GetInt(GetKey(), notStored);
-        if (whole != notStored)
-            m_selection->SetValue(whole);
+        const bool isTaken = isNumber && m_selection->SetValue(value);
+        SetDamaged(!isTaken && cfg.Contains(GetKey()));
     }
     void Write(ICfg& cfg) const override
     {
@@ -122,8 +121,6 @@ public:
     }
 
 private:
-    static constexpr int notStored = std::numeric_limits<int>::lowest();
-
     ValueSelection* m_selection;
 };
 
@@ -137,16 +134,7 @@ public:
 
     void Read(const ICfg& cfg) override
     {
-        const QVariant now = m_value->GetVariant();
-        if (now.typeId() == QMetaType::Bool) {
-            m_value->SetVariant(cfg.GetBool(GetKey(), now.toBool()));
-        } else if (now.typeId() == QMetaType::Int) {
-            m_value->SetVariant(cfg.GetInt(GetKey(), now.toInt()));
-        } else {
-            const QString nothing(QChar(0));
-            if (const QString text = cfg.GetString(GetKey(), nothing); text != nothing)
-                m_value->SetVariant(text);
-        }
+        SetDamaged(cfg.Contains(GetKey()) && !m_value->SetVariant(storedVariant(cfg)));
     }
     void Write(ICfg& cfg) const override
     {
@@ -162,8 +150,34 @@ public:
     }
 
 private:
+    /// Of the kind that Write() stores; invalid when what is stored is of another kind.
+    QVariant storedVariant(const ICfg& cfg) const
+    {
+        const auto toVariant = [](const auto& found) {
+            return found ? QVariant::fromValue(*found) : QVariant();
+        };
+        switch (m_value->GetVariant().typeId()) {
+        case QMetaType::Bool:
+            return toVariant(stored<bool>(cfg, GetKey()));
+        case QMetaType::Int:
+        case QMetaType::UnknownType: // a selection without a current item
+            return toVariant(stored<int>(cfg, GetKey()));
+        default:
+            return toVariant(stored<QString>(cfg, GetKey()));
+        }
+    }
+
     ValueBase* m_value;
 };
+
+void keepAside(ICfg& cfg, const QString& record, const QString& key)
+{
+    const QString text = storedText(cfg, key);
+    DamagedRecord::keepAside(
+        cfg, {{DamagedRecord::asideName(key), text}}, key,
+        QStringLiteral("\"%1\" in \"%2\" cannot be taken").arg(text.left(longestReport), record),
+        ErrorHandler::TracePlatform);
+}
 
 template <typename T>
 std::unique_ptr<PersistantObject> makeVariable(T* member, const QString& key, T defaultValue)
@@ -229,12 +243,10 @@ void Persistant::Add(int* member, const QString& key, int defaultValue)
 
 void Persistant::Add(ValueSelection* selection, const QString& key, int storage)
 {
-    if (!TROV_ASSERT(selection != nullptr, moduleName))
-        return;
-    if (storage == static_cast<int>(SelectionStorage::ByValue))
+    if (storage != static_cast<int>(SelectionStorage::ByValue))
+        Add(static_cast<ValueBase*>(selection), key);
+    else if (TROV_ASSERT(selection != nullptr, moduleName))
         Add(std::make_unique<SelectionByValue>(selection, key));
-    else
-        Add(std::make_unique<SelectionByKey>(selection, key));
 }
 
 void Persistant::Add(ValueBase* value, const QString& key)
@@ -254,8 +266,11 @@ void Persistant::Read(const QString& subKey)
     const std::unique_ptr<ICfg> cfg = open(subKey);
     if (!TROV_ASSERT(cfg != nullptr, moduleName))
         return;
-    for (const auto& object : m_objects)
+    for (const auto& object : m_objects) {
         object->Read(*cfg);
+        if (object->IsDamaged())
+            keepAside(*cfg, m_name, object->GetKey());
+    }
     if (m_owner != nullptr)
         m_owner->ApplyPersistantAfterRead();
 }

@@ -34,9 +34,17 @@ public:
     const QString& GetKey() const;
     virtual void Read(const ICfg& cfg) = 0;
     virtual void Write(ICfg& cfg) const = 0;
+    /// Whether Read() found something that it cannot take: the record keeps it aside, and the next
+    /// write loses nothing. False at first.
+    bool IsDamaged() const { return m_isDamaged; }
+
+protected:
+    /// To be called by Read().
+    void SetDamaged(bool damaged) { m_isDamaged = damaged; }
 
 private:
     QString m_key;
+    bool m_isDamaged = false;
 };
 
 /// How a selection is stored: by the key of its current item (survives translation and reordering),
@@ -46,8 +54,9 @@ enum class SelectionStorage : int { ByKey = 0, ByValue = 1 };
 /// A named record of the application configuration (settings view), with registered members.
 ///
 /// The members are variables and values of the owner, which must outlive the record. A record is a
-/// sub-configuration with the record's name; with a sub-key, a sub-configuration of that. A null
-/// member is refused and reported.
+/// sub-configuration with the record's name; with a sub-key, a sub-configuration of that. What a
+/// member cannot read is kept aside there and reported (see DamagedRecord). A null member is refused
+/// and reported.
 class VALUEFRAMEWORK_EXPORT Persistant
 {
 public:

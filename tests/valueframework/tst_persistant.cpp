@@ -77,7 +77,20 @@ public:
 class tst_Persistant : public GuardedTest
 {
     Q_OBJECT
-    using Stored = TestRows<QByteArray, QString>;
+    using Stored = TestRows<QByteArray, QString, QString>;
+
+    /// What was kept aside of the record, as "Key=text".
+    static QString keptAside()
+    {
+        const auto cfg = CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(QStringLiteral("Record"));
+        QStringList found;
+        for (const QString& key : cfg->GetKeys()) {
+            if (key.endsWith(QStringLiteral("_damaged")))
+                found << QString(key).replace(QStringLiteral("_damaged"), QStringLiteral("=")) +
+                             cfg->GetString(key);
+        }
+        return found.join(QLatin1Char(' '));
+    }
 
 private Q_SLOTS:
     void roundTrip()
@@ -135,25 +148,30 @@ private Q_SLOTS:
         damaged.record.Read(QString());
         QCOMPARE(damaged.valuesText(),
                  QString(initial).replace(QStringLiteral("|5|"), QStringLiteral("|10|")));
+        damaged.record.Write(QString());
+        QCOMPARE(keptAside(), QStringLiteral("Choice=99 Real=nan Time=soon Truth=3"));
     }
     void readsWhatIsStored_data()
     {
         Stored row;
-        row("other kinds", R"("Text": false, "Flag": "perhaps", "Number": "3x")",
-            "default|1|7|1|1");
-        row("known items", R"("ByKey": 12, "ByValue": 0)", "default|1|7|2|0");
-        row("items as texts", R"("ByKey": "10", "ByValue": "1.0")", "default|1|7|0|2");
-        row("unknown items", R"("ByKey": 1, "ByValue": 12)", "default|1|7|1|1");
-        row("truth for items", R"("ByKey": true, "ByValue": true)", "default|1|7|1|1");
+        row("other kinds", R"("Text": false, "Flag": "perhaps", "Number": "3x")", "default|1|7|1|1",
+            "Flag=perhaps Number=3x Text=false");
+        row("known items", R"("ByKey": 12, "ByValue": 0)", "default|1|7|2|0", "");
+        row("items as texts", R"("ByKey": "10", "ByValue": "1.0")", "default|1|7|0|2", "");
+        row("unknown items", R"("ByKey": 1, "ByValue": 12)", "default|1|7|1|1",
+            "ByKey=1 ByValue=12");
+        row("truth for items", R"("ByKey": true, "ByValue": true)", "default|1|7|1|1",
+            "ByKey=true ByValue=true");
     }
     void readsWhatIsStored()
     {
-        const auto& [stored, expected] = Stored::fetch();
+        const auto& [stored, expected, aside] = Stored::fetch();
         QVERIFY(writeFile(CfgCenter::GetAppCfgFileName(),
                           "{\"settings\": {\"Record\": {" + stored + "}}}"));
         Settings settings;
         settings.record.Read(QString());
         QCOMPARE(settings.shown, expected);
+        QCOMPARE(keptAside(), aside);
     }
     void nullMembersAreRefused()
     {

@@ -3,13 +3,6 @@
 
 #include <jtbase/errorhandler.h>
 
-namespace {
-
-constexpr char module[] = "guibase/records/recordstore";
-constexpr qsizetype longestText = 1 << 20;
-
-} // namespace
-
 RecordStore::RecordStore(CfgView view, QString section, std::function<void()> writeChanges)
     : m_view(view)
     , m_section(std::move(section))
@@ -49,7 +42,7 @@ void RecordStore::write(const QString& name, const QString& text) const
 
 QString RecordStore::asideName(const QString& name)
 {
-    return name + QStringLiteral("_damaged");
+    return DamagedRecord::asideName(name);
 }
 
 void RecordStore::keepAside(const QString& name, const QString& text, const QString& damage) const
@@ -61,16 +54,5 @@ void RecordStore::keepAside(const QString& name, const QString& text, const QStr
 void RecordStore::keepAside(ICfg& place, const Texts& texts, const QString& name,
                             const QString& damage)
 {
-    bool isNews = false;
-    for (const auto& [key, text] : texts) {
-        const QString beginning = text.left(longestText);
-        if (place.GetString(key) == beginning)
-            continue;
-        isNews = true;
-        place.SetString(key, beginning);
-    }
-    if (isNews)
-        ErrorHandler::Trace(ErrorHandler::TraceGuiBase, module, __LINE__,
-                            QStringLiteral("Record \"%1\": %2; it is kept as \"%3\"")
-                                .arg(name, damage, asideName(name)));
+    DamagedRecord::keepAside(place, texts, name, damage, ErrorHandler::TraceGuiBase);
 }

@@ -3,8 +3,8 @@
 
 #include <jtbase/delayedcall.h>
 #include <trovappstartup/cfgcenter.h>
+#include <trovappstartup/damagedrecord.h>
 
-#include <QList>
 #include <QString>
 
 #include <functional>
@@ -62,12 +62,9 @@ public:
     /// In milliseconds, also for changes that were noted before; negative: none are written.
     void setWriteDelay(int milliseconds) { m_changes.setDelay(milliseconds); }
 
-    /// Keys of a place in the configuration, and the texts for them.
-    using Texts = QList<std::pair<QString, QString>>;
-    /// The name under which the damaged record of a name is kept.
+    using Texts = DamagedRecord::Texts;
     static QString asideName(const QString& name);
-    /// Keeps the texts of the damaged record in the place, of endless ones the beginning. Only the
-    /// last damage is kept; what is there already is not reported again.
+    /// See DamagedRecord.
     static void keepAside(ICfg& place, const Texts& texts, const QString& name,
                           const QString& damage);
 
