@@ -231,11 +231,23 @@ private:
             }
         }
         const Shown wanted = Conversion::nearest<Shown>(value);
+        if (isSpecialBelowRange(wanted))
+            return {wanted, Conversion::fits<Shown>(value)};
         const Shown quantity = std::clamp(wanted, widget.minimum(), widget.maximum());
         bool fits = quantity == wanted;
         if constexpr (requires { widget.decimals(); })
             fits = fits || std::abs(quantity - wanted) < std::pow(10.0, -widget.decimals());
         return {quantity, fits && Conversion::fits<Shown>(value)};
+    }
+
+    /// What the widget takes and shows although it is below its minimum.
+    bool isSpecialBelowRange(const Shown& wanted) const
+    {
+        if constexpr (requires(const W& box) { box.specialValue(); })
+            return wanted == this->widget().specialValue() && wanted < this->widget().minimum() &&
+                   !this->widget().specialValueText().isEmpty();
+        else
+            return false;
     }
 
     Held fromShown(const Shown& shown) const

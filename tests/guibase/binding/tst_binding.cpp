@@ -258,6 +258,19 @@ private Q_SLOTS:
         QVERIFY(field.toolTip().isEmpty());
         real.SetValue(std::numeric_limits<double>::infinity());
         QVERIFY(!field.toolTip().isEmpty());
+
+        ComboBoxes::DoubleComboBox level;
+        level.setEditable(true);
+        level.setRange(0, 9);
+        level.setSpecialValueText(QStringLiteral("off"), -1);
+        Create<ValueNumeric<double>, ComboBoxes::DoubleComboBox>(real, level);
+        real.SetValue(-1);
+        QCOMPARE(level.currentText(), QStringLiteral("off"));
+        QVERIFY(level.toolTip().isEmpty());
+        real.SetValue(-2);
+        QVERIFY(level.toolTip().contains(QStringLiteral("-2")));
+        enter(level, QStringLiteral("off"));
+        QCOMPARE(real.GetValue(), -1);
     }
     void guards()
     {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <guibase/binding/bindingrows_p.h>
 #include <guibase/binding/create.h>
 #include <guibase/binding/formbinding.h>
 #include <guibase/inputs/comboboxes/comboboxes.h>
@@ -32,6 +33,7 @@
 #include <limits>
 #include <memory>
 #include <optional>
+#include <type_traits>
 
 using namespace ValueWidgetBinding::Internal;
 
@@ -219,7 +221,7 @@ ValueBase* makeValue(const QString& name)
 template <typename W>
 QWidget* makeWidget(QWidget* parent)
 {
-    return new W(parent);
+    return new std::conditional_t<std::is_same_v<W, QAbstractButton>, QCheckBox, W>(parent);
 }
 
 /// A value and a widget of classes that can be bound.
@@ -230,60 +232,10 @@ struct Kind
 };
 template <typename V, typename W>
 constexpr Kind kindOf{makeValue<V>, makeWidget<W>};
-template <typename W>
-constexpr Kind int32 = kindOf<ValueNumeric<int>, W>;
-template <typename W>
-constexpr Kind int64 = kindOf<ValueNumeric<qint64>, W>;
-template <typename W>
-constexpr Kind real = kindOf<ValueNumeric<double>, W>;
-using namespace SpinBoxes;
-using namespace ComboBoxes;
-constexpr Kind kinds[] = {
-    int32<QSpinBox>,
-    int32<QDoubleSpinBox>,
-    int32<QSlider>,
-    int32<QDial>,
-    int32<QScrollBar>,
-    int32<QProgressBar>,
-    int32<QLabel>,
-    int32<QComboBox>,
-    int32<Int8SpinBox>,
-    int32<UInt8SpinBox>,
-    int32<Int16SpinBox>,
-    int32<UInt16SpinBox>,
-    int32<Int32SpinBox>,
-    int32<Int8ComboBox>,
-    int32<UInt8ComboBox>,
-    int32<Int16ComboBox>,
-    int32<UInt16ComboBox>,
-    int32<Int32ComboBox>,
-    int64<FrequencySpinBox>,
-    int64<Int64SpinBox>,
-    int64<UInt32SpinBox>,
-    int64<Int64ComboBox>,
-    int64<UInt32ComboBox>,
-    int64<QLabel>,
-    real<QDoubleSpinBox>,
-    real<QSlider>,
-    real<QDial>,
-    real<QProgressBar>,
-    real<QLabel>,
-    real<DoubleSpinBox>,
-    real<FrequencySpinBox>,
-    real<DoubleComboBox>,
-    kindOf<ValueNumeric<quint64>, UInt64SpinBox>,
-    kindOf<ValueNumeric<quint64>, UInt64ComboBox>,
-    kindOf<ValueNumeric<quint64>, QLabel>,
-    kindOf<Value<bool>, QCheckBox>,
-    kindOf<Value<QString>, QLineEdit>,
-    kindOf<Value<QString>, QPlainTextEdit>,
-    kindOf<Value<QString>, QLabel>,
-    kindOf<Value<QDateTime>, QDateTimeEdit>,
-    kindOf<Value<QDateTime>, QDateTimeSpinBox>,
-    kindOf<Value<QDateTime>, QLabel>,
-    kindOf<ValueSelection, QComboBox>,
-    kindOf<ValueSelection, QLabel>,
-};
+#define KIND(V, W) kindOf<V, W>,
+constexpr Kind kinds[] = {GUIBASE_FOR_EACH_BINDING(KIND) //
+                          KIND(ValueSelection, QComboBox) KIND(ValueSelection, QLabel)};
+#undef KIND
 
 /// A form with a widget of every kind, bound to values that come, go and change at random.
 class Form
