@@ -7,8 +7,10 @@
 
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
+#include <valueframework/undorecording.h>
 #include <valueframework/valueselection.h>
 
+#include <QAction>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -81,9 +83,14 @@ private Q_SLOTS:
         QVERIFY(lastText() != nameOfLast());
         m_pane->show();
         QTRY_COMPARE(lastText(), nameOfLast());
-        m_log->clear();
+        m_pane->keyActions().at(2)->trigger();
         QTRY_COMPARE(list().topLevelItemCount(), 0);
         QVERIFY(list().findChild<QLabel*>(QStringLiteral("emptyHint"))->isVisible());
+        add(60);
+        QVERIFY(UndoRecording::Instance().undo());
+        QTRY_COMPARE(list().topLevelItemCount(), 100); // newer ones stand where 60 stood
+        QCOMPARE(textOf(0), m_log->event(m_log->begin()).text);
+        QCOMPARE(textOf(39), QStringLiteral("event 374."));
     }
 
     void followsTheEndUnlessScrolledAway()

@@ -27,7 +27,7 @@ void EventLog::add(EventKind kind, const QString& text, quint64 timeUs)
         m_ring.resize(index + 1);
     m_ring[index] = {m_end, timeUs, kind, text.simplified()};
     ++m_end;
-    m_begin = std::max(m_begin, m_end - std::min<quint64>(m_end, m_capacity));
+    m_begin = std::max(m_begin, oldestKept());
     Q_EMIT changed();
 }
 
@@ -36,7 +36,15 @@ void EventLog::clear()
     if (size() == 0)
         return;
     m_begin = m_end;
-    m_ring.clear();
+    Q_EMIT changed();
+}
+
+void EventLog::restore(quint64 number)
+{
+    const quint64 begin = std::max(number, oldestKept());
+    if (begin >= m_begin)
+        return;
+    m_begin = begin;
     Q_EMIT changed();
 }
 

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
@@ -36,6 +37,9 @@ public:
     /// Line breaks in the text become blanks.
     void add(EventKind kind, const QString& text, quint64 timeUs);
     void clear();
+    /// Brings back the events from this number on that clear() has taken out, as far as newer ones
+    /// have not taken their places.
+    void restore(quint64 number);
 
     std::size_t capacity() const { return m_capacity; }
     std::size_t size() const { return static_cast<std::size_t>(m_end - m_begin); }
@@ -50,6 +54,8 @@ Q_SIGNALS:
     void changed();
 
 private:
+    /// Whether it is cleared or not.
+    quint64 oldestKept() const { return m_end - std::min<quint64>(m_end, m_capacity); }
     std::size_t indexOf(quint64 number) const
     {
         return static_cast<std::size_t>(number % m_capacity);

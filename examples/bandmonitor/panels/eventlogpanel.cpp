@@ -9,6 +9,7 @@
 #include <guibase/dialogs/modaldialogs.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
+#include <valueframework/undorecording.h>
 
 #include <QAction>
 #include <QApplication>
@@ -22,6 +23,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QScrollBar>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 namespace bandmonitor {
@@ -49,6 +51,30 @@ QString kindText(EventKind kind)
 {
     return EventLogPanel::tr(kindTexts[static_cast<std::size_t>(kind)]);
 }
+
+class ClearStep : public QUndoCommand
+{
+public:
+    explicit ClearStep(EventLog* log)
+        : QUndoCommand(EventLogPanel::tr("Clear the event log"))
+        , m_log(log)
+        , m_begin(log->begin())
+    {}
+    void redo() override
+    {
+        if (m_log)
+            m_log->clear();
+    }
+    void undo() override
+    {
+        if (m_log)
+            m_log->restore(m_begin);
+    }
+
+private:
+    QPointer<EventLog> m_log;
+    const quint64 m_begin;
+};
 
 QString timeText(quint64 timeUs)
 {
@@ -153,8 +179,8 @@ void EventLogPanel::buildActions()
     connect(m_actions[0], &QAction::triggered, this, &EventLogPanel::copy);
     connect(m_actions[1], &QAction::triggered, this, &EventLogPanel::save);
     connect(m_actions[2], &QAction::triggered, this, [this] {
-        if (m_log)
-            m_log->clear();
+        if (m_log && m_log->size() > 0)
+            UndoRecording::Instance().stack()->push(new ClearStep(m_log));
     });
     auto* menu = new QMenu(this);
     menu->addActions(m_actions);
@@ -214,6 +240,10 @@ void EventLogPanel::refresh()
 
 void EventLogPanel::update()
 {
+    if (m_log && m_log->begin() < m_first) { // a step back
+        rebuild();
+        return;
+    }
     m_isStale = false;
     const bool follows = m_followsEnd;
     // Rows go at the top: what the user looks at stays where it is.
@@ -279,6 +309,7 @@ void EventLogPanel::appendNew()
 {
     if (!m_log)
         return;
+    m_first = m_log->begin();
     QList<QTreeWidgetItem*> added;
     for (quint64 number = std::max(m_next, m_log->begin()); number < m_log->end(); ++number) {
         const Event& event = m_log->event(number);

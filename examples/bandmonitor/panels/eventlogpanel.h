@@ -80,6 +80,7 @@ private:
     QList<QAction*> m_actions;
     QTimer m_rest;
     std::deque<Row> m_rows; ///< In the order of the events, those that match only.
+    quint64 m_first = 0;    ///< The oldest event of the log when it was looked at.
     quint64 m_next = 0;     ///< The first event that was not looked at.
     bool m_isStale = false;
     bool m_followsEnd = true;
