@@ -27,28 +27,19 @@ ColorsMenu::ColorsMenu(QWidget* parent)
     , m_sets(new QMenu(tr("Colour &set"), this))
 {
     ColorSet::Instance().AddShowInDialog(bearingGroup | jobGroup | referenceLineGroup);
-    addEntry(tr("&Edit Colors..."), Qt::CTRL | Qt::Key_E, &ColorsMenu::edit);
+    Keys::addEntry(*this, tr("&Edit Colors..."), Qt::CTRL | Qt::Key_E, [this] { edit(); });
     m_sets->setObjectName(QStringLiteral("colorSets"));
     addMenu(m_sets);
     connect(m_sets, &QMenu::aboutToShow, this, &ColorsMenu::listSets);
     addSeparator();
-    addEntry(tr("&Load…"), Qt::CTRL | Qt::Key_L, &ColorsMenu::load);
-    addEntry(tr("Save &as…"), Qt::CTRL | Qt::SHIFT | Qt::Key_L, &ColorsMenu::save);
+    Keys::addEntry(*this, tr("&Load…"), Qt::CTRL | Qt::Key_L, [this] { load(); });
+    Keys::addEntry(*this, tr("Save &as…"), Qt::CTRL | Qt::SHIFT | Qt::Key_L, [this] { save(); });
     addSeparator();
-    addEntry(tr("&Factory colours"), Qt::CTRL | Qt::SHIFT | Qt::Key_F, &ColorsMenu::restoreFactory);
+    Keys::addEntry(*this, tr("&Factory colours"), Qt::CTRL | Qt::SHIFT | Qt::Key_F,
+                   [this] { restoreFactory(); });
 }
 
 ColorsMenu::~ColorsMenu() = default;
-
-QAction* ColorsMenu::addEntry(const QString& text, const QKeySequence& key,
-                              void (ColorsMenu::*perform)())
-{
-    QAction* action = addAction(text);
-    action->setShortcut(key);
-    connect(action, &QAction::triggered, this, perform);
-    Keys::listEverywhere(action);
-    return action;
-}
 
 void ColorsMenu::listSets()
 {

@@ -14,7 +14,6 @@ public:
     ~ColorsMenu() override;
 
 private:
-    QAction* addEntry(const QString& text, const QKeySequence& key, void (ColorsMenu::*perform)());
     void listSets();
     void edit();
     void load();

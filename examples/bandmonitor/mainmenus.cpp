@@ -49,11 +49,10 @@ QAction* MainWindow::addEntry(QMenu* menu, QAction* action, bool bandKey)
     if (bandKey) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         m_bandView->addAction(action);
-    }
-    if (bandKey)
         GuiBase::Instance().ShowHotKeyFrom(action, tr("Spectrum and waterfall"));
-    else
+    } else {
         Keys::listEverywhere(action);
+    }
     return action;
 }
 

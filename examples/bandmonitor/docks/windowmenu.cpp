@@ -61,8 +61,9 @@ WindowMenu::WindowMenu(PanelDocks* panels, QWidget* centre, QWidget* parent)
     addPanels();
     addSeparator();
     const auto cycle = [this](bool forward) { PanelFocus::cycle(*m_panels, *m_centre, forward); };
-    addEntry(tr("Ne&xt part of the window"), Qt::Key_F6, [cycle] { cycle(true); });
-    addEntry(tr("&Previous part of the window"), Qt::SHIFT | Qt::Key_F6, [cycle] { cycle(false); });
+    Keys::addEntry(*this, tr("Ne&xt part of the window"), Qt::Key_F6, [cycle] { cycle(true); });
+    Keys::addEntry(*this, tr("&Previous part of the window"), Qt::SHIFT | Qt::Key_F6,
+                   [cycle] { cycle(false); });
     addSeparator();
     addAreas();
     addSeparator();
@@ -74,16 +75,6 @@ WindowMenu::WindowMenu(PanelDocks* panels, QWidget* centre, QWidget* parent)
 }
 
 WindowMenu::~WindowMenu() = default;
-
-QAction* WindowMenu::addEntry(const QString& text, const QKeySequence& key,
-                              const std::function<void()>& perform)
-{
-    QAction* action = addAction(text);
-    action->setShortcut(key);
-    connect(action, &QAction::triggered, this, perform);
-    Keys::listEverywhere(action);
-    return action;
-}
 
 void WindowMenu::addPanels()
 {
@@ -127,7 +118,7 @@ void WindowMenu::addAreas()
 QAction* WindowMenu::addActiveEntry(const QString& text, const QKeySequence& key,
                                     void (WindowMenu::*perform)(QDockWidget&), bool checkable)
 {
-    QAction* action = addEntry(text, key, [this, perform] {
+    QAction* action = Keys::addEntry(*this, text, key, [this, perform] {
         if (QDockWidget* dock = m_panels->activeDock())
             (this->*perform)(*dock);
         refresh();

@@ -3,8 +3,6 @@
 
 #include <QMenu>
 
-#include <functional>
-
 class QDockWidget;
 
 namespace bandmonitor {
@@ -26,8 +24,6 @@ private:
     void addPanels();
     void addAreas();
     void addActivePanel();
-    QAction* addEntry(const QString& text, const QKeySequence& key,
-                      const std::function<void()>& perform);
     QAction* addActiveEntry(const QString& text, const QKeySequence& key,
                             void (WindowMenu::*perform)(QDockWidget&), bool checkable);
     void refresh();

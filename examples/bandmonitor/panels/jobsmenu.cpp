@@ -62,14 +62,12 @@ void JobsMenu::buildOrderMenu()
     auto* group = new QActionGroup(this);
     for (const OrderEntry& entry : orderEntries) {
         // Without data: an entry with a number would be taken for a job.
-        QAction* action = m_orderMenu->addAction(tr(entry.text));
+        QAction* action =
+            Keys::addEntry(*m_orderMenu, tr(entry.text), Qt::ALT | Qt::SHIFT | entry.key,
+                           [this, order = entry.order] { setOrder(order); });
         action->setCheckable(true);
         group->addAction(action);
         m_orderActions << action;
-        action->setShortcut(Qt::ALT | Qt::SHIFT | entry.key);
-        Keys::listEverywhere(action);
-        connect(action, &QAction::triggered, this,
-                [this, order = entry.order] { setOrder(order); });
     }
 }
 

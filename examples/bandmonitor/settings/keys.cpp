@@ -4,6 +4,7 @@
 #include <guibase/services/guibase.h>
 
 #include <QAction>
+#include <QMenu>
 
 namespace bandmonitor::Keys {
 
@@ -11,6 +12,16 @@ void listEverywhere(QAction* action)
 {
     // The library's name for it: such keys meet those of every panel.
     GuiBase::Instance().ShowHotKeyFrom(action, GuiBase::tr("Application Wide"));
+}
+
+QAction* addEntry(QMenu& menu, const QString& text, const QKeySequence& key,
+                  const std::function<void()>& perform)
+{
+    QAction* action = menu.addAction(text);
+    action->setShortcut(key);
+    QObject::connect(action, &QAction::triggered, &menu, perform);
+    listEverywhere(action);
+    return action;
 }
 
 void nameInToolTip(QAction* action, const QString& tip)
