@@ -4,10 +4,12 @@
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
 #include <guibase/colors/colorsetcodec.h>
+#include <guibase/colors/usercolors.h>
 #include <guibase/services/guibase.h>
 #include <valueframework/undorecording.h>
 
 #include <QScopedValueRollback>
+#include <QStringList>
 
 namespace bandmonitor {
 
@@ -44,6 +46,26 @@ bool showColors(const QString& text)
     return true;
 }
 
+QString userColors()
+{
+    const ColorDefinitionSet& colors = Colors::Instance().GetUserColors();
+    QStringList names;
+    for (int position = 0; position < colors.GetCount(); ++position)
+        names << colors.At(position)->GetColor().name();
+    return names.join(QLatin1Char(' '));
+}
+
+void redefineUserColors(const QString& text)
+{
+    const QStringList names = text.split(QLatin1Char(' '));
+    const ColorDefinitionSet& colors = Colors::Instance().GetUserColors();
+    for (int position = 0; position < colors.GetCount() && position < names.size(); ++position) {
+        const QColor color(names.at(position));
+        if (color != colors.At(position)->GetColor())
+            UserColors::redefine(colors.At(position)->GetId(), color);
+    }
+}
+
 } // namespace
 
 ColorsKeeper::ColorsKeeper(std::shared_ptr<SessionValues> values, QObject* parent)
@@ -52,8 +74,10 @@ ColorsKeeper::ColorsKeeper(std::shared_ptr<SessionValues> values, QObject* paren
 {
     showColors(m_values->changedColors.GetValue());
     m_values->colors.SetValue(shownColors());
+    m_values->userColors.SetValue(userColors());
     connect(&GuiBase::Instance(), &GuiBase::signalColorsChanged, this, &ColorsKeeper::take);
-    m_followers = SessionValues::follow({&m_values->colors}, [this] { show(); });
+    m_followers =
+        SessionValues::follow({&m_values->userColors, &m_values->colors}, [this] { show(); });
 }
 
 ColorsKeeper::~ColorsKeeper() = default;
@@ -67,6 +91,7 @@ void ColorsKeeper::take()
     const QScopedValueRollback showing(m_isShowing, true);
     const SessionValues::Step step = m_values->step(tr("Change colours"));
     m_values->colors.SetValue(shown);
+    m_values->userColors.SetValue(userColors());
 }
 
 void ColorsKeeper::show()
@@ -74,6 +99,7 @@ void ColorsKeeper::show()
     if (m_isShowing)
         return;
     const QScopedValueRollback showing(m_isShowing, true);
+    redefineUserColors(m_values->userColors.GetValue());
     showColors(m_values->colors.GetValue());
 }
 

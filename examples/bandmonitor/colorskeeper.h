@@ -7,8 +7,8 @@
 
 namespace bandmonitor {
 
-/// Makes undo steps of changes of the colour set. Changes that no colour-set file holds come back
-/// at the next start.
+/// Makes undo steps of changes of the colour set and of the user colours. Changes that no
+/// colour-set file holds come back at the next start.
 class ColorsKeeper : public QObject
 {
     Q_OBJECT

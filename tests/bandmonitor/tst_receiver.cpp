@@ -9,7 +9,9 @@
 
 #include <radiopanes/panes/spectrumpane.h>
 
+#include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
+#include <guibase/colors/usercolors.h>
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/inputs/typedinput.h>
 #include <guibase/lists/sortlistview.h>
@@ -137,12 +139,13 @@ private Q_SLOTS:
 
     void settingsComeBackWithinTheirLimits()
     {
-        const auto cfg = CfgCenter::GetAppCfg(SettingsView)
-                             ->OpenSubCfg(QStringLiteral("Bandmonitor"))
-                             ->OpenSubCfg(QStringLiteral("Receiver"));
+        const auto above =
+            CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(QStringLiteral("Bandmonitor"));
+        const auto cfg = above->OpenSubCfg(QStringLiteral("Receiver"));
         for (const char* key : {"Centre", "Span", "Resolution", "Gain", "Attenuation", "Threshold"})
             cfg->SetString(QLatin1String(key), QStringLiteral("-20000000"));
         cfg->SetString(QStringLiteral("Address"), QStringLiteral("tomorrow"));
+        above->SetString(QStringLiteral("ChangedColors"), QStringLiteral("0x12"));
         {
             const SessionValues values;
             const ReceiverSettings clamped = values.receiver();
@@ -152,6 +155,8 @@ private Q_SLOTS:
             QVERIFY(!clamped.thresholdDb);
             QCOMPARE(clamped.address, 0U);
         }
+        QCOMPARE(cfg->GetString(QStringLiteral("Address_damaged")), QStringLiteral("tomorrow"));
+        QCOMPARE(above->GetString(QStringLiteral("ChangedColors_damaged")), QStringLiteral("0x12"));
         cfg->SetString(QStringLiteral("Gain"), QStringLiteral("nan"));
         QCOMPARE(SessionValues().receiver().gainDb, 0.0);
     }
@@ -318,14 +323,22 @@ private Q_SLOTS:
         UndoRecording& steps = UndoRecording::Instance();
         VisibleBand& view = m_window->bandView().visibleBand();
         enter("span", QStringLiteral("2"));
+        m_window->values().pins.SetValue(QStringLiteral("9q"));
         view.addPin(99e6);
         view.clearPins();
+        QCOMPARE(m_window->values().pins.GetValue(), QStringLiteral("9q")); // nobody's to drop
         QVERIFY(steps.undo());
         QCOMPARE(view.pins(), std::vector<double>{99e6});
         const QColor grid = ColorSet::Instance().GetColor(IColorBase::DrawPaneGrid);
         ColorSet::Instance().SetColor(IColorBase::DrawPaneGrid, Qt::red, true);
         QVERIFY(steps.undo());
         QCOMPARE(ColorSet::Instance().GetColor(IColorBase::DrawPaneGrid), grid);
+        const ColorDefinition& own = *Colors::Instance().GetUserColors().At(0);
+        const QColor before = own.GetColor();
+        QVERIFY(UserColors::redefine(own.GetId(), QColor(1, 2, 3)));
+        GuiBase::Instance().emit_signalColorsChanged();
+        QVERIFY(steps.undo());
+        QCOMPARE(own.GetColor(), before);
         open(samplePath());
         QCOMPARE(view.pins(), std::vector<double>{99e6}); // it stays, and so do the steps
         QVERIFY(steps.undo() && view.pins().empty());

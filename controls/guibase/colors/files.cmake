@@ -10,10 +10,10 @@ guibase_room(colors
         colorslotgroups.h
         icolorbase.cpp icolorbase.h
         ihaspropertypage.cpp ihaspropertypage.h
+        usercolors.cpp usercolors.h
     INTERNAL
         colorcatalogue_p.h
         colorsetbuiltin.cpp colorsetbuiltin.h
         colorsetfactory_p.h
         colorsetfile.cpp colorsetfile_p.h
-        signaltypenames.cpp signaltypenames.h
-        usercolors.cpp usercolors.h)
+        signaltypenames.cpp signaltypenames.h)

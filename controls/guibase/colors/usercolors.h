@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <guibase/guibase_export.h>
+
 #include <QColor>
 
 /// The 16 colours of the catalogue that the user can redefine. Redefined ones are kept in the
@@ -9,9 +11,10 @@ namespace UserColors {
 
 /// Takes the kept colours over into the catalogue. A text that is no colour is left where it is and
 /// counts as not there.
-void read();
-/// Redefines the user colour with this id, everywhere where it is used, and keeps it. The change is
-/// not announced. False for an id of no user colour, and for an invalid colour.
-bool redefine(int id, const QColor& color);
+GUIBASE_EXPORT void read();
+/// Redefines the user colour with this id (see Colors), everywhere where it is used, and keeps it.
+/// The caller announces it by GuiBase::emit_signalColorsChanged(). False for an id of no user
+/// colour, and for an invalid colour.
+GUIBASE_EXPORT bool redefine(int id, const QColor& color);
 
 } // namespace UserColors

@@ -9,21 +9,23 @@
 #include <QScopedValueRollback>
 #include <QStringList>
 
+#include <limits>
+
 namespace bandmonitor {
 
 namespace {
 
-std::vector<double> pinsOf(const QString& text)
+QStringList wordsOf(const QString& pins)
 {
-    std::vector<double> pins;
-    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    for (const QString& word : words) {
-        bool isNumber = false;
-        const double hertz = word.toDouble(&isNumber);
-        if (isNumber)
-            pins.push_back(hertz);
-    }
-    return pins;
+    return pins.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+/// In hertz; NaN, which lies in no band, for what is no number.
+double pinOf(const QString& word)
+{
+    bool isNumber = false;
+    const double hertz = word.toDouble(&isNumber);
+    return isNumber ? hertz : std::numeric_limits<double>::quiet_NaN();
 }
 
 } // namespace
@@ -59,9 +61,10 @@ void PinKeeper::showPins()
         return;
     const QScopedValueRollback showing(m_isShowing, true);
     m_band->clearPins();
-    for (const double hertz : pinsOf(m_values->pins.GetValue())) {
-        if (isInBand(hertz))
-            m_band->addPin(hertz);
+    const QStringList words = wordsOf(m_values->pins.GetValue());
+    for (const QString& word : words) {
+        if (isInBand(pinOf(word)))
+            m_band->addPin(pinOf(word));
     }
 }
 
@@ -70,15 +73,14 @@ void PinKeeper::takePins()
     if (m_isShowing)
         return;
     const QScopedValueRollback showing(m_isShowing, true);
-    std::vector<double> pins = pinsOf(m_values->pins.GetValue());
-    const std::size_t before = pins.size();
-    std::erase_if(pins, [this](double hertz) { return isInBand(hertz); });
-    pins.insert(pins.end(), m_band->pins().begin(), m_band->pins().end());
-    QStringList words;
-    for (const double hertz : pins)
+    // What is not shown here stays, even when nobody can read it.
+    QStringList words = wordsOf(m_values->pins.GetValue());
+    const qsizetype before = words.size();
+    words.removeIf([this](const QString& word) { return isInBand(pinOf(word)); });
+    for (const double hertz : m_band->pins())
         words << QString::number(hertz, 'g', QLocale::FloatingPointShortest);
     const SessionValues::Step step =
-        m_values->step(pins.size() < before ? tr("Remove pins") : tr("Set pin"));
+        m_values->step(words.size() < before ? tr("Remove pins") : tr("Set pin"));
     m_values->pins.SetValue(words.join(QLatin1Char(' ')));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/sessionvalues.h"
 
+#include <guibase/colors/colorsetcodec.h>
 #include <trovappstartup/cfgcenter.h>
 #include <valueframework/tree.h>
 #include <valueframework/undorecording.h>
@@ -24,6 +25,14 @@ QString freePath()
 
 } // namespace
 
+bool ColorsText::SetVariant(const QVariant& value)
+{
+    const QByteArray digits = value.toString().toLatin1();
+    const QByteArray bytes = QByteArray::fromHex(digits);
+    const bool isReadable = bytes.size() == ColorSetCodec::fileSize && bytes.toHex() == digits;
+    return (isReadable || digits.isEmpty()) && Value::SetVariant(value);
+}
+
 SessionValues::SessionValues()
     : m_path(freePath())
     , m_record(recordName)
@@ -43,13 +52,9 @@ SessionValues::SessionValues()
         {startTime, nullptr},         {threshold, "Threshold"},
     };
     const Row otherRows[] = {
-        {isHoldVisible, "HoldMaximum"},
-        {pins, "Pins"},
-        {referenceLevels, "ReferenceLevels"},
-        {jobOrder, "JobOrder"},
-        {colors, nullptr},
-        {changedColors, "ChangedColors"},
-        {speed, nullptr},
+        {isHoldVisible, "HoldMaximum"},   {pins, "Pins"},    {referenceLevels, "ReferenceLevels"},
+        {jobOrder, "JobOrder"},           {colors, nullptr}, {userColors, nullptr},
+        {changedColors, "ChangedColors"}, {speed, nullptr},
     };
     for (const Row& row : receiverRows)
         add(receiverPath(), m_receiverRecord, row.value, row.key);

@@ -21,6 +21,15 @@ class UndoRecordingTriggerByValueClient;
 
 namespace bandmonitor {
 
+/// The colours of all slots of the colour set as hexadecimal digits, or empty. Any other text is
+/// refused, so that a damaged one in the configuration is kept aside.
+class ColorsText : public Value<QString>
+{
+public:
+    using Value::Value;
+    bool SetVariant(const QVariant& value) override;
+};
+
 /// What the user sets in a window: values of the value tree, bound to the widgets that show them.
 /// What the user changes is an undo step. They are kept in the configuration; those who show them
 /// share them.
@@ -77,8 +86,9 @@ public:
     Value<bool> isHeadingUp{QStringLiteral("headingUp")};
     ValueNumeric<double> speed{QStringLiteral("speed"), 1}; ///< Of the replay; not kept.
     // See ColorsKeeper.
-    Value<QString> colors{QStringLiteral("colors")};
-    Value<QString> changedColors{QStringLiteral("changedColors")};
+    ColorsText colors{QStringLiteral("colors")};
+    Value<QString> userColors{QStringLiteral("userColors")};
+    ColorsText changedColors{QStringLiteral("changedColors")};
 
 private:
     void Save() override { write(); }
