@@ -10,6 +10,11 @@
 #include <radiopanes/panes/spectrumpane.h>
 #include <radiopanes/panes/waterfallpane.h>
 
+#include <guibase/colors/colorset.h>
+#include <guibase/lists/sortlistview.h>
+#include <guibase/services/guibase.h>
+#include <jtbase/qobjecthelpers.h>
+
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -21,10 +26,6 @@
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QUrl>
-#include <guibase/colors/colorset.h>
-#include <guibase/lists/sortlistview.h>
-#include <guibase/services/guibase.h>
-#include <jtbase/qobjecthelpers.h>
 
 using namespace bandmonitor;
 

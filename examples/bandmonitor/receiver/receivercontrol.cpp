@@ -6,11 +6,11 @@
 #include "model/session.h"
 #include "receiver/receiverpanel.h"
 
+#include <radiopanes/panes/spectrumpane.h>
+
 #include <valueframework/undorecording.h>
 
 #include <QScopedValueRollback>
-
-#include <radiopanes/panes/spectrumpane.h>
 
 #include <algorithm>
 #include <cmath>

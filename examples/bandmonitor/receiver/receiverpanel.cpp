@@ -76,18 +76,16 @@ ReceiverPanel::ReceiverPanel(const SessionValues& values, QWidget* parent)
     m_content->setLayout(m_form);
     m_form->setContentsMargins(margin, margin, margin, margin);
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    m_centre = addFrequency(tr("Centre frequenc&y:"), "centreFrequency",
-                            tr("The middle of what the spectrum shows"));
-    m_span = addFrequency(tr("S&pan:"), "span",
-                          tr("The width of what the spectrum shows; 0 for the whole band"));
-    m_resolution =
-        addFrequency(tr("Resolution &bandwidth:"), "resolutionBandwidth",
-                     tr("Narrower bins are combined; 0 leaves them as they were recorded"));
+    setFocusProxy(addFrequency(tr("Centre frequenc&y:"), "centreFrequency",
+                               tr("The middle of what the spectrum shows")));
+    addFrequency(tr("S&pan:"), "span",
+                 tr("The width of what the spectrum shows; 0 for the whole band"));
+    addFrequency(tr("Resolution &bandwidth:"), "resolutionBandwidth",
+                 tr("Narrower bins are combined; 0 leaves them as they were recorded"));
     addLevels();
     addAddress();
     addStartTime();
     addThreshold();
-    setFocusProxy(m_centre);
 
     auto* area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);
@@ -140,8 +138,7 @@ Input* ReceiverPanel::add(Input* input, const QString& label, const char* name,
 SpinBoxes::FrequencySpinBox* ReceiverPanel::addFrequency(const QString& label, const char* name,
                                                          const QString& toolTip)
 {
-    auto* input = add(new SpinBoxes::FrequencySpinBox(m_content), label, name, toolTip);
-    return input;
+    return add(new SpinBoxes::FrequencySpinBox(m_content), label, name, toolTip);
 }
 
 void ReceiverPanel::addLevels()

@@ -64,9 +64,6 @@ private:
     QFormLayout* m_form;
     QWidget* m_content;
     QScrollBar* m_scrollBar = nullptr;
-    SpinBoxes::FrequencySpinBox* m_centre = nullptr;
-    SpinBoxes::FrequencySpinBox* m_span = nullptr;
-    SpinBoxes::FrequencySpinBox* m_resolution = nullptr;
     SpinBoxes::DoubleSpinBox* m_gain = nullptr;
     SpinBoxes::Int8SpinBox* m_attenuation = nullptr;
     SpinBoxes::UInt64SpinBox* m_samples = nullptr;
