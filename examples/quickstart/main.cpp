@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A window with a list, two panels and a frequency entry, which comes back as it was left.
+// A window with a list, two panels that hide at the edge, a frequency entry and a pop-up (double-click
+// a station), which comes back as it was left.
 #include <guibase/docks/areas/tabifysupport.h>
 #include <guibase/docks/areas/tilesupport.h>
 #include <guibase/docks/autohide/autohidesupport.h>
@@ -9,6 +10,7 @@
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortlistviewitem.h>
+#include <guibase/notifications/popup/notifications.h>
 #include <guibase/services/guibase.h>
 
 #include <trovappstartup/trovapplication.h>
@@ -35,6 +37,9 @@ SortListView* makeStations(QWidget* parent)
     list->SetColumnWidthPersistantName(QStringLiteral("Stations"));
     new SortListViewItem(list, {QStringLiteral("Harbour"), QStringLiteral("10 MHz")});
     new SortListViewItem(list, {QStringLiteral("Airport"), QStringLiteral("9.5 MHz")});
+    QObject::connect(list, &SortListView::doubleClicked, list, [](const SortListViewItem* station) {
+        Notifications::notify(station->text(0), station->text(1), 5000); // goes after 5 s
+    });
     return list;
 }
 

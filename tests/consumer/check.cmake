@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Installs the build, moves the installation, and builds and runs against it, each as a project of
-# its own: the consumer, the quick start, and the applications that the README shows.
+# its own: the consumer, the quick start, the applications that the README shows, and the guide.
 #   cmake -DPROJECT_DIR=… -DBUILD_DIR=… -DWORK_DIR=… -DCXX_FLAGS=… -DLAUNCHER=…
 #         [-DRELEASE=ON] -P check.cmake
 # With RELEASE all but the tests is first built for release in BUILD_DIR; else that is a ready build,
@@ -27,21 +27,30 @@ function(install_and_move prefix)
     file(RENAME "${prefix}_before" "${prefix}")
 endfunction()
 
-# The block of this language in the README, counted from 0.
-function(readme_block language number result)
-    file(READ "${PROJECT_DIR}/README.md" readme)
+# The block of this language in the page, counted from 0; empty when there are not so many.
+function(markdown_block page language number result)
+    file(READ "${page}" text)
     set(fence "```${language}\n")
     string(LENGTH "${fence}" fence_length)
+    set(${result} "" PARENT_SCOPE)
     foreach(block RANGE ${number})
-        string(FIND "${readme}" "${fence}" begin)
+        string(FIND "${text}" "${fence}" begin)
         if(begin EQUAL -1)
-            message(FATAL_ERROR "The README shows no ${language} number ${number}")
+            return()
         endif()
         math(EXPR begin "${begin} + ${fence_length}")
-        string(SUBSTRING "${readme}" ${begin} -1 readme)
+        string(SUBSTRING "${text}" ${begin} -1 text)
     endforeach()
-    string(FIND "${readme}" "```" end)
-    string(SUBSTRING "${readme}" 0 ${end} block)
+    string(FIND "${text}" "```" end)
+    string(SUBSTRING "${text}" 0 ${end} block)
+    set(${result} "${block}" PARENT_SCOPE)
+endfunction()
+
+function(readme_block language number result)
+    markdown_block("${PROJECT_DIR}/README.md" ${language} ${number} block)
+    if(block STREQUAL "")
+        message(FATAL_ERROR "The README shows no ${language} number ${number}")
+    endif()
     set(${result} "${block}" PARENT_SCOPE)
 endfunction()
 
@@ -57,6 +66,62 @@ function(write_readme_project folder number)
         "cmake_minimum_required(VERSION 3.25)\nproject(myapplication LANGUAGES CXX)\n"
         "add_executable(myapplication main.cpp)\n${package}")
     file(WRITE "${folder}/main.cpp" "${program}")
+endfunction()
+
+# One program out of all pages of the guide: its argument names the page whose main() it runs.
+function(write_guide_project folder pages)
+    set(rows "")
+    set(declarations "")
+    foreach(page IN LISTS pages)
+        set(text "")
+        foreach(number RANGE 20)
+            markdown_block("${PROJECT_DIR}/docs/guide/${page}.md" cpp ${number} block)
+            string(APPEND text "${block}")
+        endforeach()
+        string(REPLACE "main.moc" "${page}.moc" text "${text}")
+        file(WRITE "${folder}/${page}.cpp" "#define main ${page}_main\n${text}#undef main\n")
+        string(APPEND declarations "int ${page}_main(int, char*[]);\n")
+        string(APPEND rows "    if (page == \"${page}\")\n        return ${page}_main(argc, argv);\n")
+    endforeach()
+    file(WRITE "${folder}/main.cpp" "#include <string_view>\n\n${declarations}\n"
+        "int main(int argc, char* argv[])\n{\n"
+        "    const std::string_view page = argc > 1 ? argv[1] : \"\";\n${rows}    return 2;\n}\n")
+    markdown_block("${PROJECT_DIR}/docs/guide/README.md" cmake 0 package)
+    list(JOIN pages ".cpp " sources)
+    string(REPLACE "main.cpp" "main.cpp ${sources}.cpp" package "${package}")
+    file(WRITE "${folder}/CMakeLists.txt" "${package}"
+        "target_compile_options(myapplication PRIVATE -Wall -Wextra -Werror)\n")
+endfunction()
+
+# Every page runs by itself until it is asked to end, all at the same time, without a warning. A
+# page that shows what it writes writes that, and ends by itself.
+function(run_guide folder pages)
+    set(ENV{XDG_RUNTIME_DIR} "${WORK_DIR}/runtime") # the toolkit warns without one
+    file(MAKE_DIRECTORY "${WORK_DIR}/runtime")
+    file(CHMOD "${WORK_DIR}/runtime" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+    set(commands "")
+    foreach(page IN LISTS pages)
+        markdown_block("${PROJECT_DIR}/docs/guide/${page}.md" text 0 expected)
+        set(program "${CMAKE_COMMAND}" -E env "QT_LOGGING_RULES=*.info=false"
+            "XDG_CONFIG_HOME=${WORK_DIR}/config/${page}" timeout --preserve-status 10
+            "${folder}/myapplication" ${page})
+        if(expected STREQUAL "")
+            list(APPEND commands COMMAND ${program})
+            continue()
+        endif()
+        execute_process(COMMAND ${program} RESULT_VARIABLE result OUTPUT_VARIABLE output)
+        if(NOT result EQUAL 0 OR NOT output STREQUAL expected)
+            message(FATAL_ERROR "${page} ended with ${result} and wrote:\n${output}")
+        endif()
+    endforeach()
+    execute_process(${commands} WORKING_DIRECTORY "${folder}" RESULTS_VARIABLE results
+        OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+    # What the platform of the tests says about every window.
+    string(REPLACE "This plugin does not support propagateSizeHints()\n" "" errors "${errors}")
+    list(REMOVE_DUPLICATES results)
+    if(NOT results STREQUAL "0" OR NOT errors STREQUAL "")
+        message(FATAL_ERROR "Pages of the guide ended with ${results}\n${errors}")
+    endif()
 endfunction()
 
 function(build_project source_dir name)
@@ -117,4 +182,11 @@ foreach(number IN ITEMS 0 1)
 endforeach()
 if(RELEASE)
     build_with_pkgconfig(pkgconfig)
+else()
+    file(GLOB pages RELATIVE "${PROJECT_DIR}/docs/guide" "${PROJECT_DIR}/docs/guide/*.md")
+    list(TRANSFORM pages REPLACE "\\.md$" "")
+    list(REMOVE_ITEM pages README)
+    write_guide_project("${WORK_DIR}/guide" "${pages}")
+    build_project("${WORK_DIR}/guide" guide_build)
+    run_guide("${WORK_DIR}/guide_build" "${pages}")
 endif()
