@@ -3,7 +3,8 @@
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libgl1-mesa-dev)
 run_packages=(fonts-dejavu-core qt6-qpa-plugins)
-test_packages=(xvfb openbox x11-utils dbus-daemon git pkg-config dpkg-dev file desktop-file-utils man-db)
+test_packages=(xvfb openbox x11-utils dbus-daemon git pkg-config dpkg-dev file desktop-file-utils man-db
+    doxygen)
 benchmark_packages=(libbenchmark-dev)
 
 # Installs the packages that are missing when this user may, else names the command to type.

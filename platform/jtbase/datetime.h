@@ -18,11 +18,14 @@ public:
     static constexpr qint64 UTC_TimeZone = 0;
     static constexpr qint64 Local_TimeZone = 1;
 
+    /// The unit of all times here.
     static constexpr quint64 microsecondsPerSecond = 1'000'000;
 
     DateTime() = default;
+    /// Since 1970-01-01 00:00 UTC.
     explicit DateTime(quint64 microseconds);
 
+    /// In microseconds since 1970-01-01 00:00 UTC.
     void SetTime(quint64 microseconds);
     quint64 GetTime() const;
 

@@ -18,11 +18,13 @@ class QTimer;
 class JTBASE_EXPORT DelayedCall
 {
 public:
+    /// Calls nothing until it is requested. The function must not be empty.
     explicit DelayedCall(std::function<void()> function);
     ~DelayedCall();
     DelayedCall(const DelayedCall&) = delete;
     DelayedCall& operator=(const DelayedCall&) = delete;
 
+    /// Begins the delay anew, see the class.
     void request();
     /// Calls after so many milliseconds instead, whatever was requested before; 0: as soon as the
     /// event loop runs. Works with a negative delay too.
@@ -36,6 +38,7 @@ public:
     void setDelay(int milliseconds);
     int delay() const { return m_delay; }
 
+    /// In milliseconds; the other one counts delays.
     static constexpr int defaultDelay = 2000;
     static constexpr int longestDelays = 5;
 

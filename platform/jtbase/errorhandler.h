@@ -27,6 +27,7 @@ public:
     /// The mask at start-up: assertions and platform reports.
     static constexpr quint32 defaultTraceFlags = TraceAssertions | TracePlatform;
 
+    /// The trace mask, of TraceBit.
     static quint32 GetTraceFlags();
     static void SetTraceFlags(quint32 flags);
     /// True when the mask holds at least one of `bits`; ask before building an expensive text.

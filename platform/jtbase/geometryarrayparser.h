@@ -17,6 +17,7 @@
 class JTBASE_EXPORT GeometryArrayParser
 {
 public:
+    /// Longer texts are refused.
     static constexpr int maximumRows = 4096;
     static constexpr int maximumNumbersPerRow = 16;
 
@@ -25,6 +26,7 @@ public:
     /// The numbers of a text with one number a row ("200;350;"), or nothing.
     static std::optional<QList<int>> parseList(const QString& text);
 
+    /// The text that parseRows() or parseList() reads.
     static QString formatRows(const QList<QList<int>>& rows);
     static QString formatList(const QList<int>& numbers);
 

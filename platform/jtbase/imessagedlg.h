@@ -13,6 +13,7 @@ class JTBASE_EXPORT IMessageSuppressionStore
 public:
     virtual ~IMessageSuppressionStore();
 
+    /// By UserMessage::key.
     virtual bool IsSuppressed(const QString& messageKey) const = 0;
     virtual void SetSuppressed(const QString& messageKey, bool suppressed) = 0;
 };
@@ -22,7 +23,9 @@ enum class MessageSeverity { Information, Warning, Critical };
 /// One message to the user. A message with an empty key is always shown.
 struct UserMessage
 {
+    /// Decides the icon.
     MessageSeverity severity = MessageSeverity::Information;
+    /// Plain text, both.
     QString title;
     QString text;
     QString details; ///< Longer text, shown on request; may be empty.
@@ -42,6 +45,7 @@ class JTBASE_EXPORT IMessageDlg
 public:
     virtual ~IMessageDlg();
 
+    /// What the dialog works with.
     virtual MessageDlgSettings GetSettings() const = 0;
     virtual void SetSettings(const MessageDlgSettings& settings) = 0;
 

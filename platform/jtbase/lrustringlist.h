@@ -15,6 +15,7 @@ public:
     /// A limit below 1 keeps the list empty for ever.
     explicit LruStringList(int limit);
 
+    /// The largest number of strings, and what there is, most recent first.
     int GetLimit() const;
     int GetCount() const;
     QString At(int index) const;

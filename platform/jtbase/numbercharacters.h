@@ -9,6 +9,7 @@
 /// numbers share.
 namespace NumberCharacters {
 
+/// As meaningOf(), for characters that are not ASCII.
 JTBASE_EXPORT char meaningBeyondAscii(char32_t c);
 
 /// The ASCII character that means the same in a number, or a null character for what occurs in

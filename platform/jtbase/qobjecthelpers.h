@@ -24,6 +24,7 @@ public:
     /// Returns true to consume the event.
     using Handler = std::function<bool(QObject* watched, QEvent* event)>;
 
+    /// Begins to watch.
     EventFilter(QObject* watched, Handler handler);
     ~EventFilter() override;
 
@@ -45,9 +46,11 @@ public:
     SignalHandler(QObject* sender, const char* signal, std::function<void()> handler);
     ~SignalHandler() override;
 
+    /// Whether the sender has the signal.
     bool isConnected() const;
 
 public Q_SLOTS:
+    /// Calls the function.
     void handle();
 
 private:

@@ -19,19 +19,24 @@ class TROVAPPSTARTUP_EXPORT ICfg
 public:
     virtual ~ICfg();
 
+    /// The value, or the default when it is missing or cannot be read as the type.
     virtual QString GetString(const QString& key, const QString& defaultValue = {}) const = 0;
     virtual int GetInt(const QString& key, int defaultValue = 0) const = 0;
     virtual bool GetBool(const QString& key, bool defaultValue = false) const = 0;
 
+    /// Replaces a value of any type.
     virtual void SetString(const QString& key, const QString& value) = 0;
     virtual void SetInt(const QString& key, int value) = 0;
     virtual void SetBool(const QString& key, bool value) = 0;
 
+    /// Whether there is a value of any type.
     virtual bool Contains(const QString& key) const = 0;
+    /// Takes the value away if there is one.
     virtual void Remove(const QString& key) = 0;
     /// The keys of the values here, without those of sub-configurations, sorted.
     virtual QStringList GetKeys() const = 0;
 
+    /// Whether there is a value in it or below it.
     virtual bool HasSubCfg(const QString& name) const = 0;
     /// Opens the sub-configuration; it is there as long as there is a value in it or
     /// below it. Null for an empty name, and 200 levels deep.

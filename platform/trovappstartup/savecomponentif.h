@@ -30,5 +30,6 @@ public:
     IAbstractTerminationTarget(const IAbstractTerminationTarget&) = delete;
     IAbstractTerminationTarget& operator=(const IAbstractTerminationTarget&) = delete;
 
+    /// Called once, after the components have saved and before the configuration is stored.
     virtual void aboutToTerminate() = 0;
 };

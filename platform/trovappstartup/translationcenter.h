@@ -19,8 +19,10 @@ class TranslationCenterPrivate;
 class TROVAPPSTARTUP_EXPORT TranslationCenter
 {
 public:
+    /// Made by the first call.
     static TranslationCenter& Instance();
 
+    /// What the configuration holds; empty without.
     static QString GetLanguageFromCfg();
     static QString GetFontFromCfg();
     static QString GetWindowsFontFromCfg();

@@ -10,8 +10,10 @@
 class ChangeQueue
 {
 public:
+    /// In calls of the operation.
     static constexpr int longestRun = 1000;
 
+    /// How run() has ended.
     enum Outcome {
         Done,
         Waiting,  ///< The operation is running, and will get this code too.

@@ -28,6 +28,7 @@ public:
     IObserver& operator=(const IObserver& other); ///< Keeps its own observations.
     virtual ~IObserver();
 
+    /// The observable has changed; `code` is one of ChangeCode.
     virtual void Update(Observable* observable, TChangeCode code) = 0;
 
 private:
@@ -43,6 +44,7 @@ private:
 class VALUEFRAMEWORK_EXPORT Observable
 {
 public:
+    /// Whether the user may change the value.
     enum State {
         Enabled = 0,  ///< The value can be read and set.
         Gone = 1,     ///< The object is being destroyed; observers must forget it.
@@ -60,6 +62,7 @@ public:
     void Detach(IObserver* observer);
     int GetObserverCount() const;
 
+    /// Enabled at first.
     State GetState() const;
     /// Enabled or Disabled; tells the observers when it changes.
     void SetState(State state);

@@ -18,6 +18,8 @@ class VALUEFRAMEWORK_EXPORT PersistantOwner
 public:
     virtual ~PersistantOwner();
 
+    /// Before the members are written: bring them up to date. After they were read: take them over.
+    /// Do nothing here.
     virtual void ApplyPersistantBeforeWrite();
     virtual void ApplyPersistantAfterRead();
 };
@@ -26,12 +28,15 @@ public:
 class VALUEFRAMEWORK_EXPORT PersistantObject
 {
 public:
+    /// The key within the record.
     explicit PersistantObject(const QString& key);
     PersistantObject(const PersistantObject&) = delete;
     PersistantObject& operator=(const PersistantObject&) = delete;
     virtual ~PersistantObject();
 
+    /// The key within the record.
     const QString& GetKey() const;
+    /// `cfg` is the place of the record.
     virtual void Read(const ICfg& cfg) = 0;
     virtual void Write(ICfg& cfg) const = 0;
     /// Whether Read() found something that it cannot take: the record keeps it aside, and the next
@@ -66,10 +71,12 @@ public:
     Persistant(const Persistant&) = delete;
     Persistant& operator=(const Persistant&) = delete;
 
+    /// The name of the record.
     const QString& GetName() const;
     /// Whether something is stored under this name.
     bool Exists() const;
 
+    /// The variable gets the default value when nothing is stored.
     void Add(QString* member, const QString& key, const QString& defaultValue = {});
     void Add(bool* member, const QString& key, bool defaultValue);
     void Add(int* member, const QString& key, int defaultValue);

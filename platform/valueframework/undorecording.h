@@ -34,6 +34,7 @@ public:
     /// recorded until now are forgotten. Does nothing during a replay.
     void setLimit(int steps);
 
+    /// Whether undo() and redo() would replay a step now.
     bool canUndo() const;
     bool canRedo() const;
     /// Text of the step that undo() or redo() would replay next; empty without one.
@@ -74,6 +75,7 @@ private:
 class VALUEFRAMEWORK_EXPORT UndoRecordingTriggerByValueClient
 {
 public:
+    /// Begins the step. The text names it in menus.
     UndoRecordingTriggerByValueClient(const QString& basePath, const QString& text, int burst = -1);
     ~UndoRecordingTriggerByValueClient();
     UndoRecordingTriggerByValueClient(const UndoRecordingTriggerByValueClient&) = delete;

@@ -14,12 +14,14 @@ template <typename T>
 class VALUEFRAMEWORK_EXPORT Value : public ValueBase
 {
 public:
+    /// The name becomes part of the path in the tree.
     explicit Value(const QString& name, T value = {})
         : ValueBase(name)
         , m_value(std::move(value))
     {}
     ~Value() override { leave(); }
 
+    /// As it was last set.
     const T& GetValue() const { return m_value; }
 
     /// Sets and tells the observers, unless the value is the same.
@@ -78,6 +80,7 @@ public:
                           T maximum = std::numeric_limits<T>::max());
     ~ValueNumeric() override;
 
+    /// The value, which is always within the range.
     T GetValue() const;
     T GetMinimum() const;
     T GetMaximum() const;

@@ -16,10 +16,12 @@
 class VALUEFRAMEWORK_EXPORT ValueBase : public Observable
 {
 public:
+    /// See GetName().
     explicit ValueBase(const QString& name);
     /// Leaves the value tree.
     ~ValueBase() override;
 
+    /// The last part of the path in the tree.
     const QString& GetName() const;
     /// The path in the value tree ("receiver/frequency"), or the name for a value outside it.
     QString GetPathName() const;

@@ -14,6 +14,7 @@ public:
     SelectionItem(const QString& name, bool disabled, int value);
     SelectionItem(const QString& name, bool disabled, double value, int key);
 
+    /// What the item was made with.
     const QString& GetName() const;
     double GetValue() const;
     int GetKey() const;
@@ -33,6 +34,7 @@ private:
 class VALUEFRAMEWORK_EXPORT ValueSelection : public ValueBase
 {
 public:
+    /// Without items.
     explicit ValueSelection(const QString& name);
     ~ValueSelection() override;
 
@@ -47,6 +49,7 @@ public:
     /// ChangeCode::Range, then ChangeCode::CurrentValue when the current item is not the same.
     void SetItems(const std::vector<SelectionItem>& items);
 
+    /// The number of items.
     int GetCount() const;
     /// Null out of range. Valid until the items change.
     const SelectionItem* GetItem(int index) const;
@@ -55,6 +58,7 @@ public:
     int FindByKey(int key) const;
     int FindByName(const QString& name) const;
 
+    /// -1 and null without items.
     int GetCurrentIndex() const;
     const SelectionItem* GetCurrentItem() const;
     /// The current item's value, or 0 without one.

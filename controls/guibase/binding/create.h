@@ -22,6 +22,7 @@ template <typename ValueKind, typename WidgetClass>
 class GUIBASE_EXPORT ValueWidgetBindingBase : public ValueWidgetBinding
 {
 public:
+    /// What the value holds: a number, a truth, a text or a point in time.
     using Held = std::decay_t<decltype(std::declval<const ValueKind&>().GetValue())>;
     /// Tells why an input must not become the value; empty when it may.
     using Guard = std::function<QString(const Held& input)>;
@@ -42,6 +43,7 @@ public:
     }
 
 protected:
+    /// The reason of the guard; empty without one.
     QString refusalOf(const Held& input) const { return m_guard ? m_guard(input) : QString(); }
 
     using ValueWidgetBinding::ValueWidgetBinding;

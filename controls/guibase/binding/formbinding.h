@@ -18,8 +18,10 @@ class ValueWidgetBinding;
 /// What BindForm() has bound, and what not. The bindings belong to their widgets and actions.
 struct FormBindings
 {
+    /// Not owned.
     std::vector<ValueWidgetBinding*> bindings;
     std::vector<ActionBinding*> actions;
+    /// Nothing in the form has the name.
     QStringList pathsWithoutWidget;
     QStringList pathsOfOtherKind; ///< The widget cannot be bound to such a value.
 };

@@ -51,8 +51,11 @@ private:
 class GUIBASE_EXPORT ValueWidgetBinding : public QObject, public IObserver
 {
     Q_OBJECT
+    /// See setDelay().
     Q_PROPERTY(int delay READ delay WRITE setDelay)
+    /// See setBurstTime().
     Q_PROPERTY(int burstTime READ burstTime WRITE setBurstTime)
+    /// See setUndoText().
     Q_PROPERTY(QString undoText READ undoText WRITE setUndoText)
 public:
     /// Writes nothing.

@@ -19,6 +19,7 @@ public:
     /// colour gives an invalid colour.
     ColorDefinition(const QString& text, qint32 id, int alpha = 255);
 
+    /// Colour, its text for files and editors, and its number in the catalogue.
     const QColor& GetColor() const { return m_color; }
     const QString& GetColorString() const { return m_colorString; }
     qint32 GetId() const { return m_id; }

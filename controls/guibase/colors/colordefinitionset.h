@@ -21,6 +21,7 @@ public:
     void Add(const QColor& color, qint32 id, int alpha = 255);
     void Add(const QString& text, qint32 id, int alpha = 255);
 
+    /// The number of entries.
     int GetCount() const { return static_cast<int>(m_entries.size()); }
 
     /// Null outside the array.

@@ -16,11 +16,13 @@ class GUIBASE_EXPORT Colors
 {
     Q_DECLARE_TR_FUNCTIONS(Colors)
 public:
+    /// Usable without an application object. GUI thread only.
     static Colors& Instance();
     virtual ~Colors();
     Colors(const Colors&) = delete;
     Colors& operator=(const Colors&) = delete;
 
+    /// The three sets. Owned by this object.
     ColorDefinitionSet& GetSystemColors() { return m_systemColors; }
     ColorDefinitionSet& GetColors() { return m_palette; }
     ColorDefinitionSet& GetUserColors() { return m_userColors; }

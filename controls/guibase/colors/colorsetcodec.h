@@ -15,8 +15,10 @@ class QIODevice;
 /// signed 32-bit number, low byte first, and nothing else.
 namespace ColorSetCodec {
 
+/// By slot.
 using Ids = std::array<qint32, IColorBase::slotCount>;
 
+/// In bytes.
 inline constexpr qsizetype fileSize = qsizetype(sizeof(qint32)) * IColorBase::slotCount;
 
 /// `fileSize` bytes.

@@ -11,6 +11,7 @@
 /// One row of the colour editor. The texts are to be translated in the context "ColorsCtrl".
 struct ColorSlotRow
 {
+    /// Marks a row that has no such slot.
     static constexpr int noSlot = -1;
 
     int slot;         ///< The slot that the row edits, noSlot for a row that only tells something.
@@ -23,8 +24,10 @@ struct ColorSlotGroup
 {
     const char* heading; ///< To be translated in the context "ColorsCtrl".
     quint32 maskBit;     ///< In ColorSet::GetShowInDialog(); 0 for a group that is always shown.
+    /// In the order in which the editor shows them.
     std::span<const ColorSlotRow> rows;
 
+    /// Whether an editor with this mask shows the group; see ColorSet::SetShowInDialog().
     constexpr bool isShown(quint32 mask) const { return maskBit == 0 || (mask & maskBit) != 0; }
 };
 
@@ -33,6 +36,7 @@ namespace ColorSlotGroups {
 
 using enum IColorBase::ECOLOR;
 
+/// @cond
 // clang-format off
 inline constexpr ColorSlotRow axisRows[] = {
     {ColorSlotRow::noSlot, QT_TRANSLATE_NOOP("ColorsCtrl", "Background"),
@@ -240,6 +244,9 @@ inline constexpr ColorSlotRow productionResultRows[] = {
     {ProductionResultUnknown, QT_TRANSLATE_NOOP("ColorsCtrl", "Unknown")},
 };
 
+/// @endcond
+
+/// All groups, in the order of the editor.
 inline constexpr std::array<ColorSlotGroup, 19> all{{
     {QT_TRANSLATE_NOOP("ColorsCtrl", "Axis"), 0x1, axisRows},
     {QT_TRANSLATE_NOOP("ColorsCtrl", "Frequency Axis"), 0x1, frequencyAxisRows},

@@ -22,8 +22,10 @@ namespace ModalDialogs {
 GUIBASE_EXPORT void setUnattended(bool unattended);
 GUIBASE_EXPORT bool isUnattended();
 
+/// What a message box shows and offers.
 struct Box
 {
+    /// As in QMessageBox.
     QMessageBox::Icon icon = QMessageBox::Information;
     QString title;
     QString text;
@@ -37,9 +39,11 @@ GUIBASE_EXPORT QMessageBox::StandardButton show(QWidget* parent, const Box& box)
 /// What a file dialog is opened with; the options come from GuiBase::UseNativeDialogs().
 struct FileQuestion
 {
+    /// As in QFileDialog.
     QFileDialog::AcceptMode mode = QFileDialog::AcceptOpen;
     QString title;
     QString startAt; ///< A folder, or a file that is proposed.
+    /// As QFileDialog takes it: "Notes (*.txt)".
     QString filter;
     /// Makes the name of the file from what the user chose. When none is set, names of files to
     /// save get what withExtension() adds.

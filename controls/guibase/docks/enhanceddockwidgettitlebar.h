@@ -23,6 +23,7 @@ public:
     explicit EnhancedDockWidgetTitleBar(QDockWidget& dockWidget);
     ~EnhancedDockWidgetTitleBar() override;
 
+    /// Null while the dock is being destroyed.
     QDockWidget* dockWidget() const;
 
     /// Shows the action as a button in front of the index-th action, hidden ones counted; the first
@@ -30,6 +31,7 @@ public:
     /// action that is there already moves. The action is not owned.
     void addTitleBarAction(QAction& action, int index);
 
+    /// Whether the bar is marked as that of the dock which the user works in.
     bool isActive() const;
     void setActive(bool active);
 

@@ -17,6 +17,7 @@ namespace QMainWindowHelpers {
 class GUIBASE_EXPORT MainWindowConfigurator
 {
 public:
+    /// What most windows ask the three supports for.
     static constexpr QFlags<Qt::ToolBarArea> DefaultAutoHideSupportToolBarAreas{
         Qt::LeftToolBarArea, Qt::RightToolBarArea};
     static constexpr QFlags<Qt::DockWidgetArea> DefaultTileSupportDockWidgetAreas{

@@ -18,6 +18,7 @@ namespace QDockWidgetHelpers {
 /// The states of a floating dock, with their names.
 struct GUIBASE_EXPORT MaximizeMinimizeSupport_DockWidgetState
 {
+    /// What a floating dock can be.
     enum Type : int {
         Normal,
         Maximized,
@@ -50,6 +51,7 @@ class GUIBASE_EXPORT MaximizeMinimizeSupport : public QObject
 {
     Q_OBJECT
 public:
+    /// The states, under a shorter name.
     using State = MaximizeMinimizeSupport_DockWidgetState;
 
     /// The support of this dock, or null.
@@ -109,6 +111,7 @@ public Q_SLOTS:
     bool restoreDockWidget();
 
 protected Q_SLOTS:
+    /// Connected to the signals of the dock.
     void onFloatingStateChanged();
     void onDockLocationChanged(Qt::DockWidgetArea area);
     void onDockWidgetDestroyed();

@@ -19,6 +19,7 @@ public:
     /// A place in a text; the length may be 0, the start is -1 when there is no match.
     struct Match
     {
+        /// Positions count UTF-16 units, as QString does.
         qsizetype start = -1;
         qsizetype length = 0;
         explicit operator bool() const { return start >= 0; }
@@ -38,6 +39,7 @@ public:
     /// that texts of any length cost little.
     Match matchEndingAt(const QString& text, qsizetype end) const;
 
+    /// See matchEndingAt(); in UTF-16 units.
     static constexpr qsizetype longestSuffix = 256;
 
 private:

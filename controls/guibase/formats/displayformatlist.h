@@ -13,14 +13,17 @@
 template <typename T>
 struct DisplayFormatReading
 {
+    /// How far the reading came.
     enum Outcome {
         Read,       ///< A format has read the value.
         SuffixOnly, ///< None has, but the text ends with the suffix of one; the value is unchanged.
         Unreadable, ///< Nothing is known of the text; value and format are unchanged.
     };
 
+    /// The value that was read; see Outcome for the others.
     T value;
     int index; ///< The format's; -1 is the default one.
+    /// What the other two stand for.
     Outcome outcome;
 
     /// Whether the format is known; the text may be a suffix alone, without a value.
@@ -43,6 +46,7 @@ template <typename T>
 class DisplayFormatList
 {
 public:
+    /// Formats with their indexes, as they are tried.
     using Format = ValueDisplayFormatBase<T>;
     using Reading = DisplayFormatReading<T>;
     using Pair = std::pair<const Format*, int>;

@@ -11,8 +11,10 @@
 struct LocaleNotation
 {
     LocaleNotation() = default;
+    /// Asks the locale once: it answers slowly.
     explicit LocaleNotation(const QLocale& locale);
 
+    /// Parts the whole number from its decimals.
     QChar decimalPoint = u'.';
     /// ASCII digits and minus, no group separators, no other number options: such numbers can be
     /// written without the help of the locale.
@@ -29,9 +31,11 @@ public:
     /// Where the bare number stands in a text with or without prefix and suffix.
     struct Range
     {
+        /// The number stands from `start` up to, but without, `end`.
         qsizetype start;
         qsizetype end;
     };
+    /// Where the bare number stands.
     Range bareRange(const QString& text) const;
 
     /// At first the default locale, without group separators in both directions.
@@ -63,6 +67,8 @@ protected:
     DisplayFormatText& operator=(const DisplayFormatText& other);
     ~DisplayFormatText();
 
+    /// For derived formats: the signs of locale(), and a bare text with prefix, suffix and their
+    /// blanks.
     const LocaleNotation& notation() const { return m_notation; }
     QString withAffixes(const QString& bare) const;
 

@@ -22,6 +22,7 @@ public:
     /// The bounds with all decimals down to single hertz.
     std::vector<qint64> widestValues(const qint64& minimum, const qint64& maximum) const override;
 
+    /// BaseUnit to Giga.
     UnitPrefix::ESuffix unit() const { return m_unit; }
     /// Trailing zeros are written up to so many decimals; 0 at first, at most down to single hertz.
     int minimumDecimals() const { return m_minimumDecimals; }

@@ -38,11 +38,14 @@ template <typename T>
 class GUIBASE_EXPORT ValueDisplayFormatBase : public DisplayFormatText
 {
 public:
+    /// The type of the values.
     using Value = T;
+    /// The direction in which a converter is asked.
     enum ConversionMode {
         ToDisplay = 0,   ///< From the stored value to the shown one.
         FromDisplay = 1, ///< From the shown value to the stored one.
     };
+    /// Turns a stored value into the shown one, or back: a scale, an offset.
     using ValueConverter = std::function<T(T, ConversionMode)>;
 
     /// A copy of the same class.

@@ -21,6 +21,7 @@ class ValueSelection;
 class GUIBASE_EXPORT SuffixedDouble : public IObserver
 {
 public:
+    /// The unit prefixes.
     using ESuffix = UnitPrefix::ESuffix;
     using enum UnitPrefix::ESuffix;
 

@@ -6,6 +6,7 @@
 /// nothing else of SuffixedDouble.
 namespace UnitPrefix {
 
+/// The numbers are those that are stored.
 enum ESuffix : int {
     NoSuffix = 0, ///< No unit.
     BaseUnit = 1, ///< The unit itself, such as Hz.

@@ -19,6 +19,7 @@ public:
     RefusalMark(const RefusalMark&) = delete;
     RefusalMark& operator=(const RefusalMark&) = delete;
 
+    /// Replaces the tool tip by the reason and shows it at once.
     void show(const QString& reason);
     /// Brings the former tool tip back, unless it was replaced meanwhile.
     void clear();
@@ -26,6 +27,7 @@ public:
     /// Empty when the mark is not shown.
     const QString& reason() const { return m_reason; }
 
+    /// Nothing while the mark is not shown.
     void paint() const;
     /// A red that stands out from the background of texts, be it light or dark.
     static QColor color(const QPalette& palette);

@@ -13,6 +13,7 @@ class QLineEdit;
 class GUIBASE_EXPORT TypedInput
 {
 public:
+    /// What inputQuantity() can be asked for.
     enum class Quantity { Value, Minimum, Maximum, SingleStep };
 
     virtual ~TypedInput();

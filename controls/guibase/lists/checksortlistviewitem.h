@@ -17,6 +17,7 @@ class QCheckBox;
 class GUIBASE_EXPORT CheckSortListViewItem : public SortListViewItem
 {
 public:
+    /// As those of SortListViewItem; the check box is not checked at first.
     explicit CheckSortListViewItem(QTreeWidget* tree)
         : CheckSortListViewItem(tree, QStringList())
     {}
@@ -49,6 +50,7 @@ public:
     void SetId(int id);
     int GetId() const;
 
+    /// The state is that of the check box. Qt::PartiallyChecked makes it tristate.
     virtual void setOn(bool on);
     bool isOn() const;
     Qt::CheckState state() const;

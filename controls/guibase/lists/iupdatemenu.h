@@ -12,5 +12,6 @@ class GUIBASE_EXPORT IUpdateMenu
 public:
     virtual ~IUpdateMenu();
 
+    /// Brings the entries up to date: the menu is shown next.
     virtual void UpdateMenu(ResortPopupMenu* menu) = 0;
 };

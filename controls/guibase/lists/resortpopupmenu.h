@@ -27,6 +27,7 @@ public:
     static constexpr int firstUniqueId = 5000;
 
     ResortPopupMenu();
+    /// The name is the object name; may be null.
     ResortPopupMenu(QWidget* parent, const char* name);
     ~ResortPopupMenu() override;
 
@@ -51,6 +52,7 @@ public:
 
     // --- Finding entries -------------------------------------------------------------------------
 
+    /// Null without such an entry.
     QAction* findItem(int id) const;
     /// The position of the entry, or -1.
     int indexOf(int id) const;
@@ -61,6 +63,7 @@ public:
 
     // --- Changing entries ------------------------------------------------------------------------
 
+    /// By the id of the entry; an unknown one is neither enabled nor checked.
     void changeItem(int id, const QString& text);
     bool isItemEnabled(int id) const;
     void setItemEnabled(int id, bool enabled);
@@ -72,6 +75,7 @@ public:
     void EnableEntry(const QString& text, bool enabled);
     void EnableAllEntries(bool enabled);
 
+    /// Take entries out for good; sub-menus are not deleted.
     void removeItem(int id);
     void RemoveAllEntries();
     void removeAllSeparators();
@@ -105,6 +109,7 @@ Q_SIGNALS:
     void signalActivated(int id);
 
 public Q_SLOTS:
+    /// Emits signalActivated() for an entry with an id.
     virtual void slotSignalRouter(QAction* action);
 
 protected:

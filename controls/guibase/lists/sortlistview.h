@@ -29,6 +29,7 @@ public:
     /// order: below 0 means that the row of the second text goes in front of that of the first.
     using CompareFunction = int (*)(const QString&, const QString&);
 
+    /// The name is the object name; may be null.
     explicit SortListView(QWidget* parent = nullptr, const char* name = nullptr);
     ~SortListView() override;
 
@@ -98,6 +99,7 @@ public:
 
     // --- The older navigation interface ----------------------------------------------------------
 
+    /// Null when there is none; the first one of several selected rows.
     SortListViewItem* currentItem() const;
     SortListViewItem* selectedItem() const;
     /// The first row; nextChild() then walks through the others, to null at the end.
@@ -135,6 +137,7 @@ Q_SIGNALS:
     void returnPressed(SortListViewItem* item);
 
 public Q_SLOTS:
+    /// Connected to the signals of the view and its header; derived lists may replace what they do.
     virtual void slotContextMenuRequested(SortListViewItem* item, QPoint pos, int col);
     /// `pos` in coordinates of the header's viewport.
     virtual void slotHeaderContextMenuRequested(QPoint pos);

@@ -24,6 +24,7 @@ class GUIBASE_EXPORT SortListViewItem : public QTreeWidgetItem
 public:
     enum { Type = QTreeWidgetItem::UserType + 0x4c56 };
 
+    /// Appended to the tree, without texts.
     explicit SortListViewItem(QTreeWidget* tree)
         : SortListViewItem(tree, QStringList())
     {}
@@ -83,6 +84,7 @@ public:
 
     // --- Pictures --------------------------------------------------------------------------------
 
+    /// Sets the icon of the column.
     void setPixmap(int column, const QPixmap& pixmap);
     /// The column's icon, at most 22 by 22; null pixmap without icon. One picture per row is kept:
     /// the pointer is good, and its content the same, until the next call for this row.

@@ -21,6 +21,7 @@ public:
     /// At most this many lines of the clipboard are taken at once.
     static constexpr int maximumPastedRows = 100'000;
 
+    /// The name is the object name; may be null.
     explicit SortRowTable(QWidget* parent = nullptr, const char* name = nullptr);
     SortRowTable(int rows, int columns, QWidget* parent = nullptr, const char* name = nullptr);
     ~SortRowTable() override;
@@ -41,9 +42,14 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 public Q_SLOTS:
+    /// Appends a row and lets the user type its frequency.
     void slotNew();
+    /// Removes the selected rows, after a question.
     void slotDelete();
+    /// Removes all rows, without a question.
     void slotClearAll();
+    /// Selected cells to the clipboard, as selectionAsText(); rows of the clipboard to the end, a
+    /// single value into the current cell.
     void slotCopy();
     void slotPaste();
 

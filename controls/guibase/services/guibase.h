@@ -42,6 +42,7 @@ class GUIBASE_EXPORT GuiBase : public QObject,
 {
     Q_OBJECT
 public:
+    /// The one object.
     static GuiBase& Instance();
 
     // --- Creation and wiring -------------------------------------------------------------------
@@ -95,6 +96,7 @@ public:
 
     // --- Style ---------------------------------------------------------------------------------
 
+    /// Makes a combo box with the one style there is; it belongs to `parent`.
     QComboBox* GetStyleComboBox(QWidget* parent);
     /// Loads the style sheet that `cfg`, or else the application's and then the administrator's
     /// configuration, names under "StyleSheet". Without a file the sheet stays as it is.
@@ -213,6 +215,7 @@ public:
     /// Announces that the colours of the application have changed.
     void emit_signalColorsChanged();
 
+    /// As tr(), for callers of the older interface.
     static QString trUtf8(const char* text, const char* comment = nullptr);
     static QString trUtf8(const char* text, const char* comment, int count);
 
@@ -241,13 +244,19 @@ Q_SIGNALS:
     void endEdit(QWidget* widget);
 
 public Q_SLOTS:
+    /// For callers of the older interface: do nothing but leave a trace. TrovApplication shows the
+    /// splash screen.
     void ShowSplash(QString text, uint seconds);
     void ShowSplash(QString text);
     void ShowSplash(QPixmap picture, uint seconds);
     void ShowSplash(QPixmap picture);
     void ShowSplash(uint seconds);
     void ShowSplash();
+    /// Takes the splash screen away once it has been shown for as many seconds as the configuration
+    /// tells under "Startup/SplashTimeout"; at once without.
     void HideSplash();
+    /// As TrovApplication::HideSplash(), SplashBusy() and Write2Splash(); nothing without a start-
+    /// up object.
     void HideSplashAtOnce();
     void BusySplash();
     void Write2Splash(QString text);

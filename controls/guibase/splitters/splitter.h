@@ -18,6 +18,7 @@ class GUIBASE_EXPORT Splitter : public QSplitter
     Q_OBJECT
 public:
     explicit Splitter(QWidget* parent = nullptr);
+    /// The positions are kept under `name`; not without one.
     explicit Splitter(Qt::Orientation orientation, QWidget* parent = nullptr);
     Splitter(Qt::Orientation orientation, QWidget* parent, const QString& objectName,
              const QString& name);
@@ -44,9 +45,11 @@ public:
     void beginMove();
 
 public Q_SLOTS:
+    /// Stores the positions; connected to splitterMoved().
     void slotKeepSettings(int position, int index);
 
 protected:
+    /// Part of every constructor.
     void init();
     void showEvent(QShowEvent* event) override;
     void childEvent(QChildEvent* event) override;

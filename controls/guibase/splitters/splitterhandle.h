@@ -16,6 +16,7 @@ class GUIBASE_EXPORT SplitterHandle : public QSplitterHandle
 {
     Q_OBJECT
 public:
+    /// Made by Splitter.
     SplitterHandle(Qt::Orientation orientation, QSplitter* parent);
     ~SplitterHandle() override;
 

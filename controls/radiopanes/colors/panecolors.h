@@ -12,6 +12,7 @@ namespace RadioPanes {
 
 /// The slots of the application's colour set that the panes draw with.
 namespace PaneSlot {
+/// The slots of the colour set, by what the panes draw with them.
 inline constexpr auto BackgroundLow = IColorBase::DrawPaneBackgroundLow;
 inline constexpr auto BackgroundHigh = IColorBase::DrawPaneBackgroundHigh;
 inline constexpr auto Grid = IColorBase::DrawPaneGrid;

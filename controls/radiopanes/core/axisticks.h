@@ -14,6 +14,7 @@ namespace RadioPanes {
 /// `pixels`.
 struct RADIOPANES_EXPORT AxisRange
 {
+    /// In units of the axis.
     double low = 0;
     double high = 0;
     int pixels = 0;
@@ -28,8 +29,10 @@ struct RADIOPANES_EXPORT AxisRange
 /// One labelled tick of an axis.
 struct AxisTick
 {
+    /// In units of the axis.
     double value = 0;
     double position = 0; ///< Pixels from the low end of the axis.
+    /// Empty for a tick without a text.
     QString label;
 };
 

@@ -15,6 +15,7 @@ namespace RadioPanes {
 /// from `lowHz + c * (highHz - lowHz) / n` on.
 struct ColumnView
 {
+    /// From here up to, but without, the other.
     double lowHz = 0;
     double highHz = 0;
 
@@ -38,6 +39,7 @@ class RADIOPANES_EXPORT LevelPyramid
 {
 public:
     LevelPyramid();
+    /// Takes time and memory that follow the bins of the sweep.
     explicit LevelPyramid(const Sweep& sweep);
 
     /// As reduceToColumns(), but a column may also take in bins up to a quarter of a column

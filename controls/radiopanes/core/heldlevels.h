@@ -15,15 +15,18 @@ namespace RadioPanes {
 class RADIOPANES_EXPORT HeldLevels
 {
 public:
+    /// What of the levels is held.
     enum class Kind {
         Maximum,
         Minimum,
         Average, ///< Of the powers, not of the dB; after `averagedSweeps` older ones fade out.
     };
+    /// The bounds that the class comment speaks of.
     static constexpr std::size_t maximumHops = 4096;
     static constexpr std::size_t maximumBins = std::size_t{4} << 20;
     static constexpr unsigned averagedSweeps = 32;
 
+    /// Holds nothing yet.
     explicit HeldLevels(Kind kind = Kind::Maximum);
 
     /// Forgets all levels.
@@ -31,6 +34,7 @@ public:
     /// Takes the levels of `sweep` into account; bins without a level change nothing.
     void add(const Sweep& sweep);
 
+    /// Whether no sweep has come since the beginning or the last clear().
     bool isEmpty() const { return m_segments.empty(); }
     /// What is held, as a sweep with the time of the last one added. Valid until the next
     /// clear() or add().

@@ -18,6 +18,7 @@ namespace RadioPanes {
 class RADIOPANES_EXPORT LevelHistory final : public SweepHistory
 {
 public:
+    /// In bytes: 64 MiB.
     static constexpr std::size_t defaultLimit = std::size_t{64} << 20;
 
     /// `limitBytes` bounds the memory of levels and hops.

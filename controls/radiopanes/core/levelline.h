@@ -13,6 +13,7 @@ namespace RadioPanes {
 /// A level that is set for a frequency.
 struct LevelPoint
 {
+    /// Where the level counts.
     double hertz = 0;
     double levelDb = 0;
 

@@ -11,15 +11,18 @@ namespace RadioPanes {
 /// Lowest and highest level of some bins, in dB. By default it holds no level.
 struct LevelRange
 {
+    /// In dB; the lowest above the highest for an empty range.
     float minimum = std::numeric_limits<float>::infinity();
     float maximum = -std::numeric_limits<float>::infinity();
 
+    /// Whether nothing was added.
     bool isEmpty() const { return !(minimum <= maximum); }
     void add(float level) // noLevel changes nothing: it compares false with everything
     {
         minimum = level < minimum ? level : minimum;
         maximum = level > maximum ? level : maximum;
     }
+    /// Nothing happens for an empty range.
     void add(const LevelRange& other)
     {
         minimum = other.minimum < minimum ? other.minimum : minimum;

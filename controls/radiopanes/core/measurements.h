@@ -19,6 +19,7 @@ struct BinLevel
 {
     double hertz = 0;  ///< Its centre.
     double stepHz = 0; ///< Its width.
+    /// Of the whole bin.
     float levelDb = 0;
 
     bool operator==(const BinLevel&) const = default;
@@ -41,9 +42,11 @@ RADIOPANES_EXPORT std::optional<BinLevel> nextPeak(const Sweep& sweep, double he
 /// A part of the band, in whole bins.
 struct Extent
 {
+    /// Edges of bins.
     double lowHz = 0;
     double highHz = 0;
 
+    /// 0 when it is empty.
     double widthHz() const { return highHz - lowHz; }
     bool operator==(const Extent&) const = default;
 };

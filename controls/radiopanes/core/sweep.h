@@ -18,11 +18,13 @@ inline constexpr float noLevel = std::numeric_limits<float>::quiet_NaN();
 /// from `startHz + i * stepHz` up to, but without, `startHz + (i + 1) * stepHz`.
 struct Segment
 {
+    /// The lower edge of the first bin.
     double startHz = 0;
     double stepHz = 1;             ///< width of a bin, greater than 0
     quint64 samples = 0;           ///< how many samples the receiver averaged, as it told
     std::span<const float> levels; ///< in dB; `noLevel` where there is none
 
+    /// The upper edge of the last bin.
     double endHz() const { return startHz + stepHz * static_cast<double>(levels.size()); }
 };
 
@@ -37,6 +39,7 @@ struct RADIOPANES_EXPORT Sweep
     double highHz = 0;                 ///< highest end of a segment
     std::size_t binCount = 0;          ///< levels in all segments
 
+    /// Whether there is no segment.
     bool isEmpty() const { return segments.empty(); }
     /// The level of the bin that covers `hz`, in dB; nothing in a gap, outside, or where the bin
     /// has no level. Where hops overlap, the one with the highest start counts.

@@ -45,6 +45,7 @@ class RADIOPANES_EXPORT SideAxis : public QWidget
 {
     Q_OBJECT
 public:
+    /// Makes the ticks for a scale of so many pixels.
     using Ticks = std::function<std::vector<AxisTick>(int pixels)>;
 
     /// `caption` stands in the upper corner; may be empty.

@@ -29,10 +29,12 @@ public:
     BandPane(VisibleBand* view, QWidget* parent);
     ~BandPane() override;
 
+    /// What the pane was made with.
     VisibleBand& visibleBand() const;
     /// Pixels between a click and a pin that still hit it.
     static constexpr int pinReach = 5;
 
+    /// From pixels of the pane to hertz, and back.
     double frequencyAt(double x) const;
     double positionOf(double hertz) const;
     /// The width of so many pixels.

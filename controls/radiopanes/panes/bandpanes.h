@@ -35,6 +35,7 @@ public:
                        QWidget* parent = nullptr);
     ~BandPanes() override;
 
+    /// The parts. Owned by this object.
     VisibleBand& visibleBand() const;
     SpectrumPane& spectrum() const;
     WaterfallPane& waterfall() const;

@@ -21,6 +21,7 @@ public:
     ~HeldTraces();
     Q_DISABLE_COPY_MOVE(HeldTraces)
 
+    /// Takes the sweep into account; shows nothing yet.
     void add(const Sweep& sweep);
     /// Shows what is held, to be called after the last add() before a painting.
     void show();

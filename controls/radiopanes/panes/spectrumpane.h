@@ -40,6 +40,7 @@ class RADIOPANES_EXPORT SpectrumPane : public BandPane
 {
     Q_OBJECT
 public:
+    /// Makes the ticks for a grid of so many pixels.
     using GridTicks = std::function<std::vector<AxisTick>(int pixels)>;
 
     /// `text` must outlive the pane. `frequencyTicks` tells where the vertical grid lines stand.
@@ -71,6 +72,7 @@ public:
     void setWidthsVisible(bool visible);
     bool areWidthsVisible() const;
 
+    /// The levels at the bottom and the top of the pane, in dB.
     double lowLevel() const;
     double highLevel() const;
     /// The levels at the bottom and the top of the pane, in dB; 10 dB apart at least. Levels that

@@ -32,6 +32,7 @@ public:
     double bandLow() const;
     double bandHigh() const;
 
+    /// What is visible of the band.
     double low() const;
     double high() const;
     AxisRange range(int pixels) const;
@@ -46,6 +47,7 @@ public:
     void pan(double hertz);
     void showAll();
 
+    /// Always within the band.
     double cursor() const;
     /// Cut to the band.
     void setCursor(double hertz);

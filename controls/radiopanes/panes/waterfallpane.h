@@ -25,8 +25,10 @@ class RADIOPANES_EXPORT WaterfallPane : public BandPane
 {
     Q_OBJECT
 public:
+    /// Writes the time of a sweep.
     using TimeText = std::function<QString(quint64 timeUs)>;
 
+    /// The view is not owned and must outlive the pane.
     WaterfallPane(VisibleBand* view, QWidget* parent);
     ~WaterfallPane() override;
 

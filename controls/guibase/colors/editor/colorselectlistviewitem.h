@@ -55,6 +55,7 @@ public Q_SLOTS:
 
 protected:
     void activate() override;
+    /// Opens the picker in the row; shows the chosen colour.
     void Edit();
     void UpdateDisplay();
 

@@ -55,6 +55,7 @@ Q_SIGNALS:
     void mouseButtonReleasedOverDockWidget(QDockWidget& dock);
 
 protected:
+    /// Makes the dock active and announces it; null for none.
     void setActiveDockWidget(QDockWidget* dock);
     /// The first visible dock after the active one in title order, wrapping around; or null.
     QDockWidget* findNextActiveDockWidget() const;

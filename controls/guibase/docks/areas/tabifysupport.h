@@ -33,6 +33,7 @@ public:
     static bool isTabifyDockWidgetsPossible(const QMainWindow& mainWindow, Qt::DockWidgetArea area);
     static bool tabifyDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetArea area);
 
+    /// The same for the window of this support.
     bool isTabifyDockWidgetsPossible(Qt::DockWidgetArea area) const;
     /// The action for one of the supported areas, shown while the operation is possible there. For
     /// any other area it is an action that is never shown and does nothing.
@@ -73,6 +74,7 @@ public Q_SLOTS:
     void onMainWindowDestroyed();
 
 protected:
+    /// Emits the signals above for those of the areas that are supported.
     void emitIsTabifyDockWidgetsPossibleSignals(QFlags<Qt::DockWidgetArea> areas);
 
 private:

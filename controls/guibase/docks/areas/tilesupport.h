@@ -34,6 +34,7 @@ public:
     static bool isTileDockWidgetsPossible(const QMainWindow& mainWindow, Qt::DockWidgetArea area);
     static bool tileDockWidgets(QMainWindow& mainWindow, Qt::DockWidgetArea area);
 
+    /// The same for the window of this support.
     bool isTileDockWidgetsPossible(Qt::DockWidgetArea area) const;
     /// The action for one of the supported areas, shown while the operation is possible there. For
     /// any other area it is an action that is never shown and does nothing.
@@ -74,6 +75,7 @@ public Q_SLOTS:
     void onMainWindowDestroyed();
 
 protected:
+    /// Emits the signals above for those of the areas that are supported.
     void emitIsTileDockWidgetsPossibleSignals(QFlags<Qt::DockWidgetArea> areas);
 
 private:

@@ -47,6 +47,7 @@ public:
     /// Null when the dock has none.
     static QAction* autoHideAction(const QDockWidget& dock);
 
+    /// Where tool bars hold the buttons of hidden docks.
     QFlags<Qt::ToolBarArea> toolBarAreas() const;
     /// Whether the mouse over a button shows the dock; true at start. The user can change it.
     void setPopupOnHoverEnabled(bool enabled);
@@ -61,6 +62,7 @@ public:
     void setAutoHideDelay(int milliseconds);
     int autoHideDelay() const;
 
+    /// Calls enableAutoHide() or disableAutoHide().
     void setAutoHideEnabled(QDockWidget& dock, bool enabled);
     /// Nothing happens when the chosen area is neither left nor right, when there is no tool bar
     /// at all, and for docks of other windows. If only the other tool bar exists, that is taken.
@@ -95,6 +97,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
+    /// See install().
     AutoHideSupport(QMainWindow& mainWindow, QFlags<Qt::ToolBarArea> areas);
 
     void timerEvent(QTimerEvent* event) override;
@@ -109,6 +112,7 @@ protected:
     void onAutoHideActionToggled(QDockWidget& dock, bool checked);
     void popupDockWidgetOnHovered(QDockWidget& dock);
 
+    /// Take notice of what the event filter has seen at the window, a dock and a button.
     void mainWindowEvent(const QEvent& event);
     void dockWidgetEvent(QDockWidget& dock, const QEvent& event);
     void actionWidgetEvent(QAbstractButton& button, const QEvent& event);
@@ -121,6 +125,7 @@ protected:
     /// the opposite edge of the main window.
     void moveDockWidget(QDockWidget& dock, const QToolBar& toolBar);
 
+    /// Makes the tool bars for the areas; to be called once.
     void createDockWidgetTabToolBars();
     /// Stands for the dock on a tool bar of this area; belongs to the support.
     QAction* createToggleViewProxyAction(QDockWidget& dock, Qt::ToolBarArea area);

@@ -23,6 +23,7 @@ namespace ComboBoxes {
 class GUIBASE_EXPORT AbstractComboBox : public QComboBox, public TypedInput
 {
     Q_OBJECT
+    /// See setCurrentDisplayFormatIndex().
     Q_PROPERTY(int currentDisplayFormatIndex READ currentDisplayFormatIndex WRITE
                    setCurrentDisplayFormatIndex NOTIFY currentDisplayFormatIndexChanged)
 public:
@@ -57,6 +58,7 @@ Q_SIGNALS:
     void editingFinished();
 
 public Q_SLOTS:
+    /// Shows the value in this format; -1 or an index without a format: in the default one.
     void setCurrentDisplayFormatIndex(int index);
     /// Shows the current value, instead of what was typed. To be called after changing a format in
     /// use: items are then read anew, and the box may need another width.
@@ -66,6 +68,7 @@ public Q_SLOTS:
     void interpret();
 
 protected:
+    /// The format that the user typed in last.
     int lastUsedDisplayFormatIndex() const;
     void setLastUsedDisplayFormatIndex(int index);
     /// The format that automatic switching makes current; the last used one by default.

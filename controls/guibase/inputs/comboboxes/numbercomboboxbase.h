@@ -83,10 +83,12 @@ public:
     virtual void rangeChanged(T minimum, T maximum) = 0;
 
 protected:
+    /// What comes of reading a text.
     using Reading = DisplayFormatReading<T>;
 
     explicit NumberComboBoxBase(QWidget* parent);
 
+    /// The text in the current format.
     QString textFromValue(T value) const;
     /// The value of the text and the index of its format; when `ok` is false, the current ones.
     T valueFromText(const QString& text, bool& ok, int& index) const;

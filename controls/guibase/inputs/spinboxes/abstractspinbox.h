@@ -23,6 +23,7 @@ namespace SpinBoxes {
 class GUIBASE_EXPORT AbstractSpinBox : public QAbstractSpinBox, public TypedInput
 {
     Q_OBJECT
+    /// See setCurrentDisplayFormatIndex().
     Q_PROPERTY(int currentDisplayFormatIndex READ currentDisplayFormatIndex WRITE
                    setCurrentDisplayFormatIndex NOTIFY currentDisplayFormatIndexChanged)
 public:
@@ -50,6 +51,7 @@ Q_SIGNALS:
     void lastUsedDisplayFormatIndexChanged(int index);
 
 public Q_SLOTS:
+    /// Shows the value in this format; -1 or an index without a format: in the default one.
     void setCurrentDisplayFormatIndex(int index);
     /// Shows the current value, instead of what was typed. To be called after changing a format in
     /// use: the box may need another width.
@@ -58,6 +60,7 @@ public Q_SLOTS:
     virtual void interpret() = 0;
 
 protected:
+    /// The format that the user typed in last.
     int lastUsedDisplayFormatIndex() const;
     void setLastUsedDisplayFormatIndex(int index);
     /// The format that automatic switching makes current; the last used one by default.

@@ -32,6 +32,7 @@ public:
 
     QVariant inputQuantity(TypedInput::Quantity quantity) const override;
 
+    /// A signal of the typed classes, emitted after the change.
     virtual void singleStepChanged(T step) = 0;
 
 protected:

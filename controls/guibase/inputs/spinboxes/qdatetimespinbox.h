@@ -19,6 +19,7 @@ class GUIBASE_EXPORT QDateTimeSpinBox : public SpinBoxBase<QDateTime>
 {
     GUIBASE_TYPED_INPUT_MEMBERS(SpinBoxBase<QDateTime>, QDateTime)
 public:
+    /// Shows the value in the long format of the locale.
     explicit QDateTimeSpinBox(QWidget* parent = nullptr);
     ~QDateTimeSpinBox() override;
 

@@ -87,6 +87,7 @@ public:
     virtual void rangeChanged(T minimum, T maximum) = 0;
 
 protected:
+    /// What comes of reading a text.
     using Reading = DisplayFormatReading<T>;
 
     explicit SpinBoxBase(QWidget* parent);

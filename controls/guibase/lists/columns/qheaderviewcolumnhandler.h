@@ -24,6 +24,7 @@ class GUIBASE_EXPORT QHeaderViewColumnHandler : public QObject
 {
     Q_OBJECT
 public:
+    /// Restores nothing yet: see restoreColumnStatus().
     QHeaderViewColumnHandler(const QString& name, QHeaderView* header);
     ~QHeaderViewColumnHandler() override;
 

@@ -25,12 +25,14 @@ class GUIBASE_EXPORT Notifications : public QObject
 {
     Q_OBJECT
 public:
+    /// Where pop-ups appear.
     enum class Placement {
         Automatic, ///< On the screen where the platform allows that, else in a window.
         OnScreen,  ///< On the screen with the active window.
         InWindow,  ///< Inside the active window, in a stack of this process alone.
     };
 
+    /// The buttons of a pop-up.
     using Buttons = QFlags<QDialogButtonBox::StandardButton>;
     static constexpr QDialogButtonBox::StandardButton defaultButton = QDialogButtonBox::Close;
 
