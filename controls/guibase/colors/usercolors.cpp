@@ -4,16 +4,19 @@
 #include "colorcatalogue_p.h"
 #include "colors.h"
 
-#include <jtbase/errorhandler.h>
-#include <trovappstartup/cfgcenter.h>
+#include <guibase/records/recordstore.h>
 
 namespace {
 
-constexpr char module[] = "controls/guibase/usercolors";
-
-std::unique_ptr<ICfg> place()
+RecordStore makeStore()
 {
-    return CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(QStringLiteral("UserColors"));
+    return RecordStore(SettingsView, QStringLiteral("UserColors"));
+}
+
+std::optional<QColor> parse(const QString& text)
+{
+    const QColor color(text);
+    return color.isValid() ? std::optional(color) : std::nullopt;
 }
 
 bool isUserColor(int id)
@@ -26,19 +29,14 @@ bool isUserColor(int id)
 
 void UserColors::read()
 {
-    const std::unique_ptr<ICfg> kept = place();
-    const int count = Colors::Instance().GetUserColors().GetCount();
-    for (int id = ColorCatalogue::firstUserId; id < ColorCatalogue::firstUserId + count; ++id) {
-        const QString text = kept->GetString(QString::number(id));
-        if (text.isEmpty())
-            continue;
-        const QColor color(text);
-        if (color.isValid())
-            Colors::Instance().GetUserColors().Add(color, id);
-        else
-            ErrorHandler::Trace(ErrorHandler::TraceGuiBase, module, __LINE__,
-                                QStringLiteral("Stored user color %1: \"%2\" is no color")
-                                    .arg(QString::number(id), text.left(80)));
+    const RecordStore store = makeStore();
+    ColorDefinitionSet& colors = Colors::Instance().GetUserColors();
+    const int end = ColorCatalogue::firstUserId + colors.GetCount();
+    for (int id = ColorCatalogue::firstUserId; id < end; ++id) {
+        const auto color =
+            store.read(QString::number(id), QStringLiteral("this is no color"), parse);
+        if (color)
+            colors.Add(*color, id);
     }
 }
 
@@ -47,6 +45,6 @@ bool UserColors::redefine(int id, const QColor& color)
     if (!isUserColor(id) || !color.isValid())
         return false;
     Colors::Instance().GetUserColors().Add(color, id);
-    place()->SetString(QString::number(id), color.name());
+    makeStore().write(QString::number(id), color.name());
     return true;
 }

@@ -9,8 +9,8 @@
 /// configuration under "UserColors", by their ids.
 namespace UserColors {
 
-/// Takes the kept colours over into the catalogue. A text that is no colour is left where it is and
-/// counts as not there.
+/// Takes the kept colours over into the catalogue. A text that is no colour counts as not there; it
+/// is kept aside under its name followed by "_damaged".
 GUIBASE_EXPORT void read();
 /// Redefines the user colour with this id (see Colors), everywhere where it is used, and keeps it.
 /// The caller announces it by GuiBase::emit_signalColorsChanged(). False for an id of no user

@@ -3,22 +3,27 @@
 #include "support/dialogscript.h"
 #include "support/files.h"
 #include "support/guardedtest.h"
+#include "support/modaldialogcloser.h"
 #include "support/randombytes.h"
 
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
+#include <guibase/colors/colorsetcodec.h>
 #include <guibase/colors/colorslotgroups.h>
 #include <guibase/colors/editor/colorsctrl.h>
 #include <guibase/colors/editor/colorselect.h>
 #include <guibase/colors/editor/colorselectlistviewitem.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
+#include <trovappstartup/cfgcenter.h>
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDialog>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -183,6 +188,27 @@ private Q_SLOTS:
         QVERIFY(colors().GetCtrl(&plain) != nullptr);
     }
 
+    /// Another program may change the file meanwhile; when the folder is gone the user is asked.
+    void changedAndVanishedFile()
+    {
+        const QString folder = m_folder->filePath(QStringLiteral("sets"));
+        const QString file = folder + QStringLiteral("/a.cst");
+        QVERIFY(writeFile(file, QByteArray(600, '\0')));
+        colors().Load(nullptr, file);
+        QVERIFY(writeFile(file, QByteArray(5000, 'x')));
+        rowOf(AxisText)->SetColorId(1084);
+        m_page->slotAcceptChanges();
+        QCOMPARE(ColorSetCodec::decode(readFile(file))[AxisText], 1084);
+        QCOMPARE(readFile(file).size(), 600);
+        QVERIFY(QDir(folder).removeRecursively());
+        rowOf(AxisText)->SetColorId(1083);
+        DialogScript script({m_folder->filePath(QStringLiteral("elsewhere"))});
+        m_page->slotAcceptChanges();
+        QCOMPARE(script.shown(), QStringList(QStringLiteral("Save current ColorSet")));
+        QCOMPARE(idOf(AxisText), 1083);
+        QVERIFY(!colors().GetDirty());
+    }
+
     /// Any bytes in a file give rows that can be shown, changed and accepted.
     void anyFile()
     {
@@ -242,6 +268,28 @@ private Q_SLOTS:
         QCOMPARE(select.GetCurrentId(), 2010);
         QCOMPARE(select.GetCurrent(), white);
         QCOMPARE(select.currentText(), QStringLiteral("user 11"));
+
+        const ColorDefinition& color = *Colors::Instance().GetColorDefinition(2010);
+        const auto kept =
+            CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(QStringLiteral("UserColors"));
+        const ModalDialogCloser closer([](QDialog& dialog) {
+            dynamic_cast<QColorDialog&>(dialog).setCurrentColor(QColor(1, 2, 3));
+            dialog.accept();
+        });
+        const QList<QMenu*> menus = m_page->findChildren<QMenu*>();
+        for (const QMenu* menu : menus)
+            if (menu->inherits("UserColorsMenu"))
+                menu->actions().at(10)->trigger();
+        QVERIFY(closer.hasSeenDialog());
+        QCOMPARE(color.GetColor(), QColor(1, 2, 3));
+        QCOMPARE(select.GetCurrent(), QStringLiteral("#010203"));
+        QCOMPARE(kept->GetString(QStringLiteral("2010")), QStringLiteral("#010203"));
+        kept->SetString(QStringLiteral("2010"), white);
+        kept->SetString(QStringLiteral("2011"), QStringLiteral("no color"));
+        GuiBase::Instance().SetApplication(qApp);
+        GuiBase::Instance().SetApplication(nullptr);
+        QCOMPARE(color.GetColorString(), white);
+        QCOMPARE(kept->GetString(QStringLiteral("2011_damaged")), QStringLiteral("no color"));
     }
 
 private:
