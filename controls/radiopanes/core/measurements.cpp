@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <vector>
 
 namespace RadioPanes {
@@ -102,6 +103,28 @@ void forEachPeak(const Segment& hop, Direction direction, float excursion, Found
 double powerOf(float level)
 {
     return level != level ? 0 : std::pow(10, static_cast<double>(level) / 10);
+}
+
+constexpr int stepsPerDecibel = 10;
+constexpr int levelLimit = 500 * stepsPerDecibel;
+
+/// How many bins have each level from -levelLimit to levelLimit, in steps; those beyond count
+/// there.
+std::vector<std::size_t> countLevels(std::span<const Sweep> sweeps)
+{
+    constexpr float limit = levelLimit;
+    std::vector<std::size_t> counts(2 * levelLimit + 1);
+    for (const Sweep& sweep : sweeps) {
+        for (const Segment& hop : sweep.segments) {
+            for (const float level : hop.levels) {
+                if (level != level)
+                    continue;
+                const float step = std::clamp(level * stepsPerDecibel, -limit, limit);
+                ++counts[static_cast<std::size_t>(std::lround(step) + levelLimit)];
+            }
+        }
+    }
+    return counts;
 }
 
 } // namespace
@@ -213,22 +236,10 @@ std::optional<Extent> occupiedWidth(const Sweep& sweep, const Extent& range, dou
 
 LevelRange usualLevels(std::span<const Sweep> sweeps, double outside)
 {
-    constexpr int stepsPerDecibel = 10;
-    constexpr int limit = 500 * stepsPerDecibel;
     constexpr std::size_t leastIgnored = 2;
-    std::vector<std::size_t> counts(2 * limit + 1);
-    std::size_t total = 0;
-    for (const Sweep& sweep : sweeps) {
-        for (const Segment& hop : sweep.segments) {
-            for (const float level : hop.levels) {
-                if (level != level)
-                    continue;
-                const float step = std::clamp(level * stepsPerDecibel, -1.0F * limit, 1.0F * limit);
-                ++counts[static_cast<std::size_t>(std::lround(step) + limit)];
-                ++total;
-            }
-        }
-    }
+    constexpr std::ptrdiff_t widest = 100 * stepsPerDecibel;
+    const std::vector<std::size_t> counts = countLevels(sweeps);
+    const std::size_t total = std::reduce(counts.begin(), counts.end());
     if (total == 0)
         return {};
     const auto share = static_cast<std::size_t>(static_cast<double>(total) * outside);
@@ -239,10 +250,15 @@ LevelRange usualLevels(std::span<const Sweep> sweeps, double outside)
                             [&](std::size_t count) { return (sum += count) > ignored; });
     };
     const auto levelOf = [](std::ptrdiff_t index) {
-        return static_cast<float>(index - limit) / stepsPerDecibel;
+        return static_cast<float>(index - levelLimit) / stepsPerDecibel;
     };
     const auto lowest = levelBehind(counts.begin(), counts.end()) - counts.begin();
-    const auto highest = counts.rend() - levelBehind(counts.rbegin(), counts.rend()) - 1;
+    auto highest = counts.rend() - levelBehind(counts.rbegin(), counts.rend()) - 1;
+    const auto end = std::min(lowest + widest + 1, std::ssize(counts));
+    for (auto index = highest + 1; index < end; ++index) {
+        if (counts[static_cast<std::size_t>(index)] > 0)
+            highest = index;
+    }
     return {levelOf(lowest), levelOf(highest)};
 }
 

@@ -61,9 +61,11 @@ RADIOPANES_EXPORT std::optional<Extent> widthBelow(const Sweep& sweep, double he
 RADIOPANES_EXPORT std::optional<Extent> occupiedWidth(const Sweep& sweep, const Extent& range,
                                                       double share = 0.99);
 
-/// The range of the levels without the `outside` share of the bins at either end, two at least: a
-/// few bad bins count for nothing, and a carrier that lasts counts. In steps of 0.1 dB, from -500
-/// to 500 dB. Empty without levels. The time follows the bins.
+/// The range of levels that a picture of these sweeps begins with. It leaves out the `outside`
+/// share of the bins at either end, two at least. The highest bins count all the same where they
+/// are at most 100 dB above its low end: a carrier of one bin is seen, and bad bins cannot widen
+/// the range beyond that. In steps of 0.1 dB, from -500 to 500 dB. Empty without levels. The time
+/// follows the bins.
 RADIOPANES_EXPORT LevelRange usualLevels(std::span<const Sweep> sweeps, double outside = 1e-4);
 
 } // namespace RadioPanes

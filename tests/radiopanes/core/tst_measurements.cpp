@@ -110,7 +110,7 @@ private Q_SLOTS:
         QVERIFY(!occupiedWidth(Levels{{noLevel}}.sweep(), all));
     }
 
-    void badBinsAreNotUsual()
+    void usualLevelsHoldCarriersWithoutBadBins()
     {
         std::vector<float> levels(2000, -100);
         for (size_t i = 0; i < levels.size(); ++i)
@@ -121,11 +121,11 @@ private Q_SLOTS:
         const Levels noise{levels};
         const std::vector<Sweep> once{noise.sweep()};
         QCOMPARE(usualLevels(once), (LevelRange{-100, -91}));
-        // A carrier of one bin that is there in every sweep is no bad bin.
-        levels[7] = levels[9] = levels[500] = -95;
-        levels[1000] = -20;
-        const Levels carrier{levels};
-        QCOMPARE(usualLevels(std::vector<Sweep>(16, carrier.sweep())).maximum, -20.0F);
+        // One narrow carrier must not lie off the top, however many bins are in the floor.
+        std::vector<float> floor(50'000, -95);
+        floor[1000] = -50;
+        const Levels carrier{floor};
+        QCOMPARE(usualLevels(std::vector<Sweep>{carrier.sweep()}), (LevelRange{-95, -50}));
         QVERIFY(usualLevels({}).isEmpty());
         const Levels single{{-7}};
         QCOMPARE(usualLevels(std::vector<Sweep>{single.sweep()}), (LevelRange{-7, -7}));
