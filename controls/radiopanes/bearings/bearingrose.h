@@ -9,14 +9,13 @@
 
 #include <memory>
 #include <span>
-#include <vector>
 
 namespace RadioPanes {
 
 class BearingRosePrivate;
 
 /// A compass rose with a line per signal from the receiver in the centre, as wide as the spread of
-/// its bearing, in the colour of its type; signals that are not there at present are dashed.
+/// its bearing, in the colour of its type; signals that are not there at present are dotted.
 ///
 /// North up the scale counts from north; heading up it counts to starboard and to portside, in the
 /// colours that the colour set has for relative bearings.
@@ -73,25 +72,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    /// Clockwise from the top of the rose.
-    double screenAngle(double bearing) const;
-    QPointF pointAt(double angle, double radius) const;
-    double outerRadius() const;
-    double innerRadius() const;
-    double ringWidth() const;
-    /// By their angle from the top, clockwise.
-    std::vector<const Bearing*> ordered() const;
-    /// Null when the signal is not among those that are shown.
-    const Bearing* find(std::uint32_t id) const;
     void showChange();
     void selectStep(int step);
     void choose(std::uint32_t id);
-
-    void paintRing(QPainter& painter) const;
-    void paintScale(QPainter& painter) const;
-    void paintMark(QPainter& painter) const;
-    void paintBearing(QPainter& painter, const Bearing& bearing) const;
-    void paintHint(QPainter& painter) const;
 
     std::unique_ptr<BearingRosePrivate> d;
 };
