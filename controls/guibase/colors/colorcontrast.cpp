@@ -57,6 +57,8 @@ constexpr Drawn drawn[] = {
 };
 // clang-format on
 
+constexpr double highest = 21; // black on white
+
 /// WCAG 2.1, "relative luminance".
 double luminance(const QColor& color)
 {
@@ -74,6 +76,19 @@ double ColorContrast::ratio(const QColor& foreground, const QColor& background)
 {
     const auto [darker, lighter] = std::minmax({luminance(foreground), luminance(background)});
     return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor ColorContrast::blackOrWhiteOn(std::initializer_list<QColor> backgrounds)
+{
+    const auto weakest = [&](const QColor& color) {
+        double result = highest;
+        for (const QColor& background : backgrounds)
+            result = std::min(result, ratio(color, background));
+        return result;
+    };
+    const QColor black(Qt::black);
+    const QColor white(Qt::white);
+    return weakest(black) >= weakest(white) ? black : white;
 }
 
 std::optional<double> ColorContrast::ratioOf(IColorBase::ECOLOR slot,

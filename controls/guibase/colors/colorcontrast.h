@@ -8,6 +8,7 @@
 #include <QPalette>
 
 #include <functional>
+#include <initializer_list>
 #include <optional>
 
 /// How well texts and lines of the colour set stand out from what they are drawn on.
@@ -23,9 +24,13 @@ inline constexpr double lowest = 3.0;
 /// Invalid colours count as black; transparency is left out.
 GUIBASE_EXPORT double ratio(const QColor& foreground, const QColor& background);
 
+/// Black or white, whichever stands out more from these backgrounds; of several, the one that it
+/// stands out from least counts, as at the ends of a gradient.
+GUIBASE_EXPORT QColor blackOrWhiteOn(std::initializer_list<QColor> backgrounds);
+
 /// The smallest ratio of a slot and the slots that it is drawn on. Nothing for slots that are not
-/// drawn as texts or lines, and for the grid, which is faint on purpose. `color` gives the colour of
-/// a slot.
+/// drawn as texts or lines, and for the grid, which is faint on purpose. `color` gives the colour
+/// of a slot.
 GUIBASE_EXPORT std::optional<double>
 ratioOf(IColorBase::ECOLOR slot, const std::function<QColor(IColorBase::ECOLOR)>& color);
 

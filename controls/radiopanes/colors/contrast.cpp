@@ -1,19 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "contrast.h"
 
-#include <guibase/colors/colorcontrast.h>
-
 namespace RadioPanes {
 
 QColor readableOn(const QColor& background, const QColor& wanted, double ratio)
 {
-    if (ColorContrast::ratio(background, wanted) >= ratio)
-        return wanted;
-    const QColor black(Qt::black);
-    const QColor white(Qt::white);
-    return ColorContrast::ratio(background, black) > ColorContrast::ratio(background, white)
-               ? black
-               : white;
+    const bool stands = ColorContrast::ratio(background, wanted) >= ratio;
+    return stands ? wanted : ColorContrast::blackOrWhiteOn({background});
 }
 
 } // namespace RadioPanes

@@ -22,15 +22,6 @@ constexpr int maximumTextLines = 15;
 constexpr int maximumIconSize = 128;
 constexpr int lighterPercent = 150;
 
-/// Black or white, by the weaker of the contrasts with both ends of the tint.
-QColor readableOn(const QColor& first, const QColor& second)
-{
-    const auto weaker = [&](const QColor& text) {
-        return std::min(ColorContrast::ratio(text, first), ColorContrast::ratio(text, second));
-    };
-    return weaker(Qt::black) >= weaker(Qt::white) ? QColor(Qt::black) : QColor(Qt::white);
-}
-
 } // namespace
 
 class StandardNotificationPrivate
@@ -119,7 +110,7 @@ void StandardNotification::setColor(const QColor& color)
     setStyleSheet(QStringLiteral("StandardNotification { background: qlineargradient(x1: 0, y1: 0, "
                                  "x2: 1, y2: 1, stop:0 %1, stop:1 %2); border: 1px solid black; }")
                       .arg(d->color.name(), end.name()));
-    const QColor readable = readableOn(d->color, end);
+    const QColor readable = ColorContrast::blackOrWhiteOn({d->color, end});
     for (QLabel* label : {d->title, d->text}) {
         QPalette palette = label->palette();
         palette.setColor(QPalette::WindowText, readable);
