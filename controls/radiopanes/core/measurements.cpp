@@ -16,24 +16,6 @@ BinLevel binOf(const Segment& hop, std::size_t index)
             hop.levels[index]};
 }
 
-/// A bin by its hop and its number there.
-struct Place
-{
-    const Segment* hop = nullptr;
-    std::size_t index = 0;
-};
-
-/// Where hops overlap, the one with the highest start counts.
-Place placeOf(const Sweep& sweep, double hertz)
-{
-    for (auto hop = sweep.segments.rbegin(); hop != sweep.segments.rend(); ++hop) {
-        const double index = std::floor((hertz - hop->startHz) / hop->stepHz);
-        if (index >= 0 && index < static_cast<double>(hop->levels.size()))
-            return {&*hop, static_cast<std::size_t>(index)};
-    }
-    return {};
-}
-
 /// The bins of a hop whose centres lie from `lowHz` to `highHz`: first and end.
 std::pair<std::size_t, std::size_t> binsBetween(const Segment& hop, double lowHz, double highHz)
 {
@@ -131,10 +113,10 @@ std::vector<std::size_t> countLevels(std::span<const Sweep> sweeps)
 
 std::optional<BinLevel> binAt(const Sweep& sweep, double hertz)
 {
-    const Place place = placeOf(sweep, hertz);
-    if (place.hop == nullptr || std::isnan(place.hop->levels[place.index]))
+    const std::optional<BinPlace> place = sweep.placeOf(hertz);
+    if (!place || std::isnan(place->segment->levels[place->index]))
         return std::nullopt;
-    return binOf(*place.hop, place.index);
+    return binOf(*place->segment, place->index);
 }
 
 std::optional<BinLevel> highestNear(const Sweep& sweep, double hertz, double reachHz)
@@ -180,13 +162,14 @@ std::optional<BinLevel> nextPeak(const Sweep& sweep, double hertz, Direction dir
 
 std::optional<Extent> widthBelow(const Sweep& sweep, double hertz, float dropDb)
 {
-    const Place place = placeOf(sweep, hertz);
-    if (place.hop == nullptr || std::isnan(place.hop->levels[place.index]))
+    const std::optional<BinPlace> place = sweep.placeOf(hertz);
+    if (!place || std::isnan(place->segment->levels[place->index]))
         return std::nullopt;
-    const std::span<const float> levels = place.hop->levels;
-    const float edge = levels[place.index] - dropDb;
-    std::size_t first = place.index;
-    std::size_t last = place.index;
+    const Segment& hop = *place->segment;
+    const std::span<const float> levels = hop.levels;
+    const float edge = levels[place->index] - dropDb;
+    std::size_t first = place->index;
+    std::size_t last = place->index;
     while (first > 0 && levels[first - 1] >= edge)
         --first;
     while (last + 1 < levels.size() && levels[last + 1] >= edge)
@@ -194,7 +177,7 @@ std::optional<Extent> widthBelow(const Sweep& sweep, double hertz, float dropDb)
     if (first == 0 || last + 1 == levels.size())
         return std::nullopt;
     const auto edgeHz = [&](std::size_t index) {
-        return place.hop->startHz + static_cast<double>(index) * place.hop->stepHz;
+        return hop.startHz + static_cast<double>(index) * hop.stepHz;
     };
     return Extent{edgeHz(first), edgeHz(last + 1)};
 }

@@ -6,7 +6,7 @@
 
 namespace RadioPanes {
 
-std::optional<float> Sweep::levelAt(double hz) const
+std::optional<BinPlace> Sweep::placeOf(double hz) const
 {
     if (!(hz >= lowHz && hz < highHz))
         return std::nullopt;
@@ -16,12 +16,17 @@ std::optional<float> Sweep::levelAt(double hz) const
     while (segment != segments.begin()) {
         --segment;
         const double bin = std::floor((hz - segment->startHz) / segment->stepHz);
-        if (bin < static_cast<double>(segment->levels.size())) {
-            const float level = segment->levels[static_cast<std::size_t>(bin)];
-            return std::isnan(level) ? std::nullopt : std::optional(level);
-        }
+        if (bin < static_cast<double>(segment->levels.size()))
+            return BinPlace{&*segment, static_cast<std::size_t>(bin)};
     }
     return std::nullopt;
+}
+
+std::optional<float> Sweep::levelAt(double hz) const
+{
+    const std::optional<BinPlace> place = placeOf(hz);
+    const float level = place ? place->segment->levels[place->index] : noLevel;
+    return std::isnan(level) ? std::nullopt : std::optional(level);
 }
 
 Sweep makeSweep(quint64 timeUs, std::span<const Segment> segments)

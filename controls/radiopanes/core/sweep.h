@@ -28,6 +28,13 @@ struct Segment
     double endHz() const { return startHz + stepHz * static_cast<double>(levels.size()); }
 };
 
+/// A bin by its hop and its number there.
+struct BinPlace
+{
+    const Segment* segment = nullptr;
+    std::size_t index = 0;
+};
+
 /// A view of one sweep: all hops with one time stamp, in order of frequency. It owns nothing.
 /// Between hops there may be gaps of any width, and hops may overlap: never make an array with
 /// one entry per step over `lowHz` to `highHz`.
@@ -41,8 +48,10 @@ struct RADIOPANES_EXPORT Sweep
 
     /// Whether there is no segment.
     bool isEmpty() const { return segments.empty(); }
-    /// The level of the bin that covers `hz`, in dB; nothing in a gap, outside, or where the bin
-    /// has no level. Where hops overlap, the one with the highest start counts.
+    /// The bin that covers `hz`; nothing in a gap and outside. Where hops overlap, the one with the
+    /// highest start counts.
+    std::optional<BinPlace> placeOf(double hz) const;
+    /// The level of that bin, in dB; nothing without a bin, or where it has no level.
     std::optional<float> levelAt(double hz) const;
 };
 
