@@ -102,6 +102,7 @@ void BandPane::followCursor()
     updateAround(d->paintedCursor);
 }
 
+/// Repaints the columns around the frequency.
 void BandPane::updateAround(double hertz)
 {
     const double x = positionOf(hertz);

@@ -54,8 +54,6 @@ Q_SIGNALS:
 protected:
     /// Cursor, pins, zoom rectangle and focus frame; to be called at the end of paintEvent().
     void paintOverlay(QPainter& painter);
-    /// Repaints the columns around the frequency.
-    virtual void updateAround(double hertz);
 
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -68,6 +66,7 @@ protected:
 
 private:
     void followCursor();
+    void updateAround(double hertz);
     void togglePin(double x, Qt::KeyboardModifiers modifiers);
 
     std::unique_ptr<BandPanePrivate> d;

@@ -78,11 +78,10 @@ void SpectrumPanePrivate::paintPinNumbers(QPainter& painter) const
 
 QString SpectrumPanePrivate::readOutLine(const QString& title, double hertz) const
 {
-    const Sweep& live = trace(Trace::Live).sweep;
-    const std::optional<BinLevel> bin = binAt(live, hertz);
+    const std::optional<BinLevel> bin = binAt(trace(Trace::Live).sweep, hertz);
     QString line = QStringLiteral("%1  %2  %3")
                        .arg(title, text->rounded(hertz, bin ? bin->stepHz : 0),
-                            levelText(live.levelAt(hertz)));
+                            levelText(bin ? std::optional(bin->levelDb) : std::nullopt));
     const std::array held{std::pair(Trace::Maximum, SpectrumPane::tr("  (hold %1)")),
                           std::pair(Trace::Average, SpectrumPane::tr("  (average %1)")),
                           std::pair(Trace::Minimum, SpectrumPane::tr("  (minimum %1)"))};
@@ -107,19 +106,20 @@ QString SpectrumPanePrivate::difference(double hertz, double fromHertz) const
         .arg(levels, 0, 'f', 1);
 }
 
-QString SpectrumPanePrivate::widths(double hertz) const
+QString SpectrumPanePrivate::widths(double hertz)
 {
     const Sweep& live = trace(Trace::Live).sweep;
-    const VisibleBand& band = q->visibleBand();
+    const Extent view{q->visibleBand().low(), q->visibleBand().high()};
+    if (!occupied || occupied->view != view)
+        occupied = {view, occupiedWidth(live, view)};
     const auto widthText = [](const std::optional<Extent>& extent) {
         return extent ? FrequencyText::width(extent->widthHz()) : QStringLiteral("–");
     };
     return SpectrumPane::tr("-3 dB  %1,  99 % of the view  %2")
-        .arg(widthText(widthBelow(live, hertz)),
-             widthText(occupiedWidth(live, {band.low(), band.high()})));
+        .arg(widthText(widthBelow(live, hertz)), widthText(occupied->width));
 }
 
-QStringList SpectrumPanePrivate::readOut() const
+QStringList SpectrumPanePrivate::readOut()
 {
     const VisibleBand& band = q->visibleBand();
     QStringList lines;
@@ -138,11 +138,10 @@ QStringList SpectrumPanePrivate::readOut() const
     return lines;
 }
 
-QRect SpectrumPanePrivate::readOutRect() const
+QRect SpectrumPanePrivate::readOutRect(const QStringList& lines) const
 {
     const QFontMetrics metrics = q->fontMetrics();
     int textWidth = 0;
-    const QStringList lines = readOut();
     for (const QString& line : lines)
         textWidth = std::max(textWidth, metrics.horizontalAdvance(line));
     const int boxWidth = textWidth + 2 * boxMargin;
@@ -161,16 +160,19 @@ void SpectrumPanePrivate::paintBox(QPainter& painter, const QRect& place) const
     painter.setPen(paneColor(PaneSlot::ReadOut));
 }
 
-void SpectrumPanePrivate::paintReadOut(QPainter& painter) const
+void SpectrumPanePrivate::paintTexts(QPainter& painter)
 {
-    const QRect place = readOutRect();
-    paintBox(painter, place);
-    painter.drawText(place.adjusted(boxMargin, boxMargin / 2, 0, 0),
+    const QStringList lines = readOut();
+    paintedReadOut = readOutRect(lines);
+    paintBox(painter, paintedReadOut);
+    painter.drawText(paintedReadOut.adjusted(boxMargin, boxMargin / 2, 0, 0),
                      Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip,
-                     readOut().join(QLatin1Char('\n')));
+                     lines.join(QLatin1Char('\n')));
+    if (isLegendVisible)
+        paintLegend(painter, paintedReadOut);
 }
 
-void SpectrumPanePrivate::paintLegend(QPainter& painter) const
+void SpectrumPanePrivate::paintLegend(QPainter& painter, const QRect& taken) const
 {
     std::vector<Trace> shown;
     int textWidth = 0;
@@ -182,12 +184,11 @@ void SpectrumPanePrivate::paintLegend(QPainter& painter) const
         shown.push_back(kind);
         textWidth = std::max(textWidth, metrics.horizontalAdvance(SpectrumPane::traceName(kind)));
     }
-    if (!isLegendVisible || shown.size() < 2)
+    if (shown.size() < 2)
         return;
     const int lineHeight = metrics.height();
     QRect place(boxMargin, boxMargin, textWidth + swatchWidth + 3 * boxMargin,
                 static_cast<int>(shown.size()) * lineHeight + boxMargin);
-    const QRect taken = readOutRect();
     if (place.intersects(taken)) // below the read-out, where that stands at the left
         place.moveTop(taken.bottom() + boxMargin);
     paintBox(painter, place);

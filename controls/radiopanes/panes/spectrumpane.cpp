@@ -59,6 +59,7 @@ SpectrumPane::SpectrumPane(VisibleBand* view, const FrequencyText* text, GridTic
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(tr("Spectrum"));
     connect(view, &VisibleBand::rangeChanged, this, qOverload<>(&QWidget::update));
+    connect(view, &VisibleBand::cursorChanged, this, &SpectrumPane::updateReadOut);
 }
 
 SpectrumPane::~SpectrumPane() = default;
@@ -70,6 +71,8 @@ void SpectrumPane::setTrace(Trace trace, const Sweep& sweep,
     state.sweep = pyramid ? sweep : Sweep();
     state.pyramid = std::move(pyramid);
     state.columns.clear();
+    if (trace == Trace::Live)
+        d->occupied.reset();
     if (!state.isVisible)
         return;
     d->invalidate();
@@ -259,8 +262,7 @@ void SpectrumPane::paintEvent(QPaintEvent*)
     d->paintThreshold(painter);
     paintOverlay(painter);
     d->paintPinNumbers(painter);
-    d->paintReadOut(painter);
-    d->paintLegend(painter);
+    d->paintTexts(painter);
 }
 
 void SpectrumPane::keyPressEvent(QKeyEvent* event)
@@ -297,20 +299,13 @@ void SpectrumPane::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
-void SpectrumPane::updateAround(double hertz)
-{
-    BandPane::updateAround(hertz);
-    updateReadOut();
-}
-
 void SpectrumPane::updateReadOut()
 {
-    const QRect place = d->readOutRect();
+    const QRect place = d->readOutRect(d->readOut());
     // The legend gives way to the read-out.
     const bool hasMoved =
         place.left() != d->paintedReadOut.left() || place.bottom() != d->paintedReadOut.bottom();
     update(hasMoved && d->isLegendVisible ? rect() : place.united(d->paintedReadOut));
-    d->paintedReadOut = place;
 }
 
 } // namespace RadioPanes

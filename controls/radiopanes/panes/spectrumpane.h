@@ -118,7 +118,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void updateAround(double hertz) override;
 
 private:
     void updateReadOut();

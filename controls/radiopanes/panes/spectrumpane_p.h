@@ -41,12 +41,12 @@ public:
     void paintReferenceLevels(QPainter& painter) const;
     void paintThreshold(QPainter& painter) const;
     void paintPinNumbers(QPainter& painter) const;
-    void paintReadOut(QPainter& painter) const;
-    void paintLegend(QPainter& painter) const;
+    /// The read-out and the legend, which gives way to it.
+    void paintTexts(QPainter& painter);
 
     double yOf(double level) const;
-    QStringList readOut() const;
-    QRect readOutRect() const;
+    QStringList readOut();
+    QRect readOutRect(const QStringList& lines) const;
 
     SpectrumPane* q;
     const FrequencyText* text;
@@ -60,6 +60,13 @@ public:
     double lowLevel = -120;
     double highLevel = 0;
     QRect paintedReadOut;
+    /// The bandwidth in the view, while neither the view nor the sweep changes.
+    struct OccupiedWidth
+    {
+        Extent view;
+        std::optional<Extent> width;
+    };
+    std::optional<OccupiedWidth> occupied;
 
 private:
     /// All that the picture depends on, but the traces.
@@ -93,7 +100,8 @@ private:
     int rowOf(float level) const;
     QString readOutLine(const QString& title, double hertz) const;
     QString difference(double hertz, double fromHertz) const;
-    QString widths(double hertz) const;
+    QString widths(double hertz);
+    void paintLegend(QPainter& painter, const QRect& taken) const;
     void paintBox(QPainter& painter, const QRect& place) const;
 
     PictureKey key;
