@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace RadioPanes {
@@ -34,6 +36,7 @@ public:
     qsizetype lineCount() const { return image.height(); }
     bool isShown(qsizetype sweep) const;
     int imageRow(qsizetype sweep) const;
+    std::span<QRgb> line(qsizetype sweep);
     std::shared_ptr<const LevelPyramid>& pyramidOf(qsizetype sweep);
     void forgetOld();
     void drawLine(qsizetype sweep);
@@ -135,6 +138,12 @@ std::shared_ptr<const LevelPyramid>& WaterfallPanePrivate::pyramidOf(qsizetype s
     return pyramids[static_cast<size_t>(imageRow(sweep))];
 }
 
+std::span<QRgb> WaterfallPanePrivate::line(qsizetype sweep)
+{
+    return {reinterpret_cast<QRgb*>(image.scanLine(imageRow(sweep))),
+            static_cast<size_t>(image.width())};
+}
+
 /// The levels that pyramids refer to go with their sweeps.
 void WaterfallPanePrivate::forgetOld()
 {
@@ -156,32 +165,26 @@ void WaterfallPane::setPosition(qsizetype position, std::shared_ptr<const LevelP
         return;
     }
     d->forgetOld();
-    const qsizetype before = d->position;
+    const qsizetype before = std::exchange(d->position, position);
     const qsizetype oldest = position - d->lineCount() + 1;
-    d->position = position;
-    if (before < 0 || std::abs(position - before) >= d->lineCount()) {
-        d->pyramids.assign(d->pyramids.size(), nullptr);
-        d->pyramidOf(position) = std::move(pyramid);
-        d->drawLines(oldest, position);
-    } else if (position > before) {
-        for (qsizetype sweep = before + 1; sweep <= position; ++sweep)
-            d->pyramidOf(sweep) = nullptr;
-        d->pyramidOf(position) = std::move(pyramid);
-        d->drawLines(before + 1, position);
-    } else {
-        for (qsizetype sweep = oldest; sweep < oldest + before - position; ++sweep) {
-            if (sweep >= 0)
-                d->pyramidOf(sweep) = nullptr;
-        }
-        d->drawLines(oldest, oldest + before - position - 1);
-    }
+    const bool isFar = before < 0 || std::abs(position - before) >= d->lineCount();
+    // The lines that were not there before.
+    const qsizetype first = isFar || position < before ? oldest : before + 1;
+    const qsizetype last = isFar || position > before ? position : oldest + before - position - 1;
+    for (qsizetype sweep = std::max<qsizetype>(first, 0); sweep <= last; ++sweep)
+        d->pyramidOf(sweep) = sweep == position ? std::move(pyramid) : nullptr;
+    d->drawLines(first, last);
     update();
 }
 
 void WaterfallPanePrivate::drawLines(qsizetype first, qsizetype last)
 {
-    for (qsizetype sweep = std::max(first, history->first()); sweep <= last; ++sweep)
-        drawLine(sweep);
+    for (qsizetype sweep = std::max<qsizetype>(first, 0); sweep <= last; ++sweep) {
+        if (sweep >= history->first())
+            drawLine(sweep);
+        else // it is gone: it cannot be drawn anew
+            std::ranges::fill(line(sweep), ramp.front());
+    }
 }
 
 void WaterfallPanePrivate::drawLine(qsizetype sweep)
@@ -195,9 +198,8 @@ void WaterfallPanePrivate::drawLine(qsizetype sweep)
         pyramid->reduceMaxima(view, columns);
     else
         reduceToMaxima(history->sweep(sweep), view, columns);
-    auto* pixel = reinterpret_cast<QRgb*>(image.scanLine(imageRow(sweep)));
-    for (const float maximum : columns)
-        *pixel++ = q->colorOf(maximum);
+    std::ranges::transform(columns, line(sweep).begin(),
+                           [this](float level) { return q->colorOf(level); });
 }
 
 QRgb WaterfallPane::colorOf(float level) const
@@ -209,12 +211,10 @@ QRgb WaterfallPane::colorOf(float level) const
 
 void WaterfallPanePrivate::redrawAll()
 {
-    if (history)
+    if (history && position >= 0 && lineCount() > 0) {
         forgetOld();
-    if (history && history->first() > position - lineCount())
-        image.fill(QColor(ramp.front())); // sweeps that are gone cannot be drawn anew
-    if (history && position >= 0 && lineCount() > 0)
         drawLines(position - lineCount() + 1, position);
+    }
     q->update();
 }
 

@@ -102,9 +102,10 @@ private Q_SLOTS:
     void oldSweepsGoAndThePicturesStay()
     {
         m_panes->clear(10 * bins * sizeof(float));
-        for (int i = 0; i < 60; ++i)
+        constexpr int count = 300; // more than the pane has lines
+        for (int i = 0; i < count; ++i)
             QVERIFY(add(levels()));
-        QVERIFY(m_panes->history().first() > 40);
+        QVERIFY(m_panes->history().first() > count - 20);
         const auto picture = [this] { return m_panes->waterfall().grab().toImage(); };
         const int x = placeOf(centreOf(300)).x();
         const QRgb loud = m_panes->waterfall().colorOf(-40);
@@ -113,6 +114,10 @@ private Q_SLOTS:
         const int zoomed = placeOf(centreOf(300)).x();
         QCOMPARE(picture().pixel(zoomed, 2), loud);
         QVERIFY(picture().pixel(zoomed, 100) != loud);
+        m_panes->waterfall().setPosition(count - 4); // the lines below are those of no newer sweep
+        const QImage back = picture();
+        QCOMPARE(back.pixel(zoomed, 2), loud);
+        QVERIFY(back.pixel(zoomed, back.height() - 2) != loud);
         m_panes->resize(700, 500);
         QVERIFY(add(levels()));
         m_panes->clear();
