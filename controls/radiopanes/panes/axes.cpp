@@ -3,12 +3,12 @@
 
 #include "frequencytext.h"
 #include "visibleband.h"
+#include "wheelnotches_p.h"
 
 #include <radiopanes/colors/panecolors.h>
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <cstdlib>
@@ -48,6 +48,7 @@ public:
     QString caption;
     SideAxis::Ticks ticks;
     int draggedTo = 0;
+    WheelNotches wheel;
 };
 
 FrequencyAxis::FrequencyAxis(const VisibleBand* view, const FrequencyText* text, int indent,
@@ -164,10 +165,9 @@ void SideAxis::mouseMoveEvent(QMouseEvent* event)
 
 void SideAxis::wheelEvent(QWheelEvent* event)
 {
-    constexpr double wheelStep = 120; // eighths of a degree that one notch turns
     const int angle = event->angleDelta().y();
-    if (angle != 0)
-        Q_EMIT wheelTurned(angle / wheelStep);
+    if (const int notches = d->wheel.add(angle); notches != 0)
+        Q_EMIT wheelTurned(notches);
     event->setAccepted(angle != 0);
 }
 

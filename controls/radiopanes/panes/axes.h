@@ -60,7 +60,7 @@ Q_SIGNALS:
     /// The mouse has dragged the scale by so many pixels upwards.
     void dragged(int pixels);
     /// The wheel has turned by so many notches, away from the user above 0.
-    void wheelTurned(double steps);
+    void wheelTurned(int notches);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -9,6 +9,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include <cmath>
 #include <optional>
@@ -17,7 +18,6 @@ namespace RadioPanes {
 
 namespace {
 constexpr double zoomPerWheelStep = 1.25;
-constexpr double wheelStep = 120; // eighths of a degree that one notch turns
 constexpr int fastCursorPixels = 10;
 constexpr double panShare = 0.1; // of the visible range, per key press
 } // namespace
@@ -224,7 +224,7 @@ void BandPane::togglePin(double x, Qt::KeyboardModifiers modifiers)
 
 void BandPane::wheelEvent(QWheelEvent* event)
 {
-    const QPointF steps = QPointF(event->angleDelta()) / wheelStep;
+    const QPointF steps = QPointF(event->angleDelta()) / QWheelEvent::DefaultDeltasPerStep;
     if (steps.y() != 0)
         d->visibleBand->zoom(std::pow(zoomPerWheelStep, steps.y()),
                              frequencyAt(event->position().x()));

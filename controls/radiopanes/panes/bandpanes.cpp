@@ -78,7 +78,7 @@ BandPanes::BandPanes(const QString& splitterName, const QString& splitterGroup, 
                                         pixels / std::max(d->levelAxis->height(), 1));
     });
     connect(d->levelAxis, &SideAxis::wheelTurned, d->spectrum,
-            [this](double steps) { d->spectrum->stepDecibelsPerDivision(steps > 0 ? -1 : 1); });
+            [this](int notches) { d->spectrum->stepDecibelsPerDivision(-notches); });
 }
 
 BandPanes::~BandPanes() = default;

@@ -12,4 +12,5 @@ guibase_room(panes
         waterfallpane.cpp waterfallpane.h
     INTERNAL
         spectrumoverlay.cpp spectrumpane_p.h spectrumpicture.cpp
-        spectrumraster.cpp spectrumraster_p.h)
+        spectrumraster.cpp spectrumraster_p.h
+        wheelnotches_p.h)

@@ -8,7 +8,6 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <array>
@@ -19,7 +18,6 @@ namespace RadioPanes {
 namespace {
 constexpr double smallestLevelRange = 10;
 constexpr int gapBetweenLevels = 10;
-constexpr double wheelStep = 120;         // eighths of a degree that one notch turns
 constexpr double highestReference = 1000; // in dB; beyond it no level is meant
 constexpr std::array divisions{1.0, 2.0, 5.0, 10.0, 20.0, 50.0};
 } // namespace
@@ -288,12 +286,12 @@ void SpectrumPane::keyPressEvent(QKeyEvent* event)
 void SpectrumPane::wheelEvent(QWheelEvent* event)
 {
     // Some systems turn the wheel sideways while a key is held.
-    const QPoint angle = event->angleDelta();
-    const double steps = (angle.y() != 0 ? angle.y() : angle.x()) / wheelStep;
+    const QPoint delta = event->angleDelta();
+    const int angle = delta.y() != 0 ? delta.y() : delta.x();
     if (event->modifiers().testFlag(Qt::ControlModifier))
-        stepDecibelsPerDivision(steps > 0 ? -1 : 1);
+        stepDecibelsPerDivision(-d->wheel.add(angle));
     else if (event->modifiers().testFlag(Qt::ShiftModifier))
-        stepReferenceLevel(steps);
+        stepReferenceLevel(static_cast<double>(angle) / QWheelEvent::DefaultDeltasPerStep);
     else
         return BandPane::wheelEvent(event);
     event->accept();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "spectrumpane.h"
+#include "wheelnotches_p.h"
 
 #include <QImage>
 
@@ -59,6 +60,7 @@ public:
     bool areWidthsVisible = false;
     double lowLevel = -120;
     double highLevel = 0;
+    WheelNotches wheel;
     QRect paintedReadOut;
     /// The bandwidth in the view, while neither the view nor the sweep changes.
     struct OccupiedWidth
