@@ -30,6 +30,7 @@ public:
     VisibleBand* visibleBand = nullptr;
     double paintedCursor = 0;
     bool isSnapping = false;
+    bool isLegendVisible = true;
     Drag drag = Drag::None;
     std::optional<std::size_t> pressedPin;
     QPoint pressedAt;
@@ -78,6 +79,17 @@ void BandPane::setSnapping(bool on)
 bool BandPane::isSnapping() const
 {
     return d->isSnapping;
+}
+
+void BandPane::setLegendVisible(bool visible)
+{
+    d->isLegendVisible = visible;
+    update();
+}
+
+bool BandPane::isLegendVisible() const
+{
+    return d->isLegendVisible;
 }
 
 double BandPane::snapped(double hertz) const

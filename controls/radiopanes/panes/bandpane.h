@@ -47,6 +47,12 @@ public:
     /// Where a pin at the frequency snaps to; the frequency itself where there is nothing.
     virtual double snapped(double hertz) const;
 
+    /// Whether the pane explains its colours in a corner. At first a spectrum does, where more than
+    /// one trace is visible; a waterfall does not, whose legend is a bar from its lowest to its
+    /// highest level.
+    void setLegendVisible(bool visible);
+    bool isLegendVisible() const;
+
 Q_SIGNALS:
     /// The right button was clicked, or the menu key pressed, at this place of the screen.
     void menuRequested(QPoint globalPosition);

@@ -181,9 +181,7 @@ QWidget* BandPanes::waterfallRow() const
 void BandPanes::refreshTexts()
 {
     d->text.refresh();
-    d->spectrum->refreshTexts();
-    d->frequencyAxis->update();
-    d->timeAxis->update();
+    update(); // with everything in it
 }
 
 void BandPanes::refreshTimes()
@@ -194,9 +192,7 @@ void BandPanes::refreshTimes()
 void BandPanes::refreshColors()
 {
     d->waterfall->refreshColors();
-    const QList<QWidget*> children = findChildren<QWidget*>();
-    for (QWidget* child : children)
-        child->update();
+    update(); // with everything in it
 }
 
 } // namespace RadioPanes

@@ -168,7 +168,7 @@ void SpectrumPanePrivate::paintTexts(QPainter& painter)
     painter.drawText(paintedReadOut.adjusted(boxMargin, boxMargin / 2, 0, 0),
                      Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip,
                      lines.join(QLatin1Char('\n')));
-    if (isLegendVisible)
+    if (q->isLegendVisible())
         paintLegend(painter, paintedReadOut);
 }
 

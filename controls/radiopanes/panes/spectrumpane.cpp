@@ -106,17 +106,6 @@ QString SpectrumPane::traceName(Trace trace)
     return tr("Live");
 }
 
-void SpectrumPane::setLegendVisible(bool visible)
-{
-    d->isLegendVisible = visible;
-    update();
-}
-
-bool SpectrumPane::isLegendVisible() const
-{
-    return d->isLegendVisible;
-}
-
 void SpectrumPane::setReferenceLevels(std::vector<LevelPoint> points)
 {
     d->referenceLevels = std::move(points);
@@ -247,11 +236,6 @@ double SpectrumPane::snapped(double hertz) const
     return bin ? bin->hertz : hertz;
 }
 
-void SpectrumPane::refreshTexts()
-{
-    update();
-}
-
 void SpectrumPane::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
@@ -303,7 +287,7 @@ void SpectrumPane::updateReadOut()
     // The legend gives way to the read-out.
     const bool hasMoved =
         place.left() != d->paintedReadOut.left() || place.bottom() != d->paintedReadOut.bottom();
-    update(hasMoved && d->isLegendVisible ? rect() : place.united(d->paintedReadOut));
+    update(hasMoved && isLegendVisible() ? rect() : place.united(d->paintedReadOut));
 }
 
 } // namespace RadioPanes

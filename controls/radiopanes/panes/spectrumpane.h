@@ -56,9 +56,6 @@ public:
     bool isTraceVisible(Trace trace) const;
     /// The trace as the legend names it.
     static QString traceName(Trace trace);
-    /// The legend stands where more than one trace is visible. Shown at first.
-    void setLegendVisible(bool visible);
-    bool isLegendVisible() const;
 
     /// The line of reference levels, in order of frequency; empty for none.
     void setReferenceLevels(std::vector<LevelPoint> points);
@@ -103,10 +100,6 @@ public:
 
     QSize sizeHint() const override { return {960, 320}; }
     QSize minimumSizeHint() const override { return {240, 100}; }
-
-public Q_SLOTS:
-    /// Texts have changed: unit, resolution or zone.
-    void refreshTexts();
 
 Q_SIGNALS:
     /// lowLevel() or highLevel() is another one: axes and other panes follow.

@@ -56,7 +56,6 @@ public:
     std::vector<LevelPoint> referenceLevels;
     std::optional<double> thresholdDb;
     QString caption;
-    bool isLegendVisible = true;
     bool areWidthsVisible = false;
     double lowLevel = -120;
     double highLevel = 0;
@@ -89,11 +88,16 @@ private:
     {
         std::vector<int> top;
         std::vector<int> bottom;
+
+        /// No pixel in any of so many columns.
+        void clear(std::size_t width);
     };
 
     PictureKey makeKey() const;
     void draw();
     void reduce(TraceState& state) const;
+    /// By how many rows a line is thicker than one.
+    int addedRows() const;
     void makeCurve(const TraceState& state, Pixels& place) const;
     /// A line along the highest or lowest levels; returns the row of each column's level.
     std::vector<int> makeOutline(const TraceState& state, float LevelRange::*level,

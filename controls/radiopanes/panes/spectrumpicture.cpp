@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace RadioPanes {
 
@@ -117,12 +118,22 @@ int SpectrumPanePrivate::rowOf(float level) const
     return height - 1 - static_cast<int>(std::clamp(position, -1.0, height + 1.0));
 }
 
+int SpectrumPanePrivate::addedRows() const
+{
+    return std::max(qRound(q->devicePixelRatioF()), 1) - 1;
+}
+
+void SpectrumPanePrivate::Pixels::clear(std::size_t width)
+{
+    top.assign(width, std::numeric_limits<int>::max());
+    bottom.assign(width, -1);
+}
+
 void SpectrumPanePrivate::makeCurve(const TraceState& state, Pixels& place) const
 {
     const std::size_t width = state.columns.size();
-    const int thickness = std::max(qRound(q->devicePixelRatioF()), 1) - 1;
-    place.top.assign(width, key.pixels.height() + 1);
-    place.bottom.assign(width, -1);
+    const int added = addedRows();
+    place.clear(width);
     const LevelRange* before = nullptr;
     for (std::size_t x = 0; x < width; ++x) {
         const LevelRange& column = state.columns[x];
@@ -137,7 +148,7 @@ void SpectrumPanePrivate::makeCurve(const TraceState& state, Pixels& place) cons
             bottom = std::min(bottom, before->maximum);
         }
         place.top[x] = rowOf(top);
-        place.bottom[x] = rowOf(bottom) + thickness;
+        place.bottom[x] = rowOf(bottom) + added;
         before = &column;
     }
 }
@@ -146,9 +157,8 @@ std::vector<int> SpectrumPanePrivate::makeOutline(const TraceState& state, float
                                                   Pixels& place) const
 {
     const std::size_t width = state.columns.size();
-    const int thickness = std::max(qRound(q->devicePixelRatioF()), 1) - 1;
-    place.top.assign(width, key.pixels.height() + 1);
-    place.bottom.assign(width, -1);
+    const int added = addedRows();
+    place.clear(width);
     std::vector<int> rows(width, key.pixels.height());
     for (std::size_t x = 0; x < width; ++x) {
         if (state.columns[x].isEmpty())
@@ -157,7 +167,7 @@ std::vector<int> SpectrumPanePrivate::makeOutline(const TraceState& state, float
         const bool isJoined = x > 0 && !state.columns[x - 1].isEmpty();
         const int neighbour = isJoined ? rows[x - 1] : rows[x];
         place.top[x] = std::min(rows[x], neighbour);
-        place.bottom[x] = std::max(rows[x], neighbour) + thickness;
+        place.bottom[x] = std::max(rows[x], neighbour) + added;
     }
     return rows;
 }

@@ -34,7 +34,7 @@ public:
         std::span<const Line> lines; ///< Later ones cover earlier ones.
     };
 
-    /// All spans have the width of the image, whose format must be RGB32.
+    /// The image is of the format RGB32. The spans of the lines and the shadow have its width.
     static void draw(QImage& image, const Content& content);
 };
 

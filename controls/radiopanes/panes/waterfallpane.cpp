@@ -53,7 +53,6 @@ public:
     double highLevel = 0;
     ColorMap map = ColorMap::ColorSet;
     ColorRamp ramp = colorRamp(ColorMap::ColorSet);
-    bool isLegendVisible = false;
     QImage image; ///< One row per line; sweep i in row lineCount() - 1 - i % lineCount().
     std::vector<std::shared_ptr<const LevelPyramid>> pyramids; ///< Beside the rows of the image.
     qsizetype oldest = 0;       ///< Sweeps before it have no pyramid.
@@ -66,6 +65,7 @@ WaterfallPane::WaterfallPane(VisibleBand* view, QWidget* parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(tr("Waterfall"));
+    setLegendVisible(false);
     connect(view, &VisibleBand::rangeChanged, this, [this] { d->redrawAll(); });
 }
 
@@ -110,17 +110,6 @@ void WaterfallPane::setColorMap(ColorMap map)
 ColorMap WaterfallPane::colorMap() const
 {
     return d->map;
-}
-
-bool WaterfallPane::isLegendVisible() const
-{
-    return d->isLegendVisible;
-}
-
-void WaterfallPane::setLegendVisible(bool visible)
-{
-    d->isLegendVisible = visible;
-    update();
 }
 
 bool WaterfallPanePrivate::isShown(qsizetype sweep) const
@@ -261,7 +250,7 @@ void WaterfallPane::paintEvent(QPaintEvent*)
         painter.drawText(rect(), Qt::AlignCenter, d->hint);
     }
     paintOverlay(painter);
-    if (d->isLegendVisible)
+    if (isLegendVisible())
         d->paintLegend(painter);
 }
 

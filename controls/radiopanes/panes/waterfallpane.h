@@ -47,9 +47,6 @@ public:
     /// ColorMap::ColorSet at first.
     void setColorMap(ColorMap map);
     ColorMap colorMap() const;
-    /// A bar of the colours with the levels at its ends, in the upper right corner; not at first.
-    void setLegendVisible(bool visible);
-    bool isLegendVisible() const;
 
     /// Times for a scale of `pixels` pixels beside the pane, counted from its bottom.
     std::vector<AxisTick> timeTicks(int pixels, const TimeText& text) const;
