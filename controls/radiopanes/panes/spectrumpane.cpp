@@ -275,7 +275,7 @@ void SpectrumPane::wheelEvent(QWheelEvent* event)
     if (event->modifiers().testFlag(Qt::ControlModifier))
         stepDecibelsPerDivision(-d->wheel.add(angle));
     else if (event->modifiers().testFlag(Qt::ShiftModifier))
-        stepReferenceLevel(static_cast<double>(angle) / QWheelEvent::DefaultDeltasPerStep);
+        stepReferenceLevel(angle / static_cast<double>(QWheelEvent::DefaultDeltasPerStep));
     else
         return BandPane::wheelEvent(event);
     event->accept();
