@@ -140,9 +140,9 @@ void BearingRosePrivate::paintScale(QPainter& painter) const
     for (int angle = 0; angle < 360; angle += tickStep) {
         const QColor background =
             headingUp ? ringColor(angle) : axisColor(PaneSlot::LevelAxisBackground, q->palette());
-        const QColor text = headingUp ? paneColor(IColorBase::RelativeBearingText)
+        const QColor ink = headingUp ? paneColor(IColorBase::RelativeBearingText)
                                       : axisColor(PaneSlot::LevelAxisText, q->palette());
-        painter.setPen(readableOn(background, text));
+        painter.setPen(readableOn(background, ink));
         painter.drawLine(pointAt(angle, innerRadius()), pointAt(angle, innerRadius() + tickLength));
         if (angle % labelStep != 0)
             continue;
