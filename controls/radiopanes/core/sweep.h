@@ -31,8 +31,8 @@ struct Segment
 /// A bin by its hop and its number there.
 struct BinPlace
 {
-    const Segment* segment = nullptr;
-    std::size_t index = 0;
+    const Segment* segment = nullptr; ///< null: none
+    std::size_t index = 0;            ///< of the bin in the segment
 };
 
 /// A view of one sweep: all hops with one time stamp, in order of frequency. It owns nothing.

@@ -181,7 +181,7 @@ QWidget* BandPanes::waterfallRow() const
 void BandPanes::refreshTexts()
 {
     d->text.refresh();
-    update(); // with everything in it
+    updateAll();
 }
 
 void BandPanes::refreshTimes()
@@ -192,7 +192,15 @@ void BandPanes::refreshTimes()
 void BandPanes::refreshColors()
 {
     d->waterfall->refreshColors();
-    update(); // with everything in it
+    updateAll();
+}
+
+/// The panes are opaque: an update of what lies behind them does not reach them.
+void BandPanes::updateAll()
+{
+    const QList<QWidget*> children = findChildren<QWidget*>();
+    for (QWidget* child : children)
+        child->update();
 }
 
 } // namespace RadioPanes

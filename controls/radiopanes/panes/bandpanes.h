@@ -58,6 +58,7 @@ private:
     void buildLayout();
     void showMenu(QPoint globalPosition);
     void refreshColors();
+    void updateAll();
 
     std::unique_ptr<BandPanesPrivate> d;
 };
