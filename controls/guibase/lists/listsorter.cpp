@@ -90,10 +90,11 @@ struct ListSorter::Run
     /// Reads the keys of all items below the root. Items of the earlier run keep what they had.
     void readKeys(QTreeWidgetItem& root, int column, const Run* earlier);
     void addItem(SortListViewItem& item, int column, const Run* earlier);
-    /// Reads and ranks items that came behind the first `sorted` rows below the root, which have
-    /// ranks. False when that cannot be told without ranking all items anew.
-    bool addArrivals(const QTreeWidgetItem& root, int sorted, Qt::SortOrder order, int column,
-                     Items arrivals);
+    /// Reads and ranks the items that came behind the rows of this run. False when that cannot be
+    /// told without ranking all items anew.
+    bool addArrivals(const QTreeWidgetItem& root, Qt::SortOrder order, int column);
+    /// The same for items that are compared as texts, behind the first `sorted` rows.
+    void rankArrivals(const QTreeWidgetItem& root, int sorted, Qt::SortOrder order, Items arrivals);
 
     quint32 number = nextRunNumber();
     SortKeys keys;
@@ -177,15 +178,33 @@ void ListSorter::Run::readKeys(QTreeWidgetItem& root, int column, const Run* ear
         items[i]->m_sortRank = ranks[i];
 }
 
-bool ListSorter::Run::addArrivals(const QTreeWidgetItem& root, int sorted, Qt::SortOrder order,
-                                  int column, Items arrivals)
+bool ListSorter::Run::addArrivals(const QTreeWidgetItem& root, Qt::SortOrder order, int column)
 {
-    for (SortListViewItem* const item : arrivals) {
+    Items arrivals;
+    int sorted = root.childCount();
+    for (; sorted > 0; --sorted) {
+        SortListViewItem* const item = castItem(root.child(sorted - 1));
+        if (item == nullptr)
+            return false;
+        if (item->m_sortRun == number)
+            break;
+        if (item->childCount() > 0)
+            return false;
         addItem(*item, column, nullptr);
         hasOnlyPlainItems = hasOnlyPlainItems && isPlainItem(*item);
+        if (!keys.isNumeric())
+            arrivals.push_back(item);
     }
-    if (!keys.canRank() || keys.isNumeric())
-        return keys.canRank();
+    if (!keys.canRank())
+        return false;
+    if (!keys.isNumeric())
+        rankArrivals(root, sorted, order, std::move(arrivals));
+    return true;
+}
+
+void ListSorter::Run::rankArrivals(const QTreeWidgetItem& root, int sorted, Qt::SortOrder order,
+                                   Items arrivals)
+{
     const auto isLess = [this](const SortListViewItem* a, const SortListViewItem* b) {
         return keys.isLess(a->m_sortRow, b->m_sortRow);
     };
@@ -226,7 +245,6 @@ bool ListSorter::Run::addArrivals(const QTreeWidgetItem& root, int sorted, Qt::S
         former = item;
     }
     rankRowsUpTo(sorted, former);
-    return true;
 }
 
 // --- What is sorted by --------------------------------------------------------------------------
@@ -429,20 +447,7 @@ bool ListSorter::rankArrivals()
     if (!m_run || !m_run->isRanked || m_run->hasOtherItems || m_hasArrivalsBelow ||
         m_run->keys.count() / 2 > static_cast<quint32>(root.childCount()))
         return false;
-    Run::Items arrivals;
-    int sorted = root.childCount();
-    for (; sorted > 0; --sorted) {
-        SortListViewItem* const item = castItem(root.child(sorted - 1));
-        if (item == nullptr)
-            return false;
-        if (item->m_sortRun == m_run->number)
-            break;
-        if (item->childCount() > 0)
-            return false;
-        arrivals.push_back(item);
-    }
-    std::reverse(arrivals.begin(), arrivals.end());
-    return m_run->addArrivals(root, sorted, m_order, m_column, std::move(arrivals));
+    return m_run->addArrivals(root, m_order, m_column);
 }
 
 void ListSorter::placeArrivals()

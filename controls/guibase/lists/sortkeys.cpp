@@ -59,39 +59,32 @@ std::vector<TextAt> withPrefixes(const std::vector<QString>& texts, bool ignoreC
     return rows;
 }
 
-/// Reads what nearly all numbers are: some digits, with a point between them. Whole numbers and
-/// powers of ten of this size are exact as double, so that the quotient is the nearest double, as
-/// toDouble() finds it at greater length.
-std::optional<double> simpleDecimal(QStringView text)
+/// Reads what nearly all numbers are: some digits, with a point between them; with `endsAtBlank`
+/// what stands in front of the first blank. Whole numbers and powers of ten of this size are exact
+/// as double, so that the quotient is the nearest double, as toDouble() finds it at greater length.
+std::optional<double> simpleDecimal(QStringView text, bool endsAtBlank)
 {
     constexpr qsizetype longest = 16;
     constexpr std::array<double, longest> powers{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                                  1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    const qsizetype point = text.indexOf(u'.');
-    if (text.isEmpty() || text.size() > longest || point == 0 || point == text.size() - 1)
-        return std::nullopt;
     qint64 digits = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const int digit = text.at(i).unicode() - u'0';
-        if (i == point)
-            continue;
-        if (digit < 0 || digit > 9)
+    qsizetype point = -1;
+    qsizetype end = 0;
+    for (; end < text.size(); ++end) {
+        const char16_t unit = text.at(end).unicode();
+        if (unit == u' ' && endsAtBlank)
+            break;
+        const bool isPoint = unit == u'.' && point < 0;
+        if (end == longest || (!isPoint && (unit < u'0' || unit > u'9')))
             return std::nullopt;
-        digits = digits * 10 + digit;
+        if (isPoint)
+            point = end;
+        else
+            digits = digits * 10 + (unit - u'0');
     }
-    const qsizetype decimals = point < 0 ? 0 : text.size() - 1 - point;
-    if (digits >= qint64(1) << 53)
+    if (end == 0 || point == 0 || point == end - 1 || digits >= qint64(1) << 53)
         return std::nullopt;
-    return double(digits) / powers[std::size_t(decimals)];
-}
-
-double numberOf(QStringView text)
-{
-    if (const std::optional<double> number = simpleDecimal(text))
-        return *number;
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    return isNumber ? number : std::numeric_limits<double>::quiet_NaN();
+    return double(digits) / powers[std::size_t(point < 0 ? 0 : end - 1 - point)];
 }
 
 /// What stands in front of the first blank.
@@ -99,6 +92,16 @@ QStringView numberPart(const QString& text)
 {
     const qsizetype blank = text.indexOf(u' ');
     return QStringView(text).first(blank < 0 ? text.size() : blank);
+}
+
+/// NaN for a text that is no number.
+double numberOf(const QString& text, bool endsAtBlank)
+{
+    if (const std::optional<double> number = simpleDecimal(text, endsAtBlank))
+        return *number;
+    bool isNumber = false;
+    const double number = (endsAtBlank ? numberPart(text) : QStringView(text)).toDouble(&isNumber);
+    return isNumber ? number : std::numeric_limits<double>::quiet_NaN();
 }
 
 /// f(x, y) of the numeric compare functions, on what `part` cuts from the texts.
@@ -165,8 +168,7 @@ void SortKeys::append(Values& values, const QString& text) const
         values.texts.push_back(text);
         return;
     }
-    values.numbers.push_back(
-        numberOf(m_rule == Rule::NumberWithSuffix ? numberPart(text) : QStringView(text)));
+    values.numbers.push_back(numberOf(text, m_rule == Rule::NumberWithSuffix));
 }
 
 void SortKeys::append(Values& values, const Values& from, quint32 row) const
