@@ -207,12 +207,24 @@ private Q_SLOTS:
         QVERIFY(watch.tracks().size() <= 24);
         const std::uint32_t before = watch.tracks().back().id;
 
-        watch.showSweep(10, -1); // back: all begins anew
-        QCOMPARE(watch.newcomer(), nullptr);
-        QCOMPARE(watch.track(before), nullptr);
-        QCOMPARE(std::ranges::count(watch.tracks(), 'a', &SignalTrack::type),
-                 std::ssize(watch.tracks()));
-        for (qsizetype sweep = 11; sweep < 30 && watch.newcomer() == nullptr; ++sweep)
+        const auto textOf = [](const SignalWatch& shown) {
+            QString text;
+            for (const SignalTrack& track : shown.tracks())
+                QDebug(&text) << track.signal.centreHz << track.type << track.age
+                              << track.firstSeenUs;
+            return text;
+        };
+        for (const qsizetype target : {40, 50, 10}) { // back and on: the signals of that time
+            watch.showSweep(target, -1);
+            QCOMPARE(watch.newcomer(), nullptr);
+            QCOMPARE(watch.track(before), nullptr);
+            SignalWatch played;
+            played.setRecording(sample.recording);
+            for (qsizetype sweep = 0; sweep <= target; ++sweep)
+                played.showSweep(sweep, sweep - 1);
+            QCOMPARE(textOf(watch), textOf(played));
+        }
+        for (qsizetype sweep = 11; sweep < 80 && watch.newcomer() == nullptr; ++sweep)
             watch.showSweep(sweep, sweep - 1);
         QVERIFY(watch.newcomer() != nullptr); // the hopper does not stand still
         QVERIFY(watch.track(watch.newcomer()->id) == watch.newcomer());

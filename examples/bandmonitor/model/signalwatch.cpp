@@ -5,6 +5,16 @@
 
 namespace bandmonitor {
 
+namespace {
+
+/// After a jump, signals are looked for in so many sweeps before: as many as the tracker knows
+/// of, or fewer of wide sweeps, so that a jump is felt at once.
+constexpr qsizetype mostSweepsBefore = 63;
+constexpr qsizetype leastSweepsBefore = SignalTracker::knownAfterSweeps;
+constexpr qsizetype mostBinsBefore = 400'000;
+
+} // namespace
+
 void SignalWatch::setRecording(std::shared_ptr<const Recording> recording)
 {
     m_recording = std::move(recording);
@@ -25,16 +35,25 @@ void SignalWatch::showSweep(qsizetype position, qsizetype previous)
 {
     if (!m_recording || position < 0 || position >= m_recording->count())
         return;
-    if (position <= m_position)
+    const bool isJump = previous < 0 || previous != m_position || previous >= position;
+    if (isJump)
         m_tracker.clear();
     m_begins = m_tracker.tracks().empty();
     m_lastKnownId = m_tracker.lastId();
-    const qsizetype first = previous < 0 || previous >= position ? position : previous + 1;
+    const qsizetype first = isJump ? firstBefore(position) : previous + 1;
     for (qsizetype index = first; index <= position; ++index) {
         const Sweep sweep = m_recording->sweep(index);
         m_tracker.add(sweep.timeUs, m_detector.detect(sweep));
     }
     m_position = position;
+}
+
+qsizetype SignalWatch::firstBefore(qsizetype position) const
+{
+    const auto bins = static_cast<qsizetype>(m_recording->sweep(position).binCount);
+    const qsizetype sweeps = std::clamp(mostBinsBefore / std::max<qsizetype>(bins, 1),
+                                        leastSweepsBefore, mostSweepsBefore);
+    return std::max(position - sweeps, m_recording->first());
 }
 
 const SignalTrack* SignalWatch::track(std::uint32_t id) const

@@ -16,8 +16,9 @@ public:
     /// See SignalDetector::setThreshold(); false when it is this one already. Sweeps that were
     /// taken in stay: show the current one again.
     bool setThreshold(std::optional<double> levelDb);
-    /// Takes in the sweeps after `previous` up to `position`, or only that one when `previous` is
-    /// -1 or not before it. Begins anew when `position` is not behind the last one.
+    /// Takes in the sweeps after `previous` up to `position`. When `previous` is not the sweep that
+    /// was shown last, or not before `position`, it begins anew some sweeps before `position`: the
+    /// signals are those of that time.
     void showSweep(qsizetype position, qsizetype previous);
 
     std::span<const SignalTrack> tracks() const { return m_tracker.tracks(); }
@@ -30,6 +31,8 @@ public:
     bool hasBegunAnew() const { return m_begins; }
 
 private:
+    qsizetype firstBefore(qsizetype position) const;
+
     std::shared_ptr<const Recording> m_recording;
     SignalDetector m_detector;
     SignalTracker m_tracker;
