@@ -78,14 +78,14 @@ void ReplayBar::buildLayout()
     speedLabel->setBuddy(m_speed);
     row->addSpacing(8);
     row->addWidget(speedLabel);
-    m_speed->setRange(slowest, fastest);
+    m_speed->setRange(Replay::minimumSpeed, Replay::maximumSpeed);
     m_speed->setDecimals(1);
     m_speed->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
     m_speed->setSuffix(QStringLiteral(" ×"));
     m_speed->setKeyboardTracking(false);
     m_speed->setObjectName(QStringLiteral("speed"));
     m_speed->setAccessibleName(tr("Replay speed"));
-    m_speed->setToolTip(tr("Replay speed, 0.1 to 100 times as fast as recorded"));
+    m_speed->setToolTip(tr("Replay speed, 0.1 to 10,000 times as fast as recorded"));
     row->addWidget(m_speed);
 }
 

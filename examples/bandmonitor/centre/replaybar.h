@@ -21,9 +21,6 @@ class ReplayBar : public QWidget
 {
     Q_OBJECT
 public:
-    static constexpr double slowest = 0.1;
-    static constexpr double fastest = 100;
-
     /// The replay must outlive the bar.
     ReplayBar(Replay* replay, std::shared_ptr<SessionValues> values, QWidget* parent);
     ~ReplayBar() override;

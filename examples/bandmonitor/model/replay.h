@@ -20,7 +20,7 @@ class Replay : public QObject
 
 public:
     static constexpr double minimumSpeed = 0.1;
-    static constexpr double maximumSpeed = 1000;
+    static constexpr double maximumSpeed = 10'000; ///< Forty hours in less than a minute.
     /// A clock in microseconds that never runs backward.
     using Clock = std::function<qint64()>;
 
@@ -62,7 +62,7 @@ public Q_SLOTS:
     void stepBackward();
     /// Goes to `index`, cut to what there is; playing goes on.
     void jump(qsizetype index);
-    /// Recorded time per real time, cut to 0.1 to 1000; 1 by default. Ignores NaN.
+    /// Recorded time per real time, cut to 0.1 to 10,000; 1 by default. Ignores NaN.
     void setSpeed(double factor);
 
 Q_SIGNALS:
