@@ -46,7 +46,7 @@ public:
 
     /// Adds entries for the traces, the pins, the legends and the colour maps as they are now. The
     /// menu owns them.
-    void fillMenu(QMenu* menu);
+    virtual void fillMenu(QMenu* menu);
 
 public Q_SLOTS:
     /// The frequency resolution or the time format has changed.

@@ -5,6 +5,8 @@
 #include <radiopanes/panes/spectrumpane.h>
 #include <radiopanes/panes/waterfallpane.h>
 
+#include <QMenu>
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -82,6 +84,8 @@ void BandView::showSweep(qsizetype position, qsizetype previous)
 {
     if (!m_recording || position < 0 || position >= m_recording->count())
         return;
+    if (position < m_position)
+        m_hold.clear(); // of a time that is still to come
     m_position = position;
     m_pyramid = std::make_shared<const LevelPyramid>(m_recording->sweep(position));
     showTrace(previous < 0 || previous >= position ? position : previous + 1);
@@ -118,6 +122,14 @@ void BandView::setTrace(const TraceSettings& settings)
 void BandView::showFrequency(double hertz)
 {
     visibleBand().showAt(hertz);
+}
+
+void BandView::fillMenu(QMenu* menu)
+{
+    BandPanes::fillMenu(menu);
+    menu->addSeparator();
+    if (m_extendMenu)
+        m_extendMenu(*menu);
 }
 
 void BandView::setHoldVisible(bool visible)

@@ -8,7 +8,9 @@
 #include <radiopanes/panes/bandpanes.h>
 #include <radiopanes/panes/heldtraces.h>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace RadioPanes {
 class LevelPyramid;
@@ -26,11 +28,15 @@ public:
 
     /// Puts the cursor there, and moves the view when it does not show the frequency.
     void showFrequency(double hertz);
+    /// Adds entries at the end of the panes' menu.
+    void setMenuExtension(std::function<void(QMenu&)> extend) { m_extendMenu = std::move(extend); }
+    void fillMenu(QMenu* menu) override;
 
     /// Shows the whole band of the recording; null for none. The hold maximum starts anew.
     void setRecording(std::shared_ptr<const Recording> recording);
     /// Makes the sweep at `position` the current one. The hold maximum takes in the sweeps after
-    /// `previous`, or only the current one when `previous` is -1 or comes later.
+    /// `previous`, or only the current one when `previous` is -1 or comes later. It starts anew
+    /// when time goes back.
     void showSweep(qsizetype position, qsizetype previous);
     qsizetype position() const { return m_position; }
 
@@ -47,6 +53,7 @@ private:
     /// Shows the current sweep; the hold maximum takes in those from `firstHeld` on.
     void showTrace(qsizetype firstHeld);
 
+    std::function<void(QMenu&)> m_extendMenu;
     HeldTraces m_hold{&spectrum()};
     TraceProcessor m_processor;
     std::shared_ptr<const Recording> m_recording;
