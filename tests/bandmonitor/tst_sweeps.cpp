@@ -160,6 +160,18 @@ private Q_SLOTS:
         }
         QCOMPARE(recording.sweep(0).segments[0].levels.data(), firstLevel); // never moved
         QVERIFY(recording.sweep(recording.count()).isEmpty());
+
+        constexpr std::size_t limit = 8 << 20;
+        for (int i = 0; i < 100; ++i) {
+            recording.append(1, segments.sweep().segments);
+            recording.dropBefore(recording.firstWithin(limit));
+            const std::size_t oneSweep = segments.sweep().binCount * sizeof(float);
+            QVERIFY(recording.reservedBytes() <= limit + 2 * oneSweep + limit / 4);
+        }
+        QVERIFY(recording.first() > 0 && recording.sweep(recording.first() - 1).isEmpty());
+        QVERIFY(recording.count() - recording.first() >= 2);
+        for (const qsizetype index : {recording.first(), recording.count() - 1})
+            QCOMPARE(sweepText(recording.sweep(index)), sweepText(segments.sweep(1)));
     }
 };
 

@@ -3,16 +3,17 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
+#include <list>
 #include <memory>
 #include <span>
-#include <vector>
 
 namespace bandmonitor {
 
 /// Storage that grows in chunks and never moves what it holds: every span that append() returns
-/// stays valid for the life of the array. Chunks double up to a limit, and a run that would leave
-/// much of a chunk unused gets one of its own, so that what is reserved stays below twice what is
-/// held (plus a first chunk of 4 KiB).
+/// stays valid until it is released, or for the life of the array. Chunks double up to a limit, and
+/// a run that would leave much of a chunk unused gets one of its own, so that what is reserved
+/// stays below twice what is held (plus a first chunk of 4 KiB).
 template <typename T>
 class ChunkedArray
 {
@@ -22,21 +23,40 @@ public:
     {
         if (values.empty())
             return {};
-        if (values.size() > m_free.size()) {
-            const std::size_t chunk = std::clamp(m_capacity / 4, firstChunk, largestChunk);
-            if (values.size() > chunk / 4) {
-                const std::span<T> own = allocate(values.size());
-                std::copy(values.begin(), values.end(), own.begin());
-                m_size += values.size();
-                return own;
-            }
-            m_free = allocate(chunk);
+        Chunk* chunk = m_current;
+        if (chunk == nullptr || values.size() > chunk->capacity - chunk->end) {
+            const std::size_t size = std::clamp(m_capacity / 4, firstChunk, largestChunk);
+            const bool getsOwn = values.size() > size / 4;
+            chunk = &allocate(getsOwn ? values.size() : size);
+            if (!getsOwn)
+                m_current = chunk;
         }
-        const std::span<T> result = m_free.first(values.size());
+        const std::span<T> result(chunk->elements.get() + chunk->end, values.size());
         std::copy(values.begin(), values.end(), result.begin());
-        m_free = m_free.subspan(values.size());
+        chunk->end += values.size();
+        chunk->held += values.size();
         m_size += values.size();
         return result;
+    }
+
+    /// Gives up a run that append() has returned. A chunk goes with its last run. This is fast for
+    /// the runs that came first.
+    void release(std::span<const T> run)
+    {
+        const auto holdsRun = [&run](const Chunk& chunk) {
+            const T* const begin = chunk.elements.get();
+            return !std::less<>()(run.data(), begin) &&
+                   std::less<>()(run.data(), begin + chunk.capacity);
+        };
+        const auto chunk = std::ranges::find_if(m_chunks, holdsRun);
+        if (run.empty() || chunk == m_chunks.end())
+            return;
+        m_size -= run.size();
+        chunk->held -= run.size();
+        if (chunk->held > 0 || &*chunk == m_current)
+            return;
+        m_capacity -= chunk->capacity;
+        m_chunks.erase(chunk);
     }
 
     /// How many elements are held.
@@ -48,15 +68,22 @@ private:
     static constexpr std::size_t firstChunk = std::max<std::size_t>(4096 / sizeof(T), 1);
     static constexpr std::size_t largestChunk = (std::size_t{4} << 20) / sizeof(T);
 
-    std::span<T> allocate(std::size_t count)
+    struct Chunk
     {
-        m_chunks.push_back(std::make_unique_for_overwrite<T[]>(count));
+        std::unique_ptr<T[]> elements;
+        std::size_t capacity = 0;
+        std::size_t end = 0;  ///< Elements from here on were never used.
+        std::size_t held = 0; ///< Elements of runs that were not released.
+    };
+
+    Chunk& allocate(std::size_t count)
+    {
         m_capacity += count;
-        return {m_chunks.back().get(), count};
+        return m_chunks.emplace_back(std::make_unique_for_overwrite<T[]>(count), count);
     }
 
-    std::vector<std::unique_ptr<T[]>> m_chunks;
-    std::span<T> m_free;
+    std::list<Chunk> m_chunks;
+    Chunk* m_current = nullptr; ///< With place for short runs.
     std::size_t m_size = 0;
     std::size_t m_capacity = 0;
 };

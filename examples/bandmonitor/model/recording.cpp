@@ -32,15 +32,46 @@ void Recording::append(quint64 timeUs, std::span<const Segment> segments)
     }
 
     const Sweep sweep = makeSweep(timeUs, m_segments.append(m_scratch));
-    m_lowHz = m_sweeps.empty() ? sweep.lowHz : std::min(m_lowHz, sweep.lowHz);
-    m_highHz = m_sweeps.empty() ? sweep.highHz : std::max(m_highHz, sweep.highHz);
+    m_lowHz = count() == 0 ? sweep.lowHz : std::min(m_lowHz, sweep.lowHz);
+    m_highHz = count() == 0 ? sweep.highHz : std::max(m_highHz, sweep.highHz);
     m_largestBinCount = std::max(m_largestBinCount, sweep.binCount);
     m_sweeps.push_back(sweep);
 }
 
+void Recording::dropBefore(qsizetype index)
+{
+    for (; m_first < index && !m_sweeps.empty(); ++m_first) {
+        const std::span<const Segment> segments = m_sweeps.front().segments;
+        for (const Segment& segment : segments)
+            m_levels.release(segment.levels);
+        m_segments.release(segments);
+        m_sweeps.pop_front();
+    }
+}
+
+std::size_t Recording::heldBytes(const Sweep& sweep)
+{
+    return sizeof(Sweep) + sweep.segments.size() * sizeof(Segment) + sweep.binCount * sizeof(float);
+}
+
+qsizetype Recording::firstWithin(std::size_t bytes) const
+{
+    const std::size_t held = m_levels.size() * sizeof(float) + m_segments.size() * sizeof(Segment) +
+                             m_sweeps.size() * sizeof(Sweep);
+    // What is reserved but unused counts in proportion.
+    const double reserved = static_cast<double>(std::max(reservedBytes(), held));
+    const double allowed =
+        static_cast<double>(bytes) * (static_cast<double>(held) / std::max(reserved, 1.0));
+    qsizetype first = m_first;
+    for (auto left = static_cast<double>(held); left > allowed && first < count() - 2; ++first)
+        left -= static_cast<double>(heldBytes(sweep(first)));
+    return first;
+}
+
 Sweep Recording::sweep(qsizetype index) const
 {
-    return index >= 0 && index < count() ? m_sweeps[static_cast<std::size_t>(index)] : Sweep();
+    return index >= m_first && index < count() ? m_sweeps[static_cast<std::size_t>(index - m_first)]
+                                               : Sweep();
 }
 
 std::optional<float> Recording::minimumLevel() const
@@ -56,7 +87,7 @@ std::optional<float> Recording::maximumLevel() const
 std::size_t Recording::reservedBytes() const
 {
     return m_levels.capacity() * sizeof(float) + m_segments.capacity() * sizeof(Segment) +
-           m_sweeps.capacity() * sizeof(Sweep) + m_scratch.capacity() * sizeof(Segment);
+           m_sweeps.size() * sizeof(Sweep) + m_scratch.capacity() * sizeof(Segment);
 }
 
 } // namespace bandmonitor

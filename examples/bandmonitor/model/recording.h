@@ -9,13 +9,14 @@
 
 #include <QtGlobal>
 
+#include <deque>
 #include <vector>
 
 namespace bandmonitor {
 
-/// A band-scan recording: sweeps in the order in which they were received. It only grows, and
-/// never moves what it holds: sweeps, segments and levels that it handed out stay valid as long
-/// as it lives. Memory is below twice what the levels need, and so for segments and sweeps.
+/// A band-scan recording: sweeps in the order in which they were received. It never moves what it
+/// holds: sweeps, segments and levels that it handed out stay valid until dropBefore() takes them
+/// out, or as long as it lives. Memory is below twice what the levels need, and so for segments.
 class Recording final : public SweepHistory
 {
 public:
@@ -27,14 +28,21 @@ public:
     /// Without any segment nothing happens. Times may repeat and run backward.
     void append(quint64 timeUs, std::span<const Segment> segments);
 
-    qsizetype count() const override { return static_cast<qsizetype>(m_sweeps.size()); }
+    /// Takes out the sweeps before `index`; the others keep their numbers.
+    void dropBefore(qsizetype index);
+    /// The oldest sweep that may stay when all may take so many bytes; the newest two always may.
+    qsizetype firstWithin(std::size_t bytes) const;
+
+    qsizetype first() const override { return m_first; }
+    qsizetype count() const override { return m_first + static_cast<qsizetype>(m_sweeps.size()); }
     bool isEmpty() const { return m_sweeps.empty(); }
     Sweep sweep(qsizetype index) const override;
 
-    /// Lowest and highest frequency of all sweeps, in Hz; both 0 while it is empty.
+    /// Lowest and highest frequency of all sweeps, those before first() included, in Hz; both 0
+    /// while there was none.
     double lowHz() const { return m_lowHz; }
     double highHz() const { return m_highHz; }
-    /// Lowest and highest level of all sweeps, in dB; nothing without any level.
+    /// Lowest and highest level of these sweeps, in dB; nothing without any level.
     std::optional<float> minimumLevel() const;
     std::optional<float> maximumLevel() const;
     std::size_t largestBinCount() const override { return m_largestBinCount; }
@@ -45,9 +53,12 @@ public:
     std::size_t reservedBytes() const;
 
 private:
+    static std::size_t heldBytes(const Sweep& sweep);
+
     ChunkedArray<float> m_levels;
     ChunkedArray<Segment> m_segments;
-    std::vector<Sweep> m_sweeps;
+    std::deque<Sweep> m_sweeps;
+    qsizetype m_first = 0;
     std::vector<Segment> m_scratch;
     double m_lowHz = 0;
     double m_highHz = 0;

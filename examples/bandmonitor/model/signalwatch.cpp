@@ -33,7 +33,7 @@ bool SignalWatch::setThreshold(std::optional<double> levelDb)
 
 void SignalWatch::showSweep(qsizetype position, qsizetype previous)
 {
-    if (!m_recording || position < 0 || position >= m_recording->count())
+    if (!m_recording || position < m_recording->first() || position >= m_recording->count())
         return;
     const bool isJump = previous < 0 || previous != m_position || previous >= position;
     if (isJump)

@@ -70,7 +70,7 @@ Sweep TraceProcessor::process(const Recording& recording, qsizetype position)
 
 qsizetype TraceProcessor::firstOfAverage(const Recording& recording, qsizetype position) const
 {
-    const qsizetype limit = std::max<qsizetype>(position - maximumSweeps + 1, 0);
+    const qsizetype limit = std::max(position - maximumSweeps + 1, recording.first());
     quint64 missing = m_settings.samples;
     for (qsizetype first = position;; --first) {
         const quint64 samples = samplesOf(recording.sweep(first));

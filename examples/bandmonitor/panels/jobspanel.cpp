@@ -247,7 +247,7 @@ void JobsPanel::refreshTimes()
     const auto recording = m_replay ? m_replay->recording() : nullptr;
     JobTimes times;
     if (recording && !recording->isEmpty()) {
-        times.firstUs = recording->sweep(0).timeUs;
+        times.firstUs = recording->sweep(recording->first()).timeUs;
         times.lastUs = std::max(times.firstUs, recording->sweep(recording->count() - 1).timeUs);
         times.nowUs = m_replay->sweep().timeUs;
     }
