@@ -37,6 +37,13 @@ QString translated(const char* text, int number = -1)
     return QCoreApplication::translate("bandmonitor::RecordingParser", text, nullptr, number);
 }
 
+QString textOf(const SkippedLine& line)
+{
+    return translated(QT_TRANSLATE_NOOP("bandmonitor::RecordingParser", "Line %1: %2."))
+        .arg(line.number)
+        .arg(translated(faultTexts[static_cast<std::size_t>(line.fault)]));
+}
+
 struct Bins
 {
     std::size_t count = 0; ///< 0 when the levels do not fit
@@ -116,6 +123,14 @@ void RecordingParser::finish()
     closeSweep();
 }
 
+void RecordingParser::settle(bool isForced)
+{
+    if (m_hops.empty() || !m_partialLine.isEmpty() || m_skippingLongLine)
+        return;
+    if (isForced || (m_hops.size() == m_hopsBefore && m_hops.back().startHz == m_lastStartBefore))
+        closeSweep();
+}
+
 void RecordingParser::readLine(std::string_view line)
 {
     ++m_lineCount;
@@ -171,8 +186,9 @@ void RecordingParser::skipLine(LineFault fault)
 {
     ++m_skippedCount;
     m_full = m_full || fault == LineFault::RecordingFull;
+    m_lastSkipped = {m_lineCount, fault};
     if (m_skippedLines.size() < keptSkippedLines)
-        m_skippedLines.push_back({m_lineCount, fault});
+        m_skippedLines.push_back(m_lastSkipped);
 }
 
 void RecordingParser::addHop(quint64 timeUs, Hop hop)
@@ -181,7 +197,7 @@ void RecordingParser::addHop(quint64 timeUs, Hop hop)
         return skipLine(LineFault::RecordingFull);
     // The levels of this line lie behind those of the sweep so far.
     const std::size_t offset = m_levelsUsed;
-    if (startsNewSweep(timeUs, hop.startHz)) {
+    if (startsNewSweep(timeUs, hop)) {
         closeSweep();
         std::copy_n(m_levels.begin() + static_cast<std::ptrdiff_t>(offset), hop.count,
                     m_levels.begin());
@@ -192,17 +208,18 @@ void RecordingParser::addHop(quint64 timeUs, Hop hop)
     m_hops.push_back(hop);
 }
 
-bool RecordingParser::startsNewSweep(quint64 timeUs, double startHz)
+bool RecordingParser::startsNewSweep(quint64 timeUs, const Hop& hop)
 {
     if (m_hops.empty())
         return false;
-    if (timeUs != m_sweepTimeUs)
+    if (timeUs != m_sweepTimeUs || m_levelsUsed + hop.count > m_maximumSweep)
         return true;
+    const double startHz = hop.startHz;
     if (m_starts.empty()) {
         if (startHz > m_hops.back().startHz)
             return false;
-        for (const Hop& hop : m_hops)
-            m_starts.insert(hop.startHz);
+        for (const Hop& earlier : m_hops)
+            m_starts.insert(earlier.startHz);
     }
     return !m_starts.insert(startHz).second;
 }
@@ -215,9 +232,18 @@ void RecordingParser::closeSweep()
                               std::span(m_levels).subspan(hop.offset, hop.count)});
     }
     m_recording->append(m_sweepTimeUs, m_segments);
+    if (!m_hops.empty()) {
+        m_hopsBefore = m_hops.size();
+        m_lastStartBefore = m_hops.back().startHz;
+    }
     m_hops.clear();
     m_starts.clear();
     m_levelsUsed = 0;
+}
+
+QString RecordingParser::lastFault() const
+{
+    return m_skippedCount > 0 ? textOf(m_lastSkipped) : QString();
 }
 
 QString RecordingParser::report() const
@@ -227,11 +253,8 @@ QString RecordingParser::report() const
     const int shown = static_cast<int>(std::min<qint64>(m_skippedCount, 1'000'000'000));
     QStringList lines{
         translated(QT_TRANSLATE_NOOP("bandmonitor::RecordingParser", "Skipped lines: %n."), shown)};
-    for (const SkippedLine& line : m_skippedLines) {
-        lines << translated(QT_TRANSLATE_NOOP("bandmonitor::RecordingParser", "Line %1: %2."))
-                     .arg(line.number)
-                     .arg(translated(faultTexts[static_cast<std::size_t>(line.fault)]));
-    }
+    for (const SkippedLine& line : m_skippedLines)
+        lines << textOf(line);
     if (m_skippedCount > static_cast<qint64>(m_skippedLines.size()))
         lines << QStringLiteral("...");
     return lines.join(QLatin1Char('\n'));

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <limits>
 #include <memory>
 #include <optional>
 #include <set>
@@ -54,6 +55,10 @@ public:
     /// Reads the next bytes. A sweep reaches the recording when the first line of the next one,
     /// or finish(), shows that it is complete.
     void feed(std::string_view bytes);
+    /// Completes the sweep that was read last when no part of a line stands behind it, and when it
+    /// has the hops of the one before or `isForced`: for a stream that has fallen silent, where the
+    /// first line of the next sweep may be far off.
+    void settle(bool isForced);
     /// Reads what is left as the last line, and completes the last sweep. Afterwards feed() would
     /// begin with a new line.
     void finish();
@@ -64,11 +69,16 @@ public:
     qint64 skippedCount() const { return m_skippedCount; }
     /// The first skipped lines.
     const std::vector<SkippedLine>& skippedLines() const { return m_skippedLines; }
+    /// What is wrong with the line that was skipped last, as a text for the user; empty when none
+    /// was.
+    QString lastFault() const;
     /// True once a line was skipped because the recording holds the most levels that it may;
     /// reading on is of no use then.
     bool isFull() const { return m_full; }
     /// The most levels that the recording may hold; 512 Mi (2 GiB of memory) by default.
     void setMaximumLevels(std::size_t levels) { m_maximumLevels = levels; }
+    /// A sweep that would hold more levels is parted; by default none is.
+    void setMaximumSweep(std::size_t levels) { m_maximumSweep = levels; }
 
     /// The skipped lines as a text for the user, one a line; empty without any.
     QString report() const;
@@ -87,7 +97,7 @@ private:
     std::optional<std::size_t> readLevels(RecordingFields& fields, std::size_t bytes);
     void skipLine(LineFault fault);
     void addHop(quint64 timeUs, Hop hop);
-    bool startsNewSweep(quint64 timeUs, double startHz);
+    bool startsNewSweep(quint64 timeUs, const Hop& hop);
     void closeSweep();
 
     std::shared_ptr<Recording> m_recording;
@@ -97,13 +107,17 @@ private:
     qint64 m_lineCount = 0;
     qint64 m_skippedCount = 0;
     std::vector<SkippedLine> m_skippedLines;
+    SkippedLine m_lastSkipped;
     std::size_t m_maximumLevels = defaultMaximumLevels;
+    std::size_t m_maximumSweep = std::numeric_limits<std::size_t>::max();
 
     quint64 m_sweepTimeUs = 0;
     std::vector<float> m_levels;
     std::size_t m_levelsUsed = 0;
     std::vector<Hop> m_hops;
-    std::set<double> m_starts; ///< of m_hops, once one came out of order
+    std::size_t m_hopsBefore = 0; ///< of the sweep before
+    double m_lastStartBefore = 0; ///< of its last hop, in Hz
+    std::set<double> m_starts;    ///< of m_hops, once one came out of order
     std::vector<Segment> m_segments;
 };
 
