@@ -109,6 +109,53 @@ private Q_SLOTS:
         QCOMPARE(m_replay->position(), 1);
     }
 
+    void loadingMakesPlayingWait()
+    {
+        QSignalSpy ended(m_replay.get(), &Replay::endReached);
+        m_replay->setGrowth(Replay::Growth::Loading);
+        m_replay->jump(5);
+        m_replay->play();
+        m_recording->append(3'611'000'000, m_recording->sweep(0).segments);
+        m_replay->recordingGrown();
+        CHECKED(pass(999));
+        QCOMPARE(m_replay->position(), 5);
+        CHECKED(pass(1));
+        QCOMPARE(m_replay->position(), 6);
+        QVERIFY(m_replay->isPlaying() && ended.isEmpty());
+        m_replay->setGrowth(Replay::Growth::None);
+        QVERIFY(!m_replay->isPlaying() && ended.count() == 1);
+    }
+    void liveSweepsAreFollowed()
+    {
+        QSignalSpy moved(m_replay.get(), &Replay::positionChanged);
+        m_replay->setGrowth(Replay::Growth::Live);
+        m_replay->toLast();
+        QVERIFY(m_replay->isFollowing());
+        const auto grow = [this](qsizetype first) {
+            for (int i = 0; i < 3; ++i)
+                m_recording->append(3'610'000'000, m_recording->sweep(5).segments);
+            m_replay->recordingGrown(first);
+        };
+        grow(0);
+        QCOMPARE(m_replay->position(), 8);
+        QCOMPARE(moved.last().at(1).toInt(), 5);
+        m_replay->pause();
+        grow(0);
+        QCOMPARE(m_replay->position(), 8);
+        m_replay->play(); // from where it is, until it has caught up
+        QVERIFY(!m_replay->isFollowing());
+        CHECKED(pass(300));
+        QVERIFY(m_replay->isFollowing());
+        m_replay->jump(6);
+        m_replay->pause();
+        grow(9); // the shown one is about to go
+        QCOMPARE(m_replay->position(), 9);
+        m_recording->dropBefore(9);
+        m_replay->jump(0);
+        m_replay->stepBackward();
+        QCOMPARE(m_replay->position(), 9);
+    }
+
 private:
     void prepare() override
     {

@@ -38,10 +38,40 @@ void Replay::setRecording(std::shared_ptr<const Recording> recording)
 {
     m_recording = std::move(recording);
     m_playedUs = 0;
-    m_position = count() > 0 ? 0 : -1;
+    m_position = count() > 0 ? first() : -1;
+    m_growth = Growth::None;
     setPlaying(false);
     Q_EMIT recordingChanged();
     Q_EMIT positionChanged(m_position, -1);
+}
+
+void Replay::setGrowth(Growth growth)
+{
+    if (growth == m_growth)
+        return;
+    m_growth = growth;
+    const QPointer<Replay> guard(this);
+    Q_EMIT growthChanged();
+    if (!guard)
+        return;
+    if (growth == Growth::None && m_waits) {
+        setPlaying(false);
+        if (guard)
+            Q_EMIT endReached();
+    } else {
+        updateTimer();
+    }
+}
+
+void Replay::recordingGrown(qsizetype first)
+{
+    if (isFollowing()) {
+        if (m_position < count() - 1)
+            moveTo(count() - 1, m_position);
+    } else if (m_position < first) {
+        moveTo(first, -1);
+    }
+    updateTimer();
 }
 
 Sweep Replay::sweep() const
@@ -79,12 +109,13 @@ void Replay::play()
 {
     if (m_playing || count() == 0)
         return;
-    const bool fromStart = m_position < 0 || m_position == count() - 1;
+    const bool fromStart =
+        m_position < 0 || (m_position == count() - 1 && m_growth == Growth::None);
     m_playedUs = 0;
     m_lastTickUs = m_clock();
     setPlaying(true);
-    if (m_playing && fromStart && m_position != 0)
-        moveTo(0, -1);
+    if (m_playing && fromStart && m_position != first())
+        moveTo(first(), -1);
 }
 
 void Replay::pause()
@@ -110,7 +141,7 @@ void Replay::stepForward()
 void Replay::stepBackward()
 {
     setPlaying(false);
-    if (m_position > 0)
+    if (m_position > first())
         moveTo(m_position - 1, m_position);
 }
 
@@ -118,10 +149,17 @@ void Replay::jump(qsizetype index)
 {
     if (count() == 0)
         return;
-    const qsizetype target = std::clamp<qsizetype>(index, 0, count() - 1);
+    const qsizetype target = std::clamp(index, first(), count() - 1);
     m_lastTickUs = m_clock();
     if (target != m_position)
         moveTo(target, -1);
+}
+
+void Replay::toLast()
+{
+    jump(count() - 1);
+    if (m_growth == Growth::Live)
+        play();
 }
 
 void Replay::setSpeed(double factor)
@@ -142,10 +180,7 @@ void Replay::setPlaying(bool playing)
     if (playing == m_playing)
         return;
     m_playing = playing;
-    if (playing)
-        m_timer.start();
-    else
-        m_timer.stop();
+    updateTimer();
     Q_EMIT playingChanged(playing);
 }
 
@@ -153,7 +188,19 @@ void Replay::moveTo(qsizetype position, qsizetype previous)
 {
     m_position = position;
     m_playedUs = 0;
+    updateTimer();
     Q_EMIT positionChanged(position, previous);
+}
+
+void Replay::updateTimer()
+{
+    m_waits = m_playing && m_growth != Growth::None && m_position == count() - 1;
+    if (!m_playing || m_waits) {
+        m_timer.stop();
+    } else if (!m_timer.isActive()) {
+        m_lastTickUs = m_clock();
+        m_timer.start();
+    }
 }
 
 void Replay::tick()
@@ -181,6 +228,10 @@ void Replay::tick()
     }
     if (!guard || !m_playing || m_position < count() - 1)
         return;
+    if (m_growth != Growth::None) {
+        updateTimer();
+        return;
+    }
     setPlaying(false);
     if (guard)
         Q_EMIT endReached();

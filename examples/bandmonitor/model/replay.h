@@ -13,7 +13,7 @@
 namespace bandmonitor {
 
 /// Walks through a recording, by hand or as fast as its time stamps say. The recording may grow
-/// meanwhile.
+/// meanwhile, and lose its oldest sweeps.
 class Replay : public QObject
 {
     Q_OBJECT
@@ -30,6 +30,21 @@ public:
     /// Pauses, and goes to the first sweep of `recording`, which may be null or still empty.
     void setRecording(std::shared_ptr<const Recording> recording);
     std::shared_ptr<const Recording> recording() const { return m_recording; }
+
+    /// Whether sweeps will follow the last one, and what playing does when it has come there.
+    enum class Growth {
+        None,    ///< The recording is complete: playing ends.
+        Loading, ///< It waits, and goes on as the time stamps say.
+        Live,    ///< It shows each new sweep at once.
+    };
+    /// Growth::None after setRecording().
+    void setGrowth(Growth growth);
+    Growth growth() const { return m_growth; }
+    /// The recording has more sweeps. Those before `first` are about to go: the current sweep is
+    /// none of them any more.
+    void recordingGrown(qsizetype first = 0);
+    /// Whether it plays, and shows each new sweep of a live recording at once.
+    bool isFollowing() const { return m_waits && m_growth == Growth::Live; }
 
     /// Index of the current sweep; -1 without any.
     qsizetype position() const { return m_position; }
@@ -51,8 +66,8 @@ public:
     void setClock(Clock clock);
 
 public Q_SLOTS:
-    /// Plays on from the current sweep, or from the first one when at the last. Without any sweep
-    /// nothing happens.
+    /// Plays on from the current sweep; from the first one when at the last of a complete
+    /// recording. Without any sweep nothing happens.
     void play();
     void pause();
     /// play() or pause().
@@ -62,6 +77,8 @@ public Q_SLOTS:
     void stepBackward();
     /// Goes to `index`, cut to what there is; playing goes on.
     void jump(qsizetype index);
+    /// Goes to the last sweep; in a live recording playing shows each new one from now on.
+    void toLast();
     /// Recorded time per real time, cut to 0.1 to 10,000; 1 by default. Ignores NaN.
     void setSpeed(double factor);
 
@@ -72,6 +89,8 @@ Q_SIGNALS:
     /// those from `previous + 1` to `position` were played. After jump() and setRecording()
     /// `previous` is -1: nothing was played.
     void positionChanged(qsizetype position, qsizetype previous);
+    /// See setGrowth().
+    void growthChanged();
     /// Playing has begun or stopped.
     void playingChanged(bool playing);
     /// Recorded time per real time is another one now; see setSpeed().
@@ -83,6 +102,9 @@ private:
     void setPlaying(bool playing);
     void moveTo(qsizetype position, qsizetype previous);
     void tick();
+    /// Runs the timer while there is something to play.
+    void updateTimer();
+    qsizetype first() const { return m_recording ? m_recording->first() : 0; }
     qint64 gapAfter(qsizetype position) const;
 
     std::shared_ptr<const Recording> m_recording;
@@ -90,6 +112,8 @@ private:
     QTimer m_timer;
     qsizetype m_position = -1;
     bool m_playing = false;
+    bool m_waits = false; ///< It plays, and waits for more sweeps.
+    Growth m_growth = Growth::None;
     double m_speed = 1;
     qint64 m_equalStampGapUs = 100'000;
     qint64 m_maximumGapUs = 10'000'000;
