@@ -88,6 +88,12 @@ double SampleGenerator::level(double place, double hopper, double drifter)
 
 QByteArray SampleGenerator::nextSweep()
 {
+    return nextSweep(m_settings.startTimeUs +
+                     static_cast<quint64>(m_sweep) * m_settings.sweepIntervalUs);
+}
+
+QByteArray SampleGenerator::nextSweep(quint64 timeUs)
+{
     if (atEnd())
         return {};
     for (Station& station : m_stations)
@@ -111,9 +117,8 @@ QByteArray SampleGenerator::nextSweep()
         segment.samples = 64;
         segment.levels = std::span(levels).subspan(hop * bins, bins);
     }
-    const auto sweep = static_cast<quint64>(m_sweep++);
-    return sweepText(
-        makeSweep(m_settings.startTimeUs + sweep * m_settings.sweepIntervalUs, segments));
+    ++m_sweep;
+    return sweepText(makeSweep(timeUs, segments));
 }
 
 QByteArray SampleGenerator::remaining()

@@ -33,6 +33,10 @@ public:
     bool atEnd() const { return m_sweep >= m_settings.sweeps; }
     /// The lines of the next sweep; empty at the end.
     QByteArray nextSweep();
+    /// The same with this time stamp, in microseconds since 1970-01-01T00:00 UTC.
+    QByteArray nextSweep(quint64 timeUs);
+    /// Moves the band, with the stations in it.
+    void setLowHz(double lowHz) { m_settings.lowHz = lowHz; }
     /// All remaining sweeps.
     QByteArray remaining();
 
