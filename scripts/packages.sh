@@ -2,8 +2,8 @@
 # Sourced by ./run and ./check: what the project needs from Debian, and how to get it.
 
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libgl1-mesa-dev)
-run_packages=(fonts-dejavu-core qt6-qpa-plugins)
-test_packages=(xvfb openbox x11-utils dbus-daemon git pkg-config dpkg-dev file desktop-file-utils man-db
+run_packages=(fonts-dejavu-core qt6-qpa-plugins qt6-wayland)
+test_packages=(xvfb openbox x11-utils weston dbus-daemon git pkg-config dpkg-dev file desktop-file-utils man-db
     doxygen)
 benchmark_packages=(libbenchmark-dev)
 

@@ -59,7 +59,7 @@ class NotificationsPrivate
 public:
     explicit NotificationsPrivate(Notifications& owner)
         : service(serviceSettings)
-        , arranger(PopupPlacer::placementFor(wantedPlacement, QGuiApplication::platformName()))
+        , arranger(PopupPlacer::placementFor(wantedPlacement))
     {
         // Whatever comes within one turn of the event loop is arranged once.
         layoutTimer.setSingleShot(true);

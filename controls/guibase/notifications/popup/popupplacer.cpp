@@ -4,16 +4,17 @@
 #include "screenplacer_p.h"
 #include "windowplacer_p.h"
 
+#include <jtbase/windowsystem.h>
+
 PopupPlacer::PopupPlacer() = default;
 PopupPlacer::~PopupPlacer() = default;
 
-Notifications::Placement PopupPlacer::placementFor(Notifications::Placement wanted,
-                                                   const QString& platformName)
+Notifications::Placement PopupPlacer::placementFor(Notifications::Placement wanted)
 {
     if (wanted != Notifications::Placement::Automatic)
         return wanted;
-    return platformName.startsWith(QLatin1String("wayland")) ? Notifications::Placement::InWindow
-                                                             : Notifications::Placement::OnScreen;
+    return WindowSystem::placesWindows() ? Notifications::Placement::OnScreen
+                                         : Notifications::Placement::InWindow;
 }
 
 std::unique_ptr<PopupPlacer> PopupPlacer::create(Notifications::Placement placement)

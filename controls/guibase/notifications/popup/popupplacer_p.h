@@ -15,9 +15,8 @@ class PopupPlacer : public QObject
 {
     Q_OBJECT
 public:
-    /// On Wayland no program can place a window on the screen.
-    static Notifications::Placement placementFor(Notifications::Placement wanted,
-                                                 const QString& platformName);
+    /// Inside a window where programs do not place windows on the screen.
+    static Notifications::Placement placementFor(Notifications::Placement wanted);
     /// The placement is not Automatic.
     static std::unique_ptr<PopupPlacer> create(Notifications::Placement placement);
     ~PopupPlacer() override;
