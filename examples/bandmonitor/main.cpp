@@ -71,6 +71,7 @@ void serve(const CommandLine& commandLine, MainWindow& window, DialogCloser* dia
 
 int run(int argc, char** argv, const CommandLine& commandLine)
 {
+    TrovApplication::ChooseWindowSystem();
     QApplication application(argc, argv);
     TrovApplication startUp;
     startUp.ShowSplash();

@@ -61,6 +61,7 @@ void addPanel(QMainWindow& window, QWidget* content, const char* name, Qt::DockW
 
 int main(int argc, char* argv[])
 {
+    TrovApplication::ChooseWindowSystem(); // X11 where there is a choice: docks go anywhere there
     QApplication application(argc, argv);
     TrovApplication startUp; // ends the application in good order, also on SIGTERM
     QMainWindow window;

@@ -17,7 +17,10 @@ constexpr int busySteps = 20;
 
 StartupSplash::StartupSplash(const QPixmap& picture)
     : QSplashScreen(picture)
-{}
+{
+    // Some compositors give a window that may change its size half of the screen.
+    setFixedSize(size());
+}
 
 StartupSplash::~StartupSplash() = default;
 

@@ -4,6 +4,7 @@
 #include "cfgcenter.h"
 #include "endrequest_p.h"
 #include "savecomponentif.h"
+#include "serverend_p.h"
 #include "startupsplash_p.h"
 #include "terminationsignals_p.h"
 #include "terminationtargets_p.h"
@@ -38,6 +39,7 @@ public:
     std::shared_ptr<StartupSplash> splash;
     std::unique_ptr<TerminationSignals> signalWatch;
     std::unique_ptr<EndRequest> endRequest;
+    std::unique_ptr<ServerEnd> serverEnd;
     qint64 splashShowTime = 0;
     bool isTerminated = false;
 };
@@ -49,6 +51,7 @@ void TrovApplicationPrivate::releaseApplication()
     TrovApplication::m_pThis->Terminate();
     TrovApplication::m_pThis->d->signalWatch.reset();
     TrovApplication::m_pThis->d->endRequest.reset();
+    TrovApplication::m_pThis->d->serverEnd.reset();
 }
 
 TrovApplication* TrovApplication::m_pThis = nullptr;
@@ -70,6 +73,7 @@ TrovApplication::TrovApplication(QObject* parent)
         connect(gui, &QGuiApplication::commitDataRequest, this, [] { CfgCenter::CommitAll(); });
     }
 #endif
+    d->serverEnd = std::make_unique<ServerEnd>();
     d->signalWatch = std::make_unique<TerminationSignals>();
     connect(d->signalWatch.get(), &TerminationSignals::requested, this,
             &TrovApplication::RequestEnd);

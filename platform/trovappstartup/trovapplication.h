@@ -13,13 +13,19 @@ class TrovApplicationPrivate;
 
 /// The start-up object of an application: shows the splash screen and ends the application in good
 /// order, however the end comes (event loop, desktop session, Terminate(), destructor, SIGTERM,
-/// SIGINT or SIGHUP). Made in main() after the QApplication, as a local object; one per process.
+/// SIGINT or SIGHUP). When the X server or the compositor goes, it stores what there is. Made in
+/// main() after the QApplication, as a local object; one per process.
 class TROVAPPSTARTUP_EXPORT TrovApplication : public QObject
 {
     Q_OBJECT
 public:
     explicit TrovApplication(QObject* parent = nullptr);
     ~TrovApplication() override;
+
+    /// Chooses X11 on desktops that have Wayland and X11, since only there programs may place their
+    /// windows; to be called before the QApplication is made. Nothing when the user has chosen with
+    /// QT_QPA_PLATFORM; "-platform" goes before, too. Programs that this one starts choose anew.
+    static void ChooseWindowSystem();
 
     /// The object, or null before its construction and after its destruction.
     static TrovApplication* m_pThis;

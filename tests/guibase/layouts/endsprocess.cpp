@@ -146,7 +146,10 @@ private:
 
 int main(int argc, char** argv)
 {
+    TrovApplication::ChooseWindowSystem();
     QApplication application(argc, argv);
+    QTextStream(stdout) << "on " << QGuiApplication::platformName() << ", handing on \""
+                        << qEnvironmentVariable("QT_QPA_PLATFORM") << "\"\n";
     const QStringList arguments = QApplication::arguments();
     const QString way = arguments.value(2);
     CfgCenter::SetConfigDir(arguments.value(1));

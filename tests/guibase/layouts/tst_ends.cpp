@@ -47,6 +47,35 @@ private Q_SLOTS:
         }
     }
 
+    /// The X server, or the compositor, ends the program without telling.
+    void serverGoes()
+    {
+        const int server = qEnvironmentVariableIntValue("GUIBASE_TEST_SERVER");
+        if (server == 0)
+            QSKIP("Needs a server that may go.");
+        // The user has chosen nothing, on a desktop with Wayland.
+        const bool isX11 = qEnvironmentVariableIsSet("DISPLAY");
+        qunsetenv("QT_QPA_PLATFORM");
+        qputenv("XDG_SESSION_TYPE", "wayland");
+        ChildProcess process(QStringLiteral(ENDS_PROCESS), {configDir(), QStringLiteral("signal")});
+        QVERIFY2(process.waitForLine("told"), process.output());
+        const QByteArray chosen = isX11 ? "on xcb, handing on \"\"" : "on wayland, handing on \"\"";
+        QVERIFY2(process.output().contains(chosen), process.output());
+        QCOMPARE(::kill(server, SIGKILL), 0);
+        QCOMPARE(process.waitForEnd(), 1);
+        // Docks that hide at the edge float on one window system, and are docked on the other.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        for (const char* isPlacing : {"0", "1", "0"}) {
+            qputenv("GUIBASE_PLACES_WINDOWS", isPlacing);
+            ChildProcess next(QStringLiteral(ENDS_PROCESS),
+                              {configDir(), QStringLiteral("close"), QString()});
+            QVERIFY2(next.waitForLine("told"), next.output());
+            QVERIFY2(next.output().contains("hidden, hiding, tabbed below, column 77"),
+                     next.output());
+            QCOMPARE(next.waitForEnd(), 0);
+        }
+    }
+
 private:
     /// What the program changes at its first start, and where the rest has come to be.
     const QRegularExpression m_looks{QStringLiteral(
