@@ -5,6 +5,7 @@
 #include "docktitle.h"
 #include "titlebarbutton_p.h"
 #include "titlebarbuttons_p.h"
+#include "titlebardrag_p.h"
 
 #include <guibase/layouts/floatingdockkeeper.h>
 
@@ -13,6 +14,7 @@
 #include <QCoreApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionDockWidget>
 #include <QStylePainter>
@@ -60,6 +62,7 @@ public:
     EnhancedDockWidgetTitleBar& bar;
     DockPointer dock;
     TitleBarButtons buttons;
+    TitleBarDrag drag;
     QString title;
     int titleWidth = 0;
     QSize fullHint;    ///< Invalid when it must be computed again.
@@ -75,6 +78,7 @@ EnhancedDockWidgetTitleBar::Private::Private(EnhancedDockWidgetTitleBar& owner, 
     : bar(owner)
     , dock(&served)
     , buttons(owner, served)
+    , drag(served)
 {}
 
 bool EnhancedDockWidgetTitleBar::Private::isVertical() const
@@ -258,7 +262,8 @@ bool EnhancedDockWidgetTitleBar::event(QEvent* event)
             return true;
         }
     }
-    return QWidget::event(event);
+    const auto* mouse = dynamic_cast<const QMouseEvent*>(event);
+    return (mouse != nullptr && d->drag.handle(*mouse)) || QWidget::event(event);
 }
 
 void EnhancedDockWidgetTitleBar::actionEvent(QActionEvent* event)

@@ -24,5 +24,6 @@ guibase_room(docks
         survivalcheck.h
         titlebarbutton.cpp titlebarbutton_p.h
         titlebarbuttons.cpp titlebarbuttons_p.h
+        titlebardrag.cpp titlebardrag_p.h
         updatesblocker.h
         windowidentity_p.h)

@@ -8,8 +8,10 @@
 #include "updatesblocker.h"
 
 #include <guibase/layouts/floatingdockkeeper.h>
+#include <guibase/layouts/normalsize.h>
 
 #include <jtbase/qtimerhelpers.h>
+#include <jtbase/windowsystem.h>
 
 #include <QAction>
 #include <QCoreApplication>
@@ -150,6 +152,15 @@ private:
     State::Type m_state;
 };
 
+/// To be called right after the end of another state.
+void giveGeometry(QDockWidget& dock, const QRect& geometry)
+{
+    if (WindowSystem::placesWindows())
+        dock.setGeometry(geometry);
+    else
+        NormalSize::give(dock, geometry.size());
+}
+
 /// The style makes a standard icon from its image files every time; it is kept with the style. Some
 /// styles have dark ones only.
 QIcon standardIconOf(const QDockWidget& dock, QStyle::StandardPixmap kind)
@@ -199,7 +210,7 @@ bool MaximizeMinimizeSupportPrivate::changeTo(State::Type newState, bool (*opera
         insistence.setRemainingTime(insistenceMilliseconds);
         timesToInsist = newState == State::Minimized ? 0 : maximumInsistence;
         if (newState == State::Normal) {
-            dock->setGeometry(normalGeometry);
+            giveGeometry(*dock, normalGeometry);
             FloatingDockKeeper::keep(*dock);
         } else {
             normalGeometry = geometry;
@@ -261,7 +272,7 @@ void MaximizeMinimizeSupportPrivate::becomeNormal(QDockWidget& dock)
         return;
     changing = wasChanging;
     if (dock.isFloating())
-        dock.setGeometry(normalGeometry);
+        giveGeometry(dock, normalGeometry);
 }
 
 void MaximizeMinimizeSupportPrivate::followEdgeHiding(QDockWidget& dock)
@@ -412,12 +423,13 @@ bool MaximizeMinimizeSupport::eventFilter(QObject* watched, QEvent* event)
         return false;
     const SurvivalCheck receiver(watched);
     // What the window manager does to the dock, the support only takes notice of.
-    if (event->type() == QEvent::Show)
+    if (event->type() == QEvent::Show) {
         d->announceLater(!event->spontaneous());
-    else if (event->type() == QEvent::WindowStateChange && !d->changing)
+    } else if (event->type() == QEvent::WindowStateChange && !d->changing) {
         d->takeNotice(static_cast<const QWindowStateChangeEvent&>(*event));
-    else if (EdgeHiding::isChange(*event) && dockWidget() != nullptr)
+    } else if (EdgeHiding::isChange(*event) && dockWidget() != nullptr) {
         d->followEdgeHiding(*dockWidget());
+    }
     return receiver.hasDied();
 }
 

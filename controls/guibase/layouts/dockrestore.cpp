@@ -4,14 +4,18 @@
 #include "floatingdockkeeper.h"
 #include "widgetplacement.h"
 
+#include <guibase/docks/edgehiding.h>
 #include <guibase/docks/mainwindowhelpers.h>
 #include <guibase/docks/maximizeminimizesupport.h>
 #include <guibase/records/dockstatecheck.h>
+
+#include <jtbase/windowsystem.h>
 
 #include <QMainWindow>
 #include <QToolBar>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -26,6 +30,8 @@ struct FormerDock
     QPointer<QDockWidget> dock;
     Qt::DockWidgetArea area;
     QList<QPointer<QDockWidget>> tabs; ///< The others there, if the layout does not know the dock.
+    bool isFloating;
+    bool isHidden;
 };
 
 struct FormerToolBar
@@ -40,7 +46,8 @@ std::vector<FormerDock> formerDocks(const QMainWindow& window, const DockStateCh
     std::vector<FormerDock> result;
     const auto docks = QMainWindowHelpers::dockWidgets(window);
     for (QDockWidget* dock : docks) {
-        FormerDock former{dock, window.dockWidgetArea(dock), {}};
+        FormerDock former{
+            dock, window.dockWidgetArea(dock), {}, dock->isFloating(), dock->isHidden()};
         if (!known.contains(dock->objectName())) {
             const auto tabs = window.tabifiedDockWidgets(dock);
             former.tabs = {tabs.cbegin(), tabs.cend()};
@@ -84,6 +91,26 @@ void putBack(QMainWindow& window, const FormerDock& former)
         dock->setHidden(wasHidden);
 }
 
+/// A maximized dock that the layout wants otherwise becomes normal: the toolkit would only give it
+/// another geometry.
+void endMaximized(QDockWidget& dock, const MaximizedDocks& maximized)
+{
+    using QDockWidgetHelpers::MaximizeMinimizeSupport;
+    if (!dock.isFloating() || !dock.isVisible() || !dock.isMaximized())
+        return;
+    const QPointer<QDockWidget> guard(&dock);
+    auto* const support = MaximizeMinimizeSupport::get(dock);
+    if (maximized.find(dock.objectName()) == maximized.end()) {
+        if (support != nullptr)
+            support->restoreDockWidget();
+        else
+            MaximizeMinimizeSupport::restoreDockWidget(dock);
+    }
+    // Nobody may size it before the compositor has answered. The layout shows it again.
+    if (guard && !WindowSystem::placesWindows())
+        dock.hide();
+}
+
 void maximize(QDockWidget& dock)
 {
     using QDockWidgetHelpers::MaximizeMinimizeSupport;
@@ -110,6 +137,14 @@ void placeFloating(QDockWidget& dock, const MaximizedDocks& maximized)
         FloatingDockKeeper::keep(dock, FloatingDockKeeper::Place::OnScreen);
     if (guard && shallMaximize)
         maximize(dock);
+}
+
+void putBackAtEdge(const FormerDock& former)
+{
+    if (former.dock && former.dock->isFloating() != former.isFloating)
+        former.dock->setFloating(former.isFloating);
+    if (former.dock && former.dock->isHidden() != former.isHidden)
+        former.dock->setHidden(former.isHidden);
 }
 
 /// The toolkit puts all unknown tool bars of an area into one line.
@@ -141,7 +176,7 @@ DockLayout DockRestore::save(const QMainWindow& window, const DockLayout& former
     return layout;
 }
 
-void DockRestore::restore(QMainWindow& window, const DockLayout& layout)
+void DockRestore::restore(QMainWindow& window, const DockLayout& layout, EdgeDocks edgeDocks)
 {
     const auto known =
         layout.names ? layout.names : DockStateCheck::names(layout.state, stateVersion);
@@ -151,11 +186,22 @@ void DockRestore::restore(QMainWindow& window, const DockLayout& layout)
     const std::vector<FormerToolBar> toolBars = unknownToolBars(window, known->toolBars);
 
     const QPointer<QMainWindow> guard(&window);
+    for (const FormerDock& former : docks) {
+        if (former.dock)
+            endMaximized(*former.dock, layout.maximized);
+    }
+    if (!guard)
+        return;
+    std::optional<EdgeHiding::Pause> pause;
+    if (edgeDocks == EdgeDocks::Stay)
+        pause.emplace(window);
     window.restoreState(layout.state, stateVersion);
     for (const FormerDock& former : docks) {
         if (guard)
             putBack(window, former);
-        if (former.dock && former.dock->isFloating())
+        if (former.dock && edgeDocks == EdgeDocks::Stay && EdgeHiding::isOn(*former.dock))
+            putBackAtEdge(former);
+        else if (former.dock && former.dock->isFloating())
             placeFloating(*former.dock, layout.maximized);
     }
     for (const FormerToolBar& former : toolBars) {

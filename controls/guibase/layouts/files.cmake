@@ -5,6 +5,7 @@ guibase_room(layouts
         dockrestore.cpp dockrestore_p.h
         floatingdockkeeper.cpp floatingdockkeeper.h
         modetable.cpp modetable_p.h
+        normalsize.cpp normalsize.h
         persistentwidget.cpp persistentwidget_p.h
         persistentwidgetregistry.cpp persistentwidgetregistry.h
         sizewait.cpp sizewait_p.h

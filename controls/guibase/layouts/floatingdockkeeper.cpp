@@ -4,6 +4,7 @@
 #include "widgetplacement.h"
 
 #include <jtbase/qtimerhelpers.h>
+#include <jtbase/windowsystem.h>
 
 #include <QDockWidget>
 #include <QEvent>
@@ -22,7 +23,8 @@ FloatingDockKeeper::FloatingDockKeeper(QDockWidget& dock, Place place)
 void FloatingDockKeeper::keep(QDockWidget& dock, Place place)
 {
     delete dock.findChild<FloatingDockKeeper*>(QString(), Qt::FindDirectChildrenOnly);
-    (new FloatingDockKeeper(dock, place))->putBack();
+    if (WindowSystem::placesWindows())
+        (new FloatingDockKeeper(dock, place))->putBack();
 }
 
 bool FloatingDockKeeper::eventFilter(QObject*, QEvent* event)

@@ -10,7 +10,8 @@ class QDockWidget;
 /// appear before they are told its place move it to one of their own.
 ///
 /// A child of the dock. Gives up after a few attempts, when the user takes the dock with the mouse,
-/// and when it docks. Leaves maximized and minimized docks alone.
+/// and when it docks. Leaves maximized and minimized docks alone. Does nothing where programs do
+/// not place windows.
 class FloatingDockKeeper : public QObject
 {
     Q_OBJECT

@@ -15,6 +15,8 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
+using DockRestore::EdgeDocks;
+
 namespace {
 
 /// Also the docks in floating groups and in inner main windows: they end with the window, too.
@@ -316,7 +318,7 @@ void PersistentWidget::applyStart()
         size = WidgetPlacement::apply(*m_widget, m_places.start());
     if (m_widget)
         m_widget->show();
-    applyCurrentLayout();
+    applyCurrentLayout(EdgeDocks::Stay);
     if (isStored) {
         restoreGeometryIfMoved(m_places.start());
         awaitSize(size);
@@ -330,7 +332,7 @@ void PersistentWidget::applyStart()
     watch();
 }
 
-void PersistentWidget::applyCurrentLayout()
+void PersistentWidget::applyCurrentLayout(EdgeDocks edgeDocks)
 {
     const QMainWindow* docks = mainWindow();
     if (docks == nullptr)
@@ -342,10 +344,10 @@ void PersistentWidget::applyCurrentLayout()
     if (layout.programStart.state.isEmpty())
         layout.programStart = layout.latest.state.isEmpty() ? present : layout.latest;
     if (!(layout.latest == present))
-        restoreDocks(DockLayout(layout.latest));
+        restoreDocks(DockLayout(layout.latest), edgeDocks);
 }
 
-void PersistentWidget::restoreDocks(const DockLayout& layout)
+void PersistentWidget::restoreDocks(const DockLayout& layout, EdgeDocks edgeDocks)
 {
     QMainWindow* docks = mainWindow();
     if (docks == nullptr || layout.state.isEmpty() || m_isRestoringDocks)
@@ -354,7 +356,7 @@ void PersistentWidget::restoreDocks(const DockLayout& layout)
     const bool isInner = docks != m_widget;
     if (isInner)
         docks->removeEventFilter(this);
-    DockRestore::restore(*docks, layout);
+    DockRestore::restore(*docks, layout, edgeDocks);
     if (isInner && m_mainWindow)
         m_mainWindow->installEventFilter(this);
 }
@@ -367,7 +369,7 @@ void PersistentWidget::awaitSize(const QSize& size)
 
 void PersistentWidget::applyAwaited()
 {
-    m_sizeWait.retry([this](const DockLayout& layout) { restoreDocks(layout); });
+    m_sizeWait.retry([this](const DockLayout& layout) { restoreDocks(layout, EdgeDocks::Stay); });
 }
 
 void PersistentWidget::restoreGeometryIfMoved(const QByteArray& geometry)
@@ -412,7 +414,7 @@ void PersistentWidget::restore(const QByteArray& geometry, DockLayout ModeLayout
     }
     const DockLayout docks = m_modes.current().latest;
     if (m_mainWindow && !docks.state.isEmpty()) {
-        restoreDocks(docks);
+        restoreDocks(docks, EdgeDocks::Move);
         restoreGeometryIfMoved(geometry);
     }
     if (m_widget)
@@ -433,7 +435,7 @@ void PersistentWidget::setMode(quint32 mode)
     unwatch();
     if (!m_isClosed)
         m_widget->show();
-    applyCurrentLayout();
+    applyCurrentLayout(EdgeDocks::Move);
     restoreGeometryIfMoved(geometry);
     if (isAwaiting)
         awaitSize(m_sizeWait.size());

@@ -90,9 +90,9 @@ private:
     void captureDocksSoon();
     void noteVisibility(const QEvent& event);
     void applyStart();
-    void applyCurrentLayout();
+    void applyCurrentLayout(DockRestore::EdgeDocks edgeDocks);
     void restore(const QByteArray& geometry, DockLayout ModeLayout::*former);
-    void restoreDocks(const DockLayout& layout);
+    void restoreDocks(const DockLayout& layout, DockRestore::EdgeDocks edgeDocks);
     void awaitSize(const QSize& size);
     void restoreGeometryIfMoved(const QByteArray& geometry);
     void minimizeLater();

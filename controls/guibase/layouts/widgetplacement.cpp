@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "widgetplacement.h"
 
+#include "normalsize.h"
+
 #include <guibase/records/geometryrecord.h>
 #include <guibase/records/hexadecimal.h>
 #include <guibase/records/screenplacement.h>
+
+#include <jtbase/windowsystem.h>
 
 #include <QGuiApplication>
 #include <QLayout>
@@ -64,6 +68,31 @@ GeometryRecord adapted(GeometryRecord record, const QWidget& window)
     return record;
 }
 
+constexpr Qt::WindowStates allLarge = Qt::WindowMaximized | Qt::WindowFullScreen;
+constexpr Qt::WindowStates notNormal = allLarge | Qt::WindowMinimized;
+
+/// The size with which the window fits on one of the screens.
+QSize fittingSize(const QSize& size)
+{
+    const QList<QRect> areas = screenAreas();
+    const int home = ScreenPlacement::homeOf(QRect(QPoint(0, 0), size), areas);
+    return home < 0 ? size : size.boundedTo(areas.at(home).size());
+}
+
+/// For window systems where the compositor places windows: only sizes and states come back.
+void applySizeAndState(QWidget& window, const QSize& normalSize, Qt::WindowStates large)
+{
+    const bool wasNormal = !(window.windowState() & notNormal);
+    const Qt::WindowStates wanted = (window.windowState() & ~allLarge) | large;
+    const QPointer<QWidget> guard(&window);
+    if (wasNormal || !window.isVisible())
+        NormalSize::resize(window, normalSize);
+    if (guard)
+        window.setWindowState(wanted);
+    if (guard && !wasNormal && !(wanted & notNormal))
+        NormalSize::give(window, normalSize);
+}
+
 bool isPlacedByParent(QWidget& widget)
 {
     QWidget* parent = widget.parentWidget();
@@ -94,19 +123,22 @@ QSize WidgetPlacement::apply(QWidget& widget, const QByteArray& bytes)
     // Child widgets do not always know a normal place.
     if (record->normal.isEmpty())
         record->normal = record->geometry;
-    if (widget.isWindow())
+    const bool isPlacedHere = !widget.isWindow() || WindowSystem::placesWindows();
+    if (widget.isWindow() && isPlacedHere)
         record = adapted(*record, widget);
     const QSize size = record->isNormal() ? record->normal.size() : record->geometry.size();
     const Qt::WindowStates large = (record->maximized ? Qt::WindowMaximized : Qt::WindowNoState) |
                                    (record->fullScreen ? Qt::WindowFullScreen : Qt::WindowNoState);
-    constexpr Qt::WindowStates allLarge = Qt::WindowMaximized | Qt::WindowFullScreen;
     // The toolkit would shrink a window that is maximized already, and leave it so.
     if (widget.isVisible() && large && (widget.windowState() & allLarge) == large)
         return size;
+    if (!isPlacedHere) {
+        applySizeAndState(widget, fittingSize(record->normal.size()), large);
+        return large ? size : fittingSize(size);
+    }
     const QPointer<QWidget> guard(&widget);
     widget.restoreGeometry(record->toBytes());
     // The toolkit shifts and shrinks windows at the edges of the screen by a title bar's height.
-    constexpr Qt::WindowStates notNormal = allLarge | Qt::WindowMinimized;
     if (guard && !(widget.windowState() & notNormal) && widget.geometry() != record->normal)
         widget.setGeometry(record->normal);
     return size;
@@ -114,6 +146,8 @@ QSize WidgetPlacement::apply(QWidget& widget, const QByteArray& bytes)
 
 QRect WidgetPlacement::reachableGeometry(const QRect& geometry, const QWidget& window)
 {
+    if (!WindowSystem::placesWindows())
+        return {geometry.topLeft(), fittingSize(geometry.size())};
     const QMargins margins = frameMargins(window.frameGeometry(), window.geometry());
     return ScreenPlacement::reachable(geometry + margins, screenAreas()) - margins;
 }

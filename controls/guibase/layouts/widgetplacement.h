@@ -19,12 +19,13 @@ std::optional<QByteArray> fromText(const QString& text, bool isWindow = false);
 
 /// Applies what QWidget::saveGeometry() has given. Windows come back to the pixel where they were,
 /// but always whole on a screen of today. Child widgets that a layout or a splitter places keep
-/// their place. Bytes that are no geometry change nothing. Returns the size in pixels that the
-/// widget should get, now or when its window manager has maximized it; none when nothing was done.
+/// their place. Where programs do not place windows, only sizes and states come back. Bytes that
+/// are no geometry change nothing. Returns the size in pixels that the widget should get, now or
+/// when its window manager has maximized it; none when nothing was done.
 QSize apply(QWidget& widget, const QByteArray& bytes);
 
 /// The geometry, moved and shrunk no more than needed for the window and the frame that it has now
-/// to lie whole on a screen.
+/// to lie whole on a screen. Where programs do not place windows, only the size counts.
 QRect reachableGeometry(const QRect& geometry, const QWidget& window);
 
 inline constexpr int smallestWindow = 16; ///< In pixels.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/dockwindow.h"
 #include "support/guardedtest.h"
+#include "support/windowmanager.h"
 
 #include <guibase/docks/areas/tabifysupport.h>
 #include <guibase/docks/enhanceddockwidgettitlebar.h>
@@ -118,6 +119,28 @@ private Q_SLOTS:
         QVERIFY(QToolTip::text().contains(u"xxx&lt;b&gt;"_s));
         QToolTip::hideText();
     }
+    void mouseWorksTheDockWithoutPlaces()
+    {
+        const NoPlaces noPlaces;
+        const QPoint title(20, m_bar->height() / 2);
+        QTest::mousePress(m_bar, Qt::LeftButton, {}, title);
+        QTest::mouseMove(m_bar, title + QPoint(1, 1));
+        QVERIFY(!m_dock->isFloating());
+        QTest::mouseMove(m_bar, title + QPoint(50, 50));
+        QVERIFY(m_dock->isFloating());
+        QTest::mouseRelease(m_bar, Qt::LeftButton, {}, title);
+        // The window system moves it, or nobody.
+        const QPoint place = m_dock->pos();
+        QVERIFY(QTest::qWaitForWindowExposed(m_dock));
+        QTest::mousePress(m_bar, Qt::LeftButton, {}, title);
+        QTest::mouseMove(m_bar, title + QPoint(90, 60));
+        QTest::mouseRelease(m_bar, Qt::LeftButton, {}, title);
+        QCOMPARE(m_dock->pos(), place);
+        for (const bool floats : {false, true}) {
+            QTest::mouseDClick(m_bar, Qt::LeftButton, {}, title);
+            QCOMPARE(m_dock->isFloating(), floats);
+        }
+    }
     void narrowBarsUseAMenu()
     {
         for (int i = 0; i < 11; ++i)
@@ -180,7 +203,7 @@ protected:
         m_dock->setTitleBarWidget(m_bar);
         m_window->show();
         m_window->resizeDocks({m_dock}, {400}, Qt::Horizontal);
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(windowIsReady(*m_window));
     }
     void tidy() override { m_window.reset(); }
 

@@ -125,16 +125,21 @@ private Q_SLOTS:
         CHECKED(f.floatDock());
         f.dock->setWindowState(Qt::WindowMaximized);
         QTRY_COMPARE(f.visibleActions(), u"011"_s);
+        QTRY_VERIFY(f.dock->width() > 700);
         QCOMPARE(f.support->dockWidgetState(), State::Normal);
         f.dock->setWindowState(Qt::WindowNoState);
         QTRY_COMPARE(f.visibleActions(), u"110"_s);
         QVERIFY(f.support->minimizeDockWidget());
-        if (QGuiApplication::platformName() != u"offscreen"_s)
-            QTRY_VERIFY(!f.dock->windowHandle()->isExposed());
-        settle();
+        // A compositor does not tell which windows it has minimized.
+        if (WindowSystem::placesWindows()) {
+            if (QGuiApplication::platformName() != u"offscreen"_s)
+                QTRY_VERIFY(!f.dock->windowHandle()->isExposed());
+            settle();
+            // It may still pass for maximized, too.
+            QTRY_VERIFY(f.visibleActions().endsWith(u"01"_s));
+        }
         QCOMPARE(f.support->dockWidgetState(), State::Minimized);
-        QTRY_VERIFY(f.visibleActions().endsWith(u"01"_s)); // it may still pass for maximized, too
-        f.dock->setWindowState(Qt::WindowNoState);         // as from a task bar
+        f.dock->setWindowState(Qt::WindowNoState); // as from a task bar
         QTRY_COMPARE(f.visibleActions(), u"110"_s);
         settle();
         QVERIFY(!f.dock->isMinimized());

@@ -9,6 +9,8 @@
 #include <guibase/docks/mainwindowhelpers.h>
 #include <guibase/layouts/floatingdockkeeper.h>
 
+#include <jtbase/windowsystem.h>
+
 #include <QAction>
 #include <QLayout>
 #include <QMainWindow>
@@ -269,7 +271,7 @@ void AutoHideBars::setExpanded(QToolBar& toolBar, bool expanded)
 void AutoHideBars::moveDock(QDockWidget& dock, const QToolBar& toolBar)
 {
     const auto* window = qobject_cast<const QMainWindow*>(toolBar.parentWidget());
-    if (window == nullptr)
+    if (window == nullptr || !WindowSystem::placesWindows())
         return;
     // The user may have maximized the window when it was shown last.
     dock.setWindowState(dock.windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized));

@@ -58,7 +58,7 @@ public:
     void updateVisibility();
     void setExpanded(QToolBar& toolBar, bool expanded);
     /// Puts the dock against the inner edge of the bar, along its whole length and not beyond the
-    /// opposite edge of the main window.
+    /// opposite edge of the main window. Nothing where programs do not place windows.
     static void moveDock(QDockWidget& dock, const QToolBar& toolBar);
 
 private:

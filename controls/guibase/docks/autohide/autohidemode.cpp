@@ -7,6 +7,7 @@
 #include <guibase/docks/updatesblocker.h>
 
 #include <jtbase/qtimerhelpers.h>
+#include <jtbase/windowsystem.h>
 
 #include <QAction>
 #include <QMainWindow>
@@ -60,6 +61,16 @@ bool AutoHideSupportPrivate::isOn(const QDockWidget& dock)
     return entry != nullptr && entry->isOn;
 }
 
+bool AutoHideSupportPrivate::floatsDocks() const
+{
+    return syncWithFloating && WindowSystem::placesWindows();
+}
+
+bool AutoHideSupportPrivate::isInItsLayer(const QDockWidget& dock)
+{
+    return dock.isFloating() == WindowSystem::placesWindows();
+}
+
 QList<DockPointer> AutoHideSupportPrivate::docksInMode()
 {
     QList<DockPointer> docks;
@@ -107,7 +118,7 @@ void AutoHideSupportPrivate::registerDock(QDockWidget& dock)
                              named->name = name;
                      });
     QObject::connect(&dock, &QDockWidget::topLevelChanged, &q,
-                     [this, &dock] { leaveWhenGone(dock); });
+                     [this, &dock] { followFloating(dock); });
     bars.addButtons(
         dock, [this](QDockWidget& hovered) { q.popupDockWidgetOnHovered(hovered); },
         [this](QDockWidget& chosen) { showByKey(chosen); });
@@ -206,14 +217,41 @@ void AutoHideSupportPrivate::enable(QDockWidget& dock, Qt::ToolBarArea area)
         EdgeHiding::setOn(dock, true);
     if (alive && guarded)
         setActionChecked(dock, true);
-    if (alive && guarded && isOn(dock) && syncWithFloating && !dock.isFloating()) {
+    if (alive && guarded && isOn(dock))
+        moveToItsLayer(dock);
+    if (alive)
+        store();
+}
+
+void AutoHideSupportPrivate::moveToItsLayer(QDockWidget& dock)
+{
+    const DockPointer guarded(&dock);
+    const QPointer<AutoHideSupport> alive(&q);
+    if (floatsDocks() && !dock.isFloating()) {
         dock.setFloating(true);
         // The toolkit places a window that it has just made by itself.
         if (alive && guarded)
             placeLater(dock);
+    } else if (!WindowSystem::placesWindows() && dock.isFloating()) {
+        const bool isRight = bars.areaOf(&dock) == Qt::RightToolBarArea;
+        if (window()->dockWidgetArea(&dock) == Qt::NoDockWidgetArea)
+            window()->addDockWidget(isRight ? Qt::RightDockWidgetArea : Qt::LeftDockWidgetArea,
+                                    &dock);
+        if (guarded)
+            dock.setFloating(false);
     }
-    if (alive)
-        store();
+}
+
+void AutoHideSupportPrivate::followFloating(QDockWidget& dock)
+{
+    if (WindowSystem::placesWindows() || !dock.isFloating()) {
+        leaveWhenGone(dock);
+        return;
+    }
+    QTimerHelpers::singleShot(0, &q, [this, guarded = DockPointer(&dock)] {
+        if (guarded && isOn(*guarded) && guarded->isFloating())
+            disable(*guarded);
+    });
 }
 
 void AutoHideSupportPrivate::hideOthersAt(Qt::ToolBarArea area, const QDockWidget& dock)
@@ -259,7 +297,7 @@ void AutoHideSupportPrivate::restore(QDockWidget& dock, Qt::ToolBarArea area)
         dock.hide();
         // The window's layout, restored next, may show it as it was at the end of the program.
         QTimerHelpers::singleShot(0, &q, [this, guarded] {
-            if (guarded && isOn(*guarded) && guarded->isFloating())
+            if (guarded && isOn(*guarded) && isInItsLayer(*guarded))
                 timer.hide(*guarded);
         });
     }
@@ -274,7 +312,7 @@ void AutoHideSupportPrivate::disable(QDockWidget& dock)
     const QPointer<AutoHideSupport> alive(&q);
     const UpdatesBlocker blocker(dock);
     const bool wasHidden = std::exchange(entry->hiddenByMode, false);
-    const bool sync = syncWithFloating;
+    const bool docksIt = floatsDocks();
     bars.showButton(&dock, Qt::NoToolBarArea);
     bars.updateVisibility();
     timer.forget(&dock);
@@ -282,7 +320,7 @@ void AutoHideSupportPrivate::disable(QDockWidget& dock)
     EdgeHiding::setOn(dock, false);
     if (alive && guarded)
         setActionChecked(dock, false);
-    if (guarded && sync)
+    if (guarded && docksIt)
         dock.setFloating(false);
     if (guarded && wasHidden)
         dock.show();
@@ -300,7 +338,7 @@ void AutoHideSupportPrivate::leaveWhenGone(QDockWidget& dock)
             return;
         const bool isRemoved =
             entry->hadArea && window()->dockWidgetArea(guarded.get()) == Qt::NoDockWidgetArea;
-        const bool isDocked = !guarded->isFloating() && syncWithFloating && !allowNonFloating;
+        const bool isDocked = !guarded->isFloating() && floatsDocks() && !allowNonFloating;
         if (isClosed || isRemoved)
             entry->hiddenByMode = false;
         if (isClosed || isRemoved || isDocked)
@@ -312,7 +350,11 @@ void AutoHideSupportPrivate::dockShown(QDockWidget& dock)
 {
     if (Entry* entry = entryOf(&dock))
         entry->hiddenByMode = entry->isClosed = false;
-    if (dock.isFloating() || (isOn(dock) && allowNonFloating)) {
+    if (window() != nullptr && EdgeHiding::Pause::isOn(*window()))
+        return;
+    if (isOn(dock) && !WindowSystem::placesWindows()) {
+        dock.raise(); // It may be behind a tab.
+    } else if (dock.isFloating() || (isOn(dock) && allowNonFloating)) {
         place(dock);
     } else if (isOn(dock)) {
         const DockPointer guarded(&dock);
@@ -363,7 +405,7 @@ void AutoHideSupportPrivate::dismissAll()
     const QPointer<AutoHideSupport> alive(&q);
     const QList<DockPointer> docks = docksInMode();
     for (const DockPointer& dock : docks)
-        if (alive && dock && dock->isVisible() && dock->isFloating())
+        if (alive && dock && dock->isVisible() && isInItsLayer(*dock))
             timer.hide(*dock);
 }
 

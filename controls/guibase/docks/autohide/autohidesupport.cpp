@@ -7,6 +7,8 @@
 #include <guibase/docks/mainwindowhelpers.h>
 #include <guibase/docks/survivalcheck.h>
 
+#include <jtbase/windowsystem.h>
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QKeyEvent>
@@ -190,6 +192,11 @@ Qt::ToolBarArea AutoHideSupport::selectToolBarAreaByDockWidgetArea(const QMainWi
 Qt::ToolBarArea AutoHideSupport::selectToolBarAreaByDockWidgetScreenPosition(
     const QMainWindow& mainWindow, const QDockWidget& dock, QFlags<Qt::ToolBarArea>)
 {
+    // Where windows have no places, that of the dock in the main window counts.
+    if (dock.isFloating() && !WindowSystem::placesWindows())
+        return mainWindow.dockWidgetArea(const_cast<QDockWidget*>(&dock)) == Qt::RightDockWidgetArea
+                   ? Qt::RightToolBarArea
+                   : Qt::LeftToolBarArea;
     const auto centre = [](const QRect& rect) { return (rect.left() + rect.right()) / 2; };
     QRect dockRect = dock.geometry();
     if (!dock.isFloating())

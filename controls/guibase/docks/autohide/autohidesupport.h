@@ -24,7 +24,9 @@ struct AutoHideSupportPrivate;
 /// Lets the docks of a main window hide themselves. A dock in auto-hide mode floats and has a
 /// button on a narrow tool bar at the left or right edge. A click on it, or the mouse over it if
 /// the user wants that, shows the dock against the tool bar; it hides again a while after the mouse
-/// has left it. The support belongs to its main window and sees docks come and go by itself. More:
+/// has left it. Where programs do not place windows (see WindowSystem::placesWindows()), the docks
+/// do not float: they show and hide in their places inside the main window. The support belongs to
+/// its main window and sees docks come and go by itself. More:
 /// docs/decisions/0041-title-bars-and-docks-at-the-edge.md.
 class GUIBASE_EXPORT AutoHideSupport : public QObject
 {
@@ -53,6 +55,7 @@ public:
     void setPopupOnHoverEnabled(bool enabled);
     bool isPopupOnHoverEnabled() const;
     /// Whether a dock floats when it enters the mode and is docked when it leaves it; default true.
+    /// Without effect where programs do not place windows.
     void setSyncAutoHideWithFloatingEnabled(bool enabled);
     bool isSyncAutoHideWithFloatingEnabled() const;
     /// Whether a docked dock may be in the mode when it is shown; default false: it leaves it.

@@ -40,6 +40,10 @@ struct AutoHideSupportPrivate
     QMainWindow* window() const;
     Entry* entryOf(const QObject* dock);
     bool isOn(const QDockWidget& dock);
+    /// Whether docks float while they are in the mode. Where programs do not place windows they
+    /// show and hide inside the main window instead.
+    bool floatsDocks() const;
+    static bool isInItsLayer(const QDockWidget& dock);
     QList<DockPointer> docksInMode();
     /// Ends the mode of all docks, and the service.
     void release();
@@ -60,6 +64,10 @@ struct AutoHideSupportPrivate
     void disable(QDockWidget& dock);
     /// Ends the mode of a dock that was closed, docked while hidden, or taken out of the window.
     void leaveWhenGone(QDockWidget& dock);
+    /// Makes the dock float, or puts it into the window, as docks of the mode shall be.
+    void moveToItsLayer(QDockWidget& dock);
+    /// Ends the mode of a dock that the user has put where docks of the mode are not.
+    void followFloating(QDockWidget& dock);
     /// Hides the docks that this one would cover, but not one that the user is working in.
     void hideOthersAt(Qt::ToolBarArea area, const QDockWidget& dock);
     void placeLater(QDockWidget& dock);

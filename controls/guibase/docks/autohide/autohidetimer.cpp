@@ -4,6 +4,7 @@
 #include <guibase/docks/dockfocus.h>
 
 #include <jtbase/qtimerhelpers.h>
+#include <jtbase/windowsystem.h>
 
 #include <QApplication>
 #include <QCursor>
@@ -50,7 +51,9 @@ void AutoHideTimer::setDelay(int milliseconds)
 
 bool AutoHideTimer::isUnderCursor(const QWidget& widget)
 {
-    return widget.rect().contains(widget.mapFromGlobal(QCursor::pos()));
+    return WindowSystem::tellsPointerEverywhere()
+               ? widget.rect().contains(widget.mapFromGlobal(QCursor::pos()))
+               : widget.underMouse();
 }
 
 void AutoHideTimer::start(QDockWidget& dock)

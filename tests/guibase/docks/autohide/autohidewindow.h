@@ -6,6 +6,8 @@
 #include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
 
+#include <jtbase/windowsystem.h>
+
 #include <QAction>
 #include <QCursor>
 #include <QEnterEvent>
@@ -32,7 +34,8 @@ struct AutoHideWindow
         support = AutoHideSupport::install(*window, bothSides);
         support->setAutoHideDelay(20);
         window->show();
-        QCursor::setPos(outside);
+        if (WindowSystem::placesWindows())
+            QCursor::setPos(outside);
         QCoreApplication::processEvents();
     }
 

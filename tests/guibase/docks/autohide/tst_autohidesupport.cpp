@@ -4,6 +4,7 @@
 #include "support/checked.h"
 #include "support/duetimers.h"
 #include "support/guardedtest.h"
+#include "support/windowmanager.h"
 
 #include <guibase/docks/maximizeminimizesupport.h>
 
@@ -150,6 +151,42 @@ private Q_SLOTS:
         QVERIFY(w.left->isVisible());
         QCursor::setPos(w.window->geometry().center());
         QTRY_VERIFY(!w.left->isVisible());
+    }
+    void staysInTheWindowWithoutPlaces()
+    {
+        const NoPlaces noPlaces;
+        AutoHideWindow w;
+        w.right->setFloating(true);
+        for (QDockWidget* dock : {w.left, w.right}) {
+            w.support->enableAutoHide(*dock);
+            QVERIFY(!dock->isFloating() && w.isOn(dock));
+        }
+        QCOMPARE(w.buttons(w.right).first()->parentWidget(), w.bar(Qt::RightToolBarArea));
+        leave(w.left);
+        leave(w.right);
+        QTRY_VERIFY(!w.left->isVisible() && !w.right->isVisible());
+        settle();
+        QVERIFY(w.isOn(w.left) && w.isOn(w.right));
+
+        // The pointer goes over the button into the dock, and leaves the window.
+        QToolButton* button = w.buttons(w.left).first();
+        enter(button);
+        QVERIFY(w.left->isVisible());
+        QCOMPARE(w.window->dockWidgetArea(w.left), Qt::LeftDockWidgetArea);
+        leave(button);
+        enter(w.left);
+        letTimersFire(60); // the delay since the mouse has left the button
+        QVERIFY(w.left->isVisible());
+        leave(w.left);
+        QTRY_VERIFY(!w.left->isVisible());
+
+        w.support->disableAutoHide(*w.left);
+        QVERIFY(w.left->isVisible() && !w.left->isFloating());
+        // The user has found another place for it.
+        w.right->show();
+        w.right->setFloating(true);
+        QTRY_VERIFY(!w.isOn(w.right));
+        QVERIFY(w.right->isFloating());
     }
     void ownWindowsKeepItOpen()
     {
