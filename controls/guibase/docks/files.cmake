@@ -21,6 +21,7 @@ guibase_room(docks
         docksizes.cpp docksizes.h
         docktitle.h
         edgehiding.h
+        managedwindow.cpp managedwindow_p.h
         survivalcheck.h
         titlebarbutton.cpp titlebarbutton_p.h
         titlebarbuttons.cpp titlebarbuttons_p.h

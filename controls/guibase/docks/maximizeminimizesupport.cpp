@@ -4,6 +4,7 @@
 #include "attachedhelper.h"
 #include "dockicons.h"
 #include "edgehiding.h"
+#include "managedwindow_p.h"
 #include "survivalcheck.h"
 #include "updatesblocker.h"
 
@@ -37,6 +38,8 @@ constexpr const char* propertyName = "QDockWidgetHelpers_MaximizeMinimizeSupport
 /// once.
 constexpr int insistenceMilliseconds = 1000;
 constexpr int maximumInsistence = 3;
+/// After so long, a window manager has done what it was asked for, or does not do it.
+constexpr int refusalMilliseconds = 3000;
 
 /// One of the three things that can be done with a floating dock.
 struct Operation
@@ -88,6 +91,7 @@ struct MaximizeMinimizeSupportPrivate
     /// Whether the window manager has just taken the state back.
     bool isUndone(const QDockWidget& dock) const;
     void takeNotice(const QWindowStateChangeEvent& stateChange);
+    void dropRefusedState();
     void announcePossible(size_t operation);
     void announceChanges();
 
@@ -214,9 +218,26 @@ bool MaximizeMinimizeSupportPrivate::changeTo(State::Type newState, bool (*opera
             FloatingDockKeeper::keep(*dock);
         } else {
             normalGeometry = geometry;
+            QTimerHelpers::singleShot(refusalMilliseconds, &q, [this] { dropRefusedState(); });
         }
     }
     return changed;
+}
+
+void MaximizeMinimizeSupportPrivate::dropRefusedState()
+{
+    QDockWidget* dock = q.dockWidget();
+    if (dock == nullptr || !insistence.hasExpired() ||
+        !ManagedWindow::hasRefusedState(*dock, normalGeometry.size()))
+        return;
+    const QPointer<Support> alive(&q);
+    const Notifier notifier(*this, Notifier::ChangesOnly);
+    const bool wasMinimized = dock->isMinimized();
+    timesToInsist = 0;
+    dock->setWindowState(dock->windowState() &
+                         ~(wasMinimized ? Qt::WindowMinimized : Qt::WindowMaximized));
+    if (alive)
+        state = Support::dockWidgetState(*dock);
 }
 
 void MaximizeMinimizeSupportPrivate::announceLater(bool reapplyState)
@@ -352,6 +373,7 @@ MaximizeMinimizeSupport::MaximizeMinimizeSupport(QDockWidget& dock)
     connect(&dock, &QDockWidget::dockLocationChanged, this,
             &MaximizeMinimizeSupport::onDockLocationChanged);
     dock.installEventFilter(this);
+    ManagedWindow::allowStates(dock);
     onFloatingStateChanged();
 }
 
@@ -424,6 +446,8 @@ bool MaximizeMinimizeSupport::eventFilter(QObject* watched, QEvent* event)
     const SurvivalCheck receiver(watched);
     // What the window manager does to the dock, the support only takes notice of.
     if (event->type() == QEvent::Show) {
+        if (dockWidget() != nullptr && !event->spontaneous())
+            ManagedWindow::allowStates(*dockWidget());
         d->announceLater(!event->spontaneous());
     } else if (event->type() == QEvent::WindowStateChange && !d->changing) {
         d->takeNotice(static_cast<const QWindowStateChangeEvent&>(*event));

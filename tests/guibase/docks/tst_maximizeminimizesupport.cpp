@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QPointer>
+#include <QProcess>
 #include <QTest>
 #include <QToolButton>
 #include <QWindow>
@@ -149,6 +150,24 @@ private Q_SLOTS:
         QVERIFY(f.support->minimizeDockWidget());
         QVERIFY(f.support->restoreDockWidget());
         QTRY_COMPARE(f.dock->geometry(), f.geometry);
+    }
+    void isAWindowThatManagersMaximize()
+    {
+        if (QGuiApplication::platformName() != u"xcb"_s)
+            QSKIP("Other window systems have no types of windows.");
+        Fixture f;
+        for (int round = 0; round < 2; ++round) {
+            CHECKED(f.floatDock());
+            QProcess xprop;
+            xprop.start(u"xprop"_s, {u"-id"_s, QString::number(f.dock->winId()),
+                                     u"_NET_WM_WINDOW_TYPE"_s, u"WM_TRANSIENT_FOR"_s});
+            QVERIFY(xprop.waitForFinished());
+            const QByteArray properties = xprop.readAll();
+            QVERIFY2(properties.contains("= _NET_WM_WINDOW_TYPE_NORMAL,"), properties);
+            QVERIFY2(properties.contains("window id #"), properties); // above its main window
+            f.dock->setFloating(false);
+            QTRY_COMPARE(f.visibleActions(), u"000"_s);
+        }
     }
     /// Late messages of the window manager give the toolkit a wrong place, every third time or so.
     void floatsWhereItWas()
