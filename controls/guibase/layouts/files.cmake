@@ -8,6 +8,7 @@ guibase_room(layouts
         normalsize.cpp normalsize.h
         persistentwidget.cpp persistentwidget_p.h
         persistentwidgetregistry.cpp persistentwidgetregistry.h
+        screenwatch.cpp screenwatch_p.h
         sizewait.cpp sizewait_p.h
         widgetplacement.cpp widgetplacement.h
         windowplaces.cpp windowplaces_p.h

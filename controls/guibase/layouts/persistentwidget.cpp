@@ -305,6 +305,15 @@ void PersistentWidget::watchDocks()
         dock->installEventFilter(this);
 }
 
+void PersistentWidget::makeReachable()
+{
+    const QList<QDockWidget*> docks = docksWithin(m_mainWindow);
+    for (QDockWidget* dock : docks)
+        WidgetPlacement::makeReachable(*dock);
+    if (m_widget)
+        WidgetPlacement::makeReachable(*m_widget);
+}
+
 // --- Applying ------------------------------------------------------------------------------------
 // Every call into the toolkit may run handlers of the application, which may delete the widget.
 

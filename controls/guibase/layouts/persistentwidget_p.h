@@ -54,6 +54,9 @@ public:
     void beginEnd();
     void giveUpEnd();
     void applyAwaited();
+    /// Brings the window and its floating docks back to a screen, if the user can no longer take
+    /// them.
+    void makeReachable();
     /// Captures the dock layout of the current mode, applies that of another one and shows the
     /// widget unless it was closed.
     void setMode(quint32 mode);

@@ -2,6 +2,7 @@
 #include "persistentwidgetregistry.h"
 
 #include "persistentwidget_p.h"
+#include "screenwatch_p.h"
 
 #include <jtbase/qtimerhelpers.h>
 
@@ -34,6 +35,9 @@ void PersistentWidgetRegistry::registerWidget(QWidget* widget, const QString& re
     });
     m_widgets.push_back(entry);
     QCoreApplication::instance()->installEventFilter(this); // No matter how often.
+    if (!m_screens)
+        m_screens = std::make_unique<ScreenWatch>(
+            [this] { forEachWidget(&PersistentWidget::makeReachable); });
     entry->read();
 }
 
@@ -52,6 +56,7 @@ void PersistentWidgetRegistry::unregisterWidget(const QObject* widget)
 void PersistentWidgetRegistry::clear()
 {
     m_store.dropChanges();
+    m_screens.reset();
     m_widgets.clear();
 }
 

@@ -12,6 +12,7 @@
 
 class PersistentWidget;
 class QWidget;
+class ScreenWatch;
 
 /// The widgets whose layout is kept from run to run, in the order of their registration.
 ///
@@ -55,6 +56,7 @@ private:
     void awaitEnd(int loopLevel);
 
     std::vector<std::shared_ptr<PersistentWidget>> m_widgets;
+    std::unique_ptr<ScreenWatch> m_screens; ///< While there is an application object.
     bool m_isRestoring = false;
     bool m_awaitsEnd = false;
     RecordStore m_store{SettingsView, QString(), [this] { writeChanges(); }};

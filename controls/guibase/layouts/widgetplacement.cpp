@@ -151,3 +151,12 @@ QRect WidgetPlacement::reachableGeometry(const QRect& geometry, const QWidget& w
     const QMargins margins = frameMargins(window.frameGeometry(), window.geometry());
     return ScreenPlacement::reachable(geometry + margins, screenAreas()) - margins;
 }
+
+void WidgetPlacement::makeReachable(QWidget& window)
+{
+    if (!WindowSystem::placesWindows() || !window.isWindow() || !window.isVisible() ||
+        (window.windowState() & notNormal) ||
+        ScreenPlacement::isReachable(window.frameGeometry(), screenAreas()))
+        return;
+    window.setGeometry(reachableGeometry(window.geometry(), window));
+}

@@ -28,6 +28,11 @@ QSize apply(QWidget& widget, const QByteArray& bytes);
 /// to lie whole on a screen. Where programs do not place windows, only the size counts.
 QRect reachableGeometry(const QRect& geometry, const QWidget& window);
 
+/// Brings a visible window that the user can no longer take with the mouse back to a screen, as
+/// after a change of the screens. Nothing for maximized ones, and where programs do not place
+/// windows.
+void makeReachable(QWidget& window);
+
 inline constexpr int smallestWindow = 16; ///< In pixels.
 
 } // namespace WidgetPlacement

@@ -56,3 +56,14 @@ QRect ScreenPlacement::reachable(const QRect& window, const QList<QRect>& areas)
         std::clamp(result.top(), area.top(), area.top() + area.height() - result.height()));
     return result;
 }
+
+bool ScreenPlacement::isReachable(const QRect& window, const QList<QRect>& areas)
+{
+    constexpr QSize edge(100, 20);
+    const QRect upperEdge(window.topLeft(), QSize(window.width(), edge.height()));
+    const QSize least(std::min(edge.width(), window.width()), edge.height() / 2);
+    return areas.isEmpty() || std::any_of(areas.cbegin(), areas.cend(), [&](const QRect& area) {
+               const QRect shown = upperEdge & area;
+               return shown.width() >= least.width() && shown.height() >= least.height();
+           });
+}

@@ -15,4 +15,8 @@ int homeOf(const QRect& window, const QList<QRect>& areas);
 /// is when the areas together cover it, and when there are no areas.
 QRect reachable(const QRect& window, const QList<QRect>& areas);
 
+/// Whether the user can take the window, with its frame, by its upper edge: enough of that is in
+/// one of the areas. True without any areas.
+bool isReachable(const QRect& window, const QList<QRect>& areas);
+
 } // namespace ScreenPlacement

@@ -177,6 +177,18 @@ private Q_SLOTS:
         const auto& [window, areas, expected] = Placements::fetch();
         QCOMPARE(ScreenPlacement::reachable(window, areas), expected);
         QCOMPARE(ScreenPlacement::reachable(expected, areas), expected);
+        QVERIFY(ScreenPlacement::isReachable(expected, areas));
+    }
+    void windowsThatCanBeTaken()
+    {
+        const QList<QRect> screens{QRect(0, 0, 1000, 800)};
+        const std::pair<QRect, bool> windows[] = {{QRect(900, 700, 500, 400), true},
+                                                  {QRect(-450, 700, 500, 400), false},
+                                                  {QRect(10, -30, 500, 400), false},
+                                                  {QRect(10, 795, 500, 400), false},
+                                                  {QRect(970, 10, 30, 400), true}};
+        for (const auto& [window, isReachable] : windows)
+            QCOMPARE(ScreenPlacement::isReachable(window, screens), isReachable);
     }
 };
 
