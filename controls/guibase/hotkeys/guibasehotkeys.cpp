@@ -114,6 +114,10 @@ void GuiBase::ExecHotKeysDialog(QWidget* parent)
 
 bool GuiBase::eventFilter(QObject* object, QEvent* event)
 {
+    if (event->type() == QEvent::ApplicationPaletteChange && object == d->application) {
+        d->followDesktopColors();
+        return false;
+    }
     if (event->type() == QEvent::Shortcut)
         return d->helpMenu.resolveAmbiguity(*static_cast<QShortcutEvent*>(event));
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)

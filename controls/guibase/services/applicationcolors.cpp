@@ -8,6 +8,23 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+namespace {
+
+bool isDesktopDark()
+{
+    constexpr double darkest = 0.5;
+    return QGuiApplication::palette().color(QPalette::Window).lightnessF() < darkest;
+}
+
+/// Whether the set is active as it comes with the library.
+bool isActive(const char* name)
+{
+    const ColorSet& colors = ColorSet::Instance();
+    return !colors.GetDirty() && colors.GetName() == QLatin1String(name);
+}
+
+} // namespace
+
 void ApplicationColors::ensure()
 {
     ColorSet::Instance();
@@ -25,13 +42,17 @@ void ApplicationColors::readUserColors()
 
 void ApplicationColors::chooseByDesktop()
 {
-    constexpr double darkest = 0.5;
-    const ColorSet& colors = ColorSet::Instance();
-    const bool isUntouched =
-        !colors.GetDirty() && colors.GetName() == QLatin1String(ColorSet::factoryDefaultName);
-    if (isUntouched &&
-        QGuiApplication::palette().color(QPalette::Window).lightnessF() < darkest)
+    if (isActive(ColorSet::factoryDefaultName) && isDesktopDark())
         ColorSet::Instance().Load(nullptr, QString::fromLatin1(ColorSet::darkDesktopName));
+}
+
+void ApplicationColors::followDesktop()
+{
+    ColorSet::Instance().slotRestoreSystemColors();
+    if (isActive(ColorSet::darkDesktopName) && !isDesktopDark())
+        restoreFactoryColors();
+    else
+        chooseByDesktop();
 }
 
 void ApplicationColors::restoreFactoryColors()

@@ -21,6 +21,12 @@ GuiBasePrivate::GuiBasePrivate(GuiBase& services)
     , helpMenu(services)
 {}
 
+void GuiBasePrivate::followDesktopColors()
+{
+    ApplicationColors::followDesktop();
+    GuiBase::Instance().emit_signalColorsChanged();
+}
+
 // The colour set is made first, so that it is destroyed after the services: they ask for its name
 // when the application ends, which may be as late as the destruction of static objects.
 GuiBase::GuiBase()

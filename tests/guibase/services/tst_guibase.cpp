@@ -58,8 +58,8 @@ private Q_SLOTS:
     {
         for (const QString& good : {QDir::rootPath(), QString(), QDir::tempPath()}) {
             QVERIFY(m_services->SetDefaultDataDirectory(good));
-            for (const QString& bad : {QStringLiteral("/no/such/folder"),
-                                       QCoreApplication::applicationFilePath()})
+            for (const QString& bad :
+                 {QStringLiteral("/no/such/folder"), QCoreApplication::applicationFilePath()})
                 QVERIFY2(!m_services->SetDefaultDataDirectory(bad), qPrintable(bad));
             QCOMPARE(m_services->GetDefaultDataDirectory(), good);
         }
@@ -180,12 +180,15 @@ private Q_SLOTS:
     }
     void darkDesktopGetsTheDarkColors()
     {
-        const QPalette former = QApplication::palette();
+        const QPalette light = QApplication::palette();
         QApplication::setPalette(QPalette(QColor(30, 30, 30)));
         m_services->SetApplication(qApp);
-        QApplication::setPalette(former);
-        QCOMPARE(ColorSet::Instance().GetName(), QLatin1String(ColorSet::darkDesktopName));
-        ColorSet::Instance().slotRestoreFactoryColors();
+        const QString whenDark = ColorSet::Instance().GetName();
+        QSignalSpy changes(m_services, &GuiBase::signalColorsChanged);
+        QApplication::setPalette(light);
+        QCOMPARE(whenDark, QLatin1String(ColorSet::darkDesktopName));
+        QCOMPARE(ColorSet::Instance().GetName(), QLatin1String(ColorSet::factoryDefaultName));
+        QVERIFY(!changes.isEmpty());
     }
     void applicationIsForgotten()
     {
