@@ -7,12 +7,16 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <sys/stat.h>
+
 namespace bandmonitor {
 
 namespace {
 
 constexpr double slowestReplay = 0.1;
 constexpr double fastestReplay = 100;
+constexpr int smallestHistory = 1;
+constexpr int largestHistory = 1'000'000;
 
 QString tr(const char* text)
 {
@@ -57,13 +61,32 @@ std::optional<double> replayFactorOf(const QString& text)
                                                                     : std::nullopt;
 }
 
-/// Reads the name of the recording into `file`. Returns what is wrong, or nothing.
-QString takeFile(const QStringList& files, QString& file)
+bool isFifo(const QString& name)
+{
+    struct stat status
+    {};
+    return ::stat(QFile::encodeName(name).constData(), &status) == 0 && S_ISFIFO(status.st_mode);
+}
+
+/// Reads where the sweeps come from. Returns what is wrong, or nothing.
+QString takeFile(const QStringList& files, bool isFollowed, CommandLine& result)
 {
     if (files.size() > 1)
         return tr("Only one recording can be opened, but %1 were given.").arg(files.size());
-    file = files.value(0);
-    return file.isEmpty() ? QString() : fileProblem(file);
+    result.file = files.value(0);
+    if (!isFollowed && result.file == QLatin1String("-")) {
+        result.live = CommandLine::StandardInput;
+    } else if (isFollowed || !result.file.isEmpty()) {
+        if (const QString problem = fileProblem(result.file); !problem.isEmpty())
+            return problem;
+        if (isFifo(result.file))
+            result.live = CommandLine::Fifo;
+        else if (isFollowed)
+            result.live = CommandLine::FollowedFile;
+    }
+    return result.live != CommandLine::None && !result.screenshotsFolder.isEmpty()
+               ? tr("Pictures are taken of recordings, not of live input.")
+               : QString();
 }
 
 struct Options
@@ -82,6 +105,13 @@ struct Options
         QStringLiteral("replay"),
         tr("Start to replay at once, FACTOR (0.1 to 100) times as fast as recorded."),
         QStringLiteral("FACTOR")};
+    QCommandLineOption follow{QStringLiteral("follow"),
+                              tr("Show the sweeps of FILE live, while another program writes it."),
+                              QStringLiteral("FILE")};
+    QCommandLineOption history{
+        QStringLiteral("history"),
+        tr("Keep so many megabytes (1 to 1000000) of live sweeps; 512 by default."),
+        QStringLiteral("MB")};
 };
 
 /// Reads the options and the name of the recording.
@@ -104,7 +134,20 @@ CommandLine readValues(const QCommandLineParser& parser, const Options& options)
             return failure(
                 tr("The replay factor must be a number from 0.1 to 100, not \"%1\".").arg(factor));
     }
-    const QString problem = takeFile(parser.positionalArguments(), result.file);
+    if (parser.isSet(options.history)) {
+        const QString text = parser.value(options.history);
+        bool ok = false;
+        const int megabytes = NumberHelpers::parse<int>(text, &ok);
+        if (!ok || megabytes < smallestHistory || megabytes > largestHistory)
+            return failure(
+                tr("The history must be a number of megabytes from 1 to 1000000, not \"%1\".")
+                    .arg(text));
+        result.historyMegabytes = megabytes;
+    }
+    const bool isFollowed = parser.isSet(options.follow);
+    const QStringList followed =
+        isFollowed ? QStringList(parser.value(options.follow)) : QStringList();
+    const QString problem = takeFile(parser.positionalArguments() + followed, isFollowed, result);
     return problem.isEmpty() ? result : failure(problem);
 }
 
@@ -116,10 +159,11 @@ CommandLine parseCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         tr("Shows and replays recordings of a band: spectrum, waterfall and hold maximum."));
-    parser.addOptions(
-        {options.help, options.version, options.config, options.screenshots, options.replay});
+    parser.addOptions({options.help, options.version, options.config, options.screenshots,
+                       options.replay, options.follow, options.history});
     parser.addPositionalArgument(QStringLiteral("FILE"),
-                                 tr("The recording to open; without it, the built-in sample."),
+                                 tr("The recording to open; a FIFO, or - for the standard input, "
+                                    "is shown live; without it, the built-in sample."),
                                  QStringLiteral("[FILE]"));
     if (!parser.parse(arguments))
         return failure(parser.errorText());

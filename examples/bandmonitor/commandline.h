@@ -19,7 +19,12 @@ struct CommandLine
 
     Action action = Run;
     QString text;
-    QString file;                       ///< Empty: the built-in sample.
+    /// Where live input comes from; with None `file` is a recording.
+    enum Live { None, StandardInput, Fifo, FollowedFile };
+
+    QString file; ///< Empty: the built-in sample.
+    Live live = None;
+    std::optional<int> historyMegabytes;
     QString configFolder;               ///< Empty: the platform's.
     QString screenshotsFolder;          ///< Empty: no pictures, a normal run.
     std::optional<double> replayFactor; ///< 0.1 to 100; without it the replay waits.

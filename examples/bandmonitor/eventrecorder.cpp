@@ -14,11 +14,22 @@ EventRecorder::EventRecorder(Session* session, const Modes* modes, QObject* pare
     , m_session(session)
     , m_log(&session->events())
 {
-    connect(session, &Session::recordingChanged, this, &EventRecorder::recordingChanged);
+    connect(session, &Session::recordingChanged, this, [this] { m_hasBegun = false; });
+    connect(session, &Session::opened, this, &EventRecorder::recordingOpened);
     connect(session, &Session::openFailed, this, [this](const QString& text) {
         m_log->add(EventKind::Recording, tr("Not opened: %1").arg(text));
     });
     connect(session, &Session::sweepShown, this, &EventRecorder::sweepShown);
+    connect(session, &Session::begun, this, [this] {
+        if (m_session->isLive() && m_session->live()->recording() == m_session->recording())
+            m_log->add(EventKind::Recording, tr("Live input from %1").arg(m_session->fileName()));
+    });
+    connect(session, &Session::liveEnded, this, [this](const QString& text) {
+        m_log->add(EventKind::Recording, tr("Live input has ended. %1").arg(text));
+    });
+    connect(session, &Session::liveFailed, this, [this](const QString& text) {
+        m_log->add(EventKind::Recording, tr("No live input. %1").arg(text));
+    });
     connect(&session->jobs(), &Jobs::jobChanged, this, &EventRecorder::jobChanged);
     connect(modes, &Modes::modeChanged, this, &EventRecorder::modeChanged);
 }
@@ -30,9 +41,8 @@ void EventRecorder::refreshTexts()
     m_text.refresh();
 }
 
-void EventRecorder::recordingChanged()
+void EventRecorder::recordingOpened()
 {
-    m_hasBegun = false;
     const qint64 skippedLines = m_session->loader().skippedCount();
     QString text = tr("%1 opened: %2")
                        .arg(m_session->fileName(), sweepCountText(m_session->recording()->count()));

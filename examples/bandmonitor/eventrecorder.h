@@ -31,7 +31,7 @@ public Q_SLOTS:
     void refreshTexts();
 
 private:
-    void recordingChanged();
+    void recordingOpened();
     /// Writes which followed signals came and which ones are no longer followed. At a beginning,
     /// when all signals are new, it only writes that they are.
     void sweepShown();

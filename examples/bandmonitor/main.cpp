@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "commandline.h"
 #include "dialogcloser.h"
+#include "live/descriptorsource.h"
+#include "live/followedfile.h"
 #include "mainwindow.h"
 #include "model/samplegenerator.h"
 #include "screenshots.h"
@@ -69,6 +71,44 @@ void serve(const CommandLine& commandLine, MainWindow& window, DialogCloser* dia
     QCoreApplication::exit(done ? 0 : 1);
 }
 
+/// Null for a recording.
+std::unique_ptr<LiveSource> liveSource(const CommandLine& commandLine)
+{
+    switch (commandLine.live) {
+    case CommandLine::StandardInput:
+        return DescriptorSource::standardInput();
+    case CommandLine::Fifo:
+        return std::make_unique<DescriptorSource>(commandLine.file);
+    case CommandLine::FollowedFile:
+        return std::make_unique<FollowedFile>(commandLine.file);
+    case CommandLine::None:
+        break;
+    }
+    return nullptr;
+}
+
+/// Opens what the command line names. As long as nothing of it was shown, a failure ends the
+/// program.
+void open(const CommandLine& commandLine, MainWindow& window)
+{
+    auto* guard = new QObject(&window);
+    const auto fail = [](const QString& text) {
+        printError(text);
+        QCoreApplication::exit(1);
+    };
+    Session& session = window.session();
+    QObject::connect(&session, &Session::openFailed, guard, fail);
+    QObject::connect(&session, &Session::liveFailed, guard, fail);
+    QObject::connect(&session, &Session::begun, guard, &QObject::deleteLater);
+    if (commandLine.historyMegabytes)
+        window.setHistory(static_cast<std::size_t>(*commandLine.historyMegabytes) << 20);
+    if (std::unique_ptr<LiveSource> source = liveSource(commandLine))
+        window.openLive(std::move(source), MainWindow::OnFailure::Tell);
+    else
+        window.open(commandLine.file.isEmpty() ? samplePath() : commandLine.file,
+                    MainWindow::OnFailure::Tell);
+}
+
 int run(int argc, char** argv, const CommandLine& commandLine)
 {
     TrovApplication::ChooseWindowSystem();
@@ -92,21 +132,11 @@ int run(int argc, char** argv, const CommandLine& commandLine)
         new SignalNotifier(&window); // The window owns it. Pictures show the program alone.
     window.show();
     services.Write2Splash(QApplication::translate("main", "Opening the recording…"));
-    Session& session = window.session();
-    const auto failed =
-        QObject::connect(&session, &Session::openFailed, &window, [](const QString& text) {
-            printError(text);
-            QCoreApplication::exit(1);
-        });
     QObject::connect(
-        &session, &Session::opened, &window,
-        [&window, &commandLine, &dialogs, failed] {
-            QObject::disconnect(failed);
-            serve(commandLine, window, dialogs.get());
-        },
+        &window.session(), &Session::opened, &window,
+        [&window, &commandLine, &dialogs] { serve(commandLine, window, dialogs.get()); },
         Qt::SingleShotConnection);
-    window.open(commandLine.file.isEmpty() ? samplePath() : commandLine.file,
-                MainWindow::OnFailure::Tell);
+    open(commandLine, window);
     services.HideSplash();
     return QApplication::exec();
 }

@@ -81,7 +81,8 @@ void MainWindow::buildFileMenu()
     QAction* save = addEntry(menu, tr("&Save visible sweep as…"), {Qt::CTRL | Qt::Key_S}, false);
     save->setEnabled(false);
     connect(save, &QAction::triggered, this, &MainWindow::saveVisibleSweep);
-    connect(&m_session, &Session::opened, save, [save] { save->setEnabled(true); });
+    connect(&m_session, &Session::begun, save, [save] { save->setEnabled(true); });
+    buildLiveEntries(menu);
     connect(menu, &QMenu::aboutToShow, recent,
             [recent] { recent->menuAction()->setEnabled(!recent->isEmpty()); });
     menu->addSeparator();
@@ -198,6 +199,7 @@ void MainWindow::buildReplayMenu()
     addEntry(menu, m_replayBar->backAction(), true);
     addEntry(menu, m_replayBar->forwardAction(), true);
     addEntry(menu, m_replayBar->firstAction(), true);
+    addEntry(menu, m_replayBar->lastAction(), true);
 }
 
 void MainWindow::buildJobsMenu()

@@ -8,6 +8,7 @@
 #include "counts.h"
 #include "eventrecorder.h"
 #include "infodialog.h"
+#include "live/sourcelabel.h"
 #include "model/panenames.h"
 #include "panels/icons.h"
 #include "panels/panel.h"
@@ -61,6 +62,7 @@ MainWindow::MainWindow(QWidget* parent)
     buildCentre();
     buildStatusBar();
     connectSession();
+    connectLive();
     addJobs();
     buildPanels();
     restoreSettings();
@@ -100,10 +102,11 @@ void MainWindow::connectSession()
     connect(&m_session, &Session::openProgress, this, [this](qint64 done, qint64 total) {
         m_progress->setValue(total > 0 ? static_cast<int>(done * progressSteps / total) : 0);
     });
-    auto* pins = new PinKeeper(m_values, &m_bandView->visibleBand(), this);
-    connect(&m_session, &Session::recordingChanged, pins, [this, pins] {
-        pins->changeBand([this] { m_bandView->setRecording(m_session.recording()); });
+    m_pins = new PinKeeper(m_values, &m_bandView->visibleBand(), this);
+    connect(&m_session, &Session::recordingChanged, m_pins, [this] {
+        m_pins->changeBand([this] { m_bandView->setRecording(m_session.recording()); });
     });
+    connect(&m_session, &Session::grown, this, &MainWindow::recordingGrown);
     connect(&m_session, &Session::sweepShown, m_bandView, &BandView::showSweep);
     connect(&m_session, &Session::sweepShown, this, &MainWindow::updateTitle);
     connect(&m_session, &Session::referenceLevelsChanged, m_bandView,
@@ -116,11 +119,13 @@ void MainWindow::connectSession()
             Qt::QueuedConnection);
     connect(&m_session, &Session::openCancelled, this, [this] {
         setLoadingShown(false);
+        updateReport();
         statusBar()->showMessage(tr("Loading cancelled"), messageTime);
     });
     connect(&m_session, &Session::openFailed, this, [this](const QString& text) {
         setLoadingShown(false);
         m_recordings->failed(m_session.loader().path());
+        statusBar()->showMessage(text, messageTime);
         if (m_onFailure == OnFailure::ShowMessage)
             showMessage(tr("Recording not opened"), text, m_session.loader().report());
     });
@@ -160,6 +165,7 @@ void MainWindow::buildStatusBar()
     statusBar()->addWidget(m_progress);
     statusBar()->addWidget(m_cancel);
     statusBar()->addWidget(m_report);
+    statusBar()->addPermanentWidget(new SourceLabel(&m_session, this));
     statusBar()->addPermanentWidget(m_receiver);
     setLoadingShown(false);
     updatePosition();
@@ -197,15 +203,32 @@ void MainWindow::setLoadingShown(bool shown)
         m_bandView->setFocus();
 }
 
+void MainWindow::recordingGrown()
+{
+    if (m_bandView->leavesBand())
+        m_pins->changeBand([this] { m_bandView->recordingGrown(); });
+    m_replayBar->refreshRange();
+    updateTitle();
+}
+
 void MainWindow::recordingOpened()
 {
     setLoadingShown(false);
+    m_bandView->recordingCompleted();
+    m_recordings->opened(m_session.loader().path());
+    updateReport();
+}
+
+void MainWindow::updateReport()
+{
+    if (!m_session.recording())
+        return;
     const RecordingLoader& loader = m_session.loader();
-    m_recordings->opened(loader.path());
     const Recording& recording = *m_session.recording();
-    const qint64 skipped = loader.skippedCount();
+    const qint64 skipped =
+        loader.recording() == m_session.recording() ? loader.skippedCount() : 0;
     QString report = tr("%1, up to %2")
-                         .arg(sweepCountText(recording.count()),
+                         .arg(sweepCountText(recording.count() - recording.first()),
                               binCountText(static_cast<qint64>(recording.largestBinCount())));
     if (skipped > 0)
         report += QLatin1String(", ") + skippedLinesText(skipped);
@@ -238,6 +261,10 @@ void MainWindow::updateTitle()
     const Replay& replay = m_session.replay();
     if (replay.position() < 0) {
         setWindowTitle(QStringLiteral("bandmonitor"));
+        return;
+    }
+    if (replay.isFollowing()) {
+        setWindowTitle(tr("%1 – live – bandmonitor").arg(m_session.fileName()));
         return;
     }
     setWindowTitle(tr("%1 – sweep %2 of %3 – bandmonitor")

@@ -11,6 +11,7 @@
 
 #include <QMainWindow>
 
+#include <memory>
 #include <optional>
 
 class QLabel;
@@ -23,6 +24,7 @@ namespace bandmonitor {
 class BandView;
 struct ChoiceEntry;
 class EventRecorder;
+class PinKeeper;
 class RecentRecordings;
 class ReplayBar;
 
@@ -48,6 +50,12 @@ public:
     void open(const QString& path, OnFailure onFailure = OnFailure::ShowMessage);
     /// Tells the services the modes of the window; once it is their main widget.
     void announceModes() { m_modes->announce(); }
+
+    /// Begins to read live input, see Session::openLive().
+    void openLive(std::unique_ptr<LiveSource> source,
+                  OnFailure onFailure = OnFailure::ShowMessage);
+    /// The memory that the next live input may take; LiveInput::defaultHistory at first.
+    void setHistory(std::size_t bytes) { m_historyBytes = bytes; }
 
     BandView& bandView() { return *m_bandView; }
     PanelDocks& panelDocks() { return *m_panelDocks; }
@@ -91,6 +99,11 @@ private:
     // mainpanels.cpp
     void buildPanels();
 
+    // mainlive.cpp
+    void buildLiveEntries(QMenu* menu);
+    void connectLive();
+    void saveRecording();
+
     // mainjobs.cpp
     void addJobs();
     std::optional<JobState> exportSweep();
@@ -103,7 +116,9 @@ private:
     void connectRecordings();
     void restoreSettings();
     void refreshTexts();
+    void recordingGrown();
     void recordingOpened();
+    void updateReport();
     void reportSkippedLines();
     void showMessage(const QString& title, const QString& text, const QString& details);
     void setLoadingShown(bool shown);
@@ -121,12 +136,14 @@ private:
     UndoActions* m_undo;
     Session m_session;
     OnFailure m_onFailure = OnFailure::ShowMessage;
+    std::size_t m_historyBytes = LiveInput::defaultHistory;
     BandView* m_bandView;
     ReplayBar* m_replayBar;
     PanelDocks* m_panelDocks;
     Modes* m_modes;
     EventRecorder* m_recorder;
     RecentRecordings* m_recordings;
+    PinKeeper* m_pins = nullptr;
     QLabel* m_report = nullptr;
     QLabel* m_receiver = nullptr;
     QProgressBar* m_progress = nullptr;

@@ -53,7 +53,13 @@ void RecentRecordings::choose()
 
 void RecentRecordings::saveAs(const QString& fileName, const QByteArray& content)
 {
-    m_content = content;
+    askWhere(fileName, [this, content](const QString& path) { write(path, content); });
+}
+
+void RecentRecordings::askWhere(const QString& fileName,
+                                std::function<void(const QString& path)> save)
+{
+    m_save = std::move(save);
     startAt(fileName);
     m_manager->SlotSaveAs();
 }
@@ -66,7 +72,12 @@ void RecentRecordings::Open(const QString& fileName)
 
 void RecentRecordings::SaveAs(const QString& fileName)
 {
-    if (const std::optional<QString> problem = writeTextFile(fileName, m_content)) {
+    m_save(fileName);
+}
+
+void RecentRecordings::write(const QString& fileName, const QByteArray& content)
+{
+    if (const std::optional<QString> problem = writeTextFile(fileName, content)) {
         failed(fileName);
         Q_EMIT notSaved(fileName, *problem);
         return;

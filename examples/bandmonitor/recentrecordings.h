@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 class FileOpenManager;
@@ -38,6 +39,8 @@ public:
     /// Asks where to save `content`, proposing a file name, and saves it. A file that is replaced
     /// stays as it is when that fails.
     void saveAs(const QString& fileName, const QByteArray& content);
+    /// Asks where to save, proposing a file name, and leaves the saving to `save`.
+    void askWhere(const QString& fileName, std::function<void(const QString& path)> save);
 
 Q_SIGNALS:
     /// The user has chosen a recording, from the list or by its name.
@@ -50,12 +53,13 @@ Q_SIGNALS:
 private:
     void Open(const QString& fileName) override;
     void SaveAs(const QString& fileName) override;
+    void write(const QString& fileName, const QByteArray& content);
     void startAt(const QString& fileName);
 
     QMenu* m_menu;
     std::unique_ptr<ICfg> m_cfg;
     std::unique_ptr<FileOpenManager> m_manager; ///< Uses the configuration until it dies.
-    QByteArray m_content;
+    std::function<void(const QString&)> m_save;
 };
 
 } // namespace bandmonitor

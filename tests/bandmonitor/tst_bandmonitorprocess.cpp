@@ -29,6 +29,7 @@ Ended run(const QString& program, const QStringList& arguments, bool withDisplay
             environment.remove(QString::fromLatin1(name));
     }
     process.setProcessEnvironment(environment);
+    process.setStandardInputFile(QProcess::nullDevice());
     process.start(program, arguments);
     if (!process.waitForFinished(processTimeoutMs) || process.exitStatus() != QProcess::NormalExit)
         return {-1, process.readAllStandardOutput(), process.readAllStandardError()};
@@ -70,9 +71,13 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString file = folder.filePath(QStringLiteral("notes.txt"));
         QVERIFY(writeFile(file, "nothing to see\n"));
-        const Ended ended = run(application, {QStringLiteral("--config"), folder.path(), file});
-        QCOMPARE(ended.status, 1);
-        QVERIFY2(ended.errors.contains("notes.txt"), ended.errors.constData());
+        for (const auto& [input, part] :
+             {std::pair(file, "notes.txt"), std::pair(QStringLiteral("-"), "standard input: ")}) {
+            const Ended ended =
+                run(application, {QStringLiteral("--config"), folder.path(), input});
+            QCOMPARE(ended.status, 1);
+            QVERIFY2(ended.errors.contains(part), ended.errors.constData());
+        }
     }
 
     void stateSurvives_data()

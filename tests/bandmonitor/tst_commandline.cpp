@@ -29,6 +29,12 @@ private Q_SLOTS:
         row.add("bandmonitor --replay 101", CommandLine::Fail, "101");
         row.add("bandmonitor --replay nan", CommandLine::Fail, "nan");
         row.add("bandmonitor --replay 2x", CommandLine::Fail, "2x");
+        row.add("bandmonitor --history 5 -", CommandLine::Run, "");
+        row.add("bandmonitor --follow $/a.csv", CommandLine::Run, "");
+        row.add("bandmonitor --follow -", CommandLine::Fail, "\"-\"");
+        row.add("bandmonitor --follow $/a.csv -", CommandLine::Fail, "2");
+        row.add("bandmonitor --history 0 -", CommandLine::Fail, "0");
+        row.add("bandmonitor --shots $ -", CommandLine::Fail, "live");
         row.add("bandmonitor $/none.csv", CommandLine::Fail, "none.csv");
         row.add("bandmonitor $", CommandLine::Fail, "folder");
         row.add("bandmonitor $/a.csv $/a.csv", CommandLine::Fail, "2");
@@ -45,6 +51,12 @@ private Q_SLOTS:
         QVERIFY2(result.text.contains(contained), qPrintable(result.text));
         if (action == CommandLine::Fail)
             QCOMPARE(result.text.count(QLatin1Char('\n')), 1);
+        if (action == CommandLine::Run && arguments.contains(QLatin1String("--history"))) {
+            QVERIFY(result.live == CommandLine::StandardInput);
+            QCOMPARE(result.historyMegabytes, 5);
+        }
+        if (action == CommandLine::Run && arguments.contains(QLatin1String("--follow")))
+            QVERIFY(result.live == CommandLine::FollowedFile);
         if (arguments.contains(QLatin1String("2.5"))) {
             QCOMPARE(result.replayFactor, 2.5);
             QVERIFY(result.configFolder.endsWith(QLatin1String("/new")));

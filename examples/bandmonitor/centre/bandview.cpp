@@ -48,7 +48,7 @@ void BandView::setRecording(std::shared_ptr<const Recording> recording)
     spectrum().setTrace(Trace::Live, {}, nullptr);
     waterfall().setHistory(m_recording);
     if (m_recording && !m_recording->isEmpty()) {
-        const Sweep first = m_recording->sweep(0);
+        const Sweep first = m_recording->sweep(m_recording->first());
         visibleBand().setBand(m_recording->lowHz(), m_recording->highHz(),
                               first.segments.empty() ? 1 : first.segments.front().stepHz);
         fitLevels();
@@ -56,17 +56,50 @@ void BandView::setRecording(std::shared_ptr<const Recording> recording)
     refreshTexts();
 }
 
+bool BandView::leavesBand() const
+{
+    const VisibleBand& band = visibleBand();
+    return m_recording && !m_recording->isEmpty() &&
+           (m_recording->lowHz() < band.bandLow() || m_recording->highHz() > band.bandHigh());
+}
+
+void BandView::recordingGrown()
+{
+    if (!leavesBand())
+        return;
+    VisibleBand& band = visibleBand();
+    const bool showedAll = band.showsAll();
+    const double low = band.low();
+    const double high = band.high();
+    const double cursor = band.cursor();
+    const Sweep sweep = m_recording->sweep(m_recording->count() - 1);
+    band.setBand(m_recording->lowHz(), m_recording->highHz(), sweep.segments.front().stepHz);
+    if (!showedAll && low >= sweep.lowHz && high <= sweep.highHz)
+        band.setVisible(low, high);
+    else
+        band.setVisible(sweep.lowHz, sweep.highHz);
+    band.setCursor(cursor);
+    fitLevels();
+}
+
 void BandView::fitLevels()
 {
     std::vector<Sweep> sweeps;
-    const qsizetype step = m_recording->count() / sweepsToFit + 1;
-    for (qsizetype i = 0; i < m_recording->count(); i += step)
+    const qsizetype step = (m_recording->count() - m_recording->first()) / sweepsToFit + 1;
+    for (qsizetype i = m_recording->first(); i < m_recording->count(); i += step)
         sweeps.push_back(m_recording->sweep(i));
     const LevelRange usual = usualLevels(sweeps);
     const double low = usual.isEmpty() ? -120 : static_cast<double>(usual.minimum);
     const double high = usual.isEmpty() ? 0 : static_cast<double>(usual.maximum);
     spectrum().setLevelRange(axisBegin(low), axisEnd(high));
     waterfall().setLevelRange(low, high);
+    m_fittedLevels = {spectrum().lowLevel(), spectrum().highLevel()};
+}
+
+void BandView::recordingCompleted()
+{
+    if (m_fittedLevels == std::pair(spectrum().lowLevel(), spectrum().highLevel()))
+        fitLevels();
 }
 
 /// So that a trace that is made of the sweeps does not leave the pane.
@@ -82,7 +115,7 @@ void BandView::widenLevels(LevelRange levels)
 
 void BandView::showSweep(qsizetype position, qsizetype previous)
 {
-    if (!m_recording || position < 0 || position >= m_recording->count())
+    if (!m_recording || position < m_recording->first() || position >= m_recording->count())
         return;
     if (position < m_position)
         m_hold.clear(); // of a time that is still to come
@@ -95,7 +128,7 @@ void BandView::showSweep(qsizetype position, qsizetype previous)
 
 void BandView::showTrace(qsizetype firstHeld)
 {
-    for (qsizetype held = firstHeld; held < m_position; ++held)
+    for (qsizetype held = std::max(firstHeld, m_recording->first()); held < m_position; ++held)
         m_hold.add(m_processor.process(*m_recording, held));
     const Sweep shown = m_processor.process(*m_recording, m_position);
     m_hold.add(shown);

@@ -34,6 +34,14 @@ public:
 
     /// Shows the whole band of the recording; null for none. The hold maximum starts anew.
     void setRecording(std::shared_ptr<const Recording> recording);
+    /// The recording has more sweeps. Sweeps outside the band widen it; the view then shows what
+    /// they cover, unless it lies in that already. The pins go with another band.
+    void recordingGrown();
+    /// Whether the sweeps of the recording leave the band.
+    bool leavesBand() const;
+    /// The recording is complete. Unless the levels that are shown were changed since its first
+    /// sweeps came, they are chosen anew from all of it.
+    void recordingCompleted();
     /// Makes the sweep at `position` the current one. The hold maximum takes in the sweeps after
     /// `previous`, or only the current one when `previous` is -1 or comes later. It starts anew
     /// when time goes back.
@@ -59,6 +67,7 @@ private:
     std::shared_ptr<const Recording> m_recording;
     std::shared_ptr<const LevelPyramid> m_pyramid; ///< Of the current sweep, as recorded.
     qsizetype m_position = -1;
+    std::pair<double, double> m_fittedLevels; ///< Of the spectrum.
 };
 
 } // namespace bandmonitor

@@ -28,17 +28,21 @@ ReplayBar::ReplayBar(Replay* replay, std::shared_ptr<SessionValues> values, QWid
     , m_back(makeAction(tr("Step &back"), Icon::Backward, QKeySequence(Qt::Key_Comma)))
     , m_play(makeAction(tr("&Play"), Icon::Play, QKeySequence(Qt::Key_Space)))
     , m_forward(makeAction(tr("Step f&orward"), Icon::Forward, QKeySequence(Qt::Key_Period)))
+    , m_last(makeAction(tr("&Last sweep"), Icon::ToEnd, QKeySequence(Qt::CTRL | Qt::Key_End)))
     , m_slider(new QSlider(Qt::Horizontal, this))
     , m_speed(new QDoubleSpinBox(this))
     , m_time(new QLabel(this))
 {
     buildLayout();
     connect(m_first, &QAction::triggered, m_replay, [this] { m_replay->jump(0); });
+    connect(m_last, &QAction::triggered, m_replay, &Replay::toLast);
     connect(m_back, &QAction::triggered, m_replay, &Replay::stepBackward);
     connect(m_play, &QAction::triggered, m_replay, &Replay::toggle);
     connect(m_forward, &QAction::triggered, m_replay, &Replay::stepForward);
     connect(m_slider, &QSlider::valueChanged, this, &ReplayBar::jumpTo);
     connect(m_replay, &Replay::recordingChanged, this, &ReplayBar::refresh);
+    connect(m_replay, &Replay::growthChanged, this,
+            [this] { m_toLive->setVisible(m_replay->growth() == Replay::Growth::Live); });
     connect(m_replay, &Replay::playingChanged, this, &ReplayBar::showPlaying);
     connect(m_replay, &Replay::positionChanged, this, &ReplayBar::showPosition);
     connect(m_replay, &Replay::speedChanged, this,
@@ -63,12 +67,14 @@ void ReplayBar::buildLayout()
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(6, 3, 6, 3);
-    for (QAction* action : {m_first, m_back, m_play, m_forward}) {
+    for (QAction* action : {m_first, m_back, m_play, m_forward, m_last}) {
         auto* button = new QToolButton(this);
         button->setDefaultAction(action);
         button->setAutoRaise(true);
         row->addWidget(button);
+        m_toLive = button;
     }
+    m_toLive->hide();
     new ReadableOutline(m_slider, QPalette::Window);
     m_slider->setAccessibleName(tr("Sweep"));
     m_slider->setToolTip(tr("Current sweep"));
@@ -91,19 +97,25 @@ void ReplayBar::buildLayout()
 
 void ReplayBar::refresh()
 {
-    const qsizetype count = m_replay->count();
-    const bool any = count > 0;
-    {
-        const QSignalBlocker blocker(m_slider);
-        constexpr qsizetype limit = std::numeric_limits<int>::max();
-        m_slider->setRange(0, static_cast<int>(std::clamp<qsizetype>(count - 1, 0, limit)));
-        m_slider->setPageStep(std::max(m_slider->maximum() / 10, 1));
-    }
+    const bool any = m_replay->count() > 0;
+    refreshRange();
     m_slider->setEnabled(any);
-    for (QAction* action : {m_first, m_back, m_play, m_forward})
+    for (QAction* action : {m_first, m_back, m_play, m_forward, m_last})
         action->setEnabled(any);
     showPlaying(m_replay->isPlaying());
     showPosition();
+}
+
+void ReplayBar::refreshRange()
+{
+    constexpr qsizetype limit = std::numeric_limits<int>::max();
+    const auto recording = m_replay->recording();
+    const qsizetype first = recording ? recording->first() : 0;
+    const QSignalBlocker blocker(m_slider);
+    m_slider->setRange(static_cast<int>(std::min(first, limit)),
+                       static_cast<int>(std::clamp(m_replay->count() - 1, first, limit)));
+    m_slider->setPageStep(std::max((m_slider->maximum() - m_slider->minimum()) / 10, 1));
+    m_slider->setValue(static_cast<int>(std::max<qsizetype>(m_replay->position(), 0)));
 }
 
 void ReplayBar::showPlaying(bool playing)

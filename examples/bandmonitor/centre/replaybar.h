@@ -10,6 +10,7 @@ class QAction;
 class QDoubleSpinBox;
 class QLabel;
 class QSlider;
+class QToolButton;
 
 namespace bandmonitor {
 
@@ -30,10 +31,13 @@ public:
     QAction* backAction() const { return m_back; }
     QAction* forwardAction() const { return m_forward; }
     QAction* firstAction() const { return m_first; }
+    QAction* lastAction() const { return m_last; }
 
 public Q_SLOTS:
     /// The recording has changed, or the way in which times are written.
     void refresh();
+    /// The recording has more sweeps, or fewer.
+    void refreshRange();
 
 private:
     QAction* makeAction(const QString& text, Icon picture, const QKeySequence& key);
@@ -49,7 +53,9 @@ private:
     QAction* m_back;
     QAction* m_play;
     QAction* m_forward;
+    QAction* m_last;
     QSlider* m_slider;
+    QToolButton* m_toLive = nullptr; ///< For live recordings.
     QDoubleSpinBox* m_speed;
     QLabel* m_time;
 };

@@ -136,10 +136,17 @@ void drawForward(QPainterPath&, QPainterPath& filling)
     addTriangle(filling, 8, 14);
 }
 
+void drawToEnd(QPainterPath&, QPainterPath& filling)
+{
+    addTriangle(filling, 2, 7);
+    addTriangle(filling, 7, 12);
+    filling.addRect(12, 3, 2, 10);
+}
+
 /// In the order of the enumerators.
 constexpr std::array drawings{drawSignals,  drawEvents,  drawLevels, drawJobs,   drawBearings,
                               drawReceiver, drawHistory, drawUndo,   drawRedo,   drawToStart,
-                              drawBackward, drawPlay,    drawPause,  drawForward};
+                              drawBackward, drawPlay,    drawPause,  drawForward, drawToEnd};
 
 class DrawnIconEngine : public QIconEngine
 {

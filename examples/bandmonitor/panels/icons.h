@@ -22,6 +22,7 @@ enum class Icon {
     Play,
     Pause,
     Forward,
+    ToEnd,
 };
 
 /// An icon that is drawn when it is needed, in the size that is needed and in the text colour of

@@ -61,17 +61,18 @@ ReceiverControl::ReceiverControl(std::shared_ptr<SessionValues> values, Receiver
     connect(&m_bandView->visibleBand(), &VisibleBand::rangeChanged, this,
             &ReceiverControl::followWindow);
     connect(m_replay, &Replay::positionChanged, this, &ReceiverControl::followReplay);
-    connect(m_session, &Session::opened, this, &ReceiverControl::recordingOpened);
+    connect(m_session, &Session::begun, this, &ReceiverControl::recordingBegun);
+    connect(
+        m_session, &Session::opened, this, [this] { restoreStartTime(); },
+        Qt::SingleShotConnection);
 }
 
 ReceiverControl::~ReceiverControl() = default;
 
-void ReceiverControl::recordingOpened()
+void ReceiverControl::recordingBegun()
 {
-    if (!m_hasRecording) {
+    if (!m_hasRecording)
         restoreWindow();
-        restoreStartTime();
-    }
     m_hasRecording = true;
     m_recording = m_session->recording();
     const Sweep sweep = m_replay->sweep();
@@ -101,7 +102,7 @@ void ReceiverControl::restoreStartTime()
 {
     const QDateTime& time = m_values->enteredStart.GetValue();
     const auto recording = m_replay->recording();
-    if (time.isValid() && recording && time >= timeOf(recording->sweep(0)) &&
+    if (time.isValid() && recording && time >= timeOf(recording->sweep(recording->first())) &&
         time <= timeOf(recording->sweep(recording->count() - 1)))
         goTo(time);
 }
@@ -174,7 +175,7 @@ void ReceiverControl::goTo(const QDateTime& time)
     const auto recording = m_replay->recording();
     if (!recording)
         return;
-    qsizetype position = 0; // times may run backward
+    qsizetype position = recording->first(); // times may run backward
     while (position < recording->count() - 1 && timeOf(recording->sweep(position)) < time)
         ++position;
     m_replay->jump(position);

@@ -30,7 +30,7 @@ public:
 private:
     /// At the first recording, frequencies and start time that were kept are shown as far as it has
     /// them.
-    void recordingOpened();
+    void recordingBegun();
     bool isReady() const;
     void steerCentre();
     void steerSpan();

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow.h"
+
+#include "counts.h"
+#include "live/commandsource.h"
+#include "livedialog.h"
+#include "model/recordingwriter.h"
+#include "recentrecordings.h"
+
+#include <QAction>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QStatusBar>
+
+namespace bandmonitor {
+
+void MainWindow::openLive(std::unique_ptr<LiveSource> source, OnFailure onFailure)
+{
+    m_onFailure = onFailure;
+    m_session.openLive(std::move(source), m_historyBytes);
+}
+
+void MainWindow::buildLiveEntries(QMenu* menu)
+{
+    connect(addEntry(menu, tr("&Live…"), {Qt::CTRL | Qt::SHIFT | Qt::Key_O}, false),
+            &QAction::triggered, this, [this] {
+                const QString command = LiveDialog(this).ask();
+                if (!command.isEmpty())
+                    openLive(std::make_unique<CommandSource>(command));
+            });
+    QAction* stop = addEntry(menu, tr("S&top live input"), {Qt::CTRL | Qt::ALT | Qt::Key_O}, false);
+    stop->setEnabled(false);
+    connect(stop, &QAction::triggered, &m_session, &Session::stopLive);
+    connect(&m_session, &Session::liveChanged, stop,
+            [this, stop] { stop->setEnabled(m_session.isLive()); });
+    QAction* save =
+        addEntry(menu, tr("Save &recording as…"), {Qt::CTRL | Qt::ALT | Qt::Key_S}, false);
+    save->setEnabled(false);
+    connect(save, &QAction::triggered, this, &MainWindow::saveRecording);
+    connect(&m_session, &Session::begun, save, [save] { save->setEnabled(true); });
+}
+
+void MainWindow::connectLive()
+{
+    connect(&m_session, &Session::liveChanged, this, &MainWindow::updateReport);
+    connect(&m_session, &Session::liveEnded, this, [this](const QString& text) {
+        updateTitle();
+        updateReport();
+        statusBar()->showMessage(tr("Live input has ended. %1").arg(text), messageTime);
+    });
+    connect(&m_session, &Session::liveFailed, this, [this](const QString& text) {
+        if (m_onFailure == OnFailure::ShowMessage)
+            showMessage(tr("No live input"), text, {});
+    });
+    const RecordingSaver& saver = m_session.saver();
+    connect(&saver, &RecordingSaver::saved, this, [this](const QString& path) {
+        statusBar()->showMessage(tr("Saved as %1").arg(path), messageTime);
+    });
+    connect(
+        &saver, &RecordingSaver::failed, this, [this](const QString& path, const QString& reason) {
+            showMessage(tr("Recording not saved"), tr("%1 cannot be written.").arg(path), reason);
+        });
+}
+
+void MainWindow::saveRecording()
+{
+    const QString name = QFileInfo(m_session.fileName()).completeBaseName();
+    m_recordings->askWhere(tr("%1.csv").arg(name), [this](const QString& path) {
+        statusBar()->showMessage(tr("Saving as %1…").arg(path));
+        m_session.save(path, receiverRemark(m_values->receiver().addressText()));
+    });
+}
+
+} // namespace bandmonitor
