@@ -22,10 +22,11 @@ public:
         TraceAssertions = 0x02,
         TracePlatform = 0x10,
         TraceGuiBase = 0x20,
+        TraceMisuse = 0x40, ///< Of these also what the developer must mend, such as a missing slot.
     };
 
-    /// The mask at start-up: assertions and platform reports.
-    static constexpr quint32 defaultTraceFlags = TraceAssertions | TracePlatform;
+    /// The mask at start-up: assertions, platform reports and misuse.
+    static constexpr quint32 defaultTraceFlags = TraceAssertions | TracePlatform | TraceMisuse;
 
     /// The trace mask, of TraceBit.
     static quint32 GetTraceFlags();

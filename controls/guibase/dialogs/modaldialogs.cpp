@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QPointer>
 #include <QRegularExpression>
+#include <QTextDocument>
 
 #include <chrono>
 #include <future>
@@ -113,6 +114,8 @@ QMessageBox::StandardButton ModalDialogs::show(QWidget* parent, const Box& box)
     auto* const dialog = new QMessageBox(box.icon, box.title, box.text, box.buttons, parent);
     dialog->setTextFormat(Qt::PlainText);
     dialog->setDefaultButton(box.defaultButton);
+    if (!box.more.isEmpty())
+        dialog->setInformativeText(Qt::convertFromPlainText(box.more));
     return run(dialog, [](const QMessageBox& shown, int) {
         return shown.standardButton(shown.clickedButton());
     });
@@ -154,8 +157,8 @@ QColor ModalDialogs::askForColor(QWidget* parent, const QColor& initial, const Q
         return {};
     auto* const dialog = new QColorDialog(initial, parent);
     dialog->setWindowTitle(title);
-    const bool isNative = !GuiBase::Instance().UseNativeDialogs().testFlag(
-        QFileDialog::DontUseNativeDialog);
+    const bool isNative =
+        !GuiBase::Instance().UseNativeDialogs().testFlag(QFileDialog::DontUseNativeDialog);
     dialog->setOption(QColorDialog::DontUseNativeDialog, !isNative);
     return run(dialog, [](const QColorDialog& shown, int result) {
         return result == QDialog::Accepted ? shown.selectedColor() : QColor();

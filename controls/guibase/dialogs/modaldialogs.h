@@ -31,6 +31,8 @@ struct Box
     QString text;
     QMessageBox::StandardButtons buttons = QMessageBox::Ok;
     QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
+    /// Stands below the text, smaller; plain text, empty for none.
+    QString more = {};
 };
 
 /// Shows the box and waits for the answer. The text is shown as it is, without markup.

@@ -134,7 +134,8 @@ void HotKeyRegistry::connectReceiver(const GuiBase& services, const QObject& rec
                          Qt::QueuedConnection);
         return;
     }
-    ErrorHandler::Trace(ErrorHandler::TraceGuiBase, Tracing::module, __LINE__,
+    ErrorHandler::Trace(ErrorHandler::TraceGuiBase | ErrorHandler::TraceMisuse, Tracing::module,
+                        __LINE__,
                         QStringLiteral("GuiBase::AddHotKey(): '%1' has no slot 'slotHotKey(int)'")
                             .arg(QString::fromLatin1(receiver.metaObject()->className())));
 }

@@ -42,13 +42,14 @@ QMetaMethod findEntrySlot(const QObject& receiver, const QByteArray& signature)
 
 void traceMissingSlot(const QObject& receiver, const QByteArray& signature)
 {
-    if (!ErrorHandler::IsTraceEnabled(ErrorHandler::TraceGuiBase))
+    constexpr quint32 bits = ErrorHandler::TraceGuiBase | ErrorHandler::TraceMisuse;
+    if (!ErrorHandler::IsTraceEnabled(bits))
         return;
-    const QString text = QStringLiteral("GuiBase::CreateHelpMenu(): '%1' has no slot '%2'")
+    const QString text = QStringLiteral("GuiBase::CreateHelpMenu(): '%1' has no slot '%2', so its "
+                                        "entry is left out")
                              .arg(QString::fromLatin1(receiver.metaObject()->className()),
                                   QString::fromLatin1(signature));
-    ErrorHandler::Trace(ErrorHandler::TraceGuiBase, Tracing::module, Tracing::missingHelpSlotLine,
-                        text);
+    ErrorHandler::Trace(bits, Tracing::module, Tracing::missingHelpSlotLine, text);
 }
 
 QAction* findAction(const QList<QAction*>& actions, const QKeySequence& shortcut)
@@ -189,10 +190,26 @@ void HelpMenu::showManual() const
     if (file.isEmpty())
         warn(GuiBase::tr("Helpfile not configured."));
     else if (TrovOS::Get()->OpenFile(file) < TrovOS::firstSuccessCode)
-        warn(GuiBase::tr("Helpfile not yet available."));
+        warn(GuiBase::tr("Helpfile not yet available."), reasonNotOpened(file));
 }
 
-void HelpMenu::warn(const QString& text) const
+QString HelpMenu::reasonNotOpened(const QString& file) const
 {
-    ModalDialogs::show(messageParent, {QMessageBox::Warning, GuiBase::tr("Warning"), text});
+    const QFileInfo info(file);
+    const QString path = QDir::toNativeSeparators(info.absoluteFilePath());
+    if (info.exists())
+        return GuiBase::tr("The desktop has no program that opens %1.").arg(path);
+    if (info.isAbsolute())
+        return GuiBase::tr("There is no file %1.").arg(path);
+    return GuiBase::tr("%1 was looked for in %2 and in %3.")
+        .arg(QDir::toNativeSeparators(file), QDir::toNativeSeparators(QDir::currentPath()),
+             QDir::toNativeSeparators(QCoreApplication::applicationDirPath()));
+}
+
+void HelpMenu::warn(const QString& text, const QString& more) const
+{
+    ModalDialogs::show(messageParent, {.icon = QMessageBox::Warning,
+                                       .title = GuiBase::tr("Warning"),
+                                       .text = text,
+                                       .more = more});
 }

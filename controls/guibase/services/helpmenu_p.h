@@ -48,7 +48,8 @@ private:
     void addKeyboardEntry();
     void addInfoEntry(const Request& request);
     QString manualFile() const;
-    void warn(const QString& text) const;
+    QString reasonNotOpened(const QString& file) const;
+    void warn(const QString& text, const QString& more = {}) const;
 
     GuiBase& m_services;
     QString m_helpFile;

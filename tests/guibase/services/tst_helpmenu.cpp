@@ -82,6 +82,7 @@ private Q_SLOTS:
     void entries()
     {
         const auto& [withReceiver, infoSlot, manualSlot, expected, missing] = Entries::fetch();
+        ErrorHandler::SetTraceFlags(ErrorHandler::defaultTraceFlags); // tells it unasked
         QWidget parent;
         InfoReceiver receiver;
         const QMenu* menu = m_services->CreateHelpMenu(
@@ -190,6 +191,10 @@ private Q_SLOTS:
             QCOMPARE(box.windowTitle(), QStringLiteral("Warning"));
             QCOMPARE(box.standardButtons(), QMessageBox::Ok);
             QCOMPARE(box.parentWidget(), &parent);
+            const QString more = box.informativeText();
+            QCOMPARE(more.contains(QStringLiteral("missing.pdf")), !asked.isEmpty());
+            QCOMPARE(more.contains(QDir::currentPath()), !asked.isEmpty());
+            QCOMPARE(more.contains(QCoreApplication::applicationDirPath()), !asked.isEmpty());
         });
         m_services->slotHelpContents();
         QCOMPARE(closer.hasSeenDialog(), !warning.isEmpty());
