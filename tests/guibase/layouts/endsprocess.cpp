@@ -1,19 +1,24 @@
 // SPDX-License-Identifier: MIT
 // A small application that a test starts as a process of its own:
 //     ends_process <configuration folder> <way to end> [<what it should look like>]
-// Without the last word it changes its layout. It tells what it looks like, and ends in its way:
-// "close", "quit", "return", or "signal" for waiting to be ended from outside.
+// Without the last word it changes everything that is kept. It tells what it looks like, and ends
+// in its way: "close", "quit", "return", or "signal" for waiting to be ended from outside. Of those
+// that leave no time for an end, "exit" ends, "wait" waits, and "save" saves without a pause.
+#include <guibase/colors/colorset.h>
 #include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
 #include <guibase/docks/dockwidgethelpers.h>
 #include <guibase/docks/mainwindowconfigurator.h>
 #include <guibase/docks/maximizeminimizesupport.h>
+#include <guibase/files/fileopenmanager.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
 #include <guibase/splitters/splitter.h>
 
 #include <trovappstartup/cfgcenter.h>
 #include <trovappstartup/trovapplication.h>
+#include <valueframework/persistant.h>
+#include <valueframework/valueselection.h>
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -21,10 +26,12 @@
 #include <QEventLoop>
 #include <QHeaderView>
 #include <QMainWindow>
+#include <QMenu>
 #include <QTextEdit>
 #include <QTextStream>
 #include <QTimer>
 
+#include <cstdlib>
 #include <functional>
 
 using QDockWidgetHelpers::MaximizeMinimizeSupport;
@@ -60,7 +67,13 @@ public:
                 .configure(*dock, name, name);
         }
         AutoHideSupport::get(*this)->setStorageName(QStringLiteral("panels"));
+        m_files.InitMenu(-1);
+        m_record.Add(GuiBase::Instance().GetFrequencyUnit(), QStringLiteral("Unit"),
+                     static_cast<int>(SelectionStorage::ByKey));
     }
+
+    /// What the application itself keeps, once the services have read theirs.
+    void readRecord() { m_record.Read({}); }
 
     void change()
     {
@@ -80,6 +93,13 @@ public:
         m_list->setColumnWidth(0, 77);
         m_splitter->setSizes({1, 1});
         m_splitter->shiftHandle(1, -50);
+        ColorSet::Instance().Load(this, QString::fromLatin1(ColorSet::colorBlindName));
+        GuiBase::Instance().GetTimeZone()->SetValue(0);
+        GuiBase::Instance().GetPositionFormat()->SetCurrentIndex(3);
+        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Giga);
+        m_record.Write({});
+        for (const char* name : {"first.csv", "second.csv"})
+            m_files.addRecentFile(QString::fromLatin1(name));
         showMaximized();
     }
 
@@ -104,7 +124,13 @@ public:
             << (isAtEdge ? ", hiding" : ", not hiding")
             << (tabifiedDockWidgets(tab).contains(raised) ? ", tabbed" : ", not tabbed")
             << (tab->visibleRegion().isEmpty() ? " below" : " above") << ", column "
-            << m_list->columnWidth(0) << ", panes " << panes.at(0) << ' ' << panes.at(1);
+            << m_list->columnWidth(0) << ", panes " << panes.at(0) << ' ' << panes.at(1)
+            << ", colors " << ColorSet::Instance().GetName() << ", zone "
+            << GuiBase::Instance().GetTimeZoneValue() << ", position "
+            << GuiBase::Instance().GetPositionFormat()->GetCurrentIndex() << ", unit "
+            << GuiBase::Instance().GetFrequencyUnit()->GetCurrentItem()->GetName() << ", files";
+        for (const QAction* file : m_menu.actions())
+            out << ' ' << file->text();
         return text;
     }
 
@@ -112,6 +138,10 @@ private:
     QDockWidget* m_docks[7] = {};
     Splitter* m_splitter = nullptr;
     SortListView* m_list = nullptr;
+    QMenu m_menu;
+    FileOpenManager m_files{nullptr, QStringLiteral("Recordings (*.csv)"), &m_menu, 5,
+                            CfgCenter::GetAppCfg(SettingsView)};
+    Persistant m_record{QStringLiteral("Application")};
 };
 
 /// Tells what the window looks like, once that is as expected, or without expectation once it has
@@ -153,22 +183,35 @@ int main(int argc, char** argv)
     const QStringList arguments = QApplication::arguments();
     const QString way = arguments.value(2);
     CfgCenter::SetConfigDir(arguments.value(1));
-    // Only the end writes.
-    CfgCenter::SetAutoStoreDelay(-1);
-    GuiBase::Instance().SetLayoutWriteDelay(-1);
+    // Either the end alone writes, or every change does.
+    const bool hasNoEnd = way == QStringLiteral("exit") || way == QStringLiteral("wait") ||
+                          way == QStringLiteral("save");
+    CfgCenter::SetAutoStoreDelay(hasNoEnd ? 0 : -1);
+    GuiBase::Instance().SetLayoutWriteDelay(hasNoEnd ? 0 : -1);
     const TrovApplication startUp;
     Window window;
     GuiBase::Instance().SetMainWidget(&window);
+    window.readRecord();
     window.show();
     if (arguments.size() < 4)
         QTimer::singleShot(0, &window, &Window::change);
 
+    QTimer saving;
+    saving.callOnTimeout([count = 0]() mutable {
+        CfgCenter::GetAppCfg(SettingsView)->SetInt(QStringLiteral("Count"), ++count);
+        GuiBase::Instance().SavePersistant();
+        CfgCenter::Store();
+    });
     QEventLoop loop;
     const Teller teller(window, arguments.value(3), [&] {
         if (way == QStringLiteral("close"))
             window.close();
         else if (way == QStringLiteral("quit"))
             QCoreApplication::quit();
+        else if (way == QStringLiteral("exit"))
+            std::exit(0);
+        else if (way == QStringLiteral("save"))
+            saving.start(0);
         else
             loop.quit();
     });
