@@ -20,8 +20,9 @@ constexpr const char* lastWords[] = {
 
 QtMessageHandler formerHandler = nullptr;
 std::atomic<bool> isWatching{false};
+std::atomic<bool> hasBegunToStore{false};
 QSemaphore stored;
-/// How long another thread, which would end the program next, waits for the main thread.
+/// How long other threads, each of which would end the program next, wait for the main thread.
 constexpr int milliseconds = 3000;
 
 bool isServerEnd(QtMsgType type, const QString& message)
@@ -34,7 +35,7 @@ bool isServerEnd(QtMsgType type, const QString& message)
 
 void store()
 {
-    if (!isWatching.exchange(false))
+    if (hasBegunToStore.exchange(true))
         return;
     CfgCenter::CommitAll();
     stored.release();
@@ -51,7 +52,9 @@ void handleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
         store();
     } else {
         QMetaObject::invokeMethod(application, &store, Qt::QueuedConnection);
-        stored.tryAcquire(1, milliseconds);
+        // Several threads may notice the end at the same time.
+        if (stored.tryAcquire(1, milliseconds))
+            stored.release();
     }
 }
 
@@ -60,6 +63,7 @@ void handleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
 ServerEnd::ServerEnd()
 {
     isWatching = true;
+    hasBegunToStore = false;
     const QtMessageHandler former = qInstallMessageHandler(&handleMessage);
     if (former != &handleMessage)
         formerHandler = former;
