@@ -8,10 +8,13 @@ clean_up() {
     for process in "${processes[@]}"; do
         kill "$process" 2>/dev/null || true
     done
+    # A compositor that is busy with its end must not hold up the test.
+    wait_until 10 have_ended || kill -KILL "${processes[@]}" 2>/dev/null || true
     wait 2>/dev/null || true
     rm -rf "$folder"
 }
 trap clean_up EXIT
+have_ended() { [ -z "$(jobs -pr)" ]; }
 
 # Waits until the command succeeds: wait_until SECONDS COMMAND…
 wait_until() {
