@@ -264,6 +264,11 @@ void MaximizeMinimizeSupportPrivate::reapply(QDockWidget& dock)
     const QPointer<Support> alive(&q);
     const UpdatesBlocker blocker(dock);
     const QRect kept = normalGeometry;
+    // A dock that floats again has the size that it had when it was maximized. Where only the
+    // toolkit can give it its former size back, the toolkit must know that.
+    if (state == State::Maximized && !WindowSystem::placesWindows() &&
+        Support::dockWidgetState(dock) == State::Normal)
+        NormalSize::resize(dock, kept.size());
     switch (state) {
     case State::Normal:
         q.restoreDockWidget();

@@ -5,7 +5,15 @@
 
 #include <QEvent>
 #include <QPointer>
+#include <QScreen>
 #include <QWidget>
+#include <QWindow>
+
+namespace {
+
+constexpr Qt::WindowStates large = Qt::WindowMaximized | Qt::WindowFullScreen;
+
+} // namespace
 
 NormalSize::NormalSize(QWidget& window, const QSize& size)
     : QObject(&window)
@@ -13,8 +21,19 @@ NormalSize::NormalSize(QWidget& window, const QSize& size)
     , m_size(size)
 {
     window.installEventFilter(this);
-    QTimerHelpers::singleShot(milliseconds, this, [this] { finish(); });
+    // The widget hears only of states that it does not believe to have already.
+    if (QWindow* handle = window.windowHandle())
+        handle->installEventFilter(this);
+    m_timer.callOnTimeout(this, [this] {
+        if (++m_requests < maximumRequests)
+            askAgain();
+        else
+            giveUp();
+    });
+    m_timer.start(milliseconds);
 }
+
+NormalSize::~NormalSize() = default;
 
 NormalSize* NormalSize::waitingFor(const QWidget& window)
 {
@@ -38,29 +57,47 @@ void NormalSize::resize(QWidget& window, const QSize& size)
         window.resize(size);
 }
 
-bool NormalSize::isNormal() const
+bool NormalSize::eventFilter(QObject* watched, QEvent* event)
 {
-    return !(m_window.windowState() &
-             (Qt::WindowMaximized | Qt::WindowMinimized | Qt::WindowFullScreen));
-}
-
-bool NormalSize::eventFilter(QObject*, QEvent* event)
-{
-    if (event->type() == QEvent::Hide)
+    if (watched == &m_window && event->type() == QEvent::Hide)
         deleteLater();
-    // The window is in the middle of its resizing.
-    if (event->type() == QEvent::Resize && event->spontaneous())
-        QTimerHelpers::singleShot(0, this, [this] {
-            if (isNormal())
-                finish();
-        });
+    // The toolkit is in the middle of it.
+    if (watched != &m_window && event->type() == QEvent::WindowStateChange && event->spontaneous())
+        QTimerHelpers::singleShot(0, this, [this] { takeAnswer(); });
     return false;
 }
 
-void NormalSize::finish()
+bool NormalSize::coversScreen() const
 {
-    const QPointer<NormalSize> guard(this);
-    if (isNormal())
+    constexpr double least = 0.85; // Panels and frames take the rest.
+    const QSize screen = m_window.screen()->size();
+    return m_window.width() > least * screen.width() && m_window.height() > least * screen.height();
+}
+
+/// No answer is on its way when the compositor has never changed the state.
+void NormalSize::giveUp()
+{
+    m_timer.stop();
+    deleteLater();
+    if (!coversScreen())
         m_window.resize(m_size);
+}
+
+void NormalSize::askAgain()
+{
+    QWindow* handle = m_window.windowHandle();
+    // The toolkit passes on what the compositor has not granted yet.
+    if (!(m_window.windowState() & large) && handle != nullptr)
+        handle->setWindowStates(handle->windowStates() & ~large);
+}
+
+void NormalSize::takeAnswer()
+{
+    if (m_window.windowState() & large) {
+        m_window.setWindowState(m_window.windowState() & ~large);
+        return;
+    }
+    const QPointer<NormalSize> guard(this);
+    m_window.resize(m_size);
     delete guard;
 }

@@ -147,7 +147,9 @@ private Q_SLOTS:
         QTRY_COMPARE(f.dock->geometry(), f.geometry);
         f.dock->setWindowState(Qt::WindowMaximized);
         QTRY_VERIFY(f.dock->width() > 700);
-        QVERIFY(f.support->minimizeDockWidget());
+        // Nor does it bring them back for the program.
+        if (WindowSystem::placesWindows())
+            QVERIFY(f.support->minimizeDockWidget());
         QVERIFY(f.support->restoreDockWidget());
         QTRY_COMPARE(f.dock->geometry(), f.geometry);
     }
