@@ -84,9 +84,8 @@ void MainWindow::saveVisibleSweep()
         statusBar()->showMessage(tr("No levels are shown that could be saved."), messageTime);
         return;
     }
-    const QString name = tr("%1 sweep %2.csv")
-                             .arg(QFileInfo(m_session.fileName()).completeBaseName())
-                             .arg(m_session.replay().position() + 1);
+    const QString name =
+        tr("%1 sweep %2.csv").arg(baseName()).arg(m_session.replay().position() + 1);
     m_recordings->saveAs(name, exportText(*m_values, makeSweep(sweep.timeUs, hops)));
 }
 

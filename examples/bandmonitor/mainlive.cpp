@@ -7,6 +7,8 @@
 #include "model/recordingwriter.h"
 #include "recentrecordings.h"
 
+#include <guibase/services/guibase.h>
+
 #include <QAction>
 #include <QFileInfo>
 #include <QLabel>
@@ -65,11 +67,20 @@ void MainWindow::connectLive()
 
 void MainWindow::saveRecording()
 {
-    const QString name = QFileInfo(m_session.fileName()).completeBaseName();
-    m_recordings->askWhere(tr("%1.csv").arg(name), [this](const QString& path) {
+    m_recordings->askWhere(tr("%1.csv").arg(baseName()), [this](const QString& path) {
         statusBar()->showMessage(tr("Saving as %1…").arg(path));
         m_session.save(path, receiverRemark(m_values->receiver().addressText()));
     });
+}
+
+QString MainWindow::baseName() const
+{
+    const auto recording = m_session.recording();
+    if (m_session.live() == nullptr || m_session.live()->recording() != recording)
+        return QFileInfo(m_session.fileName()).completeBaseName();
+    quint64 begin = recording->sweep(recording->first()).timeUs;
+    return tr("live %1").arg(
+        GuiBase::Instance().TimeString(begin, QStringLiteral("yyyy-MM-dd hh-mm-ss")));
 }
 
 } // namespace bandmonitor

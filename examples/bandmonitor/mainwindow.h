@@ -103,6 +103,8 @@ private:
     void buildLiveEntries(QMenu* menu);
     void connectLive();
     void saveRecording();
+    /// Of files that are saved of the recording, without an ending.
+    QString baseName() const;
 
     // mainjobs.cpp
     void addJobs();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "recordings.h"
 
+#include <generator/receiverstream.h>
 #include <live/commandsource.h>
 #include <live/descriptorsource.h>
 #include <live/followedfile.h>
@@ -18,6 +19,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <sys/stat.h>
 
 using namespace bandmonitor;
@@ -115,6 +117,32 @@ private Q_SLOTS:
             QVERIFY2(told.contains(QLatin1String(part)), qPrintable(told));
         QCOMPARE(m_input->recording()->count(), 5);
     }
+    void generatorMakesFaultsThatAreSurvived()
+    {
+        SampleSettings settings;
+        settings.sweeps = 500;
+        settings.binsPerHop = 10;
+        const auto all = StreamFaults::fromInt(31);
+        for (const auto& [faults, part] : {std::pair(StreamFaults(), ""),
+                                           {all, "skipped"},
+                                           {all, "jump ahead"},
+                                           {all, "jump back"},
+                                           {all, "span is"}}) {
+            CHECKED(start());
+            ReceiverStream stream(settings, faults);
+            std::chrono::seconds pauses{0};
+            for (quint64 sweep = 1; !stream.atEnd(); ++sweep) {
+                const ReceiverStream::Piece piece = stream.next(sweep * 1'000'000);
+                m_source->put(piece.text);
+                pauses += piece.pause;
+            }
+            CHECKED(end());
+            const QString told = m_told.join(QLatin1Char('|'));
+            QCOMPARE(told.isEmpty() && pauses.count() == 0, part[0] == '\0');
+            QVERIFY2(told.contains(QLatin1String(part)), qPrintable(told));
+            QVERIFY(m_input->recording()->count() > 480);
+        }
+    }
     void stallsAndGoesOn()
     {
         QStringList remarks;
@@ -183,6 +211,19 @@ private Q_SLOTS:
         const EventLog& log = session.events();
         QVERIFY(log.size() <= FloodGate::linesAtOnce + 1);
         QVERIFY(said.isEmpty() || (log.size() > 0 && log.event(log.end() - 1).text.contains(said)));
+    }
+    void commandEndsWithItsSource()
+    {
+        auto source = std::make_unique<CommandSource>(
+            QStringLiteral("trap '' TERM; echo $$ >&2; while :; do sleep 0.1; done"));
+        source->setGrace(std::chrono::milliseconds(50));
+        QSignalSpy said(source.get(), &LiveSource::said);
+        source->start();
+        QTRY_COMPARE(said.count(), 1);
+        const pid_t process = said.at(0).at(0).toInt();
+        QCOMPARE(::kill(process, 0), 0);
+        source.reset();
+        QCOMPARE(::kill(process, 0), -1);
     }
     void fifoOutlivesItsWriter()
     {

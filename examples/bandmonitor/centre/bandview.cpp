@@ -78,7 +78,8 @@ void BandView::recordingGrown()
         band.setVisible(low, high);
     else
         band.setVisible(sweep.lowHz, sweep.highHz);
-    band.setCursor(cursor);
+    const bool isCursorShown = cursor >= band.low() && cursor <= band.high();
+    band.setCursor(isCursorShown ? cursor : (band.low() + band.high()) / 2);
     fitLevels();
 }
 

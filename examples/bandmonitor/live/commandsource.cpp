@@ -7,8 +7,10 @@
 namespace bandmonitor {
 
 CommandSource::CommandSource(const QString& command)
-    : m_command(command.simplified())
+    : m_name(command.simplified())
 {
+    if (m_name.size() > longestName)
+        m_name = m_name.left(longestName - 1) + QChar(0x2026); // an ellipsis
     m_grace.setSingleShot(true);
     m_grace.setInterval(std::chrono::seconds(2));
     connect(&m_grace, &QTimer::timeout, this, [this] { sendToAll(SIGKILL); });

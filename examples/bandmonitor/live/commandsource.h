@@ -19,6 +19,7 @@ class CommandSource : public LiveSource
     Q_OBJECT
 public:
     static constexpr int longestLine = 500; ///< Of what is said.
+    static constexpr int longestName = 60;
 
     explicit CommandSource(const QString& command);
     ~CommandSource() override;
@@ -26,7 +27,7 @@ public:
     /// How long it may take to end when it is asked to; 2 s by default.
     void setGrace(std::chrono::milliseconds time) { m_grace.setInterval(time); }
 
-    QString name() const override { return m_command; }
+    QString name() const override { return m_name; }
     void start() override;
     void stop() override;
     qint64 read(char* to, qint64 size) override;
@@ -39,7 +40,7 @@ private:
     /// Reaches what the shell has started too.
     void sendToAll(int signal) const;
 
-    QString m_command;
+    QString m_name;
     QProcess m_process;
     QTimer m_grace;
     qint64 m_group = 0;

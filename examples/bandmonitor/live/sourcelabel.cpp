@@ -10,6 +10,7 @@ namespace bandmonitor {
 namespace {
 
 constexpr int refreshTime = 250; // milliseconds
+constexpr int sideMargin = 6;
 /// Many receivers tell the time in whole seconds.
 constexpr qint64 notableUs = 1'500'000;
 
@@ -25,6 +26,7 @@ SourceLabel::SourceLabel(Session* session, QWidget* parent)
     , m_session(session)
 {
     m_clock.start();
+    setContentsMargins(sideMargin, 0, sideMargin, 0);
     m_refresh.setSingleShot(true);
     m_refresh.setInterval(refreshTime);
     connect(&m_refresh, &QTimer::timeout, this, &SourceLabel::refresh);
@@ -72,7 +74,7 @@ QString SourceLabel::liveText() const
         parts << rateText(*rate);
     if (const qint64 behind = behindUs(); behind >= notableUs)
         parts << tr("%1 behind").arg(durationText(behind));
-    return tr("Live: %1").arg(parts.join(QStringLiteral(", ")));
+    return parts.isEmpty() ? tr("Live") : tr("Live: %1").arg(parts.join(QStringLiteral(", ")));
 }
 
 qint64 SourceLabel::behindUs() const

@@ -139,6 +139,8 @@ void LiveInput::restarted(const QString& reason)
     publish();
     m_watch.restart();
     m_remarks.add(tr("%1: %2").arg(name(), reason));
+    m_stall.stop();
+    setState(State::Waiting);
 }
 
 void LiveInput::finish()

@@ -22,7 +22,7 @@ class LiveInput : public QObject
     Q_OBJECT
 public:
     enum class State {
-        Waiting, ///< For the first sweep.
+        Waiting, ///< For the first sweep, of a source that begins anew too.
         Running,
         Stalled, ///< No sweep has come for unusually long.
         Ended,   ///< All that came was read.
