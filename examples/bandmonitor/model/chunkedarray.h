@@ -39,8 +39,8 @@ public:
         return result;
     }
 
-    /// Gives up a run that append() has returned. A chunk goes with its last run. This is fast for
-    /// the runs that came first.
+    /// Gives up a run that append() has returned. A chunk goes with its last run; one waits for the
+    /// next need. This is fast for the runs that came first.
     void release(std::span<const T> run)
     {
         const auto holdsRun = [&run](const Chunk& chunk) {
@@ -55,8 +55,9 @@ public:
         chunk->held -= run.size();
         if (chunk->held > 0 || &*chunk == m_current)
             return;
-        m_capacity -= chunk->capacity;
-        m_chunks.erase(chunk);
+        dropSpare();
+        chunk->end = 0;
+        m_spare.splice(m_spare.end(), m_chunks, chunk);
     }
 
     /// How many elements are held.
@@ -78,11 +79,23 @@ private:
 
     Chunk& allocate(std::size_t count)
     {
+        if (!m_spare.empty() && m_spare.front().capacity == count) {
+            m_chunks.splice(m_chunks.end(), m_spare);
+            return m_chunks.back();
+        }
+        dropSpare();
         m_capacity += count;
         return m_chunks.emplace_back(std::make_unique_for_overwrite<T[]>(count), count);
     }
 
+    void dropSpare()
+    {
+        m_capacity -= m_spare.empty() ? 0 : m_spare.front().capacity;
+        m_spare.clear();
+    }
+
     std::list<Chunk> m_chunks;
+    std::list<Chunk> m_spare;   ///< One without runs, or none.
     Chunk* m_current = nullptr; ///< With place for short runs.
     std::size_t m_size = 0;
     std::size_t m_capacity = 0;
