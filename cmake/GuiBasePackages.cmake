@@ -49,4 +49,11 @@ if(GUIBASE_BUILD_EXAMPLES)
 Opens recordings of common receiver tools, detects signals in them and
 keeps jobs, bearings and an event log. Shows a sample without a file.")
 endif()
+if(GUIBASE_BUILD_DESIGNER)
+    list(APPEND CPACK_COMPONENTS_ALL designer)
+    guibase_package(designer libguibase-designer libdevel
+        "${guibase_runtime} (= ${PROJECT_VERSION})"
+        "For Qt Designer, and programs that load forms at run time: the inputs,
+lists, docks and panes of the libraries with their properties.")
+endif()
 include(CPack)

@@ -4,7 +4,7 @@
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev libgl1-mesa-dev)
 run_packages=(fonts-dejavu-core qt6-qpa-plugins qt6-wayland)
 test_packages=(xvfb openbox x11-utils weston dbus-daemon git pkg-config dpkg-dev file desktop-file-utils man-db
-    doxygen)
+    doxygen qt6-tools-dev libqt6opengl6-dev)
 benchmark_packages=(libbenchmark-dev)
 
 # Installs the packages that are missing when this user may, else names the command to type.

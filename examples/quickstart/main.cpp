@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A window with a list, two panels that hide at the edge, a frequency entry and a pop-up (double-click
-// a station), which comes back as it was left.
+// A window with a list, two panels that hide at the edge, a frequency entry and a pop-up
+// (double-click a station), which comes back as it was left.
 #include <guibase/docks/areas/tabifysupport.h>
 #include <guibase/docks/areas/tilesupport.h>
 #include <guibase/docks/autohide/autohidesupport.h>

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Installs the build, moves the installation, and builds and runs against it, each as a project of
-# its own: the consumer, the quick start, the applications that the README shows, and the guide.
+# its own: the consumer, the examples, the applications that the README shows, and the guide.
 #   cmake -DPROJECT_DIR=… -DBUILD_DIR=… -DWORK_DIR=… -DCXX_FLAGS=… -DLAUNCHER=…
 #         [-DRELEASE=ON] -P check.cmake
 # With RELEASE all but the tests is first built for release in BUILD_DIR; else that is a ready build,
@@ -72,6 +72,7 @@ endfunction()
 function(write_guide_project folder pages)
     set(rows "")
     set(declarations "")
+    set(programs "")
     foreach(page IN LISTS pages)
         set(text "")
         foreach(number RANGE 20)
@@ -80,6 +81,10 @@ function(write_guide_project folder pages)
         endforeach()
         string(REPLACE "main.moc" "${page}.moc" text "${text}")
         file(WRITE "${folder}/${page}.cpp" "#define main ${page}_main\n${text}#undef main\n")
+        if(NOT text MATCHES "int main")
+            continue()
+        endif()
+        list(APPEND programs ${page})
         string(APPEND declarations "int ${page}_main(int, char*[]);\n")
         string(APPEND rows "    if (page == \"${page}\")\n        return ${page}_main(argc, argv);\n")
     endforeach()
@@ -91,6 +96,7 @@ function(write_guide_project folder pages)
     string(REPLACE "main.cpp" "main.cpp ${sources}.cpp" package "${package}")
     file(WRITE "${folder}/CMakeLists.txt" "${package}"
         "target_compile_options(myapplication PRIVATE -Wall -Wextra -Werror)\n")
+    set(guide_programs "${programs}" PARENT_SCOPE)
 endfunction()
 
 # Every page runs by itself until it is asked to end, all at the same time, without a warning. A
@@ -188,5 +194,7 @@ else()
     list(REMOVE_ITEM pages README)
     write_guide_project("${WORK_DIR}/guide" "${pages}")
     build_project("${WORK_DIR}/guide" guide_build)
-    run_guide("${WORK_DIR}/guide_build" "${pages}")
+    run_guide("${WORK_DIR}/guide_build" "${guide_programs}")
+    build_project("${PROJECT_DIR}/examples/designer" designer)
+    run_until_asked_to_end(designer designer)
 endif()

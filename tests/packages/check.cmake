@@ -54,6 +54,15 @@ if(NOT EXISTS "${WORK_DIR}/shots/main.png")
     message(FATAL_ERROR "The packaged bandmonitor wrote no picture of its window")
 endif()
 
+# The plug-in for Qt Designer finds its libraries. It is not built without Designer's headers.
+file(GLOB designer "${WORK_DIR}/libguibase-designer_*.deb")
+if(designer)
+    unpack(libguibase-designer "libguibase0 ${same_version}" "libqt6widgets6 ")
+    file(GLOB_RECURSE plugin "${root}/usr/*/qt6/plugins/designer/*.so")
+    run(output ldd "${plugin}")
+    expect("${output}" "libRadioPanes.so.0 => ${root}/usr/")
+endif()
+
 # What a desktop reads.
 set(entry "${root}/usr/share/applications/bandmonitor.desktop")
 set(page "${root}/usr/share/man/man1/bandmonitor.1")

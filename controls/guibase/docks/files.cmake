@@ -4,6 +4,7 @@ guibase_room(docks
         dockwidgetconfigurator.cpp dockwidgetconfigurator.h
         dockwidgethelpers.cpp dockwidgethelpers.h
         dockwindowstate.cpp
+        enhanceddockwidget.cpp enhanceddockwidget.h
         enhanceddockwidgettitlebar.cpp enhanceddockwidgettitlebar.h
         mainwindowconfigurator.cpp mainwindowconfigurator.h
         mainwindowhelpers.cpp mainwindowhelpers.h

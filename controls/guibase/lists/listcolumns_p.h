@@ -31,6 +31,7 @@ public:
     void applyAlignment(QTreeWidgetItem& item) const;
 
     void setName(const QString& name);
+    const QString& name() const { return m_name; }
     /// The view has got further columns.
     void applyFrom(int firstColumn, int count);
     void keep();

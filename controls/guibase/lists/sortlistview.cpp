@@ -157,6 +157,11 @@ void SortListView::SetColumnWidthPersistantName(const QString& name)
     d->columns.setName(name);
 }
 
+QString SortListView::columnsName() const
+{
+    return d->columns.name();
+}
+
 void SortListView::saveColumnStatus()
 {
     d->columns.store();
@@ -171,6 +176,11 @@ void SortListView::setColumnSelectionMenu(bool on)
     else
         disconnect(header(), &QWidget::customContextMenuRequested, this,
                    &SortListView::slotHeaderContextMenuRequested);
+}
+
+bool SortListView::hasColumnSelectionMenu() const
+{
+    return d->columns.hasMenu();
 }
 
 void SortListView::slotHeaderContextMenuRequested(QPoint pos)

@@ -24,6 +24,12 @@ class QMenu;
 class GUIBASE_EXPORT SortListView : public QTreeWidget
 {
     Q_OBJECT
+    /// See SetColumnWidthPersistantName().
+    Q_PROPERTY(QString columnsName READ columnsName WRITE setColumnsName)
+    /// See setColumnSelectionMenu().
+    Q_PROPERTY(bool columnSelectionMenu READ hasColumnSelectionMenu WRITE setColumnSelectionMenu)
+    /// See setPlacingArrivals().
+    Q_PROPERTY(bool placingArrivals READ isPlacingArrivals WRITE setPlacingArrivals)
 public:
     /// Returns a value below, equal to or above 0. Called with the texts of the two rows in reverse
     /// order: below 0 means that the row of the second text goes in front of that of the first.
@@ -53,9 +59,13 @@ public:
     /// stored ones now, and to further columns when they are added. Empty at start: nothing is
     /// kept.
     void SetColumnWidthPersistantName(const QString& name);
+    /// The same, as forms call it.
+    void setColumnsName(const QString& name) { SetColumnWidthPersistantName(name); }
+    QString columnsName() const;
     void saveColumnStatus();
     /// Whether a right click on the header offers to hide and show the columns; off at start.
     void setColumnSelectionMenu(bool on);
+    bool hasColumnSelectionMenu() const;
 
     // --- Sorting -------------------------------------------------------------------------------
 

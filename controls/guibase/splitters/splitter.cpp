@@ -58,6 +58,17 @@ void Splitter::init()
     setOpaqueResize(false);
 }
 
+QString Splitter::storageName() const
+{
+    return d->name;
+}
+
+void Splitter::setStorageName(const QString& name)
+{
+    d->name = name;
+    applyStored();
+}
+
 void Splitter::setSizes(const QList<int>& sizes)
 {
     d->awaitedSizes = sizes.size() > count() ? sizes : QList<int>();

@@ -16,6 +16,8 @@
 class GUIBASE_EXPORT Splitter : public QSplitter
 {
     Q_OBJECT
+    /// See setStorageName().
+    Q_PROPERTY(QString storageName READ storageName WRITE setStorageName)
 public:
     explicit Splitter(QWidget* parent = nullptr);
     /// The positions are kept under `name`; not without one.
@@ -23,6 +25,11 @@ public:
     Splitter(Qt::Orientation orientation, QWidget* parent, const QString& objectName,
              const QString& name);
     ~Splitter() override;
+
+    /// The name that the positions are kept under from now on; applies those that are stored. The
+    /// one given to the constructor at first.
+    QString storageName() const;
+    void setStorageName(const QString& name);
 
     /// Sizes in pixels, by widget. Sizes beyond the widgets are kept for the widgets that are added
     /// next, until the user moves a handle. Widgets without a size, or with a negative one, get the

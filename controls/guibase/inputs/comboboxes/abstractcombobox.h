@@ -26,6 +26,9 @@ class GUIBASE_EXPORT AbstractComboBox : public QComboBox, public TypedInput
     /// See setCurrentDisplayFormatIndex().
     Q_PROPERTY(int currentDisplayFormatIndex READ currentDisplayFormatIndex WRITE
                    setCurrentDisplayFormatIndex NOTIFY currentDisplayFormatIndexChanged)
+    /// See setAutoSwitchDisplayFormat().
+    Q_PROPERTY(bool autoSwitchDisplayFormat READ isAutoSwitchDisplayFormat WRITE
+                   setAutoSwitchDisplayFormat)
 public:
     explicit AbstractComboBox(QWidget* parent = nullptr);
     ~AbstractComboBox() override;

@@ -26,6 +26,9 @@ class GUIBASE_EXPORT AbstractSpinBox : public QAbstractSpinBox, public TypedInpu
     /// See setCurrentDisplayFormatIndex().
     Q_PROPERTY(int currentDisplayFormatIndex READ currentDisplayFormatIndex WRITE
                    setCurrentDisplayFormatIndex NOTIFY currentDisplayFormatIndexChanged)
+    /// See setAutoSwitchDisplayFormat().
+    Q_PROPERTY(bool autoSwitchDisplayFormat READ isAutoSwitchDisplayFormat WRITE
+                   setAutoSwitchDisplayFormat)
 public:
     explicit AbstractSpinBox(QWidget* parent = nullptr);
     ~AbstractSpinBox() override;
