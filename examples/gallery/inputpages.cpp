@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "pages.h"
+#include "specimens.h"
+
+#include <guibase/formats/integralnumberdisplayformat.h>
+#include <guibase/formats/realnumberdisplayformat.h>
+#include <guibase/inputs/comboboxes/comboboxes.h>
+#include <guibase/inputs/spinboxes/frequencyspinbox.h>
+#include <guibase/inputs/spinboxes/qdatetimespinbox.h>
+#include <guibase/inputs/spinboxes/spinboxes.h>
+
+#include <QDateTime>
+#include <QLineEdit>
+#include <QTimer>
+
+namespace gallery {
+
+namespace {
+
+QStringList states()
+{
+    return {QStringLiteral("Value"), QStringLiteral("Being typed"), QStringLiteral("Refused"),
+            QStringLiteral("Read-only"), QStringLiteral("Disabled")};
+}
+
+/// Types the text once the input is shown, which shows its value first.
+template <typename Input, typename Then>
+void typeSoon(Input* input, const QString& text, Then then)
+{
+    QTimer::singleShot(0, input, [input, text, then] {
+        input->inputLineEdit()->selectAll();
+        input->inputLineEdit()->insert(text); // as typing does: the text counts as changed
+        then();
+    });
+}
+
+/// The same input in all states; `typed` can be read, `refused` cannot.
+template <typename Input, typename SetUp>
+void addStates(Specimens& specimens, const QString& name, const QString& typed,
+               const QString& refused, SetUp setUp)
+{
+    QList<QWidget*> row;
+    for (int state = 0; state < states().size(); ++state) {
+        auto* input = new Input;
+        setUp(*input);
+        switch (state) {
+        case 1:
+            typeSoon(input, typed, [] {});
+            break;
+        case 2:
+            typeSoon(input, refused, [input] { input->interpret(); });
+            break;
+        case 3:
+            input->inputLineEdit()->setReadOnly(true);
+            break;
+        case 4:
+            input->setEnabled(false);
+            break;
+        default:
+            break;
+        }
+        row << input;
+    }
+    specimens.addRow(name, row);
+}
+
+template <typename Input>
+void setNumber(Input& input)
+{
+    input.setRange(0, 100);
+    input.setValue(42);
+}
+
+template <typename Input>
+void setItems(Input& input)
+{
+    input.setRange(0, 100);
+    input.addItems({QStringLiteral("10"), QStringLiteral("42"), QStringLiteral("80")});
+    input.setValue(42);
+}
+
+} // namespace
+
+QWidget* makeSpinBoxes()
+{
+    using namespace SpinBoxes;
+    auto* all = new Specimens(states());
+    addStates<FrequencySpinBox>(*all, QStringLiteral("FrequencySpinBox"), QStringLiteral("7100k"),
+                                QStringLiteral("7 parsec"),
+                                [](FrequencySpinBox& box) { box.setValue(14'225'000); });
+    addStates<QDateTimeSpinBox>(
+        *all, QStringLiteral("QDateTimeSpinBox"), QStringLiteral("1 January 2026 12:00:00 UTC"),
+        QStringLiteral("tomorrow"), [](QDateTimeSpinBox& box) {
+            box.setValue(QDateTime(QDate(2026, 3, 1), QTime(12, 30), Qt::UTC));
+        });
+    addStates<DoubleSpinBox>(*all, QStringLiteral("DoubleSpinBox, in dB"), QStringLiteral("12.5"),
+                             QStringLiteral("1,500"), [](DoubleSpinBox& box) {
+                                 auto format = std::make_unique<RealNumberDisplayFormat<double>>();
+                                 format->setPrecision(1);
+                                 format->setSuffix(QStringLiteral("dB"));
+                                 box.addDisplayFormat(std::move(format));
+                                 box.setCurrentDisplayFormatIndex(0);
+                                 box.setValue(-80);
+                             });
+    addStates<UInt16SpinBox>(*all, QStringLiteral("UInt16SpinBox, base 16"), QStringLiteral("beef"),
+                             QStringLiteral("xyz"), [](UInt16SpinBox& box) {
+                                 auto format =
+                                     std::make_unique<IntegralNumberDisplayFormat<quint16>>();
+                                 format->setBase(16);
+                                 format->setPrefix(QStringLiteral("0x"));
+                                 box.addDisplayFormat(std::move(format));
+                                 box.setCurrentDisplayFormatIndex(0);
+                                 box.setValue(0xcafe);
+                             });
+    addStates<Int8SpinBox>(*all, QStringLiteral("Int8SpinBox"), QStringLiteral("7"),
+                           QStringLiteral("200"), &setNumber<Int8SpinBox>);
+    addStates<Int32SpinBox>(*all, QStringLiteral("Int32SpinBox"), QStringLiteral("7"),
+                            QStringLiteral("seven"), &setNumber<Int32SpinBox>);
+    addStates<UInt64SpinBox>(*all, QStringLiteral("UInt64SpinBox"), QStringLiteral("7"),
+                             QStringLiteral("-7"), &setNumber<UInt64SpinBox>);
+    addStates<Int32SpinBox>(*all, QStringLiteral("with a guard"), QStringLiteral("8"),
+                            QStringLiteral("13"), [](Int32SpinBox& box) {
+                                setNumber(box);
+                                box.setValueGuard([](const int& value) {
+                                    return value == 13 ? QStringLiteral("Not 13.") : QString();
+                                });
+                            });
+    addStates<Int32SpinBox>(*all, QStringLiteral("right to left"), QStringLiteral("7"),
+                            QStringLiteral("seven"), [](Int32SpinBox& box) {
+                                setNumber(box);
+                                box.setLayoutDirection(Qt::RightToLeft);
+                            });
+    all->addNote(QStringLiteral("The tool tip of a refused input tells the reason."));
+    return all;
+}
+
+QWidget* makeComboBoxes()
+{
+    using namespace ComboBoxes;
+    auto* all = new Specimens(states());
+    addStates<Int32ComboBox>(*all, QStringLiteral("Int32ComboBox"), QStringLiteral("50"),
+                             QStringLiteral("fifty"), &setItems<Int32ComboBox>);
+    addStates<UInt8ComboBox>(*all, QStringLiteral("UInt8ComboBox"), QStringLiteral("50"),
+                             QStringLiteral("256"), &setItems<UInt8ComboBox>);
+    addStates<DoubleComboBox>(*all, QStringLiteral("DoubleComboBox"), QStringLiteral("0.5"),
+                              QStringLiteral("1,500"), &setItems<DoubleComboBox>);
+    addStates<Int32ComboBox>(*all, QStringLiteral("with a special value"), QStringLiteral("50"),
+                             QStringLiteral("fifty"), [](Int32ComboBox& box) {
+                                 setItems(box);
+                                 box.setSpecialValueText(QStringLiteral("automatic"), -1);
+                                 box.setValue(-1);
+                             });
+    addStates<DoubleComboBox>(*all, QStringLiteral("right to left"), QStringLiteral("50"),
+                              QStringLiteral("fifty"), [](DoubleComboBox& box) {
+                                  setItems(box);
+                                  box.setLayoutDirection(Qt::RightToLeft);
+                              });
+    return all;
+}
+
+} // namespace gallery

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QWidget;
+
+namespace gallery {
+
+/// A page of the gallery: one family in its states.
+struct Page
+{
+    QString name; ///< Also of its pictures.
+    QString title;
+    QWidget* (*make)();
+};
+
+QWidget* makeSpinBoxes();
+QWidget* makeComboBoxes();
+QWidget* makeLists();
+QWidget* makeTables();
+QWidget* makeDocks();
+QWidget* makeTitleBars();
+QWidget* makeSplitters();
+QWidget* makeLivePanes();
+QWidget* makeBearings();
+QWidget* makeColorEditor();
+QWidget* makeColorPickers();
+QWidget* makePopUps();
+QWidget* makeBindings();
+QWidget* makeKeys();
+QWidget* makeFrequencies();
+
+} // namespace gallery
