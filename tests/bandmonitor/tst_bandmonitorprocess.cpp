@@ -107,7 +107,8 @@ private Q_SLOTS:
         changing.start(helper, {config, QStringLiteral("change"), end});
         QVERIFY(changing.waitForReadyRead(processTimeoutMs));
         const QByteArray changed = changing.readAllStandardOutput();
-        QVERIFY2(changed.startsWith("unit 2 resolution 2 zone 0 format 6 hold 0 grid #ff00ff key Shift+F9") &&
+        QVERIFY2(changed.startsWith(
+                     "unit 2 resolution 2 zone 0 format 6 hold 0 grid #ff00ff key Shift+F9") &&
                      changed.contains("QSize(777, 555) 2 ") &&
                      changed.contains("\"levels\" hides true") &&
                      changed.endsWith(",0,123,85,85, 98100250.0:-40\n"),

@@ -6,8 +6,8 @@
 #include "panels/bearingspanel.h"
 #include "panels/headingspinbox.h"
 
-#include <radiopanes/bearings/bearingrose.h>
 #include <model/bearings.h>
+#include <radiopanes/bearings/bearingrose.h>
 
 #include <QAction>
 #include <QLineEdit>

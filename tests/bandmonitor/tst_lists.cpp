@@ -8,9 +8,9 @@
 #include "panels/referencelevels.h"
 #include "panels/signalspanel.h"
 
+#include <model/samplegenerator.h>
 #include <radiopanes/colors/panecolors.h>
 #include <radiopanes/panes/frequencytext.h>
-#include <model/samplegenerator.h>
 
 #include <guibase/lists/checksortlistviewitem.h>
 #include <guibase/lists/sortlistview.h>

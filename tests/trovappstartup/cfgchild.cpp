@@ -69,8 +69,8 @@ protected:
     void closeEvent(QCloseEvent* event) override { event->ignore(); }
 };
 
-/// Sets values of its own, one a store. Where the disk is slow, the others hold the lock for so long
-/// that a store is refused: it is asked for again, as applications do.
+/// Sets values of its own, one a store. Where the disk is slow, the others hold the lock for so
+/// long that a store is refused: it is asked for again, as applications do.
 int writeKeys(const QString& name, int count)
 {
     const QDeadlineTimer deadline(std::chrono::seconds(30));

@@ -55,7 +55,8 @@ void ReadableOutline::adapt()
     QColor window = given.color(QPalette::Window);
     // From the window's colour towards that of texts, as far as it takes.
     constexpr float step = 0.1F;
-    for (float share = step; share <= 1 && ColorContrast::ratio(outlineOf(window), ground) < lineContrast;
+    for (float share = step;
+         share <= 1 && ColorContrast::ratio(outlineOf(window), ground) < lineContrast;
          share += step)
         window = mixed(given.color(QPalette::Window), given.color(QPalette::WindowText), share);
     if (m_control->palette().color(QPalette::Window) == window)

@@ -19,8 +19,8 @@ class GUIBASE_EXPORT FrequencySpinBox : public Int64SpinBox
 {
     Q_OBJECT
     /// See setFollowingFrequencyUnit().
-    Q_PROPERTY(bool followingFrequencyUnit READ isFollowingFrequencyUnit WRITE
-                   setFollowingFrequencyUnit)
+    Q_PROPERTY(
+        bool followingFrequencyUnit READ isFollowingFrequencyUnit WRITE setFollowingFrequencyUnit)
 public:
     explicit FrequencySpinBox(QWidget* parent = nullptr);
     ~FrequencySpinBox() override;
