@@ -123,10 +123,8 @@ bool checkMemory()
     const double few = bytesAfter(10);
     const double many = bytesAfter(1'000'000);
     const double ratio = many / few;
-    std::printf("Memory of a step: a million changes %.0f bytes, ten changes %.0f bytes, "
-                "ratio %.3f, limit %.3f%s\n",
-                many, few, ratio, memoryLimit, ratio <= memoryLimit ? "" : "  EXCEEDED");
-    return ratio <= memoryLimit;
+    return printRatio("memory of a step: after a million changes against ten",
+                      withUnit(many, 0, " bytes"), withUnit(few, 0, " bytes"), ratio, memoryLimit);
 }
 
 } // namespace

@@ -310,7 +310,7 @@ bool runProcesses(qint64 roundTripTime)
                                 {QStringLiteral("--child"), port});
     }
     if (lastTimeOf(processes, processCount) == 0) {
-        std::printf("the processes do not get into step\n");
+        std::fprintf(stderr, "the processes do not get into step\n");
         return false;
     }
     const qint64 start =
@@ -319,9 +319,12 @@ bool runProcesses(qint64 roundTripTime)
     processes[processCount / 2]->waitForBytesWritten();
     const qint64 end = lastTimeOf(processes, processCount - 1);
     const double reflow = static_cast<double>(end - start) / 1e6;
-    std::printf("one closing pop-up is known by %d processes after %.1f ms, limit %.0f ms; "
-                "round trip of one message %.3f ms\n",
-                processCount, reflow, reflowLimit, static_cast<double>(roundTripTime) / 1e6);
+    const std::string name = "until " + std::to_string(processCount) +
+                             " processes know of a closing pop-up, against the time allowed";
+    const std::string roundTrip = withUnit(static_cast<double>(roundTripTime) / 1e6, 3, " ms");
+    const bool isKnownSoon =
+        printRatio(name, withUnit(reflow, 1, " ms") + " (a round trip: " + roundTrip + ")",
+                   withUnit(reflowLimit, 0, " ms"), reflow / reflowLimit, 1);
     // What has to be done once after a start is over then.
     std::this_thread::sleep_for(NotificationSettings().answerTime * 1.2);
     std::vector<int> before;
@@ -331,13 +334,14 @@ bool runProcesses(qint64 roundTripTime)
     int most = 0;
     for (size_t i = 0; i < processes.size(); ++i)
         most = std::max(most, wakeUpsOf(*processes[i]) - before[i]);
-    std::printf("wake-ups of the busiest idle process in %d s: %d, limit %d\n", idleSeconds, most,
-                idleSeconds - 1);
+    const bool isIdle = printRatio("wake-ups of the busiest idle process, against one a second",
+                                   std::to_string(most), std::to_string(idleSeconds),
+                                   static_cast<double>(most) / idleSeconds, 0.9);
     for (const auto& process : processes)
         process->closeWriteChannel();
     for (const auto& process : processes)
         process->waitForFinished();
-    return end != 0 && reflow <= reflowLimit && most < idleSeconds;
+    return end != 0 && isKnownSoon && isIdle;
 }
 
 } // namespace

@@ -89,11 +89,9 @@ bool checkMemory(const QString& path)
     const auto recording = loadFile(path);
     const double taken = static_cast<double>(allocatedBytes() - before);
     const double held = static_cast<double>(recording->levelCount() * sizeof(float));
-    const bool good = held > 0 && taken <= 2 * held;
-    std::printf(
-        "memory of a loaded recording: %.1f MB for %.1f MB of levels, ratio %.3f, limit 2%s\n",
-        taken / 1e6, held / 1e6, taken / held, good ? "" : " EXCEEDED");
-    return good;
+    return printRatio("memory of a loaded recording against its levels",
+                      withUnit(taken / 1e6, 1, " MB"), withUnit(held / 1e6, 1, " MB"), taken / held,
+                      2);
 }
 
 /// Columns of a pane from a sweep of `bins` bins.

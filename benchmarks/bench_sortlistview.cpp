@@ -222,9 +222,8 @@ bool checkMemory()
     const double ours = bytesPerRow<SortListView, SortListViewItem>();
     const double theirs = bytesPerRow<QTreeWidget, QTreeWidgetItem>();
     const double ratio = ours / theirs;
-    std::printf("Memory per row: ours %.0f bytes, theirs %.0f bytes, ratio %.3f, limit %.3f%s\n",
-                ours, theirs, ratio, memoryLimit, ratio <= memoryLimit ? "" : "  EXCEEDED");
-    return ratio <= memoryLimit;
+    return printRatio("memory per row", withUnit(ours, 0, " bytes"), withUnit(theirs, 0, " bytes"),
+                      ratio, memoryLimit);
 }
 
 } // namespace

@@ -2,7 +2,9 @@
 #include "ratio.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
+#include <limits>
 #include <map>
 
 namespace {
@@ -57,6 +59,24 @@ private:
 };
 
 } // namespace
+
+std::string withUnit(double number, int decimals, const char* unit)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, "%.*f%s", decimals, number, unit);
+    return text;
+}
+
+bool printRatio(const std::string& name, const std::string& ours, const std::string& theirs,
+                double ratio, double limit)
+{
+    const bool isGood = ratio <= limit; // not for one that is no number
+    const char* const remark = isGood ? "" : std::isnan(ratio) ? "not measured" : "over the limit";
+    std::printf("| %s | %s | %s | %.3f | %g | %s |\n", name.c_str(), ours.c_str(), theirs.c_str(),
+                ratio, limit, remark);
+    std::fflush(stdout);
+    return isGood;
+}
 
 void RatioRun::compare(const std::string& name, double limit, const Body& ours, const Body& theirs,
                        Clock clock)
@@ -113,7 +133,9 @@ int RatioRun::run(int argc, char** argv)
         const double ours = growthOf("ours");
         const double theirs = growthOf("theirs");
         if (ours > 0 && theirs > 0)
-            passed = report(growth, ours, theirs) && passed;
+            passed = printRatio(growth.name, withUnit(ours, 3, " times"),
+                                withUnit(theirs, 3, " times"), ours / theirs, growth.limit) &&
+                     passed;
     }
     return passed ? 0 : 1;
 }
@@ -121,19 +143,7 @@ int RatioRun::run(int argc, char** argv)
 bool RatioRun::report(const Pair& pair, double ours, double theirs)
 {
     const bool measured = ours > 0 && theirs > 0;
-    const double ratio = measured ? ours / theirs : 0;
-    const bool good = measured && ratio <= pair.limit;
-    const char* remark = good ? "" : measured ? "  EXCEEDED" : "  NOT MEASURED";
-    std::printf("%s: ours %.1f ns, theirs %.1f ns, ratio %.3f, limit %.3f%s\n", pair.name.c_str(),
-                ours, theirs, ratio, pair.limit, remark);
-    return good;
-}
-
-bool RatioRun::report(const Growth& growth, double ours, double theirs)
-{
-    const double ratio = ours / theirs;
-    const bool good = ratio <= growth.limit;
-    std::printf("%s: ours times %.3f, theirs times %.3f, ratio %.3f, limit %.3f%s\n",
-                growth.name.c_str(), ours, theirs, ratio, growth.limit, good ? "" : "  EXCEEDED");
-    return good;
+    return printRatio(pair.name, withUnit(ours, 1, " ns"), withUnit(theirs, 1, " ns"),
+                      measured ? ours / theirs : std::numeric_limits<double>::quiet_NaN(),
+                      pair.limit);
 }

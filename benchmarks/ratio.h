@@ -7,6 +7,14 @@
 #include <string>
 #include <vector>
 
+/// Prints a row of the table that scripts/benchmarks makes: what was measured (with its unit), and
+/// the ratio, which is not above the limit when it is good. Returns whether it is.
+bool printRatio(const std::string& name, const std::string& ours, const std::string& theirs,
+                double ratio, double limit);
+
+/// A number with so many decimals, and what follows it.
+std::string withUnit(double number, int decimals, const char* unit);
+
 /// Compares pairs of ways to do the same thing, "ours" and "theirs", in one run.
 ///
 /// Each side is an ordinary Google Benchmark body (`for (auto _ : state) ...`). All sides are
@@ -29,8 +37,8 @@ public:
     /// small, on our side and on theirs, and the ratio of the two.
     void compareGrowth(const std::string& name, double limit, const std::string& small,
                        const std::string& large, double factor);
-    /// Measures, prints "name: ours ns, theirs ns, ratio, limit" for each pair, and returns the
-    /// exit code for main(): 1 when a limit was exceeded or a side could not be measured, else 0.
+    /// Measures, prints a row for each pair, and returns the exit code for main(): 1 when a limit
+    /// was exceeded or a side could not be measured, else 0.
     /// Pairs that --benchmark_filter leaves out do not count.
     int run(int argc, char** argv);
 
@@ -51,9 +59,8 @@ private:
         double factor;
     };
 
-    /// Prints the line; whether both times (0 = missing) are there and within the limit.
+    /// Prints the row; whether both times (0 = missing) are there and within the limit.
     static bool report(const Pair& pair, double ours, double theirs);
-    static bool report(const Growth& growth, double ours, double theirs);
 
     std::vector<Pair> m_pairs;
     std::vector<Growth> m_growths;
