@@ -20,6 +20,10 @@ if(GUIBASE_SANITIZE)
     add_link_options(-fsanitize=${guibase_sanitizers})
 endif()
 
+if(GUIBASE_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 add_library(guibase_build_settings INTERFACE)
 target_compile_definitions(guibase_build_settings INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH)

@@ -6,6 +6,7 @@ run_packages=(fonts-dejavu-core qt6-qpa-plugins qt6-wayland)
 test_packages=(xvfb openbox x11-utils weston dbus-daemon git pkg-config dpkg-dev file desktop-file-utils man-db
     doxygen qt6-tools-dev libqt6opengl6-dev)
 benchmark_packages=(libbenchmark-dev)
+fuzz_packages=(clang libclang-rt-dev)
 lint_packages=(clang-format clang-tidy)
 
 # Installs the packages that are missing when this user may, else names the command to type.
