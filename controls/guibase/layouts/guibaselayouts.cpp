@@ -75,6 +75,11 @@ void GuiBase::storeFactoryDefaultWidgets(long mode)
     d->persistentWidgets.storeFactory(static_cast<quint32>(mode));
 }
 
+bool GuiBase::hasModeLayout(long mode) const
+{
+    return d->persistentWidgets.hasLayout(static_cast<quint32>(mode));
+}
+
 void GuiBase::SetLayoutWriteDelay(int milliseconds)
 {
     d->persistentWidgets.setWriteDelay(milliseconds);

@@ -19,6 +19,12 @@ void ModeTable::load(const StateRecord::Layouts& layouts,
         reset(&ModeLayout::programStart);
 }
 
+bool ModeTable::isKnown(quint32 mode) const
+{
+    const auto found = m_layouts.find(mode);
+    return found != m_layouts.end() && !found->second.latest.state.isEmpty();
+}
+
 StateRecord::Layouts ModeTable::latest() const
 {
     StateRecord::Layouts result;

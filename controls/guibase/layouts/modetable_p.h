@@ -26,6 +26,8 @@ public:
     ModeLayout& current() { return *m_current; }
     /// The layouts of the mode, new ones if it had none.
     ModeLayout& layout(quint32 mode) { return m_layouts[mode]; }
+    /// Whether the latest layout of the mode is known.
+    bool isKnown(quint32 mode) const;
     void setCurrent(quint32 mode) { m_current = &m_layouts[mode]; }
 
     /// Takes over the record's layouts as those at program start. Without any, all modes go back to

@@ -460,6 +460,6 @@ void PersistentWidget::storeFactory(quint32 mode)
     ModeLayout& layout = m_modes.layout(mode);
     layout.factory = DockRestore::save(*docks, m_modes.current().latest);
     if (layout.latest.state.isEmpty())
-        layout.latest = layout.factory;
+        layout.programStart = layout.latest = layout.factory;
     noteChange();
 }

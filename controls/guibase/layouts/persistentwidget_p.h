@@ -62,6 +62,7 @@ public:
     void setMode(quint32 mode);
     /// Makes the present dock layout the factory layout of the mode; the current mode stays.
     void storeFactory(quint32 mode);
+    bool hasLayout(quint32 mode) const { return m_modes.isKnown(mode); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void ApplyPersistantBeforeWrite() override;

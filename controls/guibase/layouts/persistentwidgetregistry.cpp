@@ -114,6 +114,12 @@ void PersistentWidgetRegistry::storeFactory(quint32 mode)
     forEachWidget([mode](PersistentWidget& entry) { entry.storeFactory(mode); });
 }
 
+bool PersistentWidgetRegistry::hasLayout(quint32 mode) const
+{
+    return std::any_of(m_widgets.cbegin(), m_widgets.cend(),
+                       [mode](const auto& entry) { return entry->hasLayout(mode); });
+}
+
 bool PersistentWidgetRegistry::restore(void (PersistentWidget::*operation)())
 {
     if (m_isRestoring)

@@ -35,6 +35,7 @@ public:
     void write();
     void setMode(quint32 mode);
     void storeFactory(quint32 mode);
+    bool hasLayout(quint32 mode) const;
     /// False, and nothing done, when called while one of the two is at work.
     bool restoreProgramStart();
     bool restoreFactory();

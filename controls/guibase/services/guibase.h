@@ -139,8 +139,13 @@ public:
     /// the user has closed; none is moved. The layouts of all modes are kept over a restart, but
     /// not which one was the last: each start begins in mode 0.
     void setMode(long mode);
-    /// Makes the present dock layouts the factory layouts of the mode.
+    /// Makes the present dock layouts the factory layouts of the mode. In a mode that is new and
+    /// was not left since, they are the ones at program start as well.
     void storeFactoryDefaultWidgets(long mode);
+    /// Whether a registered main window has a dock layout of its own in the mode, from this run or
+    /// an earlier one. Before the first setMode() of a mode without any, or right after it, is the
+    /// time to arrange the docks and to call storeFactoryDefaultWidgets().
+    bool hasModeLayout(long mode) const;
     /// Columns of lists, by the lists' names: applied as the configuration has them, from the first
     /// column or a later one on; stored only while the list is visible. Null lists are ignored.
     void ApplyColumnWidth4(const QString& name, SortListView* list, int firstColumn = 0);
