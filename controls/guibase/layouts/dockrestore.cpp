@@ -114,16 +114,12 @@ void endMaximized(QDockWidget& dock, const MaximizedDocks& maximized)
 void maximize(QDockWidget& dock)
 {
     using QDockWidgetHelpers::MaximizeMinimizeSupport;
-    // A support would undo what it does not know of.
-    auto* const support = MaximizeMinimizeSupport::get(dock);
-    if (dock.isVisible() && support != nullptr)
+    // Window managers that are late undo it in a dock that has just been floated: a support insists.
+    auto* const support = MaximizeMinimizeSupport::install(dock);
+    if (dock.isVisible())
         support->maximizeDockWidget();
-    else if (dock.isVisible())
-        MaximizeMinimizeSupport::maximizeDockWidget(dock);
-    else if (support != nullptr)
-        support->maximizeWhenShown();
     else
-        MaximizeMinimizeSupport::maximizeWhenShown(dock);
+        support->maximizeWhenShown();
 }
 
 void placeFloating(QDockWidget& dock, const MaximizedDocks& maximized)

@@ -116,6 +116,27 @@ private Q_SLOTS:
             QTRY_VERIFY(QGuiApplication::platformName() != u"xcb" || dock->size() == place.size());
         }
     }
+    void plainDockIsMaximizedInItsMode()
+    {
+        Window window;
+        window.enlist();
+        QDockWidget* dock = window.dock("B");
+        for (const int mode : {1, 0})
+            m_services->setMode(mode);
+        dock->setFloating(true);
+        QVERIFY(windowManagerIsReady());
+        dock->showMaximized();
+        const int large = dock->screen()->availableSize().width() / 2;
+        const auto isLarge = [dock, large] { return dock->isMaximized() && dock->width() > large; };
+        QTRY_VERIFY(isLarge());
+        for (int round = 0; round < 10; ++round) { // a late window manager undoes it now and then
+            m_services->setMode(1);
+            QTRY_VERIFY(!dock->isFloating());
+            m_services->setMode(0);
+            QTRY_VERIFY(isLarge());
+            QVERIFY(windowManagerIsReady() && isLarge());
+        }
+    }
     void unknownDock_data()
     {
         Docks row;
