@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "commandline.h"
 
+#include "model/replay.h"
+
 #include <jtbase/numberhelpers.h>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
+
+#include <algorithm>
+#include <span>
 
 #include <sys/stat.h>
 
@@ -13,10 +18,16 @@ namespace bandmonitor {
 
 namespace {
 
-constexpr double slowestReplay = 0.1;
-constexpr double fastestReplay = 100;
 constexpr int smallestHistory = 1;
 constexpr int largestHistory = 1'000'000;
+
+// Those of QApplication. It takes them with one dash and with two.
+constexpr const char* toolkitOptionsWithValue[] = {
+    "display",       "geometry", "icon",        "platform",     "platformpluginpath",
+    "platformtheme", "plugin",   "qwindowicon", "qwindowtitle", "qwindowgeometry",
+    "session",       "style",    "stylesheet",  "title",
+};
+constexpr const char* toolkitOptionsAlone[] = {"reverse", "widgetcount"};
 
 QString tr(const char* text)
 {
@@ -57,8 +68,8 @@ std::optional<double> replayFactorOf(const QString& text)
 {
     bool ok = false;
     const double factor = NumberHelpers::parse<double>(text, &ok);
-    return ok && factor >= slowestReplay && factor <= fastestReplay ? std::optional(factor)
-                                                                    : std::nullopt;
+    const bool isFine = ok && factor >= Replay::minimumSpeed && factor <= Replay::maximumSpeed;
+    return isFine ? std::optional(factor) : std::nullopt;
 }
 
 bool isFifo(const QString& name)
@@ -103,7 +114,7 @@ struct Options
                                    QStringLiteral("DIR")};
     QCommandLineOption replay{
         QStringLiteral("replay"),
-        tr("Start to replay at once, FACTOR (0.1 to 100) times as fast as recorded."),
+        tr("Start to replay at once, FACTOR (0.1 to 10000) times as fast as recorded."),
         QStringLiteral("FACTOR")};
     QCommandLineOption follow{QStringLiteral("follow"),
                               tr("Show the sweeps of FILE live, while another program writes it."),
@@ -112,6 +123,9 @@ struct Options
         QStringLiteral("history"),
         tr("Keep so many megabytes (1 to 1000000) of live sweeps; 512 by default."),
         QStringLiteral("MB")};
+    QCommandLineOption dialogs{
+        QStringLiteral("dialogs"),
+        tr("Tell of a file that cannot be opened in a dialog instead of ending.")};
 };
 
 /// Reads the options and the name of the recording.
@@ -131,8 +145,8 @@ CommandLine readValues(const QCommandLineParser& parser, const Options& options)
         const QString factor = parser.value(options.replay);
         result.replayFactor = replayFactorOf(factor);
         if (!result.replayFactor)
-            return failure(
-                tr("The replay factor must be a number from 0.1 to 100, not \"%1\".").arg(factor));
+            return failure(tr("The replay factor must be a number from 0.1 to 10000, not \"%1\".")
+                               .arg(factor));
     }
     if (parser.isSet(options.history)) {
         const QString text = parser.value(options.history);
@@ -148,7 +162,38 @@ CommandLine readValues(const QCommandLineParser& parser, const Options& options)
     const QStringList followed =
         isFollowed ? QStringList(parser.value(options.follow)) : QStringList();
     const QString problem = takeFile(parser.positionalArguments() + followed, isFollowed, result);
-    return problem.isEmpty() ? result : failure(problem);
+    result.tellsInWindow = parser.isSet(options.dialogs);
+    if (problem.isEmpty() || !result.tellsInWindow)
+        return problem.isEmpty() ? result : failure(problem);
+    result.fileProblem = problem;
+    result.file.clear();
+    return result;
+}
+
+bool isOneOf(const QString& name, std::span<const char* const> options)
+{
+    return std::ranges::any_of(
+        options, [&name](const char* option) { return name == QLatin1String(option); });
+}
+
+/// Without what QApplication takes out later.
+QStringList ownArguments(const QStringList& arguments)
+{
+    QStringList result;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString& argument = arguments[i];
+        if (i > 0 && argument == QLatin1String("--"))
+            return result + arguments.mid(i);
+        QString name = argument.section(u'=', 0, 0);
+        const qsizetype dashes = name.startsWith(QLatin1String("--")) ? 2 : 1;
+        const bool isOption = i > 0 && name.startsWith(u'-');
+        name.remove(0, isOption ? dashes : 0);
+        if (isOption && isOneOf(name, toolkitOptionsWithValue))
+            i += argument.contains(u'=') ? 0 : 1;
+        else if (!isOption || !isOneOf(name, toolkitOptionsAlone))
+            result << argument;
+    }
+    return result;
 }
 
 } // namespace
@@ -160,12 +205,12 @@ CommandLine parseCommandLine(const QStringList& arguments)
     parser.setApplicationDescription(
         tr("Shows and replays recordings of a band: spectrum, waterfall and hold maximum."));
     parser.addOptions({options.help, options.version, options.config, options.screenshots,
-                       options.replay, options.follow, options.history});
+                       options.replay, options.follow, options.history, options.dialogs});
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  tr("The recording to open; a FIFO, or - for the standard input, "
                                     "is shown live; without it, the built-in sample."),
                                  QStringLiteral("[FILE]"));
-    if (!parser.parse(arguments))
+    if (!parser.parse(ownArguments(arguments)))
         return failure(parser.errorText());
     if (parser.isSet(options.help))
         return printed(parser.helpText());

@@ -27,10 +27,13 @@ struct CommandLine
     std::optional<int> historyMegabytes;
     QString configFolder;               ///< Empty: the platform's.
     QString screenshotsFolder;          ///< Empty: no pictures, a normal run.
-    std::optional<double> replayFactor; ///< 0.1 to 100; without it the replay waits.
+    bool tellsInWindow = false; ///< Of files that cannot be opened; otherwise the program ends.
+    QString fileProblem;        ///< What is to be told, with `tellsInWindow`; `file` is empty then.
+    std::optional<double> replayFactor; ///< See Replay::setSpeed(); without it the replay waits.
 };
 
-/// Reads the arguments; the first one is the program. Needs no application object.
+/// Reads the arguments; the first one is the program. Options of the toolkit are left to
+/// QApplication. Needs no application object.
 CommandLine parseCommandLine(const QStringList& arguments);
 
 } // namespace bandmonitor

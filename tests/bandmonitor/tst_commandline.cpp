@@ -21,12 +21,16 @@ private Q_SLOTS:
         Lines row;
         row.add("bandmonitor", CommandLine::Run, "");
         row.add("bandmonitor --replay 2.5 --config $/new --shots $ $/a.csv", CommandLine::Run, "");
+        row.add("bandmonitor -reverse --style fusion -platform=offscreen $/a.csv", CommandLine::Run,
+                "");
+        row.add("bandmonitor --dialogs $/none.csv", CommandLine::Run, "");
+        row.add("bandmonitor -- -reverse", CommandLine::Fail, "-reverse");
         row.add("bandmonitor --help", CommandLine::PrintText, "[FILE]");
         row.add("bandmonitor -v", CommandLine::PrintText, "bandmonitor");
         row.add("bandmonitor --nonsense", CommandLine::Fail, "nonsense");
         row.add("bandmonitor --replay", CommandLine::Fail, "replay");
         row.add("bandmonitor --replay 0.05", CommandLine::Fail, "0.05");
-        row.add("bandmonitor --replay 101", CommandLine::Fail, "101");
+        row.add("bandmonitor --replay 10001", CommandLine::Fail, "10001");
         row.add("bandmonitor --replay nan", CommandLine::Fail, "nan");
         row.add("bandmonitor --replay 2x", CommandLine::Fail, "2x");
         row.add("bandmonitor --history 5 -", CommandLine::Run, "");

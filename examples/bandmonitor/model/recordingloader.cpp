@@ -118,7 +118,9 @@ void RecordingLoader::Private::end()
     if (recording->isEmpty()) {
         const QStringList lines = parser->report().split(QLatin1Char('\n'));
         const QString text = tr("%1 holds no sweep of a band scan.").arg(shownPath());
-        return fail(lines.size() > 1 ? text + QLatin1Char(' ') + lines.at(1) : text);
+        const QString line = lines.value(1);
+        return fail(
+            QStringList{text, line, RecordingParser::expectedForm()}.join(u' ').simplified());
     }
     release();
     state = State::Idle;

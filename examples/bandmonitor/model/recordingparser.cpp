@@ -246,6 +246,14 @@ QString RecordingParser::lastFault() const
     return m_skippedCount > 0 ? textOf(m_lastSkipped) : QString();
 }
 
+QString RecordingParser::expectedForm()
+{
+    return translated(QT_TRANSLATE_NOOP(
+        "bandmonitor::RecordingParser",
+        "Expected: date, time, lowest Hz, highest Hz, step in Hz, samples, levels in dB, as in "
+        "\"2026-05-04, 12:00:00, 88000000, 89000000, 250000, 100, -70.1, -69.8, -45, -71.3\"."));
+}
+
 QString RecordingParser::report() const
 {
     if (m_skippedCount == 0)

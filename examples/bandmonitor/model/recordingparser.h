@@ -80,6 +80,8 @@ public:
     /// A sweep that would hold more levels is parted; by default none is.
     void setMaximumSweep(std::size_t levels) { m_maximumSweep = levels; }
 
+    /// What a line should look like, as a text for the user.
+    static QString expectedForm();
     /// The skipped lines as a text for the user, one a line; empty without any.
     QString report() const;
 
