@@ -90,6 +90,10 @@ private Q_SLOTS:
         QVERIFY(pane.readOut().first().contains(QLatin1String("hold -20.0 dB")));
         m_pane->resetHold();
         QVERIFY(!pane.readOut().first().contains(QLatin1String("-20.0 dB")));
+        m_pane->showSweep(sweeps - 1, 9);
+        QVERIFY(pane.readOut().first().contains(QLatin1String("hold -20.0 dB")));
+        m_pane->showSweep(5, -1); // back to a time when it was still to come
+        QVERIFY(!pane.readOut().first().contains(QLatin1String("-20.0 dB")));
         GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
         QVERIFY(pane.readOut().first().contains(QLatin1String(" kHz")));
     }
