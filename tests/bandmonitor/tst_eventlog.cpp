@@ -132,7 +132,7 @@ private Q_SLOTS:
         m_log->add(EventKind::Mode, QStringLiteral("an event 3\nin two lines"), 0);
         QTRY_COMPARE(lastText(), QStringLiteral("an event 3 in two lines"));
         QCOMPARE(list().topLevelItemCount(), 12);
-        const QString first = QStringLiteral("1970-01-01 00:00:03\tJob\tevent 3.\n");
+        const QString first = QStringLiteral("1970-01-01 00:00:03\t\tJob\tevent 3.\n");
         QVERIFY(m_pane->text().startsWith(first));
         QCOMPARE(m_pane->text().count(QLatin1Char('\n')), 12);
         list().topLevelItem(0)->setSelected(true);

@@ -25,7 +25,7 @@ void EventLog::add(EventKind kind, const QString& text, quint64 timeUs)
     const std::size_t index = indexOf(m_end);
     if (index >= m_ring.size())
         m_ring.resize(index + 1);
-    m_ring[index] = {m_end, timeUs, kind, text.simplified()};
+    m_ring[index] = {m_end, timeUs, kind, text.simplified(), m_place};
     ++m_end;
     m_begin = std::max(m_begin, oldestKept());
     Q_EMIT changed();

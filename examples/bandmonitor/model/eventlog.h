@@ -12,12 +12,21 @@ namespace bandmonitor {
 
 enum class EventKind { Recording, Signal, Job, Mode };
 
+/// Where in a recording something happened.
+struct EventPlace
+{
+    quint64 recording = 0; ///< See Session::recordingNumber(); 0 for none.
+    qsizetype sweep = -1;
+    quint64 timeUs = 0; ///< Of the sweep.
+};
+
 struct Event
 {
     quint64 number = 0; ///< Counted from 0 over the life of the log; clear() does not reset it.
     quint64 timeUs = 0; ///< Microseconds since 1970-01-01 00:00 UTC.
     EventKind kind = EventKind::Recording;
-    QString text; ///< One line.
+    QString text;     ///< One line.
+    EventPlace place; ///< What was shown then.
 };
 
 /// The latest events of the application: when the log is full, a new event replaces the oldest one.
@@ -36,6 +45,8 @@ public:
     void add(EventKind kind, const QString& text);
     /// Line breaks in the text become blanks.
     void add(EventKind kind, const QString& text, quint64 timeUs);
+    /// The place of the events that are added from now on; none at first.
+    void setPlace(const EventPlace& place) { m_place = place; }
     void clear();
     /// Brings back the events from this number on that clear() has taken out, as far as newer ones
     /// have not taken their places.
@@ -62,6 +73,7 @@ private:
     }
 
     std::size_t m_capacity;
+    EventPlace m_place;
     std::vector<Event> m_ring; ///< Grows up to the capacity; an event stands at its number's rest.
     quint64 m_begin = 0;
     quint64 m_end = 0;

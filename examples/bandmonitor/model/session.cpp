@@ -150,6 +150,8 @@ void Session::takeOver(std::shared_ptr<const Recording> recording, const QString
     m_fileName = name;
     m_watch.setRecording(m_recording);
     m_jobs.reset();
+    ++m_recordingNumber;
+    m_events.setPlace({});
     Q_EMIT recordingChanged();
     m_replay.setRecording(m_recording); // shows the first sweep
     m_replay.setGrowth(growth);
@@ -160,6 +162,7 @@ void Session::showSweep(qsizetype position, qsizetype previous)
 {
     m_watch.showSweep(position, previous);
     m_bearings.update(m_watch.tracks());
+    m_events.setPlace({m_recordingNumber, position, m_replay.sweep().timeUs});
     Q_EMIT sweepShown(position, previous);
     m_jobs.sweepsPlayed(position, previous);
 }

@@ -58,6 +58,8 @@ public:
     const RecordingLoader& loader() const { return m_loader; }
     /// The recording that is open; null at first.
     const std::shared_ptr<const Recording>& recording() const { return m_recording; }
+    /// Recordings are counted from 1; 0 at first.
+    quint64 recordingNumber() const { return m_recordingNumber; }
     /// The name of its file, without folder, or of its live source.
     const QString& fileName() const { return m_fileName; }
 
@@ -118,6 +120,7 @@ private:
     bool m_hasLiveBegun = false;
     QElapsedTimer m_sinceGrown;
     std::shared_ptr<const Recording> m_recording;
+    quint64 m_recordingNumber = 0;
     QString m_fileName;
     Replay m_replay;
     SignalWatch m_watch;

@@ -3,6 +3,7 @@
 
 #include "model/textfile.h"
 #include "panels/emptyhint.h"
+#include "panels/listtext.h"
 #include "panels/panelactions.h"
 #include "settings/settings.h"
 
@@ -26,15 +27,19 @@
 #include <QUndoStack>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace bandmonitor {
 
 namespace {
 
 constexpr std::chrono::milliseconds standardInterval{200};
 constexpr int cellPadding = 24;
+constexpr int smallestRows = 3; // with the header
 
 constexpr const char* columnTitles[EventLogPanel::ColumnCount] = {
     QT_TRANSLATE_NOOP("bandmonitor::EventLogPanel", "Time"),
+    QT_TRANSLATE_NOOP("bandmonitor::EventLogPanel", "Recorded"),
     QT_TRANSLATE_NOOP("bandmonitor::EventLogPanel", "Kind"),
     QT_TRANSLATE_NOOP("bandmonitor::EventLogPanel", "Event"),
 };
@@ -81,6 +86,11 @@ QString timeText(quint64 timeUs)
     return GuiBase::Instance().TimeString(timeUs, QStringLiteral("yyyy-MM-dd hh:mm:ss"));
 }
 
+QString timeText(const EventPlace& place)
+{
+    return place.sweep < 0 ? QString() : timeText(place.timeUs);
+}
+
 } // namespace
 
 EventLogPanel::EventLogPanel(EventLog* log, QWidget* parent)
@@ -101,7 +111,7 @@ EventLogPanel::EventLogPanel(EventLog* log, QWidget* parent)
     buildList();
     buildActions();
 
-    QHBoxLayout* buttons = makeButtonRow(this, m_actions);
+    QHBoxLayout* buttons = makeButtonRow(this, m_actions.first(3));
     buttons->addWidget(m_count);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -122,11 +132,15 @@ EventLogPanel::EventLogPanel(EventLog* log, QWidget* parent)
     rebuild();
 }
 
-EventLogPanel::~EventLogPanel() = default;
+EventLogPanel::~EventLogPanel()
+{
+    m_list->verticalScrollBar()->disconnect(this); // it outlives this part of the pane
+}
 
 void EventLogPanel::buildList()
 {
     m_list->setAccessibleName(tr("Events"));
+    m_list->setMinimumHeight(smallestRows * m_list->fontMetrics().height());
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->setPlacingArrivals(true);
@@ -136,7 +150,8 @@ void EventLogPanel::buildList()
         m_list->addColumn(tr(columnTitles[column]));
         m_list->SetCompareFunction(column, SortListView::_compStandardString);
     }
-    m_list->SetCompareFunction(Time, SortListView::_compStandardNumeric);
+    for (const Column column : {Time, Recorded})
+        m_list->SetCompareFunction(column, SortListView::_compStandardNumeric);
     // Events come in their order: nothing to sort until the user chooses a column.
     m_list->setSorting(-1, Qt::AscendingOrder);
     m_list->setShowSortIndicator(true);
@@ -146,6 +161,7 @@ void EventLogPanel::buildList()
         m_list->setColumnWidth(column, metrics.horizontalAdvance(widest) + cellPadding);
     };
     fit(Time, timeText(0));
+    fit(Recorded, timeText(0));
     QString widest = tr(columnTitles[Kind]);
     for (const char* text : kindTexts) {
         if (tr(text).size() > widest.size())
@@ -182,8 +198,14 @@ void EventLogPanel::buildActions()
         if (m_log && m_log->size() > 0)
             UndoRecording::Instance().stack()->push(new ClearStep(m_log));
     });
+    QAction* goToSweep = addPanelAction(this, tr("&Go to the sweep"), Qt::CTRL | Qt::Key_G,
+                                        tr("Shows the sweep that was shown at the event"));
+    connect(goToSweep, &QAction::triggered, this, [this] { goTo(m_list->currentItem()); });
+    connect(m_list, &QTreeWidget::itemActivated, this, &EventLogPanel::goTo);
     auto* menu = new QMenu(this);
+    menu->addAction(goToSweep);
     menu->addActions(m_actions);
+    m_actions << goToSweep;
     m_list->setContextMenu(menu);
     QAction* find =
         addPanelAction(this, tr("&Filter"), QKeySequence::Find, tr("Goes to the filter"));
@@ -265,7 +287,8 @@ void EventLogPanel::rebuild()
     m_list->clear();
     m_next = 0;
     appendNew();
-    m_list->scrollToBottom();
+    if (isVisible())
+        m_list->scrollToBottom(); // otherwise once the list knows its height
     m_followsEnd = true;
     showCount();
 }
@@ -291,16 +314,19 @@ bool EventLogPanel::matches(const Event& event) const
     const QString& wanted = m_filter->text();
     return wanted.isEmpty() || event.text.contains(wanted, Qt::CaseInsensitive) ||
            kindText(event.kind).contains(wanted, Qt::CaseInsensitive) ||
-           timeText(event.timeUs).contains(wanted, Qt::CaseInsensitive);
+           timeText(event.timeUs).contains(wanted, Qt::CaseInsensitive) ||
+           timeText(event.place).contains(wanted, Qt::CaseInsensitive);
 }
 
 SortListViewItem* EventLogPanel::makeItem(const Event& event) const
 {
-    auto* item = new SortListViewItem(static_cast<QTreeWidget*>(nullptr),
-                                      {timeText(event.timeUs), kindText(event.kind), event.text});
+    auto* item = new SortListViewItem(
+        static_cast<QTreeWidget*>(nullptr),
+        {timeText(event.timeUs), timeText(event.place), kindText(event.kind), event.text});
     item->SetColCount(ColumnCount);
     // By number: the clock may have been put back.
     item->SetSortKey(Time, QString::number(event.number));
+    item->SetSortKey(Recorded, QString::number(event.place.timeUs));
     item->setToolTip(Text, event.text);
     return item;
 }
@@ -335,24 +361,25 @@ void EventLogPanel::showCount()
 
 // --- Commands ------------------------------------------------------------------------------------
 
-QString EventLogPanel::lineOf(const QTreeWidgetItem& row) const
-{
-    QStringList cells;
-    for (int column = 0; column < ColumnCount; ++column)
-        cells << row.text(column);
-    return cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
-}
-
 QString EventLogPanel::text() const
 {
     const bool onlySelected = !m_list->selectedItems().isEmpty();
-    QString result;
-    for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
-        const QTreeWidgetItem* row = m_list->topLevelItem(i);
-        if (!onlySelected || row->isSelected())
-            result += lineOf(*row);
-    }
-    return result;
+    return listText(*m_list, onlySelected ? ListRows::Selected : ListRows::All);
+}
+
+QString EventLogPanel::shownText()
+{
+    if (m_isStale)
+        update();
+    return listText(*m_list, ListRows::All);
+}
+
+void EventLogPanel::goTo(const QTreeWidgetItem* row)
+{
+    const auto found =
+        std::ranges::find_if(m_rows, [row](const Row& each) { return each.item == row; });
+    if (found != m_rows.end() && m_log && found->number >= m_log->begin())
+        Q_EMIT placeWanted(m_log->event(found->number).place);
 }
 
 void EventLogPanel::copy() const
@@ -360,12 +387,10 @@ void EventLogPanel::copy() const
     QApplication::clipboard()->setText(text());
 }
 
-std::optional<QString> EventLogPanel::saveTo(const QString& path) const
+std::optional<QString> EventLogPanel::saveTo(const QString& path)
 {
-    QString all;
-    for (int i = 0; i < m_list->topLevelItemCount(); ++i)
-        all += lineOf(*m_list->topLevelItem(i));
-    const std::optional<QString> problem = writeTextFile(path, all.toUtf8(), QIODevice::Text);
+    const std::optional<QString> problem =
+        writeTextFile(path, shownText().toUtf8(), QIODevice::Text);
     return problem ? tr("The events cannot be written to %1: %2").arg(path, *problem) : problem;
 }
 

@@ -27,7 +27,7 @@ class EventLogPanel : public Panel
 {
     Q_OBJECT
 public:
-    enum Column { Time, Kind, Text, ColumnCount };
+    enum Column { Time, Recorded, Kind, Text, ColumnCount };
 
     /// The log may go before the panel, which is empty then.
     explicit EventLogPanel(EventLog* log, QWidget* parent = nullptr);
@@ -38,15 +38,21 @@ public:
     void setUpdateInterval(std::chrono::milliseconds interval);
     /// Shows the events only that have the text in one of their columns, in any case.
     void setFilter(const QString& text);
-    /// The selected rows as shown, or all when none is: one a line, columns with tabs in between.
+    /// The selected rows as shown, or all when none is; see listText().
     QString text() const;
+    /// All shown events, those that the list still waits for included.
+    QString shownText();
     /// Writes all shown events. Returns what went wrong, one line for the user, or nothing.
-    std::optional<QString> saveTo(const QString& path) const;
-    /// Copy, Save, Clear and Find.
+    std::optional<QString> saveTo(const QString& path);
+    /// Copy, Save, Clear and Go to the sweep.
     QList<QAction*> keyActions() const override { return m_actions; }
 
 public Q_SLOTS:
     void refreshTexts() override;
+
+Q_SIGNALS:
+    /// The user wants to see the sweep that was shown at an event.
+    void placeWanted(const EventPlace& place);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -68,9 +74,9 @@ private:
     void appendNew();
     bool matches(const Event& event) const;
     SortListViewItem* makeItem(const Event& event) const;
-    QString lineOf(const QTreeWidgetItem& row) const;
     void copy() const;
     void save();
+    void goTo(const QTreeWidgetItem* row);
     void showCount();
 
     QPointer<EventLog> m_log;
