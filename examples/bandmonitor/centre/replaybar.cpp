@@ -20,6 +20,10 @@
 
 namespace bandmonitor {
 
+namespace {
+constexpr int smallestSlider = 40; // in pixels
+}
+
 ReplayBar::ReplayBar(Replay* replay, std::shared_ptr<SessionValues> values, QWidget* parent)
     : QWidget(parent)
     , m_replay(replay)
@@ -65,6 +69,7 @@ QAction* ReplayBar::makeAction(const QString& text, Icon picture, const QKeySequ
 
 void ReplayBar::buildLayout()
 {
+    setLayoutDirection(Qt::LeftToRight); // as tape decks are everywhere, and the time axis
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(6, 3, 6, 3);
     for (QAction* action : {m_first, m_back, m_play, m_forward, m_last}) {
@@ -78,6 +83,7 @@ void ReplayBar::buildLayout()
     new ReadableOutline(m_slider, QPalette::Window);
     m_slider->setAccessibleName(tr("Sweep"));
     m_slider->setToolTip(tr("Current sweep"));
+    m_slider->setMinimumWidth(smallestSlider);
     row->addWidget(m_slider, 1);
     row->addWidget(m_time);
     auto* speedLabel = new QLabel(tr("&Speed"), this);

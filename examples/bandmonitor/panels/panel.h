@@ -20,6 +20,9 @@ public:
     /// The commands that the overview of keys lists; none by default.
     virtual QList<QAction*> keyActions() const;
 
+    /// Its commands, and which panels there are; a list in it may have a menu of its own.
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
 public Q_SLOTS:
     /// Unit or resolution of frequencies, or the time zone, have changed. Does nothing by default.
     virtual void refreshTexts();

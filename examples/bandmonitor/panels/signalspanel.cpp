@@ -2,6 +2,9 @@
 #include "panels/signalspanel.h"
 
 #include "model/panenames.h"
+#include "panels/listtext.h"
+#include "panels/numberdelegate.h"
+#include "panels/panelactions.h"
 #include "panels/readableoutline.h"
 
 #include <radiopanes/colors/panecolors.h>
@@ -10,8 +13,12 @@
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
 
+#include <QAction>
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
@@ -69,6 +76,8 @@ SignalsPanel::SignalsPanel(const SignalWatch* watch, QWidget* parent)
     : Panel(parent)
     , m_watch(watch)
     , m_list(new SortListView(this, "signals"))
+    , m_copy(
+          addPanelAction(this, tr("&Copy"), QKeySequence::Copy, tr("Copies all signals as text")))
 {
     setAccessibleName(tr("Signals"));
     setFocusProxy(m_list);
@@ -80,6 +89,11 @@ SignalsPanel::SignalsPanel(const SignalWatch* watch, QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_list);
     buildColumns();
+    connect(m_copy, &QAction::triggered, this,
+            [this] { QApplication::clipboard()->setText(text()); });
+    auto* menu = new QMenu(this);
+    menu->addAction(m_copy);
+    m_list->setContextMenu(menu);
     m_rest.setSingleShot(true);
     m_rest.setInterval(standardInterval);
     connect(&m_rest, &QTimer::timeout, this, [this] {
@@ -105,6 +119,9 @@ void SignalsPanel::buildColumns()
         m_list->SetCompareFunction(column, layout.compare);
         m_list->setColumnWidth(column, layout.width);
     }
+    auto* numbers = new NumberDelegate(this);
+    for (const Column column : {Frequency, Level, Bandwidth})
+        m_list->setItemDelegateForColumn(column, numbers);
     m_list->header()->setStretchLastSection(false);
     m_list->setSorting(Frequency, Qt::AscendingOrder);
     m_list->setShowSortIndicator(true);
@@ -263,6 +280,13 @@ void SignalsPanel::showType(Row& row, char type)
     if (icon.isNull())
         icon = typeIcon(type);
     row.item->setIcon(Type, icon);
+}
+
+QString SignalsPanel::text()
+{
+    if (m_isStale)
+        update();
+    return listTitles(*m_list, Frequency) + listText(*m_list, ListRows::All, Frequency);
 }
 
 void SignalsPanel::choose(SortListViewItem* item)

@@ -40,6 +40,10 @@ public:
     /// When the watch begins anew, the new track at the same frequency takes its place.
     void follow(std::uint32_t id);
     std::uint32_t followed() const { return m_followed; }
+    /// The signals as the list shows them, under its titles; see listText().
+    QString text();
+    /// Copy.
+    QList<QAction*> keyActions() const override { return {m_copy}; }
 
 public Q_SLOTS:
     /// The watch has other tracks now. The list follows at once, or when its rest is over.
@@ -76,6 +80,7 @@ private:
     SortListView* m_list;
     std::unordered_map<std::uint32_t, Row> m_rows;
     std::map<char, QIcon> m_typeIcons;
+    QAction* m_copy;
     QTimer m_rest;
     std::uint32_t m_followed = 0;
     Signal m_followedSignal; ///< As it was last seen.
