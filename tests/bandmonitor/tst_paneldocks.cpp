@@ -54,6 +54,9 @@ class tst_PanelDocks : public GuardedTest
                 text += QLatin1String(" hides itself");
             else if (panel->isHidden())
                 text += QLatin1String(" hidden");
+            else if (panel->visibleRegion().isEmpty())
+                QDebug(&text) << "behind a tab"
+                              << m_window->dockWidgetArea(const_cast<QDockWidget*>(panel));
             else
                 QDebug(&text) << panel->geometry()
                               << m_window->dockWidgetArea(const_cast<QDockWidget*>(panel));

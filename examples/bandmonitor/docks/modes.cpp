@@ -104,7 +104,7 @@ void Modes::showKept()
 
 void Modes::announce()
 {
-    m_panels->announce(m_mode);
+    m_panels->showMode(m_mode);
     enterCentre(); // in the size that the window has now
     noteStart();
 }

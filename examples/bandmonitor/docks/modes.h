@@ -31,8 +31,7 @@ public:
     /// Shows the layout of the mode that was kept. For the constructor of the window, when all
     /// panels are known.
     void showKept();
-    /// Tells the services the modes and their factory layouts, and which one is current. Once the
-    /// window is the main one, at every start.
+    /// Tells the services which mode is current. Once the window is the main one, at every start.
     void announce();
 
     Mode mode() const { return m_mode; }

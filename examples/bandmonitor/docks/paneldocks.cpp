@@ -21,6 +21,9 @@
 #include <QPointer>
 #include <QTabBar>
 
+#include <algorithm>
+#include <utility>
+
 using QDockWidgetHelpers::DockWidgetConfigurator;
 using QMainWindowHelpers::ActiveDockWidgetSupport;
 using QMainWindowHelpers::AutoHideSupport;
@@ -47,6 +50,13 @@ Qt::ToolBarArea hidingSide(const QMainWindow& window, const QDockWidget& dock,
     return areas.testFlag(side)
                ? side
                : AutoHideSupport::selectToolBarAreaByDockWidgetScreenPosition(window, dock, areas);
+}
+
+QSize smaller(const QSize& size, const QSize& window)
+{
+    const QSize normal = PanelDocks::windowSize;
+    return {size.width() * std::min(window.width(), normal.width()) / normal.width(),
+            size.height() * std::min(window.height(), normal.height()) / normal.height()};
 }
 
 void resizeAll(QMainWindow& window, const QList<QDockWidget*>& docks, const QList<QSize>& sizes)
@@ -78,7 +88,6 @@ PanelDocks::PanelDocks(QMainWindow& window)
     m_autoHide = AutoHideSupport::get(window);
     m_autoHide->setSelectToolBarAreaFn(&hidingSide);
     m_nothingHides = m_autoHide->saveState();
-    m_autoHideAtStart.fill(m_nothingHides);
     connect(ActiveDockWidgetSupport::get(window), &ActiveDockWidgetSupport::activeDockWidgetChanged,
             this, &PanelDocks::markActive);
     m_activateFront.setSingleShot(true);
@@ -97,6 +106,7 @@ void PanelDocks::add(const PanelRow& row)
     dock->setParent(&m_window);
     m_rows.push_back(row);
     m_docks << dock;
+    dock->hide(); // until all docks are arranged, which needs less room than all beside each other
     m_window.addDockWidget(row.places.front().area, dock);
 
     DockWidgetConfigurator()
@@ -164,6 +174,7 @@ void PanelDocks::activateFront()
 
 void PanelDocks::arrange(Mode mode)
 {
+    m_arranged = {mode, m_window.size()};
     std::map<Qt::DockWidgetArea, QDockWidget*> lastOfArea;
     QList<QDockWidget*> shown;
     QList<QSize> sizes;
@@ -178,7 +189,7 @@ void PanelDocks::arrange(Mode mode)
             m_window.tabifyDockWidget(last, dock);
         else if (place.shown == PanelPlace::Beside) {
             shown << dock;
-            sizes << place.size;
+            sizes << smaller(place.size, m_window.size());
         }
         if (place.shown != PanelPlace::Hidden)
             last = dock;
@@ -191,26 +202,10 @@ void PanelDocks::arrange(Mode mode)
     resizeAll(m_window, shown, sizes);
 }
 
-void PanelDocks::announce(Mode current)
-{
-    GuiBase& services = GuiBase::Instance();
-    const QByteArray kept = m_window.saveState();
-    for (const Mode mode : allModes) {
-        arrange(mode);
-        services.storeFactoryDefaultWidgets(static_cast<long>(mode));
-    }
-    m_window.restoreState(kept);
-    // The services know the layout that a mode has at program start once it was shown.
-    for (const Mode mode : allModes) {
-        show(mode, nullptr);
-        m_autoHideAtStart[static_cast<std::size_t>(mode)] = m_autoHide->saveState();
-    }
-    show(current, nullptr);
-}
-
 void PanelDocks::showProgramStart(Mode mode)
 {
-    show(mode, &forMode(m_autoHideAtStart, mode));
+    const std::optional<QByteArray>& start = forMode(m_autoHideAtStart, mode);
+    show(mode, start ? &*start : nullptr);
 }
 
 void PanelDocks::showFactory(Mode mode)
@@ -223,18 +218,34 @@ void PanelDocks::showFactory(Mode mode)
 void PanelDocks::showMode(Mode mode)
 {
     show(mode, nullptr);
+    std::optional<QByteArray>& start = m_autoHideAtStart[static_cast<std::size_t>(mode)];
+    if (!start)
+        start = m_autoHide->saveState();
 }
 
 void PanelDocks::show(Mode mode, const QByteArray* autoHide)
 {
     m_activateFront.start();        // once the active dock is found for what is hidden now
     m_autoHide->setStorageName({}); // the user did not ask for what follows
-    GuiBase::Instance().setMode(static_cast<long>(mode));
+    GuiBase& services = GuiBase::Instance();
+    const bool isNew = !services.hasModeLayout(static_cast<long>(mode));
+    services.setMode(static_cast<long>(mode));
     const QByteArray layout = m_window.saveState();
     // Docks that hid in the former mode come out first. Then they go where this mode has them.
     if (m_autoHide->saveState() != m_nothingHides) {
         m_autoHide->restoreState(m_nothingHides);
         m_window.restoreState(layout);
+    }
+    const std::pair wanted(mode, m_window.size());
+    const bool isArranged = std::exchange(m_arranged, std::nullopt) == wanted;
+    if (isNew) {
+        if (!isArranged) {
+            arrange(mode);
+            // Docks that have just come up lose the sizes that they were given, but not these.
+            m_window.restoreState(m_window.saveState());
+        }
+        m_arranged.reset();
+        services.storeFactoryDefaultWidgets(static_cast<long>(mode));
     }
     m_autoHide->setStorageName(storageName(mode));
     if (autoHide == nullptr || m_autoHide->saveState() == *autoHide)

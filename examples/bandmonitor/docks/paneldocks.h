@@ -11,6 +11,8 @@
 #include <QString>
 #include <QTimer>
 
+#include <optional>
+#include <utility>
 #include <vector>
 
 class QDockWidget;
@@ -63,12 +65,13 @@ public:
     /// The order of the calls is that of menus, and of panels in an area. A row that is added here
     /// is all that a new panel needs.
     void add(const PanelRow& row);
+    /// The window that the sizes in the rows are meant for. In a smaller one panels are smaller.
+    static constexpr QSize windowSize{1100, 800};
+
     /// Factory layout of the mode, for a window that was not announced yet.
     void arrange(Mode mode);
-    /// Tells the services the factory layouts of all modes and shows what was kept for this one.
-    /// Once the window is registered, at every start: factory layouts are not kept.
-    void announce(Mode current);
-    /// Shows the docks as they were in the mode last.
+    /// Shows the docks as they were in the mode last, else in its factory layout. Once the window
+    /// is registered.
     void showMode(Mode mode);
     /// Once the services have brought back the dock layouts at program start: shows that of the
     /// mode, and brings back what hides itself.
@@ -98,8 +101,10 @@ private:
     QList<QDockWidget*> m_docks;
     QMainWindowHelpers::AutoHideSupport* m_autoHide;
     QByteArray m_nothingHides;
-    PerMode<QByteArray> m_autoHideAtStart;
+    PerMode<std::optional<QByteArray>> m_autoHideAtStart; ///< Of the modes that were shown.
     QTimer m_activateFront;
+    /// While the docks stand as arrange() has left them: the mode, and the size of the window then.
+    std::optional<std::pair<Mode, QSize>> m_arranged;
 };
 
 } // namespace bandmonitor
