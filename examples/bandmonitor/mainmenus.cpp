@@ -6,9 +6,11 @@
 #include "colorsmenu.h"
 #include "docks/panelfocus.h"
 #include "docks/windowmenu.h"
+#include "exports.h"
 #include "manual.h"
 #include "panels/jobsmenu.h"
 #include "panels/panel.h"
+#include "playkey.h"
 #include "receiver/receiverbar.h"
 #include "recentrecordings.h"
 #include "selectionactions.h"
@@ -85,6 +87,7 @@ void MainWindow::buildFileMenu()
     buildLiveEntries(menu);
     connect(menu, &QMenu::aboutToShow, recent,
             [recent] { recent->menuAction()->setEnabled(!recent->isEmpty()); });
+    menu->addMenu(m_exports->exportMenu());
     menu->addSeparator();
     // Control+Q belongs to the info dialog of the family's help menu.
     connect(addEntry(menu, tr("&Quit"), {QKeySequence(Qt::CTRL | Qt::Key_W)}, false),
@@ -96,6 +99,8 @@ void MainWindow::buildEditMenu()
     QMenu* menu = menuBar()->addMenu(tr("&Edit"));
     addEntry(menu, m_undo->undoAction(), false);
     addEntry(menu, m_undo->redoAction(), false);
+    menu->addSeparator();
+    menu->addMenu(m_exports->copyMenu());
     menu->addSeparator();
     QDockWidget* history = m_panelDocks->dock(QStringLiteral("history"));
     QAction* show = addEntry(menu, tr("Show &history"), {Qt::CTRL | Qt::Key_H}, false);
@@ -196,6 +201,7 @@ void MainWindow::buildReplayMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Replay"));
     addEntry(menu, m_replayBar->playAction(), true);
+    new PlayKey(*m_replayBar->playAction(), *this);
     addEntry(menu, m_replayBar->backAction(), true);
     addEntry(menu, m_replayBar->forwardAction(), true);
     addEntry(menu, m_replayBar->firstAction(), true);

@@ -7,9 +7,12 @@
 #include "colorskeeper.h"
 #include "counts.h"
 #include "eventrecorder.h"
+#include "exports.h"
 #include "infodialog.h"
 #include "live/sourcelabel.h"
 #include "model/panenames.h"
+#include "model/recordingparser.h"
+#include "panels/eventlogpanel.h"
 #include "panels/icons.h"
 #include "panels/panel.h"
 #include "receiver/receiverbar.h"
@@ -26,9 +29,11 @@
 #include <xmsgdlg/xmessagedialog.h>
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLabel>
+#include <QMenu>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
@@ -40,7 +45,7 @@ namespace bandmonitor {
 
 namespace {
 constexpr int progressSteps = 1000;
-constexpr QSize normalSize(1100, 800);
+constexpr QSize broadFrame(20, 60); // left for a frame, which is not known before it is there
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent)
@@ -66,9 +71,11 @@ MainWindow::MainWindow(QWidget* parent)
     addJobs();
     buildPanels();
     restoreSettings();
+    m_exports = new Exports(*this);
     buildMenus();
     connectRecordings();
-    resize(normalSize.boundedTo(screen()->availableGeometry().size()));
+    connectExports();
+    resize(PanelDocks::windowSize.boundedTo(screen()->availableGeometry().size() - broadFrame));
     layout()->activate();
     m_modes->showKept();
     m_bandView->setFocus();
@@ -184,6 +191,29 @@ void MainWindow::connectRecordings()
             });
 }
 
+void MainWindow::connectExports()
+{
+    connect(m_exports, &Exports::done, this,
+            [this](const QString& report) { statusBar()->showMessage(report, messageTime); });
+    connect(m_exports, &Exports::failed, this, [this](const QString& path, const QString& reason) {
+        showMessage(tr("Not exported"), tr("%1 cannot be written.").arg(path), reason);
+    });
+    m_bandView->setMenuExtension([this](QMenu& menu) { addExportsTo(menu); });
+    connect(&panel<EventLogPanel>(), &EventLogPanel::placeWanted, this, &MainWindow::showPlace);
+}
+
+void MainWindow::showPlace(const EventPlace& place)
+{
+    if (place.sweep < 0 || place.recording != m_session.recordingNumber()) {
+        const QString reason = place.sweep < 0 ? tr("No sweep was shown at this event.")
+                                               : tr("The recording of this event is closed.");
+        statusBar()->showMessage(reason, messageTime);
+        return;
+    }
+    m_session.replay().pause();
+    m_session.replay().jump(place.sweep);
+}
+
 void MainWindow::open(const QString& path, OnFailure onFailure)
 {
     m_onFailure = onFailure;
@@ -243,7 +273,7 @@ void MainWindow::reportSkippedLines()
     showMessage(tr("Recording opened with gaps"),
                 tr("%1 cannot be read as a whole: %2.")
                     .arg(m_session.fileName(), skippedLinesText(loader.skippedCount())),
-                loader.report());
+                loader.report() + QLatin1Char('\n') + RecordingParser::expectedForm());
 }
 
 void MainWindow::showMessage(const QString& title, const QString& text, const QString& details)
@@ -302,6 +332,22 @@ void MainWindow::timeZoneChanged()
 {
     m_replayBar->refresh();
     refreshTexts();
+}
+
+/// Where nothing below has a menu of its own.
+void MainWindow::contextMenuEvent(QContextMenuEvent* event)
+{
+    auto* menu = createPopupMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addSeparator();
+    addExportsTo(*menu);
+    menu->popup(event->globalPos());
+}
+
+void MainWindow::addExportsTo(QMenu& menu) const
+{
+    menu.addMenu(m_exports->copyMenu());
+    menu.addMenu(m_exports->exportMenu());
 }
 
 void MainWindow::showInfo()

@@ -24,6 +24,7 @@ namespace bandmonitor {
 class BandView;
 struct ChoiceEntry;
 class EventRecorder;
+class Exports;
 class PinKeeper;
 class RecentRecordings;
 class ReplayBar;
@@ -48,7 +49,7 @@ public:
     SessionValues& values() { return *m_values; }
     /// Opens the recording in the session, see Session::open().
     void open(const QString& path, OnFailure onFailure = OnFailure::ShowMessage);
-    /// Tells the services the modes of the window; once it is their main widget.
+    /// Shows the layout that was kept; once the window is the main widget of the services.
     void announceModes() { m_modes->announce(); }
 
     /// Begins to read live input, see Session::openLive().
@@ -69,11 +70,15 @@ public:
     /// What the user can choose; "1 Hz" and "1 kHz".
     ValueSelection& frequencyResolution() { return m_resolution; }
 
+    /// Shows a warning, and waits until the user has read it.
+    void showMessage(const QString& title, const QString& text, const QString& details);
+
 public Q_SLOTS:
     /// Opens the dialog about the program.
     void showInfo();
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -116,13 +121,15 @@ private:
     void buildStatusBar();
     void connectSession();
     void connectRecordings();
+    void connectExports();
+    void addExportsTo(QMenu& menu) const;
+    void showPlace(const EventPlace& place);
     void restoreSettings();
     void refreshTexts();
     void recordingGrown();
     void recordingOpened();
     void updateReport();
     void reportSkippedLines();
-    void showMessage(const QString& title, const QString& text, const QString& details);
     void setLoadingShown(bool shown);
     void updateTitle();
     void updatePosition();
@@ -146,6 +153,7 @@ private:
     EventRecorder* m_recorder;
     RecentRecordings* m_recordings;
     PinKeeper* m_pins = nullptr;
+    Exports* m_exports = nullptr;
     QLabel* m_report = nullptr;
     QLabel* m_receiver = nullptr;
     QProgressBar* m_progress = nullptr;

@@ -3,6 +3,7 @@
 #include "colorsdialog.h"
 #include "mainwindowtest.h"
 #include "model/jobs.h"
+#include "panels/eventlogpanel.h"
 #include "panels/signalspanel.h"
 #include "support/files.h"
 #include "support/modaldialogcloser.h"
@@ -15,8 +16,10 @@
 #include <guibase/services/guibase.h>
 #include <jtbase/qobjecthelpers.h>
 
+#include <QClipboard>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
+#include <QDockWidget>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -119,6 +122,46 @@ private Q_SLOTS:
         QCOMPARE(count("Measure"), 1);
         m_window->open(m_folder.filePath(QStringLiteral("none.csv")), MainWindow::OnFailure::Tell);
         QTRY_COMPARE(count("Not opened: "), 1);
+    }
+
+    void eventsLeadToTheirSweeps()
+    {
+        Replay& replay = m_window->session().replay();
+        replay.jump(5);
+        m_window->modes().setMode(Mode::Plan);
+        m_window->modes().setMode(Mode::Search);
+        auto& panel = m_window->panel<EventLogPanel>();
+        m_window->panelDocks().dock(QStringLiteral("events"))->raise();
+        SortListView& list = panel.list();
+        QTRY_VERIFY(panel.shownText().endsWith(QLatin1String("Mode: Search\n")));
+        list.setFocus();
+        list.setCurrentItem(list.topLevelItem(list.topLevelItemCount() - 1));
+        QVERIFY(!list.currentItem()->text(EventLogPanel::Recorded).isEmpty());
+        replay.jump(50);
+        QTest::keyClick(&list, Qt::Key_Return);
+        QCOMPARE(replay.position(), 5);
+        QTest::keyClick(&list, Qt::Key_Space); // the list does not use it
+        QVERIFY(replay.isPlaying());
+        QTest::keyClicks(panel.findChild<QLineEdit*>(), QStringLiteral(" "));
+        QVERIFY(replay.isPlaying());
+        replay.pause();
+        open(samplePath()); // the same, but not the recording of the event
+        QTest::keyClick(&list, Qt::Key_Return);
+        QCOMPARE(replay.position(), 0);
+    }
+
+    void picturesAndTextsAreCopied()
+    {
+        const QClipboard* clipboard = QApplication::clipboard();
+        entry("Picture of the spectrum")->trigger();
+        QCOMPARE(clipboard->image().size(), m_window->bandView().spectrum().size());
+        m_window->session().replay().jump(30);
+        entry("Signals as text")->trigger(); // before the list had the time to follow
+        const auto signalCount = static_cast<int>(m_window->session().watch().tracks().size());
+        QVERIFY(clipboard->text().startsWith(QLatin1String("Frequency\tLevel\t")));
+        QCOMPARE(clipboard->text().count(u'\n'), signalCount + 1);
+        entry("Events as text")->trigger();
+        QVERIFY(clipboard->text().contains(QLatin1String("sample.csv opened")));
     }
 
     void cancelledLoadLeavesTheFormerRecording()
