@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "commandline.h"
 #include "dialogcloser.h"
+#include "firstframe.h"
 #include "live/descriptorsource.h"
 #include "live/followedfile.h"
 #include "mainwindow.h"
@@ -13,6 +14,7 @@
 #include <trovappstartup/trovapplication.h>
 
 #include <QApplication>
+#include <QLocale>
 
 #include <cstdio>
 #include <memory>
@@ -88,13 +90,14 @@ std::unique_ptr<LiveSource> liveSource(const CommandLine& commandLine)
 }
 
 /// Opens what the command line names. As long as nothing of it was shown, a failure ends the
-/// program.
+/// program, unless the window shall tell.
 void open(const CommandLine& commandLine, MainWindow& window)
 {
     auto* guard = new QObject(&window);
-    const auto fail = [](const QString& text) {
+    const auto fail = [tellsInWindow = commandLine.tellsInWindow](const QString& text) {
         printError(text);
-        QCoreApplication::exit(1);
+        if (!tellsInWindow)
+            QCoreApplication::exit(1);
     };
     Session& session = window.session();
     QObject::connect(&session, &Session::openFailed, guard, fail);
@@ -102,11 +105,15 @@ void open(const CommandLine& commandLine, MainWindow& window)
     QObject::connect(&session, &Session::begun, guard, &QObject::deleteLater);
     if (commandLine.historyMegabytes)
         window.setHistory(static_cast<std::size_t>(*commandLine.historyMegabytes) << 20);
+    const auto onFailure = commandLine.tellsInWindow ? MainWindow::OnFailure::ShowMessage
+                                                     : MainWindow::OnFailure::Tell;
     if (std::unique_ptr<LiveSource> source = liveSource(commandLine))
-        window.openLive(std::move(source), MainWindow::OnFailure::Tell);
+        window.openLive(std::move(source), onFailure);
     else
-        window.open(commandLine.file.isEmpty() ? samplePath() : commandLine.file,
-                    MainWindow::OnFailure::Tell);
+        window.open(commandLine.file.isEmpty() ? samplePath() : commandLine.file, onFailure);
+    if (!commandLine.fileProblem.isEmpty())
+        window.showMessage(QApplication::translate("main", "Recording not opened"),
+                           commandLine.fileProblem, {});
 }
 
 int run(int argc, char** argv, const CommandLine& commandLine)
@@ -114,8 +121,6 @@ int run(int argc, char** argv, const CommandLine& commandLine)
     TrovApplication::ChooseWindowSystem();
     QApplication application(argc, argv);
     TrovApplication startUp;
-    startUp.ShowSplash();
-    startUp.Write2Splash(QApplication::translate("main", "Reading settings…"));
     // The settings may already give reason for a question.
     std::unique_ptr<DialogCloser> dialogs;
     if (!commandLine.screenshotsFolder.isEmpty()) {
@@ -124,6 +129,8 @@ int run(int argc, char** argv, const CommandLine& commandLine)
     }
     GuiBase& services = GuiBase::Instance();
     services.SetApplication(&application);
+    // Frequencies have a decimal point in every language, as on radios; so have all other numbers.
+    QLocale::setDefault(QLocale::c());
 
     MainWindow window;
     services.SetMainWidget(&window);
@@ -131,13 +138,12 @@ int run(int argc, char** argv, const CommandLine& commandLine)
     if (commandLine.screenshotsFolder.isEmpty())
         new SignalNotifier(&window); // The window owns it. Pictures show the program alone.
     window.show();
-    services.Write2Splash(QApplication::translate("main", "Opening the recording…"));
     QObject::connect(
         &window.session(), &Session::opened, &window,
         [&window, &commandLine, &dialogs] { serve(commandLine, window, dialogs.get()); },
         Qt::SingleShotConnection);
-    open(commandLine, window);
-    services.HideSplash();
+    // There is no splash: the window comes as fast.
+    new FirstFrame(window, [&window, &commandLine] { open(commandLine, window); });
     return QApplication::exec();
 }
 
