@@ -2,6 +2,7 @@
 #include "cfgstore_p.h"
 
 #include "cfgfile_p.h"
+#include "damagedrecord.h"
 
 #include <jtbase/errorhandler.h>
 
@@ -163,7 +164,7 @@ void CfgPlace::setValue(const QString& key, const QJsonValue& value)
     if (key.isEmpty())
         return;
     if (const QJsonValue present = this->value(key); isLost(present, value)) {
-        const QString aside = key + QStringLiteral("_damaged");
+        const QString aside = DamagedRecord::asideName(key);
         m_store.document().setValue(m_path, aside, present);
         report({QStringLiteral("The value of \"%1\" is of another kind; it is kept as \"%2\"")
                     .arg(key, aside)});
