@@ -136,7 +136,7 @@ QString GalleryWindow::writePictures(const QString& folder)
             const QString name = QStringLiteral("%1-%2.png")
                                      .arg(pages().at(number).name,
                                           dark ? QStringLiteral("dark") : QStringLiteral("light"));
-            const QString path = QDir(folder).filePath(name);
+            QString path = QDir(folder).filePath(name);
             if (!grab().save(path))
                 return path;
         }

@@ -32,7 +32,7 @@ QString encode(const Layouts& layouts);
 std::optional<Reading> decode(const QString& text);
 
 inline constexpr quint32 maximumModes = 4096;
-inline constexpr quint32 maximumBytes = 16U << 20;          ///< Of the stream.
-inline constexpr qsizetype maximumPackedBytes = 256 * 1024; ///< When it is compressed.
+inline constexpr quint32 maximumBytes = 16U << 20;                     ///< Of the stream.
+inline constexpr qsizetype maximumPackedBytes = qsizetype{256} * 1024; ///< When it is compressed.
 
 } // namespace StateRecord
