@@ -57,7 +57,7 @@ endif()
 # The plug-in for Qt Designer finds its libraries. It is not built without Designer's headers.
 file(GLOB designer "${WORK_DIR}/libguibase-designer_*.deb")
 if(designer)
-    unpack(libguibase-designer "libguibase0 ${same_version}" "libqt6widgets6 ")
+    unpack(libguibase-designer "libguibase0 ${same_version}" "libqt6gui6 ")
     file(GLOB_RECURSE plugin "${root}/usr/*/qt6/plugins/designer/*.so")
     run(output ldd "${plugin}")
     expect("${output}" "libRadioPanes.so.0 => ${root}/usr/")
