@@ -263,6 +263,7 @@ void BearingRose::keyPressEvent(QKeyEvent* event)
 void BearingRose::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    painter.setLayoutDirection(Qt::LeftToRight); // numbers keep their sign in front
     d->paint(painter);
     if (hasFocus()) {
         QStyleOptionFocusRect option;

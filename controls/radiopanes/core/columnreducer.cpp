@@ -9,20 +9,12 @@ namespace RadioPanes {
 namespace {
 
 // Powers of two, so that a block is found by a shift instead of a division.
-constexpr unsigned baseShift = 3;
+constexpr unsigned baseShift = 4;
 constexpr unsigned factorShift = 2;
 constexpr std::size_t baseBlock = std::size_t{1} << baseShift;
 constexpr std::size_t blockFactor = std::size_t{1} << factorShift;
 
 constexpr float noMaximum = -std::numeric_limits<float>::infinity();
-
-float maximumOf(std::span<const float> levels)
-{
-    float maximum = noMaximum;
-    for (const float level : levels)
-        maximum = level > maximum ? level : maximum;
-    return maximum;
-}
 
 LevelRange rangeOfBlocks(std::span<const float> minima, std::span<const float> maxima)
 {
@@ -41,7 +33,7 @@ void addLevels(LevelRange& column, std::span<const float> levels)
 
 void addLevels(float& column, std::span<const float> levels)
 {
-    column = std::max(column, maximumOf(levels));
+    column = std::max(column, highestOf(levels));
 }
 
 void addBlocks(LevelRange& column, std::span<const float> minima, std::span<const float> maxima)
@@ -51,7 +43,7 @@ void addBlocks(LevelRange& column, std::span<const float> minima, std::span<cons
 
 void addBlocks(float& column, std::span<const float>, std::span<const float> maxima)
 {
-    column = std::max(column, maximumOf(maxima));
+    column = std::max(column, highestOf(maxima));
 }
 
 /// The bins of a segment that each column of a view touches.
@@ -81,10 +73,14 @@ public:
         constexpr double rounding = 1e-6;
         for (std::size_t column = m_firstColumn; column < m_endColumn; ++column) {
             const double low = m_firstBin + static_cast<double>(column) * m_binsPerColumn;
-            const double first = std::floor(low + rounding);
-            const double end = std::max(std::ceil(low + m_binsPerColumn - rounding), first + 1);
-            const auto firstBin = static_cast<std::size_t>(std::clamp(first, 0.0, m_binCount));
-            const auto endBin = static_cast<std::size_t>(std::clamp(end, 0.0, m_binCount));
+            const double first = std::clamp(low + rounding, 0.0, m_binCount);
+            const double end = std::clamp(low + m_binsPerColumn - rounding, 0.0, m_binCount);
+            // Cutting off the fraction is much faster than the functions that round.
+            const auto firstBin = static_cast<std::size_t>(first);
+            auto endBin = static_cast<std::size_t>(end);
+            endBin += static_cast<double>(endBin) < end ? 1 : 0;
+            if (low + rounding >= 0 && first < m_binCount)
+                endBin = std::max(endBin, firstBin + 1);
             if (firstBin < endBin)
                 use(column, firstBin, endBin);
         }
@@ -141,6 +137,11 @@ void reduceToColumns(const Sweep& sweep, const ColumnView& view, std::span<Level
 void reduceToMaxima(const Sweep& sweep, const ColumnView& view, std::span<float> columns)
 {
     std::fill(columns.begin(), columns.end(), noMaximum);
+    addMaxima(sweep, view, columns);
+}
+
+void addMaxima(const Sweep& sweep, const ColumnView& view, std::span<float> columns)
+{
     reduceAll(sweep, view, columns);
 }
 
@@ -156,10 +157,7 @@ LevelPyramid::LevelPyramid(const Sweep& sweep)
         blocks.reserve(segment.levels.size() / baseBlock + 1);
         for (std::size_t at = 0; at < segment.levels.size(); at += baseBlock) {
             const std::size_t size = std::min(baseBlock, segment.levels.size() - at);
-            LevelRange range;
-            for (const float level : segment.levels.subspan(at, size))
-                range.add(level);
-            blocks.add(range);
+            blocks.add(rangeOf(segment.levels.subspan(at, size)));
         }
         m_levels.add(rangeOfBlocks(blocks.minima, blocks.maxima));
         while (blocks.maxima.size() > blockFactor) {
@@ -204,7 +202,8 @@ void LevelPyramid::reduceTo(const ColumnView& view, std::span<Column> columns) c
         if (!isInView(hop.segment, view))
             continue;
         const ColumnBins bins(hop.segment, view, columns.size());
-        const double largestBlock = bins.binsPerColumn() / 4;
+        // A block reaches out of a column by all its bins but one, at most.
+        const double largestBlock = bins.binsPerColumn() / 4 + 1;
         if (largestBlock < static_cast<double>(baseBlock)) {
             reduceExactly(hop.segment, bins, columns);
             continue;

@@ -11,17 +11,6 @@
 
 namespace RadioPanes {
 
-/// The frequencies that a row of pixels shows: column `c` of `n` covers `(highHz - lowHz) / n`
-/// from `lowHz + c * (highHz - lowHz) / n` on.
-struct ColumnView
-{
-    /// From here up to, but without, the other.
-    double lowHz = 0;
-    double highHz = 0;
-
-    bool operator==(const ColumnView&) const = default;
-};
-
 /// Puts into each column the lowest and highest level of the bins that touch it; columns without
 /// any become empty. Exact. The time follows the bins in view plus, per hop in view, the columns
 /// that it touches. An empty or reversed view, or one that is not finite, empties all columns.
@@ -30,11 +19,15 @@ RADIOPANES_EXPORT void reduceToColumns(const Sweep& sweep, const ColumnView& vie
 /// The highest levels only; minus infinity in a column without any level.
 RADIOPANES_EXPORT void reduceToMaxima(const Sweep& sweep, const ColumnView& view,
                                       std::span<float> columns);
+/// The same, but a column that is higher already stays.
+RADIOPANES_EXPORT void addMaxima(const Sweep& sweep, const ColumnView& view,
+                                 std::span<float> columns);
 
 /// Reduces one sweep to columns again and again, in a time that follows the number of columns
-/// and not that of the bins: it keeps lowest and highest levels of blocks of 8, 32, 128, ... bins.
-/// Build it once for each new sweep; it takes a third of the memory of the sweep's levels, and
-/// refers to the levels, which must outlive it (those of a SweepHistory do, as long as that lives).
+/// and not that of the bins: it keeps lowest and highest levels of blocks of 16, 64, 256, ...
+/// bins. Build it once for each new sweep; it takes a sixth of the memory of the sweep's levels,
+/// and refers to the levels, which must outlive it (those of a SweepHistory do, as long as that
+/// lives).
 class RADIOPANES_EXPORT LevelPyramid
 {
 public:
@@ -64,7 +57,7 @@ private:
     struct Hop
     {
         Segment segment;
-        std::vector<Blocks> blocks; ///< blocks[k] of 8 * 4^k bins
+        std::vector<Blocks> blocks; ///< blocks[k] of 16 * 4^k bins
     };
 
     template <typename Column>

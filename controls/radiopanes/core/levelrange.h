@@ -33,5 +33,7 @@ struct LevelRange
 
 /// The range of all `levels`.
 RADIOPANES_EXPORT LevelRange rangeOf(std::span<const float> levels);
+/// The highest of the levels, with less work; minus infinity without any.
+RADIOPANES_EXPORT float highestOf(std::span<const float> levels);
 
 } // namespace RadioPanes

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "sweep.h"
 
+#include "columnreducer.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -46,5 +48,18 @@ Sweep makeSweep(quint64 timeUs, std::span<const Segment> segments)
 }
 
 SweepHistory::~SweepHistory() = default;
+
+quint64 SweepHistory::timeOf(qsizetype index) const
+{
+    return sweep(index).timeUs;
+}
+
+void SweepHistory::addMaxima(qsizetype begin, qsizetype end, const ColumnView& view,
+                             std::span<float> columns) const
+{
+    end = std::min(end, count());
+    for (qsizetype index = std::max(begin, first()); index < end; ++index)
+        RadioPanes::addMaxima(sweep(index), view, columns);
+}
 
 } // namespace RadioPanes

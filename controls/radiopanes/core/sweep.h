@@ -58,8 +58,22 @@ struct RADIOPANES_EXPORT Sweep
 /// Makes a sweep of `segments`, which must be sorted by `startHz`, and works out the rest.
 RADIOPANES_EXPORT Sweep makeSweep(quint64 timeUs, std::span<const Segment> segments);
 
+/// The frequencies that a row of pixels shows: column `c` of `n` covers `(highHz - lowHz) / n`
+/// from `lowHz + c * (highHz - lowHz) / n` on.
+struct ColumnView
+{
+    /// From here up to, but without, the other.
+    double lowHz = 0;
+    double highHz = 0;
+
+    bool operator==(const ColumnView&) const = default;
+};
+
 /// Sweeps by number, for panes that show many of them. What sweep() returns must stay valid as long
 /// as the history lives and has not left that sweep behind.
+///
+/// A history that is larger than the memory lets sweep() return empty sweeps for those that it does
+/// not hold, and reads them when timeOf() and addMaxima() ask.
 class RADIOPANES_EXPORT SweepHistory
 {
 public:
@@ -74,6 +88,12 @@ public:
     virtual Sweep sweep(qsizetype index) const = 0;
     /// The largest number of levels in one sweep.
     virtual std::size_t largestBinCount() const = 0;
+    /// The time of the sweep at `index`; 0 for an index outside.
+    virtual quint64 timeOf(qsizetype index) const;
+    /// Raises each column to the highest level of the bins that touch it in the sweeps from `first`
+    /// up to, but without, `end`; those that are not here change nothing.
+    virtual void addMaxima(qsizetype first, qsizetype end, const ColumnView& view,
+                           std::span<float> columns) const;
 };
 
 } // namespace RadioPanes
