@@ -202,11 +202,18 @@ void SpectrumPane::stepReferenceLevel(double steps)
 
 std::vector<AxisTick> SpectrumPane::levelTicks(int pixels) const
 {
+    SpectrumPanePrivate::LevelTicks& kept = d->levelTicks;
+    const AxisRange range{d->lowLevel, d->highLevel, pixels};
+    if (kept.range == range && kept.font == font())
+        return kept.ticks;
     const int textHeight = fontMetrics().height();
-    return layoutTicks(
-        {d->lowLevel, d->highLevel, pixels}, 1, gapBetweenLevels, textHeight,
+    kept.range = range;
+    kept.font = font();
+    kept.ticks = layoutTicks(
+        range, 1, gapBetweenLevels, textHeight,
         [](double level) { return QString::number(level, 'f', 0); },
         [textHeight](const QString&) { return textHeight; });
+    return kept.ticks;
 }
 
 std::optional<float> SpectrumPane::levelAt(double hertz) const

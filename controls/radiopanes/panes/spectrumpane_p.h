@@ -2,8 +2,10 @@
 #pragma once
 
 #include "spectrumpane.h"
+#include "spectrumraster_p.h"
 #include "wheelnotches_p.h"
 
+#include <QFont>
 #include <QImage>
 
 #include <array>
@@ -61,6 +63,14 @@ public:
     double highLevel = 0;
     WheelNotches wheel;
     QRect paintedReadOut;
+    /// The ticks of the level axis: the axis and the picture ask for them with every painting.
+    struct LevelTicks
+    {
+        AxisRange range;
+        QFont font;
+        std::vector<AxisTick> ticks;
+    };
+    LevelTicks levelTicks;
     /// The bandwidth in the view, while neither the view nor the sweep changes.
     struct OccupiedWidth
     {
@@ -111,9 +121,11 @@ private:
     void paintBox(QPainter& painter, const QRect& place) const;
 
     PictureKey key;
-    double rowsPerDecibel = 1;
+    float lowest = 0; ///< The level at the bottom of the picture.
+    float rowsPerDecibel = 1;
     bool isDrawn = false;
-    QImage image;
+    SpectrumRaster raster;
+    QImage* image = nullptr;
     std::array<Pixels, traceCount> pixels;
     std::vector<int> shadowTop;
 };

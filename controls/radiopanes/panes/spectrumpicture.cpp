@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "spectrumpane_p.h"
 
-#include "spectrumraster_p.h"
 #include "visibleband.h"
 
 #include <radiopanes/colors/panecolors.h>
@@ -57,16 +56,13 @@ const QImage& SpectrumPanePrivate::picture()
         draw();
         isDrawn = true;
     }
-    image.setDevicePixelRatio(q->devicePixelRatioF());
-    return image;
+    return *image;
 }
 
 void SpectrumPanePrivate::draw()
 {
-    if (image.size() != key.pixels)
-        image = QImage(key.pixels, QImage::Format_RGB32);
-    image.setDevicePixelRatio(1);
-    rowsPerDecibel = key.pixels.height() / (key.high - key.low);
+    lowest = static_cast<float>(key.low);
+    rowsPerDecibel = static_cast<float>(key.pixels.height() / (key.high - key.low));
     SpectrumRaster::Content content;
     content.backgroundTop = key.colors[BackgroundTop];
     content.backgroundBottom = key.colors[BackgroundBottom];
@@ -95,7 +91,8 @@ void SpectrumPanePrivate::draw()
         lines.push_back({place.top, place.bottom, color});
     }
     content.lines = lines;
-    SpectrumRaster::draw(image, content);
+    image = &raster.draw(key.pixels, content);
+    image->setDevicePixelRatio(q->devicePixelRatioF());
 }
 
 void SpectrumPanePrivate::reduce(TraceState& state) const
@@ -114,8 +111,9 @@ void SpectrumPanePrivate::reduce(TraceState& state) const
 int SpectrumPanePrivate::rowOf(float level) const
 {
     const int height = key.pixels.height();
-    const double position = (static_cast<double>(level) - key.low) * rowsPerDecibel;
-    return height - 1 - static_cast<int>(std::clamp(position, -1.0, height + 1.0));
+    const float position = (level - lowest) * rowsPerDecibel;
+    return height - 1 -
+           static_cast<int>(std::clamp(position, -1.0F, static_cast<float>(height + 1)));
 }
 
 int SpectrumPanePrivate::addedRows() const

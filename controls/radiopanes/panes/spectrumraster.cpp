@@ -2,10 +2,11 @@
 #include "spectrumraster_p.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <cstdint>
-#include <cwchar>
-#include <type_traits>
+#include <cstring>
+#include <limits>
+#include <utility>
 
 namespace RadioPanes {
 
@@ -22,69 +23,46 @@ QRgb mixed(QRgb from, QRgb to, double share)
                 mix(qBlue(from), qBlue(to)));
 }
 
-/// As std::fill_n(), faster for long runs: the C library has a version for each processor.
-void fill(QRgb* pixels, int count, QRgb color)
-{
-    if constexpr (sizeof(wchar_t) == sizeof(QRgb))
-        std::wmemset(reinterpret_cast<wchar_t*>(pixels), static_cast<wchar_t>(color),
-                     static_cast<std::size_t>(count));
-    else
-        std::fill_n(pixels, count, color);
-}
-
-/// Columns are looked at in tiles: in most rows the pixels of a tile are all of one kind.
+/// Columns are looked at in tiles: those whose pixels stay as they are cost nothing.
 constexpr int tileWidth = 16;
 
-/// Does `use(x, width)` for a tile; the width is a constant in all tiles but the last one, so that
-/// the compiler makes one step of several pixels.
-template <typename Use>
-void forTile(int tile, int imageWidth, Use use)
+int tilesOf(int width)
 {
-    const int x = tile * tileWidth;
-    if (x + tileWidth <= imageWidth)
-        use(x, std::integral_constant<int, tileWidth>());
-    else
-        use(x, imageWidth - x);
+    return (width + tileWidth - 1) / tileWidth;
 }
 
-/// Which of three kinds each tile has in the rows from top to bottom: `Before` up to its first row,
-/// then `Within`, then `Behind` from its last row on.
-class TileKinds
+using Rows = SpectrumRaster::Rows;
+
+/// Tells the tiles that are used in each row, from the top to the bottom.
+class TileRows
 {
 public:
-    enum Kind : std::uint8_t { Before, Within, Behind };
-
-    /// `first(tile)` and `last(tile)` tell the rows.
-    template <typename First, typename Last>
-    TileKinds(int tiles, int height, First first, Last last)
-        : m_kinds(static_cast<std::size_t>(tiles), Before)
-        , m_heads(static_cast<std::size_t>(height), none)
+    TileRows(std::span<const Rows> tiles, int height)
+        : m_heads(static_cast<std::size_t>(height), none)
     {
-        m_changes.reserve(2 * m_kinds.size());
-        for (int tile = 0; tile < tiles; ++tile) {
-            const int firstRow = first(tile);
-            // In reverse: the last one that is added to a row is done first.
-            add(std::max(last(tile), firstRow), tile, Behind);
-            add(firstRow, tile, Within);
+        m_changes.reserve(2 * tiles.size());
+        for (int tile = 0; tile < std::ssize(tiles); ++tile) {
+            const Rows& rows = tiles[static_cast<std::size_t>(tile)];
+            if (std::max(rows.first, 0) < std::min(rows.end, height)) {
+                add(rows.first, tile, true);
+                add(rows.end, tile, false);
+            }
         }
     }
 
-    /// The kinds in this row; to be asked for one row after the other.
-    std::span<const Kind> at(int row)
+    /// To be called for one row after the other.
+    void at(int row)
     {
         for (int next = m_heads[static_cast<std::size_t>(row)]; next != none;) {
             const Change& change = m_changes[static_cast<std::size_t>(next)];
-            Kind& kind = m_kinds[static_cast<std::size_t>(change.tile)];
-            if (kind == Within)
-                std::erase(m_within, change.tile);
-            if (change.kind == Within)
+            if (change.begins)
                 m_within.push_back(change.tile);
-            kind = change.kind;
+            else
+                std::erase(m_within, change.tile);
             next = change.next;
         }
-        return m_kinds;
     }
-    /// The tiles of the kind Within in that row, in any order.
+    /// The tiles used in that row, in any order.
     std::span<const int> within() const { return m_within; }
 
 private:
@@ -93,133 +71,214 @@ private:
     struct Change
     {
         int tile;
-        Kind kind;
+        bool begins;
         int next; ///< In the same row.
     };
 
-    void add(int row, int tile, Kind kind)
+    void add(int row, int tile, bool begins)
     {
         if (row >= static_cast<int>(m_heads.size()))
             return;
         int& head = m_heads[static_cast<std::size_t>(std::max(row, 0))];
-        m_changes.push_back({tile, kind, head});
+        m_changes.push_back({tile, begins, head});
         head = static_cast<int>(m_changes.size()) - 1;
     }
 
-    std::vector<Kind> m_kinds;
     std::vector<int> m_heads; ///< The first change in each row.
     std::vector<Change> m_changes;
     std::vector<int> m_within;
 };
 
+/// What a row is made of.
+struct RowContent
+{
+    int y;
+    QRgb plain;
+    QRgb shaded;
+    const int* shadowTop;
+    std::span<const SpectrumRaster::Line> lines;
+
+    QRgb pixel(int x) const
+    {
+        const auto column = static_cast<std::size_t>(x);
+        QRgb color = y >= shadowTop[x] ? shaded : plain;
+        for (const SpectrumRaster::Line& line : lines)
+            color = y >= line.top[column] && y <= line.bottom[column] ? line.color : color;
+        return color;
+    }
+};
+
+#ifdef __GNUC__
+
+/// Four pixels at a time: the compiler does not make such steps of loops with several conditions.
+using Pixels = int __attribute__((vector_size(16)));
+constexpr int pixelsAtOnce = sizeof(Pixels) / sizeof(int);
+
+Pixels load(const int* columns)
+{
+    Pixels result;
+    std::memcpy(&result, columns, sizeof(result));
+    return result;
+}
+
+Pixels all(int value)
+{
+    return Pixels{} + value;
+}
+
+inline void drawTile(QRgb* row, int x, const RowContent& content)
+{
+    // Comparisons give all bits or none, so that a colour is chosen without a branch.
+    std::array<Pixels, tileWidth / pixelsAtOnce> tile{};
+    const Pixels y = all(content.y);
+    const Pixels plain = all(static_cast<int>(content.plain));
+    const Pixels shaded = all(static_cast<int>(content.shaded));
+    const int* shadowTop = content.shadowTop + x;
+    for (std::size_t i = 0; i < tile.size(); ++i)
+        tile[i] = shaded ^ ((shaded ^ plain) & (load(shadowTop + i * pixelsAtOnce) > y));
+    for (const SpectrumRaster::Line& line : content.lines) {
+        const int* top = line.top.data() + x;
+        const int* bottom = line.bottom.data() + x;
+        const Pixels color = all(static_cast<int>(line.color));
+        for (std::size_t i = 0; i < tile.size(); ++i) {
+            const std::size_t at = i * pixelsAtOnce;
+            const Pixels isOutside = (load(top + at) > y) | (y > load(bottom + at));
+            tile[i] ^= ~isOutside & (tile[i] ^ color);
+        }
+    }
+    for (std::size_t i = 0; i < tile.size(); ++i)
+        std::memcpy(row + x + i * pixelsAtOnce, &tile[i], sizeof(Pixels));
+}
+
+#else
+
+inline void drawTile(QRgb* row, int x, const RowContent& content)
+{
+    for (const int end = x + tileWidth; x < end; ++x)
+        row[x] = content.pixel(x);
+}
+
+#endif
+
+// The sanitizers do not know functions in several versions.
+#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) &&                             \
+    !defined(__SANITIZE_ADDRESS__)
+#define RADIOPANES_VERSIONS __attribute__((target_clones("default", "avx2")))
+#else
+#define RADIOPANES_VERSIONS
+#endif
+
+RADIOPANES_VERSIONS void drawTiles(QRgb* row, int width, std::span<const int> tiles,
+                                   const RowContent& content)
+{
+    for (const int tile : tiles) {
+        int x = tile * tileWidth;
+        if (x + tileWidth <= width) {
+            drawTile(row, x, content);
+            continue;
+        }
+        for (; x < width; ++x)
+            row[x] = content.pixel(x);
+    }
+}
+
 class Drawing
 {
 public:
-    Drawing(QImage& image, const SpectrumRaster::Content& content)
+    /// Draws where something is, and where something was before: in the rows `drawn` of the tiles,
+    /// which become those of now.
+    Drawing(QImage& image, const SpectrumRaster::Content& content,
+            std::span<const std::pair<QRgb, QRgb>> rowColors, std::vector<Rows>& drawn)
         : m_image(image)
         , m_width(image.width())
         , m_content(content)
-        , m_ground(makeGround())
-    {
-        for (const SpectrumRaster::Line& line : content.lines)
-            m_lines.emplace_back(
-                tileCount(), image.height(),
-                [&](int tile) { return std::ranges::min(part(line.top, tile)); },
-                [&](int tile) { return std::ranges::max(part(line.bottom, tile)) + 1; });
-    }
+        , m_rowColors(rowColors)
+        , m_shadowTop(content.shadowTop.begin(), content.shadowTop.end())
+        , m_changed(takeChanges(drawn), image.height())
+    {}
 
-    void drawRow(int y)
+    void draw()
     {
-        auto* row = reinterpret_cast<QRgb*>(m_image.scanLine(y));
-        drawGround(row, y);
-        while (m_gridRow < m_content.gridRows.size() && m_content.gridRows[m_gridRow] < y)
-            ++m_gridRow;
-        drawGrid(row, y,
-                 m_gridRow < m_content.gridRows.size() && m_content.gridRows[m_gridRow] == y);
-        for (std::size_t number = 0; number < m_lines.size(); ++number)
-            drawLine(row, y, m_content.lines[number], m_lines[number]);
+        for (int y = m_first; y < m_end; ++y) {
+            auto* row = reinterpret_cast<QRgb*>(m_bits + y * m_bytesPerLine);
+            const auto [plain, shaded] = m_rowColors[static_cast<std::size_t>(y)];
+            const RowContent content{y, plain, shaded, m_shadowTop.data(), m_content.lines};
+            m_changed.at(y);
+            drawTiles(row, m_width, m_changed.within(), content);
+            drawGrid(row, content);
+        }
     }
 
 private:
-    int tileCount() const { return (m_width + tileWidth - 1) / tileWidth; }
-    std::span<const int> part(std::span<const int> columns, int tile) const
+    /// The rows that must be drawn in each tile.
+    std::vector<Rows> takeChanges(std::vector<Rows>& drawn)
     {
-        const int x = tile * tileWidth;
-        return columns.subspan(static_cast<std::size_t>(x),
-                               static_cast<std::size_t>(std::min(tileWidth, m_width - x)));
+        std::vector<Rows> used(drawn.size(), Rows{m_image.height(), 0});
+        if (!m_shadowTop
+                 .empty()) // also where it begins in one row: it may come to begin in another
+            unite(used, m_shadowTop, m_shadowTop, 0);
+        else
+            m_shadowTop.assign(static_cast<std::size_t>(m_width), m_image.height());
+        for (const SpectrumRaster::Line& line : m_content.lines)
+            unite(used, line.top, line.bottom, 1);
+        std::vector<Rows> changed = std::exchange(drawn, used);
+        for (std::size_t tile = 0; tile < changed.size(); ++tile) {
+            Rows& rows = changed[tile];
+            rows = {std::min(rows.first, used[tile].first), std::max(rows.end, used[tile].end)};
+            m_first = std::min(m_first, std::max(rows.first, 0));
+            m_end = std::max(m_end, std::min(rows.end, m_image.height()));
+        }
+        return changed;
     }
 
-    TileKinds makeGround() const
+    /// Adds the rows from the first of `tops` to the last of `bottoms`, and `more`, to each tile.
+    void unite(std::vector<Rows>& tiles, std::span<const int> tops, std::span<const int> bottoms,
+               int more) const
     {
-        const std::span<const int> top = m_content.shadowTop;
-        const auto none = [this](int) { return m_image.height(); };
-        if (top.empty())
-            return {tileCount(), m_image.height(), none, none};
-        return {tileCount(), m_image.height(),
-                [&](int tile) { return std::ranges::min(part(top, tile)); },
-                [&](int tile) { return std::ranges::max(part(top, tile)); }};
-    }
-
-    void drawGround(QRgb* row, int y)
-    {
-        const QRgb plain = mixed(m_content.backgroundTop, m_content.backgroundBottom,
-                                 (y + 0.5) / m_image.height());
-        const QRgb shaded = mixed(plain, m_content.shadow, m_content.shadowOpacity);
-        const std::span<const TileKinds::Kind> kinds = m_ground.at(y);
-        const auto count = static_cast<int>(kinds.size());
-        for (int tile = 0; tile < count;) {
-            const TileKinds::Kind kind = kinds[static_cast<std::size_t>(tile)];
-            if (kind == TileKinds::Within) {
-                forTile(tile++, m_width, [&](int x, auto width) {
-                    const int* top = m_content.shadowTop.data() + x;
-                    for (int i = 0; i < width; ++i)
-                        row[x + i] = y >= top[i] ? shaded : plain;
-                });
-                continue;
+        for (std::size_t tile = 0; tile < tiles.size(); ++tile) {
+            const std::size_t x = tile * tileWidth;
+            const std::size_t end = std::min(x + tileWidth, tops.size());
+            Rows rows = tiles[tile];
+            for (std::size_t column = x; column < end; ++column) {
+                rows.first = std::min(rows.first, tops[column]);
+                rows.end = std::max(rows.end, bottoms[column] + more);
             }
-            const int first = tile * tileWidth;
-            while (tile < count && kinds[static_cast<std::size_t>(tile)] == kind)
-                ++tile;
-            fill(row + first, std::min(tile * tileWidth, m_width) - first,
-                 kind == TileKinds::Behind ? shaded : plain);
+            tiles[tile] = rows;
         }
     }
 
-    void drawGrid(QRgb* row, int y, bool isGridRow) const
+    /// Behind the lines. What was drawn before is drawn again alike.
+    void drawGrid(QRgb* row, const RowContent& content)
     {
         const auto dot = [&](int x) {
-            const bool isShaded = !m_content.shadowTop.empty() &&
-                                  y >= m_content.shadowTop[static_cast<std::size_t>(x)];
-            row[x] = isShaded ? m_shadedGrid : m_content.grid;
+            const auto isLine = [&, column = static_cast<std::size_t>(x)](const auto& line) {
+                return content.y >= line.top[column] && content.y <= line.bottom[column];
+            };
+            if (std::ranges::none_of(content.lines, isLine))
+                row[x] = content.y >= content.shadowTop[x] ? m_shadedGrid : m_content.grid;
         };
-        if (isGridRow) {
+        const std::span<const int> rows = m_content.gridRows;
+        while (m_gridRow < rows.size() && rows[m_gridRow] < content.y)
+            ++m_gridRow;
+        if (m_gridRow < rows.size() && rows[m_gridRow] == content.y) {
             for (int x = 0; x < m_width; x += dotDistance)
                 dot(x);
         }
-        if (y % dotDistance == 0)
+        if (content.y % dotDistance == 0)
             std::ranges::for_each(m_content.gridColumns, dot);
     }
 
-    void drawLine(QRgb* row, int y, const SpectrumRaster::Line& line, TileKinds& tiles) const
-    {
-        tiles.at(y);
-        for (const int tile : tiles.within()) {
-            forTile(tile, m_width, [&](int x, auto width) {
-                const int* top = line.top.data() + x;
-                const int* bottom = line.bottom.data() + x;
-                const QRgb color = line.color;
-                for (int i = 0; i < width; ++i)
-                    row[x + i] = (y >= top[i]) & (y <= bottom[i]) ? color : row[x + i];
-            });
-        }
-    }
-
     QImage& m_image;
+    uchar* m_bits = m_image.bits();
+    qsizetype m_bytesPerLine = m_image.bytesPerLine();
     int m_width;
     const SpectrumRaster::Content& m_content;
+    std::span<const std::pair<QRgb, QRgb>> m_rowColors;
     QRgb m_shadedGrid = mixed(m_content.grid, m_content.shadow, m_content.shadowOpacity);
-    TileKinds m_ground;
-    std::vector<TileKinds> m_lines;
+    std::vector<int> m_shadowTop;
+    int m_first = std::numeric_limits<int>::max();
+    int m_end = 0;
+    TileRows m_changed;
     std::size_t m_gridRow = 0;
 };
 
@@ -235,14 +294,35 @@ void clearVectorRegisters()
 
 } // namespace
 
-void SpectrumRaster::draw(QImage& image, const Content& content)
+QImage& SpectrumRaster::draw(QSize size, const Content& content)
 {
-    if (image.isNull())
-        return;
+    const bool hasShadow = !content.shadowTop.empty();
+    Ground ground{size,
+                  content.backgroundTop,
+                  content.backgroundBottom,
+                  content.grid,
+                  {content.gridRows.begin(), content.gridRows.end()},
+                  {content.gridColumns.begin(), content.gridColumns.end()},
+                  hasShadow,
+                  content.shadow,
+                  content.shadowOpacity};
+    if (m_image.isNull() || ground != m_ground) {
+        if (m_image.size() != size)
+            m_image = QImage(size, QImage::Format_RGB32);
+        m_ground = std::move(ground);
+        m_rowColors.clear();
+        for (int y = 0; y < size.height(); ++y) {
+            const QRgb plain =
+                mixed(content.backgroundTop, content.backgroundBottom, (y + 0.5) / size.height());
+            m_rowColors.emplace_back(plain, mixed(plain, content.shadow, content.shadowOpacity));
+        }
+        m_drawn.assign(static_cast<std::size_t>(tilesOf(size.width())), {0, size.height()});
+    }
+    if (m_image.isNull())
+        return m_image;
     clearVectorRegisters();
-    Drawing drawing(image, content);
-    for (int y = 0; y < image.height(); ++y)
-        drawing.drawRow(y);
+    Drawing(m_image, content, m_rowColors, m_drawn).draw();
+    return m_image;
 }
 
 } // namespace RadioPanes

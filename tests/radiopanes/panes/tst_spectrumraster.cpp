@@ -7,7 +7,7 @@
 
 using namespace RadioPanes;
 
-/// Drawing by rows must give what drawing each column by itself gives.
+/// Drawing what changes, by rows, must give what drawing each column by itself gives.
 class tst_SpectrumRaster : public QObject
 {
     Q_OBJECT
@@ -20,9 +20,14 @@ private Q_SLOTS:
         constexpr QRgb grid = qRgb(0, 0, 90);
         const std::array colors{qRgb(0, 255, 0), qRgb(255, 255, 0)};
         RandomBytes random("raster");
-        for (int round = RandomBytes::rounds(100); round > 0; --round) {
-            const int width = 1 + random.below(300);
-            const int height = 1 + random.below(120);
+        SpectrumRaster raster; // draws what changes
+        int width = 0;
+        int height = 0;
+        for (int round = RandomBytes::rounds(200); round > 0; --round) {
+            if (width == 0 || random.below(4) == 0) {
+                width = 1 + random.below(300);
+                height = 1 + random.below(120);
+            }
             const auto rows = [&] {
                 std::vector<int> result(static_cast<size_t>(width));
                 const int first = random.below(height + 20) - 10;
@@ -39,12 +44,12 @@ private Q_SLOTS:
             const std::vector<int> gridColumns{width / 3, width - 1};
             SpectrumRaster::Content content{ground, ground, grid, gridRows, gridColumns,
                                             {},     shadow, 1,    lines};
-            const bool hasShadow = random.below(2) == 0;
+            const bool hasShadow = random.below(8) != 0;
+            if (random.below(4) == 0)
+                content.lines = {};
             if (hasShadow)
                 content.shadowTop = shadowTop;
-            QImage image(width, height, QImage::Format_RGB32);
-            image.fill(Qt::magenta);
-            SpectrumRaster::draw(image, content);
+            const QImage image = raster.draw({width, height}, content);
             for (int y = 0; y < height; ++y) {
                 for (int x = 0; x < width; ++x) {
                     const auto column = static_cast<size_t>(x);
@@ -53,7 +58,7 @@ private Q_SLOTS:
                     QRgb expected = isDot ? grid : ground;
                     if (hasShadow && y >= shadowTop[column])
                         expected = shadow;
-                    for (size_t line = 0; line < lines.size(); ++line) {
+                    for (size_t line = 0; line < content.lines.size(); ++line) {
                         if (y >= tops[line][column] && y <= bottoms[line][column])
                             expected = colors[line];
                     }
