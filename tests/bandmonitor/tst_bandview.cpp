@@ -106,8 +106,8 @@ private Q_SLOTS:
         QCOMPARE(visibleBand().pins().size(), 2u);
         QCOMPARE(pane.readOut().size(), 3);
         QTest::mouseClick(&pane, Qt::LeftButton, {}, QPoint(300 + BandPane::pinReach - 1, 50));
-        QCOMPARE(visibleBand().pins().size(), 1u);
-        QVERIFY(std::abs(pane.positionOf(visibleBand().pins().front()) - 600) < 1);
+        QTRY_COMPARE(visibleBand().pins().size(), 1u); // no double click has followed
+        QVERIFY(std::abs(pane.positionOf(visibleBand().pins().front().hertz) - 600) < 1);
         // A drag moves the view and sets no pin.
         visibleBand().zoom(4, centreOfBin(500));
         const double low = visibleBand().low();

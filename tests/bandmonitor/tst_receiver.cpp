@@ -328,7 +328,7 @@ private Q_SLOTS:
         view.clearPins();
         QCOMPARE(m_window->values().pins.GetValue(), QStringLiteral("9q")); // nobody's to drop
         QVERIFY(steps.undo());
-        QCOMPARE(view.pins(), std::vector<double>{99e6});
+        QCOMPARE(view.pins(), (std::vector<Pin>{{99e6, {}}}));
         const QColor grid = ColorSet::Instance().GetColor(IColorBase::DrawPaneGrid);
         ColorSet::Instance().SetColor(IColorBase::DrawPaneGrid, Qt::red, true);
         QVERIFY(steps.undo());
@@ -340,7 +340,7 @@ private Q_SLOTS:
         QVERIFY(steps.undo());
         QCOMPARE(own.GetColor(), before);
         open(samplePath());
-        QCOMPARE(view.pins(), std::vector<double>{99e6}); // it stays, and so do the steps
+        QCOMPARE(view.pins(), (std::vector<Pin>{{99e6, {}}})); // it stays, and so do the steps
         QVERIFY(steps.undo() && view.pins().empty());
         while (steps.undo()) {
         }

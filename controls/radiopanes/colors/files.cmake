@@ -3,4 +3,5 @@ guibase_room(colors
     PUBLIC
         colormap.cpp colormap.h
         contrast.cpp contrast.h
+        levelcolors.cpp levelcolors.h
         panecolors.cpp panecolors.h)

@@ -2,6 +2,7 @@
 #include "axes.h"
 
 #include "frequencytext.h"
+#include "panepainter_p.h"
 #include "visibleband.h"
 #include "wheelnotches_p.h"
 
@@ -88,7 +89,7 @@ QSize FrequencyAxis::sizeHint() const
 
 void FrequencyAxis::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    PanePainter painter(this);
     QLinearGradient background(0, 0, 0, height());
     background.setColorAt(0, axisColor(PaneSlot::FrequencyAxisHigh, palette()));
     background.setColorAt(1, axisColor(PaneSlot::FrequencyAxisLow, palette()));
@@ -130,7 +131,7 @@ QSize SideAxis::sizeHint() const
 
 void SideAxis::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    PanePainter painter(this);
     painter.fillRect(rect(), axisColor(PaneSlot::LevelAxisBackground, palette()));
     painter.setPen(axisColor(PaneSlot::LevelAxisText, palette()));
     const int textHeight = fontMetrics().height();
@@ -141,11 +142,13 @@ void SideAxis::paintEvent(QPaintEvent*)
         const int y = height() - 1 - static_cast<int>(tick.position);
         painter.drawLine(width() - tickLength, y, width() - 1, y);
         // At the ends a label moves to where it has room, but never away from its tick.
-        const int wanted = y - textHeight / 2;
+        const int labelHeight =
+            textHeight * (static_cast<int>(tick.label.count(QLatin1Char('\n'))) + 1);
+        const int wanted = y - labelHeight / 2;
         const int top =
-            std::clamp(wanted, captionBottom, std::max(height() - textHeight, captionBottom));
-        if (std::abs(top - wanted) <= textHeight / 2)
-            painter.drawText(QRect(labelMargin, top, textWidth, textHeight),
+            std::clamp(wanted, captionBottom, std::max(height() - labelHeight, captionBottom));
+        if (std::abs(top - wanted) <= labelHeight / 2)
+            painter.drawText(QRect(labelMargin, top, textWidth, labelHeight),
                              Qt::AlignRight | Qt::AlignVCenter, tick.label);
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bandpane.h"
 
+#include "namefield_p.h"
 #include "visibleband.h"
 
 #include <radiopanes/colors/panecolors.h>
@@ -9,10 +10,13 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 namespace RadioPanes {
 
@@ -33,8 +37,11 @@ public:
     bool isLegendVisible = true;
     Drag drag = Drag::None;
     std::optional<std::size_t> pressedPin;
+    double removedHertz = 0; ///< Of the pin that goes when the timer ends.
+    QTimer removal;
     QPoint pressedAt;
     QPoint draggedTo;
+    Qt::Orientation dragBegun = Qt::Horizontal;
 
     /// Control turns snapping over.
     bool snaps(Qt::KeyboardModifiers modifiers) const
@@ -55,6 +62,9 @@ BandPane::BandPane(VisibleBand* view, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setCursor(Qt::CrossCursor);
+    d->removal.setSingleShot(true);
+    connect(&d->removal, &QTimer::timeout, this,
+            [this] { d->visibleBand->removePinNear(d->removedHertz, hertzOf(pinReach)); });
     connect(d->visibleBand, &VisibleBand::cursorChanged, this, &BandPane::followCursor);
     connect(d->visibleBand, &VisibleBand::pinsChanged, this, qOverload<>(&QWidget::update));
 }
@@ -132,8 +142,8 @@ void BandPane::paintOverlay(QPainter& painter)
         painter.setPen(QPen(color, 1, style));
         painter.drawLine(inside, 0, inside, height() - 1);
     };
-    for (const double pin : d->visibleBand->pins())
-        verticalLine(pin, paneColor(PaneSlot::Pin), Qt::DashLine);
+    for (const Pin& pin : d->visibleBand->pins())
+        verticalLine(pin.hertz, paneColor(PaneSlot::Pin), Qt::DashLine);
     verticalLine(d->visibleBand->cursor(), paneColor(PaneSlot::Cursor), Qt::SolidLine);
     if (d->drag == Drag::Zoom) {
         QColor fill = paneColor(PaneSlot::Cursor);
@@ -150,6 +160,11 @@ void BandPane::paintOverlay(QPainter& painter)
 
 void BandPane::keyPressEvent(QKeyEvent* event)
 {
+    if (event->key() == Qt::Key_F2) {
+        if (const auto number = pinAt(positionOf(d->visibleBand->cursor())))
+            editPinName(*number);
+        return;
+    }
     if (event->key() != Qt::Key_Left && event->key() != Qt::Key_Right) {
         QWidget::keyPressEvent(event);
         return;
@@ -172,8 +187,7 @@ void BandPane::mousePressEvent(QMouseEvent* event)
     d->pressedPin.reset();
     if (event->button() == Qt::LeftButton) {
         d->drag = Drag::Undecided;
-        d->pressedPin =
-            d->visibleBand->pinNear(frequencyAt(event->position().x()), hertzOf(pinReach));
+        d->pressedPin = pinAt(event->position().x());
     } else if (event->button() == Qt::RightButton)
         d->drag = Drag::Zoom;
     else if (event->button() == Qt::MiddleButton)
@@ -185,16 +199,18 @@ void BandPane::mouseMoveEvent(QMouseEvent* event)
     const QPoint position = event->position().toPoint();
     if (d->drag == Drag::None)
         d->visibleBand->setCursor(frequencyAt(event->position().x()));
-    if (d->drag == Drag::Undecided &&
-        (position - d->pressedAt).manhattanLength() >= QApplication::startDragDistance())
+    const QPoint way = position - d->pressedAt;
+    if (d->drag == Drag::Undecided && way.manhattanLength() >= QApplication::startDragDistance()) {
         d->drag = d->pressedPin ? Drag::Pin : Drag::Pan;
+        d->dragBegun = std::abs(way.y()) > std::abs(way.x()) ? Qt::Vertical : Qt::Horizontal;
+    }
     if (d->drag == Drag::Pin) {
         const double hertz = frequencyAt(event->position().x());
         d->visibleBand->movePin(*d->pressedPin,
                                 d->snaps(event->modifiers()) ? snapped(hertz) : hertz);
     }
     if (d->drag == Drag::Pan) {
-        d->visibleBand->pan(frequencyAt(d->draggedTo.x()) - frequencyAt(position.x()));
+        dragged(position - d->draggedTo, d->dragBegun);
         d->draggedTo = position;
     }
     if (d->drag == Drag::Zoom) {
@@ -203,6 +219,11 @@ void BandPane::mouseMoveEvent(QMouseEvent* event)
         d->draggedTo = position;
         update(left - 1, 0, right - left + 3, height());
     }
+}
+
+void BandPane::dragged(const QPoint& change, Qt::Orientation)
+{
+    d->visibleBand->pan(-hertzOf(change.x()));
 }
 
 void BandPane::mouseReleaseEvent(QMouseEvent* event)
@@ -230,8 +251,40 @@ void BandPane::contextMenuEvent(QContextMenuEvent* event)
 void BandPane::togglePin(double x, Qt::KeyboardModifiers modifiers)
 {
     const double hertz = frequencyAt(x);
-    if (!d->visibleBand->removePinNear(hertz, hertzOf(pinReach)))
+    if (pinAt(x)) { // it stays until it is clear that no double click follows
+        d->removedHertz = hertz;
+        d->removal.start(QApplication::doubleClickInterval());
+    } else
         d->visibleBand->addPin(d->snaps(modifiers) ? snapped(hertz) : hertz);
+}
+
+void BandPane::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const std::optional<std::size_t> number = pinAt(event->position().x());
+    if (event->button() != Qt::LeftButton || !number)
+        return mousePressEvent(event);
+    d->removal.stop();
+    editPinName(*number);
+}
+
+std::optional<std::size_t> BandPane::pinAt(double x) const
+{
+    return d->visibleBand->pinNear(frequencyAt(x), hertzOf(pinReach));
+}
+
+void BandPane::editPinName(std::size_t number)
+{
+    const std::vector<Pin>& pins = d->visibleBand->pins();
+    if (number >= pins.size())
+        return;
+    // Other pins may come or go meanwhile.
+    const auto name = [band = d->visibleBand, pin = pins[number]](const QString& text) {
+        const auto found = std::ranges::find(band->pins(), pin);
+        band->namePin(static_cast<std::size_t>(found - band->pins().begin()), text);
+    };
+    auto* field = new NameField(pins[number].name, name, this);
+    field->showAt(
+        {static_cast<int>(positionOf(pins[number].hertz)) + 1, height() - 2 * field->height()});
 }
 
 void BandPane::wheelEvent(QWheelEvent* event)

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class QPainter;
 
@@ -17,10 +18,11 @@ class VisibleBand;
 /// A pane with the shared frequencies from its left to its right edge. It turns the mouse and the
 /// keys into zoom, cursor and pins of the view, and draws the cursor and the pins on top.
 ///
-/// Mouse: moving sets the cursor, a click sets or removes a pin, dragging moves a pin or the view,
-/// dragging with the right button zooms to the part dragged over, a click with it asks for a menu,
-/// the middle button shows the whole band, the wheel zooms. Keys: left and right move the cursor
-/// (with Control ten times as far, with Shift the view). All other keys are left to the window.
+/// Mouse: moving sets the cursor, a click sets or removes a pin, a double click names it, dragging
+/// moves a pin or the view, dragging with the right button zooms to the part dragged over, a click
+/// with it asks for a menu, the middle button shows the whole band, the wheel zooms. Keys: left and
+/// right move the cursor (with Control ten times as far, with Shift the view), F2 names the pin at
+/// the cursor. All other keys are left to the window.
 class RADIOPANES_EXPORT BandPane : public QWidget
 {
     Q_OBJECT
@@ -33,6 +35,12 @@ public:
     VisibleBand& visibleBand() const;
     /// Pixels between a click and a pin that still hit it.
     static constexpr int pinReach = 5;
+
+    /// The number of the pin there, within reach.
+    std::optional<std::size_t> pinAt(double x) const;
+    /// Lets the user name the pin: in an input field beside it, which takes the name over with
+    /// Return or when it loses the focus, but not with Escape.
+    void editPinName(std::size_t number);
 
     /// From pixels of the pane to hertz, and back.
     double frequencyAt(double x) const;
@@ -61,11 +69,16 @@ protected:
     /// Cursor, pins, zoom rectangle and focus frame; to be called at the end of paintEvent().
     void paintOverlay(QPainter& painter);
 
+    /// The pane is being dragged by so many pixels: moves the view. Panes with a vertical scale of
+    /// their own move that when the drag began up- or downwards.
+    virtual void dragged(const QPoint& change, Qt::Orientation begun);
+
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;

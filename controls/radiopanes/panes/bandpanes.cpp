@@ -2,6 +2,8 @@
 #include "bandpanes.h"
 
 #include "axes.h"
+#include "bandplanrow.h"
+#include "overviewpane.h"
 #include "spectrumpane.h"
 #include "waterfallpane.h"
 
@@ -30,9 +32,13 @@ public:
     QWidget* waterfallRow = nullptr;
     SideAxis* levelAxis = nullptr;
     SpectrumPane* spectrum = nullptr;
+    BandPlanRow* bandPlan = nullptr;
+    BandPlanRow* bookmarks = nullptr;
     FrequencyAxis* frequencyAxis = nullptr;
     SideAxis* timeAxis = nullptr;
     WaterfallPane* waterfall = nullptr;
+    QWidget* overviewRow = nullptr;
+    OverviewPane* overview = nullptr;
     std::unique_ptr<ValueFollower> unitFollower;
     std::unique_ptr<ValueFollower> zoneFollower;
 };
@@ -46,8 +52,11 @@ BandPanes::BandPanes(const QString& splitterName, const QString& splitterGroup, 
     d->splitter = splitterName.isEmpty()
                       ? new Splitter(Qt::Vertical, this)
                       : new Splitter(Qt::Vertical, this, splitterName, splitterGroup);
-    d->frequencyAxis =
-        new FrequencyAxis(&d->visibleBand, &d->text, SideAxis::preferredWidth(*this), this);
+    const int indent = SideAxis::preferredWidth(*this);
+    d->bandPlan = new BandPlanRow(tr("Plan"), &d->visibleBand, &d->text, indent, this);
+    d->bookmarks = new BandPlanRow(tr("Marks"), &d->visibleBand, &d->text, indent, this);
+    d->bookmarks->setEditable(true);
+    d->frequencyAxis = new FrequencyAxis(&d->visibleBand, &d->text, indent, this);
     d->spectrum = new SpectrumPane(
         &d->visibleBand, &d->text, [this](int pixels) { return d->frequencyAxis->ticks(pixels); },
         this);
@@ -57,16 +66,22 @@ BandPanes::BandPanes(const QString& splitterName, const QString& splitterGroup, 
     d->timeAxis = new SideAxis(
         QString(),
         [this](int pixels) {
-            return d->waterfall->timeTicks(pixels, [](quint64 timeUs) {
-                return GuiBase::Instance().TimeString(timeUs, QStringLiteral("hh:mm:ss"));
+            const QString format = d->waterfall->isLongerThanADay() ? QStringLiteral("MM-dd\nhh:mm")
+                                                                    : QStringLiteral("hh:mm:ss");
+            return d->waterfall->timeTicks(pixels, [&format](quint64 timeUs) {
+                return GuiBase::Instance().TimeString(timeUs, format);
             });
         },
         this);
+    d->overview = new OverviewPane(this);
     buildLayout();
     setFocusProxy(d->spectrum);
     connect(&GuiBase::Instance(), &GuiBase::signalColorsChanged, this, &BandPanes::refreshColors);
-    connect(d->spectrum, &BandPane::menuRequested, this, &BandPanes::showMenu);
-    connect(d->waterfall, &BandPane::menuRequested, this, &BandPanes::showMenu);
+    for (BandPane* pane :
+         {static_cast<BandPane*>(d->spectrum), static_cast<BandPane*>(d->waterfall)})
+        connect(pane, &BandPane::menuRequested, this,
+                [this, pane](QPoint place) { showMenu(pane, place); });
+    connect(d->bookmarks, &BandPlanRow::edited, this, &BandPanes::bookmarksChanged);
     GuiBase& services = GuiBase::Instance();
     const auto refresh = [this] { refreshTexts(); };
     d->unitFollower = std::make_unique<ValueFollower>(services.GetFrequencyUnit(), refresh);
@@ -79,9 +94,58 @@ BandPanes::BandPanes(const QString& splitterName, const QString& splitterGroup, 
     });
     connect(d->levelAxis, &SideAxis::wheelTurned, d->spectrum,
             [this](int notches) { d->spectrum->stepDecibelsPerDivision(-notches); });
+    connectTimes();
 }
 
 BandPanes::~BandPanes() = default;
+
+void BandPanes::connectTimes()
+{
+    connect(d->waterfall, &WaterfallPane::timesChanged, this, &BandPanes::refreshTimes);
+    connect(d->timeAxis, &SideAxis::dragged, d->waterfall,
+            [this](int pixels) { d->waterfall->scrollTimeByPixels(pixels); });
+    connect(d->timeAxis, &SideAxis::wheelTurned, d->waterfall,
+            [this](int notches) { d->waterfall->zoomTime(notches); });
+    const auto takeColors = [this] { d->overview->setLevelColors(d->waterfall->levelColors()); };
+    connect(d->waterfall, &WaterfallPane::levelColorsChanged, d->overview, takeColors);
+    takeColors();
+    connect(d->overview, &OverviewPane::jumpRequested, this, &BandPanes::requestJump);
+    const auto timeText = [this](quint64 timeUs) {
+        const bool isLong = d->waterfall->isLongerThanADay();
+        return GuiBase::Instance().TimeString(timeUs, isLong ? QStringLiteral("yyyy-MM-dd hh:mm:ss")
+                                                             : QStringLiteral("hh:mm:ss"));
+    };
+    const auto placeText = [this, timeText](const HistoryPlace& place) {
+        const QString level = place.levelDb
+                                  ? QString::number(static_cast<double>(*place.levelDb), 'f', 1) +
+                                        QStringLiteral(" dB")
+                                  : QStringLiteral("– dB");
+        return QStringLiteral("%1  %2  %3")
+            .arg(timeText(place.timeUs), d->text.rounded(place.hertz, place.stepHz), level);
+    };
+    d->waterfall->setPlaceText(placeText);
+    d->overview->setPlaceText(placeText);
+    d->overview->setTimeText(timeText);
+}
+
+void BandPanes::requestJump(qsizetype sweep)
+{
+    d->waterfall->followNewest(); // so that it shows where the jump leads
+    Q_EMIT jumpRequested(sweep);
+}
+
+void BandPanes::setHistory(std::shared_ptr<const SweepHistory> history)
+{
+    d->waterfall->setHistory(history);
+    d->overview->setHistory(std::move(history));
+}
+
+void BandPanes::setPosition(qsizetype position, std::shared_ptr<const LevelPyramid> pyramid)
+{
+    d->overview->takeSweeps();
+    d->overview->setPosition(position);
+    d->waterfall->setPosition(position, std::move(pyramid));
+}
 
 void BandPanes::buildLayout()
 {
@@ -97,15 +161,27 @@ void BandPanes::buildLayout()
         return row;
     };
     QWidget* spectrumRow = makeRow(d->levelAxis, d->spectrum);
-    static_cast<QGridLayout*>(spectrumRow->layout())->addWidget(d->frequencyAxis, 1, 0, 1, 2);
+    auto* spectrumGrid = static_cast<QGridLayout*>(spectrumRow->layout());
+    int below = 1;
+    for (QWidget* row : {static_cast<QWidget*>(d->bandPlan), static_cast<QWidget*>(d->bookmarks),
+                         static_cast<QWidget*>(d->frequencyAxis)})
+        spectrumGrid->addWidget(row, below++, 0, 1, 2);
     d->waterfallRow = makeRow(d->timeAxis, d->waterfall);
     d->splitter->setChildrenCollapsible(false);
     d->splitter->addWidget(spectrumRow);
     d->splitter->addWidget(d->waterfallRow);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
     column->addWidget(d->splitter);
+    auto* gutter = new SideAxis(
+        QString(), [](int) { return std::vector<AxisTick>(); }, this);
+    d->overviewRow = makeRow(gutter, d->overview);
+    d->overviewRow->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    gutter->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+    column->addWidget(d->overviewRow);
     setTabOrder(d->spectrum, d->waterfall);
+    setTabOrder(d->waterfall, d->overview);
 }
 
 void BandPanes::fillMenu(QMenu* menu)
@@ -125,6 +201,8 @@ void BandPanes::fillMenu(QMenu* menu)
     menu->addSection(tr("Pins and cursor"));
     addCheck(menu, tr("Pins snap to peaks"), d->spectrum->isSnapping(),
              [this](bool on) { d->spectrum->setSnapping(on); });
+    connect(menu->addAction(tr("Bookmark the cursor")), &QAction::triggered, this,
+            [this] { addBookmark(d->visibleBand.cursor()); });
     addCheck(menu, tr("Bandwidths at the cursor"), d->spectrum->areWidthsVisible(),
              [this](bool on) { d->spectrum->setWidthsVisible(on); });
     menu->addSection(tr("Picture"));
@@ -132,6 +210,8 @@ void BandPanes::fillMenu(QMenu* menu)
              [this](bool on) { d->spectrum->setLegendVisible(on); });
     addCheck(menu, tr("Legend of the waterfall"), d->waterfall->isLegendVisible(),
              [this](bool on) { d->waterfall->setLegendVisible(on); });
+    addCheck(menu, tr("Overview of all sweeps"), isOverviewVisible(),
+             [this](bool on) { setOverviewVisible(on); });
     QMenu* maps = menu->addMenu(tr("Colours of the waterfall"));
     auto* group = new QActionGroup(maps);
     for (int number = 0; number < colorMapCount; ++number) {
@@ -144,13 +224,77 @@ void BandPanes::fillMenu(QMenu* menu)
     }
 }
 
-void BandPanes::showMenu(QPoint globalPosition)
+void BandPanes::showMenu(BandPane* pane, QPoint globalPosition)
 {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setLayoutDirection(QGuiApplication::layoutDirection()); // not that of the axes
+    const QPoint place = pane->mapFromGlobal(globalPosition);
+    if (const std::optional<std::size_t> pin = pane->pinAt(place.x()))
+        addPinEntries(menu, pane, *pin);
+    if (pane == d->waterfall)
+        addTimeEntries(menu, d->waterfall->sweepAt(place.y()));
     fillMenu(menu);
     menu->popup(globalPosition);
+}
+
+void BandPanes::addPinEntries(QMenu* menu, BandPane* pane, std::size_t pin)
+{
+    menu->addSection(tr("Pin %1").arg(pin + 1));
+    connect(menu->addAction(tr("Name…")), &QAction::triggered, pane,
+            [pane, pin] { pane->editPinName(pin); });
+    connect(menu->addAction(tr("To the peak nearby")), &QAction::triggered, this, [this, pin] {
+        const std::vector<Pin>& pins = d->visibleBand.pins();
+        if (pin < pins.size())
+            d->visibleBand.movePin(pin, d->spectrum->snapped(pins[pin].hertz));
+    });
+    connect(menu->addAction(tr("Remove")), &QAction::triggered, this,
+            [this, pin] { d->visibleBand.removePin(pin); });
+}
+
+void BandPanes::addTimeEntries(QMenu* menu, qsizetype sweep)
+{
+    menu->addSection(tr("Time"));
+    QAction* jump = menu->addAction(tr("Go to this time"));
+    jump->setEnabled(sweep >= 0);
+    connect(jump, &QAction::triggered, this, [this, sweep] { requestJump(sweep); });
+    QAction* follow = menu->addAction(tr("Follow the newest sweep"));
+    follow->setEnabled(!d->waterfall->isFollowing());
+    connect(follow, &QAction::triggered, d->waterfall, &WaterfallPane::followNewest);
+    connect(menu->addAction(tr("Zoom in in time")), &QAction::triggered, d->waterfall,
+            [this] { d->waterfall->zoomTime(1); });
+    connect(menu->addAction(tr("Zoom out in time")), &QAction::triggered, d->waterfall,
+            [this] { d->waterfall->zoomTime(-1); });
+}
+
+void BandPanes::setBandPlan(const BandPlan& plan)
+{
+    d->bandPlan->setPlan(plan);
+}
+
+const BandPlan& BandPanes::bandPlan() const
+{
+    return d->bandPlan->plan();
+}
+
+void BandPanes::setBookmarks(const BandPlan& bookmarks)
+{
+    if (bookmarks == d->bookmarks->plan())
+        return;
+    d->bookmarks->setPlan(bookmarks);
+    Q_EMIT bookmarksChanged();
+}
+
+const BandPlan& BandPanes::bookmarks() const
+{
+    return d->bookmarks->plan();
+}
+
+void BandPanes::addBookmark(double hertz, const QString& name)
+{
+    std::vector<BandPlan::Entry> entries = bookmarks().entries();
+    entries.push_back({hertz, hertz, name.isEmpty() ? d->text.full(hertz) : name});
+    setBookmarks(BandPlan(std::move(entries)));
 }
 
 VisibleBand& BandPanes::visibleBand() const
@@ -166,6 +310,24 @@ SpectrumPane& BandPanes::spectrum() const
 WaterfallPane& BandPanes::waterfall() const
 {
     return *d->waterfall;
+}
+
+OverviewPane& BandPanes::overview() const
+{
+    return *d->overview;
+}
+
+void BandPanes::setOverviewVisible(bool visible)
+{
+    if (visible == isOverviewVisible())
+        return;
+    d->overviewRow->setVisible(visible);
+    Q_EMIT overviewVisibleChanged(visible);
+}
+
+bool BandPanes::isOverviewVisible() const
+{
+    return !d->overviewRow->isHidden();
 }
 
 Splitter* BandPanes::splitter() const
@@ -187,20 +349,21 @@ void BandPanes::refreshTexts()
 void BandPanes::refreshTimes()
 {
     d->timeAxis->update();
+    const auto [first, last] = d->waterfall->shownSweeps();
+    d->overview->setShownSweeps(first, last);
+}
+
+/// Opaque widgets are not painted with their parents.
+void BandPanes::updateAll()
+{
+    for (QWidget* child : findChildren<QWidget*>())
+        child->update();
 }
 
 void BandPanes::refreshColors()
 {
     d->waterfall->refreshColors();
     updateAll();
-}
-
-/// The panes are opaque: an update of what lies behind them does not reach them.
-void BandPanes::updateAll()
-{
-    const QList<QWidget*> children = findChildren<QWidget*>();
-    for (QWidget* child : children)
-        child->update();
 }
 
 } // namespace RadioPanes

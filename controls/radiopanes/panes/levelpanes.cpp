@@ -39,6 +39,7 @@ LevelPanes::LevelPanes(const QString& name, QWidget* parent)
     d->held = std::make_unique<HeldTraces>(&spectrum());
     waterfall().setColorMap(ColorMap::Even);
     waterfall().setLegendVisible(true);
+    connect(this, &BandPanes::jumpRequested, &waterfall(), &WaterfallPane::scrollTo);
     d->fitted = {spectrum().lowLevel(), spectrum().highLevel()};
     clear();
 }
@@ -72,8 +73,7 @@ bool LevelPanes::addSweep(quint64 timeUs, std::span<const Segment> segments)
     spectrum().setTrace(Trace::Live, sweep, pyramid);
     d->held->add(sweep);
     d->held->show();
-    waterfall().setPosition(position, pyramid);
-    refreshTimes();
+    setPosition(position, pyramid);
     return true;
 }
 
@@ -107,7 +107,7 @@ void LevelPanes::clear(std::size_t historyBytes)
     resetHold();
     spectrum().setTrace(Trace::Live, {}, nullptr);
     d->history = std::make_shared<LevelHistory>(historyBytes);
-    waterfall().setHistory(d->history);
+    setHistory(d->history);
 }
 
 const LevelHistory& LevelPanes::history() const

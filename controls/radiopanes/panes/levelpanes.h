@@ -10,7 +10,8 @@ namespace RadioPanes {
 class LevelPanesPrivate;
 
 /// Spectrum and waterfall of a live source. It keeps the last sweeps, holds what the visible traces
-/// show, and fits the range of levels to the first sweeps, unless somebody has set another one.
+/// show, and fits the range of levels to the first sweeps, unless somebody has set another one. A
+/// jump that the user wants scrolls the waterfall back to that sweep.
 class RADIOPANES_EXPORT LevelPanes : public BandPanes
 {
     Q_OBJECT

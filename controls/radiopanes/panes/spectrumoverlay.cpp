@@ -70,9 +70,10 @@ void SpectrumPanePrivate::paintPinNumbers(QPainter& painter) const
 {
     painter.setPen(paneColor(PaneSlot::Pin));
     int number = 0;
-    for (const double pin : q->visibleBand().pins()) {
-        const int x = static_cast<int>(q->positionOf(pin));
-        painter.drawText(x + 3, q->height() - 5, QString::number(++number));
+    for (const Pin& pin : q->visibleBand().pins()) {
+        const int x = static_cast<int>(q->positionOf(pin.hertz));
+        const QString label = QStringLiteral("%1 %2").arg(++number).arg(pin.name);
+        painter.drawText(x + 3, q->height() - 5, label.trimmed());
     }
 }
 
@@ -129,10 +130,11 @@ QStringList SpectrumPanePrivate::readOut()
     if (areWidthsVisible)
         lines << widths(band.cursor());
     int number = 0;
-    for (const double pin : band.pins()) {
-        QString line = readOutLine(SpectrumPane::tr("Pin %1").arg(++number), pin);
+    for (const auto& [hertz, name] : band.pins()) {
+        const QString title = SpectrumPane::tr("Pin %1").arg(++number);
+        QString line = readOutLine(name.isEmpty() ? title : title + QLatin1Char(' ') + name, hertz);
         if (number > 1)
-            line += difference(pin, band.pins().front());
+            line += difference(hertz, band.pins().front().hertz);
         lines << line;
     }
     return lines;

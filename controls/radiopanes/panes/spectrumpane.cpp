@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "spectrumpane.h"
 
+#include "panepainter_p.h"
 #include "spectrumpane_p.h"
 #include "visibleband.h"
 
@@ -245,7 +246,7 @@ double SpectrumPane::snapped(double hertz) const
 
 void SpectrumPane::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    PanePainter painter(this);
     painter.drawImage(QPointF(), d->picture());
     d->paintReferenceLevels(painter);
     d->paintThreshold(painter);

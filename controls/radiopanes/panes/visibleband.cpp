@@ -9,6 +9,12 @@ namespace RadioPanes {
 namespace {
 constexpr double binsOfSmallestView = 8;
 constexpr int maximumPins = 16;
+constexpr int maximumName = 40;
+
+QString pinName(const QString& name)
+{
+    return name.simplified().left(maximumName);
+}
 } // namespace
 
 class VisibleBandPrivate
@@ -20,7 +26,7 @@ public:
     double high = 1;
     double smallestSpan = 1;
     double cursor = 0.5;
-    std::vector<double> pins;
+    std::vector<Pin> pins;
 };
 
 VisibleBand::VisibleBand(QObject* parent)
@@ -76,7 +82,7 @@ double VisibleBand::cursor() const
     return d->cursor;
 }
 
-const std::vector<double>& VisibleBand::pins() const
+const std::vector<Pin>& VisibleBand::pins() const
 {
     return d->pins;
 }
@@ -161,19 +167,24 @@ void VisibleBand::showAt(double hertz)
 
 void VisibleBand::addPin(double hertz)
 {
+    addPin(hertz, QString());
+}
+
+void VisibleBand::addPin(double hertz, const QString& name)
+{
     if (!std::isfinite(hertz))
         return;
     if (d->pins.size() >= maximumPins)
         d->pins.erase(d->pins.begin());
-    d->pins.push_back(std::clamp(hertz, d->bandLow, d->bandHigh));
+    d->pins.push_back({std::clamp(hertz, d->bandLow, d->bandHigh), pinName(name)});
     Q_EMIT pinsChanged();
 }
 
 std::optional<std::size_t> VisibleBand::pinNear(double hertz, double reach) const
 {
     const auto nearest = std::ranges::min_element(
-        d->pins, {}, [hertz](double pin) { return std::abs(pin - hertz); });
-    if (nearest == d->pins.end() || !(std::abs(*nearest - hertz) <= reach))
+        d->pins, {}, [hertz](const Pin& pin) { return std::abs(pin.hertz - hertz); });
+    if (nearest == d->pins.end() || !(std::abs(nearest->hertz - hertz) <= reach))
         return std::nullopt;
     return static_cast<std::size_t>(nearest - d->pins.begin());
 }
@@ -182,18 +193,32 @@ void VisibleBand::movePin(std::size_t number, double hertz)
 {
     if (number >= d->pins.size() || !std::isfinite(hertz))
         return;
-    d->pins[number] = std::clamp(hertz, d->bandLow, d->bandHigh);
+    d->pins[number].hertz = std::clamp(hertz, d->bandLow, d->bandHigh);
+    Q_EMIT pinsChanged();
+}
+
+void VisibleBand::namePin(std::size_t number, const QString& name)
+{
+    if (number >= d->pins.size() || d->pins[number].name == pinName(name))
+        return;
+    d->pins[number].name = pinName(name);
+    Q_EMIT pinsChanged();
+}
+
+void VisibleBand::removePin(std::size_t number)
+{
+    if (number >= d->pins.size())
+        return;
+    d->pins.erase(d->pins.begin() + static_cast<std::ptrdiff_t>(number));
     Q_EMIT pinsChanged();
 }
 
 bool VisibleBand::removePinNear(double hertz, double reach)
 {
     const std::optional<std::size_t> number = pinNear(hertz, reach);
-    if (!number)
-        return false;
-    d->pins.erase(d->pins.begin() + static_cast<std::ptrdiff_t>(*number));
-    Q_EMIT pinsChanged();
-    return true;
+    if (number)
+        removePin(*number);
+    return number.has_value();
 }
 
 void VisibleBand::clearPins()

@@ -5,6 +5,7 @@
 #include <radiopanes/radiopanes_export.h>
 
 #include <QObject>
+#include <QString>
 
 #include <memory>
 #include <optional>
@@ -13,6 +14,15 @@
 namespace RadioPanes {
 
 class VisibleBandPrivate;
+
+/// A frequency that the user has marked.
+struct Pin
+{
+    double hertz = 0;
+    QString name; ///< One line; empty as long as nobody has named it.
+
+    bool operator==(const Pin&) const = default;
+};
 
 /// The part of the band that all panes show, the cursor on it and the pins set by the user. The
 /// panes share one such object, so that zooming or moving the cursor in one of them shows in all.
@@ -58,13 +68,18 @@ public:
     void showAt(double hertz);
 
     /// In the order in which they were set.
-    const std::vector<double>& pins() const;
+    const std::vector<Pin>& pins() const;
     /// Cut to the band. Beyond 16 pins the oldest one goes.
     void addPin(double hertz);
+    void addPin(double hertz, const QString& name);
     /// The number of the pin nearest to `hertz` that is at most `reach` away; nothing for none.
     std::optional<std::size_t> pinNear(double hertz, double reach) const;
     /// Cut to the band. Nothing happens when there is no such pin.
     void movePin(std::size_t number, double hertz);
+    /// Cut to one line of 40 characters. Nothing happens when there is no such pin.
+    void namePin(std::size_t number, const QString& name);
+    /// Nothing happens when there is no such pin.
+    void removePin(std::size_t number);
     /// Removes the pin nearest to `hertz` that is at most `reach` away; false when there is none.
     bool removePinNear(double hertz, double reach);
     void clearPins();
@@ -74,7 +89,7 @@ Q_SIGNALS:
     void rangeChanged();
     /// cursor() is at another frequency.
     void cursorChanged();
-    /// Pins were set, moved or removed.
+    /// Pins were set, moved, named or removed.
     void pinsChanged();
 
 private:

@@ -1,28 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "waterfallpane.h"
 
+#include "panepainter_p.h"
+#include "placebox_p.h"
 #include "visibleband.h"
+#include "waterfalllines_p.h"
+#include "wheelnotches_p.h"
 
 #include <radiopanes/colors/panecolors.h>
 
-#include <QImage>
+#include <QKeyEvent>
 #include <QPainter>
+#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
-#include <span>
 #include <utility>
-#include <vector>
 
 namespace RadioPanes {
 
 namespace {
 
-// Above this many bins in all lines the pyramids would take too much memory; zooming then reduces
-// the bins themselves again.
-constexpr qsizetype largestPyramidHistory = qsizetype{64} << 20;
 constexpr int legendMargin = 4;
 constexpr int legendWidth = 96;
+constexpr int mostTimeZoom = 4;
+constexpr int leastTimeZoom = -20;
+constexpr qsizetype levelsAtOnce = qsizetype{8} << 20; // some milliseconds of work
 
 } // namespace
 
@@ -33,30 +36,27 @@ public:
         : q(pane)
     {}
 
-    qsizetype lineCount() const { return image.height(); }
-    bool isShown(qsizetype sweep) const;
-    int imageRow(qsizetype sweep) const;
-    std::span<QRgb> line(qsizetype sweep);
-    std::shared_ptr<const LevelPyramid>& pyramidOf(qsizetype sweep);
-    void forgetOld();
-    void drawLine(qsizetype sweep);
-    void drawLines(qsizetype first, qsizetype last);
-    void redrawAll();
+    int lineHeight() const { return WaterfallPane::linePixels << std::max(timeZoom, 0); }
+    void setColors(double low, double high);
+    /// Shows the sweeps before this one; -1 to follow the current one.
+    void setShown(qsizetype newest);
+    void draw();
     void rebuild();
+    void paintLines(QPainter& painter) const;
     void paintLegend(QPainter& painter) const;
 
     WaterfallPane* q;
-    std::shared_ptr<const SweepHistory> history;
+    WaterfallLines lines;
+    QTimer moreLines;
     QString hint;
-    qsizetype position = -1;
-    double lowLevel = -120;
-    double highLevel = 0;
+    PlaceText placeText;
     ColorMap map = ColorMap::ColorSet;
-    ColorRamp ramp = colorRamp(ColorMap::ColorSet);
-    QImage image; ///< One row per line; sweep i in row lineCount() - 1 - i % lineCount().
-    std::vector<std::shared_ptr<const LevelPyramid>> pyramids; ///< Beside the rows of the image.
-    qsizetype oldest = 0;       ///< Sweeps before it have no pyramid.
-    std::vector<float> columns; ///< The highest levels.
+    int timeZoom = 0;
+    qsizetype heldAt = -1;  ///< The newest sweep shown after scrolling back; -1 follows.
+    int scrolledPixels = 0; ///< Of a line that is not full.
+    WheelNotches zoomWheel;
+    WheelNotches scrollWheel;
+    PlaceBox placeBox{q};
 };
 
 WaterfallPane::WaterfallPane(VisibleBand* view, QWidget* parent)
@@ -66,18 +66,25 @@ WaterfallPane::WaterfallPane(VisibleBand* view, QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(tr("Waterfall"));
     setLegendVisible(false);
-    connect(view, &VisibleBand::rangeChanged, this, [this] { d->redrawAll(); });
+    d->lines.setColors({colorRamp(d->map), -120, 0});
+    d->lines.setBand({view->low(), view->high()});
+    d->moreLines.setSingleShot(true);
+    connect(&d->moreLines, &QTimer::timeout, this, [this] { d->draw(); });
+    connect(view, &VisibleBand::rangeChanged, this, [this, view] {
+        d->lines.setBand({view->low(), view->high()});
+        d->draw();
+    });
 }
 
 WaterfallPane::~WaterfallPane() = default;
 
 void WaterfallPane::setHistory(std::shared_ptr<const SweepHistory> history)
 {
-    d->history = std::move(history);
-    d->position = -1;
-    d->oldest = 0;
-    d->pyramids.assign(d->pyramids.size(), nullptr);
+    d->lines.setHistory(std::move(history));
+    d->heldAt = -1;
+    d->placeBox.hide();
     update();
+    Q_EMIT timesChanged();
 }
 
 void WaterfallPane::setHint(const QString& text)
@@ -86,19 +93,27 @@ void WaterfallPane::setHint(const QString& text)
     update();
 }
 
+void WaterfallPane::setPlaceText(PlaceText text)
+{
+    d->placeText = std::move(text);
+}
+
 void WaterfallPane::setLevelRange(double low, double high)
 {
-    if (!std::isfinite(low) || !std::isfinite(high))
-        return;
-    d->lowLevel = low;
-    d->highLevel = std::max(high, low + 1);
-    d->redrawAll();
+    if (std::isfinite(low) && std::isfinite(high))
+        d->setColors(low, std::max(high, low + 1));
+}
+
+void WaterfallPanePrivate::setColors(double low, double high)
+{
+    lines.setColors({colorRamp(map), low, high});
+    draw();
+    Q_EMIT q->levelColorsChanged();
 }
 
 void WaterfallPane::refreshColors()
 {
-    d->ramp = colorRamp(d->map);
-    d->redrawAll();
+    d->setColors(levelColors().lowDb(), levelColors().highDb());
 }
 
 void WaterfallPane::setColorMap(ColorMap map)
@@ -112,160 +127,235 @@ ColorMap WaterfallPane::colorMap() const
     return d->map;
 }
 
-bool WaterfallPanePrivate::isShown(qsizetype sweep) const
+const LevelColors& WaterfallPane::levelColors() const
 {
-    return sweep >= 0 && sweep <= position && sweep > position - lineCount();
-}
-
-int WaterfallPanePrivate::imageRow(qsizetype sweep) const
-{
-    return static_cast<int>(lineCount() - 1 - sweep % lineCount());
-}
-
-std::shared_ptr<const LevelPyramid>& WaterfallPanePrivate::pyramidOf(qsizetype sweep)
-{
-    return pyramids[static_cast<size_t>(imageRow(sweep))];
-}
-
-std::span<QRgb> WaterfallPanePrivate::line(qsizetype sweep)
-{
-    return {reinterpret_cast<QRgb*>(image.scanLine(imageRow(sweep))),
-            static_cast<size_t>(image.width())};
-}
-
-/// The levels that pyramids refer to go with their sweeps.
-void WaterfallPanePrivate::forgetOld()
-{
-    const qsizetype first = history->first();
-    if (first <= oldest)
-        return;
-    for (qsizetype sweep = std::max(oldest, position - lineCount() + 1); sweep < first; ++sweep) {
-        if (isShown(sweep))
-            pyramidOf(sweep).reset();
-    }
-    oldest = first;
-}
-
-void WaterfallPane::setPosition(qsizetype position, std::shared_ptr<const LevelPyramid> pyramid)
-{
-    if (!d->history || position < 0 || position >= d->history->count() || d->lineCount() == 0) {
-        d->position = d->history && position < d->history->count() ? position : -1;
-        update();
-        return;
-    }
-    d->forgetOld();
-    const qsizetype before = std::exchange(d->position, position);
-    const qsizetype oldest = position - d->lineCount() + 1;
-    const bool isFar = before < 0 || std::abs(position - before) >= d->lineCount();
-    // The lines that were not there before.
-    const qsizetype first = isFar || position < before ? oldest : before + 1;
-    const qsizetype last = isFar || position > before ? position : oldest + before - position - 1;
-    for (qsizetype sweep = std::max<qsizetype>(first, 0); sweep <= last; ++sweep)
-        d->pyramidOf(sweep) = sweep == position ? std::move(pyramid) : nullptr;
-    d->drawLines(first, last);
-    update();
-}
-
-void WaterfallPanePrivate::drawLines(qsizetype first, qsizetype last)
-{
-    for (qsizetype sweep = std::max<qsizetype>(first, 0); sweep <= last; ++sweep) {
-        if (sweep >= history->first())
-            drawLine(sweep);
-        else // it is gone: it cannot be drawn anew
-            std::ranges::fill(line(sweep), ramp.front());
-    }
-}
-
-void WaterfallPanePrivate::drawLine(qsizetype sweep)
-{
-    const ColumnView view{q->visibleBand().low(), q->visibleBand().high()};
-    auto& pyramid = pyramidOf(sweep);
-    const auto bins = static_cast<qsizetype>(history->largestBinCount());
-    if (!pyramid && bins * lineCount() <= largestPyramidHistory)
-        pyramid = std::make_shared<LevelPyramid>(history->sweep(sweep));
-    if (pyramid)
-        pyramid->reduceMaxima(view, columns);
-    else
-        reduceToMaxima(history->sweep(sweep), view, columns);
-    std::ranges::transform(columns, line(sweep).begin(),
-                           [this](float level) { return q->colorOf(level); });
+    return d->lines.colors();
 }
 
 QRgb WaterfallPane::colorOf(float level) const
 {
-    const double share = (static_cast<double>(level) - d->lowLevel) / (d->highLevel - d->lowLevel);
-    const double index = std::clamp(share, 0.0, 1.0) * static_cast<double>(d->ramp.size() - 1);
-    return d->ramp[static_cast<size_t>(index)];
+    return levelColors().of(level);
 }
 
-void WaterfallPanePrivate::redrawAll()
+void WaterfallPane::setPosition(qsizetype position, std::shared_ptr<const LevelPyramid> pyramid)
 {
-    if (history && position >= 0 && lineCount() > 0) {
-        forgetOld();
-        drawLines(position - lineCount() + 1, position);
-    }
+    const SweepHistory* history = d->lines.history();
+    const bool isThere = history != nullptr && position >= 0 && position < history->count();
+    d->lines.setNewest(isThere ? position : -1, isThere ? std::move(pyramid) : nullptr);
+    d->setShown(position > d->heldAt ? d->heldAt : -1);
+}
+
+void WaterfallPanePrivate::setShown(qsizetype newest)
+{
+    heldAt = newest;
+    const qsizetype shown = heldAt >= 0 ? heldAt : lines.newest();
+    lines.setTop(shown < 0 ? -1 : shown / lines.sweepsPerLine());
+    draw();
+    Q_EMIT q->timesChanged();
+}
+
+void WaterfallPanePrivate::draw()
+{
+    if (!lines.draw(levelsAtOnce))
+        moreLines.start(0);
     q->update();
+}
+
+void WaterfallPane::scrollTime(qsizetype count)
+{
+    if (count != 0)
+        scrollTo((d->lines.top() - count) * d->lines.sweepsPerLine());
+}
+
+void WaterfallPane::scrollTo(qsizetype sweep)
+{
+    const qsizetype newest = d->lines.newest();
+    if (newest < 0)
+        return;
+    const qsizetype size = d->lines.sweepsPerLine();
+    const qsizetype oldest = std::min(d->lines.history()->first() / size, d->lines.top());
+    const qsizetype line = sweep < 0 ? oldest : std::max(sweep / size, oldest);
+    d->setShown(line >= newest / size ? -1 : (line + 1) * size - 1);
+}
+
+void WaterfallPane::scrollTimeByPixels(int pixels)
+{
+    d->scrolledPixels += pixels;
+    const int count = d->scrolledPixels / d->lineHeight();
+    d->scrolledPixels -= count * d->lineHeight();
+    scrollTime(count);
+}
+
+void WaterfallPane::followNewest()
+{
+    d->scrolledPixels = 0;
+    d->setShown(-1);
+}
+
+bool WaterfallPane::isFollowing() const
+{
+    return d->heldAt < 0;
+}
+
+int WaterfallPane::timeZoom() const
+{
+    return d->timeZoom;
+}
+
+void WaterfallPane::zoomTime(int steps, int y)
+{
+    const int zoom = std::clamp(d->timeZoom + steps, leastTimeZoom, mostTimeZoom);
+    if (zoom == d->timeZoom)
+        return;
+    const qsizetype anchor = sweepAt(y);
+    d->timeZoom = zoom;
+    d->scrolledPixels = 0;
+    const qsizetype size = qsizetype{1} << std::max(-zoom, 0);
+    d->lines.setSweepsPerLine(size);
+    d->rebuild();
+    qsizetype newest = -1;
+    if (anchor >= 0 && (!isFollowing() || zoom > 0)) {
+        newest = (anchor / size + y / d->lineHeight() + 1) * size - 1;
+        newest = newest >= d->lines.newest() ? -1 : newest;
+    }
+    d->setShown(newest);
+}
+
+std::pair<qsizetype, qsizetype> WaterfallPane::shownSweeps() const
+{
+    if (d->lines.top() < 0)
+        return {-1, -1};
+    const qsizetype lowest = std::max<qsizetype>(d->lines.top() - d->lines.rowCount() + 1, 0);
+    return {d->lines.sweepsOf(lowest).first, d->lines.sweepsOf(d->lines.top()).second};
 }
 
 void WaterfallPanePrivate::rebuild()
 {
-    const int lines = (q->height() + WaterfallPane::linePixels - 1) / WaterfallPane::linePixels;
-    if (image.width() == q->width() && lineCount() == lines)
-        return;
-    // The rows belong to other sweeps when their number changes; the pyramids move with them.
-    std::vector<std::shared_ptr<const LevelPyramid>> kept(static_cast<size_t>(lines));
-    for (qsizetype sweep = position; lines > 0 && isShown(sweep) && sweep > position - lines;
-         --sweep)
-        kept[static_cast<size_t>(lines - 1 - sweep % lines)] = pyramidOf(sweep);
-    pyramids = std::move(kept);
-    image = QImage(q->width(), lines, QImage::Format_RGB32);
-    image.fill(ramp.front());
-    columns.resize(static_cast<size_t>(q->width()));
-    redrawAll();
+    lines.resize(q->width(), (q->height() + lineHeight() - 1) / lineHeight());
 }
 
 void WaterfallPane::resizeEvent(QResizeEvent* event)
 {
     BandPane::resizeEvent(event);
     d->rebuild();
+    d->draw();
+    Q_EMIT timesChanged();
+}
+
+void WaterfallPane::keyPressEvent(QKeyEvent* event)
+{
+    const bool zooms = event->modifiers().testFlag(Qt::ControlModifier);
+    const int page = std::max(d->lines.rowCount() - 1, 1);
+    switch (event->key()) {
+    case Qt::Key_Up:
+        return zooms ? zoomTime(1) : scrollTime(-1);
+    case Qt::Key_Down:
+        return zooms ? zoomTime(-1) : scrollTime(1);
+    case Qt::Key_PageUp:
+        return scrollTime(-page);
+    case Qt::Key_PageDown:
+        return scrollTime(page);
+    case Qt::Key_End:
+        return followNewest();
+    default:
+        BandPane::keyPressEvent(event);
+    }
+}
+
+void WaterfallPane::wheelEvent(QWheelEvent* event)
+{
+    // Some systems turn the wheel sideways while a key is held.
+    const QPoint delta = event->angleDelta();
+    const int angle = delta.y() != 0 ? delta.y() : delta.x();
+    constexpr int linesPerNotch = 3;
+    if (event->modifiers().testFlag(Qt::ControlModifier))
+        zoomTime(d->zoomWheel.add(angle), event->position().toPoint().y());
+    else if (event->modifiers().testFlag(Qt::ShiftModifier))
+        scrollTime(-d->scrollWheel.add(angle * linesPerNotch));
+    else
+        return BandPane::wheelEvent(event);
+    event->accept();
+}
+
+void WaterfallPane::dragged(const QPoint& change, Qt::Orientation begun)
+{
+    if (begun == Qt::Vertical)
+        scrollTimeByPixels(-change.y());
+    else
+        BandPane::dragged(change, begun);
+}
+
+void WaterfallPane::mouseMoveEvent(QMouseEvent* event)
+{
+    BandPane::mouseMoveEvent(event);
+    const QPoint pointer = event->position().toPoint();
+    const auto place = d->placeText ? placeAt(pointer) : std::nullopt;
+    d->placeBox.show(place ? d->placeText(*place) : QString(), pointer);
+}
+
+void WaterfallPane::leaveEvent(QEvent* event)
+{
+    BandPane::leaveEvent(event);
+    d->placeBox.hide();
 }
 
 void WaterfallPane::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
-    const int lines = static_cast<int>(std::min<qsizetype>(d->position + 1, d->lineCount()));
-    if (lines > 0) {
-        const int newest = d->imageRow(d->position);
-        const int upper = std::min(lines, static_cast<int>(d->lineCount()) - newest);
-        painter.drawImage(QRect(0, 0, width(), upper * linePixels), d->image,
-                          QRect(0, newest, width(), upper));
-        if (upper < lines)
-            painter.drawImage(QRect(0, upper * linePixels, width(), (lines - upper) * linePixels),
-                              d->image, QRect(0, 0, width(), lines - upper));
-    }
-    painter.fillRect(0, lines * linePixels, width(), height() - lines * linePixels,
-                     QColor(d->ramp.front()));
-    if (d->position == 0 && d->history && d->history->count() > 1) {
+    PanePainter painter(this);
+    d->paintLines(painter);
+    if (d->lines.newest() == 0 && d->lines.history()->count() > 1) {
         painter.setPen(paneColor(PaneSlot::ReadOut));
         painter.drawText(rect(), Qt::AlignCenter, d->hint);
     }
     paintOverlay(painter);
     if (isLegendVisible())
         d->paintLegend(painter);
+    if (!isFollowing()) {
+        const QString text = tr("Scrolled back: End follows the newest sweep");
+        PlaceBox::paint(painter, *this,
+                        {{PlaceBox::margin, PlaceBox::margin}, PlaceBox::sizeOf(*this, text)},
+                        text);
+    }
+    d->placeBox.paint(painter);
+}
+
+void WaterfallPanePrivate::paintLines(QPainter& painter) const
+{
+    const QColor ground(lines.colors().ramp().front());
+    const int height = lineHeight();
+    const auto count = static_cast<int>(std::min<qsizetype>(lines.top() + 1, lines.rowCount()));
+    if (count > 0) {
+        const int newest = lines.rowOf(lines.top());
+        const int upper = std::min(count, lines.rowCount() - newest);
+        painter.drawImage(QRect(0, 0, q->width(), upper * height), lines.image(),
+                          QRect(0, newest, q->width(), upper));
+        if (upper < count)
+            painter.drawImage(QRect(0, upper * height, q->width(), (count - upper) * height),
+                              lines.image(), QRect(0, 0, q->width(), count - upper));
+    }
+    painter.fillRect(0, count * height, q->width(), q->height() - count * height, ground);
+    if (!moreLines.isActive())
+        return;
+    for (int line = 0; line < count; ++line) {
+        if (!lines.isDrawn(lines.top() - line))
+            painter.fillRect(0, line * height, q->width(), height, ground);
+    }
 }
 
 void WaterfallPanePrivate::paintLegend(QPainter& painter) const
 {
     const QFontMetrics metrics = q->fontMetrics();
+    const LevelColors& colors = lines.colors();
     const auto textOf = [](double level) { return QStringLiteral("%1 dB").arg(qRound(level)); };
-    const QString low = textOf(lowLevel);
-    const QString high = textOf(highLevel);
+    const QString low = textOf(colors.lowDb());
+    const QString high = textOf(colors.highDb());
     const int lowWidth = metrics.horizontalAdvance(low);
     const int highWidth = metrics.horizontalAdvance(high);
     const int width = lowWidth + highWidth + legendWidth + 4 * legendMargin;
     const QRect box(q->width() - width - legendMargin, legendMargin, width,
                     metrics.height() + 2 * legendMargin);
     painter.fillRect(box, q->palette().color(QPalette::Window));
+    const ColorRamp& ramp = colors.ramp();
     QImage bar(static_cast<int>(ramp.size()), 1, QImage::Format_RGB32);
     std::ranges::copy(ramp, reinterpret_cast<QRgb*>(bar.scanLine(0)));
     const QRect inside = box.adjusted(legendMargin, legendMargin, -legendMargin, -legendMargin);
@@ -278,21 +368,64 @@ void WaterfallPanePrivate::paintLegend(QPainter& painter) const
 
 qsizetype WaterfallPane::sweepAt(int y) const
 {
-    const qsizetype sweep = y < 0 ? -1 : d->position - y / linePixels;
-    return d->isShown(sweep) ? sweep : -1;
+    const qsizetype line = y < 0 ? -1 : d->lines.top() - y / d->lineHeight();
+    if (line < 0 || y >= height() + d->lineHeight())
+        return -1;
+    return d->lines.sweepsOf(line).second;
+}
+
+std::optional<HistoryPlace> WaterfallPane::placeAt(const QPoint& position) const
+{
+    const qsizetype sweep = sweepAt(position.y());
+    if (sweep < 0)
+        return std::nullopt;
+    const SweepHistory& history = *d->lines.history();
+    HistoryPlace place;
+    place.timeUs = history.timeOf(sweep);
+    place.hertz = frequencyAt(position.x() + 0.5);
+    if (const auto bin = history.sweep(sweep).placeOf(place.hertz))
+        place.stepHz = bin->segment->stepHz;
+    // What the pixel shows.
+    float highest = -std::numeric_limits<float>::infinity();
+    const auto [first, last] = d->lines.sweepsOf(sweep / d->lines.sweepsPerLine());
+    history.addMaxima(first, last + 1, {frequencyAt(position.x()), frequencyAt(position.x() + 1)},
+                      {&highest, 1});
+    if (std::isfinite(highest))
+        place.levelDb = highest;
+    return place;
+}
+
+bool WaterfallPane::isLongerThanADay() const
+{
+    constexpr quint64 dayUs = 86'400'000'000;
+    const SweepHistory* history = d->lines.history();
+    if (history == nullptr || history->count() <= history->first())
+        return false;
+    const auto [from, to] =
+        std::minmax({history->timeOf(history->first()), history->timeOf(history->count() - 1)});
+    return to - from > dayUs;
 }
 
 std::vector<AxisTick> WaterfallPane::timeTicks(int pixels, const TimeText& text) const
 {
-    // Labels belong to sweeps whose number is a multiple of the step, so that they move with the
+    // Labels belong to lines whose number is a multiple of the step, so that they move with the
     // lines instead of flickering.
-    const double needed = 2.0 * fontMetrics().height() / linePixels;
-    const auto step = static_cast<qsizetype>(std::max(niceStep(needed), 1.0));
     std::vector<AxisTick> ticks;
-    for (qsizetype sweep = d->position - d->position % step; d->isShown(sweep); sweep -= step) {
-        const double fromTop = static_cast<double>(d->position - sweep) * linePixels;
-        ticks.push_back({static_cast<double>(sweep), pixels - 1 - fromTop - linePixels / 2.0,
-                         text(d->history->sweep(sweep).timeUs)});
+    if (d->lines.top() < 0)
+        return ticks;
+    const SweepHistory& history = *d->lines.history();
+    const int lineHeight = d->lineHeight();
+    const qsizetype rows = text(0).count(QLatin1Char('\n')) + 1;
+    const double needed = static_cast<double>((rows + 1) * fontMetrics().height()) / lineHeight;
+    const auto step = static_cast<qsizetype>(std::max(niceStep(needed), 1.0));
+    const qsizetype lowest = std::max<qsizetype>(d->lines.top() - d->lines.rowCount() + 1, 0);
+    for (qsizetype line = d->lines.top() - d->lines.top() % step; line >= lowest; line -= step) {
+        const double fromTop = static_cast<double>(d->lines.top() - line) * lineHeight;
+        const qsizetype sweep = d->lines.sweepsOf(line).second;
+        if (sweep < history.first())
+            break;
+        ticks.push_back({static_cast<double>(sweep), pixels - 1 - fromTop - lineHeight / 2.0,
+                         text(history.timeOf(sweep))});
     }
     return ticks;
 }

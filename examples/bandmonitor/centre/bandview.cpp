@@ -46,7 +46,7 @@ void BandView::setRecording(std::shared_ptr<const Recording> recording)
     m_processor.forget();
     // The panes must let go of the former recording's levels before it may go.
     spectrum().setTrace(Trace::Live, {}, nullptr);
-    waterfall().setHistory(m_recording);
+    setHistory(m_recording);
     if (m_recording && !m_recording->isEmpty()) {
         const Sweep first = m_recording->sweep(m_recording->first());
         visibleBand().setBand(m_recording->lowHz(), m_recording->highHz(),
@@ -123,8 +123,7 @@ void BandView::showSweep(qsizetype position, qsizetype previous)
     m_position = position;
     m_pyramid = std::make_shared<const LevelPyramid>(m_recording->sweep(position));
     showTrace(previous < 0 || previous >= position ? position : previous + 1);
-    waterfall().setPosition(position, m_pyramid);
-    refreshTimes();
+    setPosition(position, m_pyramid);
 }
 
 void BandView::showTrace(qsizetype firstHeld)

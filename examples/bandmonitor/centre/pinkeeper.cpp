@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QScopedValueRollback>
 #include <QStringList>
+#include <QUrl>
 
 #include <limits>
 
@@ -15,17 +16,30 @@ namespace bandmonitor {
 
 namespace {
 
+// A pin is a word: its frequency in hertz and, where it has a name, "=" and the name in percent
+// encoding.
+
 QStringList wordsOf(const QString& pins)
 {
     return pins.split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-/// In hertz; NaN, which lies in no band, for what is no number.
-double pinOf(const QString& word)
+QString wordOf(const Pin& pin)
+{
+    const QString hertz = QString::number(pin.hertz, 'g', QLocale::FloatingPointShortest);
+    if (pin.name.isEmpty())
+        return hertz;
+    return hertz + QLatin1Char('=') + QString::fromLatin1(QUrl::toPercentEncoding(pin.name));
+}
+
+/// At NaN, which lies in no band, for what is no pin.
+Pin pinOf(const QString& word)
 {
     bool isNumber = false;
-    const double hertz = word.toDouble(&isNumber);
-    return isNumber ? hertz : std::numeric_limits<double>::quiet_NaN();
+    const double hertz = word.section(QLatin1Char('='), 0, 0).toDouble(&isNumber);
+    const QByteArray name = word.section(QLatin1Char('='), 1).toUtf8();
+    return {isNumber ? hertz : std::numeric_limits<double>::quiet_NaN(),
+            QUrl::fromPercentEncoding(name)};
 }
 
 } // namespace
@@ -63,8 +77,9 @@ void PinKeeper::showPins()
     m_band->clearPins();
     const QStringList words = wordsOf(m_values->pins.GetValue());
     for (const QString& word : words) {
-        if (isInBand(pinOf(word)))
-            m_band->addPin(pinOf(word));
+        const Pin pin = pinOf(word);
+        if (isInBand(pin.hertz))
+            m_band->addPin(pin.hertz, pin.name);
     }
 }
 
@@ -76,11 +91,12 @@ void PinKeeper::takePins()
     // What is not shown here stays, even when nobody can read it.
     QStringList words = wordsOf(m_values->pins.GetValue());
     const qsizetype before = words.size();
-    words.removeIf([this](const QString& word) { return isInBand(pinOf(word)); });
-    for (const double hertz : m_band->pins())
-        words << QString::number(hertz, 'g', QLocale::FloatingPointShortest);
-    const SessionValues::Step step =
-        m_values->step(words.size() < before ? tr("Remove pins") : tr("Set pin"));
+    words.removeIf([this](const QString& word) { return isInBand(pinOf(word).hertz); });
+    for (const Pin& pin : m_band->pins())
+        words << wordOf(pin);
+    const SessionValues::Step step = m_values->step(words.size() < before   ? tr("Remove pins")
+                                                    : words.size() > before ? tr("Set pin")
+                                                                            : tr("Change pin"));
     m_values->pins.SetValue(words.join(QLatin1Char(' ')));
 }
 

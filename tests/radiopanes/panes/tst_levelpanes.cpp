@@ -3,12 +3,17 @@
 #include "support/testrows.h"
 
 #include <radiopanes/colors/panecolors.h>
+#include <radiopanes/panes/axes.h>
+#include <radiopanes/panes/bandplanrow.h>
 #include <radiopanes/panes/levelpanes.h>
+#include <radiopanes/panes/overviewpane.h>
 #include <radiopanes/panes/spectrumpane.h>
 #include <radiopanes/panes/waterfallpane.h>
 
 #include <guibase/services/guibase.h>
 
+#include <QLineEdit>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
@@ -199,13 +204,147 @@ private Q_SLOTS:
         band().addPin(centreOf(700));
         const QPoint nearby = placeOf(centreOf(800)) + QPoint(3, 0);
         drag(placeOf(centreOf(700)), nearby, {});
-        QVERIFY(band().pins().front() > centreOf(801));
+        QVERIFY(band().pins().front().hertz > centreOf(801));
         drag(nearby, placeOf(centreOf(798)) + QPoint(0, 40), Qt::ControlModifier);
-        QCOMPARE(band().pins(), std::vector<double>{centreOf(800)});
+        QCOMPARE(band().pins(), (std::vector<Pin>{{centreOf(800), {}}}));
         spectrum().setSnapping(true);
         QTest::mouseClick(&spectrum(), Qt::LeftButton, {}, placeOf(centreOf(202)));
         QCOMPARE(band().pins().size(), 2u);
-        QCOMPARE(band().pins().back(), centreOf(200));
+        QCOMPARE(band().pins().back().hertz, centreOf(200));
+    }
+
+    void pinsHaveNames()
+    {
+        band().addPin(centreOf(300), QStringLiteral(" Harbour \n radio "));
+        const auto nameField = [this] { return spectrum().findChild<QLineEdit*>(); };
+        QTest::mouseDClick(&spectrum(), Qt::LeftButton, {}, placeOf(centreOf(300)));
+        QVERIFY(nameField() != nullptr);
+        QCOMPARE(nameField()->text(), QStringLiteral("Harbour radio"));
+        QTest::keyClicks(nameField(), QStringLiteral("Port"));
+        QTest::keyClick(nameField(), Qt::Key_Return);
+        QTRY_VERIFY(nameField() == nullptr);
+        QVERIFY(spectrum().readOut().last().startsWith(QStringLiteral("Pin 1 Port")));
+        band().setCursor(centreOf(300));
+        QTest::keyClick(&spectrum(), Qt::Key_F2);
+        QTest::keyClicks(nameField(), QStringLiteral("Other"));
+        band().clearPins(); // while its name is being typed
+        QTest::keyClick(nameField(), Qt::Key_Return);
+        QTRY_VERIFY(nameField() == nullptr);
+        QVERIFY(band().pins().empty());
+    }
+
+    void waterfallScrollsAndZoomsInTime()
+    {
+        WaterfallPane& pane = m_panes->waterfall();
+        pane.setLegendVisible(false);
+        for (int i = 1; i < 1000; ++i)
+            QVERIFY(add(levels(i % 64 == 0 ? -50.0F : -100.0F)));
+        const int lines =
+            static_cast<int>(pane.shownSweeps().second - pane.shownSweeps().first + 1);
+        QTest::keyClick(&pane, Qt::Key_PageDown);
+        QVERIFY(!pane.isFollowing());
+        const qsizetype held = pane.shownSweeps().second;
+        QCOMPARE(held, 999 - (lines - 1));
+        QVERIFY(add(levels()));
+        QCOMPARE(pane.shownSweeps().second, held); // what is looked at stays
+        const QImage before = pane.grab().toImage();
+        QTest::keyClick(&pane, Qt::Key_End);
+        QVERIFY(pane.isFollowing());
+        QCOMPARE(pane.shownSweeps().second, 1000);
+        QTest::keyClick(&pane, Qt::Key_PageDown);
+        QTest::keyClick(&pane, Qt::Key_Down);
+        QTest::keyClick(&pane, Qt::Key_Up);
+        pane.scrollTime(1); // the sweep that has come since
+        QCOMPARE(pane.shownSweeps().second, held);
+        QCOMPARE(pane.grab().toImage(), before);
+        pane.scrollTime(1'000'000); // not beyond the oldest
+        QCOMPARE(pane.shownSweeps().second, 0);
+        pane.followNewest();
+        for (int step = 0; step < 6; ++step)
+            QTest::keyClick(&pane, Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(pane.timeZoom(), -6);
+        // Each line of 64 sweeps shows its only loud one, also the one that grows.
+        const int x = placeOf(centreOf(600)).x();
+        QTRY_COMPARE(pane.grab().toImage().pixel(x, 1), pane.colorOf(-50));
+        QCOMPARE(pane.grab().toImage().pixel(x, 2 * 15), pane.colorOf(-100)); // no sweep 0 is loud
+        QVERIFY(add(levels(-45)));
+        QCOMPARE(pane.grab().toImage().pixel(x, 1), pane.colorOf(-45));
+        pane.zoomTime(100);
+        QCOMPARE(pane.timeZoom(), 4);
+        QCOMPARE(pane.sweepAt(33), pane.shownSweeps().second - 1);
+        const auto place = pane.placeAt({x, 1});
+        QVERIFY(place && place->timeUs == m_timeUs && place->levelDb == -45.0F);
+    }
+
+    void overviewShowsAllSweepsAndAsksForJumps()
+    {
+        OverviewPane& strip = m_panes->overview();
+        QSignalSpy jumps(m_panes.get(), &BandPanes::jumpRequested);
+        constexpr int count = 5000; // more than the strip keeps apart
+        m_panes->clear(100 * bins * sizeof(float));
+        for (int i = 0; i < count; ++i)
+            QVERIFY(add(levels(i == 3000 ? -50.0F : -100.0F)));
+        QCOMPARE(strip.takenSweeps(), count);
+        strip.setTimeText({});
+        const QRgb loud = m_panes->waterfall().colorOf(-50);
+        const auto columns = [&] {
+            const QImage image = strip.grab().toImage();
+            std::vector<int> found;
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixel(x, image.height() / 3 * 2 - 2) == loud)
+                    found.push_back(x);
+            }
+            return found;
+        };
+        strip.setHistory(nullptr);
+        QVERIFY(columns().empty());
+        const auto history = std::make_shared<LevelHistory>(std::size_t{1} << 30);
+        for (quint64 i = 0; i < count; ++i) {
+            const std::vector<float> sweep = levels(i == 3000 ? -50.0F : -100.0F);
+            const Segment segment{startHz, stepHz, 0, sweep};
+            QVERIFY(history->append(i, {&segment, 1}));
+        }
+        strip.setHistory(history);
+        QTRY_COMPARE(strip.takenSweeps(), count);
+        QTRY_VERIFY(!columns().empty());
+        QVERIFY(std::abs(columns().front() - strip.positionOf(3000)) <= 1);
+        QTest::mouseClick(&strip, Qt::LeftButton, {}, {strip.positionOf(3000), 5});
+        QCOMPARE(jumps.count(), 1);
+        QVERIFY(std::abs(jumps.takeFirst().at(0).toLongLong() - 3000) <= count / strip.width() + 1);
+        const auto place = strip.placeAt({columns().front(), 0});
+        QVERIFY(place && place->levelDb == -50.0F && place->hertz > 400e3);
+    }
+
+    void axesAreTrueFromRightToLeft()
+    {
+        const auto axes = [](LevelPanes& panes) {
+            panes.resize(900, 600);
+            panes.show();
+            const bool isShown = QTest::qWaitForWindowExposed(&panes);
+            QCoreApplication::processEvents();
+            QList<QImage> images;
+            for (QWidget* axis : panes.findChildren<QWidget*>()) {
+                if (qobject_cast<FrequencyAxis*>(axis) || qobject_cast<SideAxis*>(axis) ||
+                    qobject_cast<BandPlanRow*>(axis))
+                    images << axis->grab().toImage();
+            }
+            return std::tuple(isShown, images, panes.spectrum().mapTo(&panes, QPoint()));
+        };
+        const auto fill = [](LevelPanes& panes) {
+            panes.addBookmark(centreOf(300), QStringLiteral("x"));
+            return panes.addSweep(1, startHz, stepHz, levels());
+        };
+        LevelPanes plain;
+        QVERIFY(fill(plain));
+        const auto expected = axes(plain);
+        QVERIFY(std::get<bool>(expected));
+        const auto restore =
+            qScopeGuard([] { QApplication::setLayoutDirection(Qt::LayoutDirectionAuto); });
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(axes(plain) == expected); // also when it changes while they are shown
+        LevelPanes other;
+        QVERIFY(fill(other));
+        QVERIFY(axes(other) == expected);
     }
 
     void figuresAreNoFinerThanTheBins()
