@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow.h"
 
+#include "centre/bandplankeeper.h"
 #include "centre/bandview.h"
 #include "centre/replaybar.h"
 #include "colorsmenu.h"
@@ -177,6 +178,18 @@ void MainWindow::buildBandEntries(QMenu* menu)
             band, [band] { band->addPin(band->cursor()); });
     connect(addEntry(menu, tr("Remove &all pins"), {QKeySequence(Qt::SHIFT | Qt::Key_P)}, true),
             &QAction::triggered, band, &VisibleBand::clearPins);
+    connect(addEntry(menu, tr("&Bookmark the cursor"), {Qt::Key_B}, true), &QAction::triggered,
+            m_bandView, [this, band] { m_bandView->addBookmark(band->cursor()); });
+    auto* plan = m_bandView->findChild<BandPlanKeeper*>();
+    connect(addEntry(menu, tr("Band p&lan…"), {Qt::CTRL | Qt::Key_B}, false), &QAction::triggered, plan,
+            &BandPlanKeeper::choosePlan);
+    connect(addEntry(menu, tr("No band pla&n"), {Qt::CTRL | Qt::SHIFT | Qt::Key_B}, false), &QAction::triggered, plan,
+            &BandPlanKeeper::removePlan);
+    QAction* overview = addEntry(menu, tr("O&verview of all sweeps"), {Qt::Key_O}, true);
+    connect(overview, &QAction::toggled, m_bandView, &BandView::setOverviewVisible);
+    new ValueWidgetBinding::ActionBinding(m_values->isOverviewVisible, *overview);
+    m_bandView->setOverviewVisible(overview->isChecked());
+    connect(m_bandView, &BandView::overviewVisibleChanged, overview, &QAction::setChecked);
 }
 
 void MainWindow::buildModeEntries(QMenu* menu)

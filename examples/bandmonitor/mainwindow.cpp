@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow.h"
 
+#include "centre/bandplankeeper.h"
 #include "centre/bandview.h"
 #include "centre/pinkeeper.h"
 #include "centre/replaybar.h"
@@ -115,6 +116,8 @@ void MainWindow::connectSession()
     });
     connect(&m_session, &Session::grown, this, &MainWindow::recordingGrown);
     connect(&m_session, &Session::sweepShown, m_bandView, &BandView::showSweep);
+    connect(m_bandView, &BandView::jumpRequested, &m_session.replay(), &Replay::jump);
+    new BandPlanKeeper(m_values, m_bandView, m_bandView);
     connect(&m_session, &Session::sweepShown, this, &MainWindow::updateTitle);
     connect(&m_session, &Session::referenceLevelsChanged, m_bandView,
             [this] { m_bandView->spectrum().setReferenceLevels(m_session.referenceLevels()); });

@@ -7,6 +7,7 @@
 #include "support/checked.h"
 #include "support/testrows.h"
 
+#include <radiopanes/core/bandplan.h>
 #include <radiopanes/panes/spectrumpane.h>
 
 #include <guibase/colors/colors.h>
@@ -21,6 +22,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QTemporaryFile>
 
 #include <array>
 #include <cmath>
@@ -315,6 +317,29 @@ private Q_SLOTS:
         QCOMPARE(steps.undoText(), QStringLiteral("Change start time"));
         press(Qt::ControlModifier);
         QCOMPARE(m_window->session().replay().position(), position);
+    }
+
+    void marksComeBack()
+    {
+        CHECKED(openForm());
+        UndoRecording& steps = UndoRecording::Instance();
+        QTemporaryFile file;
+        QVERIFY(file.open() && file.write("99 MHz, 100 MHz, FM\nnonsense") > 0 && file.flush());
+        const auto view = [this]() -> BandView& { return m_window->bandView(); };
+        view().visibleBand().addPin(99e6, QStringLiteral("a b=c"));
+        view().addBookmark(98e6);
+        m_window->values().bandPlan.SetValue(file.fileName());
+        QCOMPARE(view().bandPlan().entries().size(), 1u);
+        CHECKED(openForm());
+        QCOMPARE(view().visibleBand().pins(), (std::vector<Pin>{{99e6, QStringLiteral("a b=c")}}));
+        QCOMPARE(view().bandPlan().entries().front().name, QStringLiteral("FM"));
+        QCOMPARE(view().bookmarks().entries().front().startHz, 98e6);
+        view().visibleBand().namePin(0, QStringLiteral("new"));
+        view().setBookmarks(BandPlan());
+        QVERIFY(steps.undo());
+        QCOMPARE(view().bookmarks().entries().size(), 1u);
+        QVERIFY(steps.undo());
+        QCOMPARE(view().visibleBand().pins().front().name, QStringLiteral("a b=c"));
     }
 
     void stepsStayUntilTheWindowIsNew()

@@ -52,9 +52,17 @@ SessionValues::SessionValues()
         {startTime, nullptr},         {threshold, "Threshold"},
     };
     const Row otherRows[] = {
-        {isHoldVisible, "HoldMaximum"},   {pins, "Pins"},    {referenceLevels, "ReferenceLevels"},
-        {jobOrder, "JobOrder"},           {colors, nullptr}, {userColors, nullptr},
-        {changedColors, "ChangedColors"}, {speed, nullptr},
+        {isHoldVisible, "HoldMaximum"},
+        {pins, "Pins"},
+        {bookmarks, "Bookmarks"},
+        {bandPlan, "BandPlan"},
+        {isOverviewVisible, "Overview"},
+        {referenceLevels, "ReferenceLevels"},
+        {jobOrder, "JobOrder"},
+        {colors, nullptr},
+        {userColors, nullptr},
+        {changedColors, "ChangedColors"},
+        {speed, nullptr},
     };
     for (const Row& row : receiverRows)
         add(receiverPath(), m_receiverRecord, row.value, row.key);
