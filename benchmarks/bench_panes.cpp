@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
-// What a pane of 1600 x 900 pixels costs: against drawing one ready image of that size, and with
-// 100,000 bins against 2,000 on the same pixels.
+// What a pane of 1600 x 900 pixels costs: against drawing one ready image of that size, with
+// 100,000 bins against 2,000 on the same pixels, and against the same in QCustomPlot where that is
+// there.
 #include "ratio.h"
+#ifdef BENCH_QCUSTOMPLOT
+#include "plottedpanes.h"
+#endif
 
 #include "centre/bandview.h"
 
@@ -33,6 +37,7 @@ constexpr double cursorLimit = 2;
 constexpr double waterfallLimit = 1;
 // A new sweep must also be read once, bin by bin, for the pyramids and the hold maximum.
 constexpr double newSweepLimit = 3;
+[[maybe_unused]] constexpr double plotLimit = 0.1;
 
 /// Waves above noise, the same picture whatever the number of bins.
 std::shared_ptr<const Recording> makeRecording(int bins)
@@ -101,6 +106,7 @@ RatioRun::Body bodyOf(Benches& benches, int bins, const Step& step)
         for (auto _ : state) {
             if (++sweep == sweeps) {
                 state.PauseTiming();
+                bench.view.setHistory(bench.recording); // no line is kept
                 bench.view.waterfall().setPosition(0, bench.pyramids[0]);
                 sweep = 1;
                 state.ResumeTiming();
@@ -171,6 +177,49 @@ void showSweep(Bench& bench, int sweep)
     bench.paint(bench.view.waterfall());
 }
 
+#ifdef BENCH_QCUSTOMPLOT
+
+std::vector<std::vector<float>> levelsOf(const Recording& recording)
+{
+    std::vector<std::vector<float>> result;
+    for (int sweep = 0; sweep < sweeps; ++sweep) {
+        const auto levels = recording.sweep(sweep).segments.front().levels;
+        result.emplace_back(levels.begin(), levels.end());
+    }
+    return result;
+}
+
+void comparePlots(RatioRun& run, Benches& benches)
+{
+    for (const int bins : {fewBins, manyBins}) {
+        const std::string name = ", " + std::to_string(bins) + " bins, against QCustomPlot";
+        const Recording& recording = *benches.at(bins).recording;
+        run.compare("spectrum: reduce and paint" + name, plotLimit,
+                    bodyOf(benches, bins, showInSpectrum),
+                    [&recording, bins](benchmark::State& state) {
+                        PlottedSpectrum plot(paneSize, 80e6, 30e6 / bins, levelsOf(recording));
+                        QImage canvas(paneSize, QImage::Format_RGB32);
+                        std::size_t sweep = 0;
+                        for (auto _ : state) {
+                            ++sweep;
+                            plot.show(sweep, sweep - 1, canvas);
+                        }
+                    });
+        run.compare("waterfall: new line and paint" + name, plotLimit,
+                    bodyOf(benches, bins, addLineAndPaint), [&recording](benchmark::State& state) {
+                        PlottedWaterfall plot(paneSize,
+                                              paneSize.height() / WaterfallPane::linePixels);
+                        QImage canvas(paneSize, QImage::Format_RGB32);
+                        const auto levels = levelsOf(recording);
+                        std::size_t sweep = 0;
+                        for (auto _ : state)
+                            plot.addLine(levels[++sweep % levels.size()], canvas);
+                    });
+    }
+}
+
+#endif
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -189,5 +238,8 @@ int main(int argc, char** argv)
     compareBins(run, "waterfall: new line without painting", pixelLimit, benches, addLine);
     compareBins(run, "waterfall: new line and paint", pixelLimit, benches, addLineAndPaint);
     compareBins(run, "whole new sweep, both panes", newSweepLimit, benches, showSweep);
+#ifdef BENCH_QCUSTOMPLOT
+    comparePlots(run, benches);
+#endif
     return run.run(argc, argv);
 }

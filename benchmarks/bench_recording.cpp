@@ -2,6 +2,7 @@
 #include "ratio.h"
 
 #include <radiopanes/core/columnreducer.h>
+#include <radiopanes/core/overviewlevels.h>
 
 #include <model/recordingloader.h>
 #include <model/recordingparser.h>
@@ -143,6 +144,21 @@ int main(int argc, char** argv)
                 benchmark::DoNotOptimize(loadFile(path));
         },
         fields, RatioRun::Clock::Wall);
+    const auto recording = parse(text);
+    run.compare(
+        "overview of all sweeps, 100 MB, against RecordingParser", 0.1,
+        [&recording](benchmark::State& state) {
+            for (auto _ : state) {
+                OverviewLevels levels;
+                for (qsizetype sweep = 0; sweep < recording->count(); ++sweep)
+                    levels.add(recording->sweep(sweep));
+                benchmark::DoNotOptimize(levels.column(0).data());
+            }
+        },
+        [&text](benchmark::State& state) {
+            for (auto _ : state)
+                benchmark::DoNotOptimize(parse(text));
+        });
     run.compare("LevelPyramid::reduce, 100,000 bins against 2,000", 1.5, reducing(100'000),
                 reducing(2'000));
     const int result = run.run(argc, argv);
