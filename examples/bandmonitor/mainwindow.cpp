@@ -20,6 +20,7 @@
 #include "recentrecordings.h"
 #include "settings/settings.h"
 
+#include <radiopanes/panes/overviewpane.h>
 #include <radiopanes/panes/spectrumpane.h>
 
 #include <guibase/services/guibase.h>
@@ -240,6 +241,7 @@ void MainWindow::recordingGrown()
 {
     if (m_bandView->leavesBand())
         m_pins->changeBand([this] { m_bandView->recordingGrown(); });
+    m_bandView->overview().takeSweeps();
     m_replayBar->refreshRange();
     updateTitle();
 }
