@@ -25,8 +25,8 @@ struct CommandLine
     QString file; ///< Empty: the built-in sample.
     Live live = None;
     std::optional<int> historyMegabytes;
-    QString configFolder;               ///< Empty: the platform's.
-    QString screenshotsFolder;          ///< Empty: no pictures, a normal run.
+    QString configFolder;       ///< Empty: the platform's.
+    QString screenshotsFolder;  ///< Empty: no pictures, a normal run.
     bool tellsInWindow = false; ///< Of files that cannot be opened; otherwise the program ends.
     QString fileProblem;        ///< What is to be told, with `tellsInWindow`; `file` is empty then.
     std::optional<double> replayFactor; ///< See Replay::setSpeed(); without it the replay waits.

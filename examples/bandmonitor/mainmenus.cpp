@@ -181,10 +181,10 @@ void MainWindow::buildBandEntries(QMenu* menu)
     connect(addEntry(menu, tr("&Bookmark the cursor"), {Qt::Key_B}, true), &QAction::triggered,
             m_bandView, [this, band] { m_bandView->addBookmark(band->cursor()); });
     auto* plan = m_bandView->findChild<BandPlanKeeper*>();
-    connect(addEntry(menu, tr("Band p&lan…"), {Qt::CTRL | Qt::Key_B}, false), &QAction::triggered, plan,
-            &BandPlanKeeper::choosePlan);
-    connect(addEntry(menu, tr("No band pla&n"), {Qt::CTRL | Qt::SHIFT | Qt::Key_B}, false), &QAction::triggered, plan,
-            &BandPlanKeeper::removePlan);
+    connect(addEntry(menu, tr("Band p&lan…"), {Qt::CTRL | Qt::Key_B}, false), &QAction::triggered,
+            plan, &BandPlanKeeper::choosePlan);
+    connect(addEntry(menu, tr("No band pla&n"), {Qt::CTRL | Qt::SHIFT | Qt::Key_B}, false),
+            &QAction::triggered, plan, &BandPlanKeeper::removePlan);
     QAction* overview = addEntry(menu, tr("O&verview of all sweeps"), {Qt::Key_O}, true);
     connect(overview, &QAction::toggled, m_bandView, &BandView::setOverviewVisible);
     new ValueWidgetBinding::ActionBinding(m_values->isOverviewVisible, *overview);

@@ -260,8 +260,7 @@ void MainWindow::updateReport()
         return;
     const RecordingLoader& loader = m_session.loader();
     const Recording& recording = *m_session.recording();
-    const qint64 skipped =
-        loader.recording() == m_session.recording() ? loader.skippedCount() : 0;
+    const qint64 skipped = loader.recording() == m_session.recording() ? loader.skippedCount() : 0;
     QString report = tr("%1, up to %2")
                          .arg(sweepCountText(recording.count() - recording.first()),
                               binCountText(static_cast<qint64>(recording.largestBinCount())));

@@ -53,8 +53,7 @@ public:
     void announceModes() { m_modes->announce(); }
 
     /// Begins to read live input, see Session::openLive().
-    void openLive(std::unique_ptr<LiveSource> source,
-                  OnFailure onFailure = OnFailure::ShowMessage);
+    void openLive(std::unique_ptr<LiveSource> source, OnFailure onFailure = OnFailure::ShowMessage);
     /// The memory that the next live input may take; LiveInput::defaultHistory at first.
     void setHistory(std::size_t bytes) { m_historyBytes = bytes; }
 

@@ -60,8 +60,8 @@ enum class SelectionStorage : int { ByKey = 0, ByValue = 1 };
 ///
 /// The members are variables and values of the owner, which must outlive the record. A record is a
 /// sub-configuration with the record's name; with a sub-key, a sub-configuration of that. What a
-/// member cannot read is kept aside there and reported (see DamagedRecord). A null member is refused
-/// and reported.
+/// member cannot read is kept aside there and reported (see DamagedRecord). A null member is
+/// refused and reported.
 class VALUEFRAMEWORK_EXPORT Persistant
 {
 public:

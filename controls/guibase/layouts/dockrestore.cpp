@@ -114,7 +114,8 @@ void endMaximized(QDockWidget& dock, const MaximizedDocks& maximized)
 void maximize(QDockWidget& dock)
 {
     using QDockWidgetHelpers::MaximizeMinimizeSupport;
-    // Window managers that are late undo it in a dock that has just been floated: a support insists.
+    // Window managers that are late undo it in a dock that has just been floated: a support
+    // insists.
     auto* const support = MaximizeMinimizeSupport::install(dock);
     if (dock.isVisible())
         support->maximizeDockWidget();

@@ -9,9 +9,9 @@
 
 class QEvent;
 
-/// The places of one window, as QWidget::saveGeometry() gives them: the present one, that of program
-/// start, and the factory's, which it had before any stored one was applied. The window is not
-/// owned and may die first.
+/// The places of one window, as QWidget::saveGeometry() gives them: the present one, that of
+/// program start, and the factory's, which it had before any stored one was applied. The window is
+/// not owned and may die first.
 class WindowPlaces : public QObject
 {
 public:

@@ -141,7 +141,7 @@ void BearingRosePrivate::paintScale(QPainter& painter) const
         const QColor background =
             headingUp ? ringColor(angle) : axisColor(PaneSlot::LevelAxisBackground, q->palette());
         const QColor ink = headingUp ? paneColor(IColorBase::RelativeBearingText)
-                                      : axisColor(PaneSlot::LevelAxisText, q->palette());
+                                     : axisColor(PaneSlot::LevelAxisText, q->palette());
         painter.setPen(readableOn(background, ink));
         painter.drawLine(pointAt(angle, innerRadius()), pointAt(angle, innerRadius() + tickLength));
         if (angle % labelStep != 0)

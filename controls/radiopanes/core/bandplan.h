@@ -18,16 +18,17 @@ public:
     /// In hertz, also below 0. A bookmark where start and stop are the same.
     struct Entry
     {
-        double startHz = 0;
-        double stopHz = 0;
-        QString name; ///< One line; may be empty.
+        double startHz = 0; ///< The lower end.
+        double stopHz = 0;  ///< The upper end, not below the other.
+        QString name;       ///< One line; may be empty.
 
+        /// Whether this is one frequency, not a part of the band.
         bool isBookmark() const { return startHz == stopHz; }
         bool operator==(const Entry&) const = default;
     };
-    static constexpr std::size_t maximumEntries = 10'000;
-    static constexpr qint64 maximumBytes = 4 << 20; ///< Of a file.
-    static constexpr double highestHz = 1e15;       ///< Either side of 0.
+    static constexpr std::size_t maximumEntries = 10'000; ///< What parse() takes at most.
+    static constexpr qint64 maximumBytes = 4 << 20;       ///< Of a file.
+    static constexpr double highestHz = 1e15;             ///< Either side of 0.
 
     /// Empty.
     BandPlan();
@@ -58,8 +59,8 @@ private:
 /// A plan and what was wrong in its text, at most ten lines for the user.
 struct BandPlan::Reading
 {
-    BandPlan plan;
-    QStringList errors;
+    BandPlan plan;      ///< What could be read.
+    QStringList errors; ///< Each with the number of its line and the expected form.
 };
 
 } // namespace RadioPanes

@@ -17,8 +17,8 @@ namespace RadioPanes {
 class RADIOPANES_EXPORT OverviewLevels
 {
 public:
-    static constexpr int cellCount = 128;
-    static constexpr qsizetype maximumColumns = 2048;
+    static constexpr int cellCount = 128;             ///< In a column.
+    static constexpr qsizetype maximumColumns = 2048; ///< Then neighbours are joined.
 
     OverviewLevels();
     ~OverviewLevels();

@@ -11,8 +11,8 @@ namespace RadioPanes {
 /// A place in the picture of many sweeps.
 struct HistoryPlace
 {
-    quint64 timeUs = 0;
-    double hertz = 0;
+    quint64 timeUs = 0;           ///< microseconds since 1970-01-01T00:00 UTC
+    double hertz = 0;             ///< the frequency
     double stepHz = 0;            ///< No figure of the frequency is finer; 0 when it is not known.
     std::optional<float> levelDb; ///< The highest one that is shown there.
 };

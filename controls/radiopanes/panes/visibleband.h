@@ -18,8 +18,8 @@ class VisibleBandPrivate;
 /// A frequency that the user has marked.
 struct Pin
 {
-    double hertz = 0;
-    QString name; ///< One line; empty as long as nobody has named it.
+    double hertz = 0; ///< Its place in the band.
+    QString name;     ///< One line; empty as long as nobody has named it.
 
     bool operator==(const Pin&) const = default;
 };

@@ -144,8 +144,8 @@ void drawToEnd(QPainterPath&, QPainterPath& filling)
 }
 
 /// In the order of the enumerators.
-constexpr std::array drawings{drawSignals,  drawEvents,  drawLevels, drawJobs,   drawBearings,
-                              drawReceiver, drawHistory, drawUndo,   drawRedo,   drawToStart,
+constexpr std::array drawings{drawSignals,  drawEvents,  drawLevels, drawJobs,    drawBearings,
+                              drawReceiver, drawHistory, drawUndo,   drawRedo,    drawToStart,
                               drawBackward, drawPlay,    drawPause,  drawForward, drawToEnd};
 
 class DrawnIconEngine : public QIconEngine

@@ -8,8 +8,7 @@ namespace bandmonitor {
 void NumberDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    option->displayAlignment =
-        QStyle::visualAlignment(option->direction, option->displayAlignment);
+    option->displayAlignment = QStyle::visualAlignment(option->direction, option->displayAlignment);
     option->direction = Qt::LeftToRight;
 }
 

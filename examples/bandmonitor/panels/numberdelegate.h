@@ -5,8 +5,8 @@
 
 namespace bandmonitor {
 
-/// Draws numbers with units from left to right in every layout: "-45 dB", where the direction of the
-/// window would make it "dB 45-". The cell stays where the layout has it.
+/// Draws numbers with units from left to right in every layout: "-45 dB", where the direction of
+/// the window would make it "dB 45-". The cell stays where the layout has it.
 class NumberDelegate : public QStyledItemDelegate
 {
 public:

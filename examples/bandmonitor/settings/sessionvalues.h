@@ -79,9 +79,9 @@ public:
     Value<QDateTime> enteredStart{QStringLiteral("enteredStart")}; ///< The user's last start time.
     Value<bool> showsWholeBand{QStringLiteral("wholeBand"), true};
     Value<bool> isHoldVisible{QStringLiteral("holdMaximum"), true};
-    Value<QString> pins{QStringLiteral("pins")};              ///< See PinKeeper.
-    Value<QString> bookmarks{QStringLiteral("bookmarks")};    ///< See BandPlan::text().
-    Value<QString> bandPlan{QStringLiteral("bandPlan")};      ///< The path of its file.
+    Value<QString> pins{QStringLiteral("pins")};           ///< See PinKeeper.
+    Value<QString> bookmarks{QStringLiteral("bookmarks")}; ///< See BandPlan::text().
+    Value<QString> bandPlan{QStringLiteral("bandPlan")};   ///< The path of its file.
     Value<bool> isOverviewVisible{QStringLiteral("overview"), true};
     Value<QString> referenceLevels{QStringLiteral("levels")}; ///< See SortRowTable::parseRows().
     ValueNumeric<int> jobOrder{QStringLiteral("jobOrder"), 0, 0, 2}; ///< A JobOrder.
