@@ -316,7 +316,7 @@ private Q_SLOTS:
             const QList<int> counts = paints.values();
             return std::all_of(counts.begin(), counts.end(), [](int count) { return count == 0; });
         };
-        QTRY_VERIFY(isQuiet());
+        QTRY_VERIFY_WITH_TIMEOUT(isQuiet(), 60'000); // once all is loaded
         entry("Factory colours")->trigger();
         BandView& band = m_window->bandView();
         QTRY_VERIFY(paints.value(&band.spectrum()) > 0);
