@@ -159,6 +159,7 @@ public:
     /// is visible. Null splitters are ignored.
     void ApplySplitterSizes4(const QString& key, Splitter* splitter);
     void StoreSplitterSizes4(const QString& key, Splitter* splitter);
+    void ForgetSplitterSizes4(const QString& key);
     void StoreSplitterSizes2Cfg();
 
     // --- Hot keys ------------------------------------------------------------------------------

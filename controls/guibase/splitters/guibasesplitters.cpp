@@ -15,5 +15,10 @@ void GuiBase::StoreSplitterSizes4(const QString& key, Splitter* splitter)
     d->splitters.store(key, splitter);
 }
 
+void GuiBase::ForgetSplitterSizes4(const QString& key)
+{
+    d->splitters.forget(key);
+}
+
 /// What is stored is in the configuration at once.
 void GuiBase::StoreSplitterSizes2Cfg() {}

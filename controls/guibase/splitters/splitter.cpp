@@ -138,6 +138,12 @@ void Splitter::setVariant(const QString& variant)
     applyStored();
 }
 
+void Splitter::forgetSettings()
+{
+    if (!d->name.isEmpty())
+        GuiBase::Instance().ForgetSplitterSizes4(d->name + d->variant);
+}
+
 void Splitter::applyStored()
 {
     if (d->name.isEmpty())

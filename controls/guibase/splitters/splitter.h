@@ -41,6 +41,8 @@ public:
     void insertWidget(int index, QWidget* widget);
     /// Applies the positions that are stored for the variant, here and in child splitters.
     void setVariant(const QString& variant);
+    /// Forgets the positions that are stored for the name and the variant. The present ones stay.
+    void forgetSettings();
 
     /// Moves the border between the widgets next to the handle with this index by so many pixels
     /// towards the last widget (negative: the first), as far as their minimum sizes allow, as if

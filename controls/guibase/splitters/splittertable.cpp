@@ -76,3 +76,11 @@ void SplitterTable::apply(const QString& key, Splitter* splitter) const
         splitter->setSizes(
             SplitterStateCheck::withHidden(*sizes, state ? state->sizes : QList<int>()));
 }
+
+void SplitterTable::forget(const QString& key) const
+{
+    for (const QLatin1String suffix : {stateSuffix, geometrySuffix, sizesSuffix}) {
+        if (m_store.contains(key + suffix))
+            m_store.write(key + suffix, {});
+    }
+}

@@ -128,9 +128,8 @@ void Modes::toFactory()
         m_mode = mode;
         m_panels->showFactory(mode);
         m_splitter->setVariant(nameOf(mode));
-        showWaterfall(forMode(modeEntries, mode).waterfall);
-        m_splitter->setSizes(factorySizes(mode));
-        keepCentre();
+        m_splitter->forgetSettings();
+        Settings::setWaterfallShown(nameOf(mode), forMode(modeEntries, mode).waterfall);
     }
     m_mode = current;
     m_panels->showMode(current);
