@@ -5,7 +5,9 @@
 if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
     find_program(GUIBASE_CCACHE ccache)
     if(GUIBASE_CCACHE)
-        set(CMAKE_CXX_COMPILER_LAUNCHER "${GUIBASE_CCACHE}")
+        # It keeps what is compiled with precompiled headers only when it is told so.
+        set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+            CCACHE_SLOPPINESS=pch_defines,time_macros "${GUIBASE_CCACHE}")
     endif()
 endif()
 
