@@ -13,6 +13,7 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <ctime>
 
 #include <fcntl.h>
 #include <sys/socket.h>
@@ -22,25 +23,38 @@ namespace {
 
 constexpr char module[] = "trovappstartup/terminationsignals";
 constexpr std::array<int, 3> signalNumbers{SIGTERM, SIGINT, SIGHUP};
+constexpr int repeatSeconds = 1;
 
 /// Where the handler writes; -1 without an object.
 std::atomic<int> writeEnd{-1};
-static_assert(std::atomic<int>::is_always_lock_free, "a signal handler uses it");
-/// Bit i: the handler is installed for signalNumbers[i].
-std::atomic<unsigned> installed{0};
+/// The first request: its signal, and when it came. 0 before.
+std::atomic<int> firstSignal{0};
+std::atomic<long long> firstSecond{0};
+static_assert(std::atomic<int>::is_always_lock_free && std::atomic<long long>::is_always_lock_free,
+              "a signal handler uses them");
 
-extern "C" void handleTerminationSignal(int)
+/// One that does not go back when the clock is set.
+long long monotonicSecond()
+{
+    timespec now{};
+    ::clock_gettime(CLOCK_MONOTONIC, &now);
+    return now.tv_sec;
+}
+
+extern "C" void handleTerminationSignal(int number)
 {
     const int savedError = errno;
-    const unsigned mine = installed.exchange(0);
-    for (std::size_t i = 0; i < signalNumbers.size(); ++i) {
-        if ((mine & (1U << i)) != 0)
-            ::signal(signalNumbers[i], SIG_DFL);
-    }
-    const int descriptor = writeEnd.load();
-    const char byte = 1;
-    if (descriptor >= 0 && ::write(descriptor, &byte, 1) < 0) {
-        // The pair is full: the request is under way already.
+    int none = 0;
+    if (firstSignal.compare_exchange_strong(none, number)) {
+        firstSecond = monotonicSecond();
+        const int descriptor = writeEnd.load();
+        const char byte = 1;
+        if (descriptor >= 0 && ::write(descriptor, &byte, 1) < 0) {
+            // The pair is full: the request is under way already.
+        }
+    } else if (number != firstSignal || monotonicSecond() - firstSecond > repeatSeconds) {
+        ::signal(number, SIG_DFL);
+        ::raise(number); // ends the process as soon as this handler has returned
     }
     errno = savedError;
 }
@@ -62,7 +76,6 @@ public:
             if (replaced[i])
                 ::sigaction(signalNumbers[i], &former[i], nullptr);
         }
-        installed = 0;
         writeEnd = -1;
         notifier.reset();
         for (const int descriptor : descriptors) {
@@ -73,6 +86,7 @@ public:
 
     void install()
     {
+        firstSignal = 0;
         struct sigaction action = {};
         action.sa_handler = &handleTerminationSignal;
         action.sa_flags = SA_RESTART;
@@ -83,7 +97,6 @@ public:
             if (::sigaction(signalNumbers[i], nullptr, &former[i]) != 0 ||
                 former[i].sa_handler == SIG_IGN)
                 continue;
-            installed |= 1U << i;
             replaced[i] = ::sigaction(signalNumbers[i], &action, nullptr) == 0;
         }
     }

@@ -9,10 +9,11 @@ class TerminationSignalsPrivate;
 
 /// Brings the system's requests to end the process (SIGTERM, SIGINT, SIGHUP) into the event loop.
 ///
-/// The first request is announced by requested(); the next one ends the process at once. Signals
-/// that were ignored when the object was made stay ignored. One object at a time; needs the
-/// application object. The destructor brings the former handling back. Does nothing on systems
-/// without these signals.
+/// The first request is announced by requested(); the next one ends the process at once. The same
+/// signal again within a second is no next one: some programs send it twice, to the process and to
+/// its group. Signals that were ignored when the object was made stay ignored. One object at a
+/// time; needs the application object. The destructor brings the former handling back. Does nothing
+/// on systems without these signals.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

@@ -78,9 +78,9 @@ private Q_SLOTS:
         for (const char* task : {"console, return", "window, late end of the start-up object"})
             row(task, 0);
         // The end is requested, by the program itself, before its event loop runs.
-        for (const char* task :
-             {"console, early", "stubborn-window, early", "window, early, dialog",
-              "window, early, dialog without escape", "window, early, own loop"})
+        for (const char* task : {"console, early", "console, early, asked twice",
+                                 "stubborn-window, early", "window, early, dialog",
+                                 "window, early, dialog without escape", "window, early, own loop"})
             row(task, 0);
     }
     void savesOnceAtTheEnd()
