@@ -20,6 +20,7 @@
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QDockWidget>
+#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -305,18 +306,19 @@ private Q_SLOTS:
     void colorChangePaintsEachPaneOnce()
     {
         QHash<const QObject*, int> paints;
-        const QObjectHelpers::EventFilter counter(
-            qApp, [&paints](const QObject* object, const QEvent* event) {
-                paints[object] += event->type() == QEvent::Paint ? 1 : 0;
-                return false;
-            });
-        const auto isQuiet = [&paints] {
-            paints.clear();
-            QCoreApplication::processEvents();
-            const QList<int> counts = paints.values();
-            return std::all_of(counts.begin(), counts.end(), [](int count) { return count == 0; });
-        };
-        QTRY_VERIFY_WITH_TIMEOUT(isQuiet(), 60'000); // once all is loaded
+        QElapsedTimer sincePaint;
+        sincePaint.start();
+        const QObjectHelpers::EventFilter counter(qApp,
+                                                  [&](const QObject* object, const QEvent* event) {
+                                                      if (event->type() == QEvent::Paint) {
+                                                          ++paints[object];
+                                                          sincePaint.start();
+                                                      }
+                                                      return false;
+                                                  });
+        // Once all is loaded and drawn.
+        QVERIFY(QTest::qWaitFor([&] { return sincePaint.hasExpired(200); }, 60'000));
+        paints.clear();
         entry("Factory colours")->trigger();
         BandView& band = m_window->bandView();
         QTRY_VERIFY(paints.value(&band.spectrum()) > 0);
