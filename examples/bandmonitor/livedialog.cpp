@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "livedialog.h"
 
-#include <guibase/files/ilrustringlistdisplayer.h>
-#include <guibase/files/lrustringlistcontroller.h>
+#include <guibase/inputs/comboboxes/comboboxdisplayer.h>
 #include <trovappstartup/cfgcenter.h>
 
 #include <QComboBox>
@@ -19,26 +18,12 @@ namespace {
 constexpr int fieldWidth = 480;
 } // namespace
 
-class LiveDialog::Displayer : public ILruStringListDisplayer
-{
-public:
-    explicit Displayer(QComboBox* box)
-        : m_box(box)
-    {}
-    void RemoveItem(int index) override { m_box->removeItem(index); }
-    void InsertItem(int index, const QString& text) override { m_box->insertItem(index, text); }
-
-private:
-    QComboBox* m_box;
-};
-
 LiveDialog::LiveDialog(QWidget* parent)
     : QDialog(parent)
     , m_command(new QComboBox(this))
     , m_cfg(CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(QStringLiteral("Bandmonitor")))
-    , m_displayer(std::make_unique<Displayer>(m_command))
-    , m_commands(std::make_unique<LruStringListController>(
-          m_displayer.get(), maximumCount, m_cfg.get(), QStringLiteral("LiveCommand")))
+    , m_commands(std::make_unique<ComboBoxDisplayer>(m_command, QStringLiteral("LiveCommand"),
+                                                     maximumCount, m_cfg.get()))
 {
     setWindowTitle(tr("Live input"));
     auto* column = new QVBoxLayout(this);
@@ -59,11 +44,9 @@ LiveDialog::LiveDialog(QWidget* parent)
     column->addWidget(buttons);
     connect(m_command, &QComboBox::editTextChanged, run,
             [run](const QString& text) { run->setEnabled(!text.trimmed().isEmpty()); });
-    m_commands->Init();
-    m_commands->SlotDisplayList();
-    m_command->setCurrentIndex(m_command->count() > 0 ? 0 : -1);
-    m_command->lineEdit()->selectAll();
-    run->setEnabled(!m_command->currentText().trimmed().isEmpty());
+    connect(m_command, &QComboBox::currentIndexChanged, m_command->lineEdit(),
+            &QLineEdit::selectAll);
+    run->setEnabled(false); // until the kept commands are listed
 }
 
 LiveDialog::~LiveDialog() = default;
@@ -72,7 +55,9 @@ QString LiveDialog::ask()
 {
     if (exec() != Accepted)
         return {};
-    return m_commands->Select(m_command->currentText().trimmed());
+    const QString command = m_command->currentText().trimmed();
+    m_commands->Select(command);
+    return command;
 }
 
 } // namespace bandmonitor

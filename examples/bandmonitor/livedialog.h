@@ -6,8 +6,8 @@
 
 #include <memory>
 
+class ComboBoxDisplayer;
 class ICfg;
-class LruStringListController;
 class QComboBox;
 
 namespace bandmonitor {
@@ -26,12 +26,9 @@ public:
     QString ask();
 
 private:
-    class Displayer;
-
     QComboBox* m_command;
     std::unique_ptr<ICfg> m_cfg;
-    std::unique_ptr<Displayer> m_displayer;
-    std::unique_ptr<LruStringListController> m_commands;
+    std::unique_ptr<ComboBoxDisplayer> m_commands; ///< Uses the configuration until it dies.
 };
 
 } // namespace bandmonitor
