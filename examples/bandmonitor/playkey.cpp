@@ -48,9 +48,10 @@ bool PlayKey::isOurs(const QWidget& widget) const
 
 bool PlayKey::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() != QEvent::KeyPress)
+        return false;
     const auto* const widget = qobject_cast<QWidget*>(watched);
-    if (event->type() != QEvent::KeyPress || widget == nullptr || !isOurs(*widget) ||
-        usesKeys(*widget))
+    if (widget == nullptr || !isOurs(*widget) || usesKeys(*widget))
         return false;
     const QKeySequence key(static_cast<const QKeyEvent*>(event)->keyCombination());
     if (key != m_action.shortcut() || !m_action.isEnabled())
