@@ -44,14 +44,6 @@ void RecordingSaver::save(std::shared_ptr<const Recording> recording, const QStr
     m_timer.start();
 }
 
-void RecordingSaver::cancel()
-{
-    if (!isSaving())
-        return;
-    end();
-    Q_EMIT cancelled();
-}
-
 qsizetype RecordingSaver::firstNeeded(const Recording& recording) const
 {
     return m_recording.get() == &recording ? m_next : std::numeric_limits<qsizetype>::max();

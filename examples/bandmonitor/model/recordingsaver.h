@@ -27,7 +27,6 @@ public:
     /// being saved is given up. One of the signals follows.
     void save(std::shared_ptr<const Recording> recording, const QString& path,
               const QByteArray& head = {});
-    void cancel();
     bool isSaving() const { return m_recording != nullptr; }
     /// The oldest sweep of the recording that must stay for it; the largest number for none.
     qsizetype firstNeeded(const Recording& recording) const;
@@ -37,8 +36,6 @@ Q_SIGNALS:
     void saved(const QString& path);
     /// The file could not be written; `reason` is one line for the user.
     void failed(const QString& path, const QString& reason);
-    /// cancel() has given up what was being saved.
-    void cancelled();
 
 private:
     void slice();

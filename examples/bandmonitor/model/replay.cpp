@@ -112,7 +112,6 @@ void Replay::play()
     const bool fromStart =
         m_position < 0 || (m_position == count() - 1 && m_growth == Growth::None);
     m_playedUs = 0;
-    m_lastTickUs = m_clock();
     setPlaying(true);
     if (m_playing && fromStart && m_position != first())
         moveTo(first(), -1);
