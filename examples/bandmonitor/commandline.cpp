@@ -162,7 +162,8 @@ CommandLine readValues(const QCommandLineParser& parser, const Options& options)
     const QStringList followed =
         isFollowed ? QStringList(parser.value(options.follow)) : QStringList();
     const QString problem = takeFile(parser.positionalArguments() + followed, isFollowed, result);
-    result.tellsInWindow = parser.isSet(options.dialogs);
+    // Nobody looks at the window while pictures are taken.
+    result.tellsInWindow = parser.isSet(options.dialogs) && result.screenshotsFolder.isEmpty();
     if (problem.isEmpty() || !result.tellsInWindow)
         return problem.isEmpty() ? result : failure(problem);
     result.fileProblem = problem;

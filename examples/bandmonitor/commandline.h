@@ -28,7 +28,7 @@ struct CommandLine
     QString configFolder;       ///< Empty: the platform's.
     QString screenshotsFolder;  ///< Empty: no pictures, a normal run.
     bool tellsInWindow = false; ///< Of files that cannot be opened; otherwise the program ends.
-    QString fileProblem;        ///< What is to be told, with `tellsInWindow`; `file` is empty then.
+    QString fileProblem; ///< What is to be told, with `tellsInWindow`; the sample is opened then.
     std::optional<double> replayFactor; ///< See Replay::setSpeed(); without it the replay waits.
 };
 

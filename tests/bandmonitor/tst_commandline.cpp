@@ -38,7 +38,7 @@ private Q_SLOTS:
         row.add("bandmonitor --follow -", CommandLine::Fail, "\"-\"");
         row.add("bandmonitor --follow $/a.csv -", CommandLine::Fail, "2");
         row.add("bandmonitor --history 0 -", CommandLine::Fail, "0");
-        row.add("bandmonitor --shots $ -", CommandLine::Fail, "live");
+        row.add("bandmonitor --dialogs --shots $ -", CommandLine::Fail, "live");
         row.add("bandmonitor $/none.csv", CommandLine::Fail, "none.csv");
         row.add("bandmonitor $", CommandLine::Fail, "folder");
         row.add("bandmonitor $/a.csv $/a.csv", CommandLine::Fail, "2");
