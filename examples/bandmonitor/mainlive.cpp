@@ -56,11 +56,11 @@ void MainWindow::connectLive()
             showMessage(tr("No live input"), text, {});
     });
     const RecordingSaver& saver = m_session.saver();
-    connect(&saver, &RecordingSaver::saved, this, [this](const QString& path) {
-        statusBar()->showMessage(tr("Saved as %1").arg(path), messageTime);
-    });
+    connect(&saver, &RecordingSaver::saved, m_recordings, &RecentRecordings::noteSaved);
     connect(
         &saver, &RecordingSaver::failed, this, [this](const QString& path, const QString& reason) {
+            m_recordings->failed(path);
+            statusBar()->clearMessage();
             showMessage(tr("Recording not saved"), tr("%1 cannot be written.").arg(path), reason);
         });
 }

@@ -82,8 +82,13 @@ void RecentRecordings::write(const QString& fileName, const QByteArray& content)
         Q_EMIT notSaved(fileName, *problem);
         return;
     }
-    Settings::setLastFolder(QFileInfo(fileName).absolutePath());
-    Q_EMIT saved(fileName);
+    noteSaved(fileName);
+}
+
+void RecentRecordings::noteSaved(const QString& path)
+{
+    Settings::setLastFolder(QFileInfo(path).absolutePath());
+    Q_EMIT saved(path);
 }
 
 } // namespace bandmonitor

@@ -42,10 +42,14 @@ public:
     /// Asks where to save, proposing a file name, and leaves the saving to `save`.
     void askWhere(const QString& fileName, std::function<void(const QString& path)> save);
 
+public Q_SLOTS:
+    /// The file that askWhere() has asked for is written.
+    void noteSaved(const QString& path);
+
 Q_SIGNALS:
     /// The user has chosen a recording, from the list or by its name.
     void chosen(const QString& path);
-    /// saveAs() has written the file.
+    /// A file is written.
     void saved(const QString& path);
     /// saveAs() could not write the file; `reason` is one line for the user.
     void notSaved(const QString& path, const QString& reason);
