@@ -89,20 +89,18 @@ std::unique_ptr<LiveSource> liveSource(const CommandLine& commandLine)
     return nullptr;
 }
 
-/// Opens what the command line names. As long as nothing of it was shown, a failure ends the
-/// program, unless the window shall tell.
+/// Opens what the command line names. When it fails before anything of it was shown, the program
+/// ends, unless the window shall tell. A run that takes pictures ends at any failure: it would wait
+/// for ever.
 void open(const CommandLine& commandLine, MainWindow& window)
 {
     auto* guard = new QObject(&window);
-    const auto fail = [tellsInWindow = commandLine.tellsInWindow](const QString& text) {
+    QObject::connect(&window, &MainWindow::notOpened, guard, [](const QString& text) {
         printError(text);
-        if (!tellsInWindow)
-            QCoreApplication::exit(1);
-    };
-    Session& session = window.session();
-    QObject::connect(&session, &Session::openFailed, guard, fail);
-    QObject::connect(&session, &Session::liveFailed, guard, fail);
-    QObject::connect(&session, &Session::begun, guard, &QObject::deleteLater);
+        QCoreApplication::exit(1);
+    });
+    if (commandLine.screenshotsFolder.isEmpty())
+        QObject::connect(&window.session(), &Session::begun, guard, &QObject::deleteLater);
     if (commandLine.historyMegabytes)
         window.setHistory(static_cast<std::size_t>(*commandLine.historyMegabytes) << 20);
     const auto onFailure = commandLine.tellsInWindow ? MainWindow::OnFailure::ShowMessage

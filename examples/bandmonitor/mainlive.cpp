@@ -51,10 +51,8 @@ void MainWindow::connectLive()
         updateReport();
         statusBar()->showMessage(tr("Live input has ended. %1").arg(text), messageTime);
     });
-    connect(&m_session, &Session::liveFailed, this, [this](const QString& text) {
-        if (m_onFailure == OnFailure::ShowMessage)
-            showMessage(tr("No live input"), text, {});
-    });
+    connect(&m_session, &Session::liveFailed, this,
+            [this](const QString& text) { tellFailure(tr("No live input"), text, {}); });
     const RecordingSaver& saver = m_session.saver();
     connect(&saver, &RecordingSaver::saved, m_recordings, &RecentRecordings::noteSaved);
     connect(

@@ -137,8 +137,7 @@ void MainWindow::connectSession()
         setLoadingShown(false);
         m_recordings->failed(m_session.loader().path());
         statusBar()->showMessage(text, messageTime);
-        if (m_onFailure == OnFailure::ShowMessage)
-            showMessage(tr("Recording not opened"), text, m_session.loader().report());
+        tellFailure(tr("Recording not opened"), text, m_session.loader().report());
     });
 }
 
@@ -225,6 +224,14 @@ void MainWindow::open(const QString& path, OnFailure onFailure)
     m_progress->setFormat(tr("Loading %1  %p %").arg(QFileInfo(path).fileName()));
     setLoadingShown(true);
     m_session.open(path);
+}
+
+void MainWindow::tellFailure(const QString& title, const QString& text, const QString& details)
+{
+    if (m_onFailure == OnFailure::ShowMessage)
+        showMessage(title, text, details);
+    else
+        Q_EMIT notOpened(text);
 }
 
 void MainWindow::setLoadingShown(bool shown)

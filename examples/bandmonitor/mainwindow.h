@@ -76,6 +76,10 @@ public Q_SLOTS:
     /// Opens the dialog about the program.
     void showInfo();
 
+Q_SIGNALS:
+    /// What was opened with OnFailure::Tell has failed; `text` is one line for the user.
+    void notOpened(const QString& text);
+
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -129,6 +133,7 @@ private:
     void recordingOpened();
     void updateReport();
     void reportSkippedLines();
+    void tellFailure(const QString& title, const QString& text, const QString& details);
     void setLoadingShown(bool shown);
     void updateTitle();
     void updatePosition();

@@ -121,8 +121,10 @@ private Q_SLOTS:
         QCOMPARE(count(": called off"), 1);
         m_window->modes().setMode(Mode::Measure);
         QCOMPARE(count("Measure"), 1);
+        const QSignalSpy told(m_window.get(), &MainWindow::notOpened);
         m_window->open(m_folder.filePath(QStringLiteral("none.csv")), MainWindow::OnFailure::Tell);
         QTRY_COMPARE(count("Not opened: "), 1);
+        QCOMPARE(told.count(), 1);
     }
 
     void eventsLeadToTheirSweeps()
