@@ -207,10 +207,15 @@ void MainWindow::connectExports()
 
 void MainWindow::showPlace(const EventPlace& place)
 {
-    if (place.sweep < 0 || place.recording != m_session.recordingNumber()) {
-        const QString reason = place.sweep < 0 ? tr("No sweep was shown at this event.")
-                                               : tr("The recording of this event is closed.");
-        statusBar()->showMessage(reason, messageTime);
+    QString problem;
+    if (place.sweep < 0)
+        problem = tr("No sweep was shown at this event.");
+    else if (place.recording != m_session.recordingNumber())
+        problem = tr("The recording of this event is closed.");
+    else if (place.sweep < m_session.recording()->first())
+        problem = tr("The sweep of this event is not kept any more.");
+    if (!problem.isEmpty()) {
+        statusBar()->showMessage(problem, messageTime);
         return;
     }
     m_session.replay().pause();

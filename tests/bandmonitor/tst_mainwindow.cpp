@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "centre/bandview.h"
 #include "colorsdialog.h"
+#include "live/followedfile.h"
 #include "mainwindowtest.h"
 #include "model/jobs.h"
 #include "panels/eventlogpanel.h"
@@ -151,6 +152,16 @@ private Q_SLOTS:
         open(samplePath()); // the same, but not the recording of the event
         QTest::keyClick(&list, Qt::Key_Return);
         QCOMPARE(replay.position(), 0);
+
+        const QString grows = m_folder.filePath(QStringLiteral("grows.csv"));
+        QVERIFY(QFile::copy(samplePath(), grows));
+        m_window->setHistory(100'000);
+        m_window->openLive(std::make_unique<FollowedFile>(grows));
+        QTRY_VERIFY(m_window->session().showsLive() &&
+                    m_window->session().recording()->first() > 0);
+        const qsizetype shown = replay.position();
+        Q_EMIT panel.placeWanted({m_window->session().recordingNumber(), 0, 0}); // it is gone
+        QCOMPARE(replay.position(), shown);
     }
 
     void picturesAndTextsAreCopied()

@@ -50,6 +50,9 @@ public:
     /// Whether live input is being read, or waited for.
     bool isLive() const { return m_live && m_live->state() != LiveInput::State::Ended; }
 
+    /// Whether the recording that is open came live.
+    bool showsLive() const { return m_live && m_live->recording() == m_recording; }
+
     /// Saves the whole recording; see RecordingSaver.
     void save(const QString& path, const QByteArray& head);
     RecordingSaver& saver() { return m_saver; }
