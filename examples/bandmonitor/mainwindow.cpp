@@ -120,6 +120,7 @@ void MainWindow::connectSession()
     connect(m_bandView, &BandView::jumpRequested, &m_session.replay(), &Replay::jump);
     new BandPlanKeeper(m_values, m_bandView, m_bandView);
     connect(&m_session, &Session::sweepShown, this, &MainWindow::updateTitle);
+    connect(&m_session.replay(), &Replay::playingChanged, this, &MainWindow::updateTitle);
     connect(&m_session, &Session::referenceLevelsChanged, m_bandView,
             [this] { m_bandView->spectrum().setReferenceLevels(m_session.referenceLevels()); });
     connect(&m_session.jobs(), &Jobs::report, this,
