@@ -21,7 +21,7 @@ EventRecorder::EventRecorder(Session* session, const Modes* modes, QObject* pare
     });
     connect(session, &Session::sweepShown, this, &EventRecorder::sweepShown);
     connect(session, &Session::begun, this, [this] {
-        if (m_session->isLive() && m_session->live()->recording() == m_session->recording())
+        if (m_session->showsLive())
             m_log->add(EventKind::Recording, tr("Live input from %1").arg(m_session->fileName()));
     });
     connect(session, &Session::liveEnded, this, [this](const QString& text) {

@@ -95,9 +95,8 @@ void Exports::copy(const Item& item)
 
 QString Exports::proposedPath(const Item& item) const
 {
-    const QString recording = QFileInfo(m_window.session().fileName()).completeBaseName();
     const QString name = QStringLiteral("%1 %2.%3")
-                             .arg(recording, item.fileName,
+                             .arg(m_window.baseName(), item.fileName,
                                   item.picture ? QStringLiteral("png") : QStringLiteral("txt"));
     return QDir(Settings::lastFolder()).filePath(name.trimmed());
 }

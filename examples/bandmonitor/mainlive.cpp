@@ -74,7 +74,7 @@ void MainWindow::saveRecording()
 QString MainWindow::baseName() const
 {
     const auto recording = m_session.recording();
-    if (m_session.live() == nullptr || m_session.live()->recording() != recording)
+    if (!m_session.showsLive())
         return QFileInfo(m_session.fileName()).completeBaseName();
     quint64 begin = recording->sweep(recording->first()).timeUs;
     return tr("live %1").arg(

@@ -72,6 +72,9 @@ public:
     /// Shows a warning, and waits until the user has read it.
     void showMessage(const QString& title, const QString& text, const QString& details);
 
+    /// Of files that are saved of the recording, without an ending; empty without a recording.
+    QString baseName() const;
+
 public Q_SLOTS:
     /// Opens the dialog about the program.
     void showInfo();
@@ -111,8 +114,6 @@ private:
     void buildLiveEntries(QMenu* menu);
     void connectLive();
     void saveRecording();
-    /// Of files that are saved of the recording, without an ending.
-    QString baseName() const;
 
     // mainjobs.cpp
     void addJobs();

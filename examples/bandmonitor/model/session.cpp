@@ -114,7 +114,7 @@ void Session::liveGrown()
         m_replay.jump(m_replay.count() - 1);
         m_replay.play();
     }
-    if (m_recording != m_live->recording())
+    if (!showsLive())
         return; // a file was opened instead
     const qsizetype first = std::min(m_live->firstToKeep(), m_saver.firstNeeded(*m_recording));
     m_replay.recordingGrown(first);
@@ -124,7 +124,7 @@ void Session::liveGrown()
 
 void Session::liveInputEnded(const QString& reason)
 {
-    if (m_recording == m_live->recording())
+    if (showsLive())
         m_replay.setGrowth(Replay::Growth::None);
     const QString text = tr("%1: %2").arg(m_live->name(), reason);
     if (m_hasLiveBegun || m_live->isStopped())
