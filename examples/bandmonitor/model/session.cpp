@@ -145,7 +145,7 @@ void Session::takeOver(std::shared_ptr<const Recording> recording, const QString
                        Replay::Growth growth)
 {
     if (isLive() && m_live->recording() != recording)
-        m_live->stop();
+        stopLive();
     m_recording = std::move(recording);
     m_fileName = name;
     m_watch.setRecording(m_recording);
