@@ -4,6 +4,8 @@
 #include "model/recording.h"
 #include "model/recordingparser.h"
 
+#include <radiopanes/core/bandplan.h>
+
 #include <guibase/colors/colorsetcodec.h>
 #include <trovappstartup/cfgcenter.h>
 #include <trovappstartup/icfg.h>
@@ -55,6 +57,14 @@ bool readRecording(const QByteArray& bytes)
     return whole.sweeps > 0;
 }
 
+bool readBandPlan(const QByteArray& bytes)
+{
+    using RadioPanes::BandPlan;
+    const BandPlan plan = BandPlan::parse(QString::fromUtf8(bytes)).plan;
+    expect(BandPlan::parse(plan.text()).plan == plan, "band plan");
+    return !plan.isEmpty();
+}
+
 void walk(ICfg& cfg, int depth)
 {
     const QStringList keys = cfg.GetKeys();
@@ -97,6 +107,7 @@ QList<Reader> fileReaders()
 {
     return {{"colorset", &readColorSet},
             {"recording", &readRecording},
+            {"bandplan", &readBandPlan},
             {"configuration", &readConfiguration}};
 }
 

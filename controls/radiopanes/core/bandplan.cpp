@@ -83,7 +83,7 @@ BandPlan::BandPlan(std::vector<Entry> entries)
     if (m_entries.size() > maximumEntries)
         m_entries.resize(maximumEntries);
     for (Entry& entry : m_entries)
-        entry.name = entry.name.simplified();
+        entry.name = entry.name.simplified().left(maximumName).trimmed();
     std::ranges::stable_sort(m_entries, {}, &Entry::startHz);
 }
 

@@ -20,7 +20,7 @@ public:
     {
         double startHz = 0; ///< The lower end.
         double stopHz = 0;  ///< The upper end, not below the other.
-        QString name;       ///< One line; may be empty.
+        QString name;       ///< One line of at most maximumName characters; may be empty.
 
         /// Whether this is one frequency, not a part of the band.
         bool isBookmark() const { return startHz == stopHz; }
@@ -28,6 +28,7 @@ public:
     };
     static constexpr std::size_t maximumEntries = 10'000; ///< What parse() takes at most.
     static constexpr qint64 maximumBytes = 4 << 20;       ///< Of a file.
+    static constexpr qsizetype maximumName = 200;         ///< What is beyond is cut.
     static constexpr double highestHz = 1e15;             ///< Either side of 0.
 
     /// Empty.

@@ -22,6 +22,9 @@ private Q_SLOTS:
             "");
         row("bookmark", "\xEF\xBB\xBF# mine\r\n\r\n121.5 MHz, Distress\r\n",
             "121500000, 121500000, Distress\n", "");
+        const QString part = QStringLiteral("1, 2, ");
+        row("long", part + QString(1 << 20, QLatin1Char('x')),
+            part + QString(BandPlan::maximumName, QLatin1Char('x')) + QLatin1Char('\n'), "");
         row("in order", "2, 3, b\n1, 3, a", "1, 3, a\n2, 3, b\n", "");
         row("good lines stay", "1, 2, a\nabc, 2, b\n3, 4, c", "1, 2, a\n3, 4, c\n",
             "Line 2: “abc”");
