@@ -45,12 +45,12 @@ void BandPlanKeeper::takeBookmarks()
     m_values->bookmarks.SetValue(text);
 }
 
-void BandPlanKeeper::showPlan()
+QStringList BandPlanKeeper::showPlan()
 {
     const QString path = m_values->bandPlan.GetValue();
     const BandPlan::Reading reading = path.isEmpty() ? BandPlan::Reading() : BandPlan::read(path);
     m_panes->setBandPlan(reading.plan);
-    m_errors = reading.errors;
+    return reading.errors;
 }
 
 void BandPlanKeeper::choosePlan()
@@ -64,14 +64,14 @@ void BandPlanKeeper::choosePlan()
         const SessionValues::Step step = m_values->step(tr("Band plan"));
         m_values->bandPlan.SetValue(path);
     }
-    showPlan(); // also a file that has changed
-    if (m_errors.isEmpty())
+    const QStringList errors = showPlan(); // also of a file that has changed
+    if (errors.isEmpty())
         return;
     UserMessage message;
     message.severity = MessageSeverity::Warning;
     message.title = tr("Band plan with errors");
-    message.text = m_errors.first();
-    message.details = m_errors.join(QLatin1Char('\n'));
+    message.text = errors.first();
+    message.details = errors.join(QLatin1Char('\n'));
     ErrorHandler::GetMessageDlg()->Show(message, m_panes->window());
 }
 

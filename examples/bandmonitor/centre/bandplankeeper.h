@@ -29,12 +29,12 @@ public Q_SLOTS:
     void removePlan();
 
 private:
-    void showPlan();
+    /// Returns what is wrong in its file.
+    QStringList showPlan();
     void takeBookmarks();
 
     std::shared_ptr<SessionValues> m_values;
     RadioPanes::BandPanes* m_panes;
-    QStringList m_errors; ///< Of the plan that is shown.
     SessionValues::Followers m_followers;
 };
 
