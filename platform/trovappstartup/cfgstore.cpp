@@ -6,6 +6,8 @@
 
 #include <jtbase/errorhandler.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QLockFile>
 
 #include <utility>
@@ -20,11 +22,22 @@ void report(const QStringList& texts)
         ErrorHandler::Trace(ErrorHandler::TracePlatform, module, __LINE__, text);
 }
 
-/// Whether writing `next` would lose what nobody has read: an array, which is never written here,
-/// or a boolean where a text belongs. Such values were put there by hand.
+/// Whether writing `next` would lose what nobody has read: an array or a number that is no int,
+/// which are never written here, or a boolean where a text belongs. Such values were put there by
+/// hand.
 bool isLost(const QJsonValue& present, const QJsonValue& next)
 {
-    return (present.isArray() && !next.isUndefined()) || (present.isBool() && next.isString());
+    const bool isOtherNumber = present.isDouble() && present.toInt(0) != present.toInt(1);
+    return ((present.isArray() || isOtherNumber) && !next.isUndefined()) ||
+           (present.isBool() && next.isString());
+}
+
+/// Of a value that isLost(), as the file has it.
+QString textOf(const QJsonValue& value)
+{
+    return value.isArray()
+               ? QString::fromUtf8(QJsonDocument(value.toArray()).toJson(QJsonDocument::Compact))
+               : value.toVariant().toString();
 }
 
 /// What the reading holds; a text that is no configuration makes the reading damaged.
@@ -163,12 +176,10 @@ void CfgPlace::setValue(const QString& key, const QJsonValue& value)
 {
     if (key.isEmpty())
         return;
-    if (const QJsonValue present = this->value(key); isLost(present, value)) {
-        const QString aside = DamagedRecord::asideName(key);
-        m_store.document().setValue(m_path, aside, present);
-        report({QStringLiteral("The value of \"%1\" is of another kind; it is kept as \"%2\"")
-                    .arg(key, aside)});
-    }
+    if (const QJsonValue present = this->value(key); isLost(present, value))
+        DamagedRecord::keepAside(*this, {{DamagedRecord::asideName(key), textOf(present)}}, key,
+                                 QStringLiteral("the value is of another kind"),
+                                 ErrorHandler::TracePlatform);
     if (m_store.document().setValue(m_path, key, value))
         m_store.notifyChanged();
 }

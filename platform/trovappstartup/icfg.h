@@ -11,9 +11,9 @@
 /// A place in a configuration: named values, and sub-configurations that are such places
 /// themselves. A read never fails: a value that is missing or of another kind gives the default
 /// (numbers and booleans are also read from their texts). What is written is seen at once in the
-/// process and reaches the disk with the next store; an array, or a boolean in place of a text,
-/// that it would replace is kept under its key followed by "_damaged". Releasing an ICfg loses
-/// nothing. Operations with an empty key or name do nothing.
+/// process and reaches the disk with the next store; an array, a number that is no int, or a
+/// boolean in place of a text, that it would replace is kept as a text under its key followed by
+/// "_damaged". Releasing an ICfg loses nothing. Operations with an empty key or name do nothing.
 class TROVAPPSTARTUP_EXPORT ICfg
 {
 public:
