@@ -2,6 +2,7 @@
 #include "bandplanrow.h"
 
 #include "frequencytext.h"
+#include "mixedcolor_p.h"
 #include "namefield_p.h"
 #include "panepainter_p.h"
 #include "visibleband.h"
@@ -28,12 +29,6 @@ namespace {
 constexpr int margin = 3;
 constexpr int flagWidth = 4;        // of a bookmark
 constexpr double tintOfParts = 0.2; // of the text colour in the background
-
-QColor mixed(const QColor& from, const QColor& to, double share)
-{
-    const auto mix = [share](int a, int b) { return qRound(a + share * (b - a)); };
-    return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
-}
 
 } // namespace
 
@@ -199,7 +194,7 @@ void BandPlanRowPrivate::paintEntry(QPainter& painter, const BandPlan::Entry& en
         label.setRight(end - margin);
         label.setLeft(place.right() + margin);
     } else {
-        background = mixed(ground, ink, tintOfParts);
+        background = mixed(ground.rgb(), ink.rgb(), tintOfParts);
         painter.fillRect(place, background);
         painter.setPen(ink);
         painter.drawLine(place.topLeft(), place.bottomLeft());

@@ -14,6 +14,7 @@ guibase_room(panes
         visibleband.cpp visibleband.h
         waterfallpane.cpp waterfallpane.h
     INTERNAL
+        mixedcolor_p.h
         namefield.cpp namefield_p.h
         panepainter_p.h
         placebox.cpp placebox_p.h

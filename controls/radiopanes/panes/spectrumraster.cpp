@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "spectrumraster_p.h"
 
+#include "mixedcolor_p.h"
+
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstring>
 #include <limits>
 #include <utility>
@@ -13,15 +14,6 @@ namespace RadioPanes {
 namespace {
 
 constexpr int dotDistance = 3;
-
-QRgb mixed(QRgb from, QRgb to, double share)
-{
-    const auto mix = [share](int a, int b) {
-        return static_cast<int>(std::lround(a + share * (b - a)));
-    };
-    return qRgb(mix(qRed(from), qRed(to)), mix(qGreen(from), qGreen(to)),
-                mix(qBlue(from), qBlue(to)));
-}
 
 /// Columns are looked at in tiles: those whose pixels stay as they are cost nothing.
 constexpr int tileWidth = 16;
@@ -214,8 +206,8 @@ private:
     std::vector<Rows> takeChanges(std::vector<Rows>& drawn)
     {
         std::vector<Rows> used(drawn.size(), Rows{m_image.height(), 0});
-        if (!m_shadowTop
-                 .empty()) // also where it begins in one row: it may come to begin in another
+        // The shadow also where it begins in one row: it may come to begin in another.
+        if (!m_shadowTop.empty())
             unite(used, m_shadowTop, m_shadowTop, 0);
         else
             m_shadowTop.assign(static_cast<std::size_t>(m_width), m_image.height());
