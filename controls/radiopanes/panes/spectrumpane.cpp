@@ -277,9 +277,7 @@ void SpectrumPane::keyPressEvent(QKeyEvent* event)
 
 void SpectrumPane::wheelEvent(QWheelEvent* event)
 {
-    // Some systems turn the wheel sideways while a key is held.
-    const QPoint delta = event->angleDelta();
-    const int angle = delta.y() != 0 ? delta.y() : delta.x();
+    const int angle = wheelAngle(*event);
     if (event->modifiers().testFlag(Qt::ControlModifier))
         stepDecibelsPerDivision(-d->wheel.add(angle));
     else if (event->modifiers().testFlag(Qt::ShiftModifier))

@@ -264,9 +264,7 @@ void WaterfallPane::keyPressEvent(QKeyEvent* event)
 
 void WaterfallPane::wheelEvent(QWheelEvent* event)
 {
-    // Some systems turn the wheel sideways while a key is held.
-    const QPoint delta = event->angleDelta();
-    const int angle = delta.y() != 0 ? delta.y() : delta.x();
+    const int angle = wheelAngle(*event);
     constexpr int linesPerNotch = 3;
     if (event->modifiers().testFlag(Qt::ControlModifier))
         zoomTime(d->zoomWheel.add(angle), event->position().toPoint().y());

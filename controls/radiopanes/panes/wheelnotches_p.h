@@ -5,6 +5,13 @@
 
 namespace RadioPanes {
 
+/// How far the wheel has turned. Some systems turn it sideways while a key is held.
+inline int wheelAngle(const QWheelEvent& event)
+{
+    const QPoint delta = event.angleDelta();
+    return delta.y() != 0 ? delta.y() : delta.x();
+}
+
 /// Makes whole notches of what a wheel or touchpad reports: many tell of parts of a notch.
 class WheelNotches
 {
