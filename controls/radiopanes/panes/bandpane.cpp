@@ -2,6 +2,7 @@
 #include "bandpane.h"
 
 #include "namefield_p.h"
+#include "panepainter_p.h"
 #include "visibleband.h"
 
 #include <radiopanes/colors/panecolors.h>
@@ -151,11 +152,7 @@ void BandPane::paintOverlay(QPainter& painter)
         const int left = std::min(d->pressedAt.x(), d->draggedTo.x());
         painter.fillRect(left, 0, std::abs(d->draggedTo.x() - d->pressedAt.x()), height(), fill);
     }
-    if (hasFocus()) {
-        painter.setPen(palette().color(QPalette::Highlight));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    paintFocusFrame(painter, *this);
 }
 
 void BandPane::keyPressEvent(QKeyEvent* event)
@@ -297,18 +294,6 @@ void BandPane::wheelEvent(QWheelEvent* event)
         d->visibleBand->pan(-steps.x() * panShare *
                             (d->visibleBand->high() - d->visibleBand->low()));
     event->accept();
-}
-
-void BandPane::focusInEvent(QFocusEvent* event)
-{
-    QWidget::focusInEvent(event);
-    update();
-}
-
-void BandPane::focusOutEvent(QFocusEvent* event)
-{
-    QWidget::focusOutEvent(event);
-    update();
 }
 
 } // namespace RadioPanes

@@ -210,10 +210,7 @@ void OverviewPane::paintEvent(QPaintEvent*)
         d->paintTimes(painter);
     }
     d->placeBox.paint(painter);
-    if (hasFocus()) {
-        painter.setPen(palette().color(QPalette::Highlight));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    paintFocusFrame(painter, *this);
 }
 
 void OverviewPanePrivate::paintMarks(QPainter& painter) const
@@ -324,18 +321,6 @@ std::optional<HistoryPlace> OverviewPane::placeAt(const QPoint& position) const
     if (const float level = column[static_cast<std::size_t>(cell)]; std::isfinite(level))
         place.levelDb = level;
     return place;
-}
-
-void OverviewPane::focusInEvent(QFocusEvent* event)
-{
-    QWidget::focusInEvent(event);
-    update();
-}
-
-void OverviewPane::focusOutEvent(QFocusEvent* event)
-{
-    QWidget::focusOutEvent(event);
-    update();
 }
 
 } // namespace RadioPanes

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPainter>
+#include <QWidget>
 
 namespace RadioPanes {
 
@@ -16,5 +17,15 @@ public:
         setLayoutDirection(Qt::LeftToRight);
     }
 };
+
+/// Of a pane that has the focus; nothing otherwise.
+inline void paintFocusFrame(QPainter& painter, const QWidget& pane)
+{
+    if (!pane.hasFocus())
+        return;
+    painter.setPen(pane.palette().color(QPalette::Highlight));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(pane.rect().adjusted(0, 0, -1, -1));
+}
 
 } // namespace RadioPanes
