@@ -38,12 +38,13 @@ public:
     bool isLegendVisible = true;
     Drag drag = Drag::None;
     std::optional<std::size_t> pressedPin;
-    double removedHertz = 0; ///< Of the pin that goes when the timer ends.
+    double removedHertz = 0; ///< Of the pin that was clicked: it goes when the timer ends.
     QTimer removal;
     QPoint pressedAt;
     QPoint draggedTo;
     Qt::Orientation dragBegun = Qt::Horizontal;
 
+    void removeClickedPin() { visibleBand->removePinNear(removedHertz, 0); }
     /// Control turns snapping over.
     bool snaps(Qt::KeyboardModifiers modifiers) const
     {
@@ -64,8 +65,7 @@ BandPane::BandPane(VisibleBand* view, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setCursor(Qt::CrossCursor);
     d->removal.setSingleShot(true);
-    connect(&d->removal, &QTimer::timeout, this,
-            [this] { d->visibleBand->removePinNear(d->removedHertz, hertzOf(pinReach)); });
+    connect(&d->removal, &QTimer::timeout, this, [this] { d->removeClickedPin(); });
     connect(d->visibleBand, &VisibleBand::cursorChanged, this, &BandPane::followCursor);
     connect(d->visibleBand, &VisibleBand::pinsChanged, this, qOverload<>(&QWidget::update));
 }
@@ -247,12 +247,18 @@ void BandPane::contextMenuEvent(QContextMenuEvent* event)
 
 void BandPane::togglePin(double x, Qt::KeyboardModifiers modifiers)
 {
-    const double hertz = frequencyAt(x);
-    if (pinAt(x)) { // it stays until it is clear that no double click follows
-        d->removedHertz = hertz;
-        d->removal.start(QApplication::doubleClickInterval());
-    } else
+    const std::optional<std::size_t> number = pinAt(x);
+    if (!number) {
+        const double hertz = frequencyAt(x);
         d->visibleBand->addPin(d->snaps(modifiers) ? snapped(hertz) : hertz);
+        return;
+    }
+    // It stays until it is clear that no double click follows.
+    const double hertz = d->visibleBand->pins()[*number].hertz;
+    if (d->removal.isActive() && hertz != d->removedHertz)
+        d->removeClickedPin();
+    d->removedHertz = hertz;
+    d->removal.start(QApplication::doubleClickInterval());
 }
 
 void BandPane::mouseDoubleClickEvent(QMouseEvent* event)

@@ -97,7 +97,11 @@ BandPanes::BandPanes(const QString& splitterName, const QString& splitterGroup, 
     connectTimes();
 }
 
-BandPanes::~BandPanes() = default;
+BandPanes::~BandPanes()
+{
+    // The panes refer to the band and the texts, which would go before them.
+    qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
+}
 
 void BandPanes::connectTimes()
 {

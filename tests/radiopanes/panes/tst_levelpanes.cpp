@@ -231,6 +231,14 @@ private Q_SLOTS:
         QTest::keyClick(nameField(), Qt::Key_Return);
         QTRY_VERIFY(nameField() == nullptr);
         QVERIFY(band().pins().empty());
+        for (const int carrier : {200, 800})
+            band().addPin(centreOf(carrier));
+        for (const int carrier : {200, 800}) // faster than a double click
+            QTest::mouseClick(&spectrum(), Qt::LeftButton, {}, placeOf(centreOf(carrier)));
+        QTRY_VERIFY(band().pins().empty());
+        band().addPin(0);
+        spectrum().editPinName(0);
+        m_panes.reset(); // while its name is being typed
     }
 
     void waterfallScrollsAndZoomsInTime()
