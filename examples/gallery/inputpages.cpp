@@ -118,6 +118,11 @@ QWidget* makeSpinBoxes()
                             QStringLiteral("seven"), &setNumber<Int32SpinBox>);
     addStates<UInt64SpinBox>(*all, QStringLiteral("UInt64SpinBox"), QStringLiteral("7"),
                              QStringLiteral("-7"), &setNumber<UInt64SpinBox>);
+    addStates<Int32SpinBox>(*all, QStringLiteral("with a special text"), QStringLiteral("7"),
+                            QStringLiteral("on"), [](Int32SpinBox& box) {
+                                box.setRange(0, 100);
+                                box.setSpecialValueText(QStringLiteral("off"));
+                            });
     addStates<Int32SpinBox>(*all, QStringLiteral("with a guard"), QStringLiteral("8"),
                             QStringLiteral("13"), [](Int32SpinBox& box) {
                                 setNumber(box);

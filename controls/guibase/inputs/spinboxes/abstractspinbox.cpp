@@ -62,6 +62,21 @@ void AbstractSpinBox::setCurrentDisplayFormatIndex(int index)
     m_d->body.formats.setCurrent(index);
 }
 
+void AbstractSpinBox::setSpecialValueText(const QString& text)
+{
+    const bool isTyping = isTextChanged();
+    QAbstractSpinBox::setSpecialValueText(text);
+    updateGeometry();
+    if (!isTyping)
+        showValue();
+}
+
+bool AbstractSpinBox::isSpecialValueText(const QString& text) const
+{
+    const QString special = specialValueText();
+    return !special.isEmpty() && text.trimmed() == special.trimmed();
+}
+
 int AbstractSpinBox::lastUsedDisplayFormatIndex() const
 {
     return m_d->body.formats.lastUsed();

@@ -29,6 +29,8 @@ class GUIBASE_EXPORT AbstractSpinBox : public QAbstractSpinBox, public TypedInpu
     /// See setAutoSwitchDisplayFormat().
     Q_PROPERTY(bool autoSwitchDisplayFormat READ isAutoSwitchDisplayFormat WRITE
                    setAutoSwitchDisplayFormat)
+    /// See setSpecialValueText().
+    Q_PROPERTY(QString specialValueText READ specialValueText WRITE setSpecialValueText)
 public:
     explicit AbstractSpinBox(QWidget* parent = nullptr);
     ~AbstractSpinBox() override;
@@ -38,6 +40,10 @@ public:
     /// Whether the format that the user typed in becomes the current one; false at first.
     bool isAutoSwitchDisplayFormat() const;
     void setAutoSwitchDisplayFormat(bool automatic);
+
+    /// What is shown in place of the minimum, in any format, as "off" for 0. A typed text equal to
+    /// it, but for blanks around it, is the minimum as well. Empty, as at first, for none.
+    void setSpecialValueText(const QString& text);
 
     /// The text of the current value.
     virtual QString textValue() const = 0;
@@ -77,6 +83,8 @@ protected:
     /// Texts as long as the value may become; they set the width.
     virtual QStringList sizeSamples() const = 0;
 
+    /// Whether the text stands for the minimum.
+    bool isSpecialValueText(const QString& text) const;
     /// Whether the user has changed the text since it was shown.
     bool isTextChanged() const;
     /// Commits a text that was changed. False when it was refused, or this object is gone: the

@@ -93,6 +93,8 @@ void NumberSpinBoxBase<T>::stepAtCursor(int steps)
 {
     if (!this->interpretIfTextChanged())
         return;
+    if (this->isSpecialValue())
+        return step(steps, m_d->singleStep); // Its text has no digits of the value.
     const QPointer<QLineEdit> edit = this->lineEdit();
     const QString text = edit->text();
     const int index = this->currentDisplayFormatIndex();

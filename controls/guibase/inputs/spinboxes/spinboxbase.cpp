@@ -86,7 +86,8 @@ T SpinBoxBase<T>::maximum() const
 template <typename T>
 T SpinBoxBase<T>::normalized(T value) const
 {
-    return m_d->isNormalizing ? normalizeValueToMultipleOfStep(value) : value;
+    const bool isSpecial = value == m_d->minimum && !specialValueText().isEmpty();
+    return m_d->isNormalizing && !isSpecial ? normalizeValueToMultipleOfStep(value) : value;
 }
 
 template <typename T>
@@ -123,6 +124,8 @@ void SpinBoxBase<T>::adoptRange()
 {
     updateGeometry();
     updateButtons();
+    if (!specialValueText().isEmpty() && !isTextChanged())
+        showValue(); // Another value is special.
 }
 
 template <typename T>
@@ -183,7 +186,13 @@ typename DisplayFormatList<T>::Pairs SpinBoxBase<T>::buildDisplayFormatIndexPair
 template <typename T>
 QString SpinBoxBase<T>::textValue() const
 {
-    return textFromValue(m_d->value);
+    return isSpecialValue() ? specialValueText() : textFromValue(m_d->value);
+}
+
+template <typename T>
+bool SpinBoxBase<T>::isSpecialValue() const
+{
+    return m_d->value == m_d->minimum && !specialValueText().isEmpty();
 }
 
 template <typename T>
@@ -199,9 +208,17 @@ typename SpinBoxBase<T>::Reading SpinBoxBase<T>::readText(const QString& text) c
 }
 
 template <typename T>
+typename SpinBoxBase<T>::Reading SpinBoxBase<T>::read(const QString& text) const
+{
+    if (isSpecialValueText(text))
+        return {m_d->minimum, currentDisplayFormatIndex(), Reading::Read};
+    return readText(text);
+}
+
+template <typename T>
 int SpinBoxBase<T>::displayFormatIndexByTextSample(const QString& sample, bool* ok) const
 {
-    const Reading reading = readText(sample);
+    const Reading reading = read(sample);
     if (ok != nullptr)
         *ok = reading.isKnown();
     return reading.index;
@@ -210,14 +227,14 @@ int SpinBoxBase<T>::displayFormatIndexByTextSample(const QString& sample, bool* 
 template <typename T>
 T SpinBoxBase<T>::valueFromText(const QString& text, bool& ok, int& index) const
 {
-    return readText(text).unpacked(ok, index);
+    return read(text).unpacked(ok, index);
 }
 
 template <typename T>
 T SpinBoxBase<T>::validateAndInterpret(QString& text, int&, QValidator::State& state,
                                        int& index) const
 {
-    const Reading reading = readText(text);
+    const Reading reading = read(text);
     state = m_d->stateOf(reading, index);
     return reading.value;
 }
@@ -226,7 +243,7 @@ template <typename T>
 QValidator::State SpinBoxBase<T>::validate(QString& text, int&) const
 {
     int index = -1;
-    return m_d->stateOf(readText(text), index);
+    return m_d->stateOf(read(text), index);
 }
 
 template <typename T>
@@ -252,7 +269,7 @@ void SpinBoxBase<T>::stepBeyondLimit(bool up)
 template <typename T>
 QString SpinBoxBase<T>::refusalOf(const QString& text) const
 {
-    return refusalOfReading(text, readText(text));
+    return refusalOfReading(text, read(text));
 }
 
 template <typename T>
@@ -308,13 +325,13 @@ void SpinBoxBase<T>::interpret()
 {
     const bool isChanged = isTextChanged();
     QString text = lineEdit()->text(); // The displayed text has blanks for line breaks.
-    Reading reading = readText(text);
+    Reading reading = read(text);
     if (!reading.isKnown() || !m_d->isInRange(reading.value)) {
         QString corrected = text;
         fixup(corrected);
         if (corrected != text) {
             text = corrected;
-            reading = readText(text);
+            reading = read(text);
         }
     }
     const QPointer<QObject> survivor(this);
@@ -333,7 +350,7 @@ QStringList SpinBoxBase<T>::sizeSamples() const
         for (QString& sample : samples)
             sample.truncate(longestRealSample);
     }
-    return samples;
+    return samples << specialValueText();
 }
 
 template <typename T>

@@ -92,6 +92,8 @@ protected:
 
     explicit SpinBoxBase(QWidget* parent);
 
+    /// Whether the special text is shown in place of the value.
+    bool isSpecialValue() const;
     /// Reads the text through the formats.
     virtual Reading readText(const QString& text) const;
     virtual QString textFromValue(T value) const;
@@ -114,6 +116,7 @@ private:
     struct GUIBASE_NO_EXPORT Private;
 
     GUIBASE_NO_EXPORT void adoptRange();
+    GUIBASE_NO_EXPORT Reading read(const QString& text) const;
     GUIBASE_NO_EXPORT QString refusalOfReading(const QString& text, const Reading& reading) const;
     GUIBASE_NO_EXPORT QString refusalOfValue(const T& value) const;
     GUIBASE_NO_EXPORT QString refusalOfGuard(const T& value) const;

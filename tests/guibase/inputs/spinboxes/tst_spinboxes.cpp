@@ -307,6 +307,35 @@ private Q_SLOTS:
         GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
         QCOMPARE(box.currentDisplayFormatIndex(), 3);
     }
+    void showsATextInPlaceOfTheMinimum()
+    {
+        const QString off = QStringLiteral("as recorded, 25 steps");
+        FrequencySpinBox box;
+        box.setSpecialValueText(off);
+        activate(box);
+        QLineEdit* edit = box.inputLineEdit();
+        const auto isOff = [&] { return box.value() == box.minimum() && edit->text() == off; };
+        QVERIFY(isOff() && box.inputRefusal().isEmpty());
+        enter(box, QStringLiteral("7"));
+        QCOMPARE(edit->text(), QStringLiteral("7 MHz"));
+        QGuiApplication::clipboard()->setText(QLatin1Char(' ') + off);
+        edit->selectAll();
+        edit->paste();
+        box.setRange(2500, 10'000'000); // what is typed stays
+        QCOMPARE(edit->text(), QLatin1Char(' ') + off);
+        box.setNormalizeValueToMultipleOfStep(true);
+        QTest::keyClick(&box, Qt::Key_Return);
+        QVERIFY(isOff() && box.inputRefusal().isEmpty());
+        QTest::keyClick(&box, Qt::Key_Up, Qt::ControlModifier); // no digit of it is the value's
+        QCOMPARE(box.value(), 4000);
+        box.setRange(4000, 10'000'000);
+        QVERIFY(isOff());
+        enter(box, QStringLiteral("99 MHz")); // the reason names the number
+        QVERIFY(isOff() && box.inputRefusal().contains(QLatin1String("0.004 MHz")));
+        box.setMinimum(0);
+        QCOMPARE(edit->text(), QStringLiteral("0.004 MHz"));
+        QVERIFY(box.sizeHint().width() > box.fontMetrics().horizontalAdvance(off));
+    }
 };
 
 QTEST_MAIN(tst_SpinBoxes)
