@@ -81,7 +81,8 @@ ReceiverPanel::ReceiverPanel(const SessionValues& values, QWidget* parent)
     addFrequency(tr("S&pan:"), "span",
                  tr("The width of what the spectrum shows; 0 for the whole band"));
     addFrequency(tr("Resolution &bandwidth:"), "resolutionBandwidth",
-                 tr("Narrower bins are combined; 0 leaves them as they were recorded"));
+                 tr("Narrower bins are combined; 0 leaves them as they were recorded"))
+        ->setSpecialValueText(tr("as recorded"));
     addLevels();
     addAddress();
     addStartTime();
@@ -157,6 +158,7 @@ void ReceiverPanel::addLevels()
     m_samples = add(new SpinBoxes::UInt64SpinBox(m_content), tr("Sample c&ount:"), "sampleCount",
                     tr("Averages as many of the last sweeps as it takes to reach this number of "
                        "samples; 0 shows the current sweep only"));
+    m_samples->setSpecialValueText(tr("of one sweep"));
 }
 
 void ReceiverPanel::addAddress()
@@ -166,6 +168,7 @@ void ReceiverPanel::addAddress()
     row->setContentsMargins(0, 0, 0, 0);
     m_address = add(new SpinBoxes::UInt32SpinBox(field), tr("Dev&ice address:"), "deviceAddress",
                     tr("Shown in the spectrum and written to exported sweeps; 0 for none"), field);
+    m_address->setSpecialValueText(tr("none"));
     m_address->addDisplayFormat(std::make_unique<AddressFormat>());
     m_address->addDisplayFormat(std::make_unique<IntegralNumberDisplayFormat<quint32>>());
     m_hexadecimal = new QCheckBox(tr("He&x"), field);
