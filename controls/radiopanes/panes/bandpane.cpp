@@ -84,7 +84,8 @@ double BandPane::hertzOf(double pixels) const
 
 void BandPane::setSnapping(bool on)
 {
-    d->isSnapping = on;
+    if (std::exchange(d->isSnapping, on) != on)
+        Q_EMIT optionsChanged();
 }
 
 bool BandPane::isSnapping() const
@@ -94,8 +95,10 @@ bool BandPane::isSnapping() const
 
 void BandPane::setLegendVisible(bool visible)
 {
-    d->isLegendVisible = visible;
+    if (std::exchange(d->isLegendVisible, visible) == visible)
+        return;
     update();
+    Q_EMIT optionsChanged();
 }
 
 bool BandPane::isLegendVisible() const

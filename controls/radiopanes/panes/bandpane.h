@@ -64,6 +64,9 @@ public:
 Q_SIGNALS:
     /// The right button was clicked, or the menu key pressed, at this place of the screen.
     void menuRequested(QPoint globalPosition);
+    /// What the user can choose for the pane is another: snapping, the legend, traces, bandwidths,
+    /// the colour map or the zoom in time. Time to keep it.
+    void optionsChanged();
 
 protected:
     /// Cursor, pins, zoom rectangle and focus frame; to be called at the end of paintEvent().

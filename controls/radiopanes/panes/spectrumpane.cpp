@@ -85,6 +85,7 @@ void SpectrumPane::setTraceVisible(Trace trace, bool visible)
     d->invalidate();
     update();
     Q_EMIT traceVisibleChanged(trace, visible);
+    Q_EMIT optionsChanged();
 }
 
 bool SpectrumPane::isTraceVisible(Trace trace) const
@@ -133,8 +134,10 @@ const QString& SpectrumPane::caption() const
 
 void SpectrumPane::setWidthsVisible(bool visible)
 {
-    d->areWidthsVisible = visible;
+    if (std::exchange(d->areWidthsVisible, visible) == visible)
+        return;
     update();
+    Q_EMIT optionsChanged();
 }
 
 bool SpectrumPane::areWidthsVisible() const

@@ -118,8 +118,10 @@ void WaterfallPane::refreshColors()
 
 void WaterfallPane::setColorMap(ColorMap map)
 {
-    d->map = map;
+    if (std::exchange(d->map, map) == map)
+        return;
     refreshColors();
+    Q_EMIT optionsChanged();
 }
 
 ColorMap WaterfallPane::colorMap() const
@@ -200,6 +202,11 @@ bool WaterfallPane::isFollowing() const
 int WaterfallPane::timeZoom() const
 {
     return d->timeZoom;
+}
+
+void WaterfallPane::setTimeZoom(int zoom)
+{
+    zoomTime(std::clamp(zoom, leastTimeZoom, mostTimeZoom) - d->timeZoom);
 }
 
 void WaterfallPane::zoomTime(int steps, int y)

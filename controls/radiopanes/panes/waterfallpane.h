@@ -76,6 +76,8 @@ public:
     /// Above 0 the lines are 2, 4, ... times as high; below 0 a line shows the highest levels of 2,
     /// 4, ... sweeps. From -20 to 4; 0 at first.
     int timeZoom() const;
+    /// The nearest one that is possible.
+    void setTimeZoom(int zoom);
     /// The first and the last sweep shown; both -1 for none.
     std::pair<qsizetype, qsizetype> shownSweeps() const;
 
