@@ -52,8 +52,7 @@ public:
     QTimer repaint;
     qsizetype position = -1;
     std::pair<qsizetype, qsizetype> shown{-1, -1};
-    PlaceBox placeBox{q};
-    PlaceText placeText;
+    PlaceBox placeBox{q, [this](const QPoint& pointer) { return q->placeAt(pointer); }};
     std::function<QString(quint64)> timeText;
 };
 
@@ -74,6 +73,7 @@ OverviewPane::OverviewPane(QWidget* parent)
     connect(&d->repaint, &QTimer::timeout, this, [this] {
         d->isDrawn = false;
         update();
+        d->placeBox.refresh();
     });
 }
 
@@ -145,7 +145,7 @@ void OverviewPane::setLevelColors(const LevelColors& colors)
 
 void OverviewPane::setPlaceText(PlaceText text)
 {
-    d->placeText = std::move(text);
+    d->placeBox.setText(std::move(text));
 }
 
 void OverviewPane::setTimeText(std::function<QString(quint64 timeUs)> text)
@@ -222,8 +222,8 @@ void OverviewPanePrivate::paintMarks(QPainter& painter) const
         painter.fillRect(0, 0, q->positionOf(firstSweep()), height, gone);
     }
     painter.setPen(paneColor(PaneSlot::Pin));
-    if (shown.first >= 0) {
-        const int left = q->positionOf(shown.first);
+    if (shown.second >= firstSweep()) {
+        const int left = q->positionOf(std::max(shown.first, firstSweep()));
         const int right = std::max(q->positionOf(shown.second + 1) - 1, left);
         painter.drawRect(left, 0, right - left, height - 1);
     }
@@ -243,8 +243,10 @@ void OverviewPanePrivate::paintTimes(QPainter& painter) const
     const QSize fromSize = PlaceBox::sizeOf(*q, from);
     const QSize toSize = PlaceBox::sizeOf(*q, to);
     painter.setOpacity(timeOpacity);
-    PlaceBox::paint(painter, *q, {{0, 0}, fromSize}, from);
-    PlaceBox::paint(painter, *q, {{q->width() - toSize.width(), 0}, toSize}, to);
+    const int toLeft = q->width() - toSize.width();
+    const int fromLeft = std::min(q->positionOf(firstSweep()), toLeft - fromSize.width());
+    PlaceBox::paint(painter, *q, {{std::max(fromLeft, 0), 0}, fromSize}, from);
+    PlaceBox::paint(painter, *q, {{toLeft, 0}, toSize}, to);
     painter.setOpacity(1);
 }
 
@@ -252,6 +254,7 @@ void OverviewPane::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     d->isDrawn = false;
+    d->placeBox.refresh();
 }
 
 void OverviewPane::jumpTo(qsizetype sweep)
@@ -295,8 +298,7 @@ void OverviewPane::mouseMoveEvent(QMouseEvent* event)
     const QPoint pointer = event->position().toPoint();
     if (event->buttons().testFlag(Qt::LeftButton))
         jumpTo(sweepAt(pointer.x()));
-    const auto place = d->placeText ? placeAt(pointer) : std::nullopt;
-    d->placeBox.show(place ? d->placeText(*place) : QString(), pointer);
+    d->placeBox.follow(pointer);
 }
 
 void OverviewPane::leaveEvent(QEvent* event)
@@ -308,7 +310,7 @@ void OverviewPane::leaveEvent(QEvent* event)
 std::optional<HistoryPlace> OverviewPane::placeAt(const QPoint& position) const
 {
     const qsizetype sweep = sweepAt(position.x());
-    if (sweep < 0 || takenSweeps() == 0)
+    if (sweep < 0 || takenSweeps() == 0 || position.x() < positionOf(d->firstSweep()))
         return std::nullopt;
     const int fromBottom = std::clamp(height() - 1 - position.y(), 0, height() - 1);
     const int cell = fromBottom * cells / height();

@@ -44,14 +44,14 @@ public:
     void setLevelColors(const LevelColors& colors);
     /// Makes the text of the place below the mouse pointer; none at first.
     void setPlaceText(PlaceText text);
-    /// Makes the text of a time, for the two ends; none at first.
+    /// Makes the text of a time, for the oldest and the newest sweep; none at first.
     void setTimeText(std::function<QString(quint64 timeUs)> text);
 
     /// The sweep in the column of pixels, of those in the history; -1 without any.
     qsizetype sweepAt(int x) const;
     /// The column of pixels where the sweep begins.
     int positionOf(qsizetype sweep) const;
-    /// What is shown there; nothing without sweeps.
+    /// What is shown there; nothing without sweeps, and where they have gone.
     std::optional<HistoryPlace> placeAt(const QPoint& position) const;
 
     QSize sizeHint() const override { return {960, 56}; }

@@ -4,7 +4,14 @@
 #include <QPainter>
 #include <QWidget>
 
+#include <utility>
+
 namespace RadioPanes {
+
+PlaceBox::PlaceBox(QWidget* pane, PlaceAt placeAt)
+    : m_pane(pane)
+    , m_placeAt(std::move(placeAt))
+{}
 
 QSize PlaceBox::sizeOf(const QWidget& pane, const QString& text)
 {
@@ -12,12 +19,26 @@ QSize PlaceBox::sizeOf(const QWidget& pane, const QString& text)
     return {metrics.horizontalAdvance(text) + 2 * margin, metrics.height() + 2 * margin};
 }
 
-void PlaceBox::show(const QString& text, const QPoint& pointer)
+void PlaceBox::follow(const QPoint& pointer)
 {
+    m_pointer = pointer;
+    refresh();
+}
+
+void PlaceBox::hide()
+{
+    m_pointer.reset();
+    refresh();
+}
+
+void PlaceBox::refresh()
+{
+    const auto there = m_pointer && m_placeText ? m_placeAt(*m_pointer) : std::nullopt;
+    const QString text = there ? m_placeText(*there) : QString();
     QRect place;
     if (!text.isEmpty()) {
         const QSize size = sizeOf(*m_pane, text);
-        const bool isAtLeft = pointer.x() > m_pane->width() / 2;
+        const bool isAtLeft = m_pointer->x() > m_pane->width() / 2;
         place = {{isAtLeft ? margin : m_pane->width() - size.width() - margin,
                   m_pane->height() - size.height() - margin},
                  size};

@@ -65,9 +65,10 @@ void WaterfallLines::setColors(const LevelColors& colors)
 
 void WaterfallLines::setSweepsPerLine(qsizetype sweeps)
 {
-    m_sweepsPerLine = std::max<qsizetype>(sweeps, 1);
-    for (Row& row : m_rows)
-        row = {};
+    if (sweeps == m_sweepsPerLine)
+        return;
+    m_sweepsPerLine = sweeps;
+    m_rows.assign(m_rows.size(), {});
     m_columnsLine = -1;
 }
 
@@ -103,11 +104,22 @@ bool WaterfallLines::isDrawn(qsizetype line) const
     return row.line == line && row.last == sweepsOf(line).second;
 }
 
+std::optional<quint64> WaterfallLines::timeOf(qsizetype line) const
+{
+    if (line < 0 || line > m_top || line <= m_top - rowCount())
+        return std::nullopt;
+    const qsizetype sweep = sweepsOf(line).second;
+    if (sweep >= m_history->first())
+        return m_history->timeOf(sweep);
+    return isDrawn(line) ? std::optional(m_rows[static_cast<std::size_t>(rowOf(line))].timeUs)
+                         : std::nullopt;
+}
+
 bool WaterfallLines::draw(qsizetype budget)
 {
     if (!m_history || rowCount() == 0)
         return true;
-    const qsizetype lowest = std::max<qsizetype>(m_top - rowCount() + 1, 0);
+    const qsizetype lowest = std::max(m_top - rowCount() + 1, oldest());
     for (qsizetype line = m_top; line >= lowest; --line) {
         if (isDrawn(line))
             continue;
@@ -146,6 +158,7 @@ qsizetype WaterfallLines::drawSweep(qsizetype sweep, Row& row)
     m_columnsLine = -1;
     row.line = sweep;
     row.last = sweep;
+    row.timeUs = levels.timeUs;
     showColumns(sweep);
     return work;
 }
@@ -166,6 +179,7 @@ qsizetype WaterfallLines::drawRun(qsizetype line, Row& row, qsizetype budget)
     m_columnsLine = line;
     row.line = line;
     row.last = last;
+    row.timeUs = m_history->timeOf(last);
     showColumns(line);
     return (last - first + 1) * work;
 }

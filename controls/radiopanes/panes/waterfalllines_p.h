@@ -7,6 +7,7 @@
 #include <QImage>
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -36,6 +37,9 @@ public:
     /// The line at the top; below it follow those before.
     void setTop(qsizetype line);
     qsizetype top() const { return m_top; }
+    /// The oldest line of which the history has sweeps. Those before are shown only as long as they
+    /// are in the image.
+    qsizetype oldest() const { return m_history ? m_history->first() / m_sweepsPerLine : 0; }
 
     /// Draws lines until `budget` levels have been looked at; true when none is missing.
     bool draw(qsizetype budget);
@@ -47,12 +51,15 @@ public:
     bool isDrawn(qsizetype line) const;
     /// The first and the last sweep of the line that are to be shown.
     std::pair<qsizetype, qsizetype> sweepsOf(qsizetype line) const;
+    /// The time of the last sweep of the line; nothing for a line that is not shown.
+    std::optional<quint64> timeOf(qsizetype line) const;
 
 private:
     struct Row
     {
         qsizetype line = -1;
         qsizetype last = -1; ///< The last sweep that is in the line.
+        quint64 timeUs = 0;  ///< Of that sweep.
         qsizetype pyramidSweep = -1;
         std::shared_ptr<const LevelPyramid> pyramid;
     };

@@ -49,14 +49,13 @@ public:
     WaterfallLines lines;
     QTimer moreLines;
     QString hint;
-    PlaceText placeText;
     ColorMap map = ColorMap::ColorSet;
     int timeZoom = 0;
     qsizetype heldAt = -1;  ///< The newest sweep shown after scrolling back; -1 follows.
     int scrolledPixels = 0; ///< Of a line that is not full.
     WheelNotches zoomWheel;
     WheelNotches scrollWheel;
-    PlaceBox placeBox{q};
+    PlaceBox placeBox{q, [this](const QPoint& pointer) { return q->placeAt(pointer); }};
 };
 
 WaterfallPane::WaterfallPane(VisibleBand* view, QWidget* parent)
@@ -73,6 +72,7 @@ WaterfallPane::WaterfallPane(VisibleBand* view, QWidget* parent)
     connect(view, &VisibleBand::rangeChanged, this, [this, view] {
         d->lines.setBand({view->low(), view->high()});
         d->draw();
+        d->placeBox.refresh();
     });
 }
 
@@ -95,7 +95,7 @@ void WaterfallPane::setHint(const QString& text)
 
 void WaterfallPane::setPlaceText(PlaceText text)
 {
-    d->placeText = std::move(text);
+    d->placeBox.setText(std::move(text));
 }
 
 void WaterfallPane::setLevelRange(double low, double high)
@@ -151,13 +151,21 @@ void WaterfallPanePrivate::setShown(qsizetype newest)
 {
     heldAt = newest;
     const qsizetype shown = heldAt >= 0 ? heldAt : lines.newest();
+    const qsizetype before = lines.top();
     lines.setTop(shown < 0 ? -1 : shown / lines.sweepsPerLine());
     draw();
+    if (lines.top() != before)
+        placeBox.refresh();
     Q_EMIT q->timesChanged();
 }
 
 void WaterfallPanePrivate::draw()
 {
+    if (lines.top() >= 0 && lines.top() < lines.oldest() && !lines.isDrawn(lines.top())) {
+        heldAt = (lines.oldest() + 1) * lines.sweepsPerLine() - 1; // the former place has gone
+        lines.setTop(lines.oldest());
+        Q_EMIT q->timesChanged();
+    }
     if (!lines.draw(levelsAtOnce))
         moreLines.start(0);
     q->update();
@@ -220,20 +228,23 @@ void WaterfallPane::zoomTime(int steps, int y)
     const qsizetype size = qsizetype{1} << std::max(-zoom, 0);
     d->lines.setSweepsPerLine(size);
     d->rebuild();
-    qsizetype newest = -1;
-    if (anchor >= 0 && (!isFollowing() || zoom > 0)) {
+    qsizetype newest = isFollowing() ? -1 : (d->heldAt / size + 1) * size - 1;
+    if (anchor >= 0 && (!isFollowing() || zoom > 0))
         newest = (anchor / size + y / d->lineHeight() + 1) * size - 1;
-        newest = newest >= d->lines.newest() ? -1 : newest;
-    }
-    d->setShown(newest);
+    d->setShown(newest >= d->lines.newest() ? -1 : newest);
+    d->placeBox.refresh();
+    Q_EMIT optionsChanged();
 }
 
 std::pair<qsizetype, qsizetype> WaterfallPane::shownSweeps() const
 {
     if (d->lines.top() < 0)
         return {-1, -1};
-    const qsizetype lowest = std::max<qsizetype>(d->lines.top() - d->lines.rowCount() + 1, 0);
-    return {d->lines.sweepsOf(lowest).first, d->lines.sweepsOf(d->lines.top()).second};
+    const qsizetype lowest = d->lines.top() - d->lines.rowCount() + 1;
+    const qsizetype first =
+        std::max(lowest * d->lines.sweepsPerLine(), d->lines.history()->first());
+    const qsizetype last = d->lines.sweepsOf(d->lines.top()).second;
+    return last < first ? std::pair<qsizetype, qsizetype>(-1, -1) : std::pair(first, last);
 }
 
 void WaterfallPanePrivate::rebuild()
@@ -246,6 +257,7 @@ void WaterfallPane::resizeEvent(QResizeEvent* event)
     BandPane::resizeEvent(event);
     d->rebuild();
     d->draw();
+    d->placeBox.refresh();
     Q_EMIT timesChanged();
 }
 
@@ -293,9 +305,7 @@ void WaterfallPane::dragged(const QPoint& change, Qt::Orientation begun)
 void WaterfallPane::mouseMoveEvent(QMouseEvent* event)
 {
     BandPane::mouseMoveEvent(event);
-    const QPoint pointer = event->position().toPoint();
-    const auto place = d->placeText ? placeAt(pointer) : std::nullopt;
-    d->placeBox.show(place ? d->placeText(*place) : QString(), pointer);
+    d->placeBox.follow(event->position().toPoint());
 }
 
 void WaterfallPane::leaveEvent(QEvent* event)
@@ -339,8 +349,6 @@ void WaterfallPanePrivate::paintLines(QPainter& painter) const
                               lines.image(), QRect(0, 0, q->width(), count - upper));
     }
     painter.fillRect(0, count * height, q->width(), q->height() - count * height, ground);
-    if (!moreLines.isActive())
-        return;
     for (int line = 0; line < count; ++line) {
         if (!lines.isDrawn(lines.top() - line))
             painter.fillRect(0, line * height, q->width(), height, ground);
@@ -376,23 +384,28 @@ qsizetype WaterfallPane::sweepAt(int y) const
     const qsizetype line = y < 0 ? -1 : d->lines.top() - y / d->lineHeight();
     if (line < 0 || y >= height() + d->lineHeight())
         return -1;
-    return d->lines.sweepsOf(line).second;
+    const qsizetype sweep = d->lines.sweepsOf(line).second;
+    return sweep < d->lines.history()->first() ? -1 : sweep;
 }
 
 std::optional<HistoryPlace> WaterfallPane::placeAt(const QPoint& position) const
 {
+    const qsizetype line = d->lines.top() - position.y() / d->lineHeight();
+    const std::optional<quint64> time = position.y() < 0 ? std::nullopt : d->lines.timeOf(line);
+    if (!time)
+        return std::nullopt;
+    HistoryPlace place;
+    place.timeUs = *time;
+    place.hertz = frequencyAt(position.x() + 0.5);
+    const SweepHistory& history = *d->lines.history();
     const qsizetype sweep = sweepAt(position.y());
     if (sweep < 0)
-        return std::nullopt;
-    const SweepHistory& history = *d->lines.history();
-    HistoryPlace place;
-    place.timeUs = history.timeOf(sweep);
-    place.hertz = frequencyAt(position.x() + 0.5);
+        return place; // its levels have gone
     if (const auto bin = history.sweep(sweep).placeOf(place.hertz))
         place.stepHz = bin->segment->stepHz;
     // What the pixel shows.
     float highest = -std::numeric_limits<float>::infinity();
-    const auto [first, last] = d->lines.sweepsOf(sweep / d->lines.sweepsPerLine());
+    const auto [first, last] = d->lines.sweepsOf(line);
     history.addMaxima(first, last + 1, {frequencyAt(position.x()), frequencyAt(position.x() + 1)},
                       {&highest, 1});
     if (std::isfinite(highest))
@@ -418,7 +431,6 @@ std::vector<AxisTick> WaterfallPane::timeTicks(int pixels, const TimeText& text)
     std::vector<AxisTick> ticks;
     if (d->lines.top() < 0)
         return ticks;
-    const SweepHistory& history = *d->lines.history();
     const int lineHeight = d->lineHeight();
     const qsizetype rows = text(0).count(QLatin1Char('\n')) + 1;
     const double needed = static_cast<double>((rows + 1) * fontMetrics().height()) / lineHeight;
@@ -426,11 +438,9 @@ std::vector<AxisTick> WaterfallPane::timeTicks(int pixels, const TimeText& text)
     const qsizetype lowest = std::max<qsizetype>(d->lines.top() - d->lines.rowCount() + 1, 0);
     for (qsizetype line = d->lines.top() - d->lines.top() % step; line >= lowest; line -= step) {
         const double fromTop = static_cast<double>(d->lines.top() - line) * lineHeight;
-        const qsizetype sweep = d->lines.sweepsOf(line).second;
-        if (sweep < history.first())
-            break;
-        ticks.push_back({static_cast<double>(sweep), pixels - 1 - fromTop - lineHeight / 2.0,
-                         text(history.timeOf(sweep))});
+        if (const std::optional<quint64> time = d->lines.timeOf(line))
+            ticks.push_back({static_cast<double>(d->lines.sweepsOf(line).second),
+                             pixels - 1 - fromTop - lineHeight / 2.0, text(*time)});
     }
     return ticks;
 }

@@ -84,11 +84,11 @@ public:
     /// Times for a scale of `pixels` pixels beside the pane, counted from its bottom. A label may
     /// have several lines.
     std::vector<AxisTick> timeTicks(int pixels, const TimeText& text) const;
-    /// The newest sweep of the line at `y`; -1 when there is none.
+    /// The newest sweep of the line at `y`; -1 when there is none, or no longer.
     qsizetype sweepAt(int y) const;
     /// Whether the history is longer than a day, so that times need their date.
     bool isLongerThanADay() const;
-    /// What is shown there; nothing where no line is.
+    /// What is shown there; nothing where no line is, and no level where its sweeps have gone.
     std::optional<HistoryPlace> placeAt(const QPoint& position) const;
     /// The colour drawn for a level.
     QRgb colorOf(float level) const;

@@ -115,10 +115,27 @@ private Q_SLOTS:
         const int x = placeOf(centreOf(300)).x();
         const QRgb loud = m_panes->waterfall().colorOf(-40);
         QCOMPARE(picture().pixel(x, 100), loud); // line 50, of a sweep that is gone
+        WaterfallPane& pane = m_panes->waterfall();
+        const quint64 begin = m_timeUs - (count - 1);
+        const auto place = pane.placeAt({x, 100});
+        QVERIFY(place && place->timeUs == m_timeUs - 50 && !place->levelDb);
+        QCOMPARE(pane.sweepAt(100), -1);
+        const auto areTimesTrue = [&] {
+            const auto ticks =
+                pane.timeTicks(pane.height(), [](quint64 time) { return QString::number(time); });
+            return ticks.size() > 3 && std::ranges::all_of(ticks, [&](const AxisTick& tick) {
+                       return tick.label.toULongLong() == begin + static_cast<quint64>(tick.value);
+                   });
+        };
+        QVERIFY(areTimesTrue());
+        pane.setPosition(m_panes->history().first()); // as in a pause
+        QVERIFY(areTimesTrue());
+        pane.setPosition(count - 1);
         band().zoom(2, centreOf(300));
         const int zoomed = placeOf(centreOf(300)).x();
         QCOMPARE(picture().pixel(zoomed, 2), loud);
         QVERIFY(picture().pixel(zoomed, 100) != loud);
+        QVERIFY(!m_panes->waterfall().placeAt({zoomed, 100}));
         m_panes->waterfall().setPosition(count - 4); // the lines below are those of no newer sweep
         const QImage back = picture();
         QCOMPARE(back.pixel(zoomed, 2), loud);
@@ -293,6 +310,7 @@ private Q_SLOTS:
         for (int i = 0; i < count; ++i)
             QVERIFY(add(levels(i == 3000 ? -50.0F : -100.0F)));
         QCOMPARE(strip.takenSweeps(), count);
+        QVERIFY(strip.sweepAt(0) > count - 200 && !strip.placeAt({0, 0})); // it has gone
         strip.setTimeText({});
         const QRgb loud = m_panes->waterfall().colorOf(-50);
         const auto columns = [&] {
