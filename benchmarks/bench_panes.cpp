@@ -147,7 +147,7 @@ void compareImage(RatioRun& run, const std::string& name, double limit, Benches&
 void showInSpectrum(Bench& bench, int sweep)
 {
     const auto& pyramid = bench.pyramids[static_cast<size_t>(sweep)];
-    bench.view.spectrum().setTrace(Trace::Live, bench.recording->sweep(sweep), pyramid);
+    bench.view.spectrum().setTrace(Trace::Current, bench.recording->sweep(sweep), pyramid);
     const auto& held = bench.pyramids[static_cast<size_t>(sweep - 1)];
     bench.view.spectrum().setTrace(Trace::Maximum, bench.recording->sweep(sweep - 1), held);
     bench.paint(bench.view.spectrum());

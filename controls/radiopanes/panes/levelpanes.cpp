@@ -48,7 +48,7 @@ LevelPanes::~LevelPanes()
 {
     // The panes go after what they show: they must let go of it.
     d->held.reset();
-    spectrum().setTrace(Trace::Live, {}, nullptr);
+    spectrum().setTrace(Trace::Current, {}, nullptr);
 }
 
 bool LevelPanes::addSweep(quint64 timeUs, double startHz, double stepHz,
@@ -70,7 +70,7 @@ bool LevelPanes::addSweep(quint64 timeUs, std::span<const Segment> segments)
         visibleBand().setBand(sweep.lowHz, sweep.highHz, sweep.segments.front().stepHz);
     fitLevels();
     const auto pyramid = std::make_shared<const LevelPyramid>(sweep);
-    spectrum().setTrace(Trace::Live, sweep, pyramid);
+    spectrum().setTrace(Trace::Current, sweep, pyramid);
     d->held->add(sweep);
     d->held->show();
     setPosition(position, pyramid);
@@ -105,7 +105,7 @@ void LevelPanes::resetHold()
 void LevelPanes::clear(std::size_t historyBytes)
 {
     resetHold();
-    spectrum().setTrace(Trace::Live, {}, nullptr);
+    spectrum().setTrace(Trace::Current, {}, nullptr);
     d->history = std::make_shared<LevelHistory>(historyBytes);
     setHistory(d->history);
 }

@@ -79,7 +79,7 @@ void SpectrumPanePrivate::paintPinNumbers(QPainter& painter) const
 
 QString SpectrumPanePrivate::readOutLine(const QString& title, double hertz) const
 {
-    const std::optional<BinLevel> bin = binAt(trace(Trace::Live).sweep, hertz);
+    const std::optional<BinLevel> bin = binAt(trace(Trace::Current).sweep, hertz);
     QString line = QStringLiteral("%1  %2  %3")
                        .arg(title, text->rounded(hertz, bin ? bin->stepHz : 0),
                             levelText(bin ? std::optional(bin->levelDb) : std::nullopt));
@@ -95,9 +95,9 @@ QString SpectrumPanePrivate::readOutLine(const QString& title, double hertz) con
 
 QString SpectrumPanePrivate::difference(double hertz, double fromHertz) const
 {
-    const Sweep& live = trace(Trace::Live).sweep;
-    const std::optional<BinLevel> bin = binAt(live, hertz);
-    const std::optional<BinLevel> from = binAt(live, fromHertz);
+    const Sweep& current = trace(Trace::Current).sweep;
+    const std::optional<BinLevel> bin = binAt(current, hertz);
+    const std::optional<BinLevel> from = binAt(current, fromHertz);
     if (!bin || !from)
         return {};
     const double step = std::max(bin->stepHz, from->stepHz);
@@ -109,15 +109,15 @@ QString SpectrumPanePrivate::difference(double hertz, double fromHertz) const
 
 QString SpectrumPanePrivate::widths(double hertz)
 {
-    const Sweep& live = trace(Trace::Live).sweep;
+    const Sweep& current = trace(Trace::Current).sweep;
     const Extent view{q->visibleBand().low(), q->visibleBand().high()};
     if (!occupied || occupied->view != view)
-        occupied = {view, occupiedWidth(live, view)};
+        occupied = {view, occupiedWidth(current, view)};
     const auto widthText = [](const std::optional<Extent>& extent) {
         return extent ? FrequencyText::width(extent->widthHz()) : QStringLiteral("–");
     };
     return SpectrumPane::tr("-3 dB  %1,  99 % of the view  %2")
-        .arg(widthText(widthBelow(live, hertz)), widthText(occupied->width));
+        .arg(widthText(widthBelow(current, hertz)), widthText(occupied->width));
 }
 
 QStringList SpectrumPanePrivate::readOut()

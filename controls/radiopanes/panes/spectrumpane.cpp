@@ -26,7 +26,7 @@ constexpr std::array divisions{1.0, 2.0, 5.0, 10.0, 20.0, 50.0};
 IColorBase::ECOLOR traceSlot(Trace trace)
 {
     switch (trace) {
-    case Trace::Live:
+    case Trace::Current:
         break;
     case Trace::Average:
         return PaneSlot::Average;
@@ -44,7 +44,7 @@ SpectrumPanePrivate::SpectrumPanePrivate(SpectrumPane* pane, const FrequencyText
     , text(frequencyText)
     , frequencyTicks(std::move(ticks))
 {
-    trace(Trace::Live).isVisible = true;
+    trace(Trace::Current).isVisible = true;
     trace(Trace::Maximum).isVisible = true;
 }
 
@@ -70,7 +70,7 @@ void SpectrumPane::setTrace(Trace trace, const Sweep& sweep,
     state.sweep = pyramid ? sweep : Sweep();
     state.pyramid = std::move(pyramid);
     state.columns.clear();
-    if (trace == Trace::Live)
+    if (trace == Trace::Current)
         d->occupied.reset();
     if (!state.isVisible)
         return;
@@ -96,7 +96,7 @@ bool SpectrumPane::isTraceVisible(Trace trace) const
 QString SpectrumPane::traceName(Trace trace)
 {
     switch (trace) {
-    case Trace::Live:
+    case Trace::Current:
         break;
     case Trace::Average:
         return tr("Average");
@@ -105,7 +105,7 @@ QString SpectrumPane::traceName(Trace trace)
     case Trace::Minimum:
         return tr("Hold minimum");
     }
-    return tr("Live");
+    return tr("Current");
 }
 
 void SpectrumPane::setReferenceLevels(std::vector<LevelPoint> points)
@@ -222,7 +222,7 @@ std::vector<AxisTick> SpectrumPane::levelTicks(int pixels) const
 
 std::optional<float> SpectrumPane::levelAt(double hertz) const
 {
-    return d->trace(Trace::Live).sweep.levelAt(hertz);
+    return d->trace(Trace::Current).sweep.levelAt(hertz);
 }
 
 QStringList SpectrumPane::readOut() const
@@ -233,7 +233,7 @@ QStringList SpectrumPane::readOut() const
 bool SpectrumPane::moveToPeak(Direction direction)
 {
     const std::optional<BinLevel> peak =
-        nextPeak(d->trace(Trace::Live).sweep, visibleBand().cursor(), direction);
+        nextPeak(d->trace(Trace::Current).sweep, visibleBand().cursor(), direction);
     if (!peak)
         return false;
     visibleBand().showAt(peak->hertz);
@@ -243,7 +243,7 @@ bool SpectrumPane::moveToPeak(Direction direction)
 double SpectrumPane::snapped(double hertz) const
 {
     const std::optional<BinLevel> bin =
-        highestNear(d->trace(Trace::Live).sweep, hertz, hertzOf(pinReach));
+        highestNear(d->trace(Trace::Current).sweep, hertz, hertzOf(pinReach));
     return bin ? bin->hertz : hertz;
 }
 

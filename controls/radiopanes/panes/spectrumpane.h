@@ -22,7 +22,13 @@ class FrequencyText;
 class SpectrumPanePrivate;
 
 /// What a spectrum can show of the same bins.
-enum class Trace { Live, Average, Maximum, Minimum };
+enum class Trace {
+    Current, ///< The sweep that was given last.
+    Average,
+    Maximum,
+    Minimum,
+    Live = Current, ///< Its former name.
+};
 inline constexpr int traceCount = 4;
 /// The slot of the colour set that the trace is drawn with.
 RADIOPANES_EXPORT IColorBase::ECOLOR traceSlot(Trace trace);
@@ -51,7 +57,7 @@ public:
     /// The sweep that the trace shows, and a pyramid of it; its levels must stay until the next
     /// call for this trace. Null: none. Nothing at first.
     void setTrace(Trace trace, const Sweep& sweep, std::shared_ptr<const LevelPyramid> pyramid);
-    /// Live and Maximum are visible at first.
+    /// Current and Maximum are visible at first.
     void setTraceVisible(Trace trace, bool visible);
     bool isTraceVisible(Trace trace) const;
     /// The trace as the legend names it.
@@ -88,12 +94,12 @@ public:
     /// Ticks of the level axis for a scale of `pixels` pixels.
     std::vector<AxisTick> levelTicks(int pixels) const;
 
-    /// The level of the live trace's bin at the frequency; nothing where the sweep has none.
+    /// The level of the current trace's bin at the frequency; nothing where the sweep has none.
     std::optional<float> levelAt(double hertz) const;
     /// The lines of the read-out: the caption, the cursor, the widths, then the pins; from the
     /// second pin on with their differences to the first one.
     QStringList readOut() const;
-    /// Moves the cursor to the next peak of the live trace; false when there is none.
+    /// Moves the cursor to the next peak of the current trace; false when there is none.
     bool moveToPeak(Direction direction);
     /// The highest bin within a pin's reach.
     double snapped(double hertz) const override;

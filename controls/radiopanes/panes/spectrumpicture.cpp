@@ -15,7 +15,7 @@ namespace {
 
 constexpr double holdShadowOpacity = 0.25;
 // The traces from the one that is drawn first, behind the others, to the one on top.
-constexpr std::array drawingOrder{Trace::Maximum, Trace::Minimum, Trace::Live, Trace::Average};
+constexpr std::array drawingOrder{Trace::Maximum, Trace::Minimum, Trace::Current, Trace::Average};
 
 enum Color { BackgroundTop, BackgroundBottom, Grid, Shadow, FirstTrace };
 

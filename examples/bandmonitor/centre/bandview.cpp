@@ -45,7 +45,7 @@ void BandView::setRecording(std::shared_ptr<const Recording> recording)
     m_hold.clear();
     m_processor.forget();
     // The panes must let go of the former recording's levels before it may go.
-    spectrum().setTrace(Trace::Live, {}, nullptr);
+    spectrum().setTrace(Trace::Current, {}, nullptr);
     setHistory(m_recording);
     if (m_recording && !m_recording->isEmpty()) {
         const Sweep first = m_recording->sweep(m_recording->first());
@@ -137,7 +137,7 @@ void BandView::showTrace(qsizetype firstHeld)
         pyramid = std::make_shared<const LevelPyramid>(shown);
         widenLevels(pyramid->levels());
     }
-    spectrum().setTrace(Trace::Live, shown, std::move(pyramid));
+    spectrum().setTrace(Trace::Current, shown, std::move(pyramid));
     m_hold.show();
 }
 
