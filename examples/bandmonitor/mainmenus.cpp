@@ -17,8 +17,6 @@
 #include "selectionactions.h"
 #include "settings/keys.h"
 
-#include <radiopanes/panes/spectrumpane.h>
-
 #include <guibase/binding/actionbinding.h>
 #include <guibase/services/guibase.h>
 #include <guibase/undo/undoactions.h>
@@ -163,14 +161,7 @@ void MainWindow::buildBandEntries(QMenu* menu)
             &VisibleBand::showAll);
     menu->addSeparator();
     QAction* hold = addEntry(menu, tr("&Hold maximum"), {Qt::Key_H}, true);
-    connect(hold, &QAction::toggled, m_bandView, &BandView::setHoldVisible);
     new ValueWidgetBinding::ActionBinding(m_values->isHoldVisible, *hold);
-    m_bandView->setHoldVisible(hold->isChecked());
-    connect(&m_bandView->spectrum(), &SpectrumPane::traceVisibleChanged, hold,
-            [hold](Trace trace, bool visible) {
-                if (trace == Trace::Maximum)
-                    hold->setChecked(visible);
-            });
     connect(addEntry(menu, tr("R&eset hold"), {Qt::Key_R}, true), &QAction::triggered, m_bandView,
             &BandView::resetHold);
     menu->addSeparator();
@@ -186,10 +177,7 @@ void MainWindow::buildBandEntries(QMenu* menu)
     connect(addEntry(menu, tr("No band pla&n"), {Qt::CTRL | Qt::SHIFT | Qt::Key_B}, false),
             &QAction::triggered, plan, &BandPlanKeeper::removePlan);
     QAction* overview = addEntry(menu, tr("O&verview of all sweeps"), {Qt::Key_O}, true);
-    connect(overview, &QAction::toggled, m_bandView, &BandView::setOverviewVisible);
     new ValueWidgetBinding::ActionBinding(m_values->isOverviewVisible, *overview);
-    m_bandView->setOverviewVisible(overview->isChecked());
-    connect(m_bandView, &BandView::overviewVisibleChanged, overview, &QAction::setChecked);
 }
 
 void MainWindow::buildModeEntries(QMenu* menu)

@@ -3,6 +3,7 @@
 
 #include "centre/bandplankeeper.h"
 #include "centre/bandview.h"
+#include "centre/paneskeeper.h"
 #include "centre/pinkeeper.h"
 #include "centre/replaybar.h"
 #include "colorskeeper.h"
@@ -119,6 +120,7 @@ void MainWindow::connectSession()
     connect(&m_session, &Session::sweepShown, m_bandView, &BandView::showSweep);
     connect(m_bandView, &BandView::jumpRequested, &m_session.replay(), &Replay::jump);
     new BandPlanKeeper(m_values, m_bandView, m_bandView);
+    new PanesKeeper(m_values, m_bandView, m_bandView);
     connect(&m_session, &Session::sweepShown, this, &MainWindow::updateTitle);
     connect(&m_session.replay(), &Replay::playingChanged, this, &MainWindow::updateTitle);
     connect(&m_session, &Session::referenceLevelsChanged, m_bandView,

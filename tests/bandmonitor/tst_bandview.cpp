@@ -170,7 +170,7 @@ private Q_SLOTS:
         colors.SetColor(IColorBase::DrawPaneBackgroundLow, QColor(Qt::blue), true);
         QVERIFY(m_pane->waterfall().colorOf(-100) != before);
         QCOMPARE(waterfallPixel(centreOfBin(10), 3), QColor(Qt::blue).rgb());
-        m_pane->setHoldVisible(false);
+        m_pane->spectrum().setTraceVisible(Trace::Maximum, false);
         const QImage spectrum = m_pane->spectrum().grab().toImage();
         QVERIFY(spectrum.pixelColor(20, spectrum.height() - 3).blue() > 240); // end of a gradient
         const auto corner = [this] { return m_pane->grab().toImage().pixelColor(0, 0); };

@@ -9,6 +9,7 @@
 
 #include <radiopanes/core/bandplan.h>
 #include <radiopanes/panes/spectrumpane.h>
+#include <radiopanes/panes/waterfallpane.h>
 
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
@@ -330,7 +331,22 @@ private Q_SLOTS:
         view().addBookmark(98e6);
         m_window->values().bandPlan.SetValue(file.fileName());
         QCOMPARE(view().bandPlan().entries().size(), 1u);
+        view().spectrum().setTraceVisible(Trace::Average, true);
+        entry("Hold maximum")->trigger();
+        view().spectrum().setSnapping(true);
+        view().waterfall().setColorMap(ColorMap::Fire);
+        view().waterfall().zoomTime(-2);
         CHECKED(openForm());
+        QVERIFY(view().spectrum().isTraceVisible(Trace::Average));
+        QVERIFY(!view().spectrum().isTraceVisible(Trace::Maximum));
+        QVERIFY(view().spectrum().isSnapping());
+        QVERIFY(view().waterfall().colorMap() == ColorMap::Fire);
+        QCOMPARE(view().waterfall().timeZoom(), -2);
+        QVERIFY(!steps.canUndo());
+        view().waterfall().zoomTime(1);
+        view().waterfall().zoomTime(1); // the wheel turns on
+        QVERIFY(steps.undo());
+        QCOMPARE(view().waterfall().timeZoom(), -2);
         QCOMPARE(view().visibleBand().pins(), (std::vector<Pin>{{99e6, QStringLiteral("a b=c")}}));
         QCOMPARE(view().bandPlan().entries().front().name, QStringLiteral("FM"));
         QCOMPARE(view().bookmarks().entries().front().startHz, 98e6);

@@ -165,11 +165,6 @@ void BandView::fillMenu(QMenu* menu)
         m_extendMenu(*menu);
 }
 
-void BandView::setHoldVisible(bool visible)
-{
-    spectrum().setTraceVisible(Trace::Maximum, visible);
-}
-
 void BandView::resetHold()
 {
     m_hold.clear();

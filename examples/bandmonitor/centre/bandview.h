@@ -51,7 +51,6 @@ public:
     /// What the spectrum makes of the recorded sweeps; the waterfall shows them as they are. The
     /// hold maximum starts anew when it changes.
     void setTrace(const TraceSettings& settings);
-    void setHoldVisible(bool visible);
     /// The hold maximum starts anew from the current sweep.
     void resetHold();
 

@@ -3,6 +3,8 @@
 
 #include "model/receiversettings.h"
 
+#include <radiopanes/colors/colormap.h>
+
 #include <jtbase/delayedcall.h>
 #include <trovappstartup/savecomponentif.h>
 #include <valueframework/persistant.h>
@@ -78,11 +80,24 @@ public:
 
     Value<QDateTime> enteredStart{QStringLiteral("enteredStart")}; ///< The user's last start time.
     Value<bool> showsWholeBand{QStringLiteral("wholeBand"), true};
+    // See PanesKeeper.
+    Value<bool> isCurrentVisible{QStringLiteral("current"), true};
+    Value<bool> isAverageVisible{QStringLiteral("average")};
     Value<bool> isHoldVisible{QStringLiteral("holdMaximum"), true};
+    Value<bool> isMinimumVisible{QStringLiteral("holdMinimum")};
+    Value<bool> isSnapping{QStringLiteral("snapping")};
+    Value<bool> areWidthsVisible{QStringLiteral("widths")};
+    Value<bool> isTraceLegendVisible{QStringLiteral("traceLegend"), true};
+    Value<bool> isWaterfallLegendVisible{QStringLiteral("waterfallLegend")};
+    Value<bool> isOverviewVisible{QStringLiteral("overview"), true};
+    ValueNumeric<int> colorMap{QStringLiteral("colorMap"),
+                               static_cast<int>(RadioPanes::ColorMap::ColorSet), 0,
+                               RadioPanes::colorMapCount - 1};
+    ValueNumeric<int> timeZoom{QStringLiteral("timeZoom")}; ///< See WaterfallPane::timeZoom().
+
     Value<QString> pins{QStringLiteral("pins")};           ///< See PinKeeper.
     Value<QString> bookmarks{QStringLiteral("bookmarks")}; ///< See BandPlan::text().
     Value<QString> bandPlan{QStringLiteral("bandPlan")};   ///< The path of its file.
-    Value<bool> isOverviewVisible{QStringLiteral("overview"), true};
     Value<QString> referenceLevels{QStringLiteral("levels")}; ///< See SortRowTable::parseRows().
     ValueNumeric<int> jobOrder{QStringLiteral("jobOrder"), 0, 0, 2}; ///< A JobOrder.
     ValueNumeric<int> heading{QStringLiteral("heading"), 0, 0, 359}; ///< In degrees.
