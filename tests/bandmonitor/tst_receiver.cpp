@@ -4,6 +4,7 @@
 #include "panels/signalspanel.h"
 #include "receiver/receiverbar.h"
 #include "receiver/receiverpanel.h"
+#include "recordings.h"
 #include "support/checked.h"
 #include "support/testrows.h"
 
@@ -147,12 +148,14 @@ private Q_SLOTS:
         const auto cfg = above->OpenSubCfg(QStringLiteral("Receiver"));
         for (const char* key : {"Centre", "Span", "Resolution", "Gain", "Attenuation", "Threshold"})
             cfg->SetString(QLatin1String(key), QStringLiteral("-20000000"));
+        cfg->SetString(QStringLiteral("Centre"), QStringLiteral("-20000000000000"));
         cfg->SetString(QStringLiteral("Address"), QStringLiteral("tomorrow"));
         above->SetString(QStringLiteral("ChangedColors"), QStringLiteral("0x12"));
         {
             const SessionValues values;
             const ReceiverSettings clamped = values.receiver();
-            QCOMPARE(values.centre.GetValue() + values.span.GetValue() + clamped.resolutionHz, 0);
+            QCOMPARE(values.centre.GetValue(), -ReceiverSettings::highestHz);
+            QCOMPARE(values.span.GetValue() + clamped.resolutionHz, 0);
             QCOMPARE(clamped.gainDb, -100.0);
             QCOMPARE(clamped.attenuationDb, -100);
             QVERIFY(!clamped.thresholdDb);
@@ -209,6 +212,29 @@ private Q_SLOTS:
         QVERIFY(spectrum.highLevel() > 0); // the trace is still in the pane
         enter("deviceAddress", QStringLiteral("1F"));
         QCOMPARE(spectrum.readOut().first(), QStringLiteral("Receiver 0x1F"));
+    }
+
+    void basebandIsSteered()
+    {
+        OwnedSegments segments;
+        segments.add(-1e6, 1e4, std::vector<float>(200, -90));
+        QByteArray text;
+        appendSweepText(text, segments.sweep(1'000'000));
+        QTemporaryFile file;
+        QVERIFY(file.open() && file.write(text) > 0 && file.flush());
+        CHECKED(openForm());
+        CHECKED(open(file.fileName()));
+        const VisibleBand* view = &m_window->bandView().visibleBand();
+        QCOMPARE(shown("centreFrequency"), QStringLiteral("0 MHz"));
+        enter("span", QStringLiteral("0.5"));
+        enter("centreFrequency", QStringLiteral("-0.25"));
+        QCOMPARE(view->low(), -0.5e6);
+        m_window.reset();
+        m_window = std::make_unique<MainWindow>();
+        CHECKED(open(file.fileName()));
+        QCOMPARE(shown("centreFrequency"), QStringLiteral("-0.25 MHz"));
+        QCOMPARE(m_window->bandView().visibleBand().low(), -0.5e6);
+        QCOMPARE(shown("resolutionBandwidth"), QStringLiteral("as recorded"));
     }
 
     void thresholdDetectsWhatTheSpectrumShowsAboveIt()

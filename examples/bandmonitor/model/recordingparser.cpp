@@ -150,7 +150,7 @@ void RecordingParser::readLine(std::string_view line)
     const std::optional<double> low = fields.readNumber();
     const std::optional<double> high = low ? fields.readNumber() : std::nullopt;
     const std::optional<double> step = high ? fields.readNumber() : std::nullopt;
-    if (!step || !(*low >= 0 && *low < *high && *high <= highestFrequencyHz) ||
+    if (!step || !(*low >= -highestFrequencyHz && *low < *high && *high <= highestFrequencyHz) ||
         !(*step >= smallestStepHz))
         return skipLine(LineFault::BadFrequency);
     const std::optional<double> samples = fields.readNumber();

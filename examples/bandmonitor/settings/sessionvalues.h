@@ -62,7 +62,8 @@ public:
 
     // The fields of the receiver panel; frequencies in hertz, levels in dB.
     using Settings = ReceiverSettings;
-    ValueNumeric<qint64> centre{QStringLiteral("centreFrequency"), 0, 0, Settings::highestHz};
+    ValueNumeric<qint64> centre{QStringLiteral("centreFrequency"), 0, -Settings::highestHz,
+                                Settings::highestHz};
     ValueNumeric<qint64> span{QStringLiteral("span"), 0, 0, Settings::highestHz};
     ValueNumeric<qint64> resolution{QStringLiteral("resolutionBandwidth"), 0, 0,
                                     Settings::highestHz};
