@@ -40,6 +40,11 @@ void SignalNotifier::notify(const SignalTrack& track)
     m_text.refresh();
     const QString text =
         tr("%1, %2 dB").arg(m_text.full(track.signal.centreHz)).arg(track.signal.peakDb, 0, 'f', 1);
+    EventLog& events = m_window->session().events();
+    if (!m_limit.pass()) {
+        events.add(EventKind::Signal, tr("Not notified, too many in a minute: %1").arg(text));
+        return;
+    }
     StandardNotification* popup = Notifications::notify(
         tr("New signal"), text, popupTime, followButton | ignoreButton | QDialogButtonBox::Close);
     if (popup == nullptr)
@@ -53,7 +58,7 @@ void SignalNotifier::notify(const SignalTrack& track)
                 else if (button == ignoreButton)
                     m_alarm.ignore(track.signal);
             });
-    m_window->session().events().add(EventKind::Signal, tr("Notified: %1").arg(text));
+    events.add(EventKind::Signal, tr("Notified: %1").arg(text));
 }
 
 } // namespace bandmonitor

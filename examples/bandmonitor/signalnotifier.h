@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/panenames.h"
+#include "model/ratelimit.h"
 #include "model/signalalarm.h"
 
 #include <radiopanes/panes/frequencytext.h>
@@ -12,8 +13,9 @@ namespace bandmonitor {
 
 class MainWindow;
 
-/// Raises a pop-up for each new signal that stays, in one stack with those of other programs. Its
-/// buttons follow the signal or ignore it from now on. The event log lists what was notified.
+/// Raises a pop-up for each new signal that stays, but a few a minute at most, in one stack with
+/// those of other programs. Its buttons follow the signal or ignore it from now on. The event log
+/// lists what was notified, and what was one too many.
 class SignalNotifier : public QObject
 {
     Q_OBJECT
@@ -28,6 +30,7 @@ private:
 
     MainWindow* m_window;
     SignalAlarm m_alarm;
+    RateLimit m_limit;
     FrequencyText m_text;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "recordings.h"
 
+#include <model/ratelimit.h>
 #include <model/samplegenerator.h>
 #include <model/signalalarm.h>
 #include <model/signalwatch.h>
@@ -228,6 +229,40 @@ private Q_SLOTS:
             watch.showSweep(sweep, sweep - 1);
         QVERIFY(watch.newcomer() != nullptr); // the hopper does not stand still
         QVERIFY(watch.track(watch.newcomer()->id) == watch.newcomer());
+    }
+
+    void alarmsAgainForWhatHadGone()
+    {
+        // It begins in silence. The tracker gives a signal up long before it has gone.
+        const int comes[] = {200, 300, 1000};
+        Recording recording;
+        for (int sweep = 0; sweep < 1100; ++sweep) {
+            std::vector<float> levels = noise(500, -90);
+            if (std::ranges::any_of(comes, [=](int at) { return sweep >= at && sweep < at + 5; }))
+                raise(levels, 100, 3, -60);
+            const Segment segment{0, 10, 1, levels};
+            recording.append(static_cast<quint64>(sweep) * 100'000, {&segment, 1});
+        }
+        SignalWatch watch;
+        watch.setRecording(std::shared_ptr<const Recording>(std::shared_ptr<void>(), &recording));
+        SignalAlarm alarm;
+        std::vector<qsizetype> alarms;
+        for (qsizetype sweep = 0; sweep < recording.count(); ++sweep) {
+            watch.showSweep(sweep, sweep - 1);
+            alarms.insert(alarms.end(), alarm.takeIn(watch).size(), sweep);
+        }
+        QCOMPARE(alarms, (std::vector<qsizetype>{202, 1002}));
+    }
+
+    void fewPassInAMinute()
+    {
+        RateLimit limit;
+        std::vector<int> passed;
+        for (int second = 0; second < 130; second += 10) {
+            if (limit.pass(RateLimit::Time(std::chrono::seconds(second))))
+                passed.push_back(second);
+        }
+        QCOMPARE(passed, (std::vector{0, 10, 20, 60, 70, 80, 120}));
     }
 
     void alarmsOnceForWhatStays()

@@ -4,19 +4,21 @@
 #include "signaltracker.h"
 
 #include <cstdint>
-#include <set>
 #include <vector>
 
 namespace bandmonitor {
 
 class SignalWatch;
 
-/// Picks the new signals that stay: each once, when it was above the threshold for three sweeps on
-/// end. What is there at a beginning is not new.
+/// Picks the new signals that stay: when they were above the threshold for three sweeps on end. A
+/// signal is picked once until it has gone, however often it fades in between. What is there at a
+/// beginning is not new.
 class SignalAlarm
 {
 public:
     static constexpr int sweepsOnEnd = 3;
+    /// A signal has gone when it was not seen for so long, and is no longer followed.
+    static constexpr quint64 goneAfterUs = 30'000'000;
 
     /// Takes in the last sweep of the watch. The result is in order of frequency.
     std::vector<SignalTrack> takeIn(const SignalWatch& watch);
@@ -24,9 +26,20 @@ public:
     void ignore(const Signal& signal);
 
 private:
-    bool isIgnored(const Signal& signal) const;
+    /// A signal that is old or was picked.
+    struct Known
+    {
+        std::uint32_t id = 0; ///< Of its track.
+        Signal signal;
+        quint64 lastSeenUs = 0;
+        bool isFollowed = false; ///< Its track was among the last ones.
+    };
 
-    std::set<std::uint32_t> m_known; ///< The numbers of tracks that are old or were picked.
+    bool isIgnored(const Signal& signal) const;
+    bool isKnown(const Signal& signal) const;
+    void forgetGone(quint64 timeUs);
+
+    std::vector<Known> m_known;
     std::vector<Signal> m_ignored;
 };
 

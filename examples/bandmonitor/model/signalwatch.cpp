@@ -38,7 +38,7 @@ void SignalWatch::showSweep(qsizetype position, qsizetype previous)
     const bool isJump = previous < 0 || previous != m_position || previous >= position;
     if (isJump)
         m_tracker.clear();
-    m_begins = m_tracker.tracks().empty();
+    m_begins = isJump;
     m_lastKnownId = m_tracker.lastId();
     const qsizetype first = isJump ? firstBefore(position) : previous + 1;
     for (qsizetype index = first; index <= position; ++index) {
@@ -46,6 +46,7 @@ void SignalWatch::showSweep(qsizetype position, qsizetype previous)
         m_tracker.add(sweep.timeUs, m_detector.detect(sweep));
     }
     m_position = position;
+    m_timeUs = m_recording->sweep(position).timeUs;
 }
 
 qsizetype SignalWatch::firstBefore(qsizetype position) const

@@ -29,6 +29,8 @@ public:
     const SignalTrack* newcomer() const;
     /// Whether the last showSweep() was a beginning: all tracks are new then, and none went.
     bool hasBegunAnew() const { return m_begins; }
+    /// The time of the sweep that was shown last.
+    quint64 timeUs() const { return m_timeUs; }
 
 private:
     qsizetype firstBefore(qsizetype position) const;
@@ -37,6 +39,7 @@ private:
     SignalDetector m_detector;
     SignalTracker m_tracker;
     qsizetype m_position = -1;
+    quint64 m_timeUs = 0;
     std::uint32_t m_lastKnownId = 0;
     bool m_begins = true;
 };
