@@ -95,10 +95,12 @@ std::unique_ptr<LiveSource> liveSource(const CommandLine& commandLine)
 void open(const CommandLine& commandLine, MainWindow& window)
 {
     auto* guard = new QObject(&window);
-    QObject::connect(&window, &MainWindow::notOpened, guard, [](const QString& text) {
-        printError(text);
-        QCoreApplication::exit(1);
-    });
+    QObject::connect(&window, &MainWindow::notOpened, guard,
+                     [](const QString& text, MainWindow::OnFailure onFailure) {
+                         printError(text);
+                         if (onFailure == MainWindow::OnFailure::Tell)
+                             QCoreApplication::exit(1);
+                     });
     if (commandLine.screenshotsFolder.isEmpty())
         QObject::connect(&window.session(), &Session::begun, guard, &QObject::deleteLater);
     if (commandLine.historyMegabytes)
@@ -109,9 +111,11 @@ void open(const CommandLine& commandLine, MainWindow& window)
         window.openLive(std::move(source), onFailure);
     else
         window.open(commandLine.file.isEmpty() ? samplePath() : commandLine.file, onFailure);
-    if (!commandLine.fileProblem.isEmpty())
-        window.showMessage(QApplication::translate("main", "Recording not opened"),
-                           commandLine.fileProblem, {});
+    if (commandLine.fileProblem.isEmpty())
+        return;
+    printError(commandLine.fileProblem);
+    window.showMessage(QApplication::translate("main", "Recording not opened"),
+                       commandLine.fileProblem, {});
 }
 
 int run(int argc, char** argv, const CommandLine& commandLine)

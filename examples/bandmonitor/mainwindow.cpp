@@ -236,10 +236,10 @@ void MainWindow::open(const QString& path, OnFailure onFailure)
 
 void MainWindow::tellFailure(const QString& title, const QString& text, const QString& details)
 {
-    if (m_onFailure == OnFailure::ShowMessage)
+    const OnFailure onFailure = m_onFailure;
+    Q_EMIT notOpened(text, onFailure);
+    if (onFailure == OnFailure::ShowMessage)
         showMessage(title, text, details);
-    else
-        Q_EMIT notOpened(text);
 }
 
 void MainWindow::setLoadingShown(bool shown)

@@ -38,7 +38,7 @@ public:
     /// What a recording that cannot be opened, or only with gaps, leads to.
     enum class OnFailure {
         ShowMessage, ///< A message box.
-        Tell,        ///< Nothing but the session's signal, for the start of the program.
+        Tell,        ///< Nothing but notOpened(), for the start of the program.
     };
 
     explicit MainWindow(QWidget* parent = nullptr);
@@ -80,8 +80,8 @@ public Q_SLOTS:
     void showInfo();
 
 Q_SIGNALS:
-    /// What was opened with OnFailure::Tell has failed; `text` is one line for the user.
-    void notOpened(const QString& text);
+    /// What was opened has failed; `text` is one line for the user. A message box comes after it.
+    void notOpened(const QString& text, OnFailure onFailure);
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;

@@ -78,6 +78,21 @@ private Q_SLOTS:
             QCOMPARE(ended.status, 1);
             QVERIFY2(ended.errors.contains(part), ended.errors.constData());
         }
+        // In a dialog, which does not keep it from ending in good order.
+        for (const QString& input : {file, QStringLiteral("/no/such.csv")}) {
+            QProcess process;
+            process.setReadChannel(QProcess::StandardError);
+            process.start(application, {QStringLiteral("--dialogs"), QStringLiteral("--config"),
+                                        folder.path(), input});
+            QByteArray told;
+            while (!told.contains("bandmonitor: ") && process.waitForReadyRead(processTimeoutMs))
+                told += process.readAllStandardError();
+            QVERIFY2(told.contains(input.toUtf8()), told.constData());
+            process.terminate();
+            QVERIFY(process.waitForFinished(processTimeoutMs));
+            QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(process.exitCode(), 0);
+        }
     }
 
     void stateSurvives_data()
