@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "hotkeyassignments.h"
 
-#include <guibase/records/recordstore.h>
-
+#include <jtbase/errorhandler.h>
 #include <trovappstartup/cfgcenter.h>
+#include <trovappstartup/damagedrecord.h>
 
 #include <QKeySequence>
 
@@ -34,9 +34,10 @@ std::optional<HotKeyStroke> HotKeyAssignments::read(const HotKey& hotKey)
     const QString stored = place->GetString(name);
     const std::optional<HotKeyStroke> stroke = fromText(stored);
     if (!stroke)
-        RecordStore::keepAside(
-            *place, {{RecordStore::asideName(name), stored}}, name,
-            QStringLiteral("\"%1\" is no key, the registered one is used").arg(stored.left(80)));
+        DamagedRecord::keepAside(
+            *place, {{DamagedRecord::asideName(name), stored}}, name,
+            QStringLiteral("\"%1\" is no key, the registered one is used").arg(stored.left(80)),
+            ErrorHandler::TraceGuiBase);
     return stroke;
 }
 

@@ -5,7 +5,10 @@
 #include "widgetplacement.h"
 
 #include <guibase/records/hexadecimal.h>
-#include <guibase/records/recordstore.h>
+
+#include <jtbase/errorhandler.h>
+#include <trovappstartup/cfgcenter.h>
+#include <trovappstartup/damagedrecord.h>
 
 #include <utility>
 
@@ -104,10 +107,10 @@ void WindowRecord::keepAside(const QString& reason) const
 {
     const QString& name = m_record.GetName();
     const std::unique_ptr<ICfg> place =
-        CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(RecordStore::asideName(name));
-    RecordStore::keepAside(*place,
-                           {{QStringLiteral("State"), m_stateText},
-                            {QStringLiteral("Geometry"), m_geometryText},
-                            {QStringLiteral("MaximizedDocks"), m_maximizedText}},
-                           name, reason);
+        CfgCenter::GetAppCfg(SettingsView)->OpenSubCfg(DamagedRecord::asideName(name));
+    DamagedRecord::keepAside(*place,
+                             {{QStringLiteral("State"), m_stateText},
+                              {QStringLiteral("Geometry"), m_geometryText},
+                              {QStringLiteral("MaximizedDocks"), m_maximizedText}},
+                             name, reason, ErrorHandler::TraceGuiBase);
 }

@@ -2,6 +2,7 @@
 #include "recordstore.h"
 
 #include <jtbase/errorhandler.h>
+#include <trovappstartup/damagedrecord.h>
 
 RecordStore::RecordStore(CfgView view, QString section, std::function<void()> writeChanges)
     : m_view(view)
@@ -40,19 +41,9 @@ void RecordStore::write(const QString& name, const QString& text) const
     place(openSection()).SetString(name, text);
 }
 
-QString RecordStore::asideName(const QString& name)
-{
-    return DamagedRecord::asideName(name);
-}
-
 void RecordStore::keepAside(const QString& name, const QString& text, const QString& damage) const
 {
     const std::unique_ptr<ICfg> section = openSection();
-    keepAside(place(section), {{asideName(name), text}}, name, damage);
-}
-
-void RecordStore::keepAside(ICfg& place, const Texts& texts, const QString& name,
-                            const QString& damage)
-{
-    DamagedRecord::keepAside(place, texts, name, damage, ErrorHandler::TraceGuiBase);
+    DamagedRecord::keepAside(place(section), {{DamagedRecord::asideName(name), text}}, name, damage,
+                             ErrorHandler::TraceGuiBase);
 }

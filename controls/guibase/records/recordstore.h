@@ -3,7 +3,6 @@
 
 #include <jtbase/delayedcall.h>
 #include <trovappstartup/cfgcenter.h>
-#include <trovappstartup/damagedrecord.h>
 
 #include <QString>
 
@@ -61,12 +60,6 @@ public:
     void dropChanges() { m_changes.cancel(); }
     /// In milliseconds, also for changes that were noted before; negative: none are written.
     void setWriteDelay(int milliseconds) { m_changes.setDelay(milliseconds); }
-
-    using Texts = DamagedRecord::Texts;
-    static QString asideName(const QString& name);
-    /// See DamagedRecord.
-    static void keepAside(ICfg& place, const Texts& texts, const QString& name,
-                          const QString& damage);
 
 private:
     void keepAside(const QString& name, const QString& text, const QString& damage) const;
