@@ -59,8 +59,10 @@ void NormalSize::resize(QWidget& window, const QSize& size)
 
 bool NormalSize::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == &m_window && event->type() == QEvent::Hide)
-        deleteLater();
+    if (watched == &m_window && event->type() == QEvent::Hide) {
+        delete this; // At once: the next size of the window is not for one that is about to go.
+        return false;
+    }
     // The toolkit is in the middle of it.
     if (watched != &m_window && event->type() == QEvent::WindowStateChange && event->spontaneous())
         QTimerHelpers::singleShot(0, this, [this] { takeAnswer(); });
