@@ -21,6 +21,9 @@ class GuiBasePrivate
 public:
     explicit GuiBasePrivate(GuiBase& services);
 
+    /// The desktop has become dark or light, or changed its colours otherwise.
+    static void followDesktopColors();
+
     DisplaySettings settings;
     SettingsRecord record;
     HelpMenu helpMenu;
@@ -28,9 +31,6 @@ public:
     PersistentWidgetRegistry persistentWidgets;
     ColumnTable columns;
     SplitterTable splitters;
-    /// The desktop has become dark or light, or changed its colours otherwise.
-    static void followDesktopColors();
-
     QPointer<QApplication> application;
     QPointer<QWidget> mainWidget;
     /// Tells the main widget from others also while it is destroyed; never dereferenced.

@@ -66,6 +66,7 @@ void SettingsRecord::followChoices()
 {
     if (!m_followers.empty())
         return;
+    CfgCenter::RegisterSaveComponent(this);
     for (ValueSelection* selection : m_selections)
         m_followers.push_back(std::make_unique<ValueFollower>(selection, [this] { noteChoice(); }));
 }

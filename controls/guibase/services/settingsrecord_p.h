@@ -3,6 +3,7 @@
 
 #include <guibase/records/recordstore.h>
 
+#include <trovappstartup/savecomponentif.h>
 #include <valueframework/persistant.h>
 
 #include <QString>
@@ -17,19 +18,19 @@ class ValueFollower;
 
 /// The record of what the user chose for the whole application: colour set, time zone and position
 /// format.
-class SettingsRecord
+class SettingsRecord : private SaveComponentIf
 {
 public:
     /// The owner passes its two operations on to beforeWrite() and afterRead(). Neither it nor the
     /// settings are owned.
     SettingsRecord(PersistantOwner& owner, DisplaySettings& settings);
-    ~SettingsRecord();
+    ~SettingsRecord() override;
 
     bool exists() const;
     void read();
     void write();
     /// From now on every choice is written after the write delay, so that a killed process loses
-    /// little.
+    /// little, and at once when the session or the server of its windows ends.
     void followChoices();
     /// Something was chosen, if choices are followed and not just being read.
     void noteChoice();
@@ -40,6 +41,10 @@ public:
     void afterRead();
 
 private:
+    void Save() override {} // The end of the application writes.
+    void Load() override {}
+    void CommitData() override { write(); }
+
     /// One value of the record. Only those that were chosen here are written: another process may
     /// have chosen the others meanwhile.
     struct Part
