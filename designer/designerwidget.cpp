@@ -59,6 +59,6 @@ QString DesignerWidget::domXml() const
     const QString content = QStringLiteral("<widget class=\"QWidget\" name=\"contents\"/>");
     return QStringLiteral(
                "<ui language=\"c++\"><widget class=\"%1\" name=\"%2\">%3%4</widget></ui>")
-        .arg(name(), objectName, size.arg(m_row.width).arg(m_row.height),
+        .arg(name(), objectName, size.arg(m_row.size.width()).arg(m_row.size.height()),
              m_row.content == WidgetRow::OneWidget ? content : QString());
 }

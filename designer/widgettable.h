@@ -3,6 +3,8 @@
 
 #include "designericons.h"
 
+#include <QSize>
+
 #include <span>
 
 class QWidget;
@@ -22,8 +24,7 @@ struct WidgetRow
     const char* toolTip;
     DesignerPicture picture;
     const char* badge; ///< A few letters on the picture; may be empty.
-    int width;         ///< When it is dropped, in pixels.
-    int height;
+    QSize size;        ///< When it is dropped, in pixels.
     Content content;
     QWidget* (*create)(QWidget* parent);
 };
