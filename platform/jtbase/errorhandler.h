@@ -22,7 +22,7 @@ public:
         TraceAssertions = 0x02,
         TracePlatform = 0x10,
         TraceGuiBase = 0x20,
-        TraceMisuse = 0x40, ///< Of these also what the developer must mend, such as a missing slot.
+        TraceMisuse = 0x40, ///< What the developer must mend, such as a missing slot.
     };
 
     /// The mask at start-up: assertions, platform reports and misuse.

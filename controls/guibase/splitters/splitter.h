@@ -20,7 +20,7 @@ class GUIBASE_EXPORT Splitter : public QSplitter
     Q_PROPERTY(QString storageName READ storageName WRITE setStorageName)
 public:
     explicit Splitter(QWidget* parent = nullptr);
-    /// The positions are kept under `name`; not without one.
+    /// The positions are kept under `name`, if there is one.
     explicit Splitter(Qt::Orientation orientation, QWidget* parent = nullptr);
     Splitter(Qt::Orientation orientation, QWidget* parent, const QString& objectName,
              const QString& name);
