@@ -6,6 +6,7 @@
 #include <jtbase/errorhandler.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -22,16 +23,37 @@ QString setting(const QString& key)
     return CfgCenter::GetAppCfg(SettingsView)->GetString(key).trimmed();
 }
 
+const QString systemLanguage = QStringLiteral("system");
+const QString embeddedFolder = QStringLiteral(":/i18n");
+const QString languageKey = QStringLiteral("Language");
+
+/// The locale of the language. The desktop may show texts in another language than numbers.
+QLocale localeOf(const QString& language)
+{
+    return QLocale(language == systemLanguage ? QLocale::system().uiLanguages().value(0)
+                                              : language);
+}
+
 /// The endings of file names for the language, the most special one first; none when it is no
 /// language.
 QStringList fileEndings(const QString& language)
 {
-    const QLocale locale(language);
+    const QLocale locale = localeOf(language);
     if (locale.language() == QLocale::C)
         return {};
     QStringList endings{locale.name(), locale.name().section(u'_', 0, 0)};
     endings.removeDuplicates();
     return endings;
+}
+
+/// What stands before `ending` and after `beginning` in the names of the embedded files.
+QStringList embeddedParts(const QString& beginning, const QString& ending)
+{
+    QStringList parts =
+        QDir(embeddedFolder).entryList({beginning + u'*' + ending}, QDir::Files, QDir::Name);
+    for (QString& part : parts)
+        part = part.mid(beginning.size()).chopped(ending.size());
+    return parts;
 }
 
 } // namespace
@@ -40,12 +62,15 @@ class TranslationCenterPrivate
 {
 public:
     QStringList folders() const;
+    QStringList cataloguesFor(const QStringList& endings) const;
     void load(const QString& catalogue, const QStringList& endings);
     bool loadFile(const QString& file);
     void clear();
     static void releaseApplication();
 
-    QStringList catalogues{QStringLiteral("qtbase"), QStringLiteral("guibase")};
+    QString language;
+    QString defaultLanguage;
+    QStringList catalogues{QStringLiteral("qtbase")};
     QStringList addedFolders;
     QStringList loadedFiles;
     std::vector<std::unique_ptr<QTranslator>> translators;
@@ -54,9 +79,18 @@ public:
 QStringList TranslationCenterPrivate::folders() const
 {
     QStringList all = addedFolders;
-    all << QStringLiteral(":/i18n")
+    all << embeddedFolder
         << QCoreApplication::applicationDirPath() + QStringLiteral("/translations")
         << QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    return all;
+}
+
+QStringList TranslationCenterPrivate::cataloguesFor(const QStringList& endings) const
+{
+    QStringList all = catalogues;
+    for (const QString& ending : endings)
+        all << embeddedParts({}, QStringLiteral("_%1.qm").arg(ending));
+    all.removeDuplicates();
     return all;
 }
 
@@ -113,7 +147,35 @@ TranslationCenter& TranslationCenter::Instance()
 
 QString TranslationCenter::GetLanguageFromCfg()
 {
-    return setting(QStringLiteral("Language"));
+    return setting(languageKey);
+}
+
+void TranslationCenter::SetLanguage2Cfg(const QString& language)
+{
+    CfgCenter::GetAppCfg(SettingsView)->SetString(languageKey, language);
+}
+
+QString TranslationCenter::GetLanguage() const
+{
+    if (!d->language.isEmpty())
+        return d->language;
+    const QString configured = GetLanguageFromCfg();
+    return configured.isEmpty() ? d->defaultLanguage : configured;
+}
+
+void TranslationCenter::SetDefaultLanguage(const QString& language)
+{
+    d->defaultLanguage = language;
+}
+
+void TranslationCenter::SetLanguage(const QString& language)
+{
+    d->language = language;
+}
+
+QStringList TranslationCenter::GetLanguages(const QString& catalogue)
+{
+    return embeddedParts(catalogue + u'_', QStringLiteral(".qm"));
 }
 
 QString TranslationCenter::GetFontFromCfg()
@@ -143,18 +205,19 @@ int TranslationCenter::Init()
     if (!TROV_ASSERT(QCoreApplication::instance() != nullptr, module))
         return 0;
     d->clear();
-    const QString language = GetLanguageFromCfg();
+    const QString language = GetLanguage();
     const QStringList endings = fileEndings(language);
     if (endings.isEmpty()) {
-        if (!language.isEmpty()) {
+        if (!language.isEmpty() && language != systemLanguage) {
             ErrorHandler::Trace(ErrorHandler::TracePlatform, module, __LINE__,
                                 QStringLiteral("\"%1\" is no language").arg(language));
         }
         QLocale::setDefault(QLocale::system());
         return 0;
     }
-    QLocale::setDefault(QLocale(language));
-    for (const QString& catalogue : std::as_const(d->catalogues))
+    QLocale::setDefault(localeOf(language));
+    const QStringList catalogues = d->cataloguesFor(endings);
+    for (const QString& catalogue : catalogues)
         d->load(catalogue, endings);
     qRemovePostRoutine(&TranslationCenterPrivate::releaseApplication);
     qAddPostRoutine(&TranslationCenterPrivate::releaseApplication);

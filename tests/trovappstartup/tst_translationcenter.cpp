@@ -36,6 +36,7 @@ private Q_SLOTS:
         row.add("fr", "Hello", "fr_FR", "is no translation file");
         row.add("it", "Hello", "it_IT", "");
         row.add("../de", "Hello", "", "is no language");
+        row.add("system", "Hello", "", "");
         row.add("", "Hello", "", "");
     }
     /// The centre lives as long as the process: each row replaces what the row before installed.
@@ -58,6 +59,29 @@ private Q_SLOTS:
         QCOMPARE(QCoreApplication::translate("Test", "Hello"), translation);
         QCOMPARE(found, center.GetLoadedFiles().size());
         QCOMPARE(QLocale().name(), localeName.isEmpty() ? QLocale::system().name() : localeName);
+    }
+
+    /// A command line goes before the configuration, and a program's own default after it.
+    void takesTheFirstLanguageThatIsNamed()
+    {
+        TranslationCenter& center = TranslationCenter::Instance();
+        QCOMPARE(center.GetLanguage(), QString());
+        center.SetDefaultLanguage(QStringLiteral("it"));
+        QCOMPARE(center.GetLanguage(), QStringLiteral("it"));
+        TranslationCenter::SetLanguage2Cfg(QStringLiteral("fr"));
+        QCOMPARE(center.GetLanguage(), QStringLiteral("fr"));
+        center.SetLanguage(QStringLiteral("de"));
+        QCOMPARE(center.GetLanguage(), QStringLiteral("de"));
+        QCOMPARE(TranslationCenter::GetLanguageFromCfg(), QStringLiteral("fr"));
+
+        // The libraries bring their catalogues with them, where they could be compiled.
+        const bool hasGerman = TranslationCenter::GetLanguages(QStringLiteral("jtbase"))
+                                   .contains(QStringLiteral("de"));
+        QVERIFY(center.Init() >= (hasGerman ? 1 : 0));
+        QCOMPARE(QCoreApplication::translate("CoordFormat", "Degrees"),
+                 hasGerman ? QStringLiteral("Grad") : QStringLiteral("Degrees"));
+        center.SetLanguage({});
+        center.SetDefaultLanguage({});
     }
 };
 

@@ -10,9 +10,10 @@
 
 bool ApplicationSetup::installLanguage()
 {
-    if (TranslationCenter::GetLanguageFromCfg().isEmpty())
+    TranslationCenter& center = TranslationCenter::Instance();
+    if (center.GetLanguage().isEmpty())
         return false;
-    TranslationCenter::Instance().Init();
+    center.Init();
     return true;
 }
 

@@ -4,7 +4,7 @@
 /// The steps of preparing an application object that belong to no other duty.
 namespace ApplicationSetup {
 
-/// Installs the configured language; false without one.
+/// Installs the language that is configured or set; false without one.
 bool installLanguage();
 /// Replaces the error handler's message dialog, when it has one, by the family's own with the same
 /// settings.
