@@ -26,7 +26,8 @@ class GUIBASE_EXPORT ColorSet final : public QObject, public IColorBase, public 
     Q_OBJECT
 public:
     /// The current file name while the factory assignment is in use.
-    static constexpr const char* factoryDefaultName = "*** Factory Default ***";
+    static constexpr const char* factoryDefaultName =
+        QT_TRANSLATE_NOOP("ColorSet", "*** Factory Default ***");
 
     /// The names of the other sets that come with the library: for dark desktops, and for people
     /// who cannot tell red from green. SetApplication() chooses the dark one when nothing is stored

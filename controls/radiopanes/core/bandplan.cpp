@@ -16,10 +16,10 @@ namespace {
 
 constexpr qsizetype maximumErrors = 10;
 
-QString tr(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("BandPlan", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(RadioPanes::BandPlan)
+};
 
 bool isEntry(const BandPlan::Entry& entry)
 {
@@ -61,14 +61,14 @@ QString readLine(QStringView line, BandPlan::Entry& entry)
     const QStringView first = next();
     const std::optional<double> start = hertzOf(first);
     if (!start)
-        return tr("“%1” is no frequency").arg(first.left(40));
+        return Texts::tr("“%1” is no frequency").arg(first.left(40));
     const QStringView rest = line;
     const std::optional<double> stop = hertzOf(next());
     entry.startHz = *start;
     entry.stopHz = stop.value_or(*start);
     entry.name = (stop ? line : rest).trimmed().toString();
     if (entry.stopHz < entry.startHz)
-        return tr("the stop is below the start");
+        return Texts::tr("the stop is below the start");
     return {};
 }
 
@@ -110,7 +110,7 @@ BandPlan::Reading BandPlan::parse(const QString& text)
         if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
             continue;
         if (entries.size() == maximumEntries) {
-            errors << tr("Line %1: more than %2 entries").arg(number).arg(maximumEntries);
+            errors << Texts::tr("Line %1: more than %2 entries").arg(number).arg(maximumEntries);
             break;
         }
         Entry entry;
@@ -118,8 +118,8 @@ BandPlan::Reading BandPlan::parse(const QString& text)
         if (error.isEmpty())
             entries.push_back(std::move(entry));
         else if (errors.size() < maximumErrors)
-            errors << tr("Line %1: %2. Expected: start, stop, name – as in "
-                         "“87.5 MHz, 108 MHz, FM broadcast”.")
+            errors << Texts::tr("Line %1: %2. Expected: start, stop, name – as in "
+                                "“87.5 MHz, 108 MHz, FM broadcast”.")
                           .arg(number)
                           .arg(error);
     }
@@ -130,10 +130,10 @@ BandPlan::Reading BandPlan::read(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return {{}, {tr("%1 cannot be read: %2").arg(path, file.errorString())}};
+        return {{}, {Texts::tr("%1 cannot be read: %2").arg(path, file.errorString())}};
     const QByteArray bytes = file.read(maximumBytes + 1);
     if (bytes.size() > maximumBytes)
-        return {{}, {tr("%1 is no band plan: it has more than 4 MB").arg(path)}};
+        return {{}, {Texts::tr("%1 is no band plan: it has more than 4 MB").arg(path)}};
     return parse(QString::fromUtf8(bytes));
 }
 

@@ -19,10 +19,10 @@ constexpr int meanOf = 8;
 constexpr std::size_t fewestArrivals = 5; // of slow sweeps
 constexpr std::size_t mostArrivals = 256;
 
-QString tr(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("bandmonitor::LiveWatch", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(bandmonitor::LiveWatch)
+};
 
 QString megahertz(double hertz)
 {
@@ -82,8 +82,8 @@ void LiveWatch::watchTime(const Sweep& sweep, qint64 nowUs, QStringList& remarks
         const qint64 gapUs = stampUs - static_cast<qint64>(*m_stampUs);
         const qint64 aheadUs = gapUs - (nowUs - m_arrivedUs);
         if (gapUs < 0 || aheadUs > std::max(smallestJumpUs, usualGaps * m_usualGapUs)) {
-            remarks << (gapUs < 0 ? tr("The time stamps jump back by %1.")
-                                  : tr("The time stamps jump ahead by %1."))
+            remarks << (gapUs < 0 ? Texts::tr("The time stamps jump back by %1.")
+                                  : Texts::tr("The time stamps jump ahead by %1."))
                            .arg(durationText(std::abs(gapUs)));
             m_fastestUs.reset();
         } else {
@@ -102,7 +102,7 @@ void LiveWatch::watchSpan(const Sweep& sweep, QStringList& remarks)
     if (sweep.lowHz == m_lowHz && sweep.highHz == m_highHz)
         return;
     if (m_highHz > m_lowHz)
-        remarks << tr("The span is %1 to %2 MHz now.")
+        remarks << Texts::tr("The span is %1 to %2 MHz now.")
                        .arg(megahertz(sweep.lowHz), megahertz(sweep.highHz));
     m_lowHz = sweep.lowHz;
     m_highHz = sweep.highHz;
@@ -120,12 +120,14 @@ QString durationText(qint64 us)
     constexpr qint64 second = 1'000'000;
     constexpr qint64 minute = 60 * second;
     if (us < 10 * second)
-        return tr("%1 s").arg(QLocale().toString(static_cast<double>(us) / second, 'f', 1));
+        return Texts::tr("%1 s").arg(QLocale().toString(static_cast<double>(us) / second, 'f', 1));
     if (us < 3 * minute)
-        return tr("%1 s").arg(QLocale().toString(us / second));
+        return Texts::tr("%1 s").arg(QLocale().toString(us / second));
     if (us < 60 * minute)
-        return tr("%1 min").arg(us / minute);
-    return tr("%1 h %2 min").arg(QLocale().toString(us / (60 * minute))).arg(us / minute % 60);
+        return Texts::tr("%1 min").arg(us / minute);
+    return Texts::tr("%1 h %2 min")
+        .arg(QLocale().toString(us / (60 * minute)))
+        .arg(us / minute % 60);
 }
 
 } // namespace bandmonitor

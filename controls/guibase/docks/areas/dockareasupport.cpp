@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QChildEvent>
+#include <QCoreApplication>
 #include <QDockWidget>
 #include <QTimer>
 
@@ -67,8 +68,10 @@ QMap<Qt::DockWidgetArea, QAction*> DockAreaSupport::createActions(QFlags<Qt::Doc
     for (const auto& row : m_operation.areas) {
         if (!areas.testFlag(row.area))
             continue;
-        auto* action = new QAction(makeDockIcon(row.icon),
-                                   m_support.metaObject()->tr(row.actionText, nullptr), parent);
+        auto* action = new QAction(
+            makeDockIcon(row.icon),
+            QCoreApplication::translate(m_support.metaObject()->className(), row.actionText),
+            parent);
         action->setObjectName(QString::fromLatin1(m_operation.actionName).arg(int(row.area)));
         AreaAction::setArea(*action, row.area);
         QObject::connect(action, &QAction::triggered, &m_support,

@@ -33,6 +33,8 @@ constexpr std::array commandKeys{
                QT_TRANSLATE_NOOP("SortListView", "Show or hide columns")},
 };
 
+constexpr const char* overviewScope = QT_TRANSLATE_NOOP("SortListView", "Lists");
+
 /// In the hot-key overview; 0 for keys that are not in it.
 std::array<int, commandKeys.size()> hotKeyIds{};
 
@@ -101,7 +103,7 @@ void ListColumnKeys::showInOverview(GuiBase& services)
         const auto& [key, comment] = commandKeys[command];
         hotKeyIds[command] =
             services.ShowHotKey(key.key(), static_cast<int>(key.keyboardModifiers().toInt()),
-                                SortListView::tr(comment), SortListView::tr("Lists"));
+                                SortListView::tr(comment), SortListView::tr(overviewScope));
     }
 }
 
