@@ -96,9 +96,9 @@ public:
                                RadioPanes::colorMapCount - 1};
     ValueNumeric<int> timeZoom{QStringLiteral("timeZoom")}; ///< See WaterfallPane::timeZoom().
 
-    Value<QString> pins{QStringLiteral("pins")};           ///< See PinKeeper.
-    Value<QString> bookmarks{QStringLiteral("bookmarks")}; ///< See BandPlan::text().
-    Value<QString> bandPlan{QStringLiteral("bandPlan")};   ///< The path of its file.
+    Value<QString> pins{QStringLiteral("pins")};              ///< See PinKeeper.
+    Value<QString> bookmarks{QStringLiteral("bookmarks")};    ///< See BandPlan::text().
+    Value<QString> bandPlan{QStringLiteral("bandPlan")};      ///< The path of its file.
     Value<QString> referenceLevels{QStringLiteral("levels")}; ///< See SortRowTable::parseRows().
     ValueNumeric<int> jobOrder{QStringLiteral("jobOrder"), 0, 0, 2}; ///< A JobOrder.
     ValueNumeric<int> heading{QStringLiteral("heading"), 0, 0, 359}; ///< In degrees.
