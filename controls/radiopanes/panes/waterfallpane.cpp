@@ -399,8 +399,10 @@ std::optional<HistoryPlace> WaterfallPane::placeAt(const QPoint& position) const
     place.hertz = frequencyAt(position.x() + 0.5);
     const SweepHistory& history = *d->lines.history();
     const qsizetype sweep = sweepAt(position.y());
-    if (sweep < 0)
-        return place; // its levels have gone
+    if (sweep < 0) { // its levels have gone
+        place.stepHz = hertzOf(1);
+        return place;
+    }
     if (const auto bin = history.sweep(sweep).placeOf(place.hertz))
         place.stepHz = bin->segment->stepHz;
     // What the pixel shows.
