@@ -72,7 +72,7 @@ std::optional<double> frequencyOf(QString text)
         factor = value;
         break;
     }
-    const std::optional<double> number = numberOf(text, 0, 1e13 / factor);
+    const std::optional<double> number = numberOf(text, -1e13 / factor, 1e13 / factor);
     return number ? std::optional(*number * factor) : std::nullopt;
 }
 
