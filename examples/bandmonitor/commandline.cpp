@@ -8,6 +8,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLocale>
 
 #include <algorithm>
 #include <span>
@@ -29,10 +30,10 @@ constexpr const char* toolkitOptionsWithValue[] = {
 };
 constexpr const char* toolkitOptionsAlone[] = {"reverse", "widgetcount"};
 
-QString tr(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("bandmonitor::CommandLine", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(bandmonitor::CommandLine)
+};
 
 CommandLine failure(const QString& reason)
 {
@@ -55,11 +56,11 @@ QString fileProblem(const QString& name)
 {
     const QFileInfo file(name);
     if (!file.exists())
-        return tr("There is no file \"%1\".").arg(name);
+        return Texts::tr("There is no file \"%1\".").arg(name);
     if (file.isDir())
-        return tr("\"%1\" is a folder, not a recording.").arg(name);
+        return Texts::tr("\"%1\" is a folder, not a recording.").arg(name);
     if (!file.isReadable())
-        return tr("The file \"%1\" may not be read.").arg(name);
+        return Texts::tr("The file \"%1\" may not be read.").arg(name);
     return {};
 }
 
@@ -70,6 +71,11 @@ std::optional<double> replayFactorOf(const QString& text)
     const double factor = NumberHelpers::parse<double>(text, &ok);
     const bool isFine = ok && factor >= Replay::minimumSpeed && factor <= Replay::maximumSpeed;
     return isFine ? std::optional(factor) : std::nullopt;
+}
+
+bool isLanguage(const QString& text)
+{
+    return text == QLatin1String("system") || QLocale(text).language() != QLocale::C;
 }
 
 bool isFifo(const QString& name)
@@ -83,7 +89,7 @@ bool isFifo(const QString& name)
 QString takeFile(const QStringList& files, bool isFollowed, CommandLine& result)
 {
     if (files.size() > 1)
-        return tr("Only one recording can be opened, but %1 were given.").arg(files.size());
+        return Texts::tr("Only one recording can be opened, but %1 were given.").arg(files.size());
     result.file = files.value(0);
     if (!isFollowed && result.file == QLatin1String("-")) {
         result.live = CommandLine::StandardInput;
@@ -96,7 +102,7 @@ QString takeFile(const QStringList& files, bool isFollowed, CommandLine& result)
             result.live = CommandLine::FollowedFile;
     }
     return result.live != CommandLine::None && !result.screenshotsFolder.isEmpty()
-               ? tr("Pictures are taken of recordings, not of live input.")
+               ? Texts::tr("Pictures are taken of recordings, not of live input.")
                : QString();
 }
 
@@ -104,28 +110,35 @@ struct Options
 {
     // The parser's own help option brings a second one with it, for options that are not offered.
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
-                            tr("Print this text and end.")};
+                            Texts::tr("Print this text and end.")};
     QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
-                               tr("Print the version and end.")};
-    QCommandLineOption config{QStringLiteral("config"), tr("Keep the settings in the folder DIR."),
+                               Texts::tr("Print the version and end.")};
+    QCommandLineOption config{QStringLiteral("config"),
+                              Texts::tr("Keep the settings in the folder DIR."),
                               QStringLiteral("DIR")};
-    QCommandLineOption screenshots{QStringLiteral("shots"),
-                                   tr("Write pictures of the windows into the folder DIR and end."),
-                                   QStringLiteral("DIR")};
+    QCommandLineOption screenshots{
+        QStringLiteral("shots"),
+        Texts::tr("Write pictures of the windows into the folder DIR and end."),
+        QStringLiteral("DIR")};
     QCommandLineOption replay{
         QStringLiteral("replay"),
-        tr("Start to replay at once, FACTOR (0.1 to 10000) times as fast as recorded."),
+        Texts::tr("Start to replay at once, FACTOR (0.1 to 10000) times as fast as recorded."),
         QStringLiteral("FACTOR")};
-    QCommandLineOption follow{QStringLiteral("follow"),
-                              tr("Show the sweeps of FILE live, while another program writes it."),
-                              QStringLiteral("FILE")};
+    QCommandLineOption follow{
+        QStringLiteral("follow"),
+        Texts::tr("Show the sweeps of FILE live, while another program writes it."),
+        QStringLiteral("FILE")};
     QCommandLineOption history{
         QStringLiteral("history"),
-        tr("Keep so many megabytes (1 to 1000000) of live sweeps; 512 by default."),
+        Texts::tr("Keep so many megabytes (1 to 1000000) of live sweeps; 512 by default."),
         QStringLiteral("MB")};
+    QCommandLineOption language{
+        QStringLiteral("language"),
+        Texts::tr("Show texts in the language LANG, such as de, or system; only this time."),
+        QStringLiteral("LANG")};
     QCommandLineOption dialogs{
         QStringLiteral("dialogs"),
-        tr("Tell of a file that cannot be opened in a dialog instead of ending.")};
+        Texts::tr("Tell of a file that cannot be opened in a dialog instead of ending.")};
 };
 
 /// Reads the options and the name of the recording.
@@ -139,14 +152,20 @@ CommandLine readValues(const QCommandLineParser& parser, const Options& options)
             continue;
         *folder = parser.value(*option);
         if (folder->isEmpty() || (QFileInfo::exists(*folder) && !QFileInfo(*folder).isDir()))
-            return failure(tr("\"%1\" is not a folder.").arg(*folder));
+            return failure(Texts::tr("\"%1\" is not a folder.").arg(*folder));
     }
     if (parser.isSet(options.replay)) {
         const QString factor = parser.value(options.replay);
         result.replayFactor = replayFactorOf(factor);
         if (!result.replayFactor)
-            return failure(tr("The replay factor must be a number from 0.1 to 10000, not \"%1\".")
-                               .arg(factor));
+            return failure(
+                Texts::tr("The replay factor must be a number from 0.1 to 10000, not \"%1\".")
+                    .arg(factor));
+    }
+    if (parser.isSet(options.language)) {
+        const QString language = parser.value(options.language);
+        if (!isLanguage(language))
+            return failure(Texts::tr("\"%1\" is no language.").arg(language));
     }
     if (parser.isSet(options.history)) {
         const QString text = parser.value(options.history);
@@ -154,7 +173,8 @@ CommandLine readValues(const QCommandLineParser& parser, const Options& options)
         const int megabytes = NumberHelpers::parse<int>(text, &ok);
         if (!ok || megabytes < smallestHistory || megabytes > largestHistory)
             return failure(
-                tr("The history must be a number of megabytes from 1 to 1000000, not \"%1\".")
+                Texts::tr(
+                    "The history must be a number of megabytes from 1 to 1000000, not \"%1\".")
                     .arg(text));
         result.historyMegabytes = megabytes;
     }
@@ -197,20 +217,18 @@ QStringList ownArguments(const QStringList& arguments)
     return result;
 }
 
-} // namespace
-
-CommandLine parseCommandLine(const QStringList& arguments)
+CommandLine answer(QCommandLineParser& parser, const Options& options, const QStringList& arguments)
 {
-    const Options options;
-    QCommandLineParser parser;
     parser.setApplicationDescription(
-        tr("Shows and replays recordings of a band: spectrum, waterfall and hold maximum."));
+        Texts::tr("Shows and replays recordings of a band: spectrum, waterfall and hold maximum."));
     parser.addOptions({options.help, options.version, options.config, options.screenshots,
-                       options.replay, options.follow, options.history, options.dialogs});
-    parser.addPositionalArgument(QStringLiteral("FILE"),
-                                 tr("The recording to open; a FIFO, or - for the standard input, "
-                                    "is shown live; without it, the built-in sample."),
-                                 QStringLiteral("[FILE]"));
+                       options.replay, options.follow, options.history, options.language,
+                       options.dialogs});
+    parser.addPositionalArgument(
+        QStringLiteral("FILE"),
+        Texts::tr("The recording to open; a FIFO, or - for the standard input, "
+                  "is shown live; without it, the built-in sample."),
+        QStringLiteral("[FILE]"));
     if (!parser.parse(ownArguments(arguments)))
         return failure(parser.errorText());
     if (parser.isSet(options.help))
@@ -219,6 +237,19 @@ CommandLine parseCommandLine(const QStringList& arguments)
         return printed(
             QStringLiteral("bandmonitor %1\n").arg(QCoreApplication::applicationVersion()));
     return readValues(parser, options);
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const QStringList& arguments)
+{
+    const Options options;
+    QCommandLineParser parser;
+    CommandLine result = answer(parser, options, arguments);
+    // Whatever the answer is, it is given in this language.
+    if (const QString language = parser.value(options.language); isLanguage(language))
+        result.language = language;
+    return result;
 }
 
 } // namespace bandmonitor

@@ -25,6 +25,7 @@ struct CommandLine
     QString file; ///< Empty: the built-in sample.
     Live live = None;
     std::optional<int> historyMegabytes;
+    QString language;           ///< Of the texts, as a locale name; empty: the configured one.
     QString configFolder;       ///< Empty: the platform's.
     QString screenshotsFolder;  ///< Empty: no pictures, a normal run.
     bool tellsInWindow = false; ///< Of files that cannot be opened; otherwise the program ends.

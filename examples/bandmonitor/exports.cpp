@@ -41,11 +41,6 @@ QString plain(QString title)
     return title.remove(u'&');
 }
 
-Qt::Key mnemonicOf(const QString& title)
-{
-    return static_cast<Qt::Key>(title.at(title.indexOf(u'&') + 1).toUpper().unicode());
-}
-
 } // namespace
 
 Exports::Exports(MainWindow& window)
@@ -56,28 +51,35 @@ Exports::Exports(MainWindow& window)
 {
     BandView& band = window.bandView();
     m_items = {
-        {tr("Picture of the &window"), tr("window"), [&window] { return window.grab(); }, {}},
+        {tr("Picture of the &window"),
+         Qt::Key_W,
+         tr("window"),
+         [&window] { return window.grab(); },
+         {}},
         {tr("Picture of the &spectrum"),
+         Qt::Key_S,
          tr("spectrum"),
          [&band] { return band.spectrum().grab(); },
          {}},
         {tr("Picture of the wate&rfall"),
+         Qt::Key_R,
          tr("waterfall"),
          [&band] { return band.waterfall().grab(); },
          {}},
         {tr("S&ignals as text"),
+         Qt::Key_I,
          tr("signals"),
          {},
          [&window] { return window.panel<SignalsPanel>().text(); }},
         {tr("&Events as text"),
+         Qt::Key_E,
          tr("events"),
          {},
          [&window] { return window.panel<EventLogPanel>().shownText(); }},
     };
     for (const Item& item : m_items) {
-        const Qt::Key key = mnemonicOf(item.title);
-        Keys::addEntry(*m_copyMenu, item.title, copyKeys | key, [this, &item] { copy(item); });
-        Keys::addEntry(*m_exportMenu, item.title + QStringLiteral("…"), exportKeys | key,
+        Keys::addEntry(*m_copyMenu, item.title, copyKeys | item.key, [this, &item] { copy(item); });
+        Keys::addEntry(*m_exportMenu, item.title + QStringLiteral("…"), exportKeys | item.key,
                        [this, &item] { write(item); });
     }
 }

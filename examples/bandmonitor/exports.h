@@ -36,7 +36,8 @@ Q_SIGNALS:
 private:
     struct Item
     {
-        QString title; ///< With a mnemonic, which is also its key.
+        QString title; ///< With a mnemonic.
+        Qt::Key key;   ///< The same in every language.
         QString fileName;
         std::function<QPixmap()> picture; ///< This or
         std::function<QString()> text;    ///< this.

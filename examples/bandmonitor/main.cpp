@@ -11,6 +11,7 @@
 
 #include <guibase/services/guibase.h>
 #include <trovappstartup/cfgcenter.h>
+#include <trovappstartup/translationcenter.h>
 #include <trovappstartup/trovapplication.h>
 
 #include <QApplication>
@@ -24,11 +25,30 @@ using namespace bandmonitor;
 namespace {
 
 /// The command line is read before there is a QApplication, so that help, version and mistakes are
-/// answered without a display.
+/// answered without a display. That is done in its own language, or in the desktop's: the
+/// configuration is not opened for it.
 CommandLine readCommandLine(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
+    TranslationCenter& center = TranslationCenter::Instance();
+    center.SetLanguage(QStringLiteral("system"));
+    center.Init();
+    const CommandLine commandLine = parseCommandLine(QCoreApplication::arguments());
+    if (commandLine.language.isEmpty())
+        return commandLine;
+    center.SetLanguage(commandLine.language);
+    center.Init();
     return parseCommandLine(QCoreApplication::arguments());
+}
+
+/// Pictures are made in English, wherever they are made, unless the command line names a language.
+void chooseLanguage(const CommandLine& commandLine)
+{
+    const bool takesPictures = !commandLine.screenshotsFolder.isEmpty();
+    TranslationCenter& center = TranslationCenter::Instance();
+    center.SetDefaultLanguage(QStringLiteral("system"));
+    center.SetLanguage(takesPictures && commandLine.language.isEmpty() ? QStringLiteral("en")
+                                                                       : commandLine.language);
 }
 
 void print(std::FILE* stream, const QString& text)
@@ -129,6 +149,7 @@ int run(int argc, char** argv, const CommandLine& commandLine)
         dialogs = std::make_unique<DialogCloser>();
         QObject::connect(dialogs.get(), &DialogCloser::closedUnexpectedly, &printError);
     }
+    chooseLanguage(commandLine);
     GuiBase& services = GuiBase::Instance();
     services.SetApplication(&application);
     // Frequencies have a decimal point in every language, as on radios; so have all other numbers.

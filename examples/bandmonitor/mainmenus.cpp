@@ -129,6 +129,9 @@ void MainWindow::buildViewMenu()
     addSelectionMenu(menu, tr("Time &zone"),
                      {services.GetTimeZone(), QStringLiteral("%1"), control | Qt::Key_7},
                      &MainWindow::timeZoneChanged);
+    addSelectionMenu(menu, tr("&Language"),
+                     {&m_language.selection(), QStringLiteral("%1"), control | Qt::Key_F9},
+                     &MainWindow::languageChanged);
     menu->addSeparator();
     buildBandEntries(menu);
     menu->addSeparator();

@@ -353,6 +353,18 @@ void MainWindow::timeZoneChanged()
     refreshTexts();
 }
 
+/// Texts lie in all widgets, lists and menus, and in what jobs and events have already told: they
+/// are made in one language, from the start on.
+void MainWindow::languageChanged()
+{
+    if (!m_language.keep())
+        return;
+    UserMessage message;
+    message.title = tr("Language");
+    message.text = tr("The language changes when bandmonitor starts the next time.");
+    ErrorHandler::GetMessageDlg()->Show(message, this);
+}
+
 /// Where nothing below has a menu of its own.
 void MainWindow::contextMenuEvent(QContextMenuEvent* event)
 {

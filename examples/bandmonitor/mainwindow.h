@@ -4,6 +4,7 @@
 #include "docks/modes.h"
 #include "docks/paneldocks.h"
 #include "model/session.h"
+#include "settings/languagechoice.h"
 #include "settings/sessionvalues.h"
 
 #include <valueframework/observable.h>
@@ -142,10 +143,12 @@ private:
     void frequencyUnitChanged();
     void frequencyResolutionChanged();
     void timeZoneChanged();
+    void languageChanged();
 
     static constexpr int messageTime = 8000; // of the status bar, in milliseconds
 
     ValueSelection m_resolution;
+    LanguageChoice m_language;
     std::shared_ptr<SessionValues> m_values = std::make_shared<SessionValues>();
     UndoActions* m_undo;
     Session m_session;

@@ -24,6 +24,8 @@ private Q_SLOTS:
         row.add("bandmonitor -reverse --style fusion -platform=offscreen $/a.csv", CommandLine::Run,
                 "");
         row.add("bandmonitor --dialogs $/none.csv", CommandLine::Run, "");
+        row.add("bandmonitor --language de_AT $/a.csv", CommandLine::Run, "");
+        row.add("bandmonitor --language klingon", CommandLine::Fail, "klingon");
         row.add("bandmonitor -- -reverse", CommandLine::Fail, "-reverse");
         row.add("bandmonitor --help", CommandLine::PrintText, "[FILE]");
         row.add("bandmonitor -v", CommandLine::PrintText, "bandmonitor");

@@ -16,12 +16,14 @@
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
 #include <jtbase/qobjecthelpers.h>
+#include <trovappstartup/translationcenter.h>
 
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QElapsedTimer>
+#include <QHash>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,9 +32,51 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QTranslator>
 #include <QUrl>
 
 using namespace bandmonitor;
+
+namespace {
+
+/// Texts are German while it lives. It notes those that no catalogue has.
+class GermanTexts : public QTranslator
+{
+public:
+    GermanTexts()
+    {
+        // Asked last: those that come later are asked first.
+        QCoreApplication::installTranslator(this);
+        install(QStringLiteral("de"));
+    }
+    GermanTexts(const GermanTexts&) = delete;
+    GermanTexts& operator=(const GermanTexts&) = delete;
+    ~GermanTexts() override { install({}); }
+
+    QStringList missing() const { return m_missing; }
+    bool isEmpty() const override { return false; }
+    QString translate(const char* context, const char* text, const char* disambiguation,
+                      int) const override
+    {
+        // The toolkit's own need not be installed.
+        const QByteArray name(context);
+        if (!name.startsWith('Q') || name.contains("Helpers::"))
+            m_missing << QString::fromUtf8(name + ": " + text + disambiguation);
+        return {};
+    }
+
+private:
+    static void install(const QString& language)
+    {
+        TranslationCenter::Instance().SetLanguage(language);
+        TranslationCenter::Instance().Init();
+        QLocale::setDefault(QLocale::c());
+    }
+
+    mutable QStringList m_missing;
+};
+
+} // namespace
 
 class tst_MainWindow : public MainWindowTest
 {
@@ -59,6 +103,41 @@ class tst_MainWindow : public MainWindowTest
                 found << commands(menu->actions());
         }
         return found;
+    }
+    /// Every command is in the overview, with a key that no other one has.
+    void checkOverview() const
+    {
+        const std::unique_ptr<QWidget> overview(GuiBase::Instance().GetHotkeysCtrl(nullptr));
+        const auto* list = qobject_cast<QTreeWidget*>(overview.get());
+        QStringList shown;
+        for (int row = 0; row < list->topLevelItemCount(); ++row) {
+            const QTreeWidgetItem* item = list->topLevelItem(row);
+            shown << item->text(5);
+            QVERIFY2(item->icon(0).isNull(), qPrintable(item->toolTip(0))); // no conflict
+        }
+        const QList<QAction*> all = commands(m_window->menuBar()->actions());
+        QVERIFY(all.size() > 60);
+        QSet<QString> keys;
+        for (const QAction* command : all) {
+            const QString text = command->text().remove(u'&');
+            QVERIFY2(!command->shortcut().isEmpty(), qPrintable(text));
+            QVERIFY2(!keys.contains(command->shortcut().toString()), qPrintable(text));
+            QVERIFY2(shown.contains(text), qPrintable(text));
+            keys << command->shortcut().toString();
+        }
+    }
+    /// No two entries of a menu have one letter.
+    static void checkLetters(const QList<QAction*>& entries)
+    {
+        QHash<QString, QString> letters;
+        for (const QAction* entry : entries) {
+            const QString letter = QKeySequence::mnemonic(entry->text()).toString();
+            const QString pair = letters.value(letter) + QStringLiteral(", ") + entry->text();
+            QVERIFY2(letter.isEmpty() || !letters.contains(letter), qPrintable(pair));
+            letters.insert(letter, entry->text());
+            if (entry->menu() != nullptr)
+                checkLetters(entry->menu()->actions());
+        }
     }
     /// Types a colour in the row of the editor, as the operator does.
     static void choose(QDialog* dialog, const QString& element, const QString& color)
@@ -231,26 +310,36 @@ private Q_SLOTS:
         services.SetFrequencyUnit(UnitPrefix::Mega);
     }
 
-    void overviewShowsEveryCommandOnce()
+    void overviewShowsEveryCommandOnce() { checkOverview(); }
+
+    /// Whatever the window asks for is in a catalogue, and its keys are those of English.
+    void germanIsWhole()
     {
-        const std::unique_ptr<QWidget> overview(GuiBase::Instance().GetHotkeysCtrl(nullptr));
-        const auto* list = qobject_cast<QTreeWidget*>(overview.get());
-        QStringList shown;
-        for (int row = 0; row < list->topLevelItemCount(); ++row) {
-            const QTreeWidgetItem* item = list->topLevelItem(row);
-            shown << item->text(5);
-            QVERIFY2(item->icon(0).isNull(), qPrintable(item->toolTip(0))); // no conflict
-        }
-        const QList<QAction*> all = commands(m_window->menuBar()->actions());
-        QVERIFY(all.size() > 60);
-        QSet<QString> keys;
-        for (const QAction* command : all) {
-            const QString text = command->text().remove(u'&');
-            QVERIFY2(!command->shortcut().isEmpty(), qPrintable(text));
-            QVERIFY2(!keys.contains(command->shortcut().toString()), qPrintable(text));
-            QVERIFY2(shown.contains(text), qPrintable(text));
-            keys << command->shortcut().toString();
-        }
+        if (TranslationCenter::GetLanguages(QStringLiteral("bandmonitor")).isEmpty())
+            QSKIP("Built without lrelease");
+        const GermanTexts german;
+        openWindow();
+        QVERIFY(entry("Vergrößern") != nullptr);
+        checkOverview();
+        checkLetters(m_window->menuBar()->actions());
+        m_window.reset();
+        QCOMPARE(german.missing(), QStringList());
+    }
+
+    void chosenLanguageIsKept()
+    {
+        const auto choose = [this](const char* text) {
+            const ModalDialogCloser closer([](QDialog&) {});
+            entry(text)->trigger();
+            return closer.hasSeenDialog();
+        };
+        QVERIFY(!choose("1  As the system"));
+        QVERIFY(choose("2  English"));
+        QCOMPARE(TranslationCenter::GetLanguageFromCfg(), QStringLiteral("en"));
+        openWindow();
+        QVERIFY(entry("2  English")->isChecked());
+        QVERIFY(choose("1  As the system"));
+        QCOMPARE(TranslationCenter::GetLanguageFromCfg(), QStringLiteral("system"));
     }
 
     void toolTipsFollowChangedKeys()

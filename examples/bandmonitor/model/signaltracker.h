@@ -41,6 +41,8 @@ class SignalTracker
 public:
     static constexpr std::size_t maximumTracks = 200;
     static constexpr int knownAfterSweeps = 8;
+    /// The letters of the types that it tells.
+    static constexpr std::array types{'a', 'h', 'i', 'j', 'k'};
 
     /// Forgets all tracks. Numbers go on.
     void clear();

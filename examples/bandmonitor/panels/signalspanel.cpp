@@ -119,6 +119,13 @@ void SignalsPanel::buildColumns()
         m_list->SetCompareFunction(column, layout.compare);
         m_list->setColumnWidth(column, layout.width);
     }
+    // Names of types differ in length from language to language.
+    int widest = columnLayouts[Type].width;
+    for (const char type : SignalTracker::types) {
+        const QString name = GuiBase::Instance().GetSignalType(type);
+        widest = std::max(widest, fontMetrics().horizontalAdvance(name) + 2 * iconExtent);
+    }
+    m_list->setColumnWidth(Type, widest);
     auto* numbers = new NumberDelegate(this);
     for (const Column column : {Frequency, Level, Bandwidth})
         m_list->setItemDelegateForColumn(column, numbers);
