@@ -41,6 +41,7 @@ hot keys, layouts that come back, spectrum and waterfall panes.")
 guibase_package(development libguibase-dev libdevel
     "${guibase_runtime} (= ${PROJECT_VERSION}), qt6-base-dev (>= 6.4)"
     "For development: headers, the CMake package and the pkg-config files.")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS qt6-translations-l10n)
 if(GUIBASE_BUILD_EXAMPLES)
     list(APPEND CPACK_COMPONENTS_ALL example)
     guibase_package(example bandmonitor hamradio

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 # Sourced by ./run and ./check: what the project needs from Debian, and how to get it.
 
-build_packages=(g++ cmake ninja-build ccache qt6-base-dev libgl1-mesa-dev)
-run_packages=(fonts-dejavu-core qt6-qpa-plugins qt6-wayland)
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev libgl1-mesa-dev qt6-l10n-tools)
+run_packages=(fonts-dejavu-core qt6-qpa-plugins qt6-translations-l10n qt6-wayland)
 test_packages=(xvfb openbox x11-utils weston dbus-daemon git pkg-config dpkg-dev file desktop-file-utils man-db
     doxygen qt6-tools-dev libqt6opengl6-dev)
 benchmark_packages=(libbenchmark-dev)
