@@ -26,7 +26,7 @@ ActionBinding::ActionBinding(Value<bool>& value, QAction& action)
     action.setCheckable(true);
     connect(&action, &QAction::toggled, this, &ActionBinding::toggled);
     value.Attach(this);
-    Update(&value, ChangeCode::State);
+    ActionBinding::Update(&value, ChangeCode::State);
 }
 
 ActionBinding::~ActionBinding() = default;

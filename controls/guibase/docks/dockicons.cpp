@@ -98,9 +98,11 @@ void drawTiles(IconCanvas& canvas, const QRect& side)
     canvas.frame(1, 1, 14, 14);
     const qreal width = (side.width() - 1) / 2.0;
     const qreal height = (side.height() - 1) / 2.0;
-    for (int tile = 0; tile < 4; ++tile)
-        canvas.fill(side.x() + tile % 2 * (width + 1), side.y() + tile / 2 * (height + 1), width,
-                    height);
+    for (const int row : {0, 1}) {
+        for (const int column : {0, 1})
+            canvas.fill(side.x() + column * (width + 1), side.y() + row * (height + 1), width,
+                        height);
+    }
 }
 
 /// A pin that sticks in the window, or lies: the dock stays, or it does not.

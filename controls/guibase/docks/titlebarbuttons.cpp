@@ -210,7 +210,7 @@ bool TitleBarButtons::navigate(int key, bool leftIsNext)
     if (!TitleBarButton::isNavigationKey(key) || current < 0)
         return false;
     const auto last = static_cast<int>(reachable.size()) - 1;
-    int next = current;
+    int next = 0;
     if (key == Qt::Key_Home || key == Qt::Key_End)
         next = key == Qt::Key_Home ? 0 : last;
     else if (key == Qt::Key_Up || key == (leftIsNext ? Qt::Key_Left : Qt::Key_Right))

@@ -38,7 +38,8 @@ void LruStringListController::Init()
 
 QString LruStringListController::Select(const QString& text)
 {
-    const QString selected = text;
+    // It may be one of the list's own, which changes.
+    const QString selected = text; // NOLINT(performance-unnecessary-copy-initialization)
     d->store.apply(d->list, Operation::Select, selected);
     DisplayList();
     return selected;
