@@ -262,7 +262,7 @@
         <translation>Minimum halten</translation>
     </message>
     <message>
-        <source>Live</source>
+        <source>Current</source>
         <translation>Aktuell</translation>
     </message>
 </context>

@@ -1169,6 +1169,10 @@
         <source>The language changes when bandmonitor starts the next time.</source>
         <translation>Die Sprache wechselt beim nächsten Start von bandmonitor.</translation>
     </message>
+    <message>
+        <source>The sweep of this event is not kept any more.</source>
+        <translation>Der Durchlauf dieses Ereignisses ist nicht mehr vorhanden.</translation>
+    </message>
 </context>
 <context>
     <name>bandmonitor::Modes</name>
@@ -1194,6 +1198,37 @@
     <message>
         <source>&amp;Panels</source>
         <translation>&amp;Bereiche</translation>
+    </message>
+</context>
+<context>
+    <name>bandmonitor::PanesKeeper</name>
+    <message>
+        <source>Pins snap to peaks</source>
+        <translation>Marker rasten an Spitzen ein</translation>
+    </message>
+    <message>
+        <source>Bandwidths at the cursor</source>
+        <translation>Bandbreiten am Cursor</translation>
+    </message>
+    <message>
+        <source>Legend of the traces</source>
+        <translation>Legende der Kurven</translation>
+    </message>
+    <message>
+        <source>Legend of the waterfall</source>
+        <translation>Legende des Wasserfalls</translation>
+    </message>
+    <message>
+        <source>Overview of all sweeps</source>
+        <translation>Übersicht aller Durchläufe</translation>
+    </message>
+    <message>
+        <source>Colours of the waterfall</source>
+        <translation>Farben des Wasserfalls</translation>
+    </message>
+    <message>
+        <source>Zoom in time</source>
+        <translation>Zeitachse zoomen</translation>
     </message>
 </context>
 <context>
@@ -1330,6 +1365,18 @@
     <message>
         <source>off</source>
         <translation>aus</translation>
+    </message>
+    <message>
+        <source>as recorded</source>
+        <translation>wie aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>of one sweep</source>
+        <translation>von einem Durchlauf</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
     </message>
 </context>
 <context>
@@ -1492,6 +1539,10 @@
     <message>
         <source>Notified: %1</source>
         <translation>Gemeldet: %1</translation>
+    </message>
+    <message>
+        <source>Not notified, too many in a minute: %1</source>
+        <translation>Nicht gemeldet, zu viele in einer Minute: %1</translation>
     </message>
 </context>
 <context>
