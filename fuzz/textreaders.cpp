@@ -9,6 +9,7 @@
 #include <guibase/lists/sortrowtable.h>
 #include <jtbase/geometryarrayparser.h>
 #include <jtbase/numberhelpers.h>
+#include <jtbase/positionreader.h>
 
 #include <QDateTime>
 #include <QTimeZone>
@@ -81,6 +82,27 @@ bool readDateTime(const QByteArray& bytes)
     return readFully<QDateTime>(format, QString::fromUtf8(bytes));
 }
 
+/// What is shown in a format reads as a place that is shown in the same way.
+bool readPositionText(const QByteArray& bytes)
+{
+    const PositionReading reading = readPosition(QString::fromUtf8(bytes));
+    if (!reading.isRead()) {
+        expect(!positionRefusal(reading, CoordFormat::Utm).isEmpty(), "no reason");
+        return false;
+    }
+    expect(reading.position.isValid(), "a position beyond the globe");
+    for (int format = 0; format < coordFormatCount; ++format) {
+        const auto write = [format](const GeoPosition& position) {
+            return formatPosition(position.latitude, position.longitude, CoordFormat(format));
+        };
+        const QString text = write(reading.position);
+        const PositionReading again = readPosition(text);
+        expect(text.isEmpty() || (again.isRead() && write(again.position) == text),
+               "the text of a position reads as another one");
+    }
+    return true;
+}
+
 bool readSuffixed(const QByteArray& bytes)
 {
     SuffixedDouble number(QStringLiteral("Hz"), 1000, true);
@@ -115,10 +137,15 @@ bool readLayoutNumbers(const QByteArray& bytes)
 
 QList<Reader> textReaders()
 {
-    return {{"number", &readNumber},     {"integer", &readInteger},
-            {"real", &readReal},         {"frequency", &readFrequency},
-            {"datetime", &readDateTime}, {"suffixed", &readSuffixed},
-            {"rows", &readRows},         {"layoutnumbers", &readLayoutNumbers}};
+    return {{"number", &readNumber},
+            {"integer", &readInteger},
+            {"real", &readReal},
+            {"frequency", &readFrequency},
+            {"datetime", &readDateTime},
+            {"position", &readPositionText},
+            {"suffixed", &readSuffixed},
+            {"rows", &readRows},
+            {"layoutnumbers", &readLayoutNumbers}};
 }
 
 } // namespace Fuzz

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "coordformat.h"
 
+#include "utmgrid_p.h"
+
 #include <QCoreApplication>
 
 #include <array>
 #include <cmath>
-#include <numbers>
-#include <optional>
 
 namespace {
 
@@ -88,78 +88,7 @@ QString formatSignedDegrees(double latitude, double longitude)
     return number(latitude) + QLatin1Char(' ') + number(longitude);
 }
 
-/// A position in the UTM grid, in metres.
-struct GridPosition
-{
-    int zone;
-    QChar band;
-    double easting;
-    double northing;
-};
-
-/// Zone of the UTM grid, 1 to 60, with the wider zones of southern Norway and Svalbard.
-int utmZone(double latitude, double longitude)
-{
-    if (latitude >= 56.0 && latitude < 64.0 && longitude >= 3.0 && longitude < 12.0)
-        return 32;
-    if (latitude >= 72.0 && longitude >= 0.0 && longitude < 42.0)
-        return longitude < 9.0 ? 31 : longitude < 21.0 ? 33 : longitude < 33.0 ? 35 : 37;
-    return static_cast<int>(std::floor((longitude + 180.0) / 6.0)) % 60 + 1;
-}
-
-QChar utmBand(double latitude)
-{
-    constexpr char bands[] = "CDEFGHJKLMNPQRSTUVWX"; // 8 degrees each, the last one 12
-    return letter(bands, qMin(19, static_cast<int>(std::floor((latitude + 80.0) / 8.0))));
-}
-
-/// Transverse Mercator projection of the WGS 84 ellipsoid by Krueger's series in the third
-/// flattening n, cut after n^4 (errors far below a millimetre within a UTM zone). Formulas: C. F.
-/// F. Karney, "Transverse Mercator with an accuracy of a few nanometers", Journal of Geodesy 85
-/// (2011) 475-485, equations 7 to 14 and 35.
-std::optional<GridPosition> toUtm(double latitude, double longitude)
-{
-    if (latitude < -80.0 || latitude > 84.0)
-        return std::nullopt;
-    constexpr double radian = std::numbers::pi / 180.0;
-    constexpr double equatorialRadius = 6378137.0;
-    constexpr double flattening = 1.0 / 298.257223563;
-    constexpr double n = flattening / (2.0 - flattening);
-    constexpr double n2 = n * n;
-    constexpr double n3 = n2 * n;
-    constexpr double n4 = n2 * n2;
-    constexpr double rectifyingRadius = equatorialRadius / (1.0 + n) * (1.0 + n2 / 4 + n4 / 64);
-    constexpr std::array<double, 4> alpha = {
-        n / 2 - n2 * 2 / 3 + n3 * 5 / 16 + n4 * 41 / 180,
-        n2 * 13 / 48 - n3 * 3 / 5 + n4 * 557 / 1440,
-        n3 * 61 / 240 - n4 * 103 / 140,
-        n4 * 49561 / 161280,
-    };
-    constexpr double centralScale = 0.9996;
-    constexpr double falseEasting = 500'000.0;
-    constexpr double falseNorthing = 10'000'000.0; // south of the equator
-
-    const int zone = utmZone(latitude, longitude);
-    const double meridian = (longitude - (6.0 * zone - 183.0)) * radian;
-    const double eccentricity = std::sqrt(flattening * (2.0 - flattening));
-    const double sine = std::sin(latitude * radian);
-    const double conformal = std::sinh(std::asinh(std::tan(latitude * radian)) -
-                                       eccentricity * std::atanh(eccentricity * sine));
-    const double xi = std::atan2(conformal, std::cos(meridian));
-    const double eta = std::asinh(std::sin(meridian) / std::hypot(conformal, std::cos(meridian)));
-    double north = xi;
-    double east = eta;
-    for (std::size_t i = 0; i < alpha.size(); ++i) {
-        const double order = 2.0 * static_cast<double>(i + 1);
-        north += alpha[i] * std::sin(order * xi) * std::cosh(order * eta);
-        east += alpha[i] * std::cos(order * xi) * std::sinh(order * eta);
-    }
-    constexpr double scale = centralScale * rectifyingRadius;
-    return GridPosition{zone, utmBand(latitude), falseEasting + scale * east,
-                        scale * north + (latitude < 0.0 ? falseNorthing : 0.0)};
-}
-
-QString formatUtm(const GridPosition& position)
+QString formatUtm(const UtmGrid::Point& position)
 {
     return QStringLiteral("%1%2 %3 %4")
         .arg(padded(position.zone, 2), position.band, padded(std::llround(position.easting), 6),
@@ -167,7 +96,7 @@ QString formatUtm(const GridPosition& position)
 }
 
 /// The square of one metre in which the position lies: as grid references do, digits are cut.
-QString formatMgrs(const GridPosition& position)
+QString formatMgrs(const UtmGrid::Point& position)
 {
     constexpr std::array<const char*, 3> columns = {"ABCDEFGH", "JKLMNPQR", "STUVWXYZ"};
     constexpr char rows[] = "ABCDEFGHJKLMNPQRSTUV";
@@ -232,8 +161,7 @@ QString getTranslatedCoordFormatName(CoordFormat format)
 
 QString formatPosition(double latitude, double longitude, CoordFormat format)
 {
-    // Written so that NaN is refused too.
-    if (!(std::abs(latitude) <= 90.0 && std::abs(longitude) <= 180.0))
+    if (!GeoPosition{latitude, longitude}.isValid())
         return QString();
     switch (format) {
     case CoordFormat::DegreesMinutesSeconds:
@@ -246,8 +174,7 @@ QString formatPosition(double latitude, double longitude, CoordFormat format)
         return formatSignedDegrees(latitude, longitude);
     case CoordFormat::Utm:
     case CoordFormat::Mgrs: {
-        // 180° E is the same meridian as 180° W and belongs to the zone that begins there.
-        const auto position = toUtm(latitude, longitude == 180.0 ? -180.0 : longitude);
+        const auto position = UtmGrid::fromPosition({latitude, longitude});
         if (!position)
             return QString();
         return format == CoordFormat::Utm ? formatUtm(*position) : formatMgrs(*position);

@@ -166,6 +166,7 @@ bool ValueNumeric<T>::SetVariant(const QVariant& value)
 template class Value<bool>;
 template class Value<QDateTime>;
 template class Value<QString>;
+template class Value<GeoPosition>;
 template class ValueNumeric<int>;
 template class ValueNumeric<qint64>;
 template class ValueNumeric<quint64>;

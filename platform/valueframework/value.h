@@ -3,13 +3,15 @@
 
 #include <valueframework/valuebase.h>
 
+#include <jtbase/geoposition.h>
+
 #include <QDateTime>
 
 #include <limits>
 #include <utility>
 
-/// A value of any kind that a QVariant can hold and convert; bool, QDateTime and QString are
-/// provided.
+/// A value of any kind that a QVariant can hold and convert; bool, QDateTime, QString and
+/// GeoPosition are provided.
 template <typename T>
 class VALUEFRAMEWORK_EXPORT Value : public ValueBase
 {
@@ -51,6 +53,7 @@ private:
 extern template class Value<bool>;
 extern template class Value<QDateTime>;
 extern template class Value<QString>;
+extern template class Value<GeoPosition>;
 
 /// The side of a numeric value that does not depend on its type.
 class VALUEFRAMEWORK_EXPORT IValueNumeric
