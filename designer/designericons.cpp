@@ -105,6 +105,8 @@ void draw(QPainter& painter, DesignerPicture picture)
     case DesignerPicture::SpinBox:
     case DesignerPicture::ComboBox:
         return drawField(painter, picture == DesignerPicture::SpinBox);
+    case DesignerPicture::Field:
+        return frame(painter, {1.5, 5.5, 21, 13});
     case DesignerPicture::Colors:
         return drawColors(painter);
     case DesignerPicture::List:

@@ -7,6 +7,7 @@
 enum class DesignerPicture {
     SpinBox,
     ComboBox,
+    Field,
     Colors,
     List,
     Table,

@@ -4,6 +4,8 @@
 #include <guibase/colors/editor/colorselect.h>
 #include <guibase/docks/enhanceddockwidget.h>
 #include <guibase/inputs/comboboxes/comboboxes.h>
+#include <guibase/inputs/coordinates/coordinateedit.h>
+#include <guibase/inputs/coordinates/maskedlineedit.h>
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/inputs/spinboxes/qdatetimespinbox.h>
 #include <guibase/inputs/spinboxes/spinboxes.h>
@@ -75,6 +77,11 @@ const WidgetRow table[] = {
     comboBox<ComboBoxes::UInt32ComboBox>("u32", "Chooses or enters 32 bits"),
     comboBox<ComboBoxes::Int64ComboBox>("64", "Chooses or enters 64 bits with a sign"),
     comboBox<ComboBoxes::UInt64ComboBox>("u64", "Chooses or enters 64 bits"),
+    spinBox<CoordinateEdit>("N E", "Enters a position in any of the position formats",
+        "guibase/inputs/coordinates/coordinateedit.h"),
+    row<MaskedLineEdit>(inputs, "guibase/inputs/coordinates/maskedlineedit.h",
+        "Enters a text with fixed separators", DesignerPicture::Field, fieldSize,
+        WidgetRow::NoContent, "9.9"),
     row<ColorSelect>(inputs, "guibase/colors/editor/colorselect.h",
         "Chooses a colour of the catalogue", DesignerPicture::Colors, {160, 26}),
     row<SortListView>(lists, "guibase/lists/sortlistview.h",

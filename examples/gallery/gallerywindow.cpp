@@ -68,6 +68,7 @@ const QList<Page>& GalleryWindow::pages()
     static const QList<Page> all{
         {QStringLiteral("spinboxes"), tr("Spin boxes"), &makeSpinBoxes},
         {QStringLiteral("comboboxes"), tr("Combo boxes"), &makeComboBoxes},
+        {QStringLiteral("coordinates"), tr("Positions and masks"), &makeCoordinates},
         {QStringLiteral("frequencies"), tr("Texts of frequencies"), &makeFrequencies},
         {QStringLiteral("bindings"), tr("Bindings"), &makeBindings},
         {QStringLiteral("lists"), tr("Lists"), &makeLists},

@@ -5,6 +5,8 @@
 #include <guibase/formats/integralnumberdisplayformat.h>
 #include <guibase/formats/realnumberdisplayformat.h>
 #include <guibase/inputs/comboboxes/comboboxes.h>
+#include <guibase/inputs/coordinates/coordinateedit.h>
+#include <guibase/inputs/coordinates/maskedlineedit.h>
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/inputs/spinboxes/qdatetimespinbox.h>
 #include <guibase/inputs/spinboxes/spinboxes.h>
@@ -34,33 +36,39 @@ void typeSoon(Input* input, const QString& text, Then then)
     });
 }
 
-/// The same input in all states; `typed` can be read, `refused` cannot.
+/// The input in this state; `typed` can be read, `refused` cannot.
+template <typename Input, typename SetUp>
+Input* makeInState(int state, const QString& typed, const QString& refused, SetUp setUp)
+{
+    auto* input = new Input;
+    setUp(*input);
+    switch (state) {
+    case 1:
+        typeSoon(input, typed, [] {});
+        break;
+    case 2:
+        typeSoon(input, refused, [input] { input->interpret(); });
+        break;
+    case 3:
+        input->inputLineEdit()->setReadOnly(true);
+        break;
+    case 4:
+        input->setEnabled(false);
+        break;
+    default:
+        break;
+    }
+    return input;
+}
+
+/// The same input in all states.
 template <typename Input, typename SetUp>
 void addStates(Specimens& specimens, const QString& name, const QString& typed,
                const QString& refused, SetUp setUp)
 {
     QList<QWidget*> row;
-    for (int state = 0; state < states().size(); ++state) {
-        auto* input = new Input;
-        setUp(*input);
-        switch (state) {
-        case 1:
-            typeSoon(input, typed, [] {});
-            break;
-        case 2:
-            typeSoon(input, refused, [input] { input->interpret(); });
-            break;
-        case 3:
-            input->inputLineEdit()->setReadOnly(true);
-            break;
-        case 4:
-            input->setEnabled(false);
-            break;
-        default:
-            break;
-        }
-        row << input;
-    }
+    for (int state = 0; state < states().size(); ++state)
+        row << makeInState<Input>(state, typed, refused, setUp);
     specimens.addRow(name, row);
 }
 
@@ -160,6 +168,55 @@ QWidget* makeComboBoxes()
                                   setItems(box);
                                   box.setLayoutDirection(Qt::RightToLeft);
                               });
+    return all;
+}
+
+QWidget* makeCoordinates()
+{
+    constexpr GeoPosition site{48.13731, 11.57528};
+    const QString typed = QStringLiteral("JN58SD");
+    const int shown = 3; // positions are too wide for all states in a row
+    auto* all = new Specimens(states().first(shown));
+    const auto addRow = [&](const QString& name, const QString& refused, const auto& setUp,
+                            const QList<int>& which) {
+        QList<QWidget*> row;
+        for (const int state : which)
+            row << makeInState<CoordinateEdit>(state, typed, refused, setUp);
+        all->addRow(name, row);
+    };
+    for (int index = 0; index < coordFormatCount; ++index) {
+        const auto format = static_cast<CoordFormat>(index);
+        const auto setUp = [&](CoordinateEdit& edit) {
+            edit.setPositionFormat(format);
+            edit.setValue(site);
+        };
+        addRow(getTranslatedCoordFormatName(format), QStringLiteral("91 11"), setUp, {0, 1, 2});
+        if (index == 0)
+            addRow(QStringLiteral("read-only, disabled"), {}, setUp, {3, 4});
+    }
+    const auto inArea = [&](CoordinateEdit& edit) {
+        edit.setArea({47, 8, 50, 13});
+        edit.setValue(site);
+    };
+    addRow(QStringLiteral("in an area"), QStringLiteral("52.5 13.4"), inArea, {0, 1, 2});
+    const auto mirrored = [&](CoordinateEdit& edit) {
+        edit.setPositionFormat(CoordFormat::SignedDegrees);
+        edit.setValue(site);
+        edit.setLayoutDirection(Qt::RightToLeft);
+    };
+    addRow(QStringLiteral("right to left"), QStringLiteral("91 11"), mirrored, {0, 1, 2});
+    QList<QWidget*> masked;
+    for (const char* text : {"192.168.000.001", "19", "10.0.0.1"}) {
+        auto* edit = new MaskedLineEdit;
+        edit->setMask(QStringLiteral("999.999.999.999"));
+        edit->setText(QString::fromLatin1(text));
+        masked << edit;
+    }
+    masked.last()->setEnabled(false);
+    all->addRow(QStringLiteral("MaskedLineEdit"), masked);
+    all->addNote(
+        QStringLiteral("A text in any format is taken; the tool tip of a refused one tells "
+                       "the reason."));
     return all;
 }
 

@@ -18,6 +18,7 @@ struct Page
 
 QWidget* makeSpinBoxes();
 QWidget* makeComboBoxes();
+QWidget* makeCoordinates();
 QWidget* makeLists();
 QWidget* makeTables();
 QWidget* makeDocks();

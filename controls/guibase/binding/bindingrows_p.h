@@ -11,7 +11,8 @@
     ROW(Value<QString>, QLabel)                                                                    \
     ROW(Value<QDateTime>, QDateTimeEdit)                                                           \
     ROW(Value<QDateTime>, SpinBoxes::QDateTimeSpinBox)                                             \
-    ROW(Value<QDateTime>, QLabel)
+    ROW(Value<QDateTime>, QLabel)                                                                  \
+    ROW(Value<GeoPosition>, CoordinateEdit)
 
 #define GUIBASE_FOR_EACH_BINDING_OF_NUMBERS(ROW)                                                   \
     ROW(ValueNumeric<int>, QSpinBox)                                                               \

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <jtbase/geoposition.h>
+
 #include <QDateTime>
 #include <QLocale>
 #include <QString>
@@ -53,6 +55,8 @@ QString text(const T& value)
         return value;
     else if constexpr (std::is_same_v<T, QDateTime>)
         return QLocale().toString(value, QLocale::ShortFormat);
+    else if constexpr (std::is_same_v<T, GeoPosition>)
+        return value.text();
     else if constexpr (std::is_same_v<T, double>)
         return QLocale().toString(value, 'g', QLocale::FloatingPointShortest);
     else

@@ -6,6 +6,7 @@
 #include "namedbindings_p.h"
 #include "selectionbindings_p.h"
 
+#include <guibase/inputs/coordinates/coordinateedit.h>
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/inputs/spinboxes/qdatetimespinbox.h>
 

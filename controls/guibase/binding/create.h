@@ -79,6 +79,7 @@ using ShownToItem = std::function<SelectionItem(const QVariant& choice, WidgetCl
 /// - `Value<bool>`: QAbstractButton; see also CreateForAction()
 /// - `Value<QString>`: QLineEdit, QPlainTextEdit, QLabel
 /// - `Value<QDateTime>`: QDateTimeEdit, QDateTimeSpinBox
+/// - `Value<GeoPosition>`: CoordinateEdit
 template <typename ValueKind, typename WidgetClass>
 GUIBASE_EXPORT ValueWidgetBindingBase<ValueKind, WidgetClass>*
 Create(ValueKind& value, WidgetClass& widget, QObject* parent = nullptr);

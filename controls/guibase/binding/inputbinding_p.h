@@ -150,10 +150,10 @@ private:
         return now == quantity || (m_shown && m_shown->first == quantity && m_shown->second == now);
     }
 
-    /// No widget can show a point in time that there is not.
+    /// No widget can show a point in time, or a position, that there is not.
     static bool isShowable(const Held& value)
     {
-        if constexpr (std::is_same_v<Held, QDateTime>)
+        if constexpr (requires { value.isValid(); })
             return value.isValid();
         else
             return true;
@@ -193,8 +193,8 @@ private:
             return {Conversion::text(value)};
         else if constexpr (std::is_same_v<W, QComboBox>)
             return targetIndex(value);
-        else if constexpr (std::is_same_v<Held, QDateTime>)
-            return targetTime(value);
+        else if constexpr (requires { value.isValid(); })
+            return targetIfValid(value);
         else if constexpr (isNumber)
             return targetNumber(value);
         else
@@ -207,7 +207,7 @@ private:
         return {isThere ? value : -1, isThere || value == -1};
     }
 
-    Target targetTime(const QDateTime& value) const
+    Target targetIfValid(const Held& value) const
     {
         if (!value.isValid())
             return {Access::get(this->widget()), false};

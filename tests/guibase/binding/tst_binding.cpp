@@ -3,6 +3,7 @@
 #include <guibase/binding/create.h>
 #include <guibase/binding/formbinding.h>
 #include <guibase/inputs/comboboxes/comboboxes.h>
+#include <guibase/inputs/coordinates/coordinateedit.h>
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/inputs/spinboxes/qdatetimespinbox.h>
 #include <guibase/undo/guiundorecordinghelper.h>
@@ -116,6 +117,13 @@ private Q_SLOTS:
         row("time", compare<Value<QDateTime>, QDateTimeEdit>, {noon, noon, later, later});
         row("no time yet", compare<Value<QDateTime>, QDateTimeEdit>,
             {QDateTime(), QDateTime(QDate(2000, 1, 1), QTime(0, 0)), later, later});
+        const auto place = [](double latitude) {
+            return QVariant::fromValue(GeoPosition{latitude, 11});
+        };
+        row("position", compare<Value<GeoPosition>, CoordinateEdit>,
+            {place(48), place(48), place(49), place(49)});
+        row("no position yet", compare<Value<GeoPosition>, CoordinateEdit>,
+            {place(91), QVariant::fromValue(GeoPosition()), place(49), place(49)});
         row("typed time", compare<Value<QDateTime>, SpinBoxes::QDateTimeSpinBox>,
             {noon, noon, later, later});
     }

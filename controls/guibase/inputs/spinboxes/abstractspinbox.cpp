@@ -24,8 +24,15 @@ AbstractSpinBox::AbstractSpinBox(QWidget* parent)
     : QAbstractSpinBox(parent)
     , m_d(std::make_unique<Private>(*this))
 {
+    lineEdit()->setValidator(nullptr);
+    adoptLineEdit();
+}
+
+AbstractSpinBox::~AbstractSpinBox() = default;
+
+void AbstractSpinBox::adoptLineEdit()
+{
     QLineEdit* edit = lineEdit();
-    edit->setValidator(nullptr);
     m_d->body.adopt(*edit);
     // The toolkit does this for its own spin boxes only.
     setInputMethodHints(edit->inputMethodHints());
@@ -35,7 +42,11 @@ AbstractSpinBox::AbstractSpinBox(QWidget* parent)
     connect(edit, &QLineEdit::selectionChanged, this, tellInputMethod);
 }
 
-AbstractSpinBox::~AbstractSpinBox() = default;
+void AbstractSpinBox::replaceLineEdit(QLineEdit* edit)
+{
+    setLineEdit(edit);
+    adoptLineEdit();
+}
 
 TypedInputBody<AbstractSpinBox>& AbstractSpinBox::body()
 {

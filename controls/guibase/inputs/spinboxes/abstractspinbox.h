@@ -94,6 +94,9 @@ protected:
     void showValue();
     /// To be called when anything has changed that limits the steps.
     void updateButtons();
+    /// Puts this line edit, which the box then owns, in the place of the toolkit's. For
+    /// constructors.
+    void replaceLineEdit(QLineEdit* edit);
     /// For the typed classes of this library.
     TypedInputBody<AbstractSpinBox>& body();
 
@@ -108,6 +111,7 @@ private:
     friend class TypedInputBody<AbstractSpinBox>;
     struct Private;
 
+    void adoptLineEdit();
     QSize sizeFor(const QSize& lineEditSize) const;
 
     std::unique_ptr<Private> m_d;
