@@ -181,6 +181,7 @@ void MainWindow::buildStatusBar()
     statusBar()->addPermanentWidget(new SourceLabel(&m_session, this));
     statusBar()->addPermanentWidget(m_receiver);
     setLoadingShown(false);
+    m_positionFollower = SessionValues::follow({&m_values->position}, [this] { updatePosition(); });
     updatePosition();
 }
 
@@ -324,7 +325,7 @@ void MainWindow::updateTitle()
 
 void MainWindow::updatePosition()
 {
-    const auto [latitude, longitude] = Settings::receiverPosition();
+    const auto [latitude, longitude] = m_values->position.GetValue();
     const auto format =
         static_cast<CoordFormat>(qRound(GuiBase::Instance().GetPositionFormat()->GetValue()));
     const QString position = formatPosition(latitude, longitude, format);

@@ -150,6 +150,7 @@ private:
     ValueSelection m_resolution;
     LanguageChoice m_language;
     std::shared_ptr<SessionValues> m_values = std::make_shared<SessionValues>();
+    SessionValues::Followers m_positionFollower;
     UndoActions* m_undo;
     Session m_session;
     OnFailure m_onFailure = OnFailure::ShowMessage;

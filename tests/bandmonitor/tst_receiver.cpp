@@ -93,6 +93,7 @@ class tst_Receiver : public MainWindowTest
             {"hexadecimal", " ", nullptr},
             {"startTime", "2026-01-01 00:00:30.500", nullptr},
             {"threshold", "-62,5", "-62,5 dB"},
+            {"position", "jn58", "N 48°30'00.0\" E 011°00'00.0\""},
         };
         field("centreFrequency")->setFocus(Qt::TabFocusReason);
         for (const Step& step : steps) {
@@ -102,7 +103,7 @@ class tst_Receiver : public MainWindowTest
             QTest::keyClicks(focus, QLatin1String(step.typed));
             QTest::keyClick(focus, Qt::Key_Return);
             if (step.shown != nullptr)
-                QCOMPARE(shown(step.name), QLatin1String(step.shown));
+                QCOMPARE(shown(step.name), QString::fromUtf8(step.shown));
             QTest::keyClick(focus, Qt::Key_Tab);
         }
     }

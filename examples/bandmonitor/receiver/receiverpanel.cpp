@@ -9,6 +9,7 @@
 #include <guibase/formats/qdatetimedisplayformat.h>
 #include <guibase/formats/realnumberdisplayformat.h>
 #include <guibase/inputs/comboboxes/comboboxes.h>
+#include <guibase/inputs/coordinates/coordinateedit.h>
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/inputs/spinboxes/qdatetimespinbox.h>
 #include <guibase/inputs/spinboxes/spinboxes.h>
@@ -87,6 +88,7 @@ ReceiverPanel::ReceiverPanel(const SessionValues& values, QWidget* parent)
     addAddress();
     addStartTime();
     addThreshold();
+    addPosition();
 
     auto* area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);
@@ -203,6 +205,12 @@ void ReceiverPanel::addThreshold()
     m_threshold->addItem(m_threshold->specialValueText());
     for (int preset = highestPresetDb; preset >= lowestPresetDb; preset -= presetStepDb)
         m_threshold->addItem(m_threshold->displayFormatAt(0)->fullTextFromValue(preset));
+}
+
+void ReceiverPanel::addPosition()
+{
+    add(new CoordinateEdit(m_content), tr("Positio&n:"), "position",
+        tr("Shown in the status bar; any of the position formats can be typed"));
 }
 
 void ReceiverPanel::showAddressFormat(bool hexadecimal)

@@ -59,6 +59,7 @@ private:
     void addAddress();
     void addStartTime();
     void addThreshold();
+    void addPosition();
     void showAddressFormat(bool hexadecimal);
 
     QFormLayout* m_form;

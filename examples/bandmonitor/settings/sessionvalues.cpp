@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/sessionvalues.h"
 
+#include "settings/settings.h"
+
 #include <guibase/colors/colorsetcodec.h>
 #include <trovappstartup/cfgcenter.h>
 #include <valueframework/tree.h>
@@ -50,6 +52,7 @@ SessionValues::SessionValues()
         {attenuation, "Attenuation"}, {samples, "Samples"},
         {address, "Address"},         {isAddressHexadecimal, "Hexadecimal"},
         {startTime, nullptr},         {threshold, "Threshold"},
+        {position, "Position"},
     };
     const Row otherRows[] = {
         {isCurrentVisible, "Current"},
@@ -81,6 +84,7 @@ SessionValues::SessionValues()
     add(m_path, m_receiverRecord, showsWholeBand, "WholeBand");
     add(bearingsPath(), m_record, heading, "Heading");
     add(bearingsPath(), m_record, isHeadingUp, "HeadingUp");
+    position.SetValue(bandmonitor::Settings::receiverPosition());
     m_save.setDelay(0);
     m_record.Read(QString());
     m_receiverRecord.Read(receiverKey);

@@ -76,6 +76,7 @@ public:
                                  std::numeric_limits<quint32>::max()};
     Value<bool> isAddressHexadecimal{QStringLiteral("hexadecimal"), true};
     Value<QDateTime> startTime{QStringLiteral("startTime")}; ///< That of the current sweep.
+    Value<GeoPosition> position{QStringLiteral("position")}; ///< Of the receiver.
     ValueNumeric<double> threshold{QStringLiteral("threshold"), Settings::noThresholdDb,
                                    Settings::noThresholdDb, Settings::largestThresholdDb};
 

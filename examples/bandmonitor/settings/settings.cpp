@@ -84,7 +84,7 @@ void setWaterfallShown(const QString& mode, bool shown)
     section()->SetBool(QStringLiteral("Waterfall") + mode, shown);
 }
 
-Position receiverPosition()
+GeoPosition receiverPosition()
 {
     return {readDegrees(QStringLiteral("ReceiverLatitude"), QStringLiteral("48.13731")),
             readDegrees(QStringLiteral("ReceiverLongitude"), QStringLiteral("11.57528"))};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <guibase/frequencies/unitprefix.h>
+#include <jtbase/geoposition.h>
 
 #include <QString>
 
@@ -27,13 +28,9 @@ void setMode(int mode);
 bool isWaterfallShown(const QString& mode, bool standard);
 void setWaterfallShown(const QString& mode, bool shown);
 
-/// The position of the receiver in degrees; NaN where the configuration has no number.
-struct Position
-{
-    double latitude = 0;
-    double longitude = 0;
-};
-Position receiverPosition();
+/// Where the receiver stands unless the user has entered it. Not valid where the configuration has
+/// no numbers.
+GeoPosition receiverPosition();
 
 } // namespace Settings
 
