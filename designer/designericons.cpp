@@ -45,6 +45,22 @@ void drawColors(QPainter& painter)
         painter.fillRect(QRectF(4 + 4.0 * double(i), 8, 4, 8), colors[i]);
 }
 
+void drawSlider(QPainter& painter)
+{
+    painter.fillRect(QRectF(2, 11, 20, 2), line);
+    frame(painter, {13.5, 6.5, 5, 11});
+    painter.fillRect(QRectF(15.5, 8, 1, 8), accent);
+}
+
+void drawDial(QPainter& painter)
+{
+    painter.setPen(QPen(line, 1.5));
+    painter.setBrush(paper);
+    painter.drawEllipse(QRectF(4, 4, 16, 16));
+    painter.setPen(QPen(accent, 2));
+    painter.drawLine(QPointF(12, 12), QPointF(16, 7));
+}
+
 void drawRows(QPainter& painter, bool withColumns)
 {
     frame(painter, {2.5, 2.5, 19, 19});
@@ -107,6 +123,10 @@ void draw(QPainter& painter, DesignerPicture picture)
         return drawField(painter, picture == DesignerPicture::SpinBox);
     case DesignerPicture::Field:
         return frame(painter, {1.5, 5.5, 21, 13});
+    case DesignerPicture::Slider:
+        return drawSlider(painter);
+    case DesignerPicture::Dial:
+        return drawDial(painter);
     case DesignerPicture::Colors:
         return drawColors(painter);
     case DesignerPicture::List:

@@ -8,6 +8,8 @@ enum class DesignerPicture {
     SpinBox,
     ComboBox,
     Field,
+    Slider,
+    Dial,
     Colors,
     List,
     Table,

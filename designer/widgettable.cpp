@@ -4,6 +4,8 @@
 #include <guibase/colors/editor/colorselect.h>
 #include <guibase/docks/enhanceddockwidget.h>
 #include <guibase/inputs/comboboxes/comboboxes.h>
+#include <guibase/inputs/controllers/controllerdial.h>
+#include <guibase/inputs/controllers/controllerslider.h>
 #include <guibase/inputs/coordinates/coordinateedit.h>
 #include <guibase/inputs/coordinates/maskedlineedit.h>
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
@@ -82,6 +84,10 @@ const WidgetRow table[] = {
     row<MaskedLineEdit>(inputs, "guibase/inputs/coordinates/maskedlineedit.h",
         "Enters a text with fixed separators", DesignerPicture::Field, fieldSize,
         WidgetRow::NoContent, "9.9"),
+    row<ControllerSlider>(inputs, "guibase/inputs/controllers/controllerslider.h",
+        "Drags a real number, finely with Ctrl", DesignerPicture::Slider, {160, 26}),
+    row<ControllerDial>(inputs, "guibase/inputs/controllers/controllerdial.h",
+        "Turns a real number, finely with Ctrl", DesignerPicture::Dial, {90, 90}),
     row<ColorSelect>(inputs, "guibase/colors/editor/colorselect.h",
         "Chooses a colour of the catalogue", DesignerPicture::Colors, {160, 26}),
     row<SortListView>(lists, "guibase/lists/sortlistview.h",

@@ -69,6 +69,7 @@ const QList<Page>& GalleryWindow::pages()
         {QStringLiteral("spinboxes"), tr("Spin boxes"), &makeSpinBoxes},
         {QStringLiteral("comboboxes"), tr("Combo boxes"), &makeComboBoxes},
         {QStringLiteral("coordinates"), tr("Positions and masks"), &makeCoordinates},
+        {QStringLiteral("controllers"), tr("Sliders and dials"), &makeControllers},
         {QStringLiteral("frequencies"), tr("Texts of frequencies"), &makeFrequencies},
         {QStringLiteral("bindings"), tr("Bindings"), &makeBindings},
         {QStringLiteral("lists"), tr("Lists"), &makeLists},

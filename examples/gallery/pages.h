@@ -19,6 +19,7 @@ struct Page
 QWidget* makeSpinBoxes();
 QWidget* makeComboBoxes();
 QWidget* makeCoordinates();
+QWidget* makeControllers();
 QWidget* makeLists();
 QWidget* makeTables();
 QWidget* makeDocks();

@@ -33,6 +33,8 @@
     ROW(ValueNumeric<int>, ComboBoxes::UInt16ComboBox)                                             \
     ROW(ValueNumeric<int>, ComboBoxes::Int32ComboBox)                                              \
     ROW(ValueNumeric<int>, QComboBox)                                                              \
+    ROW(ValueNumeric<int>, ControllerSlider)                                                       \
+    ROW(ValueNumeric<int>, ControllerDial)                                                         \
     ROW(ValueNumeric<qint64>, SpinBoxes::FrequencySpinBox)                                         \
     ROW(ValueNumeric<qint64>, SpinBoxes::Int64SpinBox)                                             \
     ROW(ValueNumeric<qint64>, SpinBoxes::UInt32SpinBox)                                            \
@@ -45,6 +47,8 @@
     ROW(ValueNumeric<double>, QDoubleSpinBox)                                                      \
     ROW(ValueNumeric<double>, QSlider)                                                             \
     ROW(ValueNumeric<double>, QDial)                                                               \
+    ROW(ValueNumeric<double>, ControllerSlider)                                                    \
+    ROW(ValueNumeric<double>, ControllerDial)                                                      \
     ROW(ValueNumeric<double>, QProgressBar)                                                        \
     ROW(ValueNumeric<double>, QLabel)                                                              \
     ROW(ValueNumeric<double>, SpinBoxes::DoubleSpinBox)                                            \

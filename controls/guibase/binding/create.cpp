@@ -6,6 +6,8 @@
 #include "namedbindings_p.h"
 #include "selectionbindings_p.h"
 
+#include <guibase/inputs/controllers/controllerdial.h>
+#include <guibase/inputs/controllers/controllerslider.h>
 #include <guibase/inputs/coordinates/coordinateedit.h>
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/inputs/spinboxes/qdatetimespinbox.h>

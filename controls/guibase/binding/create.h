@@ -71,11 +71,12 @@ using ShownToItem = std::function<SelectionItem(const QVariant& choice, WidgetCl
 /// told of the first value deletes the binding. Values and their widgets:
 ///
 /// - `ValueNumeric<int>`: QSpinBox, QDoubleSpinBox, QSlider, QDial, QScrollBar, QProgressBar,
-///   QComboBox (its index), QLabel, typed boxes of 8 to 32 bits
+///   QComboBox (its index), ControllerSlider, ControllerDial, QLabel, typed boxes of 8 to 32 bits
 /// - `ValueNumeric<qint64>` and `<quint64>`: typed boxes of that type, QLabel; for qint64 also
 ///   FrequencySpinBox and boxes of 32 bits
 /// - `ValueNumeric<double>`: QDoubleSpinBox, QProgressBar, QSlider and QDial (in parts of the
-///   range of the value), QLabel, DoubleSpinBox, DoubleComboBox, FrequencySpinBox
+///   range of the value), QLabel, DoubleSpinBox, DoubleComboBox, FrequencySpinBox,
+///   ControllerSlider, ControllerDial
 /// - `Value<bool>`: QAbstractButton; see also CreateForAction()
 /// - `Value<QString>`: QLineEdit, QPlainTextEdit, QLabel
 /// - `Value<QDateTime>`: QDateTimeEdit, QDateTimeSpinBox

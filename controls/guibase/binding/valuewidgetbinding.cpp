@@ -3,6 +3,7 @@
 
 #include "inputmark_p.h"
 
+#include <guibase/inputs/controllers/abstractcontroller.h>
 #include <guibase/undo/guiundorecordinghelper.h>
 
 #include <valueframework/pendingwrite.h>
@@ -32,8 +33,10 @@ Observable* observableOf(ValueBase& value)
 
 bool isDragged(const QWidget& widget)
 {
-    const auto* slider = qobject_cast<const QAbstractSlider*>(&widget);
-    return slider != nullptr && slider->isSliderDown();
+    if (const auto* slider = qobject_cast<const QAbstractSlider*>(&widget))
+        return slider->isSliderDown();
+    const auto* controller = qobject_cast<const AbstractController*>(&widget);
+    return controller != nullptr && controller->isSliderDown();
 }
 
 } // namespace
@@ -98,6 +101,8 @@ ValueWidgetBinding::ValueWidgetBinding(ValueBase& value, QWidget& widget, QObjec
         connect(parent, &QObject::destroyed, this, &QObject::deleteLater);
     if (auto* slider = qobject_cast<QAbstractSlider*>(&widget))
         connect(slider, &QAbstractSlider::sliderPressed, this, [this] { d->burst.end(); });
+    else if (auto* controller = qobject_cast<AbstractController*>(&widget))
+        connect(controller, &AbstractController::sliderPressed, this, [this] { d->burst.end(); });
     d->observable->Attach(this);
 }
 

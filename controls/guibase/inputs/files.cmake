@@ -8,6 +8,7 @@ guibase_room(inputs
         accessibleinput.cpp accessibleinput.h
         displayformatswitch.h
         lineedittext.cpp lineedittext.h
+        steparithmetic.h
         typedinputbody.h
         typedinputvalue.h
         typedinputvariant.h)

@@ -3,6 +3,8 @@
 #include <guibase/binding/create.h>
 #include <guibase/binding/formbinding.h>
 #include <guibase/inputs/comboboxes/comboboxes.h>
+#include <guibase/inputs/controllers/controllerdial.h>
+#include <guibase/inputs/controllers/controllerslider.h>
 #include <guibase/inputs/coordinates/coordinateedit.h>
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/inputs/spinboxes/qdatetimespinbox.h>
@@ -120,6 +122,8 @@ private Q_SLOTS:
         const auto place = [](double latitude) {
             return QVariant::fromValue(GeoPosition{latitude, 11});
         };
+        row("slider", compare<Real, ControllerSlider>, {0.123, 0.123, 200.0, 100.0});
+        row("whole dial", compare<Int, ControllerDial>, {7, 7.0, 8.4, 8});
         row("position", compare<Value<GeoPosition>, CoordinateEdit>,
             {place(48), place(48), place(49), place(49)});
         row("no position yet", compare<Value<GeoPosition>, CoordinateEdit>,

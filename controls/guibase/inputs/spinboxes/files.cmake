@@ -8,5 +8,4 @@ guibase_room(inputs/spinboxes
         spinboxbase.cpp spinboxbase.h
         spinboxes.cpp spinboxes.h
     INTERNAL
-        digitatcursor.cpp digitatcursor_p.h
-        steparithmetic_p.h)
+        digitatcursor.cpp digitatcursor_p.h)

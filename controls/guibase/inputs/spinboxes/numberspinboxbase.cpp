@@ -2,9 +2,9 @@
 #include "numberspinboxbase.h"
 
 #include "digitatcursor_p.h"
-#include "steparithmetic_p.h"
 
 #include <guibase/formats/integralnumberdisplayformat.h>
+#include <guibase/inputs/steparithmetic.h>
 #include <guibase/inputs/typedinputvariant.h>
 
 #include <QLineEdit>
