@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "designericons.h"
 
+#include <QConicalGradient>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -59,6 +60,17 @@ void drawDial(QPainter& painter)
     painter.drawEllipse(QRectF(4, 4, 16, 16));
     painter.setPen(QPen(accent, 2));
     painter.drawLine(QPointF(12, 12), QPointF(16, 7));
+}
+
+void drawColorCircle(QPainter& painter)
+{
+    QConicalGradient hues(12, 12, 0);
+    for (int sixth = 0; sixth <= 6; ++sixth)
+        hues.setColorAt(sixth / 6.0, QColor::fromHsv(sixth % 6 * 60, 255, 230));
+    painter.setPen(QPen(hues, 4));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(QRectF(4, 4, 16, 16));
+    painter.fillRect(QRectF(9, 9, 6, 6), accent);
 }
 
 void drawRows(QPainter& painter, bool withColumns)
@@ -127,6 +139,8 @@ void draw(QPainter& painter, DesignerPicture picture)
         return drawSlider(painter);
     case DesignerPicture::Dial:
         return drawDial(painter);
+    case DesignerPicture::ColorCircle:
+        return drawColorCircle(painter);
     case DesignerPicture::Colors:
         return drawColors(painter);
     case DesignerPicture::List:

@@ -10,6 +10,7 @@ enum class DesignerPicture {
     Field,
     Slider,
     Dial,
+    ColorCircle,
     Colors,
     List,
     Table,

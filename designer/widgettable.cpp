@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgettable.h"
 
+#include <guibase/colors/editor/colorcircle.h>
 #include <guibase/colors/editor/colorselect.h>
 #include <guibase/docks/enhanceddockwidget.h>
 #include <guibase/inputs/comboboxes/comboboxes.h>
@@ -88,6 +89,9 @@ const WidgetRow table[] = {
         "Drags a real number, finely with Ctrl", DesignerPicture::Slider, {160, 26}),
     row<ControllerDial>(inputs, "guibase/inputs/controllers/controllerdial.h",
         "Turns a real number, finely with Ctrl", DesignerPicture::Dial, {90, 90}),
+    row<ColorCircle>(inputs, "guibase/colors/editor/colorcircle.h",
+        "Chooses a colour by hue, saturation and brightness", DesignerPicture::ColorCircle,
+        {180, 180}),
     row<ColorSelect>(inputs, "guibase/colors/editor/colorselect.h",
         "Chooses a colour of the catalogue", DesignerPicture::Colors, {160, 26}),
     row<SortListView>(lists, "guibase/lists/sortlistview.h",

@@ -4,6 +4,7 @@
 
 #include <guibase/binding/create.h>
 #include <guibase/colors/colorset.h>
+#include <guibase/colors/editor/colorcircle.h>
 #include <guibase/colors/editor/colorsctrl.h>
 #include <guibase/colors/editor/colorselect.h>
 #include <guibase/formats/frequencydisplayformat.h>
@@ -112,6 +113,14 @@ QWidget* makeColorPickers()
     };
     addRow(QStringLiteral("Main curve"), IColorBase::DrawPaneMainCurve);
     addRow(QStringLiteral("Background"), IColorBase::DrawPaneBackgroundLow);
+    QList<QWidget*> circles;
+    for (const bool enabled : {true, false}) {
+        auto* circle = new ColorCircle;
+        circle->setColor(ColorSet::Instance().GetColor(IColorBase::DrawPaneMainCurve));
+        circle->setEnabled(enabled);
+        circles << circle;
+    }
+    all->addRow(QStringLiteral("ColorCircle"), circles);
     all->addRow(QStringLiteral("Sets of colours"),
                 {ColorSet::Instance().GetColorSetsComboBox(nullptr)});
     return all;

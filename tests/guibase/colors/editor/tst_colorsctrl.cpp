@@ -10,6 +10,7 @@
 #include <guibase/colors/colorset.h>
 #include <guibase/colors/colorsetcodec.h>
 #include <guibase/colors/colorslotgroups.h>
+#include <guibase/colors/editor/colorcircle.h>
 #include <guibase/colors/editor/colorsctrl.h>
 #include <guibase/colors/editor/colorselect.h>
 #include <guibase/colors/editor/colorselectlistviewitem.h>
@@ -24,6 +25,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -256,6 +258,37 @@ private Q_SLOTS:
         m_window.reset();
     }
 
+    void circle()
+    {
+        ColorCircle circle;
+        circle.resize(206, 206); // a ring of 200 pixels
+        const QSignalSpy told(&circle, &ColorCircle::colorChanged);
+        circle.setColor(QColor(10, 20, 30, 40));
+        circle.setColor(QColor(10, 20, 30, 40));
+        circle.setColor(QColor());
+        QCOMPARE(circle.color(), QColor(10, 20, 30, 40));
+        QCOMPARE(told.size(), 1);
+        circle.setColor(Qt::red);
+        QTest::mouseClick(&circle, Qt::LeftButton, {}, {8, 103}); // cyan
+        QCOMPARE(circle.color(), QColor(Qt::cyan));
+        QTest::mouseClick(&circle, Qt::LeftButton, {}, {80, 20}); // nowhere
+        for (int i = 0; i < 30; ++i)
+            QTest::keyClick(&circle, Qt::Key_Left);
+        QCOMPARE(circle.color(), QColor(Qt::white));
+        QTest::keyClick(&circle, Qt::Key_PageUp); // white has no hue to be told
+        for (int i = 0; i < 30; ++i)
+            QTest::keyClick(&circle, Qt::Key_Right);
+        const QColor before = circle.color();
+        QVERIFY(qAbs(before.hsvHue() - 190) <= 1);
+        QTest::mousePress(&circle, Qt::LeftButton, {}, {103, 103}); // the middle of the square
+        QCOMPARE(qRound(circle.color().hsvSaturationF() * 20), 10);
+        QMouseEvent move(QEvent::MouseMove, QPointF(400, 103), QPointF(400, 103), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&circle, &move);
+        QCOMPARE(circle.color().hsvSaturation(), 255);
+        QTest::keyClick(&circle, Qt::Key_Escape);
+        QCOMPARE(circle.color(), before);
+    }
     /// A redefined user colour shows in the picker, is found, and comes back in the next run.
     void userColors()
     {
