@@ -209,8 +209,10 @@ void ReceiverPanel::addThreshold()
 
 void ReceiverPanel::addPosition()
 {
-    add(new CoordinateEdit(m_content), tr("Positio&n:"), "position",
-        tr("Shown in the status bar; any of the position formats can be typed"));
+    auto* position = add(new CoordinateEdit(m_content), tr("Positio&n:"), "position",
+                         tr("Shown in the status bar; any of the position formats can be typed"));
+    // As wide as the others, which its longest texts would make too wide for a narrow window.
+    position->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
 void ReceiverPanel::showAddressFormat(bool hexadecimal)
