@@ -50,7 +50,7 @@ NotificationConnection::NotificationConnection(QTcpSocket* socket, qint64 sendBu
 {
     m_sinceRefill.start();
     m_socket->setParent(this);
-    m_socket->setReadBufferSize(2 * m_messagesPerTurn * NotificationMessage::size);
+    m_socket->setReadBufferSize(qint64{2} * m_messagesPerTurn * NotificationMessage::size);
     // Each message is a step that others wait for.
     m_socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     connect(m_socket, &QTcpSocket::connected, this, [this] {

@@ -27,7 +27,7 @@ struct NotificationSettings
     qsizetype entriesPerProcess = 1024;
     qsizetype maximumEntries = 4096;
     /// Bytes that a reader may leave unread, beyond what the system holds.
-    qint64 sendBuffer = 256 * 1024;
+    qint64 sendBuffer = qint64{256} * 1024;
     /// What a server takes from one client; the rest waits in the client's buffer.
     int messagesPerSecond = 2000;
 };
