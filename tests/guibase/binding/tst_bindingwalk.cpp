@@ -3,6 +3,9 @@
 #include <guibase/binding/create.h>
 #include <guibase/binding/formbinding.h>
 #include <guibase/inputs/comboboxes/comboboxes.h>
+#include <guibase/inputs/controllers/controllerdial.h>
+#include <guibase/inputs/controllers/controllerslider.h>
+#include <guibase/inputs/coordinates/coordinateedit.h>
 #include <guibase/inputs/spinboxes/frequencyspinbox.h>
 #include <guibase/inputs/spinboxes/qdatetimespinbox.h>
 #include <guibase/undo/guiundorecordinghelper.h>
