@@ -129,7 +129,8 @@ void AngleWords::readNumber()
 bool AngleWords::readMark()
 {
     const auto unit = QStringView(u"°'\"").indexOf(m_text[m_at]);
-    if (unit < 0 || m_words.numbers.empty() || m_words.numbers.back().unit != unknownUnit)
+    if (unit < 0 || m_next.isParted || m_words.numbers.empty() ||
+        m_words.numbers.back().unit != unknownUnit)
         return false;
     m_words.numbers.back().unit = static_cast<int>(unit);
     return true;
