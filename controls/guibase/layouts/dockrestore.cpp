@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -152,11 +153,9 @@ void putBack(QMainWindow& window, const FormerToolBar& former)
         window.insertToolBarBreak(former.bar);
 }
 
-} // namespace
-
-DockLayout DockRestore::save(const QMainWindow& window, const DockLayout& former)
+DockLayout present(const QMainWindow& window, const DockLayout& former)
 {
-    DockLayout layout{window.saveState(stateVersion), std::nullopt, {}};
+    DockLayout layout{window.saveState(DockRestore::stateVersion), std::nullopt, {}};
     const auto docks = QMainWindowHelpers::dockWidgets(window);
     for (const QDockWidget* dock : docks) {
         const QString name = dock->objectName();
@@ -170,6 +169,31 @@ DockLayout DockRestore::save(const QMainWindow& window, const DockLayout& former
         if (place.isValid())
             layout.maximized.emplace(name, place);
     }
+    return layout;
+}
+
+/// Only sizes are known where programs do not place windows: floating docks keep the places of the
+/// former layout.
+void keepPlaces(DockLayout& layout, const DockLayout& former)
+{
+    DockStateCheck::Places places = DockStateCheck::places(former.state, DockRestore::stateVersion);
+    for (const auto& [name, place] : former.maximized)
+        places.insert_or_assign(name, place.topLeft());
+    layout.state =
+        DockStateCheck::withPlaces(std::move(layout.state), DockRestore::stateVersion, places);
+    for (auto& [name, place] : layout.maximized) {
+        if (const auto found = places.find(name); found != places.end())
+            place.moveTopLeft(found->second);
+    }
+}
+
+} // namespace
+
+DockLayout DockRestore::save(const QMainWindow& window, const DockLayout& former)
+{
+    DockLayout layout = present(window, former);
+    if (!WindowSystem::placesWindows())
+        keepPlaces(layout, former);
     return layout;
 }
 

@@ -20,7 +20,8 @@ inline constexpr int stateVersion = 1;
 /// window system on which such docks are in another place.
 enum class EdgeDocks { Move, Stay };
 
-/// Docks that are still maximized as in the former layout keep the place that they had there.
+/// Docks that are still maximized as in the former layout keep the place that they had there, and
+/// floating ones too where programs do not place windows.
 DockLayout save(const QMainWindow& window, const DockLayout& former = {});
 /// Applies the layout. Docks and tool bars that it does not know stay where they are: in their
 /// area, tabs and line. Floating docks come back whole on a screen of today, or maximized. A state

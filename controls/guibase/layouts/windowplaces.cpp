@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "windowplaces_p.h"
 
-#include <guibase/records/geometryrecord.h>
-
 #include <jtbase/qtimerhelpers.h>
+#include <jtbase/windowsystem.h>
 
 #include <QEvent>
 #include <QScreen>
@@ -29,19 +28,24 @@ bool WindowPlaces::isNormal() const
 QByteArray WindowPlaces::present() const
 {
     QByteArray bytes = m_widget->saveGeometry();
-    if (m_widget->isWindow() || isNormal() || m_normal.isEmpty())
-        return bytes;
+    const bool isWindow = m_widget->isWindow();
+    const bool isPlacedElsewhere = isWindow && m_loaded && !WindowSystem::placesWindows();
+    const bool isNormalUnknown = !isWindow && !isNormal() && !m_normal.isEmpty();
     auto record = GeometryRecord::fromBytes(bytes);
-    if (!record)
+    if (!record || (!isPlacedElsewhere && !isNormalUnknown))
         return bytes;
-    record->normal = m_normal;
+    if (isPlacedElsewhere)
+        record->moveTo(*m_loaded);
+    else
+        record->normal = m_normal;
     return record->toBytes();
 }
 
 void WindowPlaces::load(const QByteArray& geometry)
 {
-    if (const auto record = GeometryRecord::fromBytes(geometry))
-        m_normal = record->normal;
+    m_loaded = GeometryRecord::fromBytes(geometry);
+    if (m_loaded)
+        m_normal = m_loaded->normal;
 }
 
 void WindowPlaces::note(const QEvent& event)

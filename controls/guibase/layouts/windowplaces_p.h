@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <guibase/records/geometryrecord.h>
+
 #include <QByteArray>
 #include <QObject>
 #include <QPointer>
 #include <QRect>
 #include <QWidget>
+
+#include <optional>
 
 class QEvent;
 
@@ -18,17 +22,18 @@ public:
     explicit WindowPlaces(QWidget* widget);
     ~WindowPlaces() override;
 
-    /// With the normal place of a child widget, too, which the toolkit knows of windows only. The
-    /// widget must live, here and in begin().
+    /// For a child widget with its normal place too, which the toolkit knows for windows only;
+    /// where programs do not place windows, with the place that was loaded. The widget must live,
+    /// here and in begin().
     QByteArray present() const;
-    /// Takes the normal place from this geometry, of which bytes that are none have none.
+    /// Takes the place from this geometry; nothing from bytes that are none.
     void load(const QByteArray& geometry);
     /// Of the widget, in its event filter.
     void note(const QEvent& event);
     void noteNormal();
 
-    /// Notes what is there before the stored geometry is applied; that is an empty one when there
-    /// is none.
+    /// Notes what is there before the stored geometry is applied, which is empty when there is
+    /// none.
     void begin(const QByteArray& stored);
     /// To be called when the widget is shown without a stored geometry. Where the application gave
     /// it no place, that of the window manager counts as the one of program start.
@@ -44,6 +49,7 @@ private:
 
     QPointer<QWidget> m_widget;
     QRect m_normal;
+    std::optional<GeometryRecord> m_loaded;
     QByteArray m_start;
     QByteArray m_factory;
     /// By the application; otherwise the window manager gives the place.

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -34,6 +35,13 @@ public:
 
     bool state(int version);
     DockStateCheck::DockNames names();
+    /// Where in the state the place of a floating dock is.
+    struct Place
+    {
+        QByteArrayView name; ///< UTF-16, big endian
+        qsizetype position;
+    };
+    const std::vector<Place>& places() const { return m_places; }
 
 private:
     void dockAreas();
@@ -49,6 +57,7 @@ private:
 
     StateWalk m_walk;
     DockStateCheck::DockNames m_names;
+    std::vector<Place> m_places;
     int m_docks = 0;
     int m_toolBars = 0;
 };
@@ -108,12 +117,14 @@ void DockWalk::row(int depth)
 
 void DockWalk::dock()
 {
-    m_names.docks.add(m_walk.text(longestName));
+    const QByteArrayView name = m_walk.text(longestName);
+    m_names.docks.add(name);
     const quint8 flags = m_walk.byte(0, allFlags);
     if ((flags & floatingFlag) == 0) {
         extent();
         return;
     }
+    m_places.push_back({name, m_walk.position()});
     m_walk.number(-farthest, farthest);
     m_walk.number(-farthest, farthest);
     size();
@@ -179,6 +190,13 @@ DockStateCheck::DockNames DockWalk::names()
     return std::move(m_names);
 }
 
+QString textOf(QByteArrayView name)
+{
+    QString text(name.size() / qsizetype(sizeof(char16_t)), Qt::Uninitialized);
+    qFromBigEndian<char16_t>(name.data(), text.size(), text.data());
+    return text;
+}
+
 } // namespace
 
 void DockStateCheck::Names::sort()
@@ -200,4 +218,35 @@ std::optional<DockStateCheck::DockNames> DockStateCheck::names(const QByteArray&
     if (state.size() > maximumSize || !walk.state(version))
         return std::nullopt;
     return walk.names();
+}
+
+DockStateCheck::Places DockStateCheck::places(const QByteArray& state, int version)
+{
+    Places result;
+    DockWalk walk(state);
+    if (state.size() > maximumSize || !walk.state(version))
+        return result;
+    for (const DockWalk::Place& place : walk.places()) {
+        const char* bytes = state.constData() + place.position;
+        result.emplace(textOf(place.name), QPoint(qFromBigEndian<qint32>(bytes),
+                                                  qFromBigEndian<qint32>(bytes + sizeof(qint32))));
+    }
+    return result;
+}
+
+QByteArray DockStateCheck::withPlaces(QByteArray state, int version, const Places& places)
+{
+    const QByteArray former = state; // The names lie in it.
+    DockWalk walk(former);
+    if (places.empty() || state.size() > maximumSize || !walk.state(version))
+        return state;
+    for (const DockWalk::Place& place : walk.places()) {
+        const auto found = places.find(textOf(place.name));
+        if (found == places.end())
+            continue;
+        char* bytes = state.data() + place.position;
+        qToBigEndian<qint32>(found->second.x(), bytes);
+        qToBigEndian<qint32>(found->second.y(), bytes + sizeof(qint32));
+    }
+    return state;
 }

@@ -50,6 +50,18 @@ std::optional<GeometryRecord> GeometryRecord::fromBytes(const QByteArray& bytes)
     return record;
 }
 
+void GeometryRecord::moveTo(const GeometryRecord& other)
+{
+    normal.moveTopLeft(other.normal.topLeft());
+    geometry.moveTopLeft(isNormal() ? normal.topLeft() : other.geometry.topLeft());
+    frame = geometry.adjusted(other.frame.left() - other.geometry.left(),
+                              other.frame.top() - other.geometry.top(),
+                              other.frame.right() - other.geometry.right(),
+                              other.frame.bottom() - other.geometry.bottom());
+    screen = other.screen;
+    screenWidth = other.screenWidth;
+}
+
 QByteArray GeometryRecord::toBytes() const
 {
     QByteArray bytes;

@@ -22,6 +22,8 @@ struct GeometryRecord
     QRect geometry;           ///< Without the frame, as it was; `normal` before version 3.
 
     bool isNormal() const { return maximized == 0 && fullScreen == 0; }
+    /// Takes the screen and the place from another record; size and state stay.
+    void moveTo(const GeometryRecord& other);
     bool operator==(const GeometryRecord&) const = default;
 
     /// Nothing for bytes of another length, magic number or version, and for rectangles with a

@@ -23,6 +23,8 @@ public:
     QByteArrayView text(qint32 maximumSize);
     bool expect(bool condition);
     bool isFine() const { return m_isFine; }
+    /// Of the next value, in bytes from the beginning.
+    qsizetype position() const { return m_position; }
     bool atEnd() const { return m_position == m_state.size(); }
 
 private:

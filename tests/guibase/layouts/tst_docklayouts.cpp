@@ -16,6 +16,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <array>
+
 namespace {
 
 /// Everything of the window that a user sees in place and size. Without the places where programs
@@ -115,6 +117,42 @@ private Q_SLOTS:
             QVERIFY(MaximizeMinimizeSupport::restoreDockWidget(*dock));
             QTRY_VERIFY(QGuiApplication::platformName() != u"xcb" || dock->size() == place.size());
         }
+    }
+    /// A session in which nobody places windows takes over sizes and states only.
+    void placesStay()
+    {
+        const QRect places[] = {{60, 50, 600, 400}, {300, 260, 222, 188}, {310, 240, 210, 170}};
+        const QSize growth(30, 20);
+        using Widgets = std::array<QWidget*, 3>;
+        const auto session = [this](auto&& change) {
+            Window window;
+            window.enlist();
+            change(Widgets{&window, window.dock("A"), window.dock("B")});
+            QVERIFY(windowManagerIsReady());
+            m_services->StoreWidgetSize();
+        };
+        session([&places](const Widgets& widgets) {
+            for (int i = 0; i < 3; ++i) {
+                if (auto* dock = qobject_cast<QDockWidget*>(widgets[i]))
+                    dock->setFloating(true);
+                widgets[i]->setGeometry(places[i]);
+            }
+        });
+        {
+            const NoPlaces noPlaces;
+            session([&](const Widgets& widgets) {
+                for (int i = 0; i < 3; ++i)
+                    widgets[i]->setGeometry({QPoint(0, 0), places[i].size() + growth});
+                widgets[2]->showMaximized();
+                QTRY_VERIFY(widgets[2]->isMaximized());
+            });
+        }
+        QVERIFY(stored("MaximizedDocks").startsWith(QStringLiteral("0,310,240,")));
+        session([&](const Widgets& widgets) {
+            for (int i = 0; i < 2; ++i)
+                QTRY_COMPARE(widgets[i]->geometry(),
+                             QRect(places[i].topLeft(), places[i].size() + growth));
+        });
     }
     void plainDockIsMaximizedInItsMode()
     {
