@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "enhanceddockwidgettitlebar.h"
 
+#include "dockframe_p.h"
 #include "dockpointer.h"
 #include "docktitle.h"
 #include "titlebarbutton_p.h"
@@ -8,6 +9,8 @@
 #include "titlebardrag_p.h"
 
 #include <guibase/layouts/floatingdockkeeper.h>
+
+#include <jtbase/qtimerhelpers.h>
 
 #include <QAction>
 #include <QActionEvent>
@@ -191,6 +194,12 @@ EnhancedDockWidgetTitleBar::EnhancedDockWidgetTitleBar(QDockWidget& dockWidget)
         // A message of the window manager that is late would give the toolkit a wrong place.
         if (floating && d->isDoubleClicked && d->dock)
             FloatingDockKeeper::keep(*d->dock);
+        // Before the toolkit's handler of the frame, which is only made now.
+        if (floating)
+            QTimerHelpers::singleShot(0, this, [this] {
+                if (d->dock)
+                    d->dock->installEventFilter(this);
+            });
     });
     connect(&dockWidget, &QDockWidget::featuresChanged, this, follow);
     connect(&dockWidget, &QDockWidget::dockLocationChanged, this, [this] {
@@ -245,6 +254,9 @@ bool EnhancedDockWidgetTitleBar::eventFilter(QObject* watched, QEvent* event)
     if (d->dock == watched && (type == QEvent::WindowTitleChange ||
                                type == QEvent::WindowIconChange || type == QEvent::ModifiedChange))
         d->followDock();
+    if (d->dock == watched && type == QEvent::MouseButtonPress &&
+        DockFrame::beginResize(*d->dock, *static_cast<QMouseEvent*>(event)))
+        return true;
     return QWidget::eventFilter(watched, event);
 }
 

@@ -17,6 +17,7 @@ guibase_room(docks
         dockarrangement.cpp dockarrangement.h
         dockchildren.cpp dockchildren.h
         dockfocus.cpp dockfocus.h
+        dockframe.cpp dockframe_p.h
         dockicons.cpp dockicons.h
         dockpointer.h
         docksizes.cpp docksizes.h

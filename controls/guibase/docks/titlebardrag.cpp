@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "titlebardrag_p.h"
 
+#include "dockframe_p.h"
+
 #include <jtbase/windowsystem.h>
 
 #include <QApplication>
@@ -19,6 +21,8 @@ bool TitleBarDrag::handle(const QMouseEvent& event)
     const QPoint position = event.globalPosition().toPoint();
     switch (event.type()) {
     case QEvent::MouseButtonPress:
+        if (DockFrame::beginResize(*m_dock, event))
+            return true;
         if (isLeft && m_dock->features().testFlag(QDockWidget::DockWidgetMovable))
             m_pressedAt = position;
         return isLeft;
