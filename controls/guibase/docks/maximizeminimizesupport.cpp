@@ -227,12 +227,14 @@ bool MaximizeMinimizeSupportPrivate::changeTo(State::Type newState, bool (*opera
 void MaximizeMinimizeSupportPrivate::dropRefusedState()
 {
     QDockWidget* dock = q.dockWidget();
+    // The toolkit forgets it at once where nobody tells; the next show would minimize it again.
+    const bool isUnknown = state == State::Minimized && !WindowSystem::placesWindows();
     if (dock == nullptr || !insistence.hasExpired() ||
-        !ManagedWindow::hasRefusedState(*dock, normalGeometry.size()))
+        !(isUnknown || ManagedWindow::hasRefusedState(*dock, normalGeometry.size())))
         return;
     const QPointer<Support> alive(&q);
     const Notifier notifier(*this, Notifier::ChangesOnly);
-    const bool wasMinimized = dock->isMinimized();
+    const bool wasMinimized = isUnknown || dock->isMinimized();
     timesToInsist = 0;
     dock->setWindowState(dock->windowState() &
                          ~(wasMinimized ? Qt::WindowMinimized : Qt::WindowMaximized));

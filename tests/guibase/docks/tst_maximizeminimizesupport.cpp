@@ -153,6 +153,20 @@ private Q_SLOTS:
         QVERIFY(f.support->restoreDockWidget());
         QTRY_COMPARE(f.dock->geometry(), f.geometry);
     }
+    /// Where nobody tells that a window is minimized, it does not count as such for ever.
+    void forgetsWhatNobodyTells()
+    {
+        Fixture f;
+        CHECKED(f.floatDock());
+        const NoPlaces noPlaces;
+        QVERIFY(f.support->minimizeDockWidget());
+        f.dock->setWindowState(Qt::WindowNoState); // what the toolkit does there
+        QTRY_COMPARE_WITH_TIMEOUT(f.support->dockWidgetState(), State::Normal, 60'000);
+        f.dock->hide();
+        f.dock->show();
+        QTRY_COMPARE(f.visibleActions(), u"110"_s);
+        QVERIFY(!f.dock->isMinimized());
+    }
     void isAWindowThatManagersMaximize()
     {
         if (QGuiApplication::platformName() != u"xcb"_s)
