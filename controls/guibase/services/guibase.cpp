@@ -10,19 +10,42 @@
 
 #include <guibase/colors/signaltypenames.h>
 
+#include <jtbase/qtimerhelpers.h>
 #include <trovappstartup/cfgcenter.h>
 #include <trovappstartup/trovapplication.h>
 
 #include <QApplication>
+#include <QList>
 #include <QPointer>
+#include <QWidget>
 
 GuiBasePrivate::GuiBasePrivate(GuiBase& services)
     : record(services, settings)
     , helpMenu(services)
 {}
 
+namespace {
+
+/// Below a style sheet of its own no widget of the toolkit follows the application's palette.
+void renewStyleSheets()
+{
+    QList<QPointer<QWidget>> styled;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) {
+        if (!widget->styleSheet().isEmpty())
+            styled.append(widget);
+    }
+    for (const QPointer<QWidget>& widget : styled) {
+        if (widget)
+            widget->setStyleSheet(widget->styleSheet());
+    }
+}
+
+} // namespace
+
 void GuiBasePrivate::followDesktopColors()
 {
+    QTimerHelpers::singleShot(0, qApp, &renewStyleSheets); // once the widgets have their palettes
     ApplicationColors::followDesktop();
     GuiBase::Instance().emit_signalColorsChanged();
 }

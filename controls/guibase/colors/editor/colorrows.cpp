@@ -102,8 +102,16 @@ void ColorRows::filter(const QString& text)
 void ColorRows::refresh()
 {
     for (const auto& [role, row] : m_rows) {
-        if (row)
+        if (!row)
+            continue;
+        const ColorDefinition* definition = ColorSet::Instance().GetColorDefinition(role);
+        const int id = definition != nullptr ? definition->GetId() : -1;
+        if (row->GetDirty() || row->GetColorId() == id) {
             row->Refresh();
+        } else {
+            row->SetColorId(id);
+            row->SetDirty(false);
+        }
     }
 }
 

@@ -26,7 +26,8 @@ public:
     /// Hides the rows whose texts do not hold the text, in any case; a group stays whole when its
     /// heading does. An empty text shows everything.
     void filter(const QString& text);
-    /// Colours of the catalogue have changed.
+    /// The colours of the catalogue or of the set have changed; rows that the user has changed keep
+    /// their choice.
     void refresh();
     /// Writes the changed rows into the colour set, without a signal.
     void accept();

@@ -12,6 +12,7 @@
 #include <guibase/services/guibase.h>
 
 #include <QAction>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -137,6 +138,7 @@ void ColorsCtrl::Private::addTools(QVBoxLayout& layout)
     layout.addLayout(row);
     QObject::connect(&GuiBase::Instance(), &GuiBase::signalColorsChanged, &q, [this] {
         rows->refresh();
+        setName();
         followChange();
     });
 }
@@ -209,6 +211,13 @@ ColorsCtrl::ColorsCtrl(QWidget* parent)
 }
 
 ColorsCtrl::~ColorsCtrl() = default;
+
+void ColorsCtrl::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        d->followChange();
+}
 
 void ColorsCtrl::slotLoad()
 {

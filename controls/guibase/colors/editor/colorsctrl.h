@@ -37,6 +37,9 @@ Q_SIGNALS:
     /// There are changes to accept now, or none any more.
     void changesPending(bool pending);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     struct Private;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "colortoolbuttons_p.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QPolygon>
@@ -10,16 +11,45 @@ namespace {
 
 constexpr int buttonSize = 24;
 
-QToolButton* makeButton(const QString& text, const QPixmap& icon, QWidget* parent)
+/// Draws its icon anew when the palette changes.
+class DrawnButton : public QToolButton
 {
-    auto* button = new QToolButton(parent);
+public:
+    using Draw = QPixmap (*)(const QColor& line);
+    DrawnButton(Draw draw, QWidget* parent)
+        : QToolButton(parent)
+        , m_draw(draw)
+    {
+        drawIcon();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QToolButton::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange)
+            drawIcon();
+    }
+
+private:
+    void drawIcon()
+    {
+        const QPixmap icon = m_draw(palette().color(QPalette::WindowText));
+        setIconSize(icon.size());
+        setIcon(icon);
+    }
+
+    Draw m_draw;
+};
+
+QToolButton* makeButton(const QString& text, DrawnButton::Draw draw, QWidget* parent)
+{
+    auto* button = new DrawnButton(draw, parent);
     button->setObjectName(text);
     button->setToolTip(text);
     button->setAccessibleName(text);
     button->setAutoRaise(true);
     button->setFixedSize(buttonSize, buttonSize);
-    button->setIconSize(icon.size());
-    button->setIcon(icon);
     button->setFocusPolicy(Qt::StrongFocus);
     return button;
 }
@@ -31,30 +61,38 @@ QPixmap emptyPixmap(int width, int height)
     return pixmap;
 }
 
-} // namespace
-
-QToolButton* ColorToolButtons::makeOpen(const QString& text, QWidget* parent)
+QPixmap drawOpen(const QColor& line)
 {
     QPixmap icon = emptyPixmap(16, 13);
     QPainter painter(&icon);
-    painter.setPen(parent->palette().color(QPalette::WindowText));
+    painter.setPen(line);
     painter.setBrush(QColor(0xff, 0xcc, 0x66));
     painter.drawPolygon(QPolygon({{0, 2}, {5, 2}, {6, 4}, {12, 4}, {12, 12}, {0, 12}}));
     painter.drawPolygon(QPolygon({{3, 6}, {15, 6}, {12, 12}, {0, 12}}));
-    painter.end();
-    return makeButton(text, icon, parent);
+    return icon;
 }
 
-QToolButton* ColorToolButtons::makeSave(const QString& text, QWidget* parent)
+QPixmap drawSave(const QColor& line)
 {
     QPixmap icon = emptyPixmap(14, 14);
     QPainter painter(&icon);
-    painter.setPen(parent->palette().color(QPalette::WindowText));
+    painter.setPen(line);
     painter.setBrush(QColor(0x66, 0x99, 0xcc));
     painter.drawRect(0, 0, 13, 13);
     painter.setBrush(Qt::white);
     painter.drawRect(3, 0, 7, 4);
     painter.drawRect(2, 7, 9, 6);
-    painter.end();
-    return makeButton(text, icon, parent);
+    return icon;
+}
+
+} // namespace
+
+QToolButton* ColorToolButtons::makeOpen(const QString& text, QWidget* parent)
+{
+    return makeButton(text, &drawOpen, parent);
+}
+
+QToolButton* ColorToolButtons::makeSave(const QString& text, QWidget* parent)
+{
+    return makeButton(text, &drawSave, parent);
 }
