@@ -69,17 +69,6 @@ constexpr SlotColor paperColors[] = {
     {PaneSlot::LevelAxisBackground, "#e6e6e6"},
 };
 
-/// As of a dark desktop.
-QPalette darkPalette()
-{
-    QPalette palette(QColor(0x35, 0x35, 0x35), QColor(0x2d, 0x2d, 0x2d));
-    palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
-    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(0x2a, 0x82, 0xda));
-    return palette;
-}
-
 /// The frequency of the highest level from `low` to `high`, in hertz.
 double strongest(const Sweep& sweep, double low, double high)
 {
@@ -100,24 +89,10 @@ double strongest(const Sweep& sweep, double low, double high)
 
 } // namespace
 
-namespace {
-
-QtMessageHandler formerMessageHandler = nullptr;
-
-/// The platform without a screen says of many things that it cannot do them; pictures do not mind.
-void dropPlatformRemarks(QtMsgType type, const QMessageLogContext& context, const QString& text)
-{
-    if (!text.startsWith(QStringLiteral("This plugin does not support")))
-        formerMessageHandler(type, context, text);
-}
-
-} // namespace
-
 ScreenshotEnvironment::ScreenshotEnvironment(const QString& folder, const QString& configFolder)
     : m_ownSettings(QDir(folder).absoluteFilePath(QStringLiteral("settings-of-pictures")))
     , m_hasOwnSettings(configFolder.isEmpty())
 {
-    formerMessageHandler = qInstallMessageHandler(&dropPlatformRemarks);
     qputenv("TZ", "CET-1");
     if (m_hasOwnSettings)
         m_ownSettings.removeRecursively(); // left by a run that was killed
@@ -126,7 +101,6 @@ ScreenshotEnvironment::ScreenshotEnvironment(const QString& folder, const QStrin
 
 ScreenshotEnvironment::~ScreenshotEnvironment()
 {
-    qInstallMessageHandler(formerMessageHandler);
     if (m_hasOwnSettings)
         m_ownSettings.removeRecursively();
 }
@@ -302,7 +276,7 @@ void ScreenshotSeries::takeColorEditor()
 void ScreenshotSeries::takeDark(const std::function<void()>& take)
 {
     const QPalette light = QApplication::palette();
-    QApplication::setPalette(darkPalette());
+    QApplication::setPalette(pictures::darkPalette());
     ColorSet& colors = ColorSet::Instance();
     colors.slotRestoreSystemColors();
     colors.Load(&m_window, QString::fromLatin1(ColorSet::darkDesktopName));

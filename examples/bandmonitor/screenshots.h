@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "pictures.h"
+
 #include <QDir>
 #include <QPixmap>
 #include <QString>
@@ -63,6 +65,7 @@ public:
     Q_DISABLE_COPY_MOVE(ScreenshotEnvironment)
 
 private:
+    pictures::QuietPlatform m_quiet;
     QDir m_ownSettings;
     bool m_hasOwnSettings;
 };

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "gallerywindow.h"
 
-#include <guibase/colors/colorset.h>
+#include "pictures.h"
+
 #include <guibase/services/guibase.h>
 
 #include <QAction>
@@ -10,8 +11,6 @@
 #include <QEventLoop>
 #include <QListWidget>
 #include <QMenuBar>
-#include <QPalette>
-#include <QPixmap>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStyle>
@@ -22,16 +21,6 @@ namespace {
 
 constexpr QSize pictureSize(1180, 760);
 constexpr int settlingRounds = 3; // docks put work off into the next round
-
-QPalette darkPalette()
-{
-    QPalette palette(QColor(0x35, 0x35, 0x35), QColor(0x2d, 0x2d, 0x2d));
-    palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
-    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(0x2a, 0x82, 0xda));
-    return palette;
-}
 
 } // namespace
 
@@ -113,37 +102,68 @@ void GalleryWindow::showPage(int number)
 
 void GalleryWindow::setDark(bool dark)
 {
-    const QPalette palette = dark ? darkPalette() : QApplication::style()->standardPalette();
-    QApplication::setPalette(palette);
-    ColorSet& colors = ColorSet::Instance();
-    colors.slotRestoreSystemColors();
-    if (dark)
-        colors.Load(nullptr, QString::fromLatin1(ColorSet::darkDesktopName));
-    else
-        colors.slotRestoreFactoryColors();
-    GuiBase::Instance().emit_signalColorsChanged();
+    QApplication::setPalette(dark ? pictures::darkPalette()
+                                  : QApplication::style()->standardPalette());
+}
+
+QList<QImage> GalleryWindow::pagePictures()
+{
+    resize(pictureSize);
+    QList<QImage> result;
+    for (int number = 0; number < pages().size(); ++number) {
+        showPage(number);
+        for (int round = 0; round < settlingRounds; ++round)
+            QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        result.append(grab().toImage());
+    }
+    return result;
 }
 
 QString GalleryWindow::writePictures(const QString& folder)
 {
     if (!QDir().mkpath(folder))
         return folder;
-    resize(pictureSize);
     for (const bool dark : {false, true}) {
         setDark(dark);
+        const QList<QImage> all = pagePictures();
         for (int number = 0; number < pages().size(); ++number) {
-            showPage(number);
-            for (int round = 0; round < settlingRounds; ++round)
-                QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
             const QString name = QStringLiteral("%1-%2.png")
                                      .arg(pages().at(number).name,
                                           dark ? QStringLiteral("dark") : QStringLiteral("light"));
             QString path = QDir(folder).filePath(name);
-            if (!grab().save(path))
+            if (!all.at(number).save(path))
                 return path;
         }
     }
     return {};
+}
+
+QStringList GalleryWindow::lateColors(const QString& folder)
+{
+    QApplication::setCursorFlashTime(0);
+    const auto picturesFrom = [](bool wasDark, bool dark) {
+        setDark(wasDark);
+        GalleryWindow window;
+        window.show();
+        window.pagePictures(); // makes the pages
+        setDark(dark);
+        return window.pagePictures();
+    };
+    QStringList late;
+    for (const bool dark : {false, true}) {
+        const QList<QImage> changed = picturesFrom(!dark, dark);
+        const QList<QImage> made = picturesFrom(dark, dark);
+        for (int number = 0; number < pages().size(); ++number) {
+            if (changed.at(number) == made.at(number))
+                continue;
+            const QString name = pages().at(number).name +
+                                 (dark ? QStringLiteral("-dark") : QStringLiteral("-light"));
+            late.append(name);
+            changed.at(number).save(QDir(folder).filePath(name + QStringLiteral("-changed.png")));
+            made.at(number).save(QDir(folder).filePath(name + QStringLiteral("-made.png")));
+        }
+    }
+    return late;
 }
 
 } // namespace gallery

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Shows every widget of the libraries in every state: `gallery`. Without a display
-// `gallery --shots FOLDER` writes a picture of each page, light and dark.
+// `gallery --shots FOLDER` writes a picture of each page, light and dark;
+// `gallery --late-colors FOLDER` names the pages that keep colours of the other palette when it
+// changes, writes pictures of them, and fails if there is one.
 #include "gallerywindow.h"
+#include "pictures.h"
 
 #include <guibase/services/guibase.h>
 
@@ -12,17 +15,9 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <optional>
 
 namespace {
-
-QtMessageHandler formerHandler = nullptr;
-
-/// The platform without a screen says of many things that it cannot do them; pictures do not mind.
-void dropPlatformRemarks(QtMsgType type, const QMessageLogContext& context, const QString& text)
-{
-    if (!text.startsWith(QStringLiteral("This plugin does not support")))
-        formerHandler(type, context, text);
-}
 
 int writePictures(const QString& folder)
 {
@@ -38,6 +33,17 @@ int writePictures(const QString& folder)
     return 1;
 }
 
+int nameLateColors(const QString& folder)
+{
+    const QTemporaryDir settings;
+    CfgCenter::SetConfigDir(settings.path());
+    GuiBase::Instance().SetApplication(qApp);
+    const QStringList late = gallery::GalleryWindow::lateColors(folder);
+    for (const QString& page : late)
+        std::fprintf(stderr, "gallery: %s keeps colours\n", qPrintable(page));
+    return late.isEmpty() ? 0 : 1;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -48,19 +54,24 @@ int main(int argc, char* argv[])
         return 0;
     }
     const bool takesPictures = option == "--shots" && argc == 3;
-    if (argc > 1 && !takesPictures) {
-        std::fputs("gallery [--shots FOLDER]\n", stderr);
+    const bool isColorTest = option == "--late-colors" && argc == 3;
+    const bool isUnseen = takesPictures || isColorTest;
+    if (argc > 1 && !isUnseen) {
+        std::fputs("gallery [--shots FOLDER | --late-colors FOLDER]\n", stderr);
         return 2;
     }
-    if (takesPictures) {
+    std::optional<pictures::QuietPlatform> quiet;
+    if (isUnseen) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        formerHandler = qInstallMessageHandler(&dropPlatformRemarks);
+        quiet.emplace();
     }
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("gallery"));
     TrovApplication startUp;
     if (takesPictures)
         return writePictures(QString::fromLocal8Bit(argv[2]));
+    if (isColorTest)
+        return nameLateColors(QString::fromLocal8Bit(argv[2]));
     gallery::GalleryWindow window;
     GuiBase::Instance().SetMainWidget(&window);
     window.show();

@@ -17,6 +17,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDial>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -24,6 +25,8 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QStyle>
+
+#include <functional>
 
 namespace gallery {
 
@@ -101,11 +104,18 @@ QWidget* makeColorEditor()
 QWidget* makeColorPickers()
 {
     auto* all = new Specimens({QStringLiteral("Chosen"), QStringLiteral("Disabled")});
-    const auto addRow = [all](const QString& name, IColorBase::ECOLOR slot) {
+    // Once more with every change of the colours.
+    const auto keepShown = [](QWidget& widget, const std::function<void()>& show) {
+        show();
+        QObject::connect(&GuiBase::Instance(), &GuiBase::signalColorsChanged, &widget, show);
+    };
+    const auto addRow = [all, keepShown](const QString& name, IColorBase::ECOLOR slot) {
         QList<QWidget*> row;
         for (const bool enabled : {true, false}) {
             auto* picker = new ColorSelect;
-            picker->Select(ColorSet::Instance().GetColorDefinition(slot)->GetColorString());
+            keepShown(*picker, [picker, slot] {
+                picker->Select(ColorSet::Instance().GetColorDefinition(slot)->GetColorString());
+            });
             picker->setEnabled(enabled);
             row << picker;
         }
@@ -121,8 +131,9 @@ QWidget* makeColorPickers()
         circles << circle;
     }
     all->addRow(QStringLiteral("ColorCircle"), circles);
-    all->addRow(QStringLiteral("Sets of colours"),
-                {ColorSet::Instance().GetColorSetsComboBox(nullptr)});
+    QComboBox* sets = ColorSet::Instance().GetColorSetsComboBox(nullptr);
+    keepShown(*sets, [sets] { ColorSet::Instance().UpdateComboBox(sets); });
+    all->addRow(QStringLiteral("Sets of colours"), {sets});
     return all;
 }
 
