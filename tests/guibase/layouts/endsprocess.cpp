@@ -2,8 +2,9 @@
 // A small application that a test starts as a process of its own:
 //     ends_process <configuration folder> <way to end> [<what it should look like>]
 // Without the last word it changes everything that is kept. It tells what it looks like, and ends
-// in its way: "close", "quit", "return", or "signal" for waiting to be ended from outside. Of those
-// that leave no time for an end, "exit" ends, "wait" waits, and "save" saves without a pause.
+// in its way: "close", "quit", "return", "signal" for waiting to be ended from outside, or "server"
+// for ending the session's server. Of those that leave no time for an end, "exit" ends, "wait"
+// waits, and "save" saves without a pause.
 #include <guibase/colors/colorset.h>
 #include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
@@ -31,6 +32,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <csignal>
 #include <cstdlib>
 #include <functional>
 
@@ -107,7 +109,6 @@ public:
     {
         const auto& [docked, open, hidden, hiding, tab, raised, large] = m_docks;
         const QRect place = open->geometry();
-        const QRect former = large->normalGeometry();
         const bool isAtEdge = AutoHideSupport::autoHideAction(*hiding)->isChecked();
         const QList<int> panes = m_splitter->sizes();
         QString text;
@@ -118,8 +119,6 @@ public:
             << (open->isVisible() && open->isFloating() ? ", open" : ", not open") << " at "
             << place.x() << ' ' << place.y() << ' ' << place.width() << ' ' << place.height()
             << (large->isFloating() && large->isMaximized() ? ", large" : ", not large")
-            << " before " << former.x() << ' ' << former.y() << ' ' << former.width() << ' '
-            << former.height()
             << (hidden->isHidden() && hidden->isFloating() ? ", hidden" : ", shown")
             << (isAtEdge ? ", hiding" : ", not hiding")
             << (tabifiedDockWidgets(tab).contains(raised) ? ", tabbed" : ", not tabbed")
@@ -172,6 +171,13 @@ private:
     int m_same = 0;
 };
 
+void endServer()
+{
+    const int server = qEnvironmentVariableIntValue("GUIBASE_TEST_SERVER");
+    if (server > 0)
+        ::kill(server, SIGKILL);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -210,6 +216,8 @@ int main(int argc, char** argv)
             QCoreApplication::quit();
         else if (way == QStringLiteral("exit"))
             std::exit(0);
+        else if (way == QStringLiteral("server"))
+            endServer();
         else if (way == QStringLiteral("save"))
             saving.start(0);
         else
