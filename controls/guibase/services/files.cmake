@@ -6,6 +6,7 @@ guibase_room(services
         guibasesettings.cpp
         applicationcolors.cpp applicationcolors_p.h
         applicationsetup.cpp applicationsetup_p.h
+        desktopmotion.cpp desktopmotion.h
         displaysettings.cpp displaysettings_p.h
         helpmenu.cpp helpmenu_p.h
         settingsrecord.cpp settingsrecord_p.h

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "popupmotion_p.h"
 
+#include <guibase/services/desktopmotion.h>
+
 #include <QPropertyAnimation>
-#include <QSettings>
-#include <QStandardPaths>
-#include <QStyle>
 #include <QWidget>
 
 #include <algorithm>
@@ -43,26 +42,6 @@ void animate(QWidget& popup, const char* property, const QVariant& end)
     animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
-/// What the desktop has stored for its user; `fallback` without a file or the key.
-QVariant desktopSetting(const char* file, const char* key, const QVariant& fallback)
-{
-    const QString path =
-        QStandardPaths::locate(QStandardPaths::GenericConfigLocation, QLatin1String(file));
-    if (path.isEmpty())
-        return fallback;
-    return QSettings(path, QSettings::IniFormat).value(QLatin1String(key), fallback);
-}
-
-/// Only some styles know the setting of the desktop, whose own place differs with the desktop.
-bool wantsMotion(const QWidget& popup)
-{
-    return popup.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &popup) > 0 &&
-           desktopSetting("kdeglobals", "KDE/AnimationDurationFactor", 1).toDouble() > 0 &&
-           desktopSetting("gtk-4.0/settings.ini", "Settings/gtk-enable-animations", true)
-               .toBool() &&
-           desktopSetting("gtk-3.0/settings.ini", "Settings/gtk-enable-animations", true).toBool();
-}
-
 bool isAlreadyThere(const QWidget& popup, const QPoint& position, double opacity)
 {
     constexpr double opacityStep = 0.01; // A window keeps it in steps about that large.
@@ -86,7 +65,7 @@ void PopupMotion::bring(QWidget& popup, const QPoint& position, double opacity)
     const double bounded = std::clamp(opacity, 0.0, 1.0);
     if (isAlreadyThere(popup, position, bounded))
         return;
-    if (popup.isVisible() && wantsMotion(popup)) {
+    if (popup.isVisible() && DesktopMotion::isWanted(popup)) {
         animate(popup, "pos", position);
         if (popup.isWindow())
             animate(popup, "windowOpacity", bounded);
