@@ -102,6 +102,27 @@ void drawDock(QPainter& painter)
     painter.fillRect(QRectF(17, 5.5, 2, 2), paper);
 }
 
+void drawTabs(QPainter& painter)
+{
+    frame(painter, {2.5, 8.5, 19, 12});
+    frame(painter, {10.5, 4.5, 8, 4});
+    painter.fillRect(QRectF(3, 4, 8, 5), accent);
+}
+
+void drawBusy(QPainter& painter)
+{
+    painter.setPen(Qt::NoPen);
+    painter.translate(12, 12);
+    for (int dot = 0; dot < 8; ++dot) {
+        QColor color(accent);
+        color.setAlphaF(0.2F + 0.1F * float(dot));
+        painter.setBrush(color);
+        painter.drawEllipse(QPointF(0, -8), 2, 2);
+        painter.rotate(45);
+    }
+    painter.translate(-12, -12);
+}
+
 void drawSpectrum(QPainter& painter)
 {
     painter.fillRect(QRectF(2, 2, 20, 20), QColor(0x10, 0x1c, 0x28));
@@ -150,6 +171,10 @@ void draw(QPainter& painter, DesignerPicture picture)
         return drawSplitter(painter);
     case DesignerPicture::Dock:
         return drawDock(painter);
+    case DesignerPicture::Tabs:
+        return drawTabs(painter);
+    case DesignerPicture::Busy:
+        return drawBusy(painter);
     case DesignerPicture::Spectrum:
         return drawSpectrum(painter);
     case DesignerPicture::Rose:

@@ -16,6 +16,8 @@ enum class DesignerPicture {
     Table,
     Splitter,
     Dock,
+    Tabs,
+    Busy,
     Spectrum,
     Rose,
 };

@@ -15,6 +15,8 @@
 #include <guibase/lists/sortlistview.h>
 #include <guibase/lists/sortrowtable.h>
 #include <guibase/splitters/splitter.h>
+#include <guibase/widgets/animationwidget.h>
+#include <guibase/widgets/closabletabwidget.h>
 #include <radiopanes/bearings/bearingrose.h>
 #include <radiopanes/panes/levelpanes.h>
 
@@ -92,6 +94,11 @@ const WidgetRow table[] = {
     row<ColorCircle>(inputs, "guibase/colors/editor/colorcircle.h",
         "Chooses a colour by hue, saturation and brightness", DesignerPicture::ColorCircle,
         {180, 180}),
+    row<ClosableTabWidget>(containers, "guibase/widgets/closabletabwidget.h",
+        "Tabs that the user closes and reopens", DesignerPicture::Tabs, {240, 160},
+        WidgetRow::ManyWidgets),
+    row<AnimationWidget>(inputs, "guibase/widgets/animationwidget.h",
+        "A ring that turns while something is going on", DesignerPicture::Busy, {24, 24}),
     row<ColorSelect>(inputs, "guibase/colors/editor/colorselect.h",
         "Chooses a colour of the catalogue", DesignerPicture::Colors, {160, 26}),
     row<SortListView>(lists, "guibase/lists/sortlistview.h",

@@ -3,11 +3,13 @@
 
 #include "counts.h"
 #include "live/commandsource.h"
+#include "live/sourcelabel.h"
 #include "livedialog.h"
 #include "model/recordingwriter.h"
 #include "recentrecordings.h"
 
 #include <guibase/services/guibase.h>
+#include <guibase/widgets/widgetflasher.h>
 
 #include <QAction>
 #include <QFileInfo>
@@ -50,6 +52,8 @@ void MainWindow::connectLive()
         updateTitle();
         updateReport();
         statusBar()->showMessage(tr("Live input has ended. %1").arg(text), messageTime);
+        if (!m_session.live()->isStopped()) // The user did not ask for it.
+            WidgetFlasher::flash(findChild<SourceLabel*>());
     });
     connect(&m_session, &Session::liveFailed, this,
             [this](const QString& text) { tellFailure(tr("No live input"), text, {}); });

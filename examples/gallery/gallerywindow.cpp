@@ -71,6 +71,10 @@ const QList<Page>& GalleryWindow::pages()
         {QStringLiteral("colors"), tr("Colour pickers"), &makeColorPickers},
         {QStringLiteral("coloreditor"), tr("Colour editor"), &makeColorEditor},
         {QStringLiteral("popups"), tr("Pop-ups"), &makePopUps},
+        {QStringLiteral("tabs"), tr("Tabs and context menus"), &makeTabs},
+        {QStringLiteral("signs"), tr("Flashing and busy signs"), &makeSigns},
+        {QStringLiteral("circles"), tr("Circles"), &makeCircles},
+        {QStringLiteral("toolbars"), tr("Tool bars"), &makeToolBars},
         {QStringLiteral("keys"), tr("Keys"), &makeKeys},
     };
     return all;

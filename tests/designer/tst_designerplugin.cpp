@@ -49,7 +49,7 @@ std::unique_ptr<QWidget> tst_DesignerPlugin::load(QIODevice& form)
 
 void tst_DesignerPlugin::everyWidget()
 {
-    QCOMPARE(widgets().size(), 32);
+    QCOMPARE(widgets().size(), 34);
     QSet<QByteArray> pictures;
     for (QDesignerCustomWidgetInterface* widget : widgets()) {
         const QByteArray name = widget->name().toLatin1();
