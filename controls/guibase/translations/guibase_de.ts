@@ -2,6 +2,47 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AnimationWidget</name>
+    <message>
+        <source>Busy</source>
+        <translation>Beschäftigt</translation>
+    </message>
+</context>
+<context>
+    <name>ClosableTabWidget</name>
+    <message>
+        <source>Close Tabs &amp;Below</source>
+        <translation>Reiter &amp;unterhalb schließen</translation>
+    </message>
+    <message>
+        <source>Close Tabs to the &amp;Left</source>
+        <translation>Reiter &amp;links davon schließen</translation>
+    </message>
+    <message>
+        <source>Close Tabs to the &amp;Right</source>
+        <translation>Reiter &amp;rechts davon schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Close &amp;Others</source>
+        <translation>&amp;Andere schließen</translation>
+    </message>
+    <message>
+        <source>Reo&amp;pen Closed Tab</source>
+        <translation>Geschlossenen Reiter &amp;wieder öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>ColorCircle</name>
+    <message>
+        <source>Hue %1°, saturation %2 %, brightness %3 %</source>
+        <translation>Farbton %1°, Sättigung %2 %, Helligkeit %3 %</translation>
+    </message>
+</context>
+<context>
     <name>ColorPreview</name>
     <message>
         <source>Preview of the chosen colors</source>
@@ -1084,6 +1125,13 @@
     </message>
 </context>
 <context>
+    <name>CoordinateEdit</name>
+    <message>
+        <source>Type a position from %1 to %2.</source>
+        <translation>Position von %1 bis %2 eingeben.</translation>
+    </message>
+</context>
+<context>
     <name>DisplayFormat</name>
     <message>
         <source>This text is too long. Type a shorter one.</source>
@@ -2155,6 +2203,13 @@
     <message>
         <source>Arrow keys move the divider, Enter gives both sides the same size.</source>
         <translation>Pfeiltasten verschieben die Trennleiste, die Eingabetaste macht beide Seiten gleich groß.</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBarContainer</name>
+    <message>
+        <source>More</source>
+        <translation type="unfinished">Weitere</translation>
     </message>
 </context>
 <context>

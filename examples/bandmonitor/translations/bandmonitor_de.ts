@@ -1378,6 +1378,14 @@
         <source>none</source>
         <translation>keine</translation>
     </message>
+    <message>
+        <source>Positio&amp;n:</source>
+        <translation>Positio&amp;n:</translation>
+    </message>
+    <message>
+        <source>Shown in the status bar; any of the position formats can be typed</source>
+        <translation>Steht in der Statuszeile; jedes der Positionsformate kann eingegeben werden</translation>
+    </message>
 </context>
 <context>
     <name>bandmonitor::RecentRecordings</name>

@@ -36,4 +36,27 @@
         <translation>GEOREF</translation>
     </message>
 </context>
+<context>
+    <name>PositionReader</name>
+    <message>
+        <source>A latitude is at most 90°.</source>
+        <translation>Eine geografische Breite beträgt höchstens 90°.</translation>
+    </message>
+    <message>
+        <source>A longitude is at most 180°.</source>
+        <translation>Eine geografische Länge beträgt höchstens 180°.</translation>
+    </message>
+    <message>
+        <source>Minutes and seconds are less than 60.</source>
+        <translation>Minuten und Sekunden liegen unter 60.</translation>
+    </message>
+    <message>
+        <source>The grid has no such place in this zone.</source>
+        <translation>Das Gitter hat in dieser Zone keinen solchen Ort.</translation>
+    </message>
+    <message>
+        <source>Type a position such as %1.</source>
+        <translation>Position eingeben, zum Beispiel %1.</translation>
+    </message>
+</context>
 </TS>
