@@ -8,6 +8,7 @@
 #include "model/samplegenerator.h"
 #include "screenshots.h"
 #include "signalnotifier.h"
+#include "traystatus.h"
 
 #include <guibase/services/guibase.h>
 #include <trovappstartup/cfgcenter.h>
@@ -158,8 +159,10 @@ int run(int argc, char** argv, const CommandLine& commandLine)
     MainWindow window;
     services.SetMainWidget(&window);
     window.announceModes();
-    if (commandLine.screenshotsFolder.isEmpty())
-        new SignalNotifier(&window); // The window owns it. Pictures show the program alone.
+    if (commandLine.screenshotsFolder.isEmpty()) { // Pictures show the program alone.
+        new SignalNotifier(&window);               // The window owns them.
+        new TrayStatus(&window);
+    }
     window.show();
     QObject::connect(
         &window.session(), &Session::opened, &window,

@@ -22,6 +22,7 @@
 #include <guibase/undo/undoactions.h>
 
 #include <QActionGroup>
+#include <QCoreApplication>
 #include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>
@@ -90,7 +91,10 @@ void MainWindow::buildFileMenu()
     menu->addSeparator();
     // Control+Q belongs to the info dialog of the family's help menu.
     connect(addEntry(menu, tr("&Quit"), {QKeySequence(Qt::CTRL | Qt::Key_W)}, false),
-            &QAction::triggered, this, &QWidget::close);
+            &QAction::triggered, this, [this] {
+                if (close())
+                    QCoreApplication::quit(); // also when closed windows leave an icon in the tray
+            });
 }
 
 void MainWindow::buildEditMenu()

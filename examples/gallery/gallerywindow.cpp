@@ -75,6 +75,7 @@ const QList<Page>& GalleryWindow::pages()
         {QStringLiteral("signs"), tr("Flashing and busy signs"), &makeSigns},
         {QStringLiteral("circles"), tr("Circles"), &makeCircles},
         {QStringLiteral("toolbars"), tr("Tool bars"), &makeToolBars},
+        {QStringLiteral("tray"), tr("Tray icon"), &makeTrayIcons},
         {QStringLiteral("keys"), tr("Keys"), &makeKeys},
     };
     return all;

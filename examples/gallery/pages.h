@@ -34,6 +34,7 @@ QWidget* makeTabs();
 QWidget* makeSigns();
 QWidget* makeCircles();
 QWidget* makeToolBars();
+QWidget* makeTrayIcons();
 QWidget* makeBindings();
 QWidget* makeKeys();
 QWidget* makeFrequencies();

@@ -2,6 +2,7 @@
 #include "pages.h"
 #include "specimens.h"
 
+#include <guibase/tray/trayicon.h>
 #include <guibase/widgets/animationwidget.h>
 #include <guibase/widgets/circlelayout.h>
 #include <guibase/widgets/closabletabwidget.h>
@@ -26,6 +27,24 @@
 namespace gallery {
 
 namespace {
+
+/// The icon as a panel of this colour shows it, in several sizes.
+QWidget* onPanel(const QIcon& icon, const QColor& color)
+{
+    auto* panel = new QWidget;
+    QPalette palette = panel->palette();
+    palette.setColor(QPalette::Window, color);
+    panel->setPalette(palette);
+    panel->setAutoFillBackground(true);
+    auto* row = new QHBoxLayout(panel);
+    for (const int side : {16, 22, 32, 64}) {
+        auto* picture = new QLabel;
+        picture->setPixmap(icon.pixmap(side));
+        row->addWidget(picture);
+    }
+    row->addStretch();
+    return panel;
+}
 
 ClosableTabWidget* makeTabWidget(QTabWidget::TabPosition position)
 {
@@ -184,6 +203,22 @@ QWidget* makeToolBars()
     all->addRow(QStringLiteral("Right to left"), {mirrored});
     constexpr auto left = Qt::LeftToolBarArea;
     all->addRow(QStringLiteral("Vertical"), {makeToolBar(left, 260), makeToolBar(left, 130)});
+    return all;
+}
+
+QWidget* makeTrayIcons()
+{
+    auto* all = new Specimens({QStringLiteral("Light panel"), QStringLiteral("Dark panel"),
+                               QStringLiteral("Without an icon")});
+    const QIcon icon = all->style()->standardIcon(QStyle::SP_ComputerIcon);
+    for (const TrayState state :
+         {TrayState::Idle, TrayState::Running, TrayState::Warning, TrayState::Fault}) {
+        const QIcon badged = TrayIcon::stateIcon(icon, state);
+        all->addRow(TrayIcon::stateName(state),
+                    {onPanel(badged, QColor(0xf0, 0xf0, 0xf0)),
+                     onPanel(badged, QColor(0x20, 0x20, 0x24)),
+                     onPanel(TrayIcon::stateIcon({}, state), QColor(0x80, 0x80, 0x80))});
+    }
     return all;
 }
 

@@ -84,6 +84,16 @@ void setWaterfallShown(const QString& mode, bool shown)
     section()->SetBool(QStringLiteral("Waterfall") + mode, shown);
 }
 
+bool isStayingInTray()
+{
+    return section()->GetBool(QStringLiteral("StayInTray"));
+}
+
+void setStayingInTray(bool stays)
+{
+    section()->SetBool(QStringLiteral("StayInTray"), stays);
+}
+
 GeoPosition receiverPosition()
 {
     return {readDegrees(QStringLiteral("ReceiverLatitude"), QStringLiteral("48.13731")),

@@ -27,6 +27,9 @@ int mode(int standard);
 void setMode(int mode);
 bool isWaterfallShown(const QString& mode, bool standard);
 void setWaterfallShown(const QString& mode, bool shown);
+/// Whether the program goes on in the tray without its window; false at first.
+bool isStayingInTray();
+void setStayingInTray(bool stays);
 
 /// Where the receiver stands unless the user has entered it. Not valid where the configuration has
 /// no numbers.

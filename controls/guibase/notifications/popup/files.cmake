@@ -9,6 +9,7 @@ guibase_room(notifications/popup
         desktopnotifier.cpp desktopnotifier_p.h
         historydialog.cpp historydialog_p.h
         morepopup.cpp morepopup_p.h
+        notificationoutlet.cpp notificationoutlet.h
         popuparranger.cpp popuparranger_p.h
         popuplayout.cpp popuplayout.h
         popupmotion.cpp popupmotion_p.h

@@ -3,6 +3,7 @@
 
 #include "desktopnotifier_p.h"
 #include "historydialog_p.h"
+#include "notificationoutlet.h"
 #include "popuparranger_p.h"
 #include "popupplacer_p.h"
 #include "standardnotification.h"
@@ -125,13 +126,15 @@ void NotificationsPrivate::arrange()
 {
     if (arranger.arrange(service.stack(), popups))
         return;
-    // There is no place of our own; the desktop's service may have one.
+    // There is no place of our own; the tray icon or the desktop's service may have one.
     for (auto popup = popups.cbegin(); popup != popups.cend(); ++popup) {
         if (popup.value() == nullptr || toldToDesktop.contains(popup.key()))
             continue;
         toldToDesktop.insert(popup.key());
-        desktop.notify(popup.value()->windowTitle(), popup.value()->accessibleDescription(),
-                       popup.value()->windowIcon());
+        const QWidget& widget = *popup.value();
+        const QString text = widget.accessibleDescription();
+        if (!NotificationOutlet::send(widget.windowTitle(), text, widget.windowIcon()))
+            desktop.notify(widget.windowTitle(), text, widget.windowIcon());
     }
 }
 
