@@ -2213,6 +2213,37 @@
     </message>
 </context>
 <context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>It goes on in the background. A click on its icon opens the window again; &quot;Quit&quot; in the menu of the icon ends it.</source>
+        <translation>Das Programm läuft im Hintergrund weiter. Ein Klick auf sein Symbol öffnet das Fenster wieder; „Beenden“ im Menü des Symbols beendet es.</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation type="unfinished">Läuft</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation type="unfinished">Warnung</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Störung</translation>
+    </message>
+</context>
+<context>
     <name>UndoActions</name>
     <message>
         <source>&amp;Undo %1</source>

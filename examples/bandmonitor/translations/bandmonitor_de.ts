@@ -1648,6 +1648,17 @@
     </message>
 </context>
 <context>
+    <name>bandmonitor::TrayStatus</name>
+    <message>
+        <source>&amp;Go on without the window</source>
+        <translation>Ohne Fenster &amp;weiterlaufen</translation>
+    </message>
+    <message>
+        <source>%1, no sweeps are coming</source>
+        <translation>%1, es kommen keine Durchläufe</translation>
+    </message>
+</context>
+<context>
     <name>bandmonitor::WindowMenu</name>
     <message>
         <source>&amp;Window</source>
