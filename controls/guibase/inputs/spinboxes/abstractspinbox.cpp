@@ -3,10 +3,12 @@
 
 #include <guibase/inputs/typedinputbody.h>
 
+#include <QFontMetrics>
 #include <QStyle>
 #include <QStyleOptionSpinBox>
 
 #include <algorithm>
+#include <optional>
 
 namespace SpinBoxes {
 
@@ -16,9 +18,29 @@ struct AbstractSpinBox::Private
         : body(box)
     {}
 
+    /// Layouts ask again and again.
+    int widthOf(const QStringList& samples, const QFontMetrics& metrics);
+
     TypedInputBody<AbstractSpinBox> body;
     StepEnabled shownSteps = StepNone;
+
+private:
+    QStringList m_samples; ///< That were measured last.
+    std::optional<QFontMetrics> m_metrics;
+    int m_width = 0;
 };
+
+int AbstractSpinBox::Private::widthOf(const QStringList& samples, const QFontMetrics& metrics)
+{
+    if (m_metrics == metrics && m_samples == samples)
+        return m_width;
+    m_samples = samples;
+    m_metrics = metrics;
+    m_width = 0;
+    for (const QString& sample : samples)
+        m_width = std::max(m_width, metrics.horizontalAdvance(sample));
+    return m_width;
+}
 
 AbstractSpinBox::AbstractSpinBox(QWidget* parent)
     : QAbstractSpinBox(parent)
@@ -152,9 +174,7 @@ void AbstractSpinBox::updateButtons()
 QSize AbstractSpinBox::sizeFor(const QSize& lineEditSize) const
 {
     constexpr int roomForCursor = 2;
-    int width = 0;
-    for (const QString& sample : sizeSamples())
-        width = std::max(width, fontMetrics().horizontalAdvance(sample));
+    const int width = m_d->widthOf(sizeSamples(), fontMetrics());
     QStyleOptionSpinBox option;
     initStyleOption(&option);
     const QSize content(width + roomForCursor, lineEditSize.height());
