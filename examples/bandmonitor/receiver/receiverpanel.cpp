@@ -89,7 +89,11 @@ ReceiverPanel::ReceiverPanel(const SessionValues& values, QWidget* parent)
     addStartTime();
     addThreshold();
     addPosition();
+    connect(m_hexadecimal, &QCheckBox::toggled, this, &ReceiverPanel::showAddressFormat);
+    bindForm(*m_content, values.receiverPath());
+    showAddressFormat(m_hexadecimal->isChecked());
 
+    // Once the fields have their ranges: it asks them for their sizes.
     auto* area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
@@ -105,9 +109,6 @@ ReceiverPanel::ReceiverPanel(const SessionValues& values, QWidget* parent)
     const QList<AbstractSpinBox*> inputs = m_content->findChildren<AbstractSpinBox*>();
     for (const AbstractSpinBox* input : inputs)
         connect(input, &AbstractSpinBox::editingFinished, this, &ReceiverPanel::editingFinished);
-    connect(m_hexadecimal, &QCheckBox::toggled, this, &ReceiverPanel::showAddressFormat);
-    bindForm(*this, values.receiverPath());
-    showAddressFormat(m_hexadecimal->isChecked());
 }
 
 ReceiverPanel::~ReceiverPanel() = default;
