@@ -120,7 +120,7 @@ SideAxis::~SideAxis() = default;
 
 int SideAxis::preferredWidth(const QWidget& widget)
 {
-    return widget.fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + tickLength +
+    return widget.fontMetrics().horizontalAdvance(QStringLiteral("00:00.000")) + tickLength +
            3 * labelMargin;
 }
 

@@ -26,6 +26,9 @@ namespace RadioPanes {
 class BandPanesPrivate
 {
 public:
+    /// With texts that are as fine as it takes to tell them apart, where that is possible.
+    std::vector<AxisTick> timeTicks(int pixels) const;
+
     VisibleBand visibleBand;
     FrequencyText text;
     Splitter* splitter = nullptr;
@@ -42,6 +45,25 @@ public:
     std::unique_ptr<ValueFollower> unitFollower;
     std::unique_ptr<ValueFollower> zoneFollower;
 };
+
+std::vector<AxisTick> BandPanesPrivate::timeTicks(int pixels) const
+{
+    const auto ticksIn = [this, pixels](const QString& format) {
+        return waterfall->timeTicks(pixels, [&format](quint64 timeUs) {
+            return GuiBase::Instance().TimeString(timeUs, format);
+        });
+    };
+    if (waterfall->isLongerThanADay())
+        return ticksIn(QStringLiteral("MM-dd\nhh:mm"));
+    const auto haveOneText = [](const std::vector<AxisTick>& ticks) {
+        return std::ranges::adjacent_find(ticks, {}, &AxisTick::label) != ticks.end();
+    };
+    std::vector<AxisTick> ticks = ticksIn(QStringLiteral("hh:mm:ss"));
+    if (!haveOneText(ticks))
+        return ticks;
+    std::vector<AxisTick> fine = ticksIn(QStringLiteral("mm:ss.zzz"));
+    return haveOneText(fine) ? ticks : fine;
+}
 
 BandPanes::BandPanes(const QString& splitterName, const QString& splitterGroup, QWidget* parent)
     : QWidget(parent)
@@ -64,15 +86,7 @@ BandPanes::BandPanes(const QString& splitterName, const QString& splitterGroup, 
     d->levelAxis = new SideAxis(
         tr("dB"), [this](int pixels) { return d->spectrum->levelTicks(pixels); }, this);
     d->timeAxis = new SideAxis(
-        QString(),
-        [this](int pixels) {
-            const QString format = d->waterfall->isLongerThanADay() ? QStringLiteral("MM-dd\nhh:mm")
-                                                                    : QStringLiteral("hh:mm:ss");
-            return d->waterfall->timeTicks(pixels, [&format](quint64 timeUs) {
-                return GuiBase::Instance().TimeString(timeUs, format);
-            });
-        },
-        this);
+        QString(), [this](int pixels) { return d->timeTicks(pixels); }, this);
     d->overview = new OverviewPane(this);
     buildLayout();
     setFocusProxy(d->spectrum);
