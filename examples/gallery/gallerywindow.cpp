@@ -72,7 +72,7 @@ const QList<Page>& GalleryWindow::pages()
         {QStringLiteral("coloreditor"), tr("Colour editor"), &makeColorEditor},
         {QStringLiteral("popups"), tr("Pop-ups"), &makePopUps},
         {QStringLiteral("tabs"), tr("Tabs and context menus"), &makeTabs},
-        {QStringLiteral("signs"), tr("Flashing and busy signs"), &makeSigns},
+        {QStringLiteral("signs"), tr("Flashing and busy signs"), &makeSigns, true},
         {QStringLiteral("circles"), tr("Circles"), &makeCircles},
         {QStringLiteral("toolbars"), tr("Tool bars"), &makeToolBars},
         {QStringLiteral("tray"), tr("Tray icon"), &makeTrayIcons},
@@ -159,7 +159,7 @@ QStringList GalleryWindow::lateColors(const QString& folder)
         const QList<QImage> changed = picturesFrom(!dark, dark);
         const QList<QImage> made = picturesFrom(dark, dark);
         for (int number = 0; number < pages().size(); ++number) {
-            if (changed.at(number) == made.at(number))
+            if (pages().at(number).isMoving || changed.at(number) == made.at(number))
                 continue;
             const QString name = pages().at(number).name +
                                  (dark ? QStringLiteral("-dark") : QStringLiteral("-light"));

@@ -14,6 +14,7 @@ struct Page
     QString name; ///< Also of its pictures.
     QString title;
     QWidget* (*make)();
+    bool isMoving = false; ///< Two pictures of it differ.
 };
 
 QWidget* makeSpinBoxes();

@@ -24,8 +24,12 @@ struct JTBASE_EXPORT GeoPosition
     /// at 80° S and 84° N.
     GeoPosition movedInGrid(double east, double north) const;
 
-    /// To the last digit.
-    friend bool operator==(const GeoPosition&, const GeoPosition&) = default;
+    /// To the last digit; all that are not valid are the same.
+    friend bool operator==(const GeoPosition& a, const GeoPosition& b)
+    {
+        return (a.latitude == b.latitude && a.longitude == b.longitude) ||
+               (!a.isValid() && !b.isValid());
+    }
 };
 
 Q_DECLARE_METATYPE(GeoPosition)

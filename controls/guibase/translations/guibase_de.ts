@@ -2209,7 +2209,7 @@
     <name>ToolBarContainer</name>
     <message>
         <source>More</source>
-        <translation type="unfinished">Weitere</translation>
+        <translation>Weitere</translation>
     </message>
 </context>
 <context>
@@ -2232,11 +2232,11 @@
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished">Läuft</translation>
+        <translation>Läuft</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished">Warnung</translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>Fault</source>

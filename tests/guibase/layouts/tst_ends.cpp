@@ -127,11 +127,11 @@ private:
     }
 
     /// What the program changes at its first start, and where the rest has come to be.
-    const QRegularExpression m_looks{QStringLiteral(
-        "window maximized, docked right \\d+, open at 300 260 222 188, "
-        "large, hidden, hiding, tabbed below, column 77, panes \\d+ \\d+, "
-        "colors \\*\\*\\* Color Blind \\*\\*\\*, zone 0, position 3, unit GHz, "
-        "files &1 .*second.csv &2 .*first.csv")};
+    const QRegularExpression m_looks{
+        QStringLiteral("window maximized, docked right \\d+, open at 300 260 222 188, "
+                       "large, hidden, hiding, tabbed below, column 77, panes \\d+ \\d+, "
+                       "colors \\*\\*\\* Color Blind \\*\\*\\*, zone 0, position 3, unit GHz, "
+                       "files &1 .*second.csv &2 .*first.csv")};
 };
 
 QTEST_GUILESS_MAIN(tst_Ends)

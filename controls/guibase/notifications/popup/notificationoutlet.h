@@ -12,8 +12,7 @@ class QString;
 namespace NotificationOutlet {
 
 /// Takes a plain text; false when it cannot take it now.
-using Function =
-    std::function<bool(const QString& title, const QString& text, const QIcon& icon)>;
+using Function = std::function<bool(const QString& title, const QString& text, const QIcon& icon)>;
 
 /// Replaces the outlet, until the owner is destroyed.
 void set(const QObject& owner, Function function);
