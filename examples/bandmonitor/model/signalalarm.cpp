@@ -21,35 +21,56 @@ bool overlap(const Signal& a, const Signal& b)
 
 std::vector<SignalTrack> SignalAlarm::takeIn(const SignalWatch& watch)
 {
-    constexpr std::uint64_t wanted = (1U << sweepsOnEnd) - 1;
     const bool begins = watch.hasBegunAnew();
     if (begins)
         m_known.clear();
-    std::vector<SignalTrack> picked;
+    std::vector<const SignalTrack*> others;
     for (const SignalTrack& track : watch.tracks()) {
-        const Known now{track.id, track.signal, track.lastSeenUs, true};
         const auto known = std::ranges::find(m_known, track.id, &Known::id);
-        if (known != m_known.end()) {
-            *known = now;
-            continue;
+        if (known == m_known.end()) {
+            others.push_back(&track);
+        } else if (overlap(known->signal, track.signal)) {
+            *known = {track.id, track.signal, track.lastSeenUs, true};
+        } else { // it may be another signal now, and the former one still be there
+            known->id = 0;
+            add(track);
         }
-        const bool isOld = begins || isKnown(track.signal);
-        if (!isOld && (track.presence & wanted) != wanted)
+    }
+    constexpr std::uint64_t wanted = (1U << sweepsOnEnd) - 1;
+    std::vector<SignalTrack> picked;
+    for (const SignalTrack* track : others) {
+        if (isKnown(*track) || (!begins && (track->presence & wanted) != wanted))
             continue;
-        if (m_known.size() == mostKnown)
-            m_known.erase(m_known.begin());
-        m_known.push_back(now);
-        if (!isOld && !isIgnored(track.signal))
-            picked.push_back(track);
+        add(*track);
+        if (!begins && !isIgnored(track->signal))
+            picked.push_back(*track);
     }
     forgetGone(watch.timeUs());
     return picked;
 }
 
-bool SignalAlarm::isKnown(const Signal& signal) const
+void SignalAlarm::add(const SignalTrack& track)
 {
-    return std::ranges::any_of(
-        m_known, [&signal](const Known& known) { return overlap(signal, known.signal); });
+    if (m_known.size() == mostKnown)
+        m_known.erase(std::ranges::min_element(m_known, {}, [](const Known& known) {
+            return std::pair(known.isFollowed, known.lastSeenUs);
+        }));
+    m_known.push_back({track.id, track.signal, track.lastSeenUs, true});
+}
+
+bool SignalAlarm::isKnown(const SignalTrack& track)
+{
+    bool result = false;
+    for (Known& known : m_known) {
+        if (!overlap(known.signal, track.signal))
+            continue;
+        result = true;
+        if (known.isFollowed)
+            continue;
+        known = {track.id, track.signal, track.lastSeenUs, true};
+        break;
+    }
+    return result;
 }
 
 void SignalAlarm::forgetGone(quint64 timeUs)

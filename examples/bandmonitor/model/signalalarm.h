@@ -29,14 +29,16 @@ private:
     /// A signal that is old or was picked.
     struct Known
     {
-        std::uint32_t id = 0; ///< Of its track.
+        std::uint32_t id = 0; ///< Of its track; 0 for none.
         Signal signal;
         quint64 lastSeenUs = 0;
         bool isFollowed = false; ///< Its track was among the last ones.
     };
 
     bool isIgnored(const Signal& signal) const;
-    bool isKnown(const Signal& signal) const;
+    /// Whether a known signal is at the place of the track, which goes on with it if no other does.
+    bool isKnown(const SignalTrack& track);
+    void add(const SignalTrack& track);
     void forgetGone(quint64 timeUs);
 
     std::vector<Known> m_known;
