@@ -29,6 +29,7 @@ std::vector<SelectionItem> frequencyUnitItems()
 std::vector<SelectionItem> positionFormatItems()
 {
     std::vector<SelectionItem> items;
+    items.reserve(coordFormatCount);
     for (int format = 0; format < coordFormatCount; ++format) {
         items.emplace_back(getTranslatedCoordFormatName(static_cast<CoordFormat>(format)), false,
                            format);
