@@ -17,10 +17,12 @@ std::vector<AxisTick> ticksAt(const AxisRange& range, double step,
     std::vector<AxisTick> ticks;
     const double first = std::ceil(range.low / step - 1e-6);
     const double last = std::floor(range.high / step + 1e-6);
-    if (last - first >= maximumTicks)
+    if (!(first <= last && last - first < maximumTicks))
         return ticks;
-    for (double multiple = first; multiple <= last; multiple += 1) {
-        const double value = multiple * step + 0.0; // adding zero turns -0 into 0
+    // Far from zero a multiple and the next one may be the same number, so they are counted.
+    const auto count = static_cast<int>(last - first) + 1;
+    for (int i = 0; i < count; ++i) {
+        const double value = (first + i) * step + 0.0; // adding zero turns -0 into 0
         ticks.push_back({value, range.positionOf(value), labelOf(value)});
     }
     return ticks;

@@ -220,7 +220,7 @@ std::optional<Extent> occupiedWidth(const Sweep& sweep, const Extent& range, dou
 LevelRange usualLevels(std::span<const Sweep> sweeps, double outside)
 {
     constexpr std::size_t leastIgnored = 2;
-    constexpr std::ptrdiff_t widest = 100 * stepsPerDecibel;
+    constexpr std::ptrdiff_t widest = std::ptrdiff_t{100} * stepsPerDecibel;
     const std::vector<std::size_t> counts = countLevels(sweeps);
     const std::size_t total = std::reduce(counts.begin(), counts.end());
     if (total == 0)

@@ -48,6 +48,7 @@ private Q_SLOTS:
         row("below the resolution", 88.1001e6, 88.1002e6, 900, 1000, false);
         row("across zero", -75, 20, 300, 1, true);
         row("wider than the axis", 1e12, 2e12, 20, 1, false);
+        row("multiples as coarse as numbers", 1e17, 1e17 + 64, 900, 1, true);
         row("empty", 2, 2, 300, 1, false);
         row("no pixels", 1, 2, 0, 1, false);
         row("no number", qQNaN(), 2, 300, 1, false);
