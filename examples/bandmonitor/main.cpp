@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "commandline.h"
 #include "dialogcloser.h"
+#include "docks/paneldocks.h"
 #include "firstframe.h"
 #include "live/descriptorsource.h"
 #include "live/followedfile.h"
@@ -159,8 +160,10 @@ int run(int argc, char** argv, const CommandLine& commandLine)
     MainWindow window;
     services.SetMainWidget(&window);
     window.announceModes();
-    if (commandLine.screenshotsFolder.isEmpty()) { // Pictures show the program alone.
-        new SignalNotifier(&window);               // The window owns them.
+    if (!commandLine.screenshotsFolder.isEmpty())
+        window.resize(PanelDocks::windowSize); // whatever the screen is
+    else {                                     // Pictures show the program alone.
+        new SignalNotifier(&window);           // The window owns them.
         new TrayStatus(&window);
     }
     window.show();

@@ -42,8 +42,7 @@ namespace bandmonitor {
 namespace {
 
 constexpr int shownSweeps = 90;
-constexpr QSize windowSize(1100, 800); // whatever the screen is
-constexpr int settlingRounds = 3;      // docks put work off into the next round
+constexpr int settlingRounds = 3; // docks put work off into the next round
 
 struct SlotColor
 {
@@ -115,7 +114,6 @@ bool ScreenshotSeries::run()
 {
     if (!m_folder.mkpath(QStringLiteral(".")))
         m_failure = m_folder.path();
-    m_window.resize(windowSize);
     takeMain();
     takeZoom();
     takeSignals();
