@@ -147,7 +147,8 @@ int run(int argc, char** argv, const CommandLine& commandLine)
     TrovApplication startUp;
     // The settings may already give reason for a question.
     std::unique_ptr<DialogCloser> dialogs;
-    if (!commandLine.screenshotsFolder.isEmpty()) {
+    const bool takesPictures = !commandLine.screenshotsFolder.isEmpty();
+    if (takesPictures) {
         dialogs = std::make_unique<DialogCloser>();
         QObject::connect(dialogs.get(), &DialogCloser::closedUnexpectedly, &printError);
     }
@@ -159,11 +160,11 @@ int run(int argc, char** argv, const CommandLine& commandLine)
 
     MainWindow window;
     services.SetMainWidget(&window);
-    window.announceModes();
-    if (!commandLine.screenshotsFolder.isEmpty())
+    if (takesPictures)
         window.resize(PanelDocks::windowSize); // whatever the screen is
-    else {                                     // Pictures show the program alone.
-        new SignalNotifier(&window);           // The window owns them.
+    window.announceModes();
+    if (!takesPictures) {            // Pictures show the program alone.
+        new SignalNotifier(&window); // The window owns them.
         new TrayStatus(&window);
     }
     window.show();

@@ -114,6 +114,8 @@ bool ScreenshotSeries::run()
 {
     if (!m_folder.mkpath(QStringLiteral(".")))
         m_failure = m_folder.path();
+    // The docks were arranged for a smaller screen; headless ones are small.
+    m_window.panelDocks().showFactory(m_window.modes().mode());
     takeMain();
     takeZoom();
     takeSignals();

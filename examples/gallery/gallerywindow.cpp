@@ -11,6 +11,7 @@
 #include <QEventLoop>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStyle>
@@ -35,6 +36,7 @@ GalleryWindow::GalleryWindow(QWidget* parent)
     splitter->addWidget(m_pages);
     splitter->setStretchFactor(1, 1);
     m_names->setFixedWidth(fontMetrics().averageCharWidth() * 26);
+    splitter->setSizes({m_names->width(), pictureSize.width()});
     setCentralWidget(splitter);
     connect(m_names, &QListWidget::currentRowChanged, this, &GalleryWindow::showPage);
 
@@ -99,7 +101,11 @@ void GalleryWindow::showPage(int number)
         placeholder->children().isEmpty()) {
         m_pages->removeWidget(placeholder);
         delete placeholder;
-        m_pages->insertWidget(number, pages().at(number).make());
+        auto* page = new QScrollArea; // In a small window the page scrolls.
+        page->setFrameShape(QFrame::NoFrame);
+        page->setWidgetResizable(true);
+        page->setWidget(pages().at(number).make());
+        m_pages->insertWidget(number, page);
     }
     m_pages->setCurrentIndex(number);
     m_names->setCurrentRow(number);

@@ -13,6 +13,7 @@ Specimens::Specimens(const QStringList& states)
     for (int i = 0; i < states.size(); ++i) {
         auto* label = new QLabel(QStringLiteral("<b>%1</b>").arg(states.at(i)));
         m_grid->addWidget(label, 0, i + 1);
+        label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         m_grid->setColumnStretch(i + 1, 1);
     }
     m_grid->setAlignment(Qt::AlignTop);
@@ -23,8 +24,11 @@ void Specimens::addRow(const QString& name, const QList<QWidget*>& widgets)
     const int row = m_grid->rowCount();
     auto* label = new QLabel(name);
     m_grid->addWidget(label, row, 0);
-    for (int i = 0; i < widgets.size(); ++i)
-        m_grid->addWidget(widgets.at(i), row, i + 1);
+    for (int i = 0; i < widgets.size(); ++i) {
+        // A widget of fixed width must not narrow its column.
+        const bool isNarrow = widgets.at(i)->maximumWidth() < QWIDGETSIZE_MAX;
+        m_grid->addWidget(widgets.at(i), row, i + 1, isNarrow ? Qt::AlignLeft : Qt::Alignment());
+    }
     if (!widgets.isEmpty())
         label->setBuddy(widgets.first());
 }
