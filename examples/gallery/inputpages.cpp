@@ -87,6 +87,28 @@ void setItems(Input& input)
     input.setValue(42);
 }
 
+void addSpecialSpinBoxes(Specimens& all)
+{
+    using SpinBoxes::Int32SpinBox;
+    addStates<Int32SpinBox>(all, QStringLiteral("with a special text"), QStringLiteral("7"),
+                            QStringLiteral("on"), [](Int32SpinBox& box) {
+                                box.setRange(0, 100);
+                                box.setSpecialValueText(QStringLiteral("off"));
+                            });
+    addStates<Int32SpinBox>(all, QStringLiteral("with a guard"), QStringLiteral("8"),
+                            QStringLiteral("13"), [](Int32SpinBox& box) {
+                                setNumber(box);
+                                box.setValueGuard([](const int& value) {
+                                    return value == 13 ? QStringLiteral("Not 13.") : QString();
+                                });
+                            });
+    addStates<Int32SpinBox>(all, QStringLiteral("right to left"), QStringLiteral("7"),
+                            QStringLiteral("seven"), [](Int32SpinBox& box) {
+                                setNumber(box);
+                                box.setLayoutDirection(Qt::RightToLeft);
+                            });
+}
+
 } // namespace
 
 QWidget* makeSpinBoxes()
@@ -126,23 +148,7 @@ QWidget* makeSpinBoxes()
                             QStringLiteral("seven"), &setNumber<Int32SpinBox>);
     addStates<UInt64SpinBox>(*all, QStringLiteral("UInt64SpinBox"), QStringLiteral("7"),
                              QStringLiteral("-7"), &setNumber<UInt64SpinBox>);
-    addStates<Int32SpinBox>(*all, QStringLiteral("with a special text"), QStringLiteral("7"),
-                            QStringLiteral("on"), [](Int32SpinBox& box) {
-                                box.setRange(0, 100);
-                                box.setSpecialValueText(QStringLiteral("off"));
-                            });
-    addStates<Int32SpinBox>(*all, QStringLiteral("with a guard"), QStringLiteral("8"),
-                            QStringLiteral("13"), [](Int32SpinBox& box) {
-                                setNumber(box);
-                                box.setValueGuard([](const int& value) {
-                                    return value == 13 ? QStringLiteral("Not 13.") : QString();
-                                });
-                            });
-    addStates<Int32SpinBox>(*all, QStringLiteral("right to left"), QStringLiteral("7"),
-                            QStringLiteral("seven"), [](Int32SpinBox& box) {
-                                setNumber(box);
-                                box.setLayoutDirection(Qt::RightToLeft);
-                            });
+    addSpecialSpinBoxes(*all);
     all->addNote(QStringLiteral("The tool tip of a refused input tells the reason."));
     return all;
 }
