@@ -32,9 +32,10 @@ public:
 
     /// Events other than those of children are ignored. The functions may delete this object.
     void handle(const QEvent& event);
+    /// Announces a dock of the main window now, if that is still to come.
+    void announce(QObject* child);
 
 private:
-    void announce(QObject* child);
     void announceWaiting();
     void remove(QObject* child);
 

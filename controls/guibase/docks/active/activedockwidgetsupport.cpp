@@ -175,7 +175,12 @@ bool ActiveDockWidgetSupport::eventFilter(QObject* watched, QEvent* event)
 
 void ActiveDockWidgetSupport::setActiveDockWidget(QDockWidget* dock)
 {
-    if (dock == d->identity)
+    const QPointer<ActiveDockWidgetSupport> alive(this);
+    const QPointer<QDockWidget> guarded(dock);
+    // One that leaves before it was announced would be held for ever.
+    d->children.announce(dock);
+    if (!alive || (dock != nullptr && (!guarded || guarded->parentWidget() != mainWindow())) ||
+        dock == d->identity)
         return;
     d->store(dock);
     Q_EMIT activeDockWidgetChanged(dock);

@@ -120,6 +120,16 @@ private Q_SLOTS:
         delete f.docks[1]; // the active one
         QCOMPARE(f.takeLog(), QStringList(u"active b"_s));
     }
+    void docksLeaveBeforeTheyAreAnnounced()
+    {
+        Fixture f;
+        QDockWidget* brief = f.window->addDock(u"brief"_s);
+        QTest::mouseClick(brief->widget(), Qt::LeftButton);
+        QVERIFY(f.takeLog().contains(u"active brief"_s));
+        DockWindow other;
+        other.addDockWidget(Qt::LeftDockWidgetArea, brief);
+        QCOMPARE(f.takeLog(), QStringList({u"removed brief"_s, u"active a"_s}));
+    }
     void survivesReceiversThatDestroy_data()
     {
         TestRows<int, int> row; // signal, victim
