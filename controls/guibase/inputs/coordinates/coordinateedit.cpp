@@ -35,7 +35,8 @@ CoordFormat shownFormat(const GeoPosition& position, CoordFormat wanted)
 
 QString shownText(const GeoPosition& position, CoordFormat wanted)
 {
-    return textOf(position, shownFormat(position, wanted));
+    const QString text = textOf(position, wanted);
+    return text.isEmpty() ? textOf(position, universalFormat) : text;
 }
 
 } // namespace
@@ -191,16 +192,18 @@ QValidator::State CoordinateEdit::validate(QString& text, int&) const
 
 void CoordinateEdit::interpret()
 {
+    using Reading = DisplayFormatReading<GeoPosition>;
     const QPointer<QObject> survivor(this);
     const bool isChanged = isTextChanged();
-    const QString text = m_d->edit->text();
-    const PositionReading read = readPosition(text);
-    DisplayFormatReading<GeoPosition> reading{m_d->value, currentDisplayFormatIndex(),
-                                              DisplayFormatReading<GeoPosition>::Unreadable};
-    if (isChanged && read.isRead())
-        reading = {read.position, static_cast<int>(read.format),
-                   DisplayFormatReading<GeoPosition>::Read};
-    const QString refusal = isChanged ? refusalOf(text) : QString();
+    Reading reading{m_d->value, currentDisplayFormatIndex(), Reading::Unreadable};
+    QString refusal;
+    if (isChanged) {
+        const QString text = m_d->edit->text();
+        const PositionReading read = readPosition(text);
+        if (read.isRead())
+            reading = {read.position, static_cast<int>(read.format), Reading::Read};
+        refusal = refusalOf(text);
+    }
     if (survivor)
         body().take(*this, reading, isChanged, refusal);
     if (survivor && m_d->isFormatPending && isFollowingPositionFormat())
@@ -233,7 +236,7 @@ void CoordinateEdit::step(int steps, bool isDigit)
     const auto field = fieldAt(cursor);
     if (!field)
         return;
-    const qsizetype digit = std::min<qsizetype>(cursor, field->end - 1);
+    const qsizetype digit = std::clamp<qsizetype>(cursor, field->begin, field->end - 1);
     const double units =
         isDigit ? std::pow(10.0, static_cast<double>(field->end - 1 - digit)) : 1.0;
     const auto result = field->stepped(m_d->value, steps * units);

@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "inputmask_p.h"
 
+#include <algorithm>
+
 namespace {
 
 const QString digits = QStringLiteral("0123456789");
 const QString letters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ");
 
-/// "A-DX" stands for "ABCDX".
+/// "A-DX" stands for "ABCDX", "D-A" for "ABCD".
 QString withRanges(const QString& list)
 {
     QString all;
     for (qsizetype i = 0; i < list.size(); ++i) {
         const bool isRange = i + 2 < list.size() && list[i + 1] == u'-';
-        const char16_t last = list[isRange ? i + 2 : i].unicode();
-        for (char16_t c = list[i].unicode(); c <= last; ++c)
+        const auto [first, last] = std::minmax({list[i], list[isRange ? i + 2 : i]});
+        for (int c = first.unicode(); c <= last.unicode(); ++c)
             all += QChar(c);
         i += isRange ? 2 : 0;
     }

@@ -70,9 +70,12 @@ std::optional<InputMask::State> MaskedLineEdit::Private::shaped(const QString& t
            former[former.size() - 1 - same] == text[text.size() - 1 - same])
         ++same;
     const QString piece = text.mid(begin, text.size() - same - begin);
-    if (isFreeTextAllowed && isWholeText && (isWholeText(piece) || isWholeText(text)))
-        return InputMask::State{isWholeText(piece) ? piece.trimmed() : text,
-                                isWholeText(piece) ? piece.trimmed().size() : text.size()};
+    if (isFreeTextAllowed && isWholeText) {
+        for (const QString& whole : {piece.trimmed(), text}) {
+            if (isWholeText(whole))
+                return InputMask::State{whole, whole.size()};
+        }
+    }
     if (const auto whole = mask.pasted({mask.emptyText(), 0}, text); whole && same + begin == 0)
         return whole;
     const InputMask::State erased{mask.erased(former, begin, former.size() - same), begin};

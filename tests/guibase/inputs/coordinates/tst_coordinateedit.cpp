@@ -68,6 +68,8 @@ private Q_SLOTS:
         row("neither", "9999-99", "1 2 3", "v", "____-__");
         row("too long", "99.99", "12345", "v", "__.__");
         row("from the cursor", "99.99", "34", "^12v", "12.34");
+        row("turned range", "[C-A]9", "", "^dc7", "C7");
+        row("last character", "[\uFFFE-\uFFFF]9", "", "^7", "__");
         row("escaped", "\\9\\[9", "", "^5", "9[5");
         row("no slots", "abc", "", "xyz", "xyz");
     }
@@ -164,6 +166,7 @@ private Q_SLOTS:
         row("beyond the pole", {89.5, 0}, Degrees, 3, 1, "N 89.50000° E 000.00000°");
         row("longer", {9.5, 9.5}, SignedDegrees, 8, 1, "9.50000 10.50000");
         row("decimals", munich, SignedDegrees, 3, 10, "48.23731 11.57528");
+        row("digit behind a sign", {-33.5, 0}, SignedDegrees, 0, 10, "-23.50000 0.00000");
         row("easting", munich, Utm, 10, 1, "32U 691588 5334769");
         row("digit of the northing", munich, Utm, 13, 10, "32U 691587 5344769");
         row("zone", munich, Utm, 0, 1, "33U 691587 5334769");
