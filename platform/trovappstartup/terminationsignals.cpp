@@ -27,32 +27,36 @@ constexpr int repeatSeconds = 1;
 
 /// Where the handler writes; -1 without an object.
 std::atomic<int> writeEnd{-1};
-/// The first request: its signal, and when it came. 0 before.
-std::atomic<int> firstSignal{0};
-std::atomic<long long> firstSecond{0};
-static_assert(std::atomic<int>::is_always_lock_free && std::atomic<long long>::is_always_lock_free,
+struct Request
+{
+    int signal; ///< 0 for none.
+    int second;
+};
+/// In one piece: the next signal may come in another thread at the same time.
+std::atomic<Request> firstRequest{Request{0, 0}};
+static_assert(std::atomic<int>::is_always_lock_free && std::atomic<Request>::is_always_lock_free,
               "a signal handler uses them");
 
 /// One that does not go back when the clock is set.
-long long monotonicSecond()
+int monotonicSecond()
 {
     timespec now{};
     ::clock_gettime(CLOCK_MONOTONIC, &now);
-    return now.tv_sec;
+    return static_cast<int>(now.tv_sec);
 }
 
 extern "C" void handleTerminationSignal(int number)
 {
     const int savedError = errno;
-    int none = 0;
-    if (firstSignal.compare_exchange_strong(none, number)) {
-        firstSecond = monotonicSecond();
+    const Request request{number, monotonicSecond()};
+    Request first{0, 0};
+    if (firstRequest.compare_exchange_strong(first, request)) {
         const int descriptor = writeEnd.load();
         const char byte = 1;
         if (descriptor >= 0 && ::write(descriptor, &byte, 1) < 0) {
             // The pair is full: the request is under way already.
         }
-    } else if (number != firstSignal || monotonicSecond() - firstSecond > repeatSeconds) {
+    } else if (number != first.signal || request.second - first.second > repeatSeconds) {
         ::signal(number, SIG_DFL);
         ::raise(number); // ends the process as soon as this handler has returned
     }
@@ -86,7 +90,7 @@ public:
 
     void install()
     {
-        firstSignal = 0;
+        firstRequest = Request{0, 0};
         struct sigaction action = {};
         action.sa_handler = &handleTerminationSignal;
         action.sa_flags = SA_RESTART;
