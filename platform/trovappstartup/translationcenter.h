@@ -49,8 +49,8 @@ public:
 
     /// Makes the language the default locale and installs its translators on the application,
     /// replacing those of an earlier call. Without a language it removes them and goes back to the
-    /// system's locale. Returns the number of catalogues found; a
-    /// missing file is no error (English texts are in the code). Needs the application object.
+    /// system's locale. Returns the number of catalogues found; a missing file is no error (English
+    /// texts are in the code). Needs the application object.
     int Init();
     QStringList GetLoadedFiles() const;
 
