@@ -31,7 +31,9 @@ class DockWalk
 public:
     explicit DockWalk(const QByteArray& state)
         : m_walk(state)
-    {}
+    {
+        m_walk.expect(state.size() <= DockStateCheck::maximumSize);
+    }
 
     bool state(int version);
     DockStateCheck::DockNames names();
@@ -215,7 +217,7 @@ bool DockStateCheck::Names::contains(const QString& name) const
 std::optional<DockStateCheck::DockNames> DockStateCheck::names(const QByteArray& state, int version)
 {
     DockWalk walk(state);
-    if (state.size() > maximumSize || !walk.state(version))
+    if (!walk.state(version))
         return std::nullopt;
     return walk.names();
 }
@@ -224,7 +226,7 @@ DockStateCheck::Places DockStateCheck::places(const QByteArray& state, int versi
 {
     Places result;
     DockWalk walk(state);
-    if (state.size() > maximumSize || !walk.state(version))
+    if (!walk.state(version))
         return result;
     for (const DockWalk::Place& place : walk.places()) {
         const char* bytes = state.constData() + place.position;
@@ -238,7 +240,7 @@ QByteArray DockStateCheck::withPlaces(QByteArray state, int version, const Place
 {
     const QByteArray former = state; // The names lie in it.
     DockWalk walk(former);
-    if (places.empty() || state.size() > maximumSize || !walk.state(version))
+    if (places.empty() || !walk.state(version))
         return state;
     for (const DockWalk::Place& place : walk.places()) {
         const auto found = places.find(textOf(place.name));
