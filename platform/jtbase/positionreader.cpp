@@ -13,6 +13,7 @@
 namespace {
 
 constexpr qsizetype longestText = 100;
+const QString gridLetters = QStringLiteral("ABCDEFGHJKLMNPQRSTUVWXYZ");
 
 /// The same text in capital letters, with one character for each sign.
 QString plainText(QStringView text)
@@ -94,10 +95,9 @@ PositionReading readMgrs(const QString& plain)
         return {};
     constexpr double squareSize = 100'000;
     constexpr int rowsInCycle = 20;
-    const QString letters = QStringLiteral("ABCDEFGHJKLMNPQRSTUVWXYZ");
     const int zone = match.captured(1).toInt();
-    const auto column = letters.indexOf(match.captured(3)) - (zone - 1) % 3 * 8;
-    const auto row = letters.indexOf(match.captured(4)) + (zone % 2 == 0 ? rowsInCycle - 5 : 0);
+    const auto column = gridLetters.indexOf(match.captured(3)) - (zone - 1) % 3 * 8;
+    const auto row = gridLetters.indexOf(match.captured(4)) + (zone % 2 == 0 ? rowsInCycle - 5 : 0);
     if (zone < 1 || zone > 60 || column < 0 || column > 7)
         return noSuchSquare(CoordFormat::Mgrs);
     const auto half = digits.size() / 2;
@@ -143,9 +143,8 @@ PositionReading readGeoref(const QString& plain)
     const QRegularExpressionMatch match = shape.match(plain);
     if (!match.hasMatch())
         return {};
-    const QString letters = QStringLiteral("ABCDEFGHJKLMNPQRSTUVWXYZ");
     const auto index = [&](int capture) {
-        return static_cast<double>(letters.indexOf(match.captured(capture)));
+        return static_cast<double>(gridLetters.indexOf(match.captured(capture)));
     };
     const QString digits = match.captured(5);
     const auto half = digits.size() / 2;

@@ -89,6 +89,11 @@ int zoneOf(const GeoPosition& position)
     return static_cast<int>(std::floor((longitude + 180.0) / 6.0)) % 60 + 1;
 }
 
+double centralMeridian(int zone)
+{
+    return 6.0 * zone - 183.0;
+}
+
 struct Meridians
 {
     double west;
@@ -100,21 +105,15 @@ Meridians meridiansOf(int zone, double latitude)
 {
     if (latitude >= 56.0 && latitude < 64.0 && (zone == 31 || zone == 32))
         return zone == 31 ? Meridians{0, 3} : Meridians{3, 12};
-    if (latitude >= 72.0 && zone >= 31 && zone <= 37) {
-        const double middle = 6.0 * zone - 183.0;
+    const double middle = centralMeridian(zone);
+    if (latitude >= 72.0 && zone >= 31 && zone <= 37)
         return {zone == 31 ? 0 : middle - 6, zone == 37 ? 42 : middle + 6};
-    }
-    return {6.0 * zone - 186.0, 6.0 * zone - 180.0};
+    return {middle - 3, middle + 3};
 }
 
 QChar bandOf(double latitude)
 {
     return QLatin1Char(bands[qMin(19, static_cast<int>(std::floor((latitude + 80.0) / 8.0)))]);
-}
-
-double centralMeridian(int zone)
-{
-    return 6.0 * zone - 183.0;
 }
 
 /// The place in the zone and band that is nearest to the position in degrees.
