@@ -26,7 +26,7 @@ GuiBasePrivate::GuiBasePrivate(GuiBase& services)
 
 namespace {
 
-/// Below a style sheet of its own no widget of the toolkit follows the application's palette.
+/// A widget with a style sheet of its own keeps the colours of the palette that it was read with.
 void renewStyleSheets()
 {
     QList<QPointer<QWidget>> styled;

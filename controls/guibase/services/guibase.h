@@ -156,7 +156,7 @@ public:
     void StoreColumnWidth4(const QString& name, SortListView* list);
     void StoreColumnSizes2Cfg();
     /// Positions of splitters, by their storage names; see Splitter. Stored only while the splitter
-    /// is visible. Null splitters are ignored.
+    /// is visible. Null splitters are ignored. Forgetting those of a key moves no splitter.
     void ApplySplitterSizes4(const QString& key, Splitter* splitter);
     void StoreSplitterSizes4(const QString& key, Splitter* splitter);
     void ForgetSplitterSizes4(const QString& key);

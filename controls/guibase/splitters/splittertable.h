@@ -18,7 +18,7 @@ public:
     /// Gives the splitter the positions that were stored last, in this run or an earlier one.
     /// Damaged ones change nothing and are kept aside. A splitter without widgets stays as it is.
     void apply(const QString& key, Splitter* splitter) const;
-    /// Nothing is stored from now on.
+    /// Removes what is stored. The splitter stays as it is.
     void forget(const QString& key) const;
 
 private:

@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <utility>
+
 namespace {
 
 struct Outlet

@@ -7,8 +7,8 @@ class QIcon;
 class QObject;
 class QString;
 
-/// The way of notifications for which there is no place: no window of the program is open, and it
-/// may not place pop-ups on the screen. Without an outlet the desktop's service gets them.
+/// Takes notifications while the program can show none itself: no window of it is open, and it may
+/// not place pop-ups on the screen. Without an outlet the desktop's service gets them.
 namespace NotificationOutlet {
 
 /// Takes a plain text; false when it cannot take it now.
