@@ -4,9 +4,10 @@
 #include "frequencytext.h"
 #include "panepainter_p.h"
 #include "visibleband.h"
-#include "wheelnotches_p.h"
 
 #include <radiopanes/colors/panecolors.h>
+
+#include <jtbase/wheelnotches.h>
 
 #include <QMouseEvent>
 #include <QPainter>

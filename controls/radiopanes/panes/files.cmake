@@ -20,5 +20,4 @@ guibase_room(panes
         placebox.cpp placebox_p.h
         spectrumoverlay.cpp spectrumpane_p.h spectrumpicture.cpp
         spectrumraster.cpp spectrumraster_p.h
-        waterfalllines.cpp waterfalllines_p.h
-        wheelnotches_p.h)
+        waterfalllines.cpp waterfalllines_p.h)

@@ -3,7 +3,8 @@
 
 #include "spectrumpane.h"
 #include "spectrumraster_p.h"
-#include "wheelnotches_p.h"
+
+#include <jtbase/wheelnotches.h>
 
 #include <QFont>
 #include <QImage>

@@ -5,9 +5,10 @@
 #include "placebox_p.h"
 #include "visibleband.h"
 #include "waterfalllines_p.h"
-#include "wheelnotches_p.h"
 
 #include <radiopanes/colors/panecolors.h>
+
+#include <jtbase/wheelnotches.h>
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -3,6 +3,8 @@
 
 #include "colorcirclegeometry_p.h"
 
+#include <jtbase/wheelnotches.h>
+
 #include <QConicalGradient>
 #include <QKeyEvent>
 #include <QLinearGradient>
@@ -77,7 +79,7 @@ struct ColorCircle::Private
     Hsv hsv;
     float alpha = 1;
     std::optional<Drag> drag;
-    int wheelRest = 0; ///< Parts of a notch, of fine wheels.
+    WheelNotches wheel;
 };
 
 QColor ColorCircle::Private::colorOf(const Hsv& of) const
@@ -285,18 +287,14 @@ void ColorCircle::keyPressEvent(QKeyEvent* event)
 
 void ColorCircle::wheelEvent(QWheelEvent* event)
 {
-    constexpr int notch = 120;
     if (!hasFocus()) {
         event->ignore();
         return;
     }
-    const QPoint turned = event->angleDelta();
-    d->wheelRest += turned.y() != 0 ? turned.y() : turned.x();
-    const int steps = d->wheelRest / notch;
-    d->wheelRest -= steps * notch;
+    const int notches = d->wheel.add(wheelAngle(*event));
     const bool isFine = event->modifiers().testFlag(Qt::ControlModifier);
     event->accept();
-    d->turn(d->hsv.hue + steps * (isFine ? fineHueStep : hueStep));
+    d->turn(d->hsv.hue + notches * (isFine ? fineHueStep : hueStep));
 }
 
 bool ColorCircle::event(QEvent* event)

@@ -6,6 +6,8 @@
 
 #include <guibase/formats/realnumberdisplayformat.h>
 
+#include <jtbase/wheelnotches.h>
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
@@ -48,7 +50,7 @@ struct AbstractController::Private
     int decimals = automaticDecimals;
     bool isTextVisible = true;
     std::optional<Drag> drag;
-    int wheelRest = 0; ///< Parts of a notch, of fine wheels.
+    WheelNotches wheel;
 };
 
 AbstractController::AbstractController(QWidget* parent)
@@ -302,18 +304,13 @@ void AbstractController::keyPressEvent(QKeyEvent* event)
 
 void AbstractController::wheelEvent(QWheelEvent* event)
 {
-    constexpr int notch = 120;
     if (!hasFocus()) {
         event->ignore();
         return;
     }
-    const QPoint turned = event->angleDelta();
-    m_d->wheelRest += turned.y() != 0 ? turned.y() : turned.x();
-    const int steps = m_d->wheelRest / notch;
-    m_d->wheelRest -= steps * notch;
     event->accept();
-    if (steps != 0)
-        step(steps, isFine(*event));
+    if (const int notches = m_d->wheel.add(wheelAngle(*event)); notches != 0)
+        step(notches, isFine(*event));
 }
 
 void AbstractController::mouseReleaseEvent(QMouseEvent* event)

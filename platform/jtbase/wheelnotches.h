@@ -3,8 +3,6 @@
 
 #include <QWheelEvent>
 
-namespace RadioPanes {
-
 /// How far the wheel has turned. Some systems turn it sideways while a key is held.
 inline int wheelAngle(const QWheelEvent& event)
 {
@@ -28,5 +26,3 @@ public:
 private:
     int m_angle = 0; ///< Of the notch that is not full.
 };
-
-} // namespace RadioPanes
