@@ -299,6 +299,8 @@ void ColorCircle::wheelEvent(QWheelEvent* event)
 
 bool ColorCircle::event(QEvent* event)
 {
+    if (event->type() == QEvent::Hide || event->type() == QEvent::EnabledChange)
+        d->drag.reset();
     // Escape ends a drag here, whatever else the window does with it.
     if (event->type() == QEvent::ShortcutOverride && d->drag &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {

@@ -288,6 +288,12 @@ private Q_SLOTS:
         QCOMPARE(circle.color().hsvSaturation(), 255);
         QTest::keyClick(&circle, Qt::Key_Escape);
         QCOMPARE(circle.color(), before);
+        QTest::mousePress(&circle, Qt::LeftButton, {}, {103, 103});
+        const QColor dragged = circle.color();
+        circle.setEnabled(false); // ends the drag, which Escape brings back no more
+        circle.setEnabled(true);
+        QTest::keyClick(&circle, Qt::Key_Escape);
+        QCOMPARE(circle.color(), dragged);
     }
     /// A redefined user colour shows in the picker, is found, and comes back in the next run.
     void userColors()
