@@ -21,7 +21,6 @@
 namespace {
 
 constexpr int automaticDecimals = -1;
-constexpr int pageSteps = 10;
 
 std::unique_ptr<ValueDisplayFormatBase<double>> numberFormat()
 {
@@ -271,9 +270,9 @@ int AbstractController::stepsOf(const QKeyEvent& event) const
     case Qt::Key_Left:
         return isRightToLeft() ? 1 : -1;
     case Qt::Key_PageUp:
-        return pageSteps;
+        return ControllerScale::pageSteps;
     case Qt::Key_PageDown:
-        return -pageSteps;
+        return -ControllerScale::pageSteps;
     default:
         return 0;
     }

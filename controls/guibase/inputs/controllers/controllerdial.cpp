@@ -16,16 +16,17 @@
 
 namespace {
 
-constexpr int resolution = 100'000; ///< Of the toolkit's whole numbers.
 constexpr int notches = 10;
 constexpr int usual = 72; ///< Diameter, in pixels.
 constexpr int smallest = 32;
 constexpr double lowestAngle = 240; ///< Of the toolkit's dials, against the clock from the right.
 constexpr double sweep = 300;
 
-int toWhole(double fraction)
+/// The line of the text, below; empty while it is not visible.
+QRect textRectOf(const ControllerDial& dial)
 {
-    return static_cast<int>(std::lround(fraction * resolution));
+    const int height = dial.isTextVisible() ? dial.fontMetrics().height() : 0;
+    return {0, dial.height() - height, dial.width(), height};
 }
 
 /// In degrees against the clock; nothing near the centre, where the pointer has no direction.
@@ -54,7 +55,7 @@ ControllerDial::~ControllerDial() = default;
 
 QRect ControllerDial::dialRect() const
 {
-    const int room = height() - textSize().height();
+    const int room = textRectOf(*this).top();
     const int diameter = std::max(0, std::min(width(), room));
     return {(width() - diameter) / 2, (room - diameter) / 2, diameter, diameter};
 }
@@ -83,11 +84,11 @@ void ControllerDial::paintEvent(QPaintEvent*)
     QStyleOptionSlider option;
     option.initFrom(this);
     option.rect = dialRect();
-    option.maximum = resolution;
-    option.sliderPosition = option.sliderValue = toWhole(scale().fractionOf(value()));
+    option.maximum = ControllerScale::wholeRange;
+    option.sliderPosition = option.sliderValue = scale().wholeOf(value());
     option.upsideDown = false;
     option.notchTarget = 1;
-    option.tickInterval = resolution / notches;
+    option.tickInterval = ControllerScale::wholeRange / notches;
     option.subControls = QStyle::SC_DialGroove | QStyle::SC_DialHandle | QStyle::SC_DialTickmarks;
     if (isSliderDown())
         option.state |= QStyle::State_Sunken;
@@ -101,8 +102,7 @@ void ControllerDial::paintEvent(QPaintEvent*)
     const QPointF inner = mark.pointAt(0.88);
     painter.setPen(QPen(palette().color(foregroundRole()), 2));
     painter.drawLine(inner, mark.p2());
-    const QRect text(0, height() - textSize().height(), width(), textSize().height());
-    if (!text.isEmpty())
+    if (const QRect text = textRectOf(*this); !text.isEmpty())
         style()->drawItemText(&painter, text, Qt::AlignCenter, palette(), isEnabled(), textValue(),
                               foregroundRole());
 }

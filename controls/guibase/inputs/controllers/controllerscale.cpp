@@ -55,6 +55,11 @@ double ControllerScale::fractionOf(double value) const
     return width > 0 ? (clamped(value) / 2 - minimum / 2) / width : 0;
 }
 
+int ControllerScale::wholeOf(double value) const
+{
+    return static_cast<int>(std::lround(fractionOf(value) * wholeRange));
+}
+
 double ControllerScale::widthOf(double fraction) const
 {
     return fraction * maximum - fraction * minimum;

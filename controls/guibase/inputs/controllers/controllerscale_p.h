@@ -4,6 +4,9 @@
 /// The numbers of a controller: its range and its two sizes of steps.
 struct ControllerScale
 {
+    static constexpr int pageSteps = 10;
+    static constexpr int wholeRange = 100'000; ///< Of the toolkit's numbers; finer than pixels.
+
     double minimum = 0;
     double maximum = 100;
     double step = 1;
@@ -19,6 +22,8 @@ struct ControllerScale
     double rounded(double value, bool isFine) const;
     /// 0 at the minimum, 1 at the maximum; 0 in a range without width.
     double fractionOf(double value) const;
+    /// The same from 0 to `wholeRange`.
+    int wholeOf(double value) const;
     /// How far the value moves with this part of the range.
     double widthOf(double fraction) const;
     /// As many as a fine step has.

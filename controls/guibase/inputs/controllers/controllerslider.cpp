@@ -9,20 +9,13 @@
 #include <QStyleOptionSlider>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace {
 
-constexpr int resolution = 100'000; ///< Of the toolkit's whole numbers; more than pixels.
-constexpr int gap = 6;              ///< Between slider and text, in pixels.
-constexpr int shortest = 48;        ///< Of a groove that can be used, in pixels.
+constexpr int gap = 6;       ///< Between slider and text, in pixels.
+constexpr int shortest = 48; ///< Of a groove that can be used, in pixels.
 constexpr int usual = 120;
-
-int toWhole(double fraction)
-{
-    return static_cast<int>(std::lround(fraction * resolution));
-}
 
 } // namespace
 
@@ -84,8 +77,8 @@ ControllerSlider::Parts ControllerSlider::parts() const
     option.initFrom(this);
     option.orientation = orientation();
     option.state.setFlag(QStyle::State_Horizontal, parts.isHorizontal());
-    option.maximum = resolution;
-    option.sliderPosition = option.sliderValue = toWhole(scale().fractionOf(value()));
+    option.maximum = ControllerScale::wholeRange;
+    option.sliderPosition = option.sliderValue = scale().wholeOf(value());
     option.upsideDown = parts.isHorizontal() ? isRightToLeft() : true;
     option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
     if (isSliderDown()) {
@@ -143,9 +136,8 @@ void ControllerSlider::paintEvent(QPaintEvent*)
     const Parts now = parts();
     QPainter painter(this);
     // The default value, beside the groove.
-    const double fraction = scale().fractionOf(defaultValue());
-    const int offset = QStyle::sliderPositionFromValue(0, resolution, toWhole(fraction), now.span,
-                                                       now.option.upsideDown);
+    const int offset = QStyle::sliderPositionFromValue(
+        0, now.option.maximum, scale().wholeOf(defaultValue()), now.span, now.option.upsideDown);
     constexpr int pale = 110; // of 255
     QColor color = palette().color(foregroundRole());
     color.setAlpha(pale);
@@ -180,9 +172,9 @@ void ControllerSlider::mousePressEvent(QMouseEvent* event)
         m_d->pointer = now.along(event->position());
         beginDrag();
     } else if (now.option.rect.contains(place)) {
-        constexpr int pageSteps = 10;
+        constexpr int page = ControllerScale::pageSteps;
         const double way = now.along(event->position()) - now.along(now.handle.center());
-        step(now.fractionOf(way) > 0 ? pageSteps : -pageSteps,
+        step(now.fractionOf(way) > 0 ? page : -page,
              event->modifiers().testFlag(Qt::ControlModifier));
     }
 }
