@@ -4,64 +4,24 @@
 #include "support/menuvisitor.h"
 #include "support/testrows.h"
 
-#include <guibase/services/guibase.h>
 #include <guibase/widgets/animationwidget.h>
 #include <guibase/widgets/circlelayout.h>
-#include <guibase/widgets/closabletabwidget.h>
-#include <guibase/widgets/contextmenuhandler.h>
 #include <guibase/widgets/toolbarcontainer.h>
 #include <guibase/widgets/widgetflasher.h>
 
-#include <QContextMenuEvent>
 #include <QLabel>
-#include <QListWidget>
 #include <QMainWindow>
-#include <QMenu>
-#include <QPlainTextEdit>
 #include <QProxyStyle>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QSplitter>
-#include <QTabBar>
 #include <QToolBar>
-#include <QVBoxLayout>
+
+#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// Asks for a context menu as the mouse, or the Menu key, does; the texts of the menu that opens.
-QStringList menuTexts(QWidget& widget, const QPoint& position, bool byKeyboard = false)
-{
-    QStringList texts;
-    MenuVisitor visitor([&](QMenu& menu) {
-        for (const QAction* action : menu.actions())
-            texts << action->text();
-    });
-    QContextMenuEvent event(byKeyboard ? QContextMenuEvent::Keyboard : QContextMenuEvent::Mouse,
-                            position, widget.mapToGlobal(position));
-    QCoreApplication::sendEvent(&widget, &event);
-    [&] { QTRY_VERIFY(visitor.hasSeenMenu()); }();
-    return texts;
-}
-
-/// A page that refuses to close when its name is "stubborn".
-class Page : public QWidget
-{
-protected:
-    void closeEvent(QCloseEvent* event) override
-    {
-        event->setAccepted(objectName() != u"stubborn"_s);
-    }
-};
-
-QStringList names(const QTabWidget& tabs)
-{
-    QStringList result;
-    for (int i = 0; i < tabs.count(); ++i)
-        result << tabs.tabText(i);
-    return result;
-}
 
 /// Counts what a kind of event does to objects of the application.
 class EventCounter : public QObject
@@ -103,19 +63,9 @@ public:
 class tst_Widgets : public GuardedTest
 {
     Q_OBJECT
-    using Tabs = TestRows<std::function<void(ClosableTabWidget&)>, QStringList>;
     using Circle = TestRows<double, CircleLayout::Direction, Qt::LayoutDirection, QPoint>;
 
-public Q_SLOTS:
-    void slotHotKey(int id) { m_firedHotKey = id; }
-
 private Q_SLOTS:
-    void menusOpenWhereTheyAreWanted();
-    void menusLeaveRoomForOthers();
-    void menusRunHotKeys();
-    void tabsClose_data();
-    void tabsClose();
-    void tabsComeBack();
     void flashes_data();
     void flashes();
     void flashEndsEarly();
@@ -124,192 +74,7 @@ private Q_SLOTS:
     void circleTurns();
     void circleHasRoom();
     void barMovesWhatDoesNotFit();
-
-private:
-    int m_firedHotKey = 0;
 };
-
-void tst_Widgets::menusOpenWhereTheyAreWanted()
-{
-    QWidget panel;
-    auto* layout = new QVBoxLayout(&panel);
-    ContextMenuRequest seen;
-    new ContextMenuHandler(&panel, [&seen](QMenu& menu, const ContextMenuRequest& request) {
-        seen = request;
-        menu.addAction(u"own"_s);
-    });
-    // Widgets that come later belong to it, too.
-    auto* list = new QListWidget;
-    list->addItems({u"a"_s, u"b"_s, u"c"_s});
-    auto* text = new QPlainTextEdit(u"one\ntwo"_s);
-    auto* label = new QLabel(u"label"_s);
-    for (QWidget* widget : QList<QWidget*>{list, text, label})
-        layout->addWidget(widget);
-    panel.show();
-
-    const QPoint inSecond = list->visualItemRect(list->item(1)).center();
-    QCOMPARE(menuTexts(*list->viewport(), inSecond), QStringList(u"own"_s));
-    QVERIFY(seen.widget == list && seen.position == inSecond && !seen.isByKeyboard);
-    QCOMPARE(seen.index.row(), 1);
-    list->setCurrentRow(2);
-    QCOMPARE(menuTexts(*list, list->rect().center(), true), QStringList(u"own"_s));
-    QCOMPARE(seen.index.row(), 2);
-    QVERIFY(list->visualItemRect(list->item(2)).contains(seen.position));
-    text->moveCursor(QTextCursor::End);
-    const QStringList entries = menuTexts(*text, {}, true);
-    QCOMPARE(entries.first(), u"own"_s);
-    QVERIFY(entries.size() > 5); // with Undo, Copy, Paste
-    QVERIFY(text->cursorRect().adjusted(-1, -1, 1, 1).contains(seen.position));
-    menuTexts(*label, QPoint(3, 4));
-    QVERIFY(seen.widget == label && seen.position == QPoint(3, 4));
-    // A keyboard without a Menu key.
-    panel.activateWindow();
-    list->setFocus();
-    QTRY_VERIFY(list->hasFocus());
-    MenuVisitor visitor([&](const QMenu& menu) { QVERIFY(menu.activeAction() != nullptr); });
-    QTest::keyClick(list, Qt::Key_F10, Qt::ShiftModifier);
-    QTRY_VERIFY(visitor.hasSeenMenu());
-    QVERIFY(seen.widget == list && seen.isByKeyboard);
-}
-
-void tst_Widgets::menusLeaveRoomForOthers()
-{
-    QWidget outer;
-    auto* inner = new QWidget(&outer);
-    auto* child = new QLabel(inner);
-    auto* custom = new QLabel(&outer);
-    custom->setContextMenuPolicy(Qt::CustomContextMenu);
-    const QSignalSpy asked(custom, &QWidget::customContextMenuRequested);
-    bool hasInnerEntries = true;
-    new ContextMenuHandler(inner, [&](QMenu& menu, const ContextMenuRequest&) {
-        if (hasInnerEntries)
-            menu.addAction(u"inner"_s);
-    });
-    new ContextMenuHandler(
-        &outer, [](QMenu& menu, const ContextMenuRequest&) { menu.addAction(u"outer"_s); });
-    outer.show();
-    QCOMPARE(menuTexts(*child, {}), QStringList(u"inner"_s));
-    hasInnerEntries = false;
-    QCOMPARE(menuTexts(*child, {}), QStringList(u"outer"_s));
-    QContextMenuEvent event(QContextMenuEvent::Mouse, {}, {});
-    QCoreApplication::sendEvent(custom, &event);
-    QCOMPARE(asked.size(), 1);
-    // Filling the menu may take the widget away.
-    auto* gone = new QWidget;
-    new ContextMenuHandler(gone, [gone](QMenu&, const ContextMenuRequest&) { delete gone; });
-    QContextMenuEvent last(QContextMenuEvent::Mouse, {}, {});
-    QCoreApplication::sendEvent(gone, &last);
-}
-
-void tst_Widgets::menusRunHotKeys()
-{
-    GuiBase& services = GuiBase::Instance();
-    const int id = services.AddHotKey(Qt::Key_F7, Qt::ControlModifier, this, u"Scan & go"_s,
-                                      u"Test"_s, true, true);
-    QMenu menu;
-    QAction* entry = ContextMenuHandler::addHotKey(menu, id);
-    QCOMPARE(entry->text(), u"Scan && go\tCtrl+F7"_s);
-    entry->trigger();
-    QTRY_COMPARE(m_firedHotKey, id);
-    QVERIFY(ContextMenuHandler::addHotKey(menu, id + 1) == nullptr);
-    services.RemoveHotKey(id, true);
-}
-
-void tst_Widgets::tabsClose_data()
-{
-    // Tabs: plain, fixed, stubborn, last; the third refuses, the user cannot close the second.
-    const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers) {
-        return [key, modifiers](ClosableTabWidget& tabs) {
-            tabs.setCurrentIndex(0);
-            QTest::keyClick(tabs.currentWidget(), key, modifiers);
-        };
-    };
-    const auto click = [](int tab, int releasedOn) {
-        return [tab, releasedOn](ClosableTabWidget& tabs) {
-            QTabBar* bar = tabs.tabBar();
-            QTest::mousePress(bar, Qt::MiddleButton, {}, bar->tabRect(tab).center());
-            QTest::mouseRelease(bar, Qt::MiddleButton, {}, bar->tabRect(releasedOn).center());
-        };
-    };
-    const auto entry = [](int tab, int number) {
-        return [tab, number](ClosableTabWidget& tabs) {
-            QMenu menu;
-            tabs.addTabEntries(menu, tab);
-            menu.actions().at(number)->trigger();
-        };
-    };
-    const QStringList all{u"plain"_s, u"fixed"_s, u"stubborn"_s, u"last"_s};
-    const QStringList behind = all.sliced(1);
-    Tabs row;
-    row("key", press(Qt::Key_W, Qt::ControlModifier), behind);
-    row("other key", press(Qt::Key_W, Qt::AltModifier), all);
-    row("click", click(0, 0), behind);
-    row("click elsewhere", click(0, 3), all);
-    row("click on fixed", click(1, 1), all);
-    row("click on stubborn", click(2, 2), all);
-    row("entry", entry(0, 0), behind);
-    row("entry of fixed", entry(1, 0), all);
-    row("others", entry(3, 1), behind);
-    row("to the right", entry(0, 2), {u"plain"_s, u"fixed"_s, u"stubborn"_s});
-    row("by program", [](ClosableTabWidget& tabs) { tabs.closeTab(1); },
-        {u"plain"_s, u"stubborn"_s, u"last"_s});
-}
-
-void tst_Widgets::tabsClose()
-{
-    const auto [act, left] = Tabs::fetch();
-    ClosableTabWidget tabs;
-    for (const char* name : {"plain", "fixed", "stubborn", "last"}) {
-        auto* page = new Page;
-        page->setObjectName(QString::fromLatin1(name));
-        tabs.addTab(page, page->objectName());
-    }
-    tabs.setTabClosable(1, false);
-    tabs.setTabClosable(2, false);
-    tabs.setTabClosable(2, true);
-    tabs.resize(500, 200);
-    tabs.show();
-    const auto side = static_cast<QTabBar::ButtonPosition>(
-        tabs.style()->styleHint(QStyle::SH_TabBar_CloseButtonPosition));
-    for (int i = 0; i < tabs.count(); ++i)
-        QCOMPARE(tabs.tabBar()->tabButton(i, side) != nullptr, i != 1);
-    const QSignalSpy closed(&tabs, &ClosableTabWidget::tabClosed);
-    act(tabs);
-    QCOMPARE(names(tabs), left);
-    QCOMPARE(closed.size(), 4 - left.size());
-    QCOMPARE(tabs.canReopen(), !closed.isEmpty());
-}
-
-void tst_Widgets::tabsComeBack()
-{
-    ClosableTabWidget tabs;
-    tabs.show();
-    QList<QPointer<QWidget>> pages;
-    for (const char* name : {"a", "b", "c", "d"}) {
-        pages << new QWidget;
-        tabs.addTab(pages.last(), QString::fromLatin1(name));
-    }
-    tabs.setTabToolTip(1, u"second"_s);
-    pages[3]->setAttribute(Qt::WA_DeleteOnClose);
-    QVERIFY(tabs.closeTab(3) && !tabs.canReopen());
-    QTRY_VERIFY(pages[3] == nullptr);
-    QVERIFY(tabs.closeTab(1) && tabs.closeTab(0) && tabs.canReopen());
-    QTest::keyClick(tabs.currentWidget(), Qt::Key_T, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(names(tabs), QStringList({u"a"_s, u"c"_s}));
-    tabs.reopenTab();
-    QCOMPARE(names(tabs), QStringList({u"a"_s, u"b"_s, u"c"_s}));
-    QVERIFY(tabs.currentWidget() == pages[1] && pages[1]->isVisible());
-    QCOMPARE(tabs.tabToolTip(1), u"second"_s);
-    tabs.closeTab(0);
-    tabs.closeTab(0);
-    tabs.setReopenLimit(1); // the one that was closed last stays
-    QTRY_VERIFY(pages[0] == nullptr && pages[1] != nullptr);
-    delete pages[1];
-    tabs.reopenTab();
-    QCOMPARE(names(tabs), QStringList(u"c"_s));
-    const QStringList entries = menuTexts(*tabs.tabBar(), tabs.tabBar()->tabRect(0).center());
-    QCOMPARE(entries.size(), 5); // with a line
-}
 
 void tst_Widgets::flashes_data()
 {
