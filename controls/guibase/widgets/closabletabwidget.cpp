@@ -82,7 +82,8 @@ void ClosableTabWidget::setTabClosable(int index, bool closable)
     QWidget* button = tabBar()->tabButton(index, side);
     if (!closable) {
         tabBar()->setTabButton(index, side, nullptr);
-        delete button;
+        if (button != nullptr)
+            button->deleteLater(); // It may be the one that was clicked.
     } else if (button == nullptr) {
         setTabsClosable(false); // Makes the buttons anew.
         setTabsClosable(true);
@@ -105,9 +106,11 @@ bool ClosableTabWidget::closeTab(int index)
         return false;
     QCloseEvent event;
     QCoreApplication::sendEvent(page, &event); // The page may do anything meanwhile.
+    if (page == nullptr)
+        return true; // Perhaps together with these tabs.
     index = indexOf(page);
-    if (!event.isAccepted() || page == nullptr || index < 0)
-        return page == nullptr;
+    if (!event.isAccepted() || index < 0)
+        return false;
     Private::ClosedTab tab{page,
                            index,
                            tabText(index),
