@@ -11,10 +11,11 @@
 
 namespace {
 
-QAbstractScrollArea* areaOf(QWidget& viewport)
+/// The widget, or the scroll area whose viewport it is.
+QWidget& askedWidget(QWidget& widget)
 {
-    auto* area = qobject_cast<QAbstractScrollArea*>(viewport.parentWidget());
-    return area != nullptr && area->viewport() == &viewport ? area : nullptr;
+    auto* area = qobject_cast<QAbstractScrollArea*>(widget.parentWidget());
+    return area != nullptr && area->viewport() == &widget ? *area : widget;
 }
 
 QRect currentItem(QAbstractItemView& view)
@@ -56,8 +57,7 @@ QWidget& ContextMenuPlace::surface(QWidget& widget)
 
 ContextMenuRequest ContextMenuPlace::at(QWidget& widget, const QPoint& position)
 {
-    QAbstractScrollArea* area = areaOf(widget);
-    QWidget& asked = area != nullptr ? *area : widget;
+    QWidget& asked = askedWidget(widget);
     ContextMenuRequest request{&asked, surface(asked).mapFrom(&widget, position), {}, false};
     if (const auto* view = qobject_cast<QAbstractItemView*>(&asked))
         request.index = view->indexAt(request.position);
@@ -66,8 +66,7 @@ ContextMenuRequest ContextMenuPlace::at(QWidget& widget, const QPoint& position)
 
 ContextMenuRequest ContextMenuPlace::byKeyboard(QWidget& widget)
 {
-    QAbstractScrollArea* area = areaOf(widget);
-    QWidget& asked = area != nullptr ? *area : widget;
+    QWidget& asked = askedWidget(widget);
     ContextMenuRequest request{&asked, {}, {}, true};
     const QRect place = currentPlace(asked);
     request.position = place.isNull() ? surface(asked).rect().center() : place.center();
