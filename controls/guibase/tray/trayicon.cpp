@@ -115,12 +115,12 @@ void TrayIconPrivate::watchWindow(QWidget& window)
         &window, [this, guard = QPointer(&settleTimer)](QObject* watched, const QEvent* event) {
             if (guard == nullptr)
                 return false;
-            const QPointer<QWidget> self(static_cast<QWidget*>(watched));
             if (event->type() == QEvent::Close) {
                 updateHold(); // The tray may have come or gone.
             } else if (event->type() == QEvent::Hide && !event->spontaneous()) {
-                closedLast.removeAll(self);
-                closedLast << self;
+                auto* hidden = static_cast<QWidget*>(watched);
+                closedLast.removeAll(hidden);
+                closedLast << hidden;
                 settleTimer.start();
             } else if (event->type() == QEvent::Show) {
                 settleTimer.start();

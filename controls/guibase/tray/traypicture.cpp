@@ -96,10 +96,13 @@ QPixmap makePixmap(const QIcon& icon, TrayState state, int side)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QPixmap base = icon.pixmap(QSize(side, side), 1.0);
-    if (base.isNull())
+    if (base.isNull()) {
         drawPlainIcon(painter, side);
-    else
-        painter.drawPixmap(QRect(0, 0, side, side), base);
+    } else {
+        QRect place(QPoint(), base.size().scaled(side, side, Qt::KeepAspectRatio));
+        place.moveCenter(pixmap.rect().center());
+        painter.drawPixmap(place, base);
+    }
 
     const qreal badgeSide = side * (side < 32 ? 0.58 : 0.5);
     const qreal gap = qMax(1.0, side / 24.0);
