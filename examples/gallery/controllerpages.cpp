@@ -49,8 +49,7 @@ public:
         auto* row = new QHBoxLayout(this);
         auto* slider = new ControllerSlider;
         auto* dial = new ControllerDial;
-        for (AbstractController* controller :
-             {static_cast<AbstractController*>(slider), static_cast<AbstractController*>(dial)}) {
+        for (AbstractController* controller : QList<AbstractController*>{slider, dial}) {
             controller->setUnit(QStringLiteral("%"));
             row->addWidget(controller);
         }

@@ -21,8 +21,6 @@ namespace {
 
 int writePictures(const QString& folder)
 {
-    const QTemporaryDir settings; // those of the user stay out of the pictures
-    CfgCenter::SetConfigDir(settings.path());
     gallery::GalleryWindow window;
     GuiBase::Instance().SetMainWidget(&window);
     window.show();
@@ -35,8 +33,6 @@ int writePictures(const QString& folder)
 
 int nameLateColors(const QString& folder)
 {
-    const QTemporaryDir settings;
-    CfgCenter::SetConfigDir(settings.path());
     GuiBase::Instance().SetApplication(qApp);
     const QStringList late = gallery::GalleryWindow::lateColors(folder);
     for (const QString& page : late)
@@ -61,9 +57,12 @@ int main(int argc, char* argv[])
         return 2;
     }
     std::optional<pictures::QuietPlatform> quiet;
+    std::optional<QTemporaryDir> settings; // those of the user stay out of the pictures
     if (isUnseen) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         quiet.emplace();
+        settings.emplace();
+        CfgCenter::SetConfigDir(settings->path());
     }
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("gallery"));
