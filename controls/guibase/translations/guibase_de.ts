@@ -1128,7 +1128,7 @@
     <name>CoordinateEdit</name>
     <message>
         <source>Type a position from %1 to %2.</source>
-        <translation>Position von %1 bis %2 eingeben.</translation>
+        <translation>Bitte eine Position von %1 bis %2 eingeben.</translation>
     </message>
 </context>
 <context>

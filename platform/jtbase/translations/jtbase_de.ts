@@ -56,7 +56,7 @@
     </message>
     <message>
         <source>Type a position such as %1.</source>
-        <translation>Position eingeben, zum Beispiel %1.</translation>
+        <translation>Bitte eine Position eingeben, zum Beispiel %1.</translation>
     </message>
 </context>
 </TS>
