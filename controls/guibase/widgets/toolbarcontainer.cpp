@@ -205,24 +205,21 @@ void ToolBarContainer::addWidget(QWidget* widget)
     widget->setParent(this);
     widget->setVisible(!isHidden);
     widget->installEventFilter(this);
-    connect(widget, &QObject::destroyed, this, [this, widget] {
-        d->widgets.removeAll(widget);
-        d->inPopup.removeAll(widget);
-        updateGeometry();
-        arrange();
-    });
+    connect(widget, &QObject::destroyed, this, [this, widget] { forget(widget); });
     updateGeometry();
     arrange();
 }
 
 void ToolBarContainer::removeWidget(QWidget* widget)
 {
-    if (!d->widgets.removeOne(widget))
-        return;
-    widget->removeEventFilter(this);
-    widget->disconnect(this);
+    if (d->widgets.contains(widget))
+        widget->setParent(nullptr); // eventFilter() does the rest.
+}
+
+void ToolBarContainer::forget(QWidget* widget)
+{
+    d->widgets.removeAll(widget);
     d->inPopup.removeAll(widget);
-    widget->setParent(nullptr);
     updateGeometry();
     arrange();
 }
@@ -253,7 +250,7 @@ void ToolBarContainer::setOrientation(Qt::Orientation orientation)
 QSize ToolBarContainer::sizeHint() const
 {
     int length = 0;
-    QSize across = minimumSizeHint();
+    const QSize across = minimumSizeHint();
     const QList<QWidget*> shown = d->shown();
     for (QWidget* widget : shown)
         length += d->along(hintOf(widget)) + (length > 0 ? d->spacing() : 0);
@@ -327,8 +324,15 @@ bool ToolBarContainer::eventFilter(QObject* watched, QEvent* event)
             d->popup->hide();
         return isEscape;
     }
-    if (!d->isArranging &&
-        (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)) {
+    if (d->isArranging)
+        return false;
+    auto* widget = static_cast<QWidget*>(watched);
+    const QWidget* parent = widget->parentWidget();
+    if (event->type() == QEvent::ParentChange && parent != this && parent != d->popup) {
+        widget->removeEventFilter(this);
+        widget->disconnect(this);
+        forget(widget);
+    } else if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
         updateGeometry();
         arrange();
     }

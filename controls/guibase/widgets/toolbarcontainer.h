@@ -22,7 +22,7 @@ public:
     ~ToolBarContainer() override;
 
     /// Adds the widget as the last one, and owns it. Null and widgets that it has are ignored. A
-    /// widget that the application hides takes no room.
+    /// widget that the application hides takes no room, and one that gets another parent is let go.
     void addWidget(QWidget* widget);
     /// Takes the widget out, without a parent; it belongs to the caller then. Nothing for others.
     void removeWidget(QWidget* widget);
@@ -55,6 +55,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void forget(QWidget* widget);
     void arrange();
 
     struct Private;

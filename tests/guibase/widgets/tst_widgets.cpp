@@ -270,7 +270,11 @@ void tst_Widgets::barMovesWhatDoesNotFit()
 
     boxes[0]->hide(); // makes room for another one
     QTRY_COMPARE(container->hiddenWidgets(), boxes.sliced(3));
+    ToolBarContainer other; // takes it away
+    other.addWidget(boxes[1]);
     container->removeWidget(boxes[1]);
+    QCOMPARE(other.widgets(), QList<QWidget*>{boxes[1]});
+    other.removeWidget(boxes[1]);
     delete boxes[1];
     QTRY_VERIFY(container->hiddenWidgets().isEmpty() && boxes[3]->isVisible());
     QVERIFY(boxes[3]->x() > boxes[2]->geometry().right());
