@@ -109,6 +109,19 @@ void addSpecialSpinBoxes(Specimens& all)
                             });
 }
 
+void addMaskedEdits(Specimens& all)
+{
+    QList<QWidget*> row;
+    for (const char* text : {"192.168.000.001", "19", "10.0.0.1"}) {
+        auto* edit = new MaskedLineEdit;
+        edit->setMask(QStringLiteral("999.999.999.999"));
+        edit->setText(QString::fromLatin1(text));
+        row << edit;
+    }
+    row.last()->setEnabled(false);
+    all.addRow(QStringLiteral("MaskedLineEdit"), row);
+}
+
 } // namespace
 
 QWidget* makeSpinBoxes()
@@ -211,15 +224,7 @@ QWidget* makeCoordinates()
         edit.setLayoutDirection(Qt::RightToLeft);
     };
     addRow(QStringLiteral("right to left"), QStringLiteral("91 11"), mirrored, {0, 1, 2});
-    QList<QWidget*> masked;
-    for (const char* text : {"192.168.000.001", "19", "10.0.0.1"}) {
-        auto* edit = new MaskedLineEdit;
-        edit->setMask(QStringLiteral("999.999.999.999"));
-        edit->setText(QString::fromLatin1(text));
-        masked << edit;
-    }
-    masked.last()->setEnabled(false);
-    all->addRow(QStringLiteral("MaskedLineEdit"), masked);
+    addMaskedEdits(*all);
     all->addNote(
         QStringLiteral("A text in any format is taken; the tool tip of a refused one tells "
                        "the reason."));
