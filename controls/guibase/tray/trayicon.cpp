@@ -50,6 +50,7 @@ public:
     void updateHold();
     void settle();
     void hideSatellites();
+    void watchTray();
     void checkTray();
     void explainOnce();
 
@@ -117,12 +118,15 @@ void TrayIconPrivate::watchWindow(QWidget& window)
                 return false;
             if (event->type() == QEvent::Close) {
                 updateHold(); // The tray may have come or gone.
-            } else if (event->type() == QEvent::Hide && !event->spontaneous()) {
+            } else if (event->spontaneous()) {
+                return false; // minimized or restored
+            } else if (event->type() == QEvent::Hide) {
                 auto* hidden = static_cast<QWidget*>(watched);
                 closedLast.removeAll(hidden);
                 closedLast << hidden;
                 settleTimer.start();
             } else if (event->type() == QEvent::Show) {
+                checkTimer.stop();
                 settleTimer.start();
             }
             return false;
@@ -139,10 +143,13 @@ void TrayIconPrivate::watchWindow(QWidget& window)
 void TrayIconPrivate::updateHold()
 {
     const bool holds = staysInTray && !windows.isEmpty() && q.isVisible();
-    if (!holds)
+    if (!holds) {
         hold.reset();
-    else if (hold == nullptr)
+    } else if (hold == nullptr) {
         hold = std::make_unique<QEventLoopLocker>();
+        if (!isAnyVisible(windows)) // a program that starts in the tray
+            watchTray();
+    }
 }
 
 /// Once all windows have closed that are closed together.
@@ -150,7 +157,6 @@ void TrayIconPrivate::settle()
 {
     if (isAnyVisible(windows)) {
         closedLast.clear();
-        checkTimer.stop();
         const Windows waiting = std::exchange(satellites, {});
         for (const QPointer<QWidget>& satellite : waiting) {
             if (satellite != nullptr)
@@ -160,8 +166,7 @@ void TrayIconPrivate::settle()
     }
     if (hold == nullptr || closedLast.isEmpty() || checkTimer.isActive())
         return;
-    timesMissed = 0;
-    checkTimer.start();
+    watchTray();
     hideSatellites();
     explainOnce();
     Q_EMIT q.windowsClosed();
@@ -182,6 +187,13 @@ void TrayIconPrivate::hideSatellites()
         if (satellite != nullptr)
             satellite->hide();
     }
+}
+
+/// While no window is open.
+void TrayIconPrivate::watchTray()
+{
+    timesMissed = 0;
+    checkTimer.start();
 }
 
 void TrayIconPrivate::checkTray()

@@ -174,7 +174,9 @@ private Q_SLOTS:
         icon.setTrayCheckInterval(1);
         QWidget window;
         icon.addWindow(&window);
-        window.show();
+        icon.isThere = false; // before a window was open
+        QTRY_VERIFY(window.isVisible());
+        icon.isThere = true;
         const QSignalSpy closed(&icon, &TrayIcon::windowsClosed);
         window.close();
         QTRY_COMPARE(closed.size(), 1);
