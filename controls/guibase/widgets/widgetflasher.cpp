@@ -101,6 +101,10 @@ void WidgetFlasher::Private::place()
 {
     if (overlay == nullptr)
         return;
+    if (!isWithin(*host, &widget)) {
+        delete overlay; // A splitter that was moved elsewhere.
+        return;
+    }
     overlay->setGeometry(QRect(widget.mapTo(host, QPoint()), widget.size()));
     overlay->raise();
 }

@@ -139,6 +139,12 @@ void tst_Widgets::flashEndsEarly()
     QCOMPARE(shown.size(), 0);
     hidden->show();
     QTRY_COMPARE(shown.size(), 1);
+    QSplitter moved(&window);
+    moved.show();
+    WidgetFlasher::flash(&moved, 1);
+    moved.setParent(nullptr);
+    moved.show();
+    QTRY_VERIFY(!WidgetFlasher::isFlashing(&moved));
 }
 
 void tst_Widgets::animationSleepsUnseen()
