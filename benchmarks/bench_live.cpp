@@ -6,6 +6,7 @@
 #include "mainwindow.h"
 #include "model/recordingwriter.h"
 #include "model/samplegenerator.h"
+#include "ratio.h"
 
 #include <radiopanes/panes/spectrumpane.h>
 
@@ -108,13 +109,18 @@ void runFor(int seconds)
     loop.exec();
 }
 
-/// Prints the figure, and returns whether it is on the good side of the limit.
-bool report(const char* what, double figure, double limit, bool isLowest = false)
+/// Prints a row for a figure that must not be above the limit, and returns whether it is not.
+bool report(const char* what, const char* unit, double figure, double limit)
 {
-    const bool good = isLowest ? figure >= limit : figure <= limit;
-    std::printf("%s: %.2f, limit %.2f%s\n", what, figure, limit, good ? "" : " EXCEEDED");
-    std::fflush(stdout);
-    return good;
+    return printRatio(std::string(what) + ", against the limit", withUnit(figure, 2, unit),
+                      withUnit(limit, 2, unit), figure / limit, 1);
+}
+
+/// The same for a figure that must not be below the limit.
+bool reportAtLeast(const char* what, const char* unit, double figure, double least)
+{
+    return printRatio(std::string("at least ") + what + ", against what comes",
+                      withUnit(least, 2, unit), withUnit(figure, 2, unit), least / figure, 1);
 }
 
 /// Counts the paintings of a widget.
@@ -146,13 +152,16 @@ bool measureLive(MainWindow& window, int descriptor)
     runFor(seconds);
     const auto perSecond = [seconds](double count) { return count / seconds; };
     const auto came = static_cast<double>(window.session().recording()->count() - sweeps);
-    bool good = report("live levels a second, in millions", perSecond(came * binsPerSweep) / 1e6,
-                       0.98, true);
-    good = report("part of a processor", perSecond(processorSeconds() - processor), 0.5) && good;
-    good = report("pictures a second", perSecond(counter.paints), 25, true) && good;
+    bool good = reportAtLeast("that many live levels", " million/s",
+                              perSecond(came * binsPerSweep) / 1e6, 0.98);
     good =
-        report("megabytes more than when the history was full", residentMegabytes() - memory, 4) &&
-        good;
+        reportAtLeast("that many pictures meanwhile", "/s", perSecond(counter.paints), 25) && good;
+    good = report("part of a processor meanwhile", "", perSecond(processorSeconds() - processor),
+                  0.5) &&
+           good;
+    good = report("memory more than when the history was full", " MB", residentMegabytes() - memory,
+                  4) &&
+           good;
     window.session().stopLive();
     runFor(1);
     return good;
@@ -186,8 +195,7 @@ bool measureOpening(MainWindow& window, const QString& path)
     window.open(path, MainWindow::OnFailure::Tell);
     loop.exec();
     QObject::disconnect(begun);
-    std::printf("opening 300 MB as a whole: %.0f ms\n", static_cast<double>(clock.elapsed()));
-    return report("milliseconds to the first picture of 300 MB", firstPicture, 100);
+    return report("time to the first picture of 300 MB", " ms", firstPicture, 100);
 }
 
 bool measureRest()
@@ -195,7 +203,7 @@ bool measureRest()
     runFor(5); // what was put off is done
     const long before = wakeUps();
     runFor(restSeconds);
-    return report("wake-ups a second at rest",
+    return report("wake-ups at rest", "/s",
                   static_cast<double>(wakeUps() - before - 1) / restSeconds, 1);
 }
 
