@@ -244,6 +244,13 @@ void SuffixedDouble::store(double v)
     ClearPureNumbers();
 }
 
+/// The quantity that `v` stands for, in base units.
+double SuffixedDouble::storedQuantity(double v)
+{
+    store(v);
+    return v == NoValue ? GetValue() : v;
+}
+
 double SuffixedDouble::toInternal(double baseUnits) const
 {
     return m_internalSuffix == BaseUnit ? baseUnits : baseUnits / row(m_internalSuffix).factor;
@@ -368,16 +375,16 @@ QString SuffixedDouble::GetSignificantString(double v)
 
 QString SuffixedDouble::GetShortestString(double v)
 {
-    store(v);
+    const double quantity = storedQuantity(v);
     constexpr double maximumDouble = std::numeric_limits<double>::max();
     constexpr double maximumFloat = std::numeric_limits<float>::max();
-    if (v == maximumDouble)
+    if (quantity == maximumDouble)
         return QStringLiteral("MAXDOUBLE");
-    if (v == -maximumDouble)
+    if (quantity == -maximumDouble)
         return QStringLiteral("MINDOUBLE");
-    if (v == maximumFloat)
+    if (quantity == maximumFloat)
         return QStringLiteral("MAXFLOAT");
-    if (v == -maximumFloat)
+    if (quantity == -maximumFloat)
         return QStringLiteral("MINFLOAT");
 
     QString shortest;
@@ -406,14 +413,14 @@ QString SuffixedDouble::GetLabelString(double v)
 
 bool SuffixedDouble::IsShortSuffixedOk(double v)
 {
-    store(v);
-    return tellsQuantity(GetShortString(), v);
+    const double quantity = storedQuantity(v);
+    return tellsQuantity(GetShortString(), quantity);
 }
 
 bool SuffixedDouble::IsLongSuffixedOk(double v)
 {
-    store(v);
-    return tellsQuantity(GetString(), v);
+    const double quantity = storedQuantity(v);
+    return tellsQuantity(GetString(), quantity);
 }
 
 bool SuffixedDouble::tellsQuantity(const QString& text, double v) const

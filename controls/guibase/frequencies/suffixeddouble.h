@@ -119,15 +119,14 @@ public:
     QString GetSignificantStringNoSuffix(double v = NoValue);
     QString GetSignificantString(double v = NoValue);
     /// In the unit that makes the number shortest, the smaller one of equals: "12.5 MHz". The ends
-    /// of the ranges of double and float, when passed as `v`, are "MAXDOUBLE", "MINDOUBLE",
-    /// "MAXFLOAT" and "MINFLOAT".
+    /// of the ranges of double and float are "MAXDOUBLE", "MINDOUBLE", "MAXFLOAT" and "MINFLOAT".
     QString GetShortestString(double v = NoValue);
     /// All decimals or the significant ones, as GuiBase::GetShowFrequencyInHz() says.
     QString GetDisplayString(double v = NoValue);
     QString GetLabelString(double v = NoValue);
 
-    /// Whether the text of GetShortString() or GetString() tells `v` exactly (to 1e-12 base units).
-    /// NoValue is compared as the number that it is, so pass the quantity.
+    /// Whether the text of GetShortString() or GetString() tells the quantity exactly (to 1e-12 base
+    /// units).
     bool IsShortSuffixedOk(double v);
     bool IsLongSuffixedOk(double v);
 
@@ -169,6 +168,7 @@ private:
     const ConverterSet& currentRow() const { return row(m_currentSuffix); }
     ESuffix coarsened(ESuffix suffix) const;
     void store(double v);
+    double storedQuantity(double v);
     double toInternal(double baseUnits) const;
 
     double parse(QStringView text, QStringView appended, ESuffix defaultSuffix) const;
