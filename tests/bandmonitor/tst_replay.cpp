@@ -150,6 +150,7 @@ private Q_SLOTS:
         m_replay->pause();
         grow(9); // the shown one is about to go
         QCOMPARE(m_replay->position(), 9);
+        QCOMPARE(moved.last().at(1).toInt(), 6); // those between are passed
         m_recording->dropBefore(9);
         m_replay->jump(0);
         m_replay->stepBackward();

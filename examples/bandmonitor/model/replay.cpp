@@ -69,7 +69,7 @@ void Replay::recordingGrown(qsizetype first)
         if (m_position < count() - 1)
             moveTo(count() - 1, m_position);
     } else if (m_position < first) {
-        moveTo(first, -1);
+        moveTo(first, m_position);
     }
     updateTimer();
 }

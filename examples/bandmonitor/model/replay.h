@@ -85,9 +85,9 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// setRecording() has replaced the recording, perhaps by none.
     void recordingChanged();
-    /// The current sweep is another one. When playing fast several sweeps can be passed at once:
-    /// those from `previous + 1` to `position` were played. After jump() and setRecording()
-    /// `previous` is -1: nothing was played.
+    /// The current sweep is another one. Several sweeps can be passed at once, when playing fast or
+    /// when they are about to go: those from `previous + 1` to `position`. After jump() and
+    /// setRecording() `previous` is -1: none was passed.
     void positionChanged(qsizetype position, qsizetype previous);
     /// See setGrowth().
     void growthChanged();

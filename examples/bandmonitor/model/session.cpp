@@ -119,7 +119,7 @@ void Session::liveGrown()
     const qsizetype first = std::min(m_live->firstToKeep(), m_saver.firstNeeded(*m_recording));
     m_replay.recordingGrown(first);
     Q_EMIT grown();
-    m_live->dropBefore(first);
+    m_live->dropBefore(std::min(first, m_replay.position())); // a job may have gone back
 }
 
 void Session::liveInputEnded(const QString& reason)
