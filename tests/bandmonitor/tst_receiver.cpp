@@ -5,6 +5,7 @@
 #include "receiver/receiverbar.h"
 #include "receiver/receiverpanel.h"
 #include "recordings.h"
+#include "settings/settings.h"
 #include "support/checked.h"
 #include "support/testrows.h"
 
@@ -289,6 +290,7 @@ private Q_SLOTS:
             QCOMPARE(values.centre.GetValue(), 98'500'123);
             QCOMPARE(values.span.GetValue(), 7'500'000);
             QCOMPARE(values.enteredStart.GetValue(), start);
+            QCOMPARE(values.position.GetValue().text(), QStringLiteral("48.5 11"));
             const ReceiverSettings settings = values.receiver();
             QCOMPARE(settings.resolutionHz, 100'000);
             QCOMPARE(settings.gainDb, 12.5);
@@ -303,6 +305,21 @@ private Q_SLOTS:
         QCOMPARE(m_window->session().replay().position(), position);
         QCOMPARE(shown("centreFrequency"), QStringLiteral("98,500123 MHz"));
         CHECKED(check());
+    }
+
+    void onlyAnEnteredPositionIsWritten()
+    {
+        const QString key = QStringLiteral("ReceiverLatitude");
+        const auto settings = CfgCenter::GetAppCfg(SettingsView);
+        CHECKED(openForm());
+        QVERIFY(!settings->Contains(key));
+        settings->SetString(key, QStringLiteral("north")); // by hand
+        CHECKED(openForm());
+        QCOMPARE(settings->GetString(key), QStringLiteral("north"));
+        enter("position", QStringLiteral("jn58"));
+        QCOMPARE(settings->GetString(key), QStringLiteral("48.5"));
+        QVERIFY(UndoRecording::Instance().undo());
+        QVERIFY(!bandmonitor::Settings::receiverPosition().isValid());
     }
 
     void inputsCanBeUndone()

@@ -52,7 +52,7 @@ SessionValues::SessionValues()
         {attenuation, "Attenuation"}, {samples, "Samples"},
         {address, "Address"},         {isAddressHexadecimal, "Hexadecimal"},
         {startTime, nullptr},         {threshold, "Threshold"},
-        {position, "Position"},
+        {position, nullptr}, // the settings keep it
     };
     const Row otherRows[] = {
         {isCurrentVisible, "Current"},
@@ -85,6 +85,8 @@ SessionValues::SessionValues()
     add(bearingsPath(), m_record, heading, "Heading");
     add(bearingsPath(), m_record, isHeadingUp, "HeadingUp");
     position.SetValue(bandmonitor::Settings::receiverPosition());
+    m_followers.push_back(std::make_unique<ValueFollower>(
+        &position, [this] { bandmonitor::Settings::setReceiverPosition(position.GetValue()); }));
     m_save.setDelay(0);
     m_record.Read(QString());
     m_receiverRecord.Read(receiverKey);

@@ -4,6 +4,8 @@
 #include <jtbase/numberhelpers.h>
 #include <trovappstartup/cfgcenter.h>
 
+#include <QLocale>
+
 #include <limits>
 
 namespace bandmonitor::Settings {
@@ -31,6 +33,14 @@ double readDegrees(const QString& key, const QString& standard)
     const double degrees = Trov::toDoubleEx(text, &ok);
     return ok ? degrees : std::numeric_limits<double>::quiet_NaN();
 }
+
+QString degreesText(double degrees)
+{
+    return QString::number(degrees, 'f', QLocale::FloatingPointShortest);
+}
+
+const QString latitudeKey = QStringLiteral("ReceiverLatitude");
+const QString longitudeKey = QStringLiteral("ReceiverLongitude");
 
 } // namespace
 
@@ -96,8 +106,16 @@ void setStayingInTray(bool stays)
 
 GeoPosition receiverPosition()
 {
-    return {readDegrees(QStringLiteral("ReceiverLatitude"), QStringLiteral("48.13731")),
-            readDegrees(QStringLiteral("ReceiverLongitude"), QStringLiteral("11.57528"))};
+    return {readDegrees(latitudeKey, QStringLiteral("48.13731")),
+            readDegrees(longitudeKey, QStringLiteral("11.57528"))};
+}
+
+void setReceiverPosition(const GeoPosition& position)
+{
+    const auto settings = CfgCenter::GetAppCfg(SettingsView);
+    const bool isValid = position.isValid();
+    settings->SetString(latitudeKey, isValid ? degreesText(position.latitude) : QString());
+    settings->SetString(longitudeKey, isValid ? degreesText(position.longitude) : QString());
 }
 
 } // namespace bandmonitor::Settings

@@ -31,9 +31,11 @@ void setWaterfallShown(const QString& mode, bool shown);
 bool isStayingInTray();
 void setStayingInTray(bool stays);
 
-/// Where the receiver stands unless the user has entered it. Not valid where the configuration has
-/// no numbers.
+/// Where the receiver stands; a sample position at first. Not valid where the configuration has no
+/// numbers.
 GeoPosition receiverPosition();
+/// One that is not valid leaves no numbers.
+void setReceiverPosition(const GeoPosition& position);
 
 } // namespace Settings
 
