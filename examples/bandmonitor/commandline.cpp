@@ -35,14 +35,6 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(bandmonitor::CommandLine)
 };
 
-CommandLine failure(const QString& reason)
-{
-    CommandLine result;
-    result.action = CommandLine::Fail;
-    result.text = QStringLiteral("bandmonitor: %1\n").arg(reason.simplified());
-    return result;
-}
-
 CommandLine printed(const QString& text)
 {
     CommandLine result;
@@ -101,7 +93,7 @@ QString takeFile(const QStringList& files, bool isFollowed, CommandLine& result)
         else if (isFollowed)
             result.live = CommandLine::FollowedFile;
     }
-    return result.live != CommandLine::None && !result.screenshotsFolder.isEmpty()
+    return result.live != CommandLine::None && result.takesPictures()
                ? Texts::tr("Pictures are taken of recordings, not of live input.")
                : QString();
 }
@@ -183,7 +175,7 @@ CommandLine readValues(const QCommandLineParser& parser, const Options& options)
         isFollowed ? QStringList(parser.value(options.follow)) : QStringList();
     const QString problem = takeFile(parser.positionalArguments() + followed, isFollowed, result);
     // Nobody looks at the window while pictures are taken.
-    result.tellsInWindow = parser.isSet(options.dialogs) && result.screenshotsFolder.isEmpty();
+    result.tellsInWindow = parser.isSet(options.dialogs) && !result.takesPictures();
     if (problem.isEmpty() || !result.tellsInWindow)
         return problem.isEmpty() ? result : failure(problem);
     result.fileProblem = problem;
@@ -240,6 +232,14 @@ CommandLine answer(QCommandLineParser& parser, const Options& options, const QSt
 }
 
 } // namespace
+
+CommandLine failure(const QString& reason)
+{
+    CommandLine result;
+    result.action = CommandLine::Fail;
+    result.text = QStringLiteral("bandmonitor: %1\n").arg(reason.simplified());
+    return result;
+}
 
 CommandLine parseCommandLine(const QStringList& arguments)
 {

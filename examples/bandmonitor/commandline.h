@@ -25,13 +25,17 @@ struct CommandLine
     QString file; ///< Empty: the built-in sample.
     Live live = None;
     std::optional<int> historyMegabytes;
-    QString language;           ///< Of the texts, as a locale name; empty: the configured one.
-    QString configFolder;       ///< Empty: the platform's.
-    QString screenshotsFolder;  ///< Empty: no pictures, a normal run.
+    QString language;          ///< Of the texts, as a locale name; empty: the configured one.
+    QString configFolder;      ///< Empty: the platform's.
+    QString screenshotsFolder; ///< Empty: no pictures, a normal run.
+    bool takesPictures() const { return !screenshotsFolder.isEmpty(); }
     bool tellsInWindow = false; ///< Of files that cannot be opened; otherwise the program ends.
     QString fileProblem; ///< What is to be told, with `tellsInWindow`; the sample is opened then.
     std::optional<double> replayFactor; ///< See Replay::setSpeed(); without it the replay waits.
 };
+
+/// What ends the program, with the reason for the user.
+CommandLine failure(const QString& reason);
 
 /// Reads the arguments; the first one is the program. Options of the toolkit are left to
 /// QApplication. Needs no application object.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "commandline.h"
 #include "dialogcloser.h"
-#include "docks/paneldocks.h"
 #include "firstframe.h"
 #include "live/descriptorsource.h"
 #include "live/followedfile.h"
@@ -18,6 +17,7 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <cstdio>
 #include <memory>
@@ -25,6 +25,17 @@
 using namespace bandmonitor;
 
 namespace {
+
+bool hasDisplay()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
+           !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
+}
 
 /// The command line is read before there is a QApplication, so that help, version and mistakes are
 /// answered without a display. That is done in its own language, or in the desktop's: the
@@ -35,22 +46,28 @@ CommandLine readCommandLine(int argc, char** argv)
     TranslationCenter& center = TranslationCenter::Instance();
     center.SetLanguage(QStringLiteral("system"));
     center.Init();
-    const CommandLine commandLine = parseCommandLine(QCoreApplication::arguments());
-    if (commandLine.language.isEmpty())
-        return commandLine;
-    center.SetLanguage(commandLine.language);
-    center.Init();
-    return parseCommandLine(QCoreApplication::arguments());
+    const QStringList arguments = QCoreApplication::arguments();
+    CommandLine commandLine = parseCommandLine(arguments);
+    if (!commandLine.language.isEmpty()) {
+        center.SetLanguage(commandLine.language);
+        center.Init();
+        commandLine = parseCommandLine(arguments);
+    }
+    const bool needsDisplay =
+        commandLine.action == CommandLine::Run && !commandLine.takesPictures() &&
+        arguments.indexOf(QRegularExpression(QStringLiteral("--?platform"))) < 0;
+    if (needsDisplay && !hasDisplay())
+        return failure(QApplication::translate("main", "There is no display for the window."));
+    return commandLine;
 }
 
 /// Pictures are made in English, wherever they are made, unless the command line names a language.
 void chooseLanguage(const CommandLine& commandLine)
 {
-    const bool takesPictures = !commandLine.screenshotsFolder.isEmpty();
+    const bool isEnglish = commandLine.takesPictures() && commandLine.language.isEmpty();
     TranslationCenter& center = TranslationCenter::Instance();
     center.SetDefaultLanguage(QStringLiteral("system"));
-    center.SetLanguage(takesPictures && commandLine.language.isEmpty() ? QStringLiteral("en")
-                                                                       : commandLine.language);
+    center.SetLanguage(isEnglish ? QStringLiteral("en") : commandLine.language);
 }
 
 void print(std::FILE* stream, const QString& text)
@@ -62,17 +79,6 @@ void print(std::FILE* stream, const QString& text)
 void printError(const QString& text)
 {
     print(stderr, QStringLiteral("bandmonitor: %1\n").arg(text.simplified()));
-}
-
-bool hasDisplay()
-{
-#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
-           !qEnvironmentVariableIsEmpty("DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-#else
-    return true;
-#endif
 }
 
 /// Does what the command line asks for, once the recording is open. `dialogs` is null unless it
@@ -112,23 +118,25 @@ std::unique_ptr<LiveSource> liveSource(const CommandLine& commandLine)
 }
 
 /// Opens what the command line names. When it fails before anything of it was shown, the program
-/// ends, unless the window shall tell. A run that takes pictures ends at any failure: it would wait
-/// for ever.
+/// ends, unless the window shall tell. A run that takes pictures ends also when it fails later: it
+/// would wait for ever.
 void open(const CommandLine& commandLine, MainWindow& window)
 {
+    const auto onFailure = commandLine.tellsInWindow ? MainWindow::OnFailure::ShowMessage
+                                                     : MainWindow::OnFailure::Tell;
     auto* guard = new QObject(&window);
     QObject::connect(&window, &MainWindow::notOpened, guard,
-                     [](const QString& text, MainWindow::OnFailure onFailure) {
+                     [onFailure](const QString& text, MainWindow::OnFailure how) {
+                         if (how != onFailure)
+                             return; // of a file that was opened later, such as for a picture
                          printError(text);
-                         if (onFailure == MainWindow::OnFailure::Tell)
+                         if (how == MainWindow::OnFailure::Tell)
                              QCoreApplication::exit(1);
                      });
-    if (commandLine.screenshotsFolder.isEmpty())
+    if (!commandLine.takesPictures())
         QObject::connect(&window.session(), &Session::begun, guard, &QObject::deleteLater);
     if (commandLine.historyMegabytes)
         window.setHistory(static_cast<std::size_t>(*commandLine.historyMegabytes) << 20);
-    const auto onFailure = commandLine.tellsInWindow ? MainWindow::OnFailure::ShowMessage
-                                                     : MainWindow::OnFailure::Tell;
     if (std::unique_ptr<LiveSource> source = liveSource(commandLine))
         window.openLive(std::move(source), onFailure);
     else
@@ -147,8 +155,7 @@ int run(int argc, char** argv, const CommandLine& commandLine)
     TrovApplication startUp;
     // The settings may already give reason for a question.
     std::unique_ptr<DialogCloser> dialogs;
-    const bool takesPictures = !commandLine.screenshotsFolder.isEmpty();
-    if (takesPictures) {
+    if (commandLine.takesPictures()) {
         dialogs = std::make_unique<DialogCloser>();
         QObject::connect(dialogs.get(), &DialogCloser::closedUnexpectedly, &printError);
     }
@@ -160,11 +167,9 @@ int run(int argc, char** argv, const CommandLine& commandLine)
 
     MainWindow window;
     services.SetMainWidget(&window);
-    if (takesPictures)
-        window.resize(PanelDocks::windowSize); // whatever the screen is
     window.announceModes();
-    if (!takesPictures) {            // Pictures show the program alone.
-        new SignalNotifier(&window); // The window owns them.
+    if (!commandLine.takesPictures()) { // Pictures show the program alone.
+        new SignalNotifier(&window);    // The window owns them.
         new TrayStatus(&window);
     }
     window.show();
@@ -189,16 +194,11 @@ int main(int argc, char** argv)
         print(failed ? stderr : stdout, commandLine.text);
         return failed ? 1 : 0;
     }
-    if (!hasDisplay()) {
-        if (commandLine.screenshotsFolder.isEmpty()) {
-            printError(QStringLiteral("There is no display to show the window on."));
-            return 1;
-        }
+    if (!hasDisplay())
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
     QGuiApplication::setDesktopFileName(QStringLiteral("bandmonitor"));
     CfgCenter::SetAppName(QStringLiteral("bandmonitor"));
-    if (commandLine.screenshotsFolder.isEmpty()) {
+    if (!commandLine.takesPictures()) {
         CfgCenter::SetConfigDir(commandLine.configFolder);
         return run(argc, argv, commandLine);
     }

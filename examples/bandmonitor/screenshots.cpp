@@ -114,7 +114,7 @@ bool ScreenshotSeries::run()
 {
     if (!m_folder.mkpath(QStringLiteral(".")))
         m_failure = m_folder.path();
-    // The docks were arranged for a smaller screen; headless ones are small.
+    m_window.resize(PanelDocks::windowSize); // whatever the screen is, for which it is arranged
     m_window.panelDocks().showFactory(m_window.modes().mode());
     takeMain();
     takeZoom();

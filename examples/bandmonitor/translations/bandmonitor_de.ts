@@ -1740,3 +1740,7 @@
     </message>
 </context>
 </TS>
+    <message>
+        <source>There is no display for the window.</source>
+        <translation>Es gibt keinen Bildschirm für das Fenster.</translation>
+    </message>
