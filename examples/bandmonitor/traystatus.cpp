@@ -21,11 +21,12 @@ TrayStatus::TrayStatus(MainWindow* window)
         m_failure.clear();
         refresh();
     });
-    connect(&session, &Session::liveEnded, this, [this](const QString& text) {
-        if (!m_window->session().live()->isStopped())
-            m_failure = text;
-        refresh();
-    });
+    for (const auto ended : {&Session::liveEnded, &Session::liveFailed})
+        connect(&session, ended, this, [this](const QString& text) {
+            if (!m_window->session().live()->isStopped())
+                m_failure = text;
+            refresh();
+        });
     m_icon.show();
     refresh();
 }

@@ -9,8 +9,8 @@ namespace bandmonitor {
 
 class MainWindow;
 
-/// The icon in the tray: it tells whether live input comes. From its menu on, the program goes on
-/// without its window, and watches what comes.
+/// The icon in the tray: it tells whether live input comes. An entry of its menu lets the program
+/// go on without its window.
 class TrayStatus : public QObject
 {
     Q_OBJECT
