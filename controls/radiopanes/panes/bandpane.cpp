@@ -111,6 +111,11 @@ double BandPane::snapped(double hertz) const
     return hertz;
 }
 
+double BandPane::snappedAt(const QPointF& place) const
+{
+    return snapped(frequencyAt(place.x()));
+}
+
 double BandPane::frequencyAt(double x) const
 {
     return d->visibleBand->range(std::max(width(), 1)).valueAt(x);
@@ -205,9 +210,9 @@ void BandPane::mouseMoveEvent(QMouseEvent* event)
         d->dragBegun = std::abs(way.y()) > std::abs(way.x()) ? Qt::Vertical : Qt::Horizontal;
     }
     if (d->drag == Drag::Pin) {
-        const double hertz = frequencyAt(event->position().x());
-        d->visibleBand->movePin(*d->pressedPin,
-                                d->snaps(event->modifiers()) ? snapped(hertz) : hertz);
+        d->visibleBand->movePin(*d->pressedPin, d->snaps(event->modifiers())
+                                                    ? snappedAt(event->position())
+                                                    : frequencyAt(event->position().x()));
     }
     if (d->drag == Drag::Pan) {
         dragged(position - d->draggedTo, d->dragBegun);
@@ -252,8 +257,8 @@ void BandPane::togglePin(double x, Qt::KeyboardModifiers modifiers)
 {
     const std::optional<std::size_t> number = pinAt(x);
     if (!number) {
-        const double hertz = frequencyAt(x);
-        d->visibleBand->addPin(d->snaps(modifiers) ? snapped(hertz) : hertz);
+        const QPointF place(x, d->pressedAt.y());
+        d->visibleBand->addPin(d->snaps(modifiers) ? snappedAt(place) : frequencyAt(x));
         return;
     }
     // It stays until it is clear that no double click follows.

@@ -48,7 +48,7 @@ public:
     /// The width of so many pixels.
     double hertzOf(double pixels) const;
 
-    /// Whether pins that are set or dragged snap to what snapped() finds. Not at first; holding
+    /// Whether pins that are set or dragged snap to what snappedAt() finds. Not at first; holding
     /// Control turns it over.
     void setSnapping(bool on);
     bool isSnapping() const;
@@ -69,6 +69,10 @@ Q_SIGNALS:
     void optionsChanged();
 
 protected:
+    /// Where a pin snaps to that is set or dragged to this place of the pane: for panes that show
+    /// one sweep, snapped() of the frequency there.
+    virtual double snappedAt(const QPointF& place) const;
+
     /// Cursor, pins, zoom rectangle and focus frame; to be called at the end of paintEvent().
     void paintOverlay(QPainter& painter);
 

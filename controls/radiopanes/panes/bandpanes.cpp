@@ -218,7 +218,7 @@ void BandPanes::fillMenu(QMenu* menu)
     }
     menu->addSection(tr("Pins and cursor"));
     addCheck(menu, tr("Pins snap to peaks"), d->spectrum->isSnapping(),
-             [this](bool on) { d->spectrum->setSnapping(on); });
+             [this](bool on) { setSnapping(on); });
     connect(menu->addAction(tr("Bookmark the cursor")), &QAction::triggered, this,
             [this] { addBookmark(d->visibleBand.cursor()); });
     addCheck(menu, tr("Bandwidths at the cursor"), d->spectrum->areWidthsVisible(),
@@ -346,6 +346,12 @@ void BandPanes::setOverviewVisible(bool visible)
 bool BandPanes::isOverviewVisible() const
 {
     return !d->overviewRow->isHidden();
+}
+
+void BandPanes::setSnapping(bool on)
+{
+    d->spectrum->setSnapping(on);
+    d->waterfall->setSnapping(on);
 }
 
 Splitter* BandPanes::splitter() const

@@ -64,6 +64,8 @@ public:
     const BandPlan& bookmarks() const;
     /// Without a name the frequency, as text, is the name.
     void addBookmark(double hertz, const QString& name = {});
+    /// In the spectrum and the waterfall, see BandPane::setSnapping().
+    void setSnapping(bool on);
     /// Parts the spectrum from the waterfall.
     Splitter* splitter() const;
     /// The waterfall with its axis.

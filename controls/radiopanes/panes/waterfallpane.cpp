@@ -7,6 +7,7 @@
 #include "waterfalllines_p.h"
 
 #include <radiopanes/colors/panecolors.h>
+#include <radiopanes/core/measurements.h>
 
 #include <jtbase/wheelnotches.h>
 
@@ -414,6 +415,23 @@ std::optional<HistoryPlace> WaterfallPane::placeAt(const QPoint& position) const
     if (std::isfinite(highest))
         place.levelDb = highest;
     return place;
+}
+
+double WaterfallPane::snappedAt(const QPointF& place) const
+{
+    const double hertz = frequencyAt(place.x());
+    const auto y = static_cast<int>(place.y());
+    std::optional<BinLevel> highest;
+    if (sweepAt(y) >= 0) {
+        const auto [first, last] = d->lines.sweepsOf(d->lines.top() - y / d->lineHeight());
+        for (qsizetype sweep = first; sweep <= last; ++sweep) {
+            const auto bin =
+                highestNear(d->lines.history()->sweep(sweep), hertz, hertzOf(pinReach));
+            if (bin && (!highest || bin->levelDb > highest->levelDb))
+                highest = bin;
+        }
+    }
+    return highest ? highest->hertz : hertz;
 }
 
 bool WaterfallPane::isLongerThanADay() const

@@ -113,6 +113,8 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    /// The highest bin of the line there within a pin's reach.
+    double snappedAt(const QPointF& place) const override;
     void dragged(const QPoint& change, Qt::Orientation begun) override;
 
 private:

@@ -57,7 +57,7 @@ void PanesKeeper::addPictures()
     WaterfallPane* const waterfall = &m_panes->waterfall();
     m_choices.push_back({m_values->isSnapping, tr("Pins snap to peaks"),
                          [=] { return spectrum->isSnapping(); },
-                         [=](const QVariant& on) { spectrum->setSnapping(on.toBool()); }});
+                         [this](const QVariant& on) { m_panes->setSnapping(on.toBool()); }});
     m_choices.push_back({m_values->areWidthsVisible, tr("Bandwidths at the cursor"),
                          [=] { return spectrum->areWidthsVisible(); },
                          [=](const QVariant& on) { spectrum->setWidthsVisible(on.toBool()); }});

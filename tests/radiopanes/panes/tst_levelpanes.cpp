@@ -228,6 +228,17 @@ private Q_SLOTS:
         QTest::mouseClick(&spectrum(), Qt::LeftButton, {}, placeOf(centreOf(202)));
         QCOMPARE(band().pins().size(), 2u);
         QCOMPARE(band().pins().back().hertz, centreOf(200));
+        // In the waterfall to what is shown below the mouse.
+        std::vector<float> other = levels();
+        std::swap(other[300], other[302]);
+        QVERIFY(add(other));
+        m_panes->setSnapping(true);
+        for (const auto& [line, bin] : {std::pair(0, 302), std::pair(1, 300)}) {
+            band().clearPins();
+            const QPoint place(placeOf(centreOf(301)).x(), line * WaterfallPane::linePixels);
+            QTest::mouseClick(&m_panes->waterfall(), Qt::LeftButton, {}, place);
+            QCOMPARE(band().pins().back().hertz, centreOf(bin));
+        }
     }
 
     void pinsHaveNames()
