@@ -119,6 +119,11 @@ SideAxis::SideAxis(const QString& caption, Ticks ticks, QWidget* parent)
 
 SideAxis::~SideAxis() = default;
 
+std::vector<AxisTick> SideAxis::ticks(int pixels) const
+{
+    return d->ticks(pixels);
+}
+
 int SideAxis::preferredWidth(const QWidget& widget)
 {
     return widget.fontMetrics().horizontalAdvance(QStringLiteral("00:00.000")) + tickLength +

@@ -52,6 +52,8 @@ public:
     SideAxis(const QString& caption, Ticks ticks, QWidget* parent);
     ~SideAxis() override;
 
+    /// The ticks of a scale of so many pixels.
+    std::vector<AxisTick> ticks(int pixels) const;
     /// Wide enough for a time of day and for levels.
     static int preferredWidth(const QWidget& widget);
     QSize sizeHint() const override;

@@ -312,6 +312,25 @@ private Q_SLOTS:
         QVERIFY(place && place->timeUs == m_timeUs && place->levelDb == -45.0F);
     }
 
+    void timesAreAsFineAsTheyMustBe_data()
+    {
+        TestRows<quint64, QString> row; // microseconds from sweep to sweep, the label of the newest
+        row("too fine to tell apart", 1, QStringLiteral("00:00:00"));
+        row("short", 1'100, QStringLiteral("00:00.110"));
+        row("long", 1'000'000, QStringLiteral("00:01:40"));
+        row("days", 3'600'000'000, QStringLiteral("01-05\n04:00"));
+    }
+
+    void timesAreAsFineAsTheyMustBe()
+    {
+        const auto& [step, newest] = TestRows<quint64, QString>::fetch();
+        m_panes->clear();
+        for (quint64 i = 0; i <= 100; ++i)
+            QVERIFY(m_panes->addSweep(i * step, startHz, stepHz, levels()));
+        const auto* axis = m_panes->waterfallRow()->findChild<SideAxis*>();
+        QCOMPARE(axis->ticks(axis->height()).front().label, newest);
+    }
+
     void overviewShowsAllSweepsAndAsksForJumps()
     {
         OverviewPane& strip = m_panes->overview();
