@@ -27,6 +27,7 @@ PanesKeeper::PanesKeeper(std::shared_ptr<SessionValues> values, BandPanes* panes
             choice.show(choice.value.GetVariant());
         };
         show();
+        choice.value.SetVariant(choice.shown()); // where the configuration has an impossible one
         m_followers.push_back(SessionValues::follow({&choice.value}, show));
     }
     connect(&m_panes->spectrum(), &BandPane::optionsChanged, this, &PanesKeeper::take);
