@@ -17,6 +17,8 @@
 #include "selectionactions.h"
 #include "settings/keys.h"
 
+#include <radiopanes/panes/waterfallpane.h>
+
 #include <guibase/binding/actionbinding.h>
 #include <guibase/services/guibase.h>
 #include <guibase/undo/undoactions.h>
@@ -166,11 +168,14 @@ void MainWindow::buildBandEntries(QMenu* menu)
             [band] { band->zoomAtCursor(1 / zoomPerKey); });
     connect(addEntry(menu, tr("Whole &band"), {Qt::Key_Home}, true), &QAction::triggered, band,
             &VisibleBand::showAll);
+    WaterfallPane* waterfall = &m_bandView->waterfall();
+    connect(addEntry(menu, tr("Zoom in in tim&e"),
+                     {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, true),
+            &QAction::triggered, waterfall, [waterfall] { waterfall->zoomTime(1); });
+    connect(addEntry(menu, tr("Zoom out in &time"), {Qt::CTRL | Qt::Key_Minus}, true),
+            &QAction::triggered, waterfall, [waterfall] { waterfall->zoomTime(-1); });
     menu->addSeparator();
-    QAction* hold = addEntry(menu, tr("&Hold maximum"), {Qt::Key_H}, true);
-    new ValueWidgetBinding::ActionBinding(m_values->isHoldVisible, *hold);
-    connect(addEntry(menu, tr("R&eset hold"), {Qt::Key_R}, true), &QAction::triggered, m_bandView,
-            &BandView::resetHold);
+    buildTraceMenu(menu->addMenu(tr("Tra&ces")));
     menu->addSeparator();
     connect(addEntry(menu, tr("Set &pin at the cursor"), {Qt::Key_P}, true), &QAction::triggered,
             band, [band] { band->addPin(band->cursor()); });
@@ -185,6 +190,26 @@ void MainWindow::buildBandEntries(QMenu* menu)
             &QAction::triggered, plan, &BandPlanKeeper::removePlan);
     QAction* overview = addEntry(menu, tr("O&verview of all sweeps"), {Qt::Key_O}, true);
     new ValueWidgetBinding::ActionBinding(m_values->isOverviewVisible, *overview);
+}
+
+void MainWindow::buildTraceMenu(QMenu* menu)
+{
+    struct Row
+    {
+        Value<bool>& value;
+        QString text;
+        Qt::Key key;
+    };
+    const Row rows[] = {{m_values->isCurrentVisible, tr("&Current"), Qt::Key_C},
+                        {m_values->isAverageVisible, tr("&Average"), Qt::Key_A},
+                        {m_values->isHoldVisible, tr("&Hold maximum"), Qt::Key_H},
+                        {m_values->isMinimumVisible, tr("Hold &minimum"), Qt::Key_M}};
+    for (const Row& row : rows)
+        new ValueWidgetBinding::ActionBinding(row.value,
+                                              *addEntry(menu, row.text, {row.key}, true));
+    menu->addSeparator();
+    connect(addEntry(menu, tr("R&eset hold"), {Qt::Key_R}, true), &QAction::triggered, m_bandView,
+            &BandView::resetHold);
 }
 
 void MainWindow::buildModeEntries(QMenu* menu)

@@ -96,6 +96,7 @@ private:
     void buildEditMenu();
     void buildViewMenu();
     void buildBandEntries(QMenu* menu);
+    void buildTraceMenu(QMenu* menu);
     void buildModeEntries(QMenu* menu);
     void buildReplayMenu();
     void buildJobsMenu();

@@ -376,12 +376,14 @@ private Q_SLOTS:
         m_window->values().bandPlan.SetValue(file.fileName());
         QCOMPARE(view().bandPlan().entries().size(), 1u);
         view().spectrum().setTraceVisible(Trace::Average, true);
-        entry("Hold maximum")->trigger();
+        for (const char* text : {"Hold maximum", "Hold minimum", "Zoom out in time"})
+            entry(text)->trigger();
         view().spectrum().setSnapping(true);
         view().waterfall().setColorMap(ColorMap::Fire);
-        view().waterfall().zoomTime(-2);
+        view().waterfall().zoomTime(-1);
         CHECKED(openForm());
         QVERIFY(view().spectrum().isTraceVisible(Trace::Average));
+        QVERIFY(view().spectrum().isTraceVisible(Trace::Minimum));
         QVERIFY(!view().spectrum().isTraceVisible(Trace::Maximum));
         QVERIFY(view().spectrum().isSnapping());
         QVERIFY(view().waterfall().colorMap() == ColorMap::Fire);

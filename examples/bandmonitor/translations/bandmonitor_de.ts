@@ -1018,12 +1018,16 @@
         <translation>Ganzes &amp;Band</translation>
     </message>
     <message>
-        <source>&amp;Hold maximum</source>
-        <translation>&amp;Maximum halten</translation>
+        <source>Zoom in in tim&amp;e</source>
+        <translation>Zei&amp;tachse vergrößern</translation>
     </message>
     <message>
-        <source>R&amp;eset hold</source>
-        <translation>Maximum &amp;neu beginnen</translation>
+        <source>Zoom out in &amp;time</source>
+        <translation>Zeitachse &amp;verkleinern</translation>
+    </message>
+    <message>
+        <source>Tra&amp;ces</source>
+        <translation>Kurve&amp;n</translation>
     </message>
     <message>
         <source>Set &amp;pin at the cursor</source>
@@ -1048,6 +1052,26 @@
     <message>
         <source>O&amp;verview of all sweeps</source>
         <translation>Übe&amp;rsicht aller Durchläufe</translation>
+    </message>
+    <message>
+        <source>&amp;Current</source>
+        <translation>A&amp;ktuell</translation>
+    </message>
+    <message>
+        <source>&amp;Average</source>
+        <translation>Mittel&amp;wert</translation>
+    </message>
+    <message>
+        <source>&amp;Hold maximum</source>
+        <translation>&amp;Maximum halten</translation>
+    </message>
+    <message>
+        <source>Hold &amp;minimum</source>
+        <translation>M&amp;inimum halten</translation>
+    </message>
+    <message>
+        <source>R&amp;eset hold</source>
+        <translation>Maximum &amp;neu beginnen</translation>
     </message>
     <message>
         <source>&amp;Mode</source>
@@ -1731,6 +1755,10 @@
 <context>
     <name>main</name>
     <message>
+        <source>There is no display for the window.</source>
+        <translation>Es gibt keinen Bildschirm für das Fenster.</translation>
+    </message>
+    <message>
         <source>The picture &quot;%1&quot; cannot be written.</source>
         <translation>Das Bild „%1“ lässt sich nicht schreiben.</translation>
     </message>
@@ -1740,7 +1768,3 @@
     </message>
 </context>
 </TS>
-    <message>
-        <source>There is no display for the window.</source>
-        <translation>Es gibt keinen Bildschirm für das Fenster.</translation>
-    </message>
