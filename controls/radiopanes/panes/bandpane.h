@@ -64,8 +64,8 @@ public:
 Q_SIGNALS:
     /// The right button was clicked, or the menu key pressed, at this place of the screen.
     void menuRequested(QPoint globalPosition);
-    /// What the user can choose for the pane is another: snapping, the legend, traces, bandwidths,
-    /// the colour map or the zoom in time. Time to keep it.
+    /// The user's choices for the pane have changed: snapping, the legend, traces, bandwidths, the
+    /// colour map or the zoom in time.
     void optionsChanged();
 
 protected:

@@ -185,7 +185,7 @@ void WaterfallPane::scrollTo(qsizetype sweep)
     if (newest < 0)
         return;
     const qsizetype size = d->lines.sweepsPerLine();
-    const qsizetype oldest = std::min(d->lines.history()->first() / size, d->lines.top());
+    const qsizetype oldest = std::min(d->lines.oldest(), d->lines.top());
     const qsizetype line = sweep < 0 ? oldest : std::max(sweep / size, oldest);
     d->setShown(line >= newest / size ? -1 : (line + 1) * size - 1);
 }

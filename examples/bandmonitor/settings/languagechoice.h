@@ -7,8 +7,7 @@
 
 namespace bandmonitor {
 
-/// The languages that the program can be shown in, as the choice of a menu. They are made into a
-/// choice once, in the language that is shown.
+/// The languages that the program can be shown in, as the choice of a menu.
 class LanguageChoice
 {
 public:
