@@ -22,7 +22,6 @@ namespace RadioPanes {
 namespace {
 constexpr qsizetype levelsAtOnce = qsizetype{8} << 20; // some milliseconds of work
 constexpr int repaintInterval = 100;                   // of a strip that grows, in milliseconds
-constexpr float goneOpacity = 0.5F;
 constexpr double timeOpacity = 0.8;
 constexpr int cells = OverviewLevels::cellCount;
 } // namespace
@@ -106,6 +105,7 @@ void OverviewPane::readSlice()
 {
     if (takenSweeps() >= d->sweepCount())
         return;
+    d->levels.forgetBefore(d->firstSweep());
     qsizetype budget = levelsAtOnce;
     while (takenSweeps() < d->sweepCount()) {
         if (budget <= 0) {
@@ -155,27 +155,30 @@ void OverviewPane::setTimeText(std::function<QString(quint64 timeUs)> text)
 
 qsizetype OverviewPane::sweepAt(int x) const
 {
-    const qsizetype count = d->sweepCount();
-    if (count == 0)
+    const qsizetype first = d->firstSweep();
+    const qsizetype count = d->sweepCount() - first;
+    if (count <= 0)
         return -1;
     const qsizetype sweep = std::clamp(x, 0, width()) * count / std::max(width(), 1);
-    return std::clamp(sweep, d->firstSweep(), count - 1);
+    return first + std::min(sweep, count - 1);
 }
 
 int OverviewPane::positionOf(qsizetype sweep) const
 {
-    const qsizetype count = std::max<qsizetype>(d->sweepCount(), 1);
-    return static_cast<int>(std::clamp<qsizetype>(sweep, 0, count) * width() / count);
+    const qsizetype first = d->firstSweep();
+    const qsizetype count = std::max<qsizetype>(d->sweepCount() - first, 1);
+    return static_cast<int>(std::clamp<qsizetype>(sweep - first, 0, count) * width() / count);
 }
 
 void OverviewPanePrivate::columnAt(int x, std::span<float> column) const
 {
     std::ranges::fill(column, -std::numeric_limits<float>::infinity());
-    const qsizetype count = sweepCount();
+    const qsizetype count = sweepCount() - firstSweep();
     const qsizetype first = x * count / q->width();
-    const qsizetype end = std::max((x + 1) * count / q->width(), first + 1);
+    const qsizetype last = std::max((x + 1) * count / q->width() - 1, first);
     const qsizetype size = levels.sweepsPerColumn();
-    for (qsizetype i = first / size; i <= (end - 1) / size && i < levels.columnCount(); ++i)
+    const qsizetype end = std::min((firstSweep() + last) / size + 1, levels.endColumn());
+    for (qsizetype i = std::max((firstSweep() + first) / size, levels.firstColumn()); i < end; ++i)
         std::ranges::transform(column, levels.column(i), column.begin(),
                                [](float a, float b) { return b > a ? b : a; });
 }
@@ -216,11 +219,6 @@ void OverviewPane::paintEvent(QPaintEvent*)
 void OverviewPanePrivate::paintMarks(QPainter& painter) const
 {
     const int height = q->height();
-    if (firstSweep() > 0) { // what cannot be jumped to
-        QColor gone = q->palette().color(QPalette::Window);
-        gone.setAlphaF(goneOpacity);
-        painter.fillRect(0, 0, q->positionOf(firstSweep()), height, gone);
-    }
     painter.setPen(paneColor(PaneSlot::Pin));
     if (shown.second >= firstSweep()) {
         const int left = q->positionOf(std::max(shown.first, firstSweep()));
@@ -244,8 +242,7 @@ void OverviewPanePrivate::paintTimes(QPainter& painter) const
     const QSize toSize = PlaceBox::sizeOf(*q, to);
     painter.setOpacity(timeOpacity);
     const int toLeft = q->width() - toSize.width();
-    const int fromLeft = std::min(q->positionOf(firstSweep()), toLeft - fromSize.width());
-    PlaceBox::paint(painter, *q, {{std::max(fromLeft, 0), 0}, fromSize}, from);
+    PlaceBox::paint(painter, *q, {{0, 0}, fromSize}, from);
     PlaceBox::paint(painter, *q, {{toLeft, 0}, toSize}, to);
     painter.setOpacity(1);
 }
@@ -310,7 +307,7 @@ void OverviewPane::leaveEvent(QEvent* event)
 std::optional<HistoryPlace> OverviewPane::placeAt(const QPoint& position) const
 {
     const qsizetype sweep = sweepAt(position.x());
-    if (sweep < 0 || takenSweeps() == 0 || position.x() < positionOf(d->firstSweep()))
+    if (sweep < 0 || takenSweeps() == 0)
         return std::nullopt;
     const int fromBottom = std::clamp(height() - 1 - position.y(), 0, height() - 1);
     const int cell = fromBottom * cells / height();

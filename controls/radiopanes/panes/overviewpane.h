@@ -17,9 +17,9 @@ namespace RadioPanes {
 
 class OverviewPanePrivate;
 
-/// A whole recording in one strip: time from left to right, frequencies from bottom to top, with a
-/// cursor at the current sweep. It reads each sweep once, in slices where there are many, and keeps
-/// what it shows in bounded memory.
+/// All sweeps of a history in one strip: time from left to right, frequencies from bottom to top,
+/// with a cursor at the current sweep. It reads each sweep once, in slices where there are many, and
+/// keeps what it shows in bounded memory. Sweeps that the history gives up leave it at the left.
 ///
 /// A click, or dragging, asks for another sweep. Keys: left and right, page up and page down, end.
 class RADIOPANES_EXPORT OverviewPane : public QWidget
@@ -32,8 +32,8 @@ public:
 
     /// Begins anew with this history; null for none.
     void setHistory(std::shared_ptr<const SweepHistory> history);
-    /// To be called when the history has grown, at the latest before it leaves sweeps behind: those
-    /// that are gone by then remain empty.
+    /// To be called when the history has grown, at the latest before it gives up sweeps that have
+    /// come since the last call.
     void takeSweeps();
     /// How many sweeps were read.
     qsizetype takenSweeps() const;
@@ -51,7 +51,7 @@ public:
     qsizetype sweepAt(int x) const;
     /// The column of pixels where the sweep begins.
     int positionOf(qsizetype sweep) const;
-    /// What is shown there; nothing without sweeps, and where they have gone.
+    /// What is shown there; nothing without sweeps.
     std::optional<HistoryPlace> placeAt(const QPoint& position) const;
 
     QSize sizeHint() const override { return {960, 56}; }

@@ -338,10 +338,14 @@ private Q_SLOTS:
         constexpr int count = 5000; // more than the strip keeps apart
         m_panes->clear(100 * bins * sizeof(float));
         for (int i = 0; i < count; ++i)
-            QVERIFY(add(levels(i == 3000 ? -50.0F : -100.0F)));
+            QVERIFY(add(levels(i == 3000 || i == count - 50 ? -50.0F : -100.0F)));
         QCOMPARE(strip.takenSweeps(), count);
-        QVERIFY(strip.sweepAt(0) > count - 200 && !strip.placeAt({0, 0})); // it has gone
         strip.setTimeText({});
+        const qsizetype first = m_panes->history().first(); // The whole strip is for what is left.
+        QVERIFY(first > count - 200);
+        QCOMPARE(strip.sweepAt(0), first);
+        QCOMPARE(strip.sweepAt(strip.width()), count - 1);
+        QCOMPARE(strip.positionOf(first), 0);
         const QRgb loud = m_panes->waterfall().colorOf(-50);
         const auto columns = [&] {
             const QImage image = strip.grab().toImage();
@@ -352,6 +356,9 @@ private Q_SLOTS:
             }
             return found;
         };
+        QTRY_VERIFY(!columns().empty());
+        QVERIFY(std::abs(columns().front() - strip.positionOf(count - 50)) <= 1);
+        QVERIFY(std::abs(columns().back() - strip.positionOf(count - 49)) <= 1);
         strip.setHistory(nullptr);
         QVERIFY(columns().empty());
         const auto history = std::make_shared<LevelHistory>(std::size_t{1} << 30);
