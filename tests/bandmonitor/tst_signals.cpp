@@ -296,6 +296,22 @@ private Q_SLOTS:
         QVERIFY(first >= 1 && first <= all);
         QVERIFY(replay(false) < all);
         QVERIFY(isFine);
+        // Wherever it begins, what is there then is no news, side by side or not.
+        for (qsizetype begin = 10; begin < sample.recording->count() - 20; ++begin) {
+            SignalWatch watch;
+            watch.setRecording(sample.recording);
+            watch.showSweep(begin, -1);
+            SignalAlarm begun;
+            QVERIFY(begun.takeIn(watch).empty());
+            const auto last = watch.tracks().empty()
+                                  ? 0
+                                  : std::ranges::max(watch.tracks(), {}, &SignalTrack::id).id;
+            for (qsizetype sweep = begin + 1; sweep < begin + 20; ++sweep) {
+                watch.showSweep(sweep, sweep - 1);
+                for (const SignalTrack& track : begun.takeIn(watch))
+                    QVERIFY2(track.id > last, qPrintable(QString::number(begin)));
+            }
+        }
     }
 };
 

@@ -39,7 +39,8 @@ std::vector<SignalTrack> SignalAlarm::takeIn(const SignalWatch& watch)
     constexpr std::uint64_t wanted = (1U << sweepsOnEnd) - 1;
     std::vector<SignalTrack> picked;
     for (const SignalTrack* track : others) {
-        if (isKnown(*track) || (!begins && (track->presence & wanted) != wanted))
+        // At a beginning all are old, also those that are side by side just now.
+        if (!begins && (isKnown(*track) || (track->presence & wanted) != wanted))
             continue;
         add(*track);
         if (!begins && !isIgnored(track->signal))
