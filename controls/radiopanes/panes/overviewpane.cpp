@@ -223,7 +223,7 @@ void OverviewPanePrivate::paintMarks(QPainter& painter) const
     if (shown.second >= firstSweep()) {
         const int left = q->positionOf(std::max(shown.first, firstSweep()));
         const int right = std::max(q->positionOf(shown.second + 1) - 1, left);
-        painter.drawRect(left, 0, right - left, height - 1);
+        painter.drawRect(left, 1, right - left, height - 3); // inside the frame of the focus
     }
     if (position < 0)
         return;
