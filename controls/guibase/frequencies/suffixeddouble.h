@@ -125,8 +125,8 @@ public:
     QString GetDisplayString(double v = NoValue);
     QString GetLabelString(double v = NoValue);
 
-    /// Whether the text of GetShortString() or GetString() tells the quantity exactly (to 1e-12 base
-    /// units).
+    /// Whether the text of GetShortString() or GetString() tells the quantity exactly (to 1e-12
+    /// base units).
     bool IsShortSuffixedOk(double v);
     bool IsLongSuffixedOk(double v);
 

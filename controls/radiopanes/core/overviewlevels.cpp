@@ -69,8 +69,7 @@ void OverviewLevels::makeRoom()
 {
     if (endColumn() - m_firstColumn < maximumColumns)
         return;
-    const qsizetype gone =
-        std::min(m_firstNeeded / m_sweepsPerColumn, endColumn()) - m_firstColumn;
+    const qsizetype gone = std::min(m_firstNeeded / m_sweepsPerColumn, endColumn()) - m_firstColumn;
     if (gone < maximumColumns / 4) // It is worth moving the others.
         return mergeColumns();
     m_levels.erase(m_levels.begin(), m_levels.begin() + gone * cellCount);

@@ -18,8 +18,9 @@ namespace RadioPanes {
 class OverviewPanePrivate;
 
 /// All sweeps of a history in one strip: time from left to right, frequencies from bottom to top,
-/// with a cursor at the current sweep. It reads each sweep once, in slices where there are many, and
-/// keeps what it shows in bounded memory. Sweeps that the history gives up leave it at the left.
+/// with a cursor at the current sweep. It reads each sweep once, in slices where there are many,
+/// and keeps what it shows in bounded memory. Sweeps that the history gives up leave it at the
+/// left.
 ///
 /// A click, or dragging, asks for another sweep. Keys: left and right, page up and page down, end.
 class RADIOPANES_EXPORT OverviewPane : public QWidget
