@@ -140,17 +140,18 @@ std::optional<BinLevel> highestNear(const Sweep& sweep, double hertz, double rea
 }
 
 std::optional<BinLevel> nextPeak(const Sweep& sweep, double hertz, Direction direction,
-                                 float excursionDb)
+                                 const PeakLimits& limits)
 {
     std::optional<BinLevel> nearest;
     const bool up = direction == Direction::Up;
     for (const Segment& hop : sweep.segments) {
         if (up ? hop.endHz() <= hertz : hop.startHz >= hertz)
             continue;
-        forEachPeak(hop, direction, excursionDb, [&](std::size_t index) {
+        forEachPeak(hop, direction, limits.excursionDb, [&](std::size_t index) {
             const BinLevel bin = binOf(hop, index);
             // The bin that covers the frequency is no next one.
-            if ((up ? bin.hertz - hertz : hertz - bin.hertz) <= bin.stepHz / 2)
+            if (bin.levelDb < limits.levelDb ||
+                (up ? bin.hertz - hertz : hertz - bin.hertz) <= bin.stepHz / 2)
                 return false;
             if (!nearest || (up ? bin.hertz < nearest->hertz : bin.hertz > nearest->hertz))
                 nearest = bin;
@@ -158,6 +159,30 @@ std::optional<BinLevel> nextPeak(const Sweep& sweep, double hertz, Direction dir
         });
     }
     return nearest;
+}
+
+float noiseCeiling(const Sweep& sweep)
+{
+    const std::vector<std::size_t> counts = countLevels({&sweep, 1});
+    const std::size_t total = std::reduce(counts.begin(), counts.end());
+    if (total == 0)
+        return -std::numeric_limits<float>::infinity();
+    const auto percentile = [&](std::size_t percent) {
+        std::size_t sum = 0;
+        const auto level = std::ranges::find_if(
+            counts, [&](std::size_t count) { return (sum += count) * 100 > total * percent; });
+        return static_cast<double>(level - counts.begin() - levelLimit) / stepsPerDecibel;
+    };
+    // As if it were normally distributed in dB. Noise of a single look is skewed: its few highest
+    // bins are not as far above its mean as its lower half is wide.
+    constexpr double deviation10 = 1.2816;
+    constexpr double deviation30 = 0.5244;
+    constexpr double deviations = 4;
+    constexpr double highest = 12;
+    const double p30 = percentile(30);
+    const double deviation = (p30 - percentile(10)) / (deviation10 - deviation30);
+    return static_cast<float>(p30 + deviation30 * deviation +
+                              std::min(deviations * deviation, highest));
 }
 
 std::optional<Extent> widthBelow(const Sweep& sweep, double hertz, float dropDb)

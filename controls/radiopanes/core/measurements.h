@@ -6,6 +6,7 @@
 
 #include <radiopanes/radiopanes_export.h>
 
+#include <limits>
 #include <optional>
 #include <span>
 
@@ -34,10 +35,22 @@ RADIOPANES_EXPORT std::optional<BinLevel> highestNear(const Sweep& sweep, double
 
 enum class Direction { Down, Up };
 
+/// The least of peaks.
+struct PeakLimits
+{
+    float excursionDb = 6; ///< Above the valleys on both sides.
+    float levelDb = -std::numeric_limits<float>::infinity();
+};
+
 /// The first peak below or above the frequency, without the one that covers it: the highest bin
-/// between two valleys that are `excursionDb` lower each. Behind the end of a hop counts as lower.
+/// between two valleys. Behind the end of a hop counts as lower.
 RADIOPANES_EXPORT std::optional<BinLevel> nextPeak(const Sweep& sweep, double hertz,
-                                                   Direction direction, float excursionDb = 6);
+                                                   Direction direction,
+                                                   const PeakLimits& limits = {});
+
+/// A level that hardly any bin of noise exceeds, when signals cover up to two thirds of the sweep;
+/// minus infinity without any level.
+RADIOPANES_EXPORT float noiseCeiling(const Sweep& sweep);
 
 /// A part of the band, in whole bins.
 struct Extent

@@ -230,10 +230,18 @@ QStringList SpectrumPane::readOut() const
     return d->readOut();
 }
 
+double SpectrumPane::stepAt(double hertz) const
+{
+    const std::optional<BinPlace> place = d->trace(Trace::Current).sweep.placeOf(hertz);
+    return place ? place->segment->stepHz : 0;
+}
+
 bool SpectrumPane::moveToPeak(Direction direction)
 {
-    const std::optional<BinLevel> peak =
-        nextPeak(d->trace(Trace::Current).sweep, visibleBand().cursor(), direction);
+    const Sweep& sweep = d->trace(Trace::Current).sweep;
+    PeakLimits limits;
+    limits.levelDb = d->thresholdDb ? static_cast<float>(*d->thresholdDb) : noiseCeiling(sweep);
+    const std::optional<BinLevel> peak = nextPeak(sweep, visibleBand().cursor(), direction, limits);
     if (!peak)
         return false;
     visibleBand().showAt(peak->hertz);

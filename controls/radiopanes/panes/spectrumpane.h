@@ -99,7 +99,10 @@ public:
     /// The lines of the read-out: the caption, the cursor, the widths, then the pins; from the
     /// second pin on with their differences to the first one.
     QStringList readOut() const;
-    /// Moves the cursor to the next peak of the current trace; false when there is none.
+    /// The width of the current trace's bin at the frequency, in Hz; 0 where the sweep has none.
+    double stepAt(double hertz) const;
+    /// Moves the cursor to the next peak of the current trace that reaches the threshold or, without
+    /// one, stands out of the noise; false when there is none.
     bool moveToPeak(Direction direction);
     /// The highest bin within a pin's reach.
     double snapped(double hertz) const override;

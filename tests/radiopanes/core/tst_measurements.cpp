@@ -6,6 +6,7 @@
 #include <radiopanes/core/measurements.h>
 
 #include <cmath>
+#include <random>
 
 using namespace RadioPanes;
 
@@ -63,6 +64,42 @@ private Q_SLOTS:
         if (peak)
             QCOMPARE(*peak,
                      (BinLevel{centreOf(expected), stepHz, levels[static_cast<size_t>(expected)]}));
+    }
+
+    /// Averaged noise is normal in dB; that of a single look has an exponential power.
+    void peaksStandOutOfTheNoise_data()
+    {
+        TestRows<bool> row;
+        row("averaged", false);
+        row("single looks", true);
+    }
+
+    void peaksStandOutOfTheNoise()
+    {
+        const auto [isSingle] = TestRows<bool>::fetch();
+        std::mt19937 engine(7);
+        std::normal_distribution<float> averaged(-100, 2);
+        std::exponential_distribution<double> single;
+        Levels levels{Values(8000)};
+        for (float& level : levels.levels)
+            level = isSingle ? static_cast<float>(10 * std::log10(single(engine)) - 100)
+                             : averaged(engine);
+        constexpr int carriers[] = {700, 4000, 4020, 7990};
+        for (const int bin : carriers)
+            levels.levels[static_cast<std::size_t>(bin)] = -85;
+        const Sweep sweep = levels.sweep();
+        std::vector<double> found;
+        double hertz = startHz;
+        while (const auto peak =
+                   nextPeak(sweep, hertz, Direction::Up, {.levelDb = noiseCeiling(sweep)})) {
+            hertz = peak->hertz;
+            found.push_back(hertz);
+        }
+        QVERIFY2(found.size() <= std::size(carriers) + 2,
+                 qPrintable(QString::number(found.size())));
+        for (const int bin : carriers)
+            QVERIFY(std::ranges::count(found, centreOf(bin)) == 1);
+        QVERIFY(std::isinf(noiseCeiling(Sweep())));
     }
 
     void highestBinNearby()
