@@ -40,6 +40,7 @@ public:
     FrequencyAxis* frequencyAxis = nullptr;
     SideAxis* timeAxis = nullptr;
     WaterfallPane* waterfall = nullptr;
+    bool hasDates = false; ///< The time axis.
     QWidget* overviewRow = nullptr;
     OverviewPane* overview = nullptr;
     std::unique_ptr<ValueFollower> unitFollower;
@@ -160,9 +161,18 @@ void BandPanes::setHistory(std::shared_ptr<const SweepHistory> history)
 
 void BandPanes::setPosition(qsizetype position, std::shared_ptr<const LevelPyramid> pyramid)
 {
-    d->overview->takeSweeps();
+    historyGrown();
     d->overview->setPosition(position);
     d->waterfall->setPosition(position, std::move(pyramid));
+}
+
+void BandPanes::historyGrown()
+{
+    d->overview->takeSweeps();
+    if (const bool isLong = d->waterfall->isLongerThanADay(); isLong != d->hasDates) {
+        d->hasDates = isLong;
+        d->timeAxis->update();
+    }
 }
 
 void BandPanes::buildLayout()
@@ -311,7 +321,8 @@ const BandPlan& BandPanes::bookmarks() const
 void BandPanes::addBookmark(double hertz, const QString& name)
 {
     std::vector<BandPlan::Entry> entries = bookmarks().entries();
-    entries.push_back({hertz, hertz, name.isEmpty() ? d->text.full(hertz) : name});
+    entries.push_back(
+        {hertz, hertz, name.isEmpty() ? d->text.rounded(hertz, d->spectrum->stepAt(hertz)) : name});
     setBookmarks(BandPlan(std::move(entries)));
 }
 

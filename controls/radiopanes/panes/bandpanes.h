@@ -51,6 +51,8 @@ public:
     void setHistory(std::shared_ptr<const SweepHistory> history);
     /// Makes the sweep the current one in both, see WaterfallPane::setPosition().
     void setPosition(qsizetype position, std::shared_ptr<const LevelPyramid> pyramid = {});
+    /// To be called when the history has grown, whatever the current sweep is.
+    void historyGrown();
     /// Visible at first.
     void setOverviewVisible(bool visible);
     bool isOverviewVisible() const;
