@@ -257,7 +257,9 @@ void MainWindow::recordingGrown()
 {
     if (m_bandView->leavesBand())
         m_pins->changeBand([this] { m_bandView->recordingGrown(); });
-    m_bandView->overview().takeSweeps();
+    else
+        m_bandView->recordingGrown();
+    m_bandView->historyGrown();
     m_replayBar->refreshRange();
     updateTitle();
 }

@@ -2,6 +2,7 @@
 #include "centre/bandview.h"
 #include "support/checked.h"
 #include "support/guardedtest.h"
+#include "support/testrows.h"
 
 #include <radiopanes/colors/panecolors.h>
 #include <radiopanes/panes/spectrumpane.h>
@@ -9,6 +10,8 @@
 
 #include <guibase/colors/colorset.h>
 #include <guibase/services/guibase.h>
+
+#include <cmath>
 
 using namespace bandmonitor;
 
@@ -42,6 +45,8 @@ double centreOfBin(int bin)
 class tst_BandView : public GuardedTest
 {
     Q_OBJECT
+    using MegaHertz = std::pair<double, double>;
+    using Spans = TestRows<MegaHertz, std::vector<MegaHertz>, MegaHertz>;
     std::unique_ptr<BandView> m_pane;
 
     VisibleBand& visibleBand() { return m_pane->visibleBand(); }
@@ -161,6 +166,52 @@ private Q_SLOTS:
             m_pane->showSweep(sweep, sweep - 1);
         m_pane->resize(1200, 600);
         CHECKED(lineAtTop(sweeps - 1));
+    }
+
+    void viewFollowsTheSpan_data()
+    {
+        Spans row; // what the user shows of 100 to 110, two more sweeps, what is shown then; in MHz
+        row("there and back", {}, {{105, 115}, {100, 110}}, {100, 110});
+        row("a longer one", {}, {{100, 110}, {95, 112}}, {95, 112});
+        row("one that was cut", {}, {{100, 104}, {100, 110}}, {100, 110});
+        row("the user's part stays", {101, 103}, {{98, 111}, {102, 112}}, {101, 103});
+        row("but not without sweeps", {101, 103}, {{104, 114}, {104, 114}}, {104, 114});
+        row("and not for ever", {101, 103}, {{104, 114}, {100, 110}}, {100, 110});
+    }
+
+    void viewFollowsTheSpan()
+    {
+        const auto& [chosen, spans, expected] = Spans::fetch();
+        constexpr double mega = 1e6;
+        const auto recording = std::make_shared<Recording>();
+        const auto take = [&](const MegaHertz& span) {
+            const std::vector<float> levels(100, -100.0F);
+            const Segment segment{span.first * mega, (span.second - span.first) * mega / 100, 1,
+                                  levels};
+            recording->append(static_cast<quint64>(recording->count()), {&segment, 1});
+            if (recording->count() == 1)
+                m_pane->setRecording(recording);
+            m_pane->showSweep(recording->count() - 1, recording->count() - 2);
+            m_pane->recordingGrown();
+        };
+        const auto shown = [this] {
+            return MegaHertz(std::round(visibleBand().low() / 1e3) / 1e3,
+                             std::round(visibleBand().high() / 1e3) / 1e3);
+        };
+        take({100, 110});
+        if (chosen.second > 0)
+            visibleBand().setVisible(chosen.first * mega, chosen.second * mega);
+        for (const MegaHertz& span : spans)
+            take(span);
+        QCOMPARE(shown(), expected);
+        QVERIFY(visibleBand().cursor() >= visibleBand().low());
+        // A look back stays where it is.
+        m_pane->showSweep(0, -1);
+        const std::vector<float> levels(100, -100.0F);
+        const Segment segment{200 * mega, mega, 1, levels};
+        recording->append(9, {&segment, 1});
+        m_pane->recordingGrown();
+        QVERIFY(visibleBand().low() < 105 * mega && !m_pane->isFollowingSpan());
     }
 
     void coloursAreTakenAnew()

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "centre/bandview.h"
 
-#include <radiopanes/core/measurements.h>
 #include <radiopanes/panes/spectrumpane.h>
 #include <radiopanes/panes/waterfallpane.h>
 
 #include <QMenu>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <cmath>
@@ -26,6 +26,11 @@ double axisBegin(double low)
 double axisEnd(double high)
 {
     return std::ceil((high + levelMargin) / levelStep) * levelStep;
+}
+
+Extent shownBy(const VisibleBand& band)
+{
+    return {band.low(), band.high()};
 }
 } // namespace
 
@@ -51,6 +56,7 @@ void BandView::setRecording(std::shared_ptr<const Recording> recording)
         const Sweep first = m_recording->sweep(m_recording->first());
         visibleBand().setBand(m_recording->lowHz(), m_recording->highHz(),
                               first.segments.empty() ? 1 : first.segments.front().stepHz);
+        m_followed = shownBy(visibleBand());
         fitLevels();
     }
     refreshTexts();
@@ -65,22 +71,47 @@ bool BandView::leavesBand() const
 
 void BandView::recordingGrown()
 {
-    if (!leavesBand())
+    if (!m_recording || m_recording->isEmpty())
         return;
+    const QScopedValueRollback following(m_isFollowingSpan, true);
+    const Extent shown = shownBy(visibleBand());
+    if (leavesBand())
+        widenBand();
+    if (m_position == m_recording->count() - 1)
+        followSpan(shown);
+}
+
+void BandView::widenBand()
+{
     VisibleBand& band = visibleBand();
     const bool showedAll = band.showsAll();
-    const double low = band.low();
-    const double high = band.high();
+    const Extent shown = shownBy(band);
     const double cursor = band.cursor();
-    const Sweep sweep = m_recording->sweep(m_recording->count() - 1);
-    band.setBand(m_recording->lowHz(), m_recording->highHz(), sweep.segments.front().stepHz);
-    if (!showedAll && low >= sweep.lowHz && high <= sweep.highHz)
-        band.setVisible(low, high);
-    else
-        band.setVisible(sweep.lowHz, sweep.highHz);
-    const bool isCursorShown = cursor >= band.low() && cursor <= band.high();
-    band.setCursor(isCursorShown ? cursor : (band.low() + band.high()) / 2);
+    const Sweep newest = m_recording->sweep(m_recording->count() - 1);
+    band.setBand(m_recording->lowHz(), m_recording->highHz(), newest.segments.front().stepHz);
+    if (!showedAll)
+        band.setVisible(shown.lowHz, shown.highHz);
+    band.setCursor(cursor);
     fitLevels();
+}
+
+void BandView::followSpan(const Extent& shown)
+{
+    VisibleBand& band = visibleBand();
+    const Sweep newest = m_recording->sweep(m_position);
+    const bool isApart = newest.highHz <= shown.lowHz || newest.lowHz >= shown.highHz;
+    const bool isChosen = shown != m_followed;
+    // Narrower sweeps are seen as well: they may have been cut short.
+    const bool isInside = newest.lowHz >= shown.lowHz && newest.highHz <= shown.highHz;
+    if (!isApart && (isChosen || isInside)) {
+        if (!isChosen)
+            band.setVisible(shown.lowHz, shown.highHz);
+        return;
+    }
+    band.setVisible(newest.lowHz, newest.highHz);
+    m_followed = shownBy(band);
+    if (band.cursor() < band.low() || band.cursor() > band.high())
+        band.setCursor((band.low() + band.high()) / 2);
 }
 
 void BandView::fitLevels()

@@ -5,6 +5,7 @@
 #include "model/recording.h"
 #include "model/traceprocessor.h"
 
+#include <radiopanes/core/measurements.h>
 #include <radiopanes/panes/bandpanes.h>
 #include <radiopanes/panes/heldtraces.h>
 
@@ -34,9 +35,13 @@ public:
 
     /// Shows the whole band of the recording; null for none. The hold maximum starts anew.
     void setRecording(std::shared_ptr<const Recording> recording);
-    /// The recording has more sweeps. Sweeps outside the band widen it; the view then shows what
-    /// they cover, unless it lies in that already. The pins go with another band.
+    /// The recording has more sweeps. Sweeps outside the band widen it; the pins go with another
+    /// band. While the newest sweep is the current one, the view follows the span of the sweeps: to
+    /// where it has nothing in common with them and, as long as the user has not chosen a part, to
+    /// whatever they cover.
     void recordingGrown();
+    /// Whether the view is following the sweeps just now: it is not the user who moves it.
+    bool isFollowingSpan() const { return m_isFollowingSpan; }
     /// Whether the sweeps of the recording leave the band.
     bool leavesBand() const;
     /// The recording is complete. Unless the levels that are shown were changed since its first
@@ -55,6 +60,8 @@ public:
     void resetHold();
 
 private:
+    void widenBand();
+    void followSpan(const Extent& shown);
     void fitLevels();
     void widenLevels(LevelRange levels);
     /// Shows the current sweep; the hold maximum takes in those from `firstHeld` on.
@@ -67,6 +74,8 @@ private:
     std::shared_ptr<const LevelPyramid> m_pyramid; ///< Of the current sweep, as recorded.
     qsizetype m_position = -1;
     std::pair<double, double> m_fittedLevels; ///< Of the spectrum.
+    Extent m_followed;                        ///< The view, unless the user has chosen another.
+    bool m_isFollowingSpan = false;
 };
 
 } // namespace bandmonitor

@@ -149,7 +149,7 @@ void ReceiverControl::followWindow()
             value.SetValue(hertz);
     };
     SessionValues::Step step;
-    if (!m_isSteering)
+    if (!m_isSteering && !m_bandView->isFollowingSpan())
         step = m_values->step(tr("Move the view"), m_moves.next());
     follow(m_values->centre, centreOf(view));
     follow(m_values->span, spanOf(view));
