@@ -80,6 +80,8 @@ public:
             if (replaced[i])
                 ::sigaction(signalNumbers[i], &former[i], nullptr);
         }
+        if (ignoresFileSize)
+            ::signal(SIGXFSZ, SIG_DFL);
         writeEnd = -1;
         notifier.reset();
         for (const int descriptor : descriptors) {
@@ -103,11 +105,15 @@ public:
                 continue;
             replaced[i] = ::sigaction(signalNumbers[i], &action, nullptr) == 0;
         }
+        struct sigaction fileSize = {};
+        if (::sigaction(SIGXFSZ, nullptr, &fileSize) == 0 && fileSize.sa_handler == SIG_DFL)
+            ignoresFileSize = ::signal(SIGXFSZ, SIG_IGN) != SIG_ERR;
     }
 
     std::array<int, 2> descriptors{-1, -1};
     std::array<struct sigaction, signalNumbers.size()> former{};
     std::array<bool, signalNumbers.size()> replaced{};
+    bool ignoresFileSize = false;
     std::unique_ptr<QSocketNotifier> notifier;
 };
 

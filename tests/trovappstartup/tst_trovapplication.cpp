@@ -136,7 +136,9 @@ private Q_SLOTS:
             const TrovApplication application;
             QVERIFY(handlerOf(SIGTERM) != former);
             QVERIFY(handlerOf(SIGHUP) == SIG_IGN); // started so as to survive its terminal
+            QVERIFY(handlerOf(SIGXFSZ) == SIG_IGN); // a file that is full is no reason to end
         }
+        QVERIFY(handlerOf(SIGXFSZ) == SIG_DFL);
         QVERIFY(handlerOf(SIGTERM) == former);
         std::signal(SIGHUP, SIG_DFL);
     }
