@@ -5,6 +5,7 @@
 #include "support/testrows.h"
 
 #include "panels/levelspanel.h"
+#include "panels/listtext.h"
 #include "panels/referencelevels.h"
 #include "panels/signalspanel.h"
 
@@ -108,6 +109,30 @@ private Q_SLOTS:
                 std::reverse(values.begin(), values.end());
             QVERIFY(std::is_sorted(values.begin(), values.end()));
         }
+    }
+
+    void timesOfOtherDaysHaveTheirDates()
+    {
+        constexpr quint64 noonUs = 1'778'500'800'000'000; // 2026-05-11 12:00:00 UTC
+        constexpr quint64 dayUs = 86'400'000'000;
+        GuiBase::Instance().GetTimeZone()->SetValue(0); // UTC
+        QCOMPARE(recordedTime(noonUs, noonUs + 1), QStringLiteral("12:00:00"));
+        QCOMPARE(recordedTime(noonUs - dayUs, noonUs), QStringLiteral("05-10 12:00:00"));
+        const auto firstSeen = [this] {
+            return itemOf(m_watch.tracks().front().id)->text(SignalsPanel::FirstSeen).size();
+        };
+        auto recording = std::make_shared<Recording>();
+        for (const quint64 timeUs : {noonUs, noonUs + 1, noonUs + dayUs}) {
+            std::vector<float> levels(500, -90);
+            levels[100] = -50;
+            const Segment segment{0, 10, 1, levels};
+            recording->append(timeUs, {&segment, 1});
+        }
+        m_watch.setRecording(recording);
+        show(0, 1);
+        const qsizetype length = firstSeen();
+        show(2, 2);
+        QTRY_VERIFY(firstSeen() > length);
     }
 
     void rowsChangeInPlace()

@@ -6,6 +6,7 @@
 #include "model/replay.h"
 #include "panels/emptyhint.h"
 #include "panels/jobbar.h"
+#include "panels/listtext.h"
 #include "panels/panelactions.h"
 
 #include <radiopanes/colors/contrast.h>
@@ -74,11 +75,6 @@ const Appearance& appearanceOf(const Job& job, bool isPlaying)
         break;
     }
     return job.startedUs ? calledOff : ready;
-}
-
-QString timeText(quint64 timeUs)
-{
-    return GuiBase::Instance().TimeString(timeUs, QStringLiteral("hh:mm:ss"));
 }
 
 } // namespace
@@ -223,12 +219,13 @@ void JobsPanel::fillRow(SortListViewItem& row, const Job& job)
     row.setText(State, tr(appearance.text));
     row.setBackground(State, color);
     row.setForeground(State, readableOn(color, m_list->palette().color(QPalette::Text)));
+    const quint64 now = m_replay ? m_replay->sweep().timeUs : started;
+    const auto timeText = [now](quint64 timeUs) { return recordedTime(timeUs, now); };
     row.setText(Started, job.startedUs ? timeText(started) : QString());
     row.setText(Ended, hasEnded ? timeText(job.timeUs) : QString());
     for (const Column column : {Started, TimeLine})
         row.SetSortKey(column, QString::number(started));
     row.SetSortKey(Ended, QString::number(hasEnded ? job.timeUs : 0));
-    const quint64 now = m_replay ? m_replay->sweep().timeUs : started;
     const JobBar bar{started, hasEnded ? job.timeUs : now, color};
     row.setData(TimeLine, JobBarDelegate::barRole,
                 job.startedUs ? QVariant::fromValue(bar) : QVariant());
@@ -252,8 +249,9 @@ void JobsPanel::refreshTimes()
         times.nowUs = m_replay->sweep().timeUs;
     }
     m_extent->setText(times.nowUs ? tr("Time line: %1 to %2, now %3")
-                                        .arg(timeText(times.firstUs), timeText(times.lastUs),
-                                             timeText(*times.nowUs))
+                                        .arg(recordedTime(times.firstUs, *times.nowUs),
+                                             recordedTime(times.lastUs, *times.nowUs),
+                                             recordedTime(*times.nowUs, *times.nowUs))
                                   : tr("No recording"));
     if (m_jobs && times.nowUs) {
         for (const Job& job : m_jobs->list().jobs()) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panels/listtext.h"
 
+#include <guibase/services/guibase.h>
+
 #include <QStringList>
 #include <QTreeWidget>
 
@@ -29,6 +31,15 @@ QString listText(const QTreeWidget& list, ListRows rows, int firstColumn)
             result += lineOf(list, *row, firstColumn);
     }
     return result;
+}
+
+QString recordedTime(quint64 timeUs, quint64 nowUs)
+{
+    GuiBase& services = GuiBase::Instance();
+    const QString day = QStringLiteral("yyyy-MM-dd");
+    const bool isToday = services.TimeString(timeUs, day) == services.TimeString(nowUs, day);
+    return services.TimeString(timeUs, isToday ? QStringLiteral("hh:mm:ss")
+                                               : QStringLiteral("MM-dd hh:mm:ss"));
 }
 
 QString listTitles(const QTreeWidget& list, int firstColumn)

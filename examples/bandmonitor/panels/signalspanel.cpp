@@ -49,16 +49,11 @@ constexpr ColumnLayout columnLayouts[SignalsPanel::ColumnCount] = {
      SortListView::_compStandardNumeric},
     {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Type"), 170, Qt::AlignLeft,
      SortListView::_compStandardString},
-    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "First seen"), 85, Qt::AlignRight,
+    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "First seen"), 110, Qt::AlignRight,
      SortListView::_compStandardNumeric},
-    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Last seen"), 85, Qt::AlignRight,
+    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Last seen"), 110, Qt::AlignRight,
      SortListView::_compStandardNumeric},
 };
-
-QString timeText(quint64 timeUs)
-{
-    return GuiBase::Instance().TimeString(timeUs, QStringLiteral("hh:mm:ss"));
-}
 
 QIcon typeIcon(char type)
 {
@@ -182,12 +177,16 @@ void SignalsPanel::update()
     const QScopedValueRollback updating(m_isUpdating, true);
     removeGone();
     bool sortingChanged = false;
+    // Times of another day have their date.
+    quint64 now = m_watch->timeUs();
+    const QString day = GuiBase::Instance().TimeString(now, QStringLiteral("yyyy-MM-dd"));
+    const bool isAnotherDay = std::exchange(m_day, day) != day;
     for (const SignalTrack& track : m_watch->tracks()) {
         const auto found = m_rows.find(track.id);
         if (found == m_rows.end())
             addRow(track); // the list finds its place by itself
         else
-            sortingChanged = fillRow(found->second, track, false) || sortingChanged;
+            sortingChanged = fillRow(found->second, track, isAnotherDay) || sortingChanged;
     }
     if (sortingChanged)
         m_list->sort();
@@ -261,9 +260,11 @@ bool SignalsPanel::fillRow(Row& row, const SignalTrack& track, bool anew)
         [&] { return GuiBase::Instance().GetSignalType(track.type); }, QString());
     cell(
         track.firstSeenUs != shown.firstSeenUs, FirstSeen,
-        [&] { return timeText(track.firstSeenUs); }, QString::number(track.firstSeenUs));
+        [&] { return recordedTime(track.firstSeenUs, m_watch->timeUs()); },
+        QString::number(track.firstSeenUs));
     cell(
-        track.lastSeenUs != shown.lastSeenUs, LastSeen, [&] { return timeText(track.lastSeenUs); },
+        track.lastSeenUs != shown.lastSeenUs, LastSeen,
+        [&] { return recordedTime(track.lastSeenUs, m_watch->timeUs()); },
         QString::number(track.lastSeenUs));
     if (track.type != shown.type)
         showType(row, track.type);
