@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace RadioPanes {
 
@@ -69,11 +70,18 @@ void SpectrumPanePrivate::paintThreshold(QPainter& painter) const
 void SpectrumPanePrivate::paintPinNumbers(QPainter& painter) const
 {
     painter.setPen(paneColor(PaneSlot::Pin));
-    int number = 0;
+    const QFontMetrics metrics = q->fontMetrics();
+    std::vector<QRect> taken;
     for (const Pin& pin : q->visibleBand().pins()) {
-        const int x = static_cast<int>(q->positionOf(pin.hertz));
-        const QString label = QStringLiteral("%1 %2").arg(++number).arg(pin.name);
-        painter.drawText(x + 3, q->height() - 5, label.trimmed());
+        const QString label = QStringLiteral("%1 %2").arg(taken.size() + 1).arg(pin.name).trimmed();
+        const int left = static_cast<int>(q->positionOf(pin.hertz)) + 3;
+        QRect place(left, q->height() - metrics.height() - 2, metrics.horizontalAdvance(label),
+                    metrics.height());
+        const auto overlaps = [&place](const QRect& other) { return other.intersects(place); };
+        while (std::ranges::any_of(taken, overlaps)) // above those of its neighbours
+            place.translate(0, -place.height());
+        painter.drawText(place, Qt::AlignLeft | Qt::TextDontClip, label);
+        taken.push_back(place);
     }
 }
 
