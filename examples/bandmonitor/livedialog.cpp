@@ -46,6 +46,10 @@ LiveDialog::LiveDialog(QWidget* parent)
             [run](const QString& text) { run->setEnabled(!text.trimmed().isEmpty()); });
     connect(m_command, &QComboBox::currentIndexChanged, m_command->lineEdit(),
             &QLineEdit::selectAll);
+    // The field takes the key for itself where it completes a kept command.
+    connect(
+        m_command->lineEdit(), &QLineEdit::returnPressed, run, [run] { run->click(); },
+        Qt::QueuedConnection);
     run->setEnabled(false); // until the kept commands are listed
 }
 

@@ -2,6 +2,7 @@
 #include "centre/bandview.h"
 #include "colorsdialog.h"
 #include "live/followedfile.h"
+#include "livedialog.h"
 #include "mainwindowtest.h"
 #include "model/jobs.h"
 #include "panels/eventlogpanel.h"
@@ -31,6 +32,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QToolButton>
 #include <QTranslator>
 #include <QUrl>
@@ -255,6 +257,23 @@ private Q_SLOTS:
         QCOMPARE(clipboard->text().count(u'\n'), signalCount + 1);
         entry("Events as text")->trigger();
         QVERIFY(clipboard->text().contains(QLatin1String("sample.csv opened")));
+    }
+
+    void returnRunsTheKeptCommand()
+    {
+        const auto answer = [this](const QString& typed) {
+            LiveDialog dialog(m_window.get());
+            QTimer::singleShot(0, &dialog, [&] {
+                auto* field = dialog.findChild<QLineEdit*>();
+                QTest::keyClicks(field, typed);
+                QTRY_VERIFY(!field->text().isEmpty());
+                QTest::keyClick(field, Qt::Key_Return);
+                QTimer::singleShot(2000, &dialog, &QDialog::reject); // It had been ignored.
+            });
+            return dialog.ask();
+        };
+        QCOMPARE(answer(QStringLiteral("cat band")), QStringLiteral("cat band"));
+        QCOMPARE(answer({}), QStringLiteral("cat band"));
     }
 
     void cancelledLoadLeavesTheFormerRecording()
