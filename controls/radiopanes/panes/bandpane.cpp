@@ -153,7 +153,8 @@ void BandPane::paintOverlay(QPainter& painter)
     };
     for (const Pin& pin : d->visibleBand->pins())
         verticalLine(pin.hertz, paneColor(PaneSlot::Pin), Qt::DashLine);
-    verticalLine(d->visibleBand->cursor(), paneColor(PaneSlot::Cursor), Qt::SolidLine);
+    if (d->visibleBand->hasBand())
+        verticalLine(d->visibleBand->cursor(), paneColor(PaneSlot::Cursor), Qt::SolidLine);
     if (d->drag == Drag::Zoom) {
         QColor fill = paneColor(PaneSlot::Cursor);
         fill.setAlphaF(0.25F);

@@ -27,6 +27,24 @@ QString levelText(std::optional<float> level)
                  : QStringLiteral("– dB");
 }
 
+/// The line, broken between its parts where it is wider than that.
+QStringList broken(const QString& line, const QFontMetrics& metrics, int width)
+{
+    if (metrics.horizontalAdvance(line) <= width)
+        return {line};
+    QStringList lines;
+    const QString partGap = QStringLiteral("  ");
+    const QStringList parts = line.split(partGap);
+    for (const QString& part : parts) {
+        const QString longer = lines.isEmpty() ? part : lines.constLast() + partGap + part;
+        if (!lines.isEmpty() && metrics.horizontalAdvance(longer) <= width)
+            lines.last() = longer;
+        else
+            lines << (lines.isEmpty() ? part : partGap + part);
+    }
+    return lines;
+}
+
 } // namespace
 
 double SpectrumPanePrivate::yOf(double level) const
@@ -134,6 +152,8 @@ QStringList SpectrumPanePrivate::readOut()
     QStringList lines;
     if (!caption.isEmpty())
         lines << caption;
+    if (!band.hasBand())
+        return lines;
     lines << readOutLine(SpectrumPane::tr("Cursor"), band.cursor());
     if (areWidthsVisible)
         lines << widths(band.cursor());
@@ -146,6 +166,22 @@ QStringList SpectrumPanePrivate::readOut()
         lines << line;
     }
     return lines;
+}
+
+QStringList SpectrumPanePrivate::shownReadOut()
+{
+    const QFontMetrics metrics = q->fontMetrics();
+    QStringList shown;
+    const QStringList lines = readOut();
+    for (const QString& line : lines)
+        shown << broken(line, metrics, q->width() - 4 * boxMargin);
+    const int least = caption.isEmpty() ? 1 : 2;
+    const int most = std::max(q->height() / 2 / std::max(metrics.height(), 1), least);
+    if (shown.size() > most) {
+        shown.resize(most);
+        shown.last() += QStringLiteral(" …");
+    }
+    return shown;
 }
 
 QRect SpectrumPanePrivate::readOutRect(const QStringList& lines) const
@@ -172,9 +208,10 @@ void SpectrumPanePrivate::paintBox(QPainter& painter, const QRect& place) const
 
 void SpectrumPanePrivate::paintTexts(QPainter& painter)
 {
-    const QStringList lines = readOut();
+    const QStringList lines = shownReadOut();
     paintedReadOut = readOutRect(lines);
-    paintBox(painter, paintedReadOut);
+    if (!lines.isEmpty())
+        paintBox(painter, paintedReadOut);
     painter.drawText(paintedReadOut.adjusted(boxMargin, boxMargin / 2, 0, 0),
                      Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip,
                      lines.join(QLatin1Char('\n')));
@@ -197,10 +234,11 @@ void SpectrumPanePrivate::paintLegend(QPainter& painter, const QRect& taken) con
     if (shown.size() < 2)
         return;
     const int lineHeight = metrics.height();
-    QRect place(boxMargin, boxMargin, textWidth + swatchWidth + 3 * boxMargin,
-                static_cast<int>(shown.size()) * lineHeight + boxMargin);
-    if (place.intersects(taken)) // below the read-out, where that stands at the left
-        place.moveTop(taken.bottom() + boxMargin);
+    const QRect place = legendRect({textWidth + swatchWidth + 3 * boxMargin,
+                                    static_cast<int>(shown.size()) * lineHeight + boxMargin},
+                                   taken);
+    if (place.isNull())
+        return;
     paintBox(painter, place);
     QRect line(place.x() + boxMargin, place.y() + boxMargin / 2, place.width(), lineHeight);
     for (const Trace kind : shown) {
@@ -210,6 +248,21 @@ void SpectrumPanePrivate::paintLegend(QPainter& painter, const QRect& taken) con
                          Qt::AlignLeft | Qt::AlignVCenter, SpectrumPane::traceName(kind));
         line.translate(0, lineHeight);
     }
+}
+
+/// At the left, else below the read-out, else beside it; null where it does not fit in.
+QRect SpectrumPanePrivate::legendRect(const QSize& size, const QRect& taken) const
+{
+    const QRect inside = q->rect().adjusted(0, 0, -boxMargin, -boxMargin);
+    const QPoint places[] = {{boxMargin, boxMargin},
+                             {boxMargin, taken.bottom() + boxMargin},
+                             {taken.right() + boxMargin, boxMargin}};
+    for (const QPoint& place : places) {
+        const QRect result(place, size);
+        if (inside.contains(result) && !result.intersects(taken))
+            return result;
+    }
+    return {};
 }
 
 } // namespace RadioPanes

@@ -300,7 +300,7 @@ void SpectrumPane::wheelEvent(QWheelEvent* event)
 
 void SpectrumPane::updateReadOut()
 {
-    const QRect place = d->readOutRect(d->readOut());
+    const QRect place = d->readOutRect(d->shownReadOut());
     // The legend gives way to the read-out.
     const bool hasMoved =
         place.left() != d->paintedReadOut.left() || place.bottom() != d->paintedReadOut.bottom();

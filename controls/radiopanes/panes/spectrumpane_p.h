@@ -50,6 +50,9 @@ public:
 
     double yOf(double level) const;
     QStringList readOut();
+    /// The read-out as it fits into the pane: long lines are broken between their parts, and what
+    /// would cover more than the upper half is left out, but never the line of the cursor.
+    QStringList shownReadOut();
     QRect readOutRect(const QStringList& lines) const;
 
     SpectrumPane* q;
@@ -119,6 +122,7 @@ private:
     QString difference(double hertz, double fromHertz) const;
     QString widths(double hertz);
     void paintLegend(QPainter& painter, const QRect& taken) const;
+    QRect legendRect(const QSize& size, const QRect& taken) const;
     void paintBox(QPainter& painter, const QRect& place) const;
 
     PictureKey key;

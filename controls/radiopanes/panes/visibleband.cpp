@@ -20,6 +20,7 @@ QString pinName(const QString& name)
 class VisibleBandPrivate
 {
 public:
+    bool hasBand = false;
     double bandLow = 0;
     double bandHigh = 1;
     double low = 0;
@@ -40,6 +41,7 @@ void VisibleBand::setBand(double low, double high, double resolution)
 {
     if (!AxisRange{low, high, 1}.isValid())
         return;
+    d->hasBand = true;
     d->bandLow = low;
     d->bandHigh = high;
     d->smallestSpan = std::clamp(resolution * binsOfSmallestView, (high - low) * 1e-9, high - low);
@@ -50,6 +52,11 @@ void VisibleBand::setBand(double low, double high, double resolution)
     Q_EMIT rangeChanged();
     Q_EMIT cursorChanged();
     Q_EMIT pinsChanged();
+}
+
+bool VisibleBand::hasBand() const
+{
+    return d->hasBand;
 }
 
 double VisibleBand::bandLow() const

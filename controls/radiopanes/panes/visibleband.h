@@ -39,6 +39,8 @@ public:
     /// Frequencies may be negative, as in baseband. An empty range, or one that is not finite,
     /// changes nothing.
     void setBand(double low, double high, double resolution);
+    /// False until setBand() has set one; the panes show no cursor then.
+    bool hasBand() const;
     double bandLow() const;
     double bandHigh() const;
 

@@ -144,6 +144,7 @@ private Q_SLOTS:
         QVERIFY(add(levels()));
         m_panes->clear();
         QVERIFY(spectrum().readOut().first().contains(QStringLiteral("– dB")));
+        QCOMPARE(LevelPanes().spectrum().readOut(), QStringList()); // no band, no cursor
     }
 
     void tracesAreToldApart_data()
