@@ -27,7 +27,7 @@ ColorsMenu::ColorsMenu(QWidget* parent)
     , m_sets(new QMenu(tr("Colour &set"), this))
 {
     ColorSet::Instance().AddShowInDialog(bearingGroup | jobGroup | referenceLineGroup);
-    Keys::addEntry(*this, tr("&Edit Colors..."), Qt::CTRL | Qt::Key_E, [this] { edit(); });
+    Keys::addEntry(*this, tr("&Edit colours…"), Qt::CTRL | Qt::Key_E, [this] { edit(); });
     m_sets->setObjectName(QStringLiteral("colorSets"));
     addMenu(m_sets);
     connect(m_sets, &QMenu::aboutToShow, this, &ColorsMenu::listSets);

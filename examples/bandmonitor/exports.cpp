@@ -79,7 +79,7 @@ Exports::Exports(MainWindow& window)
     };
     for (const Item& item : m_items) {
         Keys::addEntry(*m_copyMenu, item.title, copyKeys | item.key, [this, &item] { copy(item); });
-        Keys::addEntry(*m_exportMenu, item.title + QStringLiteral("…"), exportKeys | item.key,
+        Keys::addEntry(*m_exportMenu, tr("%1…").arg(item.title), exportKeys | item.key,
                        [this, &item] { write(item); });
     }
 }

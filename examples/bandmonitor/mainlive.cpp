@@ -39,7 +39,7 @@ void MainWindow::buildLiveEntries(QMenu* menu)
     connect(&m_session, &Session::liveChanged, stop,
             [this, stop] { stop->setEnabled(m_session.isLive()); });
     QAction* save =
-        addEntry(menu, tr("Save &recording as…"), {Qt::CTRL | Qt::SHIFT | Qt::Key_W}, false);
+        addEntry(menu, tr("Save re&cording as…"), {Qt::CTRL | Qt::SHIFT | Qt::Key_W}, false);
     save->setEnabled(false);
     connect(save, &QAction::triggered, this, &MainWindow::saveRecording);
     connect(&m_session, &Session::begun, save, [save] { save->setEnabled(true); });

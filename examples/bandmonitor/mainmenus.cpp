@@ -135,7 +135,7 @@ void MainWindow::buildViewMenu()
     addSelectionMenu(menu, tr("Time &zone"),
                      {services.GetTimeZone(), QStringLiteral("%1"), control | Qt::Key_7},
                      &MainWindow::timeZoneChanged);
-    addSelectionMenu(menu, tr("&Language"),
+    addSelectionMenu(menu, tr("Lan&guage"),
                      {&m_language.selection(), QStringLiteral("%1"), control | Qt::Key_F9},
                      &MainWindow::languageChanged);
     menu->addSeparator();
@@ -166,7 +166,7 @@ void MainWindow::buildBandEntries(QMenu* menu)
             &QAction::triggered, band, [band] { band->zoomAtCursor(zoomPerKey); });
     connect(addEntry(menu, tr("Zoom &out"), {Qt::Key_Minus}, true), &QAction::triggered, band,
             [band] { band->zoomAtCursor(1 / zoomPerKey); });
-    connect(addEntry(menu, tr("Whole &band"), {Qt::Key_Home}, true), &QAction::triggered, band,
+    connect(addEntry(menu, tr("Whole ban&d"), {Qt::Key_Home}, true), &QAction::triggered, band,
             &VisibleBand::showAll);
     WaterfallPane* waterfall = &m_bandView->waterfall();
     connect(addEntry(menu, tr("Zoom in in tim&e"),

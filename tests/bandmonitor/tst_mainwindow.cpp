@@ -19,6 +19,7 @@
 #include <jtbase/qobjecthelpers.h>
 #include <trovappstartup/translationcenter.h>
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
@@ -128,18 +129,36 @@ class tst_MainWindow : public MainWindowTest
             keys << command->shortcut().toString();
         }
     }
-    /// No two entries of a menu have one letter.
-    static void checkLetters(const QList<QAction*>& entries)
+    /// No two entries of a menu have one letter; `taken` are the texts of others.
+    static void checkLetters(const QList<QAction*>& entries, const QStringList& taken = {})
     {
-        QHash<QString, QString> letters;
+        QStringList texts = taken;
         for (const QAction* entry : entries) {
-            const QString letter = QKeySequence::mnemonic(entry->text()).toString();
-            const QString pair = letters.value(letter) + QStringLiteral(", ") + entry->text();
-            QVERIFY2(letter.isEmpty() || !letters.contains(letter), qPrintable(pair));
-            letters.insert(letter, entry->text());
+            texts << entry->text();
             if (entry->menu() != nullptr)
                 checkLetters(entry->menu()->actions());
         }
+        QHash<QString, QString> letters;
+        for (const QString& text : std::as_const(texts)) {
+            const QString letter = QKeySequence::mnemonic(text).toString();
+            const QString pair = letters.value(letter) + QStringLiteral(", ") + text;
+            QVERIFY2(letter.isEmpty() || !letters.contains(letter), qPrintable(pair));
+            letters.insert(letter, text);
+        }
+    }
+    /// Neither in a menu nor in the window does a letter stand for two things.
+    void checkLetters() const
+    {
+        QStringList fields;
+        const QList<QLabel*> labels = m_window->findChildren<QLabel*>();
+        for (const QLabel* label : labels) {
+            if (label->buddy() != nullptr)
+                fields << label->text();
+        }
+        const QList<QCheckBox*> boxes = m_window->findChildren<QCheckBox*>();
+        for (const QCheckBox* box : boxes)
+            fields << box->text();
+        checkLetters(m_window->menuBar()->actions(), fields);
     }
     /// Types a colour in the row of the editor, as the operator does.
     static void choose(QDialog* dialog, const QString& element, const QString& color)
@@ -329,7 +348,11 @@ private Q_SLOTS:
         services.SetFrequencyUnit(UnitPrefix::Mega);
     }
 
-    void overviewShowsEveryCommandOnce() { checkOverview(); }
+    void overviewShowsEveryCommandOnce()
+    {
+        checkOverview();
+        checkLetters();
+    }
 
     /// Whatever the window asks for is in a catalogue, and its keys are those of English.
     void germanIsWhole()
@@ -340,7 +363,7 @@ private Q_SLOTS:
         openWindow();
         QVERIFY(entry("Vergrößern") != nullptr);
         checkOverview();
-        checkLetters(m_window->menuBar()->actions());
+        checkLetters();
         m_window.reset();
         QCOMPARE(german.missing(), QStringList());
     }
@@ -380,7 +403,7 @@ private Q_SLOTS:
         ColorSet& colors = ColorSet::Instance();
         colors.Save(nullptr, m_folder.filePath(QStringLiteral("own.cst")));
         const auto openEditor = [this] {
-            entry("Edit Colors")->trigger();
+            entry("Edit colours")->trigger();
             return m_window->findChild<ColorsDialog*>();
         };
         QPointer<ColorsDialog> dialog = openEditor();

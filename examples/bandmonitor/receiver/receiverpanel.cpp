@@ -195,7 +195,7 @@ void ReceiverPanel::addStartTime()
 
 void ReceiverPanel::addThreshold()
 {
-    m_threshold = add(new ComboBoxes::DoubleComboBox(m_content), tr("Thr&eshold:"), "threshold",
+    m_threshold = add(new ComboBoxes::DoubleComboBox(m_content), tr("Thresho&ld:"), "threshold",
                       tr("Signals are the bins that reach this level; off: whatever stands out of "
                          "the noise"));
     m_threshold->setEditable(true);

@@ -101,8 +101,8 @@
         <translation>Farb&amp;satz</translation>
     </message>
     <message>
-        <source>&amp;Edit Colors...</source>
-        <translation>Farben &amp;bearbeiten ...</translation>
+        <source>&amp;Edit colours…</source>
+        <translation>Farben &amp;bearbeiten …</translation>
     </message>
     <message>
         <source>&amp;Load…</source>
@@ -456,6 +456,10 @@
     <message>
         <source>&amp;Export</source>
         <translation>E&amp;xportieren</translation>
+    </message>
+    <message>
+        <source>%1…</source>
+        <translation>%1 …</translation>
     </message>
     <message>
         <source>Picture of the &amp;window</source>
@@ -906,7 +910,7 @@
         <translation>Live-Eingabe an&amp;halten</translation>
     </message>
     <message>
-        <source>Save &amp;recording as…</source>
+        <source>Save re&amp;cording as…</source>
         <translation>Aufzeichn&amp;ung speichern unter …</translation>
     </message>
     <message>
@@ -1002,7 +1006,7 @@
         <translation>Zeit&amp;zone</translation>
     </message>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>Spra&amp;che</translation>
     </message>
     <message>
@@ -1014,7 +1018,7 @@
         <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
-        <source>Whole &amp;band</source>
+        <source>Whole ban&amp;d</source>
         <translation>Ganzes &amp;Band</translation>
     </message>
     <message>
@@ -1379,7 +1383,7 @@
         <translation>Springt zum ersten Durchlauf ab dieser Zeit</translation>
     </message>
     <message>
-        <source>Thr&amp;eshold:</source>
+        <source>Thresho&amp;ld:</source>
         <translation>S&amp;chwelle:</translation>
     </message>
     <message>
@@ -1404,7 +1408,7 @@
     </message>
     <message>
         <source>Positio&amp;n:</source>
-        <translation>Positio&amp;n:</translation>
+        <translation>P&amp;osition:</translation>
     </message>
     <message>
         <source>Shown in the status bar; any of the position formats can be typed</source>
