@@ -15,6 +15,7 @@ namespace bandmonitor {
 
 namespace {
 constexpr QSize normalSize(620, 680);
+constexpr QSize broadFrame(20, 60); // left for a frame, which is not known before it is there
 } // namespace
 
 ColorsDialog::ColorsDialog(QWidget* parent)
@@ -42,7 +43,7 @@ ColorsDialog::ColorsDialog(QWidget* parent)
     connect(buttons, &QDialogButtonBox::accepted, this, &ColorsDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ColorsDialog::reject);
     column->addWidget(buttons);
-    resize(normalSize.boundedTo(screen()->availableGeometry().size()));
+    resize(normalSize.boundedTo(screen()->availableGeometry().size() - broadFrame));
 }
 
 ColorsDialog::~ColorsDialog() = default;

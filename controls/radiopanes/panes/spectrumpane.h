@@ -108,7 +108,7 @@ public:
     double snapped(double hertz) const override;
 
     QSize sizeHint() const override { return {960, 320}; }
-    QSize minimumSizeHint() const override { return {240, 100}; }
+    QSize minimumSizeHint() const override { return {240, 80}; }
 
 Q_SIGNALS:
     /// lowLevel() or highLevel() is another one: axes and other panes follow.

@@ -94,7 +94,7 @@ public:
     QRgb colorOf(float level) const;
 
     QSize sizeHint() const override { return {960, 260}; }
-    QSize minimumSizeHint() const override { return {240, 60}; }
+    QSize minimumSizeHint() const override { return {240, 40}; }
 
 public Q_SLOTS:
     /// Takes the colours anew.

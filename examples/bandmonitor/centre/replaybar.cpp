@@ -24,6 +24,28 @@ namespace {
 constexpr int smallestSlider = 40; // in pixels
 }
 
+/// Shows the time alone where there is no room for the date, too.
+class TimeLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    void setTexts(const QString& full, const QString& brief)
+    {
+        m_full = full;
+        m_brief = brief;
+    }
+    /// Shows the whole text if that makes the label no wider than this, in pixels.
+    void fit(int room) { setText(sizeOf(m_full).width() <= room ? m_full : m_brief); }
+    QSize minimumSizeHint() const override { return sizeOf(m_brief); }
+
+private:
+    QSize sizeOf(const QString& text) const { return fontMetrics().size(0, text); }
+
+    QString m_full;
+    QString m_brief;
+};
+
 ReplayBar::ReplayBar(Replay* replay, std::shared_ptr<SessionValues> values, QWidget* parent)
     : QWidget(parent)
     , m_replay(replay)
@@ -35,7 +57,7 @@ ReplayBar::ReplayBar(Replay* replay, std::shared_ptr<SessionValues> values, QWid
     , m_last(makeAction(tr("&Last sweep"), Icon::ToEnd, QKeySequence(Qt::CTRL | Qt::Key_End)))
     , m_slider(new QSlider(Qt::Horizontal, this))
     , m_speed(new QDoubleSpinBox(this))
-    , m_time(new QLabel(this))
+    , m_time(new TimeLabel(this))
 {
     buildLayout();
     connect(m_first, &QAction::triggered, m_replay, [this] { m_replay->jump(0); });
@@ -136,14 +158,28 @@ void ReplayBar::showPosition()
     const QSignalBlocker blocker(m_slider);
     m_slider->setValue(static_cast<int>(std::max<qsizetype>(position, 0)));
     if (position < 0) {
-        m_time->setText(QStringLiteral("–"));
+        m_time->setTexts(QStringLiteral("–"), QStringLiteral("–"));
+        fitTime();
         return;
     }
     quint64 timeUs = m_replay->sweep().timeUs;
     GuiBase& services = GuiBase::Instance();
     const QString zone = services.GetTimeZoneValue() == 0 ? tr("UTC") : tr("local");
-    m_time->setText(QStringLiteral("%1 %2").arg(
-        services.TimeString(timeUs, QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz")), zone));
+    const QString date = services.TimeString(timeUs, QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz"));
+    m_time->setTexts(QStringLiteral("%1 %2").arg(date, zone),
+                     services.TimeString(timeUs, QStringLiteral("hh:mm:ss")));
+    fitTime();
+}
+
+void ReplayBar::fitTime()
+{
+    m_time->fit(m_time->sizeHint().width() + width() - layout()->sizeHint().width());
+}
+
+void ReplayBar::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    fitTime();
 }
 
 void ReplayBar::jumpTo(int index)

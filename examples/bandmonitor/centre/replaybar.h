@@ -8,13 +8,13 @@
 
 class QAction;
 class QDoubleSpinBox;
-class QLabel;
 class QSlider;
 class QToolButton;
 
 namespace bandmonitor {
 
 class Replay;
+class TimeLabel;
 
 /// The controls of a replay in one line: play and pause, steps, speed, position and time. It
 /// follows the replay whoever changes it.
@@ -39,11 +39,15 @@ public Q_SLOTS:
     /// The recording has more sweeps, or fewer.
     void refreshRange();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QAction* makeAction(const QString& text, Icon picture, const QKeySequence& key);
     void buildLayout();
     void showPlaying(bool playing);
     void showPosition();
+    void fitTime();
     void jumpTo(int index);
 
     Replay* m_replay;
@@ -57,7 +61,7 @@ private:
     QSlider* m_slider;
     QToolButton* m_toLive = nullptr; ///< For live recordings.
     QDoubleSpinBox* m_speed;
-    QLabel* m_time;
+    TimeLabel* m_time;
 };
 
 } // namespace bandmonitor

@@ -100,9 +100,9 @@ ReceiverPanel::ReceiverPanel(const SessionValues& values, QWidget* parent)
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(m_content);
     // A narrow window may cut long texts off, but never whole fields.
-    area->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("000.000 MHz")) +
-                          2 * margin + area->verticalScrollBar()->sizeHint().width());
+    m_form->setRowWrapPolicy(QFormLayout::WrapAllRows);
     m_scrollBar = area->verticalScrollBar();
+    area->setMinimumWidth(m_form->minimumSize().width() + m_scrollBar->sizeHint().width());
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(area);
@@ -122,7 +122,7 @@ void ReceiverPanel::resizeEvent(QResizeEvent* event)
 {
     Panel::resizeEvent(event);
     m_form->setRowWrapPolicy(QFormLayout::DontWrapRows);
-    if (m_form->minimumSize().width() > width() - m_scrollBar->sizeHint().width())
+    if (m_form->sizeHint().width() > width() - m_scrollBar->sizeHint().width())
         m_form->setRowWrapPolicy(QFormLayout::WrapAllRows);
 }
 
@@ -132,9 +132,11 @@ Input* ReceiverPanel::add(Input* input, const QString& label, const char* name,
 {
     auto* text = new QLabel(label, m_content);
     text->setBuddy(input);
+    text->setMinimumWidth(1); // may be cut off
     input->setObjectName(QLatin1String(name));
     input->setAccessibleName(QString(label).remove(QLatin1Char('&')).chopped(1));
     input->setToolTip(toolTip);
+    input->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("000.000 MHz")) + margin);
     m_form->addRow(text, field != nullptr ? field : input);
     return input;
 }
@@ -179,6 +181,7 @@ void ReceiverPanel::addAddress()
     m_hexadecimal->setObjectName(QStringLiteral("hexadecimal"));
     m_hexadecimal->setAccessibleName(tr("Device address in hexadecimal digits"));
     m_hexadecimal->setToolTip(tr("Hexadecimal or decimal digits"));
+    m_address->setMinimumWidth(m_address->minimumWidth() - m_hexadecimal->sizeHint().width());
     row->addWidget(m_address, 1);
     row->addWidget(m_hexadecimal);
 }
