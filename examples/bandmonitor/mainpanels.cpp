@@ -32,6 +32,13 @@ Panel* makeLevels(Session& session, const std::shared_ptr<SessionValues>& values
     return panel;
 }
 
+Panel* makeJobs(Session& session)
+{
+    auto* panel = new JobsPanel(&session.jobs(), &session.replay());
+    QObject::connect(&session, &Session::grown, panel, &JobsPanel::refreshTimes);
+    return panel;
+}
+
 Panel* makeReceiver(Session& session, const std::shared_ptr<SessionValues>& values,
                     BandView& bandView)
 {
@@ -76,7 +83,7 @@ void MainWindow::buildPanels()
         {name("levels"), tr("&Reference levels"), makeIcon(Icon::Levels), makeLevels(m_session, m_values),
          {hidden(bottom), beside(bottom, 1100, 200), beside(bottom, 330, 220)}},
         {name("jobs"), tr("&Jobs"), makeIcon(Icon::Jobs),
-         new JobsPanel(&m_session.jobs(), &m_session.replay()),
+         makeJobs(m_session),
          {hidden(right), hidden(right), beside(right, 360, 500)}},
         {name("bearings"), tr("&Bearings"), makeIcon(Icon::Bearings),
          new BearingsPanel(&m_session.bearings(), *m_values),

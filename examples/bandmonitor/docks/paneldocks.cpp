@@ -100,6 +100,12 @@ void PanelDocks::add(const PanelRow& row)
 {
     row.panel->setObjectName(row.name);
     row.panel->setWindowTitle(QString(row.title).remove(QLatin1Char('&')));
+    QSize smallest;
+    for (const PanelPlace& place : row.places) {
+        if (place.shown == PanelPlace::Beside)
+            smallest = smallest.isValid() ? smallest.boundedTo(place.size) : place.size;
+    }
+    row.panel->setPreferredSize(smallest);
     if (!row.icon.isNull())
         row.panel->setWindowIcon(row.icon);
     QDockWidget* dock = QDockWidgetHelpers::makeDockWidgetFrom(*row.panel);

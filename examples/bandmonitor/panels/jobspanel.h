@@ -40,6 +40,8 @@ public:
 
 public Q_SLOTS:
     void refreshTexts() override { refresh(); }
+    /// The recording has grown or lost sweeps, or another sweep is shown.
+    void refreshTimes();
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -51,7 +53,6 @@ private:
     void buildActions();
     void refreshRows();
     void fillRow(SortListViewItem& row, const Job& job);
-    void refreshTimes();
     void refreshActions();
     /// The id of the job in the current row; -1 without one.
     int currentJob() const;

@@ -18,6 +18,11 @@ QList<QAction*> Panel::keyActions() const
     return {};
 }
 
+QSize Panel::sizeHint() const
+{
+    return m_preferredSize.isValid() ? m_preferredSize : QWidget::sizeHint();
+}
+
 void Panel::contextMenuEvent(QContextMenuEvent* event)
 {
     auto* menu = new QMenu(this);

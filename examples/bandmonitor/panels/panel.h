@@ -20,6 +20,10 @@ public:
     /// The commands that the overview of keys lists; none by default.
     virtual QList<QAction*> keyActions() const;
 
+    /// What a dock gives the panel that is shown where the layout has no place for it.
+    void setPreferredSize(const QSize& size) { m_preferredSize = size; }
+    QSize sizeHint() const override;
+
     /// Its commands, and which panels there are; a list in it may have a menu of its own.
     void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -31,6 +35,9 @@ Q_SIGNALS:
     /// The spectrum should show this frequency, in hertz: the user has chosen it here, or what the
     /// user follows is there now.
     void frequencyWanted(double hertz);
+
+private:
+    QSize m_preferredSize;
 };
 
 } // namespace bandmonitor
