@@ -168,6 +168,9 @@ private Q_SLOTS:
     {
         CHECKED(show(0, 30));
         QSignalSpy wanted(m_signals.get(), &Panel::frequencyWanted);
+        QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+        QApplication::sendEvent(&m_signals->list(), &focus); // which alone chooses nothing
+        QCOMPARE(wanted.size(), 0);
         const SignalTrack drifter = *std::ranges::find(m_watch.tracks(), 'i', &SignalTrack::type);
         const SignalTrack station = m_watch.tracks().front();
         m_signals->list().setCurrentItem(itemOf(drifter.id));

@@ -80,6 +80,7 @@ SignalsPanel::SignalsPanel(const SignalWatch* watch, QWidget* parent)
     m_list->setUniformRowHeights(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->setPlacingArrivals(true);
+    m_list->installEventFilter(this);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_list);
@@ -295,6 +296,16 @@ QString SignalsPanel::text()
     if (m_isStale)
         update();
     return listTitles(*m_list, Frequency) + listText(*m_list, ListRows::All, Frequency);
+}
+
+/// The focus alone chooses no signal: the toolkit would select the first one, and the cursor of the
+/// spectrum would go there.
+bool SignalsPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_list && event->type() == QEvent::FocusIn && m_list->currentItem() == nullptr)
+        m_list->selectionModel()->setCurrentIndex(m_list->model()->index(0, Follow),
+                                                  QItemSelectionModel::NoUpdate);
+    return Panel::eventFilter(watched, event);
 }
 
 void SignalsPanel::choose(SortListViewItem* item)

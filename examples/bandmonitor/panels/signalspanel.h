@@ -51,6 +51,8 @@ public Q_SLOTS:
     /// Also when the colours have changed.
     void refreshTexts() override;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
