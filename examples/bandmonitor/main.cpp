@@ -6,6 +6,7 @@
 #include "live/followedfile.h"
 #include "mainwindow.h"
 #include "model/samplegenerator.h"
+#include "panels/icons.h"
 #include "screenshots.h"
 #include "signalnotifier.h"
 #include "traystatus.h"
@@ -152,6 +153,8 @@ int run(int argc, char** argv, const CommandLine& commandLine)
 {
     TrovApplication::ChooseWindowSystem();
     QApplication application(argc, argv);
+    QApplication::setWindowIcon(
+        QIcon::fromTheme(QStringLiteral("bandmonitor"), makeIcon(Icon::Signals)));
     TrovApplication startUp;
     // The settings may already give reason for a question.
     std::unique_ptr<DialogCloser> dialogs;
