@@ -27,6 +27,7 @@ QSize ColorPreview::sizeHint() const
 void ColorPreview::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    painter.setLayoutDirection(Qt::LeftToRight); // as in the panes, in every language
     const int line = fontMetrics().lineSpacing();
     const int gutter = fontMetrics().horizontalAdvance(QStringLiteral("-100 ")) + line / 2;
     const QRect pane = rect().adjusted(gutter, 0, 0, -line - line / 2);

@@ -179,7 +179,8 @@ int ColorSelect::GetCurrentId() const
 void ColorSelect::showEvent(QShowEvent* event)
 {
     QComboBox::showEvent(event);
-    lineEdit()->selectAll();
+    if (lineEdit()->hasFocus())
+        lineEdit()->selectAll();
 }
 
 void ColorSelect::focusOutEvent(QFocusEvent* event)

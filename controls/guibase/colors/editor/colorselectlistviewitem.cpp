@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QLineEdit>
 
 namespace {
 
@@ -104,6 +105,7 @@ void ColorSelectListViewItem::Edit()
     m_picker->Select(m_colorString, m_colorId);
     m_picker->show();
     m_picker->setFocus();
+    m_picker->lineEdit()->selectAll();
 }
 
 void ColorSelectListViewItem::slotEndEdit()

@@ -102,6 +102,7 @@ void ControllerDial::paintEvent(QPaintEvent*)
     const QPointF inner = mark.pointAt(0.88);
     painter.setPen(QPen(palette().color(foregroundRole()), 2));
     painter.drawLine(inner, mark.p2());
+    painter.setLayoutDirection(Qt::LeftToRight); // numbers keep their sign in front
     if (const QRect text = textRectOf(*this); !text.isEmpty())
         style()->drawItemText(&painter, text, Qt::AlignCenter, palette(), isEnabled(), textValue(),
                               foregroundRole());

@@ -155,6 +155,7 @@ void ControllerSlider::paintEvent(QPaintEvent*)
         return;
     const Qt::Alignment alignment =
         Qt::AlignVCenter | (now.isHorizontal() ? Qt::AlignTrailing : Qt::AlignHCenter);
+    painter.setLayoutDirection(Qt::LeftToRight); // numbers keep their sign in front
     style()->drawItemText(&painter, now.text,
                           static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment)),
                           palette(), isEnabled(), textValue(), foregroundRole());
