@@ -29,6 +29,10 @@ QLineEdit* makeNote(QWidget* parent)
 {
     auto* note = new QLineEdit(parent);
     note->setReadOnly(true);
+    note->setFrame(false);
+    QPalette palette = note->palette();
+    palette.setColor(QPalette::Base, Qt::transparent); // unlike a field to be filled
+    note->setPalette(palette);
     note->setFocusPolicy(Qt::ClickFocus);
     return note;
 }
