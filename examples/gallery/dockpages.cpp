@@ -13,7 +13,6 @@
 
 #include <QAction>
 #include <QDockWidget>
-#include <QLabel>
 #include <QMainWindow>
 #include <QStyle>
 #include <QTextEdit>
@@ -41,7 +40,7 @@ QMainWindow* makeDockWindow()
 QDockWidget* addDock(QMainWindow& window, const QString& name, Qt::DockWidgetArea area)
 {
     auto* dock = new QDockWidget(name, &window);
-    dock->setWidget(new QLabel(name));
+    dock->setWidget(filler(name));
     window.addDockWidget(area, dock);
     QDockWidgetHelpers::DockWidgetConfigurator()
         .includeActionsFrom(TabifySupport::get(window))
@@ -58,7 +57,7 @@ EnhancedDockWidgetTitleBar* addBar(QMainWindow& window, const QString& title)
     auto* dock = new QDockWidget(title, &window);
     auto* bar = new EnhancedDockWidgetTitleBar(*dock);
     dock->setTitleBarWidget(bar);
-    dock->setWidget(new QLabel(title));
+    dock->setWidget(filler(title));
     window.addDockWidget(Qt::TopDockWidgetArea, dock);
     return bar;
 }
@@ -66,7 +65,7 @@ EnhancedDockWidgetTitleBar* addBar(QMainWindow& window, const QString& title)
 void addActions(EnhancedDockWidgetTitleBar& bar, int count)
 {
     for (int i = 0; i < count; ++i) {
-        const auto picture = static_cast<QStyle::StandardPixmap>(QStyle::SP_MediaPlay + i);
+        const auto picture = static_cast<QStyle::StandardPixmap>(QStyle::SP_DesktopIcon + i);
         auto* action = new QAction(bar.style()->standardIcon(picture),
                                    QStringLiteral("Action %1").arg(i + 1), &bar);
         bar.addTitleBarAction(*action, -1);
@@ -90,6 +89,7 @@ QWidget* makeDocks()
     // Only docks that are shown are arranged.
     QTimer::singleShot(0, window, [window, hidden] {
         AutoHideSupport::get(*window)->enableAutoHide(*hidden);
+        hidden->hide(); // as it does when the mouse has left it
         TabifySupport::get(*window)->tabifyDockWidgets(Qt::RightDockWidgetArea);
         TileSupport::get(*window)->tileDockWidgets(Qt::LeftDockWidgetArea);
         for (QDockWidget* dock : dockWidgets(*window))
@@ -123,10 +123,10 @@ QWidget* makeSplitters()
 {
     auto* outer = new Splitter(Qt::Horizontal);
     auto* inner = new Splitter(Qt::Vertical);
-    outer->addWidget(new QLabel(QStringLiteral("Left")));
+    outer->addWidget(filler(QStringLiteral("Left")));
     outer->addWidget(inner);
     for (const char* text : {"Top", "Middle", "Bottom"})
-        inner->addWidget(new QLabel(QString::fromLatin1(text)));
+        inner->addWidget(filler(QString::fromLatin1(text)));
     outer->setSizes({200, 600});
     return outer;
 }

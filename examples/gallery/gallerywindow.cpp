@@ -11,6 +11,7 @@
 #include <QEventLoop>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -35,8 +36,7 @@ GalleryWindow::GalleryWindow(QWidget* parent)
     splitter->addWidget(m_names);
     splitter->addWidget(m_pages);
     splitter->setStretchFactor(1, 1);
-    m_names->setFixedWidth(fontMetrics().averageCharWidth() * 26);
-    splitter->setSizes({m_names->width(), pictureSize.width()});
+    splitter->setCollapsible(0, false);
     setCentralWidget(splitter);
     connect(m_names, &QListWidget::currentRowChanged, this, &GalleryWindow::showPage);
 
@@ -50,6 +50,9 @@ GalleryWindow::GalleryWindow(QWidget* parent)
     for (QAction* action : {dark, disabled})
         GuiBase::Instance().ShowHotKeyFrom(action, tr("Gallery"));
     makePages();
+    const int namesWidth = m_names->sizeHintForColumn(0) + 2 * m_names->frameWidth();
+    splitter->setSizes({namesWidth, pictureSize.width() - namesWidth});
+    resize(pictureSize.boundedTo(screen()->availableSize()));
 }
 
 GalleryWindow::~GalleryWindow() = default;

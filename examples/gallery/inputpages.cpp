@@ -3,6 +3,7 @@
 #include "specimens.h"
 
 #include <guibase/formats/integralnumberdisplayformat.h>
+#include <guibase/formats/qdatetimedisplayformat.h>
 #include <guibase/formats/realnumberdisplayformat.h>
 #include <guibase/inputs/comboboxes/comboboxes.h>
 #include <guibase/inputs/coordinates/coordinateedit.h>
@@ -132,8 +133,12 @@ QWidget* makeSpinBoxes()
                                 QStringLiteral("7 parsec"),
                                 [](FrequencySpinBox& box) { box.setValue(14'225'000); });
     addStates<QDateTimeSpinBox>(
-        *all, QStringLiteral("QDateTimeSpinBox"), QStringLiteral("1 January 2026 12:00:00 UTC"),
+        *all, QStringLiteral("QDateTimeSpinBox"), QStringLiteral("2026-01-01 12:00"),
         QStringLiteral("tomorrow"), [](QDateTimeSpinBox& box) {
+            auto format = std::make_unique<QDateTimeDisplayFormat>();
+            format->setDateTimeFormat(QStringLiteral("yyyy-MM-dd hh:mm"));
+            box.addDisplayFormat(std::move(format));
+            box.setCurrentDisplayFormatIndex(0);
             box.setValue(QDateTime(QDate(2026, 3, 1), QTime(12, 30), Qt::UTC));
         });
     addStates<DoubleSpinBox>(*all, QStringLiteral("DoubleSpinBox, in dB"), QStringLiteral("12.5"),

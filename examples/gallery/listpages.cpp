@@ -32,8 +32,9 @@ SortListView* makeList()
     auto* list = new SortListView;
     list->addColumn(QStringLiteral("Station"));
     list->addColumn(QStringLiteral("Frequency"));
-    list->setColumnAlignment(0, Qt::AlignLeft);
-    list->setColumnAlignment(1, Qt::AlignRight);
+    list->setColumnAlignment(0, Qt::AlignLeft | Qt::AlignVCenter);
+    list->setColumnAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    list->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     list->SetCompareFunctionLength(2);
     list->SetCompareFunction(0, &SortListView::_compStandardString);
     list->SetCompareFunction(1, &SortListView::_compStandardNumeric);

@@ -52,10 +52,6 @@ int main(int argc, char* argv[])
     const bool takesPictures = option == "--shots" && argc == 3;
     const bool isColorTest = option == "--late-colors" && argc == 3;
     const bool isUnseen = takesPictures || isColorTest;
-    if (argc > 1 && !isUnseen) {
-        std::fputs("gallery [--shots FOLDER | --late-colors FOLDER]\n", stderr);
-        return 2;
-    }
     std::optional<pictures::QuietPlatform> quiet;
     std::optional<QTemporaryDir> settings; // those of the user stay out of the pictures
     if (isUnseen) {
@@ -64,7 +60,11 @@ int main(int argc, char* argv[])
         settings.emplace();
         CfgCenter::SetConfigDir(settings->path());
     }
-    QApplication application(argc, argv);
+    QApplication application(argc, argv); // takes the toolkit's own options out
+    if (argc > 1 && !isUnseen) {
+        std::fputs("gallery [--shots FOLDER | --late-colors FOLDER]\n", stderr);
+        return 2;
+    }
     QApplication::setApplicationName(QStringLiteral("gallery"));
     TrovApplication startUp;
     if (takesPictures)

@@ -162,6 +162,8 @@ QWidget* makePopUps()
                   QStyle::SP_MessageBoxInformation, Button::Close,
                   StandardNotification::defaultColor()),
         1, 1);
+    layout->setRowStretch(2, 1);
+    layout->setColumnStretch(2, 1);
     return page;
 }
 

@@ -40,6 +40,14 @@ void Specimens::addNote(const QString& text)
     m_grid->addWidget(label, m_grid->rowCount(), 0, 1, -1);
 }
 
+QWidget* filler(const QString& text)
+{
+    auto* label = new QLabel(text);
+    label->setAlignment(Qt::AlignCenter);
+    label->setFrameShape(QFrame::StyledPanel);
+    return label;
+}
+
 QWidget* framed(const QString& title, QWidget* content)
 {
     auto* frame = new QGroupBox(title);

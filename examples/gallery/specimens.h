@@ -22,6 +22,8 @@ private:
     QGridLayout* m_grid;
 };
 
+/// What stands for the content of a dock or splitter: a frame with the text in its middle.
+QWidget* filler(const QString& text);
 /// A frame with a title around the widget.
 QWidget* framed(const QString& title, QWidget* content);
 
