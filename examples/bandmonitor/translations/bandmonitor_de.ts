@@ -1030,7 +1030,7 @@
         <translation>Zeitachse &amp;verkleinern</translation>
     </message>
     <message>
-        <source>Tra&amp;ces</source>
+        <source>&amp;Traces</source>
         <translation>Kurve&amp;n</translation>
     </message>
     <message>
