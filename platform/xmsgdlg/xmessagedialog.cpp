@@ -25,6 +25,7 @@ namespace {
 Q_LOGGING_CATEGORY(messageCategory, "trov.message", QtInfoMsg)
 
 constexpr int maximumTitleLength = 200;
+constexpr int textColumns = 48; // at least, so that the title fits in, too
 constexpr int detailsColumns = 60;
 constexpr int detailsLines = 12;
 constexpr int detailsRow = 3; // of the layout
@@ -141,6 +142,7 @@ QWidget* MessageDialog::makeText(const QString& text)
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
     label->setWordWrap(true);
+    label->setMinimumWidth(label->fontMetrics().averageCharWidth() * textColumns);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
