@@ -16,6 +16,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPointer>
 #include <QStyle>
 #include <QToolButton>
@@ -70,6 +71,25 @@ private:
     int m_id;
 };
 
+/// Elides its text in the middle instead of widening the window: the names of sets are paths.
+class NameLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
+        style()->drawItemText(&painter, rect(),
+                              int(QStyle::visualAlignment(layoutDirection(), alignment())),
+                              palette(), isEnabled(), shown, foregroundRole());
+    }
+};
+
 } // namespace
 
 ColorsCtrl::Private::Private(ColorsCtrl& editor)
@@ -103,9 +123,8 @@ void ColorsCtrl::Private::addToolBar(QVBoxLayout& layout)
     bar->setObjectName(QStringLiteral("Toolbar"));
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
-    name = new QLabel(bar);
-    row->addWidget(name);
-    row->addStretch();
+    name = new NameLabel(bar);
+    row->addWidget(name, 1);
     QToolButton* open = ColorToolButtons::makeOpen(tr("File Open"), bar);
     QToolButton* save = ColorToolButtons::makeSave(tr("File Save As"), bar);
     row->addWidget(open);
