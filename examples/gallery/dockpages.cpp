@@ -89,11 +89,11 @@ QWidget* makeDocks()
     // Only docks that are shown are arranged.
     QTimer::singleShot(0, window, [window, hidden] {
         AutoHideSupport::get(*window)->enableAutoHide(*hidden);
-        hidden->hide(); // as it does when the mouse has left it
         TabifySupport::get(*window)->tabifyDockWidgets(Qt::RightDockWidgetArea);
         TileSupport::get(*window)->tileDockWidgets(Qt::LeftDockWidgetArea);
         for (QDockWidget* dock : dockWidgets(*window))
             setDockWidgetSize(*window, *dock, 260, 0);
+        hidden->hide(); // as it does when the mouse has left it
     });
     return window;
 }
