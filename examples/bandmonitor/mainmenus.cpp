@@ -175,7 +175,7 @@ void MainWindow::buildBandEntries(QMenu* menu)
     connect(addEntry(menu, tr("Zoom out in &time"), {Qt::CTRL | Qt::Key_Minus}, true),
             &QAction::triggered, waterfall, [waterfall] { waterfall->zoomTime(-1); });
     menu->addSeparator();
-    buildTraceMenu(menu->addMenu(tr("&Traces")));
+    buildTraceMenu(menu->addMenu(tr("Trace&s")));
     menu->addSeparator();
     connect(addEntry(menu, tr("Set &pin at the cursor"), {Qt::Key_P}, true), &QAction::triggered,
             band, [band] { band->addPin(band->cursor()); });

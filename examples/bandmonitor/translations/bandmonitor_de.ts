@@ -1030,7 +1030,7 @@
         <translation>Zeitachse &amp;verkleinern</translation>
     </message>
     <message>
-        <source>&amp;Traces</source>
+        <source>Trace&amp;s</source>
         <translation>Kurve&amp;n</translation>
     </message>
     <message>
