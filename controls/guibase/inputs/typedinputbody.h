@@ -72,6 +72,9 @@ TypedInputBody<Widget>::TypedInputBody(Widget& widget)
     AccessibleInput::install();
     // Not Qt::WheelFocus: turning the wheel would take the focus, and then change the value.
     widget.setFocusPolicy(Qt::StrongFocus);
+    // Units are letters too, but no words of a dictionary.
+    widget.setInputMethodHints(Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText |
+                               Qt::ImhNoAutoUppercase);
     QObject::connect(&GuiBase::Instance(), &GuiBase::endEdit, &widget,
                      [this, &widget](const QWidget* edited) {
                          if (edited == &widget || edited == widget.inputLineEdit())
@@ -87,9 +90,6 @@ void TypedInputBody<Widget>::adopt(QLineEdit& edit)
     m_shownText = edit.text();
     if (edit.maxLength() == toolkitLength)
         edit.setMaxLength(longestText + 1); // A text that is cut is another number.
-    // Units are letters too, but no words of a dictionary.
-    edit.setInputMethodHints(edit.inputMethodHints() | Qt::ImhPreferNumbers |
-                             Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
     Widget* const widget = &m_widget;
     QObject::connect(&edit, &QLineEdit::editingFinished, widget, [widget] { widget->interpret(); });
     QObject::connect(&edit, &QLineEdit::textEdited, widget,

@@ -67,6 +67,7 @@ private Q_SLOTS:
             activate(box);
             QTest::keyClicks(&box, QStringLiteral("12"));
             QCOMPARE(box.value(), 0);
+            QVERIFY(box.inputMethodQuery(Qt::ImHints).toInt() & Qt::ImhPreferNumbers);
             GuiBase::Instance().ForceFinishEditing();
             QCOMPARE(box.value(), 12);
         };

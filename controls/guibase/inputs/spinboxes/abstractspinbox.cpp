@@ -57,7 +57,6 @@ void AbstractSpinBox::adoptLineEdit()
     QLineEdit* edit = lineEdit();
     m_d->body.adopt(*edit);
     // The toolkit does this for its own spin boxes only.
-    setInputMethodHints(edit->inputMethodHints());
     const auto tellInputMethod = [this] { updateMicroFocus(); };
     connect(edit, &QLineEdit::textChanged, this, tellInputMethod);
     connect(edit, &QLineEdit::cursorPositionChanged, this, tellInputMethod);
