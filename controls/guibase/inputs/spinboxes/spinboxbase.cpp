@@ -11,8 +11,18 @@
 
 namespace {
 
-/// Real numbers can have hundreds of digits; no field is wider than this many characters.
-constexpr qsizetype longestRealSample = 18;
+/// Leaves out the digits of a real number, which can be hundreds, that no field has room for.
+void shortenNumber(QString& text, const DisplayFormatText& format)
+{
+    constexpr qsizetype longestNumber = 18;
+    const auto lengthOf = [](const QString& affix) {
+        return affix.isEmpty() ? 0 : affix.size() + 1; // with the blank
+    };
+    const qsizetype start = lengthOf(format.prefix()) + longestNumber;
+    const qsizetype end = text.size() - lengthOf(format.suffix());
+    if (start < end)
+        text.remove(start, end - start);
+}
 
 template <typename T>
 T initialValue()
@@ -348,7 +358,7 @@ QStringList SpinBoxBase<T>::sizeSamples() const
         samples << textFromValue(value);
     if constexpr (std::is_same_v<T, double>) {
         for (QString& sample : samples)
-            sample.truncate(longestRealSample);
+            shortenNumber(sample, *currentDisplayFormat());
     }
     return samples << specialValueText();
 }

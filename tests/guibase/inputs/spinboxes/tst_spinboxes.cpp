@@ -242,6 +242,7 @@ private Q_SLOTS:
         QTRY_VERIFY(frequency.width() > frequency.fontMetrics().horizontalAdvance(u'M') * 50);
         auto format = std::make_unique<RealNumberDisplayFormat<double>>();
         format->setFormat('g');
+        format->setSuffix(QStringLiteral("microvolts"));
         DoubleSpinBox real;
         real.addDisplayFormat(std::move(format));
         real.setCurrentDisplayFormatIndex(0);
