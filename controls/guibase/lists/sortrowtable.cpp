@@ -2,6 +2,7 @@
 #include "sortrowtable.h"
 
 #include <guibase/dialogs/modaldialogs.h>
+#include <guibase/services/guibase.h>
 
 #include <jtbase/numberhelpers.h>
 
@@ -122,6 +123,12 @@ void SortRowTable::init(const char* name)
     setHorizontalHeaderLabels({tr("Frequency"), tr("Level")});
     installEventFilter(this);
     viewport()->installEventFilter(this);
+    connect(&GuiBase::Instance(), &GuiBase::endEdit, this, [this](QWidget* edited) {
+        if (!viewport()->isAncestorOf(edited))
+            return;
+        commitData(edited);
+        closeEditor(edited, QAbstractItemDelegate::NoHint);
+    });
 }
 
 QTableWidgetItem* SortRowTable::appendRow(const QString& frequency, const QString& level)

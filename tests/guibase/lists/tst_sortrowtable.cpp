@@ -4,6 +4,8 @@
 #include "support/guardedtest.h"
 #include "support/testrows.h"
 
+#include <guibase/services/guibase.h>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
@@ -77,6 +79,13 @@ private Q_SLOTS:
         QTest::keyClicks(m_table->findChild<QLineEdit*>(), QStringLiteral("7"));
         QTest::keyClick(m_table->findChild<QLineEdit*>(), Qt::Key_Escape);
         QCOMPARE(rowsOf(*m_table), QStringLiteral("12/0"));
+        // Nor does a text that the program wants to have wait for a key.
+        QTRY_VERIFY(m_table->findChild<QLineEdit*>() == nullptr);
+        QTest::keyClick(m_table.get(), Qt::Key_F2);
+        QTRY_COMPARE(QApplication::focusWidget(), m_table->findChild<QLineEdit*>());
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("9"));
+        GuiBase::Instance().ForceFinishEditing();
+        QCOMPARE(rowsOf(*m_table), QStringLiteral("9/0"));
         m_table->slotClearAll();
         QCOMPARE(m_table->rowCount(), 0);
         SortRowTable(0, 1).slotNew(); // without the second column
