@@ -7,10 +7,10 @@ include(GenerateExportHeader)
 include(CMakePackageConfigHelpers)
 include(CheckLinkerFlag)
 
-# The standard library declares its templates as visible, whatever the compiler is told.
-set(guibase_hide_standard_library
+# Some symbols are visible whatever the compiler is told.
+set(guibase_hide_symbols
     "LINKER:--version-script=${CMAKE_CURRENT_LIST_DIR}/exports.map")
-check_linker_flag(CXX "${guibase_hide_standard_library}" GUIBASE_LINKER_HIDES)
+check_linker_flag(CXX "${guibase_hide_symbols}" GUIBASE_LINKER_HIDES)
 
 set(GUIBASE_INSTALL_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}/GuiBase")
 set(GUIBASE_INSTALL_CMAKEDIR "${CMAKE_INSTALL_LIBDIR}/cmake/GuiBase")
@@ -48,7 +48,7 @@ function(guibase_add_library name)
         PRIVATE ${arg_PRIVATE_LINKS} $<BUILD_INTERFACE:guibase_build_settings>)
     target_compile_features(${name} PUBLIC cxx_std_20)
     if(GUIBASE_LINKER_HIDES)
-        target_link_options(${name} PRIVATE "${guibase_hide_standard_library}")
+        target_link_options(${name} PRIVATE "${guibase_hide_symbols}")
     endif()
     set_target_properties(${name} PROPERTIES
         CXX_VISIBILITY_PRESET hidden
