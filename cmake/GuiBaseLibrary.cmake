@@ -12,6 +12,11 @@ set(guibase_hide_symbols
     "LINKER:--version-script=${CMAKE_CURRENT_LIST_DIR}/exports.map")
 check_linker_flag(CXX "${guibase_hide_symbols}" GUIBASE_LINKER_HIDES)
 
+# A library finds its own functions when it is linked, not when a program starts. That asks of users
+# what the toolkit asks of them already: code that is independent of its place (-fPIC).
+set(guibase_bind_own_functions "LINKER:-Bsymbolic-functions")
+check_linker_flag(CXX "${guibase_bind_own_functions}" GUIBASE_LINKER_BINDS)
+
 set(GUIBASE_INSTALL_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}/GuiBase")
 set(GUIBASE_INSTALL_CMAKEDIR "${CMAKE_INSTALL_LIBDIR}/cmake/GuiBase")
 
@@ -49,6 +54,9 @@ function(guibase_add_library name)
     target_compile_features(${name} PUBLIC cxx_std_20)
     if(GUIBASE_LINKER_HIDES)
         target_link_options(${name} PRIVATE "${guibase_hide_symbols}")
+    endif()
+    if(GUIBASE_LINKER_BINDS)
+        target_link_options(${name} PRIVATE "${guibase_bind_own_functions}")
     endif()
     set_target_properties(${name} PROPERTIES
         CXX_VISIBILITY_PRESET hidden
