@@ -10,7 +10,6 @@
 #include "exports.h"
 #include "manual.h"
 #include "panels/jobsmenu.h"
-#include "panels/panel.h"
 #include "playkey.h"
 #include "receiver/receiverbar.h"
 #include "recentrecordings.h"
@@ -151,11 +150,6 @@ void MainWindow::buildViewMenu()
     QAction* toFactory = services.CreateResetFactoryViewAction(this);
     toFactory->setShortcut(control | Qt::Key_R);
     addEntry(menu, toFactory, false);
-    for (const Panel* panel : m_panelDocks->panels()) {
-        const QList<QAction*> actions = panel->keyActions();
-        for (QAction* action : actions)
-            services.ShowHotKeyFrom(action, panel->windowTitle());
-    }
     services.ShowListHotKeys();
 }
 

@@ -14,7 +14,6 @@
 #include "live/sourcelabel.h"
 #include "model/panenames.h"
 #include "model/recordingparser.h"
-#include "panels/eventlogpanel.h"
 #include "panels/icons.h"
 #include "panels/panel.h"
 #include "receiver/receiverbar.h"
@@ -81,6 +80,7 @@ MainWindow::MainWindow(QWidget* parent)
     resize(PanelDocks::windowSize.boundedTo(screen()->availableGeometry().size() - broadFrame));
     layout()->activate();
     m_modes->showKept();
+    makeNeededPanels();
     m_bandView->setFocus();
     updateTitle();
 }
@@ -206,7 +206,6 @@ void MainWindow::connectExports()
         showMessage(tr("Not exported"), tr("%1 cannot be written.").arg(path), reason);
     });
     m_bandView->setMenuExtension([this](QMenu& menu) { addExportsTo(menu); });
-    connect(&panel<EventLogPanel>(), &EventLogPanel::placeWanted, this, &MainWindow::showPlace);
 }
 
 void MainWindow::showPlace(const EventPlace& place)
@@ -228,6 +227,7 @@ void MainWindow::showPlace(const EventPlace& place)
 
 void MainWindow::open(const QString& path, OnFailure onFailure)
 {
+    m_panelDocks->makePanels();
     m_onFailure = onFailure;
     m_progress->setValue(0);
     m_progress->setFormat(tr("Loading %1  %p %").arg(QFileInfo(path).fileName()));

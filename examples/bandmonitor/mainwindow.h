@@ -48,7 +48,7 @@ public:
     Session& session() { return m_session; }
     /// What the user sets in the window.
     SessionValues& values() { return *m_values; }
-    /// Opens the recording in the session, see Session::open().
+    /// Opens the recording in the session, see Session::open(). All panels are made by then.
     void open(const QString& path, OnFailure onFailure = OnFailure::ShowMessage);
     /// Shows the layout that was kept; once the window is the main widget of the services.
     void announceModes() { m_modes->announce(); }
@@ -64,6 +64,7 @@ public:
     template <typename PanelClass>
     PanelClass& panel() const
     {
+        m_panelDocks->makePanels();
         return *findChild<PanelClass*>();
     }
     Modes& modes() { return *m_modes; }
@@ -111,6 +112,7 @@ private:
 
     // mainpanels.cpp
     void buildPanels();
+    void makeNeededPanels();
 
     // mainlive.cpp
     void buildLiveEntries(QMenu* menu);

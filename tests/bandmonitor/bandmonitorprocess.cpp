@@ -56,6 +56,7 @@ QString state(MainWindow& window)
     QDebug(&text) << " layout" << window.size() << static_cast<int>(window.modes().mode());
     for (const int size : window.bandView().splitter()->sizes())
         text += QStringLiteral("%1;").arg(size);
+    const SortListView& list = window.panel<SignalsPanel>().list(); // makes all panels
     for (const QDockWidget* dock : window.panelDocks().docks()) {
         const bool hides = QMainWindowHelpers::AutoHideSupport::autoHideAction(*dock)->isChecked();
         const bool isClosed = dock->isHidden() && !hides;
@@ -64,7 +65,6 @@ QString state(MainWindow& window)
         if (!hides && !dock->visibleRegion().isEmpty())
             QDebug(&text) << dock->size();
     }
-    const SortListView& list = window.panel<SignalsPanel>().list();
     for (int column = 0; column < list.columns(); ++column)
         text +=
             QStringLiteral("%1,").arg(list.isColumnHidden(column) ? 0 : list.columnWidth(column));

@@ -49,7 +49,7 @@ class tst_PanelDocks : public GuardedTest
         QString text = QStringLiteral("%1x%2").arg(m_window->width()).arg(m_window->height());
         for (const QDockWidget* panel : m_window->panelDocks().docks()) {
             const QAction* hides = QMainWindowHelpers::AutoHideSupport::autoHideAction(*panel);
-            text += QLatin1Char('\n') + panel->widget()->objectName();
+            text += QLatin1Char('\n') + panel->windowTitle();
             if (hides->isChecked())
                 text += QLatin1String(" hides itself");
             else if (panel->isHidden())

@@ -8,7 +8,6 @@
 #include <guibase/docks/areas/tilesupport.h>
 #include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
-#include <guibase/docks/dockwidgethelpers.h>
 #include <guibase/docks/enhanceddockwidgettitlebar.h>
 #include <guibase/docks/mainwindowconfigurator.h>
 #include <guibase/docks/mainwindowhelpers.h>
@@ -17,6 +16,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
+#include <QEvent>
 #include <QMainWindow>
 #include <QPointer>
 #include <QTabBar>
@@ -50,6 +50,22 @@ Qt::ToolBarArea hidingSide(const QMainWindow& window, const QDockWidget& dock,
     return areas.testFlag(side)
                ? side
                : AutoHideSupport::selectToolBarAreaByDockWidgetScreenPosition(window, dock, areas);
+}
+
+QString plainTitle(const PanelRow& row)
+{
+    return QString(row.title).remove(QLatin1Char('&'));
+}
+
+/// The smallest of the panel's sizes beside others; invalid without one.
+QSize smallestPlace(const PanelRow& row)
+{
+    QSize smallest;
+    for (const PanelPlace& place : row.places) {
+        if (place.shown == PanelPlace::Beside)
+            smallest = smallest.isValid() ? smallest.boundedTo(place.size) : place.size;
+    }
+    return smallest;
 }
 
 QSize smaller(const QSize& size, const QSize& window)
@@ -98,18 +114,11 @@ PanelDocks::~PanelDocks() = default;
 
 void PanelDocks::add(const PanelRow& row)
 {
-    row.panel->setObjectName(row.name);
-    row.panel->setWindowTitle(QString(row.title).remove(QLatin1Char('&')));
-    QSize smallest;
-    for (const PanelPlace& place : row.places) {
-        if (place.shown == PanelPlace::Beside)
-            smallest = smallest.isValid() ? smallest.boundedTo(place.size) : place.size;
-    }
-    row.panel->setPreferredSize(smallest);
+    auto* dock = new QDockWidget(plainTitle(row), &m_window);
+    dock->setObjectName(row.name + QStringLiteral("_outerDockWidget"));
     if (!row.icon.isNull())
-        row.panel->setWindowIcon(row.icon);
-    QDockWidget* dock = QDockWidgetHelpers::makeDockWidgetFrom(*row.panel);
-    dock->setParent(&m_window);
+        dock->setWindowIcon(row.icon);
+    dock->installEventFilter(this);
     m_rows.push_back(row);
     m_docks << dock;
     dock->hide(); // until all docks are arranged, which needs less room than all beside each other
@@ -125,11 +134,42 @@ void PanelDocks::add(const PanelRow& row)
     dock->toggleViewAction()->setText(row.title);
 }
 
+void PanelDocks::makePanel(QDockWidget& dock)
+{
+    if (dock.widget() != nullptr)
+        return;
+    const PanelRow& row = m_rows[static_cast<std::size_t>(m_docks.indexOf(&dock))];
+    Panel* panel = row.make(&dock);
+    panel->setObjectName(row.name);
+    panel->setWindowTitle(plainTitle(row));
+    panel->setPreferredSize(smallestPlace(row));
+    if (!row.icon.isNull())
+        panel->setWindowIcon(row.icon);
+    dock.setWidget(panel);
+    panel->show(); // now: the dock may be on the screen already
+    Q_EMIT panelMade(panel);
+}
+
+void PanelDocks::makePanels()
+{
+    for (QDockWidget* dock : m_docks)
+        makePanel(*dock);
+}
+
+bool PanelDocks::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ShowToParent)
+        makePanel(*static_cast<QDockWidget*>(watched));
+    return QObject::eventFilter(watched, event);
+}
+
 QList<Panel*> PanelDocks::panels() const
 {
     QList<Panel*> result;
-    for (const PanelRow& row : m_rows)
-        result << row.panel;
+    for (const QDockWidget* dock : m_docks) {
+        if (auto* panel = qobject_cast<Panel*>(dock->widget()))
+            result << panel;
+    }
     return result;
 }
 
@@ -189,7 +229,8 @@ void PanelDocks::arrange(Mode mode)
         QDockWidget* dock = m_docks[static_cast<int>(i)];
         QDockWidget*& last = lastOfArea[place.area];
         dock->hide();
-        dock->setFloating(false);
+        if (dock->isFloating())
+            dock->setFloating(false);
         m_window.addDockWidget(place.area, dock);
         if (place.shown == PanelPlace::Tabbed && last != nullptr)
             m_window.tabifyDockWidget(last, dock);

@@ -11,12 +11,14 @@
 #include <QString>
 #include <QTimer>
 
+#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
 
 class QDockWidget;
 class QMainWindow;
+class QWidget;
 
 namespace QMainWindowHelpers {
 class AutoHideSupport;
@@ -47,13 +49,14 @@ struct PanelRow
     QString name;  ///< Kept in the configuration; no blanks.
     QString title; ///< With the mnemonic of its menu entry.
     QIcon icon;
-    Panel* panel; ///< Goes into the dock.
+    std::function<Panel*(QWidget* parent)> make; ///< Called once at most.
     PerMode<PanelPlace> places;
 };
 
 /// The docks around the centre of the main window, a panel in each one: docks that the user can
-/// move, tab, tile, float, maximize and hide automatically, with a layout per mode. Owned by the
-/// main window.
+/// move, tab, tile, float, maximize and hide automatically, with a layout per mode. A panel is made
+/// when its dock is shown for the first time, so that a window starts with those that are seen.
+/// Owned by the main window.
 class PanelDocks : public QObject
 {
     Q_OBJECT
@@ -65,6 +68,10 @@ public:
     /// The order of the calls is that of menus, and of panels in an area. A row that is added here
     /// is all that a new panel needs.
     void add(const PanelRow& row);
+    /// Makes the panel of the dock, unless it is there already.
+    void makePanel(QDockWidget& dock);
+    /// Makes all panels that are not there yet.
+    void makePanels();
     /// The window that the sizes in the rows are meant for. In a smaller one panels are smaller.
     static constexpr QSize windowSize{1100, 800};
 
@@ -80,7 +87,7 @@ public:
     void showFactory(Mode mode);
 
     QMainWindow& window() const { return m_window; }
-    /// In the order of the rows.
+    /// Those that are made, in the order of the rows.
     QList<Panel*> panels() const;
     /// The docks, in the order of the panels.
     const QList<QDockWidget*>& docks() const { return m_docks; }
@@ -88,6 +95,12 @@ public:
     QDockWidget* dock(const QString& name) const;
     /// The dock that the user last worked in, or null.
     QDockWidget* activeDock() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// The panel is in its dock now.
+    void panelMade(Panel* panel);
 
 private:
     void markActive(QDockWidget* active);
