@@ -5,6 +5,9 @@
 
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
+#include <QStyle>
+#include <QStyleOptionHeader>
 
 ListHeader::ListHeader(SortListView& view)
     : QHeaderView(Qt::Horizontal, &view)
@@ -14,6 +17,30 @@ ListHeader::ListHeader(SortListView& view)
     setSectionsMovable(true);
     setStretchLastSection(true);
     setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+/// The toolkit measures titles in bold, as it shows them when it highlights sections. Otherwise
+/// there is no need to load a bold font: only the height counts here.
+QSize ListHeader::sizeHint() const
+{
+    const QScopedValueRollback measuring(m_isMeasuringHeight, !highlightSections());
+    return QHeaderView::sizeHint();
+}
+
+QSize ListHeader::sectionSizeFromContents(int logicalIndex) const
+{
+    const auto has = [this, logicalIndex](int role) {
+        return model()->headerData(logicalIndex, Qt::Horizontal, role).isValid();
+    };
+    if (!m_isMeasuringHeight || has(Qt::SizeHintRole) || has(Qt::FontRole) ||
+        has(Qt::DecorationRole))
+        return QHeaderView::sectionSizeFromContents(logicalIndex);
+    ensurePolished();
+    QStyleOptionHeader option;
+    initStyleOption(&option);
+    option.section = logicalIndex;
+    option.text = model()->headerData(logicalIndex, Qt::Horizontal, Qt::DisplayRole).toString();
+    return style()->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), this);
 }
 
 void ListHeader::mouseReleaseEvent(QMouseEvent* event)

@@ -15,11 +15,14 @@ public:
     explicit ListHeader(SortListView& view);
 
     bool isInClick() const { return m_isInClick; }
+    QSize sizeHint() const override;
 
 protected:
+    QSize sectionSizeFromContents(int logicalIndex) const override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     SortListView& m_view;
     bool m_isInClick = false;
+    mutable bool m_isMeasuringHeight = false;
 };
