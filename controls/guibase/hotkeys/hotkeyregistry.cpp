@@ -7,7 +7,6 @@
 #include <guibase/services/tracing.h>
 
 #include <QKeyEvent>
-#include <QRegularExpression>
 #include <QWidget>
 
 #include <algorithm>
@@ -50,10 +49,14 @@ bool isWidgetAround(const QObject* outer, const QObject* inner)
            outerWidget->isAncestorOf(innerWidget);
 }
 
+/// Without the marks of mnemonics; two are one that is shown.
 QString textOf(const QAction& action)
 {
-    static const QRegularExpression mnemonicMark(QStringLiteral("&(.)"));
-    return action.text().replace(mnemonicMark, QStringLiteral("\\1"));
+    QString text = action.text();
+    for (qsizetype mark = text.indexOf(u'&'); mark >= 0 && mark + 1 < text.size();
+         mark = text.indexOf(u'&', mark + 1))
+        text.remove(mark, 1);
+    return text;
 }
 
 HotKeyStroke shortcutOf(const QAction& action)

@@ -55,9 +55,9 @@ QString PersistentWidget::cleanedName(QString name)
 {
     static const QRegularExpression forbidden(
         QStringLiteral("#x((10?|[2-F])FFF[EF]|FDD[0-9A-F]|7F|8[0-46-9A-F]9[0-9A-F])"));
-    return name.remove(forbidden)
-        .remove(QLatin1Char(':'))
-        .replace(QLatin1Char(' '), QLatin1Char('_'));
+    if (name.contains(QLatin1String("#x"))) // Most have none, and then nothing is compiled.
+        name.remove(forbidden);
+    return name.remove(QLatin1Char(':')).replace(QLatin1Char(' '), QLatin1Char('_'));
 }
 
 /// Null also while the main window is destroyed.
