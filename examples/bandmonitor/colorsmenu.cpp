@@ -23,7 +23,7 @@ constexpr quint32 referenceLineGroup = 0x100;
 } // namespace
 
 ColorsMenu::ColorsMenu(QWidget* parent)
-    : QMenu(tr("&Colours"), parent)
+    : QMenu(parent)
     , m_sets(new QMenu(tr("Colour &set"), this))
 {
     ColorSet::Instance().AddShowInDialog(bearingGroup | jobGroup | referenceLineGroup);

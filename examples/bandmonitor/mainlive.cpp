@@ -21,7 +21,7 @@ namespace bandmonitor {
 
 void MainWindow::openLive(std::unique_ptr<LiveSource> source, OnFailure onFailure)
 {
-    m_panelDocks->makePanels();
+    complete();
     m_onFailure = onFailure;
     m_session.openLive(std::move(source), m_historyBytes);
 }

@@ -34,16 +34,29 @@ namespace {
 constexpr double zoomPerKey = 1.5;
 } // namespace
 
+/// The first frame shows the titles only.
+void MainWindow::buildMenuBar()
+{
+    for (const QString& title :
+         {tr("&File"), tr("&Edit"), tr("&View"), tr("&Replay"), JobsMenu::tr("&Jobs"),
+          ColorsMenu::tr("&Colours"), WindowMenu::tr("&Window")})
+        menuBar()->addAction(title);
+    menuBar()->addMenu(GuiBase::Instance().CreateHelpMenu(this, manualFile(), this,
+                                                          SLOT(showInfo()), this, nullptr));
+}
+
 void MainWindow::buildMenus()
 {
-    buildFileMenu();
-    buildEditMenu();
-    buildViewMenu();
-    buildReplayMenu();
-    buildJobsMenu();
-    menuBar()->addMenu(new ColorsMenu(this));
-    menuBar()->addMenu(new WindowMenu(m_panelDocks, m_bandView, this));
-    buildHelpMenu();
+    QMenu* const menus[] = {buildFileMenu(),
+                            buildEditMenu(),
+                            buildViewMenu(),
+                            buildReplayMenu(),
+                            new JobsMenu(&m_session.jobs(), m_values, this),
+                            new ColorsMenu(this),
+                            new WindowMenu(m_panelDocks, m_bandView, this)};
+    qsizetype number = 0;
+    for (QMenu* menu : menus)
+        menuBar()->actions().at(number++)->setMenu(menu);
 }
 
 QAction* MainWindow::addEntry(QMenu* menu, QAction* action, bool bandKey)
@@ -74,9 +87,9 @@ void MainWindow::addSelectionMenu(QMenu* menu, const QString& title, const Choic
     connect(actions, &SelectionActions::currentChanged, this, changed);
 }
 
-void MainWindow::buildFileMenu()
+QMenu* MainWindow::buildFileMenu()
 {
-    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    auto* menu = new QMenu(menuBar());
     connect(addEntry(menu, tr("&Open…"), {QKeySequence(QKeySequence::Open)}, false),
             &QAction::triggered, m_recordings, &RecentRecordings::choose);
     QMenu* recent = m_recordings->menu();
@@ -96,11 +109,12 @@ void MainWindow::buildFileMenu()
                 if (close())
                     QCoreApplication::quit(); // also when closed windows leave an icon in the tray
             });
+    return menu;
 }
 
-void MainWindow::buildEditMenu()
+QMenu* MainWindow::buildEditMenu()
 {
-    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    auto* menu = new QMenu(menuBar());
     addEntry(menu, m_undo->undoAction(), false);
     addEntry(menu, m_undo->redoAction(), false);
     menu->addSeparator();
@@ -109,18 +123,20 @@ void MainWindow::buildEditMenu()
     QDockWidget* history = m_panelDocks->dock(QStringLiteral("history"));
     QAction* show = addEntry(menu, tr("Show &history"), {Qt::CTRL | Qt::Key_H}, false);
     show->setCheckable(true);
+    show->setChecked(history->toggleViewAction()->isChecked());
     connect(show, &QAction::triggered, history, [this, history](bool shown) {
         history->setVisible(shown);
         if (shown)
             PanelFocus::enter(*m_panelDocks, *history, Qt::ShortcutFocusReason);
     });
     connect(history->toggleViewAction(), &QAction::toggled, show, &QAction::setChecked);
+    return menu;
 }
 
-void MainWindow::buildViewMenu()
+QMenu* MainWindow::buildViewMenu()
 {
     GuiBase& services = GuiBase::Instance();
-    QMenu* menu = menuBar()->addMenu(tr("&View"));
+    auto* menu = new QMenu(menuBar());
     constexpr auto control = Qt::CTRL | Qt::SHIFT;
     addSelectionMenu(menu, tr("Frequency &unit"),
                      {services.GetFrequencyUnit(), tr("Frequencies in %1"), control | Qt::Key_1},
@@ -151,6 +167,7 @@ void MainWindow::buildViewMenu()
     toFactory->setShortcut(control | Qt::Key_R);
     addEntry(menu, toFactory, false);
     services.ShowListHotKeys();
+    return menu;
 }
 
 void MainWindow::buildBandEntries(QMenu* menu)
@@ -216,6 +233,7 @@ void MainWindow::buildModeEntries(QMenu* menu)
         QAction* action = addEntry(modeMenu, Modes::title(mode), {key}, false);
         action->setCheckable(true);
         group->addAction(action);
+        action->setChecked(mode == m_modes->mode());
         connect(action, &QAction::triggered, m_modes, [this, mode] { m_modes->setMode(mode); });
         connect(m_modes, &Modes::modeChanged, action,
                 [action, mode](Mode current) { action->setChecked(current == mode); });
@@ -224,26 +242,16 @@ void MainWindow::buildModeEntries(QMenu* menu)
     addEntry(menu, m_modes->waterfallAction(), false);
 }
 
-void MainWindow::buildReplayMenu()
+QMenu* MainWindow::buildReplayMenu()
 {
-    QMenu* menu = menuBar()->addMenu(tr("&Replay"));
+    auto* menu = new QMenu(menuBar());
     addEntry(menu, m_replayBar->playAction(), true);
     new PlayKey(*m_replayBar->playAction(), *this);
     addEntry(menu, m_replayBar->backAction(), true);
     addEntry(menu, m_replayBar->forwardAction(), true);
     addEntry(menu, m_replayBar->firstAction(), true);
     addEntry(menu, m_replayBar->lastAction(), true);
-}
-
-void MainWindow::buildJobsMenu()
-{
-    menuBar()->addMenu(new JobsMenu(&m_session.jobs(), m_values, this));
-}
-
-void MainWindow::buildHelpMenu()
-{
-    menuBar()->addMenu(GuiBase::Instance().CreateHelpMenu(this, manualFile(), this,
-                                                          SLOT(showInfo()), this, nullptr));
+    return menu;
 }
 
 } // namespace bandmonitor

@@ -43,6 +43,8 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace bandmonitor {
 
 namespace {
@@ -74,7 +76,7 @@ MainWindow::MainWindow(QWidget* parent)
     buildPanels();
     restoreSettings();
     m_exports = new Exports(*this);
-    buildMenus();
+    buildMenuBar();
     connectRecordings();
     connectExports();
     resize(PanelDocks::windowSize.boundedTo(screen()->availableGeometry().size() - broadFrame));
@@ -225,9 +227,17 @@ void MainWindow::showPlace(const EventPlace& place)
     m_session.replay().jump(place.sweep);
 }
 
+void MainWindow::complete()
+{
+    if (std::exchange(m_isComplete, true))
+        return;
+    m_panelDocks->makePanels();
+    buildMenus();
+}
+
 void MainWindow::open(const QString& path, OnFailure onFailure)
 {
-    m_panelDocks->makePanels();
+    complete();
     m_onFailure = onFailure;
     m_progress->setValue(0);
     m_progress->setFormat(tr("Loading %1  %p %").arg(QFileInfo(path).fileName()));

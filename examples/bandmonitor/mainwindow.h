@@ -48,7 +48,9 @@ public:
     Session& session() { return m_session; }
     /// What the user sets in the window.
     SessionValues& values() { return *m_values; }
-    /// Opens the recording in the session, see Session::open(). All panels are made by then.
+    /// Makes what the first frame does not show: entries of menus, and panels in hidden docks.
+    void complete();
+    /// Opens the recording in the session, see Session::open(), in a window that is complete then.
     void open(const QString& path, OnFailure onFailure = OnFailure::ShowMessage);
     /// Shows the layout that was kept; once the window is the main widget of the services.
     void announceModes() { m_modes->announce(); }
@@ -92,16 +94,15 @@ protected:
 
 private:
     // mainmenus.cpp
+    void buildMenuBar();
     void buildMenus();
-    void buildFileMenu();
-    void buildEditMenu();
-    void buildViewMenu();
+    QMenu* buildFileMenu();
+    QMenu* buildEditMenu();
+    QMenu* buildViewMenu();
     void buildBandEntries(QMenu* menu);
     void buildTraceMenu(QMenu* menu);
     void buildModeEntries(QMenu* menu);
-    void buildReplayMenu();
-    void buildJobsMenu();
-    void buildHelpMenu();
+    QMenu* buildReplayMenu();
     void addSelectionMenu(QMenu* menu, const QString& title, const ChoiceEntry& entry,
                           void (MainWindow::*changed)());
     /// Adds the action to the menu; with `bandKey` its shortcut works in the band view only, so
@@ -156,6 +157,7 @@ private:
     SessionValues::Followers m_positionFollower;
     UndoActions* m_undo;
     Session m_session;
+    bool m_isComplete = false;
     OnFailure m_onFailure = OnFailure::ShowMessage;
     std::size_t m_historyBytes = LiveInput::defaultHistory;
     BandView* m_bandView;

@@ -56,7 +56,7 @@ QString state(MainWindow& window)
     QDebug(&text) << " layout" << window.size() << static_cast<int>(window.modes().mode());
     for (const int size : window.bandView().splitter()->sizes())
         text += QStringLiteral("%1;").arg(size);
-    const SortListView& list = window.panel<SignalsPanel>().list(); // makes all panels
+    const SortListView& list = window.panel<SignalsPanel>().list();
     for (const QDockWidget* dock : window.panelDocks().docks()) {
         const bool hides = QMainWindowHelpers::AutoHideSupport::autoHideAction(*dock)->isChecked();
         const bool isClosed = dock->isHidden() && !hides;
@@ -120,6 +120,7 @@ int main(int argc, char** argv)
     window.announceModes();
     window.show();
     QTimer::singleShot(0, &window, [&] {
+        window.complete();
         if (words.value(2) == QLatin1String("change"))
             change(window, words.value(1));
         if (words.value(3) == QLatin1String("store"))

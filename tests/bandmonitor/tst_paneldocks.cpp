@@ -28,6 +28,7 @@ class tst_PanelDocks : public GuardedTest
         m_window->resize(700, 600); // fits on any screen with its frame
         GuiBase::Instance().RegisterPersistentWidget(m_window.get(), QStringLiteral("main"));
         m_window->announceModes();
+        m_window->complete();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     }
 

@@ -54,7 +54,7 @@ void addAreaEntry(QMenu& menu, QAction& action, int key)
 } // namespace
 
 WindowMenu::WindowMenu(PanelDocks* panels, QWidget* centre, QWidget* parent)
-    : QMenu(tr("&Window"), parent)
+    : QMenu(parent)
     , m_panels(panels)
     , m_centre(centre)
 {

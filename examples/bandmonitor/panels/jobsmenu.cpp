@@ -38,7 +38,6 @@ JobsMenu::JobsMenu(Jobs* jobs, std::shared_ptr<SessionValues> values, QWidget* p
     , m_orderMenu(new QMenu(tr("S&ort"), this))
     , m_values(std::move(values))
 {
-    setTitle(tr("&Jobs"));
     int key = firstJobKey;
     for (const Job& job : m_jobs->list().jobs()) {
         QAction* action = insertItem(job.name, job.id);
