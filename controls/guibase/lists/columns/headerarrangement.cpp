@@ -109,8 +109,9 @@ void HeaderArrangement::apply(QHeaderView& header, QList<ColumnRecord> columns, 
     }
     const QList<int> order =
         first == 0 ? wholeOrder(header, columns) : orderWithLate(header, columns, first);
+    // To move a section would shift all those between its places.
     for (int place = 0; place < order.size(); ++place)
-        header.moveSection(header.visualIndex(order.at(place)), place);
+        header.swapSections(header.visualIndex(order.at(place)), place);
     // A header without sections could not open the menu that brings them back.
     if (header.count() > 0 && header.hiddenSectionCount() == header.count())
         header.showSection(header.logicalIndex(0));
