@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPainter>
 #include <QPointer>
 #include <QStyleOptionToolButton>
@@ -90,6 +91,20 @@ QSize AutoHideButton::sizeHint() const
 QSize AutoHideButton::minimumSizeHint() const
 {
     return turned(arrowExtent + 2 * padding(), arrowExtent + 2 * padding());
+}
+
+void AutoHideButton::setVisible(bool visible)
+{
+    // A tool bar shows its buttons in the middle of its layout. Each of them would have all laid
+    // out once more at once; the one layout that is posted meanwhile does it for all of them.
+    QLayout* bar = parentWidget() != nullptr ? parentWidget()->layout() : nullptr;
+    const bool wasEnabled = bar != nullptr && bar->isEnabled();
+    if (wasEnabled)
+        bar->setEnabled(false);
+    const QPointer<QLayout> guard(bar);
+    QToolButton::setVisible(visible);
+    if (guard && wasEnabled)
+        guard->setEnabled(true);
 }
 
 bool AutoHideButton::event(QEvent* event)

@@ -14,6 +14,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    void setVisible(bool visible) override;
 
 Q_SIGNALS:
     /// Enter or Space, after the action was triggered.
