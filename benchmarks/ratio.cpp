@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int repetitions = 15;
 constexpr double secondsPerRepetition = 0.02;
 
 std::string sideName(const std::string& pair, const char* side)
@@ -79,7 +78,7 @@ bool printRatio(const std::string& name, const std::string& ours, const std::str
 }
 
 void RatioRun::compare(const std::string& name, double limit, const Body& ours, const Body& theirs,
-                       Clock clock)
+                       Clock clock, int repetitions)
 {
     m_pairs.push_back({name, limit, clock});
     for (const auto& [side, body] : {std::pair("ours", &ours), std::pair("theirs", &theirs)}) {

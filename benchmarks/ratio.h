@@ -29,9 +29,13 @@ public:
         Wall, ///< Time that passed; for bodies that wait or set the time themselves.
     };
 
+    /// How often each side is measured, unless told otherwise.
+    static constexpr int usualRepetitions = 15;
+
     /// `limit` is the largest allowed ratio ours / theirs. Names must differ from one another.
+    /// A body that takes long needs more repetitions: fewer of them fit between what disturbs.
     void compare(const std::string& name, double limit, const Body& ours, const Body& theirs,
-                 Clock clock = Clock::Cpu);
+                 Clock clock = Clock::Cpu, int repetitions = usualRepetitions);
     /// Compares how the two sides of the pair `small` grow when they do `factor` times the work, as
     /// they do in the pair `large`: what a piece of work costs in the large, in relation to the
     /// small, on our side and on theirs, and the ratio of the two.
