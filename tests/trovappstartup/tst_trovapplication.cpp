@@ -135,7 +135,7 @@ private Q_SLOTS:
         {
             const TrovApplication application;
             QVERIFY(handlerOf(SIGTERM) != former);
-            QVERIFY(handlerOf(SIGHUP) == SIG_IGN); // started so as to survive its terminal
+            QVERIFY(handlerOf(SIGHUP) == SIG_IGN);  // started so as to survive its terminal
             QVERIFY(handlerOf(SIGXFSZ) == SIG_IGN); // a file that is full is no reason to end
         }
         QVERIFY(handlerOf(SIGXFSZ) == SIG_DFL);

@@ -44,9 +44,8 @@ struct PeakLimits
 
 /// The first peak below or above the frequency, without the one that covers it: the highest bin
 /// between two valleys. Behind the end of a hop counts as lower.
-RADIOPANES_EXPORT std::optional<BinLevel> nextPeak(const Sweep& sweep, double hertz,
-                                                   Direction direction,
-                                                   const PeakLimits& limits = {});
+RADIOPANES_EXPORT std::optional<BinLevel>
+nextPeak(const Sweep& sweep, double hertz, Direction direction, const PeakLimits& limits = {});
 
 /// A level that hardly any bin of noise exceeds, when signals cover up to two thirds of the sweep;
 /// minus infinity without any level.

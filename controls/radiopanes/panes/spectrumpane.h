@@ -101,8 +101,8 @@ public:
     QStringList readOut() const;
     /// The width of the current trace's bin at the frequency, in Hz; 0 where the sweep has none.
     double stepAt(double hertz) const;
-    /// Moves the cursor to the next peak of the current trace that reaches the threshold or, without
-    /// one, stands out of the noise; false when there is none.
+    /// Moves the cursor to the next peak of the current trace that reaches the threshold or,
+    /// without one, stands out of the noise; false when there is none.
     bool moveToPeak(Direction direction);
     /// The highest bin within a pin's reach.
     double snapped(double hertz) const override;

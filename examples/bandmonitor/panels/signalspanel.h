@@ -86,7 +86,7 @@ private:
     QTimer m_rest;
     std::uint32_t m_followed = 0;
     Signal m_followedSignal; ///< As it was last seen.
-    QString m_day; ///< That of the shown sweep.
+    QString m_day;           ///< That of the shown sweep.
     bool m_isStale = false;
     bool m_isUpdating = false;
 };
