@@ -35,11 +35,11 @@ RADIOPANES_EXPORT std::optional<BinLevel> highestNear(const Sweep& sweep, double
 
 enum class Direction { Down, Up };
 
-/// The least of peaks.
+/// What a peak must have at least.
 struct PeakLimits
 {
-    float excursionDb = 6; ///< Above the valleys on both sides.
-    float levelDb = -std::numeric_limits<float>::infinity();
+    float excursionDb = 6; ///< In dB, above the valleys on both sides.
+    float levelDb = -std::numeric_limits<float>::infinity(); ///< In dB.
 };
 
 /// The first peak below or above the frequency, without the one that covers it: the highest bin
