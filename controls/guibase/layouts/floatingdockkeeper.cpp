@@ -6,9 +6,20 @@
 #include <jtbase/qtimerhelpers.h>
 #include <jtbase/windowsystem.h>
 
+#include <QCoreApplication>
 #include <QDockWidget>
-#include <QEvent>
 #include <QPointer>
+#include <QResizeEvent>
+#include <QWindow>
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+namespace {
+constexpr int lookMilliseconds = 100;
+constexpr int scalingError = 2; // in pixels
+} // namespace
 
 FloatingDockKeeper::FloatingDockKeeper(QDockWidget& dock, Place place)
     : QObject(&dock)
@@ -18,6 +29,8 @@ FloatingDockKeeper::FloatingDockKeeper(QDockWidget& dock, Place place)
 {
     dock.installEventFilter(this);
     QTimerHelpers::singleShot(milliseconds, this, [this] { deleteLater(); });
+    m_look.callOnTimeout(this, &FloatingDockKeeper::endForgottenState);
+    m_look.start(lookMilliseconds);
 }
 
 void FloatingDockKeeper::keep(QDockWidget& dock, Place place)
@@ -50,10 +63,38 @@ bool FloatingDockKeeper::eventFilter(QObject*, QEvent* event)
     return false;
 }
 
+bool FloatingDockKeeper::isKept() const
+{
+    return m_timesLeft > 0 && m_dock.isFloating() && !m_dock.isMaximized() && !m_dock.isMinimized();
+}
+
+/// The window has another size than the toolkit has told the dock: the window manager shows it
+/// maximized, from a time before the dock became normal.
+void FloatingDockKeeper::endForgottenState()
+{
+    QWindow* window = m_dock.windowHandle();
+    const QSize missed = window != nullptr ? window->size() - m_dock.size() : QSize(0, 0);
+    const bool isForgotten =
+        m_timesLeft > 0 && m_dock.isFloating() && m_dock.isVisible() && !m_dock.isMinimized() &&
+        std::max(std::abs(missed.width()), std::abs(missed.height())) > scalingError;
+    // At the first look the answer may be on its way.
+    if (!std::exchange(m_wasForgotten, isForgotten) || !isForgotten)
+        return;
+    --m_timesLeft;
+    if (m_dock.isMaximized()) { // again by now
+        QResizeEvent resize(window->size(), m_dock.size());
+        QCoreApplication::sendEvent(window, &resize);
+        return;
+    }
+    // The toolkit asks for the normal state only after one to be maximized.
+    window->setWindowState(Qt::WindowMaximized);
+    window->setWindowState(Qt::WindowNoState);
+    window->setGeometry(m_dock.geometry());
+}
+
 void FloatingDockKeeper::putBack()
 {
-    const bool isKept = m_dock.isFloating() && !m_dock.isMaximized() && !m_dock.isMinimized();
-    if (m_timesLeft == 0 || !isKept)
+    if (!isKept())
         return;
     const QRect place = m_place == Place::OnScreen
                             ? WidgetPlacement::reachableGeometry(m_geometry, m_dock)

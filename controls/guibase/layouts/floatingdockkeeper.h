@@ -3,11 +3,13 @@
 
 #include <QObject>
 #include <QRect>
+#include <QTimer>
 
 class QDockWidget;
 
 /// Holds a floating dock where it was put, for a short while: window managers that see it
-/// appear before they are told its place move it to one of their own.
+/// appear before they are told its place move it to one of their own, and those that see it
+/// disappear before they have heard that it is not maximized any more show it maximized again.
 ///
 /// A child of the dock. Gives up after a few attempts, when the user takes the dock with the mouse,
 /// and when it docks. Leaves maximized and minimized docks alone. Does nothing where programs do
@@ -28,11 +30,15 @@ public:
 
 private:
     FloatingDockKeeper(QDockWidget& dock, Place place);
+    bool isKept() const;
     void putBack();
+    void endForgottenState();
 
     QDockWidget& m_dock;
     QRect m_geometry;
     Place m_place;
     int m_timesLeft = 3;
     bool m_isPuttingBack = false;
+    bool m_wasForgotten = false;
+    QTimer m_look;
 };
