@@ -25,6 +25,12 @@ QString freePath()
     return path;
 }
 
+struct Row
+{
+    ValueBase& value;
+    const char* key; ///< In the configuration; null for what is not kept.
+};
+
 } // namespace
 
 bool ColorsText::SetVariant(const QVariant& value)
@@ -41,49 +47,8 @@ SessionValues::SessionValues()
     , m_receiverRecord(recordName)
     , m_save([this] { write(); })
 {
-    struct Row
-    {
-        ValueBase& value;
-        const char* key; ///< In the configuration; null for what is not kept.
-    };
-    const Row receiverRows[] = {
-        {centre, "Centre"},           {span, "Span"},
-        {resolution, "Resolution"},   {gain, "Gain"},
-        {attenuation, "Attenuation"}, {samples, "Samples"},
-        {address, "Address"},         {isAddressHexadecimal, "Hexadecimal"},
-        {startTime, nullptr},         {threshold, "Threshold"},
-        {position, nullptr}, // the settings keep it
-    };
-    const Row otherRows[] = {
-        {isCurrentVisible, "Current"},
-        {isAverageVisible, "Average"},
-        {isHoldVisible, "HoldMaximum"},
-        {isMinimumVisible, "HoldMinimum"},
-        {isSnapping, "Snapping"},
-        {areWidthsVisible, "Widths"},
-        {isTraceLegendVisible, "TraceLegend"},
-        {isWaterfallLegendVisible, "WaterfallLegend"},
-        {isOverviewVisible, "Overview"},
-        {colorMap, "ColorMap"},
-        {timeZoom, "TimeZoom"},
-        {pins, "Pins"},
-        {bookmarks, "Bookmarks"},
-        {bandPlan, "BandPlan"},
-        {referenceLevels, "ReferenceLevels"},
-        {jobOrder, "JobOrder"},
-        {colors, nullptr},
-        {userColors, nullptr},
-        {changedColors, "ChangedColors"},
-        {speed, nullptr},
-    };
-    for (const Row& row : receiverRows)
-        add(receiverPath(), m_receiverRecord, row.value, row.key);
-    for (const Row& row : otherRows)
-        add(m_path, m_record, row.value, row.key);
-    add(m_path, m_receiverRecord, enteredStart, "StartTime");
-    add(m_path, m_receiverRecord, showsWholeBand, "WholeBand");
-    add(bearingsPath(), m_record, heading, "Heading");
-    add(bearingsPath(), m_record, isHeadingUp, "HeadingUp");
+    addReceiver();
+    addOthers();
     position.SetValue(bandmonitor::Settings::receiverPosition());
     m_followers.push_back(std::make_unique<ValueFollower>(
         &position, [this] { bandmonitor::Settings::setReceiverPosition(position.GetValue()); }));
@@ -137,6 +102,52 @@ SessionValues::Followers SessionValues::follow(std::initializer_list<ValueBase*>
     for (ValueBase* value : values)
         result.push_back(std::make_unique<ValueFollower>(value, operation));
     return result;
+}
+
+void SessionValues::addReceiver()
+{
+    const Row rows[] = {
+        {centre, "Centre"},           {span, "Span"},
+        {resolution, "Resolution"},   {gain, "Gain"},
+        {attenuation, "Attenuation"}, {samples, "Samples"},
+        {address, "Address"},         {isAddressHexadecimal, "Hexadecimal"},
+        {startTime, nullptr},         {threshold, "Threshold"},
+        {position, nullptr}, // the settings keep it
+    };
+    for (const Row& row : rows)
+        add(receiverPath(), m_receiverRecord, row.value, row.key);
+    add(m_path, m_receiverRecord, enteredStart, "StartTime");
+    add(m_path, m_receiverRecord, showsWholeBand, "WholeBand");
+}
+
+void SessionValues::addOthers()
+{
+    const Row rows[] = {
+        {isCurrentVisible, "Current"},
+        {isAverageVisible, "Average"},
+        {isHoldVisible, "HoldMaximum"},
+        {isMinimumVisible, "HoldMinimum"},
+        {isSnapping, "Snapping"},
+        {areWidthsVisible, "Widths"},
+        {isTraceLegendVisible, "TraceLegend"},
+        {isWaterfallLegendVisible, "WaterfallLegend"},
+        {isOverviewVisible, "Overview"},
+        {colorMap, "ColorMap"},
+        {timeZoom, "TimeZoom"},
+        {pins, "Pins"},
+        {bookmarks, "Bookmarks"},
+        {bandPlan, "BandPlan"},
+        {referenceLevels, "ReferenceLevels"},
+        {jobOrder, "JobOrder"},
+        {colors, nullptr},
+        {userColors, nullptr},
+        {changedColors, "ChangedColors"},
+        {speed, nullptr},
+    };
+    for (const Row& row : rows)
+        add(m_path, m_record, row.value, row.key);
+    add(bearingsPath(), m_record, heading, "Heading");
+    add(bearingsPath(), m_record, isHeadingUp, "HeadingUp");
 }
 
 void SessionValues::add(const QString& path, Persistant& record, ValueBase& value, const char* key)

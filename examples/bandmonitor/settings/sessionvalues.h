@@ -114,6 +114,8 @@ private:
     void Save() override { write(); }
     void Load() override {}
     void CommitData() override { write(); }
+    void addReceiver();
+    void addOthers();
     void add(const QString& path, Persistant& record, ValueBase& value, const char* key);
     void write();
 
