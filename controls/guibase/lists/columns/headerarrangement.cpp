@@ -72,6 +72,43 @@ QList<int> orderWithLate(const QHeaderView& header, const QList<ColumnRecord>& c
     return order;
 }
 
+/// The sections that may be stretched: the last one, and the last visible one. Their stored widths
+/// are those of a window, and as own widths would keep the sections from shrinking with another.
+template <typename IsHidden>
+QList<int> stretchedSections(const QList<int>& order, IsHidden isHidden)
+{
+    if (order.isEmpty())
+        return {};
+    const auto visible = std::find_if_not(order.crbegin(), order.crend(), isHidden);
+    return visible == order.crend() ? order.last(1) : QList<int>{order.last(), *visible};
+}
+
+/// Widths, and what is hidden, of the sections from `first` on. One that was stretched before they
+/// came gets its width now.
+void resize(QHeaderView& header, const QList<ColumnRecord>& columns, const QList<int>& order,
+            int first, bool isStretching)
+{
+    const auto isHidden = [&](int section) {
+        return section >= first && section < columns.size() ? columns.at(section).isHidden
+                                                            : header.isSectionHidden(section);
+    };
+    QList<int> stretched;
+    QList<int> former;
+    if (isStretching) {
+        stretched = stretchedSections(order, isHidden);
+        former = stretchedSections(presentOrder(header).mid(0, first), isHidden);
+    }
+    for (int section = 0; section < columns.size(); ++section) {
+        const ColumnRecord& column = columns.at(section);
+        const bool isWanted = section >= first || former.contains(section);
+        // Nobody could grip a section without width.
+        if (isWanted && column.width > 0 && !stretched.contains(section))
+            header.resizeSection(section, column.width);
+        if (section >= first)
+            header.setSectionHidden(section, column.isHidden);
+    }
+}
+
 } // namespace
 
 QList<ColumnRecord> HeaderArrangement::of(const QHeaderView& header,
@@ -101,19 +138,17 @@ void HeaderArrangement::apply(QHeaderView& header, QList<ColumnRecord> columns, 
     // A visible header looks for what it must paint again after each single change.
     const bool isPainting = header.updatesEnabled();
     header.setUpdatesEnabled(false);
-    for (int section = first; section < columns.size(); ++section) {
-        // Nobody could grip a section without width.
-        if (columns.at(section).width > 0)
-            header.resizeSection(section, columns.at(section).width);
-        header.setSectionHidden(section, columns.at(section).isHidden);
-    }
     const QList<int> order =
         first == 0 ? wholeOrder(header, columns) : orderWithLate(header, columns, first);
+    const bool isStretching = header.stretchLastSection();
+    header.setStretchLastSection(false); // gives the last section its own width back
+    resize(header, columns, order, first, isStretching);
     // To move a section would shift all those between its places.
     for (int place = 0; place < order.size(); ++place)
         header.swapSections(header.visualIndex(order.at(place)), place);
     // A header without sections could not open the menu that brings them back.
     if (header.count() > 0 && header.hiddenSectionCount() == header.count())
         header.showSection(header.logicalIndex(0));
+    header.setStretchLastSection(isStretching);
     header.setUpdatesEnabled(isPainting);
 }

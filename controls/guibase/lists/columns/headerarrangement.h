@@ -15,7 +15,8 @@ QList<ColumnRecord> of(const QHeaderView& header, const QList<ColumnRecord>& kno
 
 /// Arranges the sections from `first` on that have a record. The others keep their order among one
 /// another. A record without a width leaves the width to the header; one with a place that the
-/// header does not have leaves the place to it. One section always stays visible.
+/// header does not have leaves the place to it. The width of a last section that the header
+/// stretches stays the header's, too. One section always stays visible.
 void apply(QHeaderView& header, QList<ColumnRecord> columns, int first);
 
 } // namespace HeaderArrangement

@@ -93,6 +93,36 @@ private Q_SLOTS:
         list->setColumnWidth(1, 33);
         QCOMPARE(storedBy(list), QStringLiteral("120,0,1;80,1,0;"));
     }
+    void stretchedColumnShrinks_data()
+    {
+        // What is stored, whether the columns come one by one, their widths in a window of 600.
+        TestRows<QString, bool, QList<int>> row;
+        row("at once", "120,0,0;80,1,0;824,2,0;", false, {120, 80, 400});
+        row("one by one", "120,0,0;80,1,0;824,2,0;", true, {120, 80, 400});
+        row("moved", "120,1,0;824,2,0;80,0,0;", false, {120, 400, 80});
+        row("moved, one by one", "120,1,0;824,2,0;80,0,0;", true, {120, 400, 80});
+        row("hidden behind it", "120,0,0;824,1,0;824,2,1;", false, {120, 480, 0});
+    }
+    void stretchedColumnShrinks()
+    {
+        const auto& [stored, isOneByOne, widths] = TestRows<QString, bool, QList<int>>::fetch();
+        configuration()->SetString(listName, stored);
+        SortListView list;
+        list.setFrameShape(QFrame::NoFrame);
+        if (isOneByOne)
+            list.SetColumnWidthPersistantName(listName);
+        for (const char* title : {"A", "B", "C"})
+            list.addColumn(QString::fromLatin1(title));
+        if (!isOneByOne)
+            list.SetColumnWidthPersistantName(listName);
+        list.resize(1100, 100);
+        list.show();
+        list.resize(600, 100);
+        for (int column = 0; column < list.columns(); ++column)
+            QTRY_COMPARE(list.columnWidth(column), widths.at(column));
+        list.setColumnHidden(2, false);
+        QTRY_COMPARE(list.header()->length(), 600);
+    }
     void damagedTexts()
     {
         const QString damaged = QStringLiteral("x");
