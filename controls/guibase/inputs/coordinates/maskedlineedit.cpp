@@ -123,11 +123,14 @@ void MaskedLineEdit::Private::erase(bool forwards)
         show(withoutSelection());
         return;
     }
-    const qsizetype slot =
-        forwards ? mask.slotFrom(q.cursorPosition()) : mask.slotBefore(q.cursorPosition());
-    if (slot < 0 || slot >= q.text().size())
+    const QString text = q.text();
+    const qsizetype cursor = q.cursorPosition();
+    qsizetype slot = forwards ? mask.slotFrom(cursor) : mask.slotBefore(cursor);
+    while (forwards && slot < text.size() && text[slot] == InputMask::blank)
+        slot = mask.slotFrom(slot + 1);
+    if (slot < 0 || slot >= text.size())
         return;
-    show({mask.erased(q.text(), slot, slot + 1), forwards ? slot + 1 : slot});
+    show({mask.erased(text, slot, slot + 1), forwards ? cursor : slot});
 }
 
 /// False for keys that do the same in any line edit.

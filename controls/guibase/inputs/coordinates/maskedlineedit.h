@@ -9,8 +9,9 @@
 #include <memory>
 
 /// A line edit for texts of one shape, such as "192.168.000.001": separators stand, typing
-/// overwrites, Backspace and Delete blank the slots ('_'). A pasted text is read whatever its
-/// separators; one that does not fit changes nothing.
+/// overwrites, Backspace and Delete blank the slots ('_'). Delete blanks the next character and
+/// leaves the cursor. A pasted text is read whatever its separators; one that does not fit changes
+/// nothing.
 class GUIBASE_EXPORT MaskedLineEdit : public QLineEdit
 {
     Q_OBJECT

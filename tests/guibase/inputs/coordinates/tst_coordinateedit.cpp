@@ -59,6 +59,7 @@ private Q_SLOTS:
         row("separator leads on", "999.999", "", "^1.5", "1__.5__");
         row("erased", "999.999", "123456", "v<<", "123.4__");
         row("over the separator", "99.99", "1234", "v^>>>", "__._4");
+        row("deleted and typed again", "99.99", "1234", "v^>5>>67", "56.74");
         row("selection", "99.99", "1234", "v@5", "5_.__");
         row("taken back", "99.99", "1234", "v|<u", "12.34");
         row("letters", "[A-CX]A-9X", "", "^dxy7q", "XY-7Q");
@@ -201,6 +202,9 @@ private Q_SLOTS:
         edit.inputLineEdit()->setCursorPosition(6);
         QTest::keyClicks(&edit, QStringLiteral("9x12.5w"));
         QCOMPARE(edit.inputLineEdit()->text(), QStringLiteral("N 48°09'12.5\" W 011°34'31.0\""));
+        edit.inputLineEdit()->setCursorPosition(2);
+        press(edit, *edit.inputLineEdit(), QStringLiteral(">5"));
+        QCOMPARE(edit.inputLineEdit()->text(), QStringLiteral("N 58°09'12.5\" W 011°34'31.0\""));
         QGuiApplication::clipboard()->setText(QStringLiteral(" 1 2\n"));
         edit.inputLineEdit()->setCursorPosition(3);
         edit.inputLineEdit()->paste(); // as a menu does
