@@ -27,7 +27,7 @@ constexpr int repeatSeconds = 1;
 
 /// Where the handler writes; -1 without an object.
 std::atomic<int> writeEnd{-1};
-struct Request
+struct alignas(2 * sizeof(int)) Request // otherwise clang calls a library that may lock
 {
     int signal; ///< 0 for none.
     int second;

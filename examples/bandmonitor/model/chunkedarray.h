@@ -85,7 +85,8 @@ private:
         }
         dropSpare();
         m_capacity += count;
-        return m_chunks.emplace_back(std::make_unique_for_overwrite<T[]>(count), count);
+        m_chunks.push_back({std::make_unique_for_overwrite<T[]>(count), count});
+        return m_chunks.back();
     }
 
     void dropSpare()
