@@ -119,7 +119,7 @@ bool report(const char* what, const char* unit, double figure, double limit)
 /// The same for a figure that must not be below the limit.
 bool reportAtLeast(const char* what, const char* unit, double figure, double least)
 {
-    return printRatio(std::string("at least ") + what + ", against what comes",
+    return printRatio(std::string(what) + ": the least allowed, against those shown",
                       withUnit(least, 2, unit), withUnit(figure, 2, unit), least / figure, 1);
 }
 
@@ -152,10 +152,9 @@ bool measureLive(MainWindow& window, int descriptor)
     runFor(seconds);
     const auto perSecond = [seconds](double count) { return count / seconds; };
     const auto came = static_cast<double>(window.session().recording()->count() - sweeps);
-    bool good = reportAtLeast("that many live levels", " million/s",
-                              perSecond(came * binsPerSweep) / 1e6, 0.98);
-    good =
-        reportAtLeast("that many pictures meanwhile", "/s", perSecond(counter.paints), 25) && good;
+    bool good =
+        reportAtLeast("live levels", " million/s", perSecond(came * binsPerSweep) / 1e6, 0.98);
+    good = reportAtLeast("pictures meanwhile", "/s", perSecond(counter.paints), 25) && good;
     good = report("part of a processor meanwhile", "", perSecond(processorSeconds() - processor),
                   0.5) &&
            good;

@@ -12,8 +12,8 @@ class QDockWidget;
 /// disappear before they have heard that it is not maximized any more show it maximized again.
 ///
 /// A child of the dock. Gives up after a few attempts, when the user takes the dock with the mouse,
-/// and when it docks. Leaves maximized and minimized docks alone. Does nothing where programs do
-/// not place windows.
+/// and when it docks. Moves no maximized or minimized dock. Does nothing where programs do not
+/// place windows.
 class FloatingDockKeeper : public QObject
 {
     Q_OBJECT
