@@ -290,11 +290,10 @@ void AbstractController::keyPressEvent(QKeyEvent* event)
         setValue(former);
         if (survivor)
             endDrag();
-    } else if (event->modifiers() & ~Qt::KeypadModifier) {
-        QWidget::keyPressEvent(event);
-    } else if (event->key() == Qt::Key_Home || event->key() == Qt::Key_End) {
+    } else if (const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
+               isPlain && (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)) {
         setValue(event->key() == Qt::Key_Home ? minimum() : maximum());
-    } else if (event->key() == Qt::Key_Delete) {
+    } else if (isPlain && event->key() == Qt::Key_Delete) {
         reset();
     } else {
         QWidget::keyPressEvent(event);
