@@ -42,6 +42,14 @@ guibase_package(development libguibase-dev libdevel
     "${guibase_runtime} (= ${PROJECT_VERSION}), qt6-base-dev (>= 6.4)"
     "For development: headers, the CMake package and the pkg-config files.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS qt6-translations-l10n)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS "cmake, g++, make, pkg-config")
+# The pages with the examples they lead to: who takes the package needs no source to begin.
+set(guibase_pages "${CMAKE_INSTALL_DATADIR}/doc/libguibase-dev")
+install(FILES README.md CHANGELOG.md DESTINATION "${guibase_pages}" COMPONENT development)
+install(DIRECTORY docs/ DESTINATION "${guibase_pages}/docs" COMPONENT development
+    PATTERN api EXCLUDE)
+install(DIRECTORY examples/quickstart examples/designer DESTINATION "${guibase_pages}/examples"
+    COMPONENT development)
 if(GUIBASE_BUILD_EXAMPLES)
     list(APPEND CPACK_COMPONENTS_ALL example)
     guibase_package(example bandmonitor hamradio

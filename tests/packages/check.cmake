@@ -87,8 +87,15 @@ endif()
 
 # An application builds against the development package.
 unpack(libguibase-dev "libguibase0 ${same_version}" "qt6-base-dev \\(>= 6.4\\)")
-run(ignored "${CMAKE_COMMAND}" -G Ninja -S "${PROJECT_DIR}/tests/consumer" -B "${WORK_DIR}/consumer"
-    "-DCMAKE_PREFIX_PATH=${root}/usr")
-run(ignored "${CMAKE_COMMAND}" --build "${WORK_DIR}/consumer")
+set(quickstart "${root}/usr/share/doc/libguibase-dev/examples/quickstart")
+foreach(source IN ITEMS "${PROJECT_DIR}/tests/consumer" "${quickstart}")
+    cmake_path(GET source FILENAME application)
+    run(ignored "${CMAKE_COMMAND}" -G Ninja -S "${source}" -B "${WORK_DIR}/${application}"
+        "-DCMAKE_PREFIX_PATH=${root}/usr")
+    run(ignored "${CMAKE_COMMAND}" --build "${WORK_DIR}/${application}")
+endforeach()
+if(NOT EXISTS "${root}/usr/share/doc/libguibase-dev/docs/guide/README.md")
+    message(FATAL_ERROR "The development package has no guide")
+endif()
 run(output "${WORK_DIR}/consumer/consumer")
 expect("${output}" "frequencies in")
