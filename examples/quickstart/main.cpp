@@ -73,12 +73,16 @@ int main(int argc, char* argv[])
 
     auto* frequency = new SpinBoxes::FrequencySpinBox(&window); // reads "14.225 MHz", "14225k"
     auto* tuned = new QLabel(&window);
+    tuned->setAlignment(Qt::AlignCenter);
     QObject::connect(frequency, &SpinBoxes::FrequencySpinBox::valueChanged, tuned,
                      [=] { tuned->setText(frequency->textValue()); });
     frequency->setValue(14'225'000);
     window.setCentralWidget(makeStations(&window));
     addPanel(window, frequency, "Frequency", Qt::LeftDockWidgetArea);
     addPanel(window, tuned, "Tuned to", Qt::LeftDockWidgetArea);
+
+    window.resize(840, 480); // at the first start
+    window.resizeDocks(window.findChildren<QDockWidget*>(), {260, 260}, Qt::Horizontal);
 
     GuiBase& services = GuiBase::Instance();
     QMenu* view = window.menuBar()->addMenu(QStringLiteral("&View"));
