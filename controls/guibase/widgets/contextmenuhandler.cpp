@@ -107,7 +107,7 @@ bool ContextMenuHandler::open(const ContextMenuRequest& request)
     fill(*menu, request);
     if (guard == nullptr || widget == nullptr) {
         if (guard == nullptr)
-            menu.release();
+            static_cast<void>(menu.release()); // its owner has deleted it
         return true;
     }
     if (menu->isEmpty())

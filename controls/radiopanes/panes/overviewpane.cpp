@@ -234,7 +234,7 @@ void OverviewPanePrivate::paintMarks(QPainter& painter) const
 
 void OverviewPanePrivate::paintTimes(QPainter& painter) const
 {
-    if (!timeText)
+    if (!history || !timeText)
         return;
     const QString from = timeText(history->timeOf(firstSweep()));
     const QString to = timeText(history->timeOf(sweepCount() - 1));
