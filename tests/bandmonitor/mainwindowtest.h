@@ -7,7 +7,6 @@
 
 #include <QAction>
 #include <QSet>
-#include <QSignalSpy>
 
 /// The base of test classes that work in the main window of the application.
 class MainWindowTest : public GuardedTest

@@ -2,7 +2,6 @@
 #include "centre/bandview.h"
 #include "support/checked.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <radiopanes/colors/panecolors.h>
 #include <radiopanes/panes/spectrumpane.h>

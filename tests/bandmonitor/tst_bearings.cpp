@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "settings/sessionvalues.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include "panels/bearingspanel.h"
 #include "panels/headingspinbox.h"
@@ -11,7 +10,6 @@
 
 #include <QAction>
 #include <QLineEdit>
-#include <QSignalSpy>
 
 using namespace bandmonitor;
 

@@ -5,7 +5,6 @@
 #include "panels/jobsmenu.h"
 #include "panels/levelspanel.h"
 #include "recordings.h"
-#include "support/testrows.h"
 
 #include <radiopanes/core/levelline.h>
 

@@ -2,7 +2,6 @@
 #include "recordings.h"
 #include "support/checked.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include "panels/levelspanel.h"
 #include "panels/listtext.h"
@@ -21,7 +20,6 @@
 #include <valueframework/valueselection.h>
 
 #include <QCheckBox>
-#include <QSignalSpy>
 
 #include <algorithm>
 #include <cmath>

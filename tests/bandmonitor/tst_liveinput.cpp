@@ -14,9 +14,7 @@
 #include "support/filesizelimit.h"
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testrows.h"
 
-#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <csignal>

@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
-#include <QSignalSpy>
 
 using namespace bandmonitor;
 

@@ -7,7 +7,6 @@
 #include "recordings.h"
 #include "settings/settings.h"
 #include "support/checked.h"
-#include "support/testrows.h"
 
 #include <radiopanes/core/bandplan.h>
 #include <radiopanes/panes/spectrumpane.h>

@@ -4,9 +4,6 @@
 
 #include "support/files.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
-
-#include <QSignalSpy>
 
 using namespace bandmonitor;
 

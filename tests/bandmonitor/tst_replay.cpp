@@ -4,8 +4,6 @@
 #include "support/checked.h"
 #include "support/guardedtest.h"
 
-#include <QSignalSpy>
-
 #include <array>
 
 using namespace bandmonitor;

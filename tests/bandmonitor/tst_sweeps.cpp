@@ -5,7 +5,6 @@
 
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testrows.h"
 
 #include <radiopanes/core/columnreducer.h>
 #include <radiopanes/core/heldlevels.h>

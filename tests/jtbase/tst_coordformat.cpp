@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <jtbase/coordformat.h>
 #include <jtbase/positionreader.h>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testrows.h"
 
 #include <jtbase/numberhelpers.h>
 

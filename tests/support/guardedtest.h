@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/testrows.h"
+
+#include <QSignalSpy>
 #include <QTest>
 
 #include <memory>
@@ -9,7 +12,8 @@ class TestGuard;
 
 /// The base of test classes: each test function, and each row of one, runs within a TestGuard of
 /// its own, and fails when it leaves a window open. A class that needs more around its functions
-/// overrides prepare() and tidy() instead of having init() and cleanup().
+/// overrides prepare() and tidy() instead of having init() and cleanup(). Its header brings what
+/// every test needs: QTest, QSignalSpy and TestRows.
 class GuardedTest : public QObject
 {
     Q_OBJECT

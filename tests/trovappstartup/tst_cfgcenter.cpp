@@ -2,7 +2,6 @@
 #include "support/files.h"
 #include "support/filesizelimit.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <jtbase/errorhandler.h>
 #include <trovappstartup/cfgcenter.h>

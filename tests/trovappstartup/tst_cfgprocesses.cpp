@@ -3,7 +3,6 @@
 #include "support/files.h"
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testrows.h"
 
 #include <trovappstartup/cfgcenter.h>
 

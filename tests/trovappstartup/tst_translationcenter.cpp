@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/files.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <trovappstartup/cfgcenter.h>
 #include <trovappstartup/translationcenter.h>

@@ -7,7 +7,6 @@
 
 #include "support/files.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <array>
 

@@ -3,7 +3,6 @@
 
 #include "support/guardedtest.h"
 #include "support/modaldialogcloser.h"
-#include "support/testrows.h"
 
 #include <QApplication>
 #include <QCheckBox>

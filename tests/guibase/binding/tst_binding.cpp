@@ -16,7 +16,6 @@
 
 #include "support/duetimers.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 #include "support/typing.h"
 #include "valueframework/probe.h"
 

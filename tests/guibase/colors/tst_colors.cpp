@@ -2,11 +2,9 @@
 #include <guibase/colors/colors.h>
 
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <QApplication>
 #include <QPalette>
-#include <QTest>
 
 #include <limits>
 

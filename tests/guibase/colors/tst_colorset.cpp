@@ -4,7 +4,6 @@
 #include "support/filesizelimit.h"
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testrows.h"
 
 #include <guibase/colors/colors.h>
 #include <guibase/colors/colorset.h>
@@ -16,9 +15,7 @@
 
 #include <QComboBox>
 #include <QDir>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QtEndian>
 
 #include <memory>

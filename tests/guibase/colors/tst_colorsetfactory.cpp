@@ -4,9 +4,6 @@
 #include <guibase/colors/colorslotgroups.h>
 
 #include "support/guardedtest.h"
-#include "support/testrows.h"
-
-#include <QTest>
 
 #include <algorithm>
 #include <array>

@@ -13,7 +13,6 @@
 
 #include <QAction>
 #include <QSet>
-#include <QTest>
 
 #include <memory>
 

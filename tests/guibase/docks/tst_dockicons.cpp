@@ -7,7 +7,6 @@
 #include <QImage>
 #include <QPainter>
 #include <QPalette>
-#include <QTest>
 
 class tst_DockIcons : public GuardedTest
 {

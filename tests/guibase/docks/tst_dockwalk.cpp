@@ -12,7 +12,6 @@
 #include <QAction>
 #include <QLayout>
 #include <QPointer>
-#include <QTest>
 
 #include <array>
 #include <functional>

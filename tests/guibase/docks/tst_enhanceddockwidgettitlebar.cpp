@@ -9,8 +9,6 @@
 #include <QAction>
 #include <QHelpEvent>
 #include <QMenu>
-#include <QSignalSpy>
-#include <QTest>
 #include <QToolButton>
 #include <QToolTip>
 

@@ -6,7 +6,6 @@
 
 #include <QPointer>
 #include <QTabBar>
-#include <QTest>
 #include <QTimer>
 #include <QToolBar>
 

@@ -10,7 +10,6 @@
 #include <QAction>
 #include <QPointer>
 #include <QProcess>
-#include <QTest>
 #include <QToolButton>
 #include <QWindow>
 

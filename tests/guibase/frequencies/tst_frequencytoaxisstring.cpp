@@ -4,8 +4,6 @@
 #include <guibase/frequencies/frequencytoaxisstring.h>
 #include <guibase/services/guibase.h>
 
-#include <QTest>
-
 #include <optional>
 
 class tst_FrequencyToAxisString : public GuardedTest

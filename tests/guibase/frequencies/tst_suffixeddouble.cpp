@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testrows.h"
 
 #include <guibase/frequencies/suffixeddouble.h>
 #include <guibase/services/guibase.h>
 
 #include <valueframework/tree.h>
 #include <valueframework/valueselection.h>
-
-#include <QTest>
 
 #include <cfloat>
 #include <cmath>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
 #include "support/modaldialogcloser.h"
-#include "support/testrows.h"
 
 #include <guibase/hotkeys/hotkeyeditor.h>
 #include <guibase/lists/sortlistview.h>
@@ -15,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTest>
 
 #include <memory>
 

@@ -2,7 +2,6 @@
 #include "support/guardedtest.h"
 #include "support/modaldialogcloser.h"
 #include "support/testguard.h"
-#include "support/testrows.h"
 
 #include <guibase/services/guibase.h>
 
@@ -12,9 +11,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QTabWidget>
-#include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 #include <QWindow>

@@ -8,7 +8,6 @@
 #include <guibase/services/guibase.h>
 
 #include <QAccessible>
-#include <QTest>
 
 #include <limits>
 

@@ -2,10 +2,8 @@
 #include "support/childprocess.h"
 #include "support/files.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <csignal>
 #include <memory>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "layoutwindow.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 #include "support/windowmanager.h"
 
 #include <guibase/records/dockstatecheck.h>

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <guibase/notifications/popup/notifications.h>
 #include <guibase/notifications/popup/standardnotification.h>
@@ -11,7 +10,6 @@
 #include <QImage>
 #include <QMainWindow>
 #include <QMenu>
-#include <QSignalSpy>
 #include <QTcpServer>
 #include <QTimer>
 

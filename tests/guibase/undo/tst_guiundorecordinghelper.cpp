@@ -7,7 +7,6 @@
 #include <valueframework/value.h>
 
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <QUndoStack>
 #include <QWidget>

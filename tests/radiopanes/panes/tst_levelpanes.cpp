@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <radiopanes/colors/panecolors.h>
 #include <radiopanes/panes/axes.h>
@@ -14,7 +13,6 @@
 
 #include <QLineEdit>
 #include <QScopeGuard>
-#include <QSignalSpy>
 #include <QWheelEvent>
 
 #include <cmath>

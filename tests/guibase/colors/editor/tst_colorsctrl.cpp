@@ -27,9 +27,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QToolButton>
 
 #include <memory>

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "support/dockwindow.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <guibase/docks/active/activedockwidgetsupport.h>
 
 #include <QPointer>
-#include <QSignalSpy>
 #include <QTabBar>
-#include <QTest>
 
 using QMainWindowHelpers::ActiveDockWidgetSupport;
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/dockwindow.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <guibase/docks/active/activedockwidgetsupport.h>
 #include <guibase/docks/areas/tabifysupport.h>
@@ -12,8 +11,6 @@
 #include <QPointer>
 #include <QResizeEvent>
 #include <QSet>
-#include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 #include <QToolBar>
 

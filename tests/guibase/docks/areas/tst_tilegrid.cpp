@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testrows.h"
 
 #include <guibase/docks/areas/tilegrid_p.h>
-
-#include <QTest>
 
 #include <algorithm>
 

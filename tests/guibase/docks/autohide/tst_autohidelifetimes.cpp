@@ -9,7 +9,6 @@
 #include <trovappstartup/cfgcenter.h>
 
 #include <QPointer>
-#include <QTest>
 
 #include <functional>
 

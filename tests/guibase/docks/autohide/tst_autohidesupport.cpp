@@ -12,7 +12,6 @@
 
 #include <QDialog>
 #include <QMenu>
-#include <QTest>
 #include <QWindow>
 
 class tst_AutoHideSupport : public GuardedTest

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <guibase/binding/create.h>
 #include <guibase/inputs/controllers/controllerdial.h>
@@ -11,7 +10,6 @@
 
 #include <QAccessible>
 #include <QMouseEvent>
-#include <QSignalSpy>
 #include <QUndoStack>
 #include <QWheelEvent>
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 #include "support/typing.h"
 
 #include <guibase/inputs/coordinates/coordinateedit.h>
@@ -11,7 +10,6 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QSignalSpy>
 
 namespace {
 

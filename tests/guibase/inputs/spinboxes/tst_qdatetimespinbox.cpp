@@ -10,7 +10,6 @@
 #include <valueframework/valueselection.h>
 
 #include <QLineEdit>
-#include <QTest>
 
 using namespace SpinBoxes;
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 #include "support/typing.h"
 
 #include <guibase/formats/realnumberdisplayformat.h>
@@ -15,8 +14,6 @@
 #include <QHBoxLayout>
 #include <QInputMethod>
 #include <QLineEdit>
-#include <QSignalSpy>
-#include <QTest>
 
 using namespace SpinBoxes;
 

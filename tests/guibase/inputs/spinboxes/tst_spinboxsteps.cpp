@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 #include "support/typing.h"
 
 #include <guibase/formats/realnumberdisplayformat.h>
 #include <guibase/inputs/spinboxes/spinboxes.h>
 
 #include <QLineEdit>
-#include <QTest>
 #include <QWheelEvent>
 
 #include <cfloat>
