@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "readers.h"
+#include "support/files.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
+#include "support/randombytes.h"
 
 #include <jtbase/errorhandler.h>
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -35,52 +36,45 @@ protected:
     void tidy() override { qInstallMessageHandler(testHandler); }
 
 private Q_SLOTS:
-    void everyReaderHasFiles();
-    void file_data();
-    void file();
+    void everyReaderHasFiles()
+    {
+        QStringList names;
+        for (const Fuzz::Reader& reader : Fuzz::readers())
+            names << QString::fromLatin1(reader.name);
+        names.sort();
+        QCOMPARE(
+            QDir(QStringLiteral(CORPUS)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name),
+            names);
+    }
+    void file_data()
+    {
+        const QDir corpus(QStringLiteral(CORPUS));
+        Files row;
+        QDirIterator files(corpus.path(), QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString path = files.next();
+            row(corpus.relativeFilePath(path).toUtf8().constData(), path, files.fileName());
+        }
+    }
+    void file()
+    {
+        const auto& [path, name] = Files::fetch();
+        ErrorHandler::SetTraceFlags(0); // damage is reported; here there is nobody to read it
+        const Fuzz::Reader* const reader =
+            Fuzz::findReader(QFileInfo(path).dir().dirName().toLatin1().constData());
+        QVERIFY(reader != nullptr);
+        const QByteArray bytes = readFile(path);
+        QCOMPARE(reader->read(bytes), !name.startsWith(QStringLiteral("bad-")));
+        // Neither what is cut off nor what is damaged stops it.
+        for (qsizetype i = 0; i < bytes.size(); i += 1 + bytes.size() / 16)
+            reader->read(bytes.first(i));
+        RandomBytes random("corpus");
+        const QDeadlineTimer enough(500); // for those that write files
+        for (int round = RandomBytes::rounds(100); round > 0 && !enough.hasExpired(); --round)
+            reader->read(round % 8 == 0 ? random.bytes(300) : random.mutated(bytes));
+        ErrorHandler::SetTraceFlags(ErrorHandler::defaultTraceFlags);
+    }
 };
-
-void tst_Corpus::everyReaderHasFiles()
-{
-    QStringList names;
-    for (const Fuzz::Reader& reader : Fuzz::readers())
-        names << QString::fromLatin1(reader.name);
-    names.sort();
-    QCOMPARE(QDir(QStringLiteral(CORPUS)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name),
-             names);
-}
-
-void tst_Corpus::file_data()
-{
-    const QDir corpus(QStringLiteral(CORPUS));
-    Files row;
-    QDirIterator files(corpus.path(), QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString path = files.next();
-        row(corpus.relativeFilePath(path).toUtf8().constData(), path, files.fileName());
-    }
-}
-
-void tst_Corpus::file()
-{
-    const auto& [path, name] = Files::fetch();
-    ErrorHandler::SetTraceFlags(0); // damage is reported; here there is nobody to read it
-    const Fuzz::Reader* const reader =
-        Fuzz::findReader(QFileInfo(path).dir().dirName().toLatin1().constData());
-    QVERIFY(reader != nullptr);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray bytes = file.readAll();
-    QCOMPARE(reader->read(bytes), !name.startsWith(QStringLiteral("bad-")));
-    // Neither what is cut off nor a byte that has changed stops it.
-    for (qsizetype i = 0; i < bytes.size(); i += 1 + bytes.size() / 16) {
-        reader->read(bytes.first(i));
-        QByteArray changed = bytes;
-        changed[i] = static_cast<char>(changed.at(i) ^ 0x55);
-        reader->read(changed);
-    }
-    ErrorHandler::SetTraceFlags(ErrorHandler::defaultTraceFlags);
-}
 
 QTEST_MAIN(tst_Corpus)
 #include "tst_corpus.moc"

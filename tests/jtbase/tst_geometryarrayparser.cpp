@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
-#include "support/randombytes.h"
 
 #include <jtbase/geometryarrayparser.h>
 
@@ -47,20 +46,6 @@ private Q_SLOTS:
         QCOMPARE(GeometryArrayParser::parseList(text), std::optional(sizes));
         QVERIFY(!GeometryArrayParser::parseList(QStringLiteral("200;350,1;")));
         QVERIFY(!GeometryArrayParser::parseList(QStringLiteral("200;x;")));
-    }
-    void hostileTexts()
-    {
-        RandomBytes random("geometry texts");
-        const QByteArray valid("120,0,0;80,1,1;-2147483648,2147483647,0;");
-        for (int round = RandomBytes::rounds(2000); round > 0; --round) {
-            const QByteArray bytes = round % 4 == 0 ? random.bytes(64) : random.mutated(valid);
-            const auto rows = GeometryArrayParser::parseRows(QString::fromUtf8(bytes));
-            if (!rows)
-                continue;
-            for (const QList<int>& row : *rows)
-                QVERIFY(!row.isEmpty() && row.size() <= GeometryArrayParser::maximumNumbersPerRow);
-            QCOMPARE(GeometryArrayParser::parseRows(GeometryArrayParser::formatRows(*rows)), rows);
-        }
     }
 };
 

@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testrows.h"
 
 #include <guibase/records/dockstatecheck.h>
-#include <guibase/records/splitterstatecheck.h>
 
 #include <QDockWidget>
 #include <QElapsedTimer>
 #include <QMainWindow>
-#include <QSplitter>
-#include <QTest>
 #include <QTextEdit>
 #include <QToolBar>
 
@@ -71,7 +67,6 @@ private:
 class tst_DockStateCheck : public GuardedTest
 {
     Q_OBJECT
-    using States = TestRows<QByteArray>;
 
 private Q_SLOTS:
     /// Cut or longer ones, and those of another version, are refused.
@@ -89,39 +84,6 @@ private Q_SLOTS:
                 QVERIFY(!isValid(state.first(size), version));
         }
     }
-    /// What grouped dragging leaves behind: two tabs in a window of their own.
-    void floatingGroup()
-    {
-        const QByteArray tab("00300100000000ffffffff0000005900ffffff");
-        const QByteArray group =
-            head + "00000000" + sizes + "f9000000320000003200000100000000f0fa000000000100000002" +
-            "fb0000000a0064006f0063006b" + tab + "fb0000000a0064006f0063006b" + tab + toolBars;
-        QVERIFY(isValid(QByteArray::fromHex(group), version));
-    }
-    void hostileStates_data()
-    {
-        States row;
-        const QByteArray tail = sizes + toolBars;
-        const QByteArray area = head + "00000001000000000000006400000064";
-        const QByteArray dock("fb0000000200410100000000000000640000000000000000");
-        const auto add = [&row](const char* name, const QByteArray& hex) {
-            row(name, QByteArray::fromHex(hex));
-        };
-        QByteArray deep = area;
-        for (int depth = 0; depth < 100000; ++depth)
-            deep += "fc0200000001fc00000000ffffffff0000000000000000";
-        add("many areas", head + "7fffffff" + tail);
-        add("endless row", area + "fc027fffffff" + dock + tail);
-        add("empty row", area + "fc0200000000" + tail);
-        add("wrong orientation", area + "fc0000000001" + dock + tail);
-        add("tab that is none", area + "fa000000050200000001" + dock + tail);
-        add("very deep", deep);
-        add("long name", area + "fc0200000001fb7ffffffe0041" + tail);
-        add("endless tool-bar lines", head + "00000000" + sizes + "fc7fffffff");
-        add("no corner",
-            head + "00000000" + "000001000000010000000000000000040000000800000008" + toolBars);
-    }
-    void hostileStates() { QVERIFY(!isValid(std::get<0>(States::fetch()), version)); }
     /// What passes the check, the toolkit must survive, quickly, and layouts must still be
     /// possible.
     void mutatedStates()
@@ -158,31 +120,6 @@ private Q_SLOTS:
         }
         qInfo("%d of %d passed", passed, RandomBytes::rounds(1500));
     }
-    void splitterStates()
-    {
-        QSplitter splitter;
-        for (int i = 0; i < 3; ++i)
-            splitter.addWidget(new QWidget);
-        splitter.show();
-        const QByteArray good = splitter.saveState();
-        QCOMPARE(SplitterStateCheck::sizes(good).value_or(QList<int>()).size(), 3);
-        for (qsizetype size = 0; size < good.size(); ++size)
-            QVERIFY(!SplitterStateCheck::sizes(good.first(size)));
-        RandomBytes random("splitter states");
-        for (int round = 0; round < RandomBytes::rounds(2000); ++round) {
-            const QByteArray state = random.mutated(good);
-            if (SplitterStateCheck::sizes(state)) {
-                splitter.restoreState(state);
-                QVERIFY(splitter.handleWidth() <= 256);
-            }
-        }
-    }
-
-private:
-    // Parts of states, hexadecimal: the beginning, the sizes behind the areas, no tool bars.
-    const QByteArray head{"000000ff00000001fd"};
-    const QByteArray sizes{"000001000000010000000004000000040000000800000008"};
-    const QByteArray toolBars{"fc00000000"};
 };
 
 QTEST_MAIN(tst_DockStateCheck)

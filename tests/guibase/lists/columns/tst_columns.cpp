@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
-#include "support/randombytes.h"
-#include "support/testrows.h"
 
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
@@ -9,7 +7,6 @@
 #include <trovappstartup/cfgcenter.h>
 
 #include <QHeaderView>
-#include <QTest>
 
 #include <algorithm>
 #include <memory>
@@ -130,13 +127,6 @@ private Q_SLOTS:
         configuration()->SetString(listName, damaged);
         storedBy(unaware);
         QCOMPARE(configuration()->GetString(listName + QStringLiteral("_damaged")), damaged);
-        RandomBytes random("column texts");
-        for (int round = 0; round < RandomBytes::rounds(500); ++round) {
-            const QByteArray text = random.mutated("120,2,0;80,0,1;70,1,0;");
-            const auto list = makeList(3, QString::fromLatin1(text));
-            QVERIFY(list->header()->hiddenSectionCount() < 3);
-            QVERIFY(list->header()->length() < 100'000);
-        }
     }
 };
 

@@ -13,7 +13,6 @@
 #include <QMenu>
 #include <QStandardItemModel>
 #include <QTableView>
-#include <QTest>
 
 #include <memory>
 
