@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/childprocess.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <QFile>
 #include <QTcpServer>
-#include <QTest>
 
 #include <csignal>
 #include <memory>

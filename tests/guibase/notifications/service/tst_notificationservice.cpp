@@ -3,12 +3,9 @@
 
 #include "support/descriptorlimit.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
-#include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTest>
 
 #include <netinet/in.h>
 #include <sys/socket.h>
