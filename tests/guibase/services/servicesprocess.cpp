@@ -2,10 +2,7 @@
 // A small application that a test starts as a process of its own:
 //     services_process <scenario> <configuration folder>
 // It tells on its standard output what it found. A warning ends it, until the last destructor.
-#include <guibase/colors/colorset.h>
-#include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
-#include <guibase/splitters/splitter.h>
 
 #include <jtbase/errorhandler.h>
 #include <trovappstartup/cfgcenter.h>
@@ -15,8 +12,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDockWidget>
-#include <QHeaderView>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QTextStream>
@@ -94,41 +89,6 @@ int runSession(int argc, char** argv, const QString& scenario)
     return QApplication::exec();
 }
 
-/// Shows and changes layouts of all kinds, and waits to be killed. Tells the layouts at start.
-int runLayouts(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    GuiBase& services = GuiBase::Instance();
-    services.SetLayoutWriteDelay(20);
-    CfgCenter::SetAutoStoreDelay(20);
-    QMainWindow window;
-    window.resize(600, 400);
-    auto* splitter = new Splitter(Qt::Horizontal, &window, QString(), QStringLiteral("panes"));
-    auto* list = new SortListView(splitter, "list");
-    list->header()->setStretchLastSection(false);
-    list->addColumn(QStringLiteral("first"));
-    list->SetColumnWidthPersistantName(QStringLiteral("list"));
-    splitter->addWidget(list);
-    splitter->addWidget(new QWidget);
-    window.setCentralWidget(splitter);
-    QDockWidget* dock = GuiBase::AddAsDockWidget(new QWidget, QStringLiteral("dock"), &window,
-                                                 Qt::LeftDockWidgetArea);
-    services.SetMainWidget(&window);
-    tell(QStringLiteral("layouts"), QStringLiteral("%1 %2 %3 %4")
-                                        .arg(window.width())
-                                        .arg(list->columnWidth(0))
-                                        .arg(splitter->sizes().at(0))
-                                        .arg(dock->isHidden() ? 1 : 0));
-    QTimer::singleShot(0, &application, [&] {
-        dock->hide();
-        window.resize(654, 432);
-        list->setColumnWidth(0, 77);
-        splitter->setSizes({1, 1});
-        splitter->shiftHandle(1, -100);
-    });
-    return QApplication::exec();
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -144,7 +104,5 @@ int main(int argc, char** argv)
     if (scenario.startsWith(QStringLiteral("close")) ||
         scenario.startsWith(QStringLiteral("delete")))
         return runSession(argc, argv, scenario);
-    if (scenario == QStringLiteral("layouts"))
-        return runLayouts(argc, argv);
     return 2;
 }

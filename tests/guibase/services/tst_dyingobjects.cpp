@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
 #include "support/modaldialogcloser.h"
-#include "support/testrows.h"
 
 #include <guibase/colors/colorset.h>
 #include <guibase/services/guibase.h>
@@ -10,7 +9,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
-#include <QTest>
 
 #include <memory>
 

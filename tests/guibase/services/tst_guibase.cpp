@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/files.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <guibase/colors/colorset.h>
 #include <guibase/lists/sortlistview.h>
@@ -17,9 +16,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 #include <ctime>

@@ -2,7 +2,6 @@
 #include "support/files.h"
 #include "support/guardedtest.h"
 #include "support/modaldialogcloser.h"
-#include "support/testrows.h"
 
 #include <guibase/services/guibase.h>
 
@@ -16,9 +15,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <memory>
 

@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "support/childprocess.h"
-#include "support/files.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <trovappstartup/cfgcenter.h>
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
-
-#include <csignal>
 
 class tst_ServicesProcess : public GuardedTest
 {
@@ -64,27 +59,6 @@ private Q_SLOTS:
         for (int i = 0; i < sessions.size(); ++i)
             expected += QStringLiteral("zone=%1\nwidth=%2\n").arg(i == 0 ? 1 : 0).arg(width += 11);
         QCOMPARE(told, expected);
-    }
-    /// A process that is killed loses nothing but the last moments.
-    void layoutsSurviveKill()
-    {
-        const QString process = QStringLiteral(SERVICES_PROCESS);
-        const QStringList arguments{QStringLiteral("layouts"), configDir()};
-        {
-            ChildProcess first(process, arguments);
-            const QString file = CfgCenter::GetAppCfgFileName();
-            for (const char* part : {"77,0,0;", "panes_Sizes", "GuiBase_main"})
-                QTRY_VERIFY2(readFile(file).contains(part), part);
-            QVERIFY(first.send(SIGKILL));
-            QCOMPARE(first.waitForEnd(), -SIGKILL);
-        }
-        CfgCenter::LoadAll();
-        const QString sizes = CfgCenter::GetAppCfg(LayoutView)
-                                  ->OpenSubCfg(QStringLiteral("Splitter"))
-                                  ->GetString(QStringLiteral("panes_Sizes"));
-        ChildProcess second(process, arguments);
-        const QByteArray told = "layouts=654 77 " + sizes.section(u';', 0, 0).toLatin1() + " 1";
-        QVERIFY2(second.waitForLine(told), second.output().constData());
     }
 
 private:
