@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMetaEnum>
 #include <QPushButton>
 #include <QTest>
 
@@ -29,8 +30,9 @@ void DialogScript::step()
     } else if (answer == QLatin1String("Enter")) {
         QTest::keyClick(dialog, Qt::Key_Return);
     } else if (box) {
-        const bool yes = answer == QLatin1String("Yes");
-        box->button(yes ? QMessageBox::Yes : QMessageBox::No)->click();
+        const auto names = QMetaEnum::fromType<QMessageBox::StandardButtons>();
+        const int value = names.keyToValue(answer.toLatin1().constData());
+        box->button(static_cast<QMessageBox::StandardButton>(value))->click();
     } else if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
         files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(answer);
         static_cast<QDialog*>(files)->accept();

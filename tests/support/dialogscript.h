@@ -13,8 +13,9 @@ class DialogScript : public QObject
 {
     Q_OBJECT
 public:
-    /// Answers: "Yes", "No", "Escape" and "Enter" (presses the default button) for message boxes;
-    /// "Escape" or a file name for file dialogs. A dialog too many is closed by Escape.
+    /// Answers: the name of a standard button ("Yes", "NoToAll"), "Escape" or "Enter" (presses the
+    /// default button) for message boxes; "Escape" or a file name for file dialogs. A dialog too
+    /// many is closed by Escape.
     explicit DialogScript(const QStringList& answers);
 
     /// "title: text" of each message box, the title of each file dialog, in order.

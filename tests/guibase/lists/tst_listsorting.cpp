@@ -9,8 +9,6 @@
 
 #include <QHeaderView>
 #include <QScrollBar>
-#include <QSignalSpy>
-#include <QTest>
 
 #include <algorithm>
 #include <memory>

@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
 #include "support/menuvisitor.h"
-#include "support/testrows.h"
 
 #include <guibase/lists/iupdatemenu.h>
 #include <guibase/lists/resortpopupmenu.h>
-
-#include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 

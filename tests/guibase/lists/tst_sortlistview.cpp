@@ -9,8 +9,6 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
-#include <QSignalSpy>
-#include <QTest>
 
 #include <functional>
 #include <memory>

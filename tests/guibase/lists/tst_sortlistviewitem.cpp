@@ -4,10 +4,8 @@
 #include <guibase/lists/sortlistviewitem.h>
 
 #include "support/guardedtest.h"
-#include "support/testrows.h"
 
 #include <QCheckBox>
-#include <QTest>
 
 #include <memory>
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <guibase/lists/sortrowtable.h>
 
+#include "support/dialogscript.h"
 #include "support/guardedtest.h"
-#include "support/testrows.h"
+#include "support/modaldialogcloser.h"
 
 #include <guibase/services/guibase.h>
 
@@ -10,38 +11,12 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
-#include <QTest>
-#include <QTimer>
 
-#include <functional>
 #include <memory>
+#include <optional>
 
 namespace {
-
-/// Answers the questions that come, one after another; the last answer for all that follow.
-class Answers : public QObject
-{
-public:
-    explicit Answers(std::function<void(QMessageBox&, int)> answer)
-    {
-        m_timer.callOnTimeout(this, [this, answer] {
-            const QPointer<QMessageBox> box(
-                qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
-            if (!box)
-                return;
-            texts << box->text();
-            answer(*box, static_cast<int>(texts.size()) - 1);
-        });
-        m_timer.start(1);
-    }
-
-    QStringList texts;
-
-private:
-    QTimer m_timer;
-};
 
 QString rowsOf(const QTableWidget& table)
 {
@@ -56,7 +31,7 @@ QString rowsOf(const QTableWidget& table)
 class tst_SortRowTable : public GuardedTest
 {
     Q_OBJECT
-    using Deletions = TestRows<QList<int>, int, QString>;
+    using Deletions = TestRows<QStringList, int, QString>;
     using Texts = TestRows<QString, QString>;
 
 private Q_SLOTS:
@@ -101,33 +76,32 @@ private Q_SLOTS:
     {
         // The answers, the number of questions, and the rows that are left.
         Deletions row;
-        constexpr int yes = QMessageBox::Yes, no = QMessageBox::No;
-        row("yes", {yes, yes, yes}, 3, "4/0");
+        const QString yes = QStringLiteral("Yes"), no = QStringLiteral("No");
+        row("by default", QStringList(3, QStringLiteral("Enter")), 3, "4/0");
         row("no", {yes, no, yes}, 3, "2/0 4/0");
-        row("yes to all", {no, QMessageBox::YesToAll}, 2, "1/0 4/0");
-        row("no to all", {yes, QMessageBox::NoToAll}, 2, "2/0 3/0 4/0");
+        row("yes to all", {no, QStringLiteral("YesToAll")}, 2, "1/0 4/0");
+        row("no to all", {yes, QStringLiteral("NoToAll")}, 2, "2/0 3/0 4/0");
     }
     void deleting()
     {
         const auto& [answers, questions, left] = Deletions::fetch();
         fill({"1", "2", "3", "4"});
         m_table->setRangeSelected(QTableWidgetSelectionRange(0, 0, 2, 1), true);
-        const Answers given([answers = answers](QMessageBox& box, int question) {
-            QCOMPARE(box.defaultButton(), box.button(QMessageBox::Yes));
-            box.button(QMessageBox::StandardButton(answers.value(question, QMessageBox::NoToAll)))
-                ->click();
-        });
+        const DialogScript script(answers);
         QTest::keyRelease(m_table.get(), Qt::Key_Delete);
         QCOMPARE(rowsOf(*m_table), left);
-        QCOMPARE(given.texts.size(), questions);
-        QCOMPARE(given.texts.first(), QStringLiteral("Do you want to delete item \"1, 0\"?"));
+        QCOMPARE(script.shown().size(), questions);
+        QVERIFY(script.shown().first().endsWith(
+            QStringLiteral("Do you want to delete item \"1, 0\"?")));
     }
     void tableDiesInQuestion()
     {
         m_table->setRowCount(2); // rows without items
         m_table->selectAll();
-        const Answers given([this](QMessageBox& box, int question) {
-            question == 0 ? box.button(QMessageBox::Yes)->click() : m_table.reset();
+        std::optional<ModalDialogCloser> second;
+        const ModalDialogCloser first([&](QDialog& question) {
+            second.emplace([this](QDialog&) { m_table.reset(); });
+            static_cast<QMessageBox&>(question).button(QMessageBox::Yes)->click();
         });
         m_table->slotDelete();
         QVERIFY(!m_table);
@@ -183,12 +157,10 @@ private Q_SLOTS:
     {
         const QString line = QStringLiteral("1\n");
         QGuiApplication::clipboard()->setText(line.repeated(SortRowTable::maximumPastedRows + 2));
-        const Answers given([](QMessageBox& box, int question) {
-            box.button(question == 0 ? QMessageBox::Ok : QMessageBox::YesToAll)->click();
-        });
+        const DialogScript script({QStringLiteral("Ok"), QStringLiteral("YesToAll")});
         m_table->slotPaste();
         QCOMPARE(m_table->rowCount(), SortRowTable::maximumPastedRows);
-        QVERIFY(given.texts.value(0).contains(QStringLiteral(" 2 more rows")));
+        QVERIFY(script.shown().value(0).contains(QStringLiteral(" 2 more rows")));
         m_table->selectAll();
         m_table->slotDelete(); // row by row it would take minutes
         QCOMPARE(m_table->rowCount(), 0);
