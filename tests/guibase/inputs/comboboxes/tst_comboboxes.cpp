@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
-#include "support/testrows.h"
 #include "support/typing.h"
 
 #include <guibase/inputs/comboboxes/comboboxdisplayer.h>
@@ -11,11 +10,9 @@
 
 #include <QCompleter>
 #include <QIntValidator>
-#include <QSignalSpy>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QStringListModel>
-#include <QTest>
 #include <QTreeView>
 #include <QWheelEvent>
 
@@ -130,32 +127,27 @@ private Q_SLOTS:
             QCOMPARE(box.currentIndex(), bestIndex);
         }
     }
-    void followsItsRange()
+    void specialValueLiesBelowTheRange()
     {
         Int32ComboBox box;
-        QStringList calls;
-        const auto log = [&calls](const char* name) {
-            return [&calls, name](int value) { calls << QString::asprintf(name, value); };
-        };
-        connect(&box, &Int32ComboBox::valueChanged, &box, log("value %d"));
-        connect(&box, &Int32ComboBox::minimumChanged, &box, log("min %d"));
-        connect(&box, &Int32ComboBox::maximumChanged, &box, log("max %d"));
-        const auto took = [&calls] { return std::exchange(calls, {}).join(u','); };
+        QStringList told;
+        connect(&box, &Int32ComboBox::valueChanged, &box,
+                [&told](int value) { told << QString::number(value); });
+        const auto took = [&told] { return std::exchange(told, {}).join(u','); };
         box.setRange(100, 50);
-        QCOMPARE(took(), QStringLiteral("value 50,min 50,max 100"));
         box.setValue(7);
         box.setValue(700);
-        QCOMPARE(took(), QStringLiteral("value 100"));
+        QCOMPARE(took(), QStringLiteral("50,100"));
         box.setSpecialValueText(QStringLiteral("Auto"), -1);
         box.setMinimum(60);
         box.setValue(59);
-        QCOMPARE(took(), QStringLiteral("min 60,value -1"));
+        QCOMPARE(took(), QStringLiteral("-1"));
         box.setMinimum(61); // The special value is told of once more.
-        QCOMPARE(took(), QStringLiteral("value -1,min 61"));
+        QCOMPARE(took(), QStringLiteral("-1"));
         QCOMPARE(box.inputLineEdit()->text(), QStringLiteral("Auto"));
         enter(box, QStringLiteral("65"));
         enter(box, QStringLiteral(" Auto "));
-        QCOMPARE(took(), QStringLiteral("value 65,value -1"));
+        QCOMPARE(took(), QStringLiteral("65,-1"));
         DoubleComboBox real;
         real.setSpecialValue(qQNaN());
         for (const double none : {qQNaN(), qInf()}) {
