@@ -60,8 +60,9 @@ endif()
 file(GLOB designer "${WORK_DIR}/libguibase-designer_*.deb")
 if(designer)
     unpack(libguibase-designer "libguibase0 ${same_version}" "libqt6gui6 ")
-    file(GLOB_RECURSE plugin "${root}/usr/*/qt6/plugins/designer/*.so")
-    run(output ldd "${plugin}")
+    run(folder qmake6 -query QT_INSTALL_PLUGINS) # where Designer looks
+    string(STRIP "${folder}" folder)
+    run(output ldd "${root}${folder}/designer/libguibase_designer.so")
     expect("${output}" "libRadioPanes.so.0 => ${root}/usr/")
 endif()
 
