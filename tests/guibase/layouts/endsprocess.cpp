@@ -2,9 +2,9 @@
 // A small application that a test starts as a process of its own:
 //     ends_process <configuration folder> <way to end> [<what it should look like>]
 // Without the last word it changes everything that is kept. It tells what it looks like, and ends
-// in its way: "close", "quit", "return", "signal" for waiting to be ended from outside, or "server"
-// for ending the session's server. Of those that leave no time for an end, "exit" ends, "wait"
-// waits, and "save" saves without a pause.
+// in its way: "close", "quit", "return", "signal" for waiting to be ended from outside, "session"
+// as a desktop does that ends its session, or "server" for ending the session's server. Of those
+// that leave no time for an end, "exit" ends, "wait" waits, and "save" saves without a pause.
 #include <guibase/colors/colorset.h>
 #include <guibase/docks/autohide/autohidesupport.h>
 #include <guibase/docks/dockwidgetconfigurator.h>
@@ -28,6 +28,7 @@
 #include <QHeaderView>
 #include <QMainWindow>
 #include <QMenu>
+#include <QSessionManager>
 #include <QTextEdit>
 #include <QTextStream>
 #include <QTimer>
@@ -178,6 +179,13 @@ void endServer()
         ::kill(server, SIGKILL);
 }
 
+/// What a session manager does: it has the programs store what they have, and ends them.
+void endSession()
+{
+    Q_EMIT qGuiApp->commitDataRequest(*qGuiApp->findChild<QSessionManager*>());
+    ::raise(SIGKILL);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -218,6 +226,8 @@ int main(int argc, char** argv)
             std::exit(0);
         else if (way == QStringLiteral("server"))
             endServer();
+        else if (way == QStringLiteral("session"))
+            endSession();
         else if (way == QStringLiteral("save"))
             saving.start(0);
         else

@@ -30,6 +30,7 @@ private Q_SLOTS:
         row("exit", "exit", 0, 0);
         row("killed", "wait", SIGKILL, -SIGKILL);
         row("killed while it saves", "save", SIGKILL, -SIGKILL);
+        row("session end", "session", 0, -SIGKILL);
         row("X server gone", "server", 0, 1);
     }
     void keepsEverything()
