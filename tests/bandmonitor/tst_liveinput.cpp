@@ -178,6 +178,7 @@ private Q_SLOTS:
         Commands row; // command; how it ends; what it says
         row("ends", "printf '$'", "it has ended", "");
         row("fails", "printf '$'; exit 3", "status 3", "");
+        row("no sweeps", "echo; echo no", "ended. Line 2: no valid date and time. Expected:", "");
         row("missing", "/no/such/command", "no such command", "/no/such/command");
         row("floods", "printf '$'; yes error | head -n 100000 >&2", "it has ended",
             "more messages");

@@ -158,8 +158,11 @@ void LiveInput::finish()
     m_remarks.flush();
     m_said.flush();
     setState(State::Ended);
-    if (guard)
-        Q_EMIT ended(m_reason);
+    if (!guard)
+        return;
+    const bool isOther = m_recording->count() == 0 && m_parser.skippedCount() > 0;
+    Q_EMIT ended(isOther ? m_reason + QStringLiteral(". ") + m_parser.reasonForNoSweep()
+                         : m_reason);
 }
 
 } // namespace bandmonitor

@@ -61,7 +61,8 @@ Q_SIGNALS:
     void statusChanged();
     /// One line for the operator; floods are summed up.
     void remarked(const QString& text);
-    /// Nothing more will come; `reason` is one line for the operator.
+    /// Nothing more will come; `reason` is one line for the operator. Where lines came and no
+    /// sweep, it tells what a line should look like.
     void ended(const QString& reason);
 
 private:

@@ -116,11 +116,8 @@ void RecordingLoader::Private::end()
 {
     parser->finish();
     if (recording->isEmpty()) {
-        const QStringList lines = parser->report().split(QLatin1Char('\n'));
         const QString text = tr("%1 holds no sweep of a band scan.").arg(shownPath());
-        const QString line = lines.value(1);
-        return fail(
-            QStringList{text, line, RecordingParser::expectedForm()}.join(u' ').simplified());
+        return fail(text + u' ' + parser->reasonForNoSweep());
     }
     release();
     state = State::Idle;

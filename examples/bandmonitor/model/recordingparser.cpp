@@ -254,6 +254,12 @@ QString RecordingParser::expectedForm()
         "\"2026-05-04, 12:00:00, 88000000, 89000000, 250000, 100, -70.1, -69.8, -45, -71.3\"."));
 }
 
+QString RecordingParser::reasonForNoSweep() const
+{
+    QString reason = m_skippedLines.empty() ? QString() : textOf(m_skippedLines.front()) + u' ';
+    return (reason + expectedForm()).simplified();
+}
+
 QString RecordingParser::report() const
 {
     if (m_skippedCount == 0)

@@ -82,6 +82,9 @@ public:
 
     /// What a line should look like, as a text for the user.
     static QString expectedForm();
+    /// What is wrong with the first skipped line, if any, and what one should look like: for the
+    /// user whose text has no sweep. One line.
+    QString reasonForNoSweep() const;
     /// The skipped lines as a text for the user, one a line; empty without any.
     QString report() const;
 
