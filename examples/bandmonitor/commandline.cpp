@@ -43,6 +43,13 @@ CommandLine printed(const QString& text)
     return result;
 }
 
+bool isFifo(const QString& name)
+{
+    struct stat status
+    {};
+    return ::stat(QFile::encodeName(name).constData(), &status) == 0 && S_ISFIFO(status.st_mode);
+}
+
 /// What is wrong with the file, or nothing.
 QString fileProblem(const QString& name)
 {
@@ -51,6 +58,8 @@ QString fileProblem(const QString& name)
         return Texts::tr("There is no file \"%1\".").arg(name);
     if (file.isDir())
         return Texts::tr("\"%1\" is a folder, not a recording.").arg(name);
+    if (!file.isFile() && !isFifo(name))
+        return Texts::tr("\"%1\" is not a regular file.").arg(name);
     if (!file.isReadable())
         return Texts::tr("The file \"%1\" may not be read.").arg(name);
     return {};
@@ -68,13 +77,6 @@ std::optional<double> replayFactorOf(const QString& text)
 bool isLanguage(const QString& text)
 {
     return text == QLatin1String("system") || QLocale(text).language() != QLocale::C;
-}
-
-bool isFifo(const QString& name)
-{
-    struct stat status
-    {};
-    return ::stat(QFile::encodeName(name).constData(), &status) == 0 && S_ISFIFO(status.st_mode);
 }
 
 /// Reads where the sweeps come from. Returns what is wrong, or nothing.

@@ -38,6 +38,7 @@ private Q_SLOTS:
         row.add("bandmonitor --history 5 -", CommandLine::Run, "");
         row.add("bandmonitor --follow $/a.csv", CommandLine::Run, "");
         row.add("bandmonitor --follow -", CommandLine::Fail, "\"-\"");
+        row.add("bandmonitor --follow /dev/null", CommandLine::Fail, "regular");
         row.add("bandmonitor --follow $/a.csv -", CommandLine::Fail, "2");
         row.add("bandmonitor --history 0 -", CommandLine::Fail, "0");
         row.add("bandmonitor --dialogs --shots $ -", CommandLine::Fail, "live");

@@ -144,6 +144,10 @@
         <translation>„%1“ ist ein Ordner, keine Aufzeichnung.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not a regular file.</source>
+        <translation>„%1“ ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
         <source>The file &quot;%1&quot; may not be read.</source>
         <translation>Die Datei „%1“ darf nicht gelesen werden.</translation>
     </message>
