@@ -23,6 +23,9 @@
 #include <cstdio>
 #include <memory>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 using namespace bandmonitor;
 
 namespace {
@@ -36,6 +39,16 @@ bool hasDisplay()
 #else
     return true;
 #endif
+}
+
+/// Of a program that is started with one of its standard streams closed, the next file that it
+/// opens would become that stream, and `-` would read from it.
+void openStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(stream, F_GETFD) < 0)
+            ::open("/dev/null", O_RDWR); // takes the lowest free number
+    }
 }
 
 /// The command line is read before there is a QApplication, so that help, version and mistakes are
@@ -189,6 +202,7 @@ int run(int argc, char** argv, const CommandLine& commandLine)
 
 int main(int argc, char** argv)
 {
+    openStandardStreams();
     QCoreApplication::setApplicationName(QStringLiteral("bandmonitor"));
     QCoreApplication::setApplicationVersion(QStringLiteral(BANDMONITOR_VERSION));
     const CommandLine commandLine = readCommandLine(argc, argv);

@@ -78,6 +78,10 @@ private Q_SLOTS:
             QCOMPARE(ended.status, 1);
             QVERIFY2(ended.errors.contains(part), ended.errors.constData());
         }
+        const Ended closed = run(QStringLiteral("sh"),
+                                 {QStringLiteral("-c"), QStringLiteral("exec $0 --config $1 - <&-"),
+                                  application, folder.path()});
+        QVERIFY2(closed.status == 1 && closed.errors.contains("standard input: "), closed.errors);
         // In a dialog, which does not keep it from ending in good order.
         for (const QString& input : {file, QStringLiteral("/no/such.csv")}) {
             QProcess process;
