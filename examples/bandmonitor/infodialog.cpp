@@ -21,7 +21,9 @@ QString coloursName()
 {
     const QString& name = ColorSet::Instance().GetName();
     const bool factory = name == QLatin1String(ColorSet::factoryDefaultName);
-    return factory ? InfoDialog::tr("factory") : QDir::toNativeSeparators(name);
+    // Those that come with the library have names in every language.
+    return factory ? InfoDialog::tr("factory")
+                   : QDir::toNativeSeparators(ColorSet::tr(name.toUtf8().constData()));
 }
 
 } // namespace

@@ -332,7 +332,7 @@ void ColorSet::UpdateComboBox(QComboBox* box)
     if (current < 0)
         current = d->knownFiles.indexOf(QFileInfo(d->fileName).absoluteFilePath());
     if (current >= 0 && d->dirty)
-        texts[current] += QStringLiteral(" [changed]");
+        texts[current] = ColorSetBuiltIn::shownName(texts[current], true);
     const QSignalBlocker blocker(box);
     box->clear();
     box->addItems(texts);

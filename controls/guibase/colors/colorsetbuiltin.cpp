@@ -108,3 +108,9 @@ std::optional<ColorSetBuiltIn::Set> ColorSetBuiltIn::find(const QString& name)
         return Set{ColorSet::colorBlindName, changed(colorBlind)};
     return std::nullopt;
 }
+
+QString ColorSetBuiltIn::shownName(const QString& name, bool isChanged)
+{
+    const QString shown = QCoreApplication::translate("ColorSet", name.toUtf8().constData());
+    return isChanged ? shown + QCoreApplication::translate("ColorSet", " [changed]") : shown;
+}

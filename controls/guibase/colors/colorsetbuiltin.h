@@ -24,4 +24,7 @@ std::span<const char* const> names();
 /// The set with this name, also translated; nothing for another name.
 std::optional<Set> find(const QString& name);
 
+/// What the user reads for the name of a set; the names of files are the same in every language.
+QString shownName(const QString& name, bool isChanged);
+
 } // namespace ColorSetBuiltIn

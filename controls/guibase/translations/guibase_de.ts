@@ -67,6 +67,10 @@
 <context>
     <name>ColorSet</name>
     <message>
+        <source> [changed]</source>
+        <translation> [geändert]</translation>
+    </message>
+    <message>
         <source>File Error</source>
         <translation>Dateifehler</translation>
     </message>

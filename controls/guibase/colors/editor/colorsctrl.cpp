@@ -8,6 +8,7 @@
 
 #include <guibase/colors/colorcontrast.h>
 #include <guibase/colors/colorset.h>
+#include <guibase/colors/colorsetbuiltin.h>
 #include <guibase/lists/sortlistview.h>
 #include <guibase/services/guibase.h>
 
@@ -179,9 +180,8 @@ QToolButton* ColorsCtrl::Private::makeUndoButton(QAction* action, const QKeySequ
 void ColorsCtrl::Private::setName()
 {
     const ColorSet& colors = ColorSet::Instance();
-    name->setText(colors.GetName() +
-                  (colors.GetDirty() ? QStringLiteral(" [changed]") : QString()));
-    name->setToolTip(colors.GetName());
+    name->setText(ColorSetBuiltIn::shownName(colors.GetName(), colors.GetDirty()));
+    name->setToolTip(ColorSetBuiltIn::shownName(colors.GetName(), false));
 }
 
 void ColorsCtrl::Private::populate()
