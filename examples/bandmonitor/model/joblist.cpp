@@ -52,6 +52,7 @@ std::vector<int> JobList::ids(JobOrder order) const
         return names != 0 ? names < 0 : a.id < b.id;
     });
     std::vector<int> result;
+    result.reserve(sorted.size());
     for (const Job& job : sorted)
         result.push_back(job.id);
     return result;

@@ -10,7 +10,7 @@ namespace bandmonitor {
 
 namespace {
 
-constexpr qint64 pieceSize = 128 * 1024;
+constexpr qint64 pieceSize = qint64{128} * 1024;
 constexpr int publishTime = 25;       // milliseconds
 constexpr int statusTime = 250;       // milliseconds
 constexpr std::size_t sweepShare = 4; // a sweep takes at most this part of the history

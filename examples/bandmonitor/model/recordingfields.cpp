@@ -34,7 +34,7 @@ std::optional<quint64> RecordingFields::readTime()
         return std::nullopt;
     qint64 fractionUs = 0;
     if (skip('.')) {
-        int unitUs = 100'000;
+        qint64 unitUs = 100'000;
         for (; m_at != m_end && *m_at >= '0' && *m_at <= '9'; ++m_at) {
             fractionUs += unitUs * (*m_at - '0');
             unitUs /= 10;

@@ -49,7 +49,7 @@ public:
     qint64 skippedCount = 0;
     QString report;
     std::chrono::milliseconds sliceTime{8};
-    qint64 pieceSize = 128 * 1024;
+    qint64 pieceSize = qint64{128} * 1024;
 };
 
 QString RecordingLoader::Private::open()

@@ -14,7 +14,7 @@ namespace bandmonitor {
 namespace {
 
 constexpr qint64 sliceTime = 8; // milliseconds
-constexpr qsizetype pieceSize = 256 * 1024;
+constexpr qsizetype pieceSize = qsizetype{256} * 1024;
 
 } // namespace
 

@@ -13,7 +13,7 @@ class Jobs;
 
 /// One entry per job, with its state. Whenever the menu opens, the entries stand in the order that
 /// the user has chosen in its sub-menu.
-class JobsMenu : public ResortPopupMenu, private IUpdateMenu
+class JobsMenu final : public ResortPopupMenu, private IUpdateMenu
 {
     Q_OBJECT
 public:
