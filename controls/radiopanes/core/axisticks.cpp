@@ -84,9 +84,11 @@ std::vector<AxisTick> layoutTicks(const AxisRange& range, double smallestStep, i
         step = niceStep(step * 1.5);
         ticks = ticksAt(range, step, labelOf);
     }
+    // Asked this way round, what is no number goes too: a step may be too large for one.
     std::erase_if(ticks, [&](const AxisTick& tick) {
         const double half = extentOf(tick.label) / 2.0;
-        return tick.position - half < -overhang || tick.position + half > range.pixels + overhang;
+        return !(tick.position - half >= -overhang &&
+                 tick.position + half <= range.pixels + overhang);
     });
     return ticks;
 }

@@ -52,6 +52,7 @@ private Q_SLOTS:
         row("empty", 2, 2, 300, 1, false);
         row("no pixels", 1, 2, 0, 1, false);
         row("no number", qQNaN(), 2, 300, 1, false);
+        row("step too large for a number", 1e39, 1e308, 23, 1, false);
         row("endless", -1e308, 1.7e308, 300, 1, false);
     }
 
