@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "numbertext_p.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -10,6 +11,9 @@ namespace {
 /// What QLocale makes of every negative precision but that for the shortest text.
 constexpr int defaultPrecision = 6;
 constexpr int highestFastPrecision = 20;
+/// No number has more decimals. QLocale makes room for as many as it is asked for, or ends the
+/// program.
+constexpr int highestPrecision = 1074;
 /// 2^53: below it there is room for all digits in the buffer, and halves exist.
 constexpr double highestFastValue = 9007199254740992.0;
 
@@ -44,7 +48,7 @@ QString NumberText::ofReal(double value, const QLocale& locale, const LocaleNota
                         decimals <= highestFastPrecision && value != 0.0 &&
                         std::abs(value) < highestFastValue;
     if (!isFast || isTie(value, decimals)) {
-        QString text = locale.toString(value, format, precision);
+        QString text = locale.toString(value, format, std::min(precision, highestPrecision));
         return plus ? text.prepend(u'+') : text;
     }
     std::array<char, 48> buffer; // Sign, 16 digits, point, decimals.

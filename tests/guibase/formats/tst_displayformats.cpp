@@ -226,6 +226,8 @@ private Q_SLOTS:
             real.setLocale(ungrouped(QString::fromLatin1(name)));
             IntegralNumberDisplayFormat<qint64> integer;
             integer.setLocale(real.locale());
+            real.setPrecision(std::numeric_limits<int>::max());
+            QCOMPARE(real.textFromValue(0.25), real.locale().toString(0.25, 'f', 1074));
             for (const double number : std::as_const(numbers)) {
                 for (const int precision : {6, -1, 0, 3}) {
                     real.setPrecision(precision);
