@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
+#include "support/mouse.h"
 
 #include <radiopanes/colors/panecolors.h>
 #include <radiopanes/panes/axes.h>
@@ -13,7 +14,6 @@
 
 #include <QLineEdit>
 #include <QScopeGuard>
-#include <QWheelEvent>
 
 #include <cmath>
 
@@ -54,20 +54,11 @@ class tst_LevelPanes : public GuardedTest
     {
         return m_panes->addSweep(++m_timeUs, startHz, stepHz, sweep);
     }
-    void turnWheel(Qt::KeyboardModifiers modifiers, int angle)
-    {
-        const QPointF place(50, 50);
-        QWheelEvent event(place, spectrum().mapToGlobal(place), {}, {0, angle}, Qt::NoButton,
-                          modifiers, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&spectrum(), &event);
-    }
     QPoint placeOf(double hertz) { return {static_cast<int>(spectrum().positionOf(hertz)), 90}; }
     void drag(QPoint from, QPoint to, Qt::KeyboardModifiers modifiers)
     {
         QTest::mousePress(&spectrum(), Qt::LeftButton, modifiers, from);
-        QMouseEvent move(QEvent::MouseMove, to, spectrum().mapToGlobal(to), Qt::NoButton,
-                         Qt::LeftButton, modifiers);
-        QApplication::sendEvent(&spectrum(), &move);
+        dragMouse(spectrum(), to, modifiers);
         QTest::mouseRelease(&spectrum(), Qt::LeftButton, modifiers, to);
     }
 
@@ -190,8 +181,8 @@ private Q_SLOTS:
         QTest::keyClick(&spectrum(), Qt::Key_Down, Qt::ControlModifier);
         QCOMPARE(spectrum().decibelsPerDivision(), 5.0);
         for (const int part : {-60, 0, -60}) // of a notch, as touchpads report it
-            turnWheel(Qt::ControlModifier, part);
-        turnWheel(Qt::ShiftModifier, -120);
+            turnWheel(spectrum(), part, Qt::ControlModifier);
+        turnWheel(spectrum(), -120, Qt::ShiftModifier);
         QCOMPARE(spectrum().highLevel(), -20.0);
         QCOMPARE(spectrum().lowLevel(), -120.0);
         QCOMPARE(changed.count(), 5);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
+#include "support/mouse.h"
 #include "support/randombytes.h"
 #include "support/typing.h"
 
@@ -14,7 +15,6 @@
 #include <QStandardItemModel>
 #include <QStringListModel>
 #include <QTreeView>
-#include <QWheelEvent>
 
 #include <cfloat>
 
@@ -202,11 +202,8 @@ private Q_SLOTS:
         QCOMPARE(box.currentIndex(), 1);
         box.interpret(); // Digits that are not shown survive.
         QCOMPARE(box.value(), 2.123456789);
-        QWheelEvent wheel({5, 5}, box.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&box, &wheel);
+        QVERIFY(!turnWheel(box, -120));
         QCOMPARE(box.value(), 2.123456789);
-        QVERIFY(!wheel.isAccepted());
         box.show();
         box.setFocus();
         QTRY_VERIFY(box.inputLineEdit()->hasSelectedText());
@@ -216,7 +213,7 @@ private Q_SLOTS:
         box.setValue(3);
         choose(box, box.model()->index(1, 0)); // The same item once more.
         QCOMPARE(box.value(), 2.5);
-        QCoreApplication::sendEvent(&box, &wheel);
+        turnWheel(box, -120);
         QCOMPARE(box.value(), 10.0);
         box.setValue(10.0000001); // It is shown by the text of an item.
         choose(box, box.model()->index(2, 0));

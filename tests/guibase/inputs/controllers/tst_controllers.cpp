@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
+#include "support/mouse.h"
 
 #include <guibase/binding/create.h>
 #include <guibase/inputs/controllers/controllerdial.h>
@@ -9,21 +10,11 @@
 #include <valueframework/undorecording.h>
 
 #include <QAccessible>
-#include <QMouseEvent>
 #include <QUndoStack>
-#include <QWheelEvent>
 
 #include <cmath>
 
 namespace {
-
-void turn(QWidget& widget, int angle, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-{
-    const QPointF place = widget.rect().center();
-    QWheelEvent event(place, widget.mapToGlobal(place), {}, {0, angle}, Qt::NoButton, modifiers,
-                      Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&widget, &event);
-}
 
 /// A controller of 300 pixels without text, from 0 to 100, at 50.
 template <typename Controller>
@@ -39,9 +30,7 @@ struct Dragged
     void press(QPoint from) { QTest::mousePress(&controller, Qt::LeftButton, {}, from); }
     void move(QPoint to, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        QMouseEvent event(QEvent::MouseMove, to, controller.mapToGlobal(to), Qt::NoButton,
-                          Qt::LeftButton, modifiers);
-        QCoreApplication::sendEvent(&controller, &event);
+        dragMouse(controller, to, modifiers);
     }
     void release(QPoint at) { QTest::mouseRelease(&controller, Qt::LeftButton, {}, at); }
 
@@ -80,7 +69,7 @@ private Q_SLOTS:
         slider.setFineStep(0.05);
         slider.setDefaultValue(0.5);
         slider.setValue(value);
-        turn(slider, 120); // without the focus
+        turnWheel(slider, 120); // without the focus
         slider.show();
         QVERIFY(QTest::qWaitForWindowActive(&slider));
         slider.setFocus();
@@ -91,9 +80,9 @@ private Q_SLOTS:
         for (const QChar key : keys) {
             const auto modifiers = key.isUpper() ? Qt::ControlModifier : Qt::NoModifier;
             if (key == u'.')
-                turn(slider, 60);
+                turnWheel(slider, 60);
             else if (key.toLower() == u'w')
-                turn(slider, 120, modifiers);
+                turnWheel(slider, 120, modifiers);
             else if (key != u' ')
                 QTest::keyClick(&slider, keyOf.value(key.toLower()), modifiers);
         }

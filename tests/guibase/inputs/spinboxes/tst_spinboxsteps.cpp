@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
+#include "support/mouse.h"
 #include "support/typing.h"
 
 #include <guibase/formats/realnumberdisplayformat.h>
 #include <guibase/inputs/spinboxes/spinboxes.h>
 
 #include <QLineEdit>
-#include <QWheelEvent>
 
 #include <cfloat>
 #include <limits>
@@ -189,16 +189,10 @@ private Q_SLOTS:
         for (int i = 0; i < 3; ++i)
             QTest::keyClick(&box, Qt::Key_PageUp);
         QCOMPARE(box.value(), qint8(121));
-        const auto turn = [&box] {
-            const QPointF center = QRectF(box.rect()).center();
-            QWheelEvent event(center, box.mapToGlobal(center), {}, {0, 120}, Qt::NoButton,
-                              Qt::NoModifier, Qt::NoScrollPhase, false);
-            QCoreApplication::sendEvent(&box, &event);
-        };
-        turn();
+        turnWheel(box, 120);
         QCOMPARE(box.value(), qint8(122));
         box.clearFocus();
-        turn();
+        turnWheel(box, 120);
         QCOMPARE(box.value(), qint8(122));
         box.setReadOnly(true);
         box.setFocus();
