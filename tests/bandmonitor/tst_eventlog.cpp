@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QLabel>
 #include <QScrollBar>
-#include <QTemporaryDir>
 
 using namespace bandmonitor;
 
@@ -137,11 +136,10 @@ private Q_SLOTS:
         QCOMPARE(m_pane->text().count(QLatin1Char('\n')), 12);
         list().topLevelItem(0)->setSelected(true);
         QCOMPARE(m_pane->text(), first);
-        QTemporaryDir folder;
-        const QString file = folder.filePath(QStringLiteral("events.txt"));
+        const QString file = filePath(QStringLiteral("events.txt"));
         QCOMPARE(m_pane->saveTo(file), std::nullopt);
         QCOMPARE(readFile(file).count('\n'), 12); // the shown ones, selected or not
-        QVERIFY(m_pane->saveTo(folder.filePath(QStringLiteral("none/events.txt"))).has_value());
+        QVERIFY(m_pane->saveTo(filePath(QStringLiteral("none/events.txt"))).has_value());
     }
 
     void logMayGoBeforeItsPane()

@@ -15,8 +15,6 @@
 #include "support/guardedtest.h"
 #include "support/randombytes.h"
 
-#include <QTemporaryDir>
-
 #include <csignal>
 #include <sys/stat.h>
 
@@ -226,7 +224,7 @@ private Q_SLOTS:
     }
     void fifoOutlivesItsWriter()
     {
-        const QString path = m_folder.filePath(QStringLiteral("fifo"));
+        const QString path = filePath(QStringLiteral("fifo"));
         QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
         start(std::make_unique<DescriptorSource>(path));
         for (int writer = 1; writer <= 3; ++writer) {
@@ -242,7 +240,7 @@ private Q_SLOTS:
     }
     void followedFileStartsAnew()
     {
-        const QString path = m_folder.filePath(QStringLiteral("grows.csv"));
+        const QString path = filePath(QStringLiteral("grows.csv"));
         QVERIFY(writeFile(path, sweepOf(1) + sweepOf(2)));
         auto source = std::make_unique<FollowedFile>(path);
         source->setPollTime(std::chrono::milliseconds(20));
@@ -274,7 +272,7 @@ private Q_SLOTS:
         QTRY_VERIFY(session.recording() && session.recording()->first() > 70);
         QVERIFY(session.replay().isFollowing());
         session.replay().pause();
-        const QString path = m_folder.filePath(QStringLiteral("saved.csv"));
+        const QString path = filePath(QStringLiteral("saved.csv"));
         const QByteArray expected = "# head\n" + sweepsOf(*session.recording());
         QSignalSpy saved(&session.saver(), &RecordingSaver::saved);
         QSignalSpy failed(&session.saver(), &RecordingSaver::failed);
@@ -335,7 +333,6 @@ private:
     }
     void tidy() override { m_input.reset(); }
 
-    QTemporaryDir m_folder;
     QStringList m_told;
     std::unique_ptr<LiveInput> m_input;
     TestSource* m_source = nullptr;

@@ -32,7 +32,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QToolButton>
 #include <QTranslator>
@@ -84,12 +83,11 @@ private:
 class tst_MainWindow : public MainWindowTest
 {
     Q_OBJECT
-    QTemporaryDir m_folder;
     QUrl m_opened;
 
     QString write(const QString& name, const QByteArray& content)
     {
-        return writeFile(m_folder.filePath(name), content) ? m_folder.filePath(name) : QString();
+        return writeFile(filePath(name), content) ? filePath(name) : QString();
     }
     void prepare() override { openWindow(); }
 
@@ -150,13 +148,11 @@ class tst_MainWindow : public MainWindowTest
     void checkLetters() const
     {
         QStringList fields;
-        const QList<QLabel*> labels = m_window->findChildren<QLabel*>();
-        for (const QLabel* label : labels) {
+        for (const QLabel* label : m_window->findChildren<QLabel*>()) {
             if (label->buddy() != nullptr)
                 fields << label->text();
         }
-        const QList<QCheckBox*> boxes = m_window->findChildren<QCheckBox*>();
-        for (const QCheckBox* box : boxes)
+        for (const QCheckBox* box : m_window->findChildren<QCheckBox*>())
             fields << box->text();
         checkLetters(m_window->menuBar()->actions(), fields);
     }
@@ -166,8 +162,7 @@ class tst_MainWindow : public MainWindowTest
         auto* list = dialog->findChild<SortListView*>();
         list->setCurrentItem(list->findItems(element, Qt::MatchExactly | Qt::MatchRecursive).at(0));
         QTest::keyClick(list, Qt::Key_Return);
-        const QList<QLineEdit*> edits = list->viewport()->findChildren<QLineEdit*>();
-        for (QLineEdit* edit : edits) {
+        for (QLineEdit* edit : list->viewport()->findChildren<QLineEdit*>()) {
             if (!edit->isVisible())
                 continue;
             edit->setText(color);
@@ -223,7 +218,7 @@ private Q_SLOTS:
         m_window->modes().setMode(Mode::Measure);
         QCOMPARE(count("Measure"), 1);
         const QSignalSpy told(m_window.get(), &MainWindow::notOpened);
-        m_window->open(m_folder.filePath(QStringLiteral("none.csv")), MainWindow::OnFailure::Tell);
+        m_window->open(filePath(QStringLiteral("none.csv")), MainWindow::OnFailure::Tell);
         QTRY_COMPARE(count("Not opened: "), 1);
         QCOMPARE(told.count(), 1);
     }
@@ -253,7 +248,7 @@ private Q_SLOTS:
         QTest::keyClick(&list, Qt::Key_Return);
         QCOMPARE(replay.position(), 0);
 
-        const QString grows = m_folder.filePath(QStringLiteral("grows.csv"));
+        const QString grows = filePath(QStringLiteral("grows.csv"));
         QVERIFY(QFile::copy(samplePath(), grows));
         m_window->setHistory(100'000);
         m_window->openLive(std::make_unique<FollowedFile>(grows));
@@ -322,8 +317,7 @@ private Q_SLOTS:
     {
         QString text;
         const ModalDialogCloser closer([&text](QDialog& dialog) {
-            const QList<QLabel*> labels = dialog.findChildren<QLabel*>();
-            for (const QLabel* label : labels)
+            for (const QLabel* label : dialog.findChildren<QLabel*>())
                 text += label->text() + QLatin1Char('\n');
         });
         open(write(QStringLiteral("gaps.csv"),
@@ -401,7 +395,7 @@ private Q_SLOTS:
     void colorsAreEdited()
     {
         ColorSet& colors = ColorSet::Instance();
-        colors.Save(nullptr, m_folder.filePath(QStringLiteral("own.cst")));
+        colors.Save(nullptr, filePath(QStringLiteral("own.cst")));
         const auto openEditor = [this] {
             entry("Edit colours")->trigger();
             return m_window->findChild<ColorsDialog*>();

@@ -15,14 +15,12 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
-#include <QTemporaryDir>
 
 using namespace bandmonitor;
 
 class tst_RecentRecordings : public MainWindowTest
 {
     Q_OBJECT
-    QTemporaryDir m_folder;
 
     QMenu* recent() const
     {
@@ -32,7 +30,7 @@ class tst_RecentRecordings : public MainWindowTest
     {
         QString result;
         for (const QAction* action : recent()->actions())
-            result += action->text().remove(m_folder.path() + u'/') + u',';
+            result += action->text().remove(folder() + u'/') + u',';
         return result;
     }
     QString title() const { return m_window->windowTitle().section(QStringLiteral(" – "), 0, 0); }
@@ -41,15 +39,14 @@ private Q_SLOTS:
     void listsWhatWasOpened()
     {
         for (const char* name : {"a.csv", "b.csv", "c.csv"})
-            QVERIFY(
-                writeFile(m_folder.filePath(QLatin1String(name)), SampleGenerator().nextSweep()));
+            QVERIFY(writeFile(filePath(QLatin1String(name)), SampleGenerator().nextSweep()));
         openWindow();
         Q_EMIT m_window->menuBar()->actions().constFirst()->menu()->aboutToShow();
         QVERIFY(!recent()->menuAction()->isEnabled()); // the sample is none of the user's files
         for (const char* name : {"a.csv", "b.csv"})
-            open(m_folder.filePath(QLatin1String(name)));
+            open(filePath(QLatin1String(name)));
         QTRY_COMPARE(names(), QStringLiteral("&1 b.csv,&2 a.csv,"));
-        DialogScript dialogs({m_folder.filePath(QStringLiteral("c.csv"))}); // then only Escape
+        DialogScript dialogs({filePath(QStringLiteral("c.csv"))}); // then only Escape
         entry("Open…")->trigger();
         QTRY_COMPARE(title(), QStringLiteral("c.csv"));
         openWindow();
@@ -59,10 +56,10 @@ private Q_SLOTS:
         QTRY_COMPARE(names(), QStringLiteral("&1 a.csv,&2 c.csv,&3 b.csv,"));
 
         // What is gone goes from the list, what cannot be read stays.
-        QVERIFY(QFile::remove(m_folder.filePath(QStringLiteral("b.csv"))));
+        QVERIFY(QFile::remove(filePath(QStringLiteral("b.csv"))));
         recent()->actions().at(2)->trigger();
         QTRY_COMPARE(names(), QStringLiteral("&1 a.csv,&2 c.csv,"));
-        QVERIFY(writeFile(m_folder.filePath(QStringLiteral("c.csv")), "no recording"));
+        QVERIFY(writeFile(filePath(QStringLiteral("c.csv")), "no recording"));
         recent()->actions().at(1)->trigger();
         QTRY_COMPARE(names(), QStringLiteral("&1 c.csv,&2 a.csv,"));
         QTRY_COMPARE(dialogs.shown().filter(QStringLiteral("Recording not opened")).size(), 2);
@@ -86,7 +83,7 @@ private Q_SLOTS:
             QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
         }
         QCOMPARE(QFileInfo(proposed).fileName(), QStringLiteral("sample sweep 4.csv"));
-        const QString file = m_folder.filePath(QStringLiteral("part"));
+        const QString file = filePath(QStringLiteral("part"));
         DialogScript dialogs({file, QStringLiteral("/dev/null/part.csv")}); // then only Escape
         entry("Save visible sweep")->trigger();
         const QByteArray text = readFile(file + QStringLiteral(".csv"));
@@ -127,14 +124,14 @@ private Q_SLOTS:
 
     void fullDiskLeavesTheOldFile()
     {
-        const QString file = m_folder.filePath(QStringLiteral("old.csv"));
+        const QString file = filePath(QStringLiteral("old.csv"));
         QVERIFY(writeFile(file, "old"));
         {
             const FileSizeLimit full(8192);
             QVERIFY(writeTextFile(file, QByteArray(8193, 'x')).has_value());
         }
         QCOMPARE(readFile(file), QByteArray("old"));
-        QCOMPARE(QDir(m_folder.path()).entryList({QStringLiteral("old.csv?*")}), QStringList());
+        QCOMPARE(QDir(folder()).entryList({QStringLiteral("old.csv?*")}), QStringList());
     }
 };
 

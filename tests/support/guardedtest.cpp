@@ -11,6 +11,16 @@ QString GuardedTest::configDir() const
     return m_guard->configDir();
 }
 
+QString GuardedTest::folder() const
+{
+    return m_guard->folder();
+}
+
+QString GuardedTest::filePath(const QString& name) const
+{
+    return folder() + u'/' + name;
+}
+
 void GuardedTest::init()
 {
     m_guard = std::make_unique<TestGuard>();

@@ -27,6 +27,10 @@ protected:
     /// Runs behind each test function, within its guard.
     virtual void tidy() {}
     QString configDir() const;
+    /// A folder for this test function alone.
+    QString folder() const;
+    /// The file, or the folder, with this name in it.
+    QString filePath(const QString& name) const;
 
 private Q_SLOTS:
     void init();

@@ -20,8 +20,8 @@ TestGuard::TestGuard()
         "|internal error: +void QXcbWindow::setNetWmStateOnUnmappedWindow)")));
     QLocale::setDefault(QLocale::c());
     CfgCenter::SetAutoStoreDelay(-1);
-    CfgCenter::SetConfigDir(m_configDir.filePath(QStringLiteral("config")));
-    CfgCenter::SetAdminConfigDir(m_configDir.filePath(QStringLiteral("admin")));
+    CfgCenter::SetConfigDir(m_folder.filePath(QStringLiteral("config")));
+    CfgCenter::SetAdminConfigDir(m_folder.filePath(QStringLiteral("admin")));
 }
 
 TestGuard::~TestGuard()
@@ -34,15 +34,14 @@ TestGuard::~TestGuard()
 
 QString TestGuard::configDir() const
 {
-    return m_configDir.filePath(QStringLiteral("config"));
+    return m_folder.filePath(QStringLiteral("config"));
 }
 
 QString TestGuard::finish()
 {
     QStringList left;
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr) {
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        for (QWidget* window : windows) {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
             // Closed pop-ups and combo lists are the toolkit's own top-level widgets.
             if (!window->isVisible() || window->parentWidget() != nullptr)
                 continue;

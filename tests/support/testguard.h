@@ -15,10 +15,12 @@ public:
     TestGuard(const TestGuard&) = delete;
     TestGuard& operator=(const TestGuard&) = delete;
 
+    /// A folder of its own, in which the configuration has its folders.
+    QString folder() const { return m_folder.path(); }
     QString configDir() const;
     /// Closes and deletes the windows that the test left; names them, or is empty without any.
     QString finish();
 
 private:
-    QTemporaryDir m_configDir;
+    QTemporaryDir m_folder;
 };

@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -42,14 +41,13 @@ private Q_SLOTS:
     void installsTheConfiguredLanguage()
     {
         const auto& [language, translation, localeName, trace] = Languages::fetch();
-        QTemporaryDir folder;
         for (const auto& [name, bytes] :
              {std::pair("own_de.qm", germanFile), std::pair("own_de_AT.qm", austrianFile),
               std::pair("own_fr.qm", QByteArray("no translations"))})
-            QVERIFY(writeFile(folder.filePath(QString::fromLatin1(name)), bytes));
+            QVERIFY(writeFile(filePath(QString::fromLatin1(name)), bytes));
         TranslationCenter& center = TranslationCenter::Instance();
         center.AddCatalogue(QStringLiteral("own"));
-        center.AddFolder(folder.path());
+        center.AddFolder(folder());
         CfgCenter::GetAppCfg(SettingsView)->SetString(QStringLiteral("Language"), language);
         if (*trace != 0)
             expectTrace(trace);

@@ -19,7 +19,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QToolTip>
 
 #include <functional>
@@ -180,31 +179,29 @@ private Q_SLOTS:
     void asksForNames()
     {
         const auto& [answer, filter, saved] = Names::fetch();
-        QTemporaryDir folder;
-        QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("dir.old")));
-        const QString file = folder.filePath(QStringLiteral("old.cst"));
+        QVERIFY(QDir(folder()).mkdir(QStringLiteral("dir.old")));
+        const QString file = filePath(QStringLiteral("old.cst"));
         QVERIFY(writeFile(file, "x"));
         Opener opener;
         FileOpenManager manager(&opener, filter, nullptr, 2, cfg());
         QSignalSpy cancelled(&manager, &FileOpenManager::signalNotSaved);
         manager.InitMenu(3);
         DialogScript script(
-            {QStringLiteral("Escape"), file, QStringLiteral("Escape"), folder.filePath(answer)});
+            {QStringLiteral("Escape"), file, QStringLiteral("Escape"), filePath(answer)});
         manager.SlotOpen();
         manager.SlotOpen();
         QCOMPARE(storedList(), QStringLiteral("0=") + file);
         manager.SlotSaveAs();
         QCOMPARE(cancelled.count(), 1);
         manager.SlotSaveAs();
-        const QString name = folder.filePath(saved);
+        const QString name = filePath(saved);
         QCOMPARE(opener.calls,
                  QStringList({QStringLiteral("open ") + file, QStringLiteral("save ") + name}));
         QCOMPARE(storedList(), QStringLiteral("0=%1,1=%2").arg(name, file));
     }
     void asksBeforeItReplacesTheNameWithExtension()
     {
-        QTemporaryDir folder;
-        const QString file = folder.filePath(QStringLiteral("data.cst"));
+        const QString file = filePath(QStringLiteral("data.cst"));
         QVERIFY(writeFile(file, "x"));
         Opener opener;
         FileOpenManager manager(&opener, QStringLiteral("(*.cst)"), nullptr, 0, nullptr);
@@ -213,7 +210,7 @@ private Q_SLOTS:
             ModalDialogCloser doubts(
                 [&](QDialog& box) { question = static_cast<QMessageBox&>(box).text(); });
             auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-            edit->setText(folder.filePath(QStringLiteral("data")));
+            edit->setText(filePath(QStringLiteral("data")));
             dialog.accept();
         });
         manager.SlotSaveAs();

@@ -12,7 +12,6 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QScreen>
-#include <QTemporaryDir>
 #include <QWindow>
 
 #include <array>
@@ -248,7 +247,7 @@ private Q_SLOTS:
         const auto& [state, geometry, isDamaged] = Records::fetch();
         record()->SetString(QStringLiteral("State"), state);
         record()->SetString(QStringLiteral("Geometry"), geometry);
-        const QString traces = m_folder.filePath(QString::fromLatin1(QTest::currentDataTag()));
+        const QString traces = filePath(QString::fromLatin1(QTest::currentDataTag()));
         QVERIFY(ErrorHandler::SetTraceFile(traces));
         ErrorHandler::SetTraceFlags(ErrorHandler::TraceGuiBase);
         Window window;
@@ -435,7 +434,6 @@ private:
         ErrorHandler::SetTraceFile(QString());
     }
 
-    QTemporaryDir m_folder;
     GuiBase* m_services = &GuiBase::Instance();
 };
 

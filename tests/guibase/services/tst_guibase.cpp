@@ -16,7 +16,6 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <ctime>
@@ -100,12 +99,11 @@ private Q_SLOTS:
     void styleSheet()
     {
         const auto& [application, administrator, loaded] = Sheets::fetch();
-        const QTemporaryDir folder;
-        const QString base = folder.path() + QLatin1Char('/');
+        const QString base = folder() + QLatin1Char('/');
         QVERIFY(writeFile(base + QStringLiteral("red #%20.css"), "QLabel { color: #ff0000 }"));
         QVERIFY(writeFile(base + QStringLiteral("blue.css"), "QLabel { color: #0000ff }"));
         ICfg* administratorCfg = CfgCenter::GetAdminCfg(SettingsView);
-        administratorCfg->SetString(QStringLiteral("SkornDataDir"), folder.path());
+        administratorCfg->SetString(QStringLiteral("SkornDataDir"), folder());
         administratorCfg->SetString(QStringLiteral("StyleSheet"),
                                     QString(administrator).replace(QLatin1Char('*'), base));
         applicationCfg()->SetString(QStringLiteral("StyleSheet"),
@@ -145,8 +143,7 @@ private Q_SLOTS:
     }
     void settingsComeBack()
     {
-        const QTemporaryDir folder;
-        const QString colorFile = folder.filePath(QStringLiteral("night.cst"));
+        const QString colorFile = filePath(QStringLiteral("night.cst"));
         ColorSet& colors = ColorSet::Instance();
         const QRgb factory = colors.GetColor(IColorBase::ECOLOR{}).rgb();
         const QColor other = colors.GetColor(static_cast<IColorBase::ECOLOR>(1));

@@ -15,7 +15,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -86,8 +85,7 @@ private Q_SLOTS:
             &parent, QString(), withReceiver ? &receiver : nullptr, infoSlot, nullptr, manualSlot);
         QCOMPARE(menu->title(), QStringLiteral("&Help"));
         QStringList shortcuts;
-        const QList<QAction*> actions = menu->actions();
-        for (const QAction* action : actions)
+        for (const QAction* action : menu->actions())
             shortcuts << action->shortcut().toString();
         QCOMPARE(shortcuts.join(u' '), expected);
         const QString traces = takeTraces();
@@ -176,7 +174,7 @@ private Q_SLOTS:
     {
         const auto& [given, configured, opened, warning] = Manuals::fetch();
         const QString formerFolder = QDir::currentPath();
-        QVERIFY(QDir::setCurrent(m_folder.path()));
+        QVERIFY(QDir::setCurrent(folder()));
         QString asked;
         TrovOS::Set(std::make_unique<RecordingOs>(asked));
         CfgCenter::GetAppCfg(SettingsView)->SetString(QStringLiteral("HelpFile"), configured);
@@ -200,10 +198,9 @@ private Q_SLOTS:
     }
 
 private:
-    QString traceFileName() const { return m_folder.filePath(QStringLiteral("trace.txt")); }
+    QString traceFileName() const { return filePath(QStringLiteral("trace.txt")); }
     void prepare() override
     {
-        QFile::remove(traceFileName());
         QVERIFY(ErrorHandler::SetTraceFile(traceFileName()));
         ErrorHandler::SetTraceFlags(ErrorHandler::TraceGuiBase);
     }
@@ -216,7 +213,6 @@ private:
     }
     QString takeTraces() const { return QString::fromUtf8(readFile(traceFileName())); }
 
-    QTemporaryDir m_folder;
     GuiBase* m_services = &GuiBase::Instance();
 };
 
