@@ -36,8 +36,7 @@ protected:
     /// The menu entry whose text begins so, not counting the marks of the keys.
     QAction* entry(const char* text) const
     {
-        const QList<QAction*> actions = m_window->findChildren<QAction*>();
-        for (QAction* action : actions) {
+        for (QAction* action : m_window->findChildren<QAction*>()) {
             if (action->text().remove(u'&').startsWith(QString::fromUtf8(text)))
                 return action;
         }

@@ -35,8 +35,7 @@ struct Component : SaveComponentIf
 
 QWidget* splashScreen()
 {
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget* widget : widgets) {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (widget->inherits("QSplashScreen"))
             return widget;
     }

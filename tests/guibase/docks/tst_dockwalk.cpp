@@ -129,8 +129,7 @@ private:
             QCOMPARE(tile->tileDockWidgetsAction(area).isVisible(),
                      tile->isTileDockWidgetsPossible(area));
         }
-        const auto docks = window.findChildren<QDockWidget*>();
-        for (const QDockWidget* dock : docks) {
+        for (const QDockWidget* dock : window.findChildren<QDockWidget*>()) {
             auto* support = MaximizeMinimizeSupport::get(*dock);
             QVERIFY(support != nullptr && support->dockWidget() == dock);
             QVERIFY(dock->updatesEnabled());

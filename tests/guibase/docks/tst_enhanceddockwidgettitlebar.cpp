@@ -222,8 +222,7 @@ private:
     }
     QToolButton* button(const QString& name) const
     {
-        const QList<QToolButton*> buttons = m_bar->findChildren<QToolButton*>();
-        for (QToolButton* each : buttons)
+        for (QToolButton* each : m_bar->findChildren<QToolButton*>())
             if (each->accessibleName() == name && each->isVisible())
                 return each;
         return nullptr;

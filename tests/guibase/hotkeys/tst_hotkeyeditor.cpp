@@ -204,8 +204,7 @@ private:
     }
     static QPushButton* button(const QDialog& dialog, const QString& text)
     {
-        const QList<QPushButton*> buttons = dialog.findChildren<QPushButton*>();
-        for (QPushButton* each : buttons) {
+        for (QPushButton* each : dialog.findChildren<QPushButton*>()) {
             if (each->text() == text || each->text() == QLatin1Char('&') + text)
                 return each;
         }
@@ -213,8 +212,7 @@ private:
     }
     static QString messageOf(const QDialog& dialog)
     {
-        const QList<QLabel*> labels = dialog.findChildren<QLabel*>();
-        for (const QLabel* label : labels) {
+        for (const QLabel* label : dialog.findChildren<QLabel*>()) {
             if (label->wordWrap())
                 return label->text();
         }

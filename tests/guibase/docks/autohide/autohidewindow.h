@@ -55,8 +55,7 @@ struct AutoHideWindow
     {
         QList<QToolButton*> found;
         for (const QToolBar* toolBar : {bar(Qt::LeftToolBarArea), bar(Qt::RightToolBarArea)}) {
-            const QList<QAction*> actions = toolBar->actions();
-            for (QAction* action : actions) {
+            for (QAction* action : toolBar->actions()) {
                 const QVariant stands =
                     action->property("QMainWindowHelpers_AutoHideSupport_dockWidget");
                 if (action->isVisible() && stands.value<QObject*>() == dock)

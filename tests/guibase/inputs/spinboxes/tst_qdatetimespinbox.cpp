@@ -17,6 +17,14 @@ class tst_QDateTimeSpinBox : public GuardedTest
 {
     Q_OBJECT
 
+    static void setFormat(QDateTimeSpinBox& box, const QString& text)
+    {
+        auto format = std::make_unique<QDateTimeDisplayFormat>();
+        format->setDateTimeFormat(text);
+        box.addDisplayFormat(std::move(format));
+        box.setCurrentDisplayFormatIndex(0);
+    }
+
 protected:
     void prepare() override
     {
@@ -27,10 +35,7 @@ private Q_SLOTS:
     void showsDatesInTheChosenZone()
     {
         QDateTimeSpinBox box;
-        auto format = std::make_unique<QDateTimeDisplayFormat>();
-        format->setDateTimeFormat(QStringLiteral("yyyy-MM-dd 'at' hh:mm:ss"));
-        box.addDisplayFormat(std::move(format));
-        box.setCurrentDisplayFormatIndex(0);
+        setFormat(box, QStringLiteral("yyyy-MM-dd 'at' hh:mm:ss"));
         ValueSelection& zone = *GuiBase::Instance().GetTimeZone();
         const QDateTime time(QDate(2024, 7, 1), QTime(12, 0), Qt::UTC);
         box.setValue(time);
@@ -66,10 +71,7 @@ private Q_SLOTS:
     void findsHalfDaysAndQuotes()
     {
         QDateTimeSpinBox box;
-        auto format = std::make_unique<QDateTimeDisplayFormat>();
-        format->setDateTimeFormat(QStringLiteral("h:mm AP 'o''clock', MMMM d"));
-        box.addDisplayFormat(std::move(format));
-        box.setCurrentDisplayFormatIndex(0);
+        setFormat(box, QStringLiteral("h:mm AP 'o''clock', MMMM d"));
         GuiBase::Instance().GetTimeZone()->SetValue(Trov::DateTime::UTC_TimeZone);
         activate(box);
         for (const int cursor : {0, 5, 20, 27}) {

@@ -86,8 +86,7 @@ void quit()
 /// The pop-up that stands for those that do not fit.
 QPushButton* more()
 {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
         if (auto* button = qobject_cast<QPushButton*>(window))
             return button;
     }
