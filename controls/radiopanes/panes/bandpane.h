@@ -54,6 +54,9 @@ public:
     bool isSnapping() const;
     /// Where a pin at the frequency snaps to; the frequency itself where there is nothing.
     virtual double snapped(double hertz) const;
+    /// Where a pin snaps to that is set or dragged to this place of the pane: for panes that show
+    /// one sweep, snapped() of the frequency there.
+    virtual double snappedAt(const QPointF& place) const;
 
     /// Whether the pane explains its colours in a corner. At first a spectrum does, where more than
     /// one trace is visible; a waterfall does not, whose legend is a bar from its lowest to its
@@ -69,10 +72,6 @@ Q_SIGNALS:
     void optionsChanged();
 
 protected:
-    /// Where a pin snaps to that is set or dragged to this place of the pane: for panes that show
-    /// one sweep, snapped() of the frequency there.
-    virtual double snappedAt(const QPointF& place) const;
-
     /// Cursor, pins, zoom rectangle and focus frame; to be called at the end of paintEvent().
     void paintOverlay(QPainter& painter);
 

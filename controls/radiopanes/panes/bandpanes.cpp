@@ -259,23 +259,23 @@ void BandPanes::showMenu(BandPane* pane, QPoint globalPosition)
     menu->setLayoutDirection(QGuiApplication::layoutDirection()); // not that of the axes
     const QPoint place = pane->mapFromGlobal(globalPosition);
     if (const std::optional<std::size_t> pin = pane->pinAt(place.x()))
-        addPinEntries(menu, pane, *pin);
+        addPinEntries(menu, pane, *pin, place.y());
     if (pane == d->waterfall)
         addTimeEntries(menu, d->waterfall->sweepAt(place.y()));
     fillMenu(menu);
     menu->popup(globalPosition);
 }
 
-void BandPanes::addPinEntries(QMenu* menu, BandPane* pane, std::size_t pin)
+void BandPanes::addPinEntries(QMenu* menu, BandPane* pane, std::size_t pin, int y)
 {
+    // Now: while the menu is open the waterfall may move on.
+    const double hertz = d->visibleBand.pins()[pin].hertz;
+    const double peak = pane->snappedAt({pane->positionOf(hertz), static_cast<double>(y)});
     menu->addSection(tr("Pin %1").arg(pin + 1));
     connect(menu->addAction(tr("Name…")), &QAction::triggered, pane,
             [pane, pin] { pane->editPinName(pin); });
-    connect(menu->addAction(tr("To the peak nearby")), &QAction::triggered, this, [this, pin] {
-        const std::vector<Pin>& pins = d->visibleBand.pins();
-        if (pin < pins.size())
-            d->visibleBand.movePin(pin, d->spectrum->snapped(pins[pin].hertz));
-    });
+    connect(menu->addAction(tr("To the peak nearby")), &QAction::triggered, this,
+            [this, pin, peak] { d->visibleBand.movePin(pin, peak); });
     connect(menu->addAction(tr("Remove")), &QAction::triggered, this,
             [this, pin] { d->visibleBand.removePin(pin); });
 }

@@ -95,7 +95,7 @@ private:
     void connectTimes();
     void requestJump(qsizetype sweep);
     void showMenu(BandPane* pane, QPoint globalPosition);
-    void addPinEntries(QMenu* menu, BandPane* pane, std::size_t pin);
+    void addPinEntries(QMenu* menu, BandPane* pane, std::size_t pin, int y);
     void addTimeEntries(QMenu* menu, qsizetype sweep);
     void refreshColors();
     void updateAll();

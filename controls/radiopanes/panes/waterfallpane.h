@@ -86,6 +86,8 @@ public:
     std::vector<AxisTick> timeTicks(int pixels, const TimeText& text) const;
     /// The newest sweep of the line at `y`; -1 when there is none, or no longer.
     qsizetype sweepAt(int y) const;
+    /// The highest bin of the line there within a pin's reach.
+    double snappedAt(const QPointF& place) const override;
     /// Whether the history is longer than a day, so that times need their date.
     bool isLongerThanADay() const;
     /// What is shown there; nothing where no line is, and no level where its sweeps have gone.
@@ -113,8 +115,6 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
-    /// The highest bin of the line there within a pin's reach.
-    double snappedAt(const QPointF& place) const override;
     void dragged(const QPoint& change, Qt::Orientation begun) override;
 
 private:

@@ -12,9 +12,12 @@
 
 #include <guibase/services/guibase.h>
 
+#include <QAction>
+#include <QApplication>
 #include <QLineEdit>
 #include <QScopeGuard>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace RadioPanes;
@@ -228,6 +231,17 @@ private Q_SLOTS:
             const QPoint place(placeOf(centreOf(301)).x(), line * WaterfallPane::linePixels);
             QTest::mouseClick(&m_panes->waterfall(), Qt::LeftButton, {}, place);
             QCOMPARE(band().pins().back().hertz, centreOf(bin));
+            band().movePin(0, centreOf(301));
+            QTest::ignoreMessage(QtWarningMsg,
+                                 "This plugin does not support grabbing the keyboard");
+            QTest::mouseClick(&m_panes->waterfall(), Qt::RightButton, {}, place);
+            const QList<QAction*> entries = QApplication::activePopupWidget()->actions();
+            const auto toPeak = std::ranges::find(entries, QStringLiteral("To the peak nearby"),
+                                                  [](QAction* entry) { return entry->text(); });
+            QVERIFY(toPeak != entries.end());
+            (*toPeak)->trigger();
+            QCOMPARE(band().pins().back().hertz, centreOf(bin));
+            QApplication::activePopupWidget()->close();
         }
     }
 
