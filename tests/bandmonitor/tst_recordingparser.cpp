@@ -153,6 +153,8 @@ private Q_SLOTS:
         const std::string piece(std::size_t{1} << 20, ' ');
         for (std::size_t size = 0; size <= RecordingParser::maximumLineBytes; size += piece.size())
             reader.parser.feed(piece);
+        QCOMPARE(reader.parser.lastFault(),
+                 QStringLiteral("Line 1: the line has no end within 64 MB."));
         reader.read("\n2018-11-18, 12:48:15, 0, 1, 1, 1, 0");
         QCOMPARE(reader.parser.skippedCount(), 1);
         QCOMPARE(reader.parser.skippedLines().at(0).fault, LineFault::TooLong);

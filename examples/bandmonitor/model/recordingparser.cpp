@@ -28,7 +28,7 @@ constexpr std::array<const char*, 8> faultTexts = {
     QT_TRANSLATE_NOOP("bandmonitor::RecordingParser", "no levels"),
     QT_TRANSLATE_NOOP("bandmonitor::RecordingParser",
                       "the number of levels does not fit the frequencies and the step"),
-    QT_TRANSLATE_NOOP("bandmonitor::RecordingParser", "the line is too long"),
+    QT_TRANSLATE_NOOP("bandmonitor::RecordingParser", "the line has no end within 64 MB"),
     QT_TRANSLATE_NOOP("bandmonitor::RecordingParser", "the recording is too large"),
 };
 
@@ -96,7 +96,11 @@ void RecordingParser::feed(std::string_view bytes)
         const std::string_view piece = bytes.substr(0, size);
         const auto partialSize = static_cast<std::size_t>(m_partialLine.size());
         if (partialSize + piece.size() > maximumLineBytes) {
-            m_skippingLongLine = true;
+            // At once: the line may never end.
+            if (!std::exchange(m_skippingLongLine, true)) {
+                ++m_lineCount;
+                skipLine(LineFault::TooLong);
+            }
             m_partialLine.clear();
         }
         if (size == std::string_view::npos) {
@@ -133,9 +137,9 @@ void RecordingParser::settle(bool isForced)
 
 void RecordingParser::readLine(std::string_view line)
 {
-    ++m_lineCount;
     if (std::exchange(m_skippingLongLine, false))
-        return skipLine(LineFault::TooLong);
+        return; // it counts since it became too long
+    ++m_lineCount;
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     if (m_lineCount == 1 && line.starts_with(byteOrderMark))
         line.remove_prefix(byteOrderMark.size());

@@ -1480,8 +1480,8 @@
         <translation>die Anzahl der Pegel passt nicht zu Frequenzen und Schrittweite</translation>
     </message>
     <message>
-        <source>the line is too long</source>
-        <translation>die Zeile ist zu lang</translation>
+        <source>the line has no end within 64 MB</source>
+        <translation>die Zeile endet nicht innerhalb von 64 MB</translation>
     </message>
     <message>
         <source>the recording is too large</source>
