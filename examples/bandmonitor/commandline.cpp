@@ -7,6 +7,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 
@@ -88,7 +89,11 @@ QString takeFile(const QStringList& files, bool isFollowed, CommandLine& result)
     if (!isFollowed && result.file == QLatin1String("-")) {
         result.live = CommandLine::StandardInput;
     } else if (isFollowed || !result.file.isEmpty()) {
-        if (const QString problem = fileProblem(result.file); !problem.isEmpty())
+        const QFileInfo file(result.file);
+        // One that is to be followed may come later.
+        const bool mayCome = isFollowed && result.file != QLatin1String("-") && !file.exists() &&
+                             file.absoluteDir().exists();
+        if (const QString problem = fileProblem(result.file); !mayCome && !problem.isEmpty())
             return problem;
         if (isFifo(result.file))
             result.live = CommandLine::Fifo;
@@ -120,7 +125,8 @@ struct Options
         QStringLiteral("FACTOR")};
     QCommandLineOption follow{
         QStringLiteral("follow"),
-        Texts::tr("Show the sweeps of FILE live, while another program writes it."),
+        Texts::tr("Show the sweeps of FILE live, while another program writes it; "
+                  "it need not be there yet."),
         QStringLiteral("FILE")};
     QCommandLineOption history{
         QStringLiteral("history"),

@@ -37,6 +37,8 @@ private Q_SLOTS:
         row.add("bandmonitor --replay 2x", CommandLine::Fail, "2x");
         row.add("bandmonitor --history 5 -", CommandLine::Run, "");
         row.add("bandmonitor --follow $/a.csv", CommandLine::Run, "");
+        row.add("bandmonitor --follow $/later.csv", CommandLine::Run, "");
+        row.add("bandmonitor --follow $/none/later.csv", CommandLine::Fail, "later.csv");
         row.add("bandmonitor --follow -", CommandLine::Fail, "\"-\"");
         row.add("bandmonitor --follow /dev/null", CommandLine::Fail, "regular");
         row.add("bandmonitor --follow $/a.csv -", CommandLine::Fail, "2");

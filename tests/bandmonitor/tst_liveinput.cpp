@@ -241,10 +241,11 @@ private Q_SLOTS:
     void followedFileStartsAnew()
     {
         const QString path = filePath(QStringLiteral("grows.csv"));
-        QVERIFY(writeFile(path, sweepOf(1) + sweepOf(2)));
         auto source = std::make_unique<FollowedFile>(path);
         source->setPollTime(std::chrono::milliseconds(20));
         start(std::move(source));
+        QTRY_COMPARE(m_told, QStringList{QStringLiteral("grows.csv: there is no such file yet")});
+        QVERIFY(writeFile(path, sweepOf(1) + sweepOf(2)));
         QTRY_COMPARE(m_input->recording()->count(), 2);
         QFile file(path);
         QVERIFY(file.open(QIODevice::Append));
@@ -254,6 +255,7 @@ private Q_SLOTS:
         QVERIFY(writeFile(path, sweepOf(4))); // shorter
         QTRY_COMPARE(m_input->recording()->count(), 4);
         QVERIFY(file.remove());
+        QTRY_COMPARE(m_told.constLast(), QStringLiteral("grows.csv: the file is gone"));
         QVERIFY(writeFile(path, sweepOf(5) + sweepOf(6) + sweepOf(7) + sweepOf(8)));
         QTRY_COMPARE(m_input->recording()->count(), 8);
         QVERIFY(m_told.contains(QStringLiteral("grows.csv: the file was truncated")));

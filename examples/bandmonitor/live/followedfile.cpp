@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include <sys/stat.h>
+#include <utility>
 
 namespace bandmonitor {
 
@@ -28,7 +29,8 @@ QString FollowedFile::name() const
 
 void FollowedFile::start()
 {
-    if (!open()) {
+    const bool isThere = open();
+    if (!isThere && (m_file.exists() || !QFileInfo(m_path).dir().exists())) {
         const QString problem =
             tr("%1 cannot be read: %2").arg(QDir::toNativeSeparators(m_path), m_file.errorString());
         QMetaObject::invokeMethod(
@@ -37,6 +39,11 @@ void FollowedFile::start()
     }
     m_watcher.addPath(QFileInfo(m_path).path());
     m_poll.start();
+    m_isMissing = !isThere;
+    if (m_isMissing)
+        QMetaObject::invokeMethod(
+            this, [this] { Q_EMIT restarted(tr("there is no such file yet")); },
+            Qt::QueuedConnection);
     QMetaObject::invokeMethod(this, &FollowedFile::look, Qt::QueuedConnection);
 }
 
@@ -86,10 +93,14 @@ void FollowedFile::look()
         m_file.seek(0);
         Q_EMIT restarted(tr("the file was truncated"));
         look();
+    } else if (!QFileInfo::exists(m_path)) { // it may come back
+        if (!std::exchange(m_isMissing, true))
+            Q_EMIT restarted(tr("the file is gone"));
     } else if (!m_file.isOpen() || isReplaced()) {
         if (!open())
-            return; // it may come back
-        Q_EMIT restarted(tr("the file was replaced"));
+            return; // it may be readable later
+        Q_EMIT restarted(std::exchange(m_isMissing, false) ? tr("the file is there now")
+                                                           : tr("the file was replaced"));
         look();
     }
 }

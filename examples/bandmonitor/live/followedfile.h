@@ -11,8 +11,8 @@
 
 namespace bandmonitor {
 
-/// Live input from a file that grows. When it is truncated, or another file takes its place, it is
-/// read from the beginning again.
+/// Live input from a file that grows; it need not be there yet. When it is truncated, or another
+/// file takes its place, it is read from the beginning again.
 class FollowedFile : public LiveSource
 {
     Q_OBJECT
@@ -40,6 +40,7 @@ private:
     QFile m_file;
     QFileSystemWatcher m_watcher;
     QTimer m_poll;
+    bool m_isMissing = false;
 };
 
 } // namespace bandmonitor

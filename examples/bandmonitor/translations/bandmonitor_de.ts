@@ -180,10 +180,6 @@
         <translation>Sofort wiedergeben, FACTOR-mal (0.1 bis 10000) so schnell wie aufgezeichnet.</translation>
     </message>
     <message>
-        <source>Show the sweeps of FILE live, while another program writes it.</source>
-        <translation>Die Durchläufe von FILE live zeigen, während ein anderes Programm die Datei schreibt.</translation>
-    </message>
-    <message>
         <source>Keep so many megabytes (1 to 1000000) of live sweeps; 512 by default.</source>
         <translation>So viele Megabyte (1 bis 1000000) an Live-Durchläufen behalten; Vorgabe 512.</translation>
     </message>
@@ -218,6 +214,10 @@
     <message>
         <source>The recording to open; a FIFO, or - for the standard input, is shown live; without it, the built-in sample.</source>
         <translation>Die Aufzeichnung; eine FIFO oder - für die Standardeingabe wird live gezeigt; ohne Angabe das eingebaute Beispiel.</translation>
+    </message>
+    <message>
+        <source>Show the sweeps of FILE live, while another program writes it; it need not be there yet.</source>
+        <translation>Die Durchläufe von FILE live zeigen, während ein anderes Programm die Datei schreibt; es muss sie noch nicht geben.</translation>
     </message>
 </context>
 <context>
@@ -546,6 +546,18 @@
     <message>
         <source>the file was replaced</source>
         <translation>die Datei wurde ersetzt</translation>
+    </message>
+    <message>
+        <source>there is no such file yet</source>
+        <translation>die Datei gibt es noch nicht</translation>
+    </message>
+    <message>
+        <source>the file is gone</source>
+        <translation>die Datei ist weg</translation>
+    </message>
+    <message>
+        <source>the file is there now</source>
+        <translation>die Datei ist jetzt da</translation>
     </message>
 </context>
 <context>
