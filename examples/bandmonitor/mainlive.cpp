@@ -60,12 +60,12 @@ void MainWindow::connectLive()
             [this](const QString& text) { tellFailure(tr("No live input"), text, {}); });
     const RecordingSaver& saver = m_session.saver();
     connect(&saver, &RecordingSaver::saved, m_recordings, &RecentRecordings::noteSaved);
-    connect(
-        &saver, &RecordingSaver::failed, this, [this](const QString& path, const QString& reason) {
-            m_recordings->failed(path);
-            statusBar()->clearMessage();
-            showMessage(tr("Recording not saved"), tr("%1 cannot be written.").arg(path), reason);
-        });
+    connect(&saver, &RecordingSaver::failed, this,
+            [this](const QString& path, const QString& reason) {
+                m_recordings->failed(path);
+                statusBar()->clearMessage();
+                tellNotWritten(tr("Recording not saved"), path, reason);
+            });
 }
 
 void MainWindow::saveRecording()

@@ -32,6 +32,7 @@
 
 #include <QAction>
 #include <QContextMenuEvent>
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLabel>
@@ -196,7 +197,7 @@ void MainWindow::connectRecordings()
     });
     connect(m_recordings, &RecentRecordings::notSaved, this,
             [this](const QString& path, const QString& reason) {
-                showMessage(tr("Sweep not saved"), tr("%1 cannot be written.").arg(path), reason);
+                tellNotWritten(tr("Sweep not saved"), path, reason);
             });
 }
 
@@ -205,7 +206,7 @@ void MainWindow::connectExports()
     connect(m_exports, &Exports::done, this,
             [this](const QString& report) { statusBar()->showMessage(report, messageTime); });
     connect(m_exports, &Exports::failed, this, [this](const QString& path, const QString& reason) {
-        showMessage(tr("Not exported"), tr("%1 cannot be written.").arg(path), reason);
+        tellNotWritten(tr("Not exported"), path, reason);
     });
     m_bandView->setMenuExtension([this](QMenu& menu) { addExportsTo(menu); });
 }
@@ -306,6 +307,16 @@ void MainWindow::reportSkippedLines()
                 tr("%1 cannot be read as a whole: %2.")
                     .arg(m_session.fileName(), skippedLinesText(loader.skippedCount())),
                 loader.report() + QLatin1Char('\n') + RecordingParser::expectedForm());
+}
+
+void MainWindow::tellNotWritten(const QString& title, const QString& path, const QString& reason)
+{
+    const QFileInfo folder(QFileInfo(path).absolutePath());
+    showMessage(title,
+                folder.isDir() ? tr("%1 cannot be written: %2.").arg(path, reason)
+                               : tr("%1 cannot be written: there is no folder %2.")
+                                     .arg(path, QDir::toNativeSeparators(folder.filePath())),
+                {});
 }
 
 void MainWindow::showMessage(const QString& title, const QString& text, const QString& details)

@@ -946,10 +946,6 @@
         <translation>Aufzeichnung nicht gespeichert</translation>
     </message>
     <message>
-        <source>%1 cannot be written.</source>
-        <translation>%1 lässt sich nicht schreiben.</translation>
-    </message>
-    <message>
         <source>%1.csv</source>
         <translation>%1.csv</translation>
     </message>
@@ -1216,6 +1212,14 @@
     <message>
         <source>The sweep of this event is not kept any more.</source>
         <translation>Der Durchlauf dieses Ereignisses ist nicht mehr vorhanden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: there is no folder %2.</source>
+        <translation>%1 lässt sich nicht schreiben: Den Ordner %2 gibt es nicht.</translation>
     </message>
 </context>
 <context>
