@@ -15,6 +15,7 @@
 #include <guibase/services/guibase.h>
 
 #include <QAction>
+#include <QStatusBar>
 
 namespace bandmonitor {
 
@@ -40,14 +41,6 @@ Panel* makeJobs(Session& session, QWidget* parent)
 {
     auto* panel = new JobsPanel(&session.jobs(), &session.replay(), parent);
     QObject::connect(&session, &Session::grown, panel, &JobsPanel::refreshTimes);
-    return panel;
-}
-
-Panel* makeReceiver(Session& session, const std::shared_ptr<SessionValues>& values,
-                    BandView& bandView, QWidget* parent)
-{
-    auto* panel = new ReceiverPanel(*values, parent);
-    new ReceiverControl(values, panel, &bandView, &session, panel);
     return panel;
 }
 
@@ -81,6 +74,13 @@ void MainWindow::buildPanels()
         connect(panel, &EventLogPanel::placeWanted, this, &MainWindow::showPlace);
         return panel;
     };
+    const auto makeReceiver = [this](QWidget* parent) {
+        auto* panel = new ReceiverPanel(*m_values, parent);
+        auto* control = new ReceiverControl(m_values, panel, m_bandView, &m_session, panel);
+        connect(control, &ReceiverControl::centreRefused, this,
+                [this](const QString& text) { statusBar()->showMessage(text, messageTime); });
+        return panel;
+    };
     // Name, title, icon, maker, and the places in the modes Search, Measure and Plan.
     const PanelRow rows[] = {
         // clang-format off
@@ -101,9 +101,7 @@ void MainWindow::buildPanels()
          },
          {hidden(right), beside(right, 260, 500), tabbed(right)}},
         {name("receiver"), tr("Re&ceiver"), makeIcon(Icon::Receiver),
-         [this](QWidget* parent) {
-             return makeReceiver(m_session, m_values, *m_bandView, parent);
-         },
+         makeReceiver,
          {beside(left, 240, 500), beside(left, 240, 500), hidden(left)}},
         {name("history"), tr("H&istory"), makeIcon(Icon::History),
          [](QWidget* parent) { return new HistoryPanel(parent); },

@@ -24,6 +24,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QStatusBar>
 #include <QTemporaryFile>
 
 #include <array>
@@ -186,6 +187,7 @@ private Q_SLOTS:
         QCOMPARE(shown("span"), QStringLiteral("1 MHz"));
         enter("centreFrequency", QStringLiteral("5 GHz")); // out of the band
         QCOMPARE(view.high(), view.bandHigh());
+        QVERIFY(m_window->statusBar()->currentMessage().contains(QLatin1String("outside")));
         QTest::keyClicks(field("centreFrequency"), QStringLiteral("95.")); // typing goes on
         view.showAll();
         QVERIFY(shown("centreFrequency").endsWith(QLatin1String("95.")));

@@ -6,6 +6,7 @@
 #include "model/session.h"
 #include "receiver/receiverpanel.h"
 
+#include <radiopanes/panes/frequencytext.h>
 #include <radiopanes/panes/spectrumpane.h>
 
 #include <valueframework/undorecording.h>
@@ -114,12 +115,19 @@ void ReceiverControl::steerCentre()
     if (!isReady() || hertz == centreOf(view))
         return;
     const QScopedValueRollback steering(m_isSteering, true);
-    const double centre = std::clamp(static_cast<double>(hertz), view.bandLow(), view.bandHigh());
+    const auto wanted = static_cast<double>(hertz);
+    const double centre = std::clamp(wanted, view.bandLow(), view.bandHigh());
     // The span gives way at the ends of the band: else the whole band could not be left.
     const double half = std::min(
         {(view.high() - view.low()) / 2, centre - view.bandLow(), view.bandHigh() - centre});
     view.setVisible(centre - half, centre + half);
     followWindow();
+    if (wanted != centre) {
+        const FrequencyText text;
+        Q_EMIT centreRefused(
+            tr("%1 lies outside the recording, which reaches from %2 to %3.")
+                .arg(text.full(wanted), text.full(view.bandLow()), text.full(view.bandHigh())));
+    }
 }
 
 void ReceiverControl::steerSpan()

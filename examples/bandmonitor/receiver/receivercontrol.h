@@ -27,6 +27,11 @@ public:
                     Session* session, QObject* parent);
     ~ReceiverControl() override;
 
+Q_SIGNALS:
+    /// The user wants the centre to be where the band is not: it has gone to the band's edge. One
+    /// line that says so.
+    void centreRefused(const QString& text);
+
 private:
     /// At the first recording, frequencies and start time that were kept are shown as far as it has
     /// them.

@@ -1319,6 +1319,10 @@
         <source>Receiver %1</source>
         <translation>Empfänger %1</translation>
     </message>
+    <message>
+        <source>%1 lies outside the recording, which reaches from %2 to %3.</source>
+        <translation>%1 liegt außerhalb der Aufzeichnung, die von %2 bis %3 reicht.</translation>
+    </message>
 </context>
 <context>
     <name>bandmonitor::ReceiverPanel</name>
