@@ -74,9 +74,9 @@ public:
     ValueSelection& frequencyResolution() { return m_resolution; }
 
     /// Shows a warning, and waits until the user has read it.
-    /// Also for a folder that is not there.
-    void tellNotWritten(const QString& title, const QString& path, const QString& reason);
     void showMessage(const QString& title, const QString& text, const QString& details);
+    /// The same for a file that could not be written.
+    void tellNotWritten(const QString& title, const QString& path, const QString& reason);
 
     /// Of files that are saved of the recording, without an ending; empty without a recording.
     QString baseName() const;
