@@ -14,6 +14,7 @@
 #include "live/sourcelabel.h"
 #include "model/panenames.h"
 #include "model/recordingparser.h"
+#include "panels/elidedlabel.h"
 #include "panels/icons.h"
 #include "panels/panel.h"
 #include "receiver/receiverbar.h"
@@ -168,8 +169,8 @@ void MainWindow::restoreSettings()
 
 void MainWindow::buildStatusBar()
 {
-    m_report = new QLabel(this);
-    m_receiver = new QLabel(this);
+    m_report = new ElidedLabel(this);
+    m_receiver = new ElidedLabel(this);
     m_receiver->setToolTip(tr("Position of the receiver"));
     m_progress = new QProgressBar(this);
     m_progress->setRange(0, progressSteps);

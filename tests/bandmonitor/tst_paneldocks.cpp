@@ -21,11 +21,12 @@ class tst_PanelDocks : public GuardedTest
     Q_OBJECT
     std::unique_ptr<MainWindow> m_window;
 
-    void makeWindow()
+    /// At first of a size that fits on any screen with its frame.
+    void makeWindow(QSize size = {700, 600}, const QString& name = QStringLiteral("main"))
     {
         m_window = std::make_unique<MainWindow>();
-        m_window->resize(700, 600); // fits on any screen with its frame
-        GuiBase::Instance().RegisterPersistentWidget(m_window.get(), QStringLiteral("main"));
+        m_window->resize(size);
+        GuiBase::Instance().RegisterPersistentWidget(m_window.get(), name);
         m_window->announceModes();
         m_window->complete();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
@@ -129,6 +130,22 @@ private Q_SLOTS:
         for (const Mode mode : allModes) {
             later.setMode(mode);
             QCOMPARE(layout(), forMode(factory, mode));
+        }
+    }
+
+    void smallWindowHasRoomForAll()
+    {
+        closeWindow();
+        CHECKED(makeWindow({620, 420}, QStringLiteral("small")));
+        for (const Mode mode : allModes) {
+            m_window->modes().setMode(mode);
+            const QSize room(632, 452); // of a screen of 640 x 480, with its frame
+            QTRY_COMPARE(m_window->size().boundedTo(room), m_window->size());
+            for (QDockWidget* panel : m_window->panelDocks().docks()) {
+                panel->raise();
+                QTRY_COMPARE(panel->visibleRegion().isEmpty(), panel->isHidden());
+                QVERIFY(panel->isHidden() || m_window->rect().contains(panel->geometry()));
+            }
         }
     }
 

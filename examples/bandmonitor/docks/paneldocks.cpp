@@ -35,6 +35,12 @@ namespace bandmonitor {
 
 namespace {
 
+/// In a smaller window all docks share one column, so that the centre keeps its room.
+constexpr QSize smallestRoomy{660, 500};
+constexpr auto columnArea = Qt::RightDockWidgetArea;
+constexpr PanelPlace inColumn{columnArea, PanelPlace::Beside, {400, 500}};
+constexpr PanelPlace behind{columnArea, PanelPlace::Tabbed, {}};
+
 QString storageName(Mode mode)
 {
     return QStringLiteral("BandmonitorMode%1").arg(static_cast<int>(mode));
@@ -221,11 +227,14 @@ void PanelDocks::activateFront()
 void PanelDocks::arrange(Mode mode)
 {
     m_arranged = {mode, m_window.size()};
+    const bool isSmall = m_window.size().boundedTo(smallestRoomy) != smallestRoomy;
     std::map<Qt::DockWidgetArea, QDockWidget*> lastOfArea;
     QList<QDockWidget*> shown;
     QList<QSize> sizes;
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        const PanelPlace& place = forMode(m_rows[i].places, mode);
+        PanelPlace place = forMode(m_rows[i].places, mode);
+        if (isSmall && place.shown != PanelPlace::Hidden)
+            place = lastOfArea[columnArea] != nullptr ? behind : inColumn;
         QDockWidget* dock = m_docks[static_cast<int>(i)];
         QDockWidget*& last = lastOfArea[place.area];
         dock->hide();

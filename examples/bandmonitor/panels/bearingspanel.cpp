@@ -4,13 +4,13 @@
 #include "model/bearings.h"
 #include "panels/headingspinbox.h"
 #include "panels/panelactions.h"
+#include "panels/wrappingrow.h"
 #include "settings/boundform.h"
 #include "settings/sessionvalues.h"
 
 #include <radiopanes/bearings/bearingrose.h>
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -52,10 +52,8 @@ BearingsPanel::BearingsPanel(const Bearings* bearings, const SessionValues& valu
         tr("Recordings hold no bearings. These are made up from the frequencies and levels "
            "of the signals."));
 
-    QHBoxLayout* row = makeButtonRow(this, {m_headingUp});
+    WrappingRow* row = makeButtonRow(this, {m_headingUp}, {headingLabel, m_heading});
     row->setContentsMargins(4, 2, 4, 0);
-    row->insertWidget(0, headingLabel);
-    row->insertWidget(1, m_heading);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);

@@ -5,6 +5,7 @@
 #include "panels/emptyhint.h"
 #include "panels/listtext.h"
 #include "panels/panelactions.h"
+#include "panels/wrappingrow.h"
 #include "settings/settings.h"
 
 #include <guibase/dialogs/modaldialogs.h>
@@ -16,7 +17,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFileInfo>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -111,7 +111,7 @@ EventLogPanel::EventLogPanel(EventLog* log, QWidget* parent)
     buildList();
     buildActions();
 
-    QHBoxLayout* buttons = makeButtonRow(this, m_actions.first(3));
+    WrappingRow* buttons = makeButtonRow(this, m_actions.first(3));
     buttons->addWidget(m_count);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);

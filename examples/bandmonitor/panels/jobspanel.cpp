@@ -8,6 +8,7 @@
 #include "panels/jobbar.h"
 #include "panels/listtext.h"
 #include "panels/panelactions.h"
+#include "panels/wrappingrow.h"
 
 #include <radiopanes/colors/contrast.h>
 #include <radiopanes/colors/panecolors.h>
@@ -16,7 +17,6 @@
 #include <guibase/services/guibase.h>
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
@@ -96,8 +96,9 @@ JobsPanel::JobsPanel(Jobs* jobs, const Replay* replay, QWidget* parent)
     m_extent->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_extent->setWordWrap(true);
     m_extent->setMargin(2); // from the edge of the window
-    QHBoxLayout* row = makeButtonRow(this, {m_run});
-    row->addWidget(m_extent, 1);
+    m_extent->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    WrappingRow* row = makeButtonRow(this, {m_run});
+    row->addWidget(m_extent);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);

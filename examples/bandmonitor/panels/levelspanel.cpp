@@ -4,6 +4,7 @@
 #include "panels/emptyhint.h"
 #include "panels/panelactions.h"
 #include "panels/referencelevels.h"
+#include "panels/wrappingrow.h"
 
 #include <guibase/lists/sortrowtable.h>
 #include <valueframework/undorecording.h>

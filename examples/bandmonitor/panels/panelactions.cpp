@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "panels/panelactions.h"
 
+#include "panels/wrappingrow.h"
 #include "settings/keys.h"
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QToolButton>
 
 namespace bandmonitor {
@@ -20,9 +20,12 @@ QAction* addPanelAction(QWidget* panel, const QString& text, const QKeySequence&
     return action;
 }
 
-QHBoxLayout* makeButtonRow(QWidget* panel, const QList<QAction*>& actions)
+WrappingRow* makeButtonRow(QWidget* panel, const QList<QAction*>& actions,
+                           const QList<QWidget*>& before)
 {
-    auto* row = new QHBoxLayout;
+    auto* row = new WrappingRow;
+    for (QWidget* widget : before)
+        row->addWidget(widget);
     for (QAction* action : actions) {
         auto* button = new QToolButton(panel);
         button->setDefaultAction(action);
@@ -30,7 +33,6 @@ QHBoxLayout* makeButtonRow(QWidget* panel, const QList<QAction*>& actions)
         button->setFocusPolicy(Qt::TabFocus);
         row->addWidget(button);
     }
-    row->addStretch(1);
     return row;
 }
 
