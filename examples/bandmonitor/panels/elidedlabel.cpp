@@ -6,6 +6,8 @@
 #include <QStyle>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace bandmonitor {
 
 namespace {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QLayout>
-#include <QList>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace bandmonitor {
