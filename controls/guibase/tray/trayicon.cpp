@@ -6,6 +6,7 @@
 #include <guibase/notifications/popup/notificationoutlet.h>
 
 #include <jtbase/qobjecthelpers.h>
+#include <jtbase/windowsystem.h>
 #include <trovappstartup/cfgcenter.h>
 
 #include <QApplication>
@@ -35,6 +36,17 @@ bool isAnyVisible(const Windows& windows)
     return std::any_of(windows.begin(), windows.end(), [](const QPointer<QWidget>& window) {
         return window != nullptr && window->isVisible();
     });
+}
+
+/// A closed window gets a new native one, which the window manager places as it likes unless it is
+/// told where.
+void keepPlace(QWidget& window)
+{
+    const QRect place = window.geometry();
+    const bool isNormal = !(window.windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen));
+    if (isNormal && WindowSystem::placesWindows() &&
+        QGuiApplication::screenAt(place.center()) != nullptr)
+        window.setGeometry(place);
 }
 
 } // namespace
@@ -357,6 +369,8 @@ void TrayIcon::showWindows()
         if (window == nullptr || (!wereAllClosed && !window->isVisible()))
             continue;
         window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+        if (d->closedLast.contains(window))
+            keepPlace(*window);
         window->show();
         if (window == nullptr)
             continue;

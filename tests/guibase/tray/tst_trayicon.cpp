@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QTcpServer>
 #include <QTimer>
+#include <QWindow>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -163,6 +164,24 @@ private Q_SLOTS:
         closeInTurn(first, second, true);
         QVERIFY(first.isVisible() && second.isVisible());
         QCOMPARE(icon.messages.size(), 1); // explained once
+        icon.hide();
+    }
+
+    void reopensInItsPlace()
+    {
+        FakeTrayIcon icon;
+        QWidget window;
+        icon.addWindow(&window);
+        window.resize(300, 200);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.windowHandle()->setPosition(140, 90); // as the user moves it: not asked for
+        QTRY_COMPARE(window.geometry().topLeft(), QPoint(140, 90));
+        window.close();
+        QCoreApplication::processEvents();
+        icon.showWindows();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTRY_COMPARE(window.geometry(), QRect(140, 90, 300, 200));
         icon.hide();
     }
 
