@@ -45,7 +45,7 @@
 <context>
     <name>ColorPreview</name>
     <message>
-        <source>Preview of the chosen colors</source>
+        <source>Preview of the chosen colours</source>
         <translation>Vorschau der gewählten Farben</translation>
     </message>
 </context>
@@ -1089,7 +1089,7 @@
         <translation>Datei speichern unter</translation>
     </message>
     <message>
-        <source>Filter by element or color</source>
+        <source>Filter by element or colour</source>
         <translation>Nach Element oder Farbe filtern</translation>
     </message>
     <message>
@@ -1101,15 +1101,15 @@
         <translation>Wiederholen</translation>
     </message>
     <message>
-        <source>&amp;User Colors</source>
+        <source>&amp;User Colours</source>
         <translation>&amp;Benutzerfarben</translation>
     </message>
     <message>
-        <source>Redefine a user color, at once and everywhere</source>
+        <source>Redefine a user colour, at once and everywhere</source>
         <translation>Eine Benutzerfarbe neu festlegen, sofort und überall</translation>
     </message>
     <message>
-        <source>Press Return on a row to choose another color.</source>
+        <source>Press Return on a row to choose another colour.</source>
         <translation>Eingabetaste auf einer Zeile: andere Farbe wählen.</translation>
     </message>
     <message>

@@ -15,7 +15,7 @@ ColorPreview::ColorPreview(ColorOf colorOf, QWidget* parent)
 {
     setObjectName(QStringLiteral("Preview"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setAccessibleName(tr("Preview of the chosen colors"));
+    setAccessibleName(tr("Preview of the chosen colours"));
 }
 
 QSize ColorPreview::sizeHint() const

@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
+#include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
 #include <QUndoStack>
@@ -140,7 +141,7 @@ void ColorsCtrl::Private::addTools(QVBoxLayout& layout)
     auto* row = new QHBoxLayout;
     filter = new QLineEdit(&q);
     filter->setObjectName(QStringLiteral("Filter"));
-    filter->setPlaceholderText(tr("Filter by element or color"));
+    filter->setPlaceholderText(tr("Filter by element or colour"));
     filter->setClearButtonEnabled(true);
     connect(filter, &QLineEdit::textChanged, rows, &ColorRows::filter);
     row->addWidget(filter);
@@ -148,11 +149,10 @@ void ColorsCtrl::Private::addTools(QVBoxLayout& layout)
                                   QStyle::SP_ArrowBack));
     row->addWidget(makeUndoButton(undo.createRedoAction(&q, tr("Redo")), QKeySequence::Redo,
                                   QStyle::SP_ArrowForward));
-    auto* userColors = new QToolButton(&q);
-    userColors->setText(tr("&User Colors"));
-    userColors->setToolTip(tr("Redefine a user color, at once and everywhere"));
-    userColors->setPopupMode(QToolButton::InstantPopup);
-    userColors->setFocusPolicy(Qt::StrongFocus);
+    // Other than a tool button it has room for its arrow.
+    auto* userColors = new QPushButton(tr("&User Colours"), &q);
+    userColors->setToolTip(tr("Redefine a user colour, at once and everywhere"));
+    userColors->setAutoDefault(false);
     userColors->setMenu(new UserColorsMenu(userColors));
     row->addWidget(userColors);
     layout.addLayout(row);
@@ -211,7 +211,7 @@ void ColorsCtrl::Private::showContrast()
 {
     const std::optional<double> ratio = rows->currentContrast();
     if (!ratio)
-        contrast->setText(tr("Press Return on a row to choose another color."));
+        contrast->setText(tr("Press Return on a row to choose another colour."));
     else if (*ratio < ColorContrast::lowest)
         contrast->setText(tr("Contrast with the background: %L1 : 1, hard to see below %L2 : 1.")
                               .arg(*ratio, 0, 'f', 1)

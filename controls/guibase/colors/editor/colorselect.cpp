@@ -30,8 +30,7 @@ QStandardItem* makeHeading(const QString& text)
 
 QStandardItem* makeEntry(const ColorDefinition& definition)
 {
-    auto* entry =
-        new QStandardItem(QIcon(colorSwatch(definition.GetColor())), definition.GetName());
+    auto* entry = new QStandardItem(colorSwatch(definition.GetColor()), definition.GetName());
     entry->setData(definition.GetId(), IdRole);
     entry->setData(definition.GetColorString(), StringRole);
     return entry;

@@ -78,8 +78,7 @@ void ColorSelectListViewItem::UpdateDisplay()
 {
     setText(colorColumn, m_colorName);
     const ColorDefinition* definition = Colors::Instance().GetColorDefinition(m_colorId);
-    setIcon(colorColumn,
-            definition != nullptr ? QIcon(colorSwatch(definition->GetColor())) : QIcon());
+    setIcon(colorColumn, definition != nullptr ? colorSwatch(definition->GetColor()) : QIcon());
 }
 
 void ColorSelectListViewItem::activate()

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "colorswatch_p.h"
 
+#include "drawnicon_p.h"
+
 #include <QColor>
 #include <QPainter>
 
-QPixmap colorSwatch(const QColor& color)
+QIcon colorSwatch(const QColor& color)
 {
-    constexpr int size = 13;
-    QPixmap swatch(size, size);
-    swatch.fill(color.isValid() ? color : QColor(Qt::transparent));
-    QPainter painter(&swatch);
-    painter.setPen(Qt::black);
-    painter.drawRect(0, 0, size - 1, size - 1);
-    return swatch;
+    constexpr int side = 13;
+    return drawnIcon({side, side}, [color](QPainter& painter) {
+        painter.setPen(Qt::black);
+        if (color.isValid())
+            painter.setBrush(color);
+        painter.drawRect(0, 0, side - 1, side - 1);
+    });
 }

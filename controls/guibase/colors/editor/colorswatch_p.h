@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPixmap>
+#include <QIcon>
 
 class QColor;
 
 /// A square of the colour in a black frame, 13 by 13 pixels.
-QPixmap colorSwatch(const QColor& color);
+QIcon colorSwatch(const QColor& color);

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "colortoolbuttons_p.h"
 
+#include "drawnicon_p.h"
+
 #include <QEvent>
 #include <QPainter>
-#include <QPixmap>
 #include <QPolygon>
 #include <QToolButton>
 
@@ -15,11 +16,12 @@ constexpr int buttonSize = 24;
 class DrawnButton : public QToolButton
 {
 public:
-    using Draw = QPixmap (*)(const QColor& line);
-    DrawnButton(Draw draw, QWidget* parent)
+    using Draw = void (*)(QPainter& painter);
+    DrawnButton(const QSize& size, Draw draw, QWidget* parent)
         : QToolButton(parent)
         , m_draw(draw)
     {
+        setIconSize(size);
         drawIcon();
     }
 
@@ -34,17 +36,20 @@ protected:
 private:
     void drawIcon()
     {
-        const QPixmap icon = m_draw(palette().color(QPalette::WindowText));
-        setIconSize(icon.size());
-        setIcon(icon);
+        const QColor line = palette().color(QPalette::WindowText);
+        setIcon(drawnIcon(iconSize(), [line, draw = m_draw](QPainter& painter) {
+            painter.setPen(line);
+            draw(painter);
+        }));
     }
 
     Draw m_draw;
 };
 
-QToolButton* makeButton(const QString& text, DrawnButton::Draw draw, QWidget* parent)
+QToolButton* makeButton(const QString& text, const QSize& size, DrawnButton::Draw draw,
+                        QWidget* parent)
 {
-    auto* button = new DrawnButton(draw, parent);
+    auto* button = new DrawnButton(size, draw, parent);
     button->setObjectName(text);
     button->setToolTip(text);
     button->setAccessibleName(text);
@@ -54,45 +59,30 @@ QToolButton* makeButton(const QString& text, DrawnButton::Draw draw, QWidget* pa
     return button;
 }
 
-QPixmap emptyPixmap(int width, int height)
+void drawOpen(QPainter& painter)
 {
-    QPixmap pixmap(width, height);
-    pixmap.fill(Qt::transparent);
-    return pixmap;
-}
-
-QPixmap drawOpen(const QColor& line)
-{
-    QPixmap icon = emptyPixmap(16, 13);
-    QPainter painter(&icon);
-    painter.setPen(line);
     painter.setBrush(QColor(0xff, 0xcc, 0x66));
     painter.drawPolygon(QPolygon({{0, 2}, {5, 2}, {6, 4}, {12, 4}, {12, 12}, {0, 12}}));
     painter.drawPolygon(QPolygon({{3, 6}, {15, 6}, {12, 12}, {0, 12}}));
-    return icon;
 }
 
-QPixmap drawSave(const QColor& line)
+void drawSave(QPainter& painter)
 {
-    QPixmap icon = emptyPixmap(14, 14);
-    QPainter painter(&icon);
-    painter.setPen(line);
     painter.setBrush(QColor(0x66, 0x99, 0xcc));
     painter.drawRect(0, 0, 13, 13);
     painter.setBrush(Qt::white);
     painter.drawRect(3, 0, 7, 4);
     painter.drawRect(2, 7, 9, 6);
-    return icon;
 }
 
 } // namespace
 
 QToolButton* ColorToolButtons::makeOpen(const QString& text, QWidget* parent)
 {
-    return makeButton(text, &drawOpen, parent);
+    return makeButton(text, {16, 13}, &drawOpen, parent);
 }
 
 QToolButton* ColorToolButtons::makeSave(const QString& text, QWidget* parent)
 {
-    return makeButton(text, &drawSave, parent);
+    return makeButton(text, {14, 14}, &drawSave, parent);
 }

@@ -11,4 +11,5 @@ guibase_room(colors/editor
         colorrows.cpp colorrows_p.h
         colorswatch.cpp colorswatch_p.h
         colortoolbuttons.cpp colortoolbuttons_p.h
+        drawnicon.cpp drawnicon_p.h
         usercolorsmenu.cpp usercolorsmenu_p.h)

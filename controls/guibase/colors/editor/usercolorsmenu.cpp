@@ -21,8 +21,7 @@ void UserColorsMenu::populate()
     ColorDefinitionSet& colors = Colors::Instance().GetUserColors();
     for (int position = 0; position < colors.GetCount(); ++position) {
         const ColorDefinition& color = *colors.At(position);
-        QAction* entry =
-            addAction(QIcon(colorSwatch(color.GetColor())), tr("%1...").arg(color.GetName()));
+        QAction* entry = addAction(colorSwatch(color.GetColor()), tr("%1...").arg(color.GetName()));
         connect(entry, &QAction::triggered, this, [this, id = color.GetId()] { redefine(id); });
     }
 }
