@@ -35,7 +35,8 @@ bool LruStringList::Append(const QString& text)
 
 QString LruStringList::Select(const QString& text)
 {
-    const QString selected = text; // `text` may be an entry of this list
+    // `text` may be an entry of this list.
+    const QString selected = text; // NOLINT(performance-unnecessary-copy-initialization)
     if (selected.isEmpty() || m_limit < 1)
         return selected;
     m_strings.removeOne(selected);

@@ -96,7 +96,7 @@ PositionReading readMgrs(const QString& plain)
     constexpr double squareSize = 100'000;
     constexpr int rowsInCycle = 20;
     const int zone = match.captured(1).toInt();
-    const auto column = gridLetters.indexOf(match.captured(3)) - (zone - 1) % 3 * 8;
+    const auto column = gridLetters.indexOf(match.captured(3)) - qsizetype{(zone - 1) % 3} * 8;
     const auto row = gridLetters.indexOf(match.captured(4)) + (zone % 2 == 0 ? rowsInCycle - 5 : 0);
     if (zone < 1 || zone > 60 || column < 0 || column > 7)
         return noSuchSquare(CoordFormat::Mgrs);
@@ -107,8 +107,10 @@ PositionReading readMgrs(const QString& plain)
     const double northing = static_cast<double>(row % rowsInCycle) * squareSize +
                             (digits.last(half).toDouble() + 0.5) * size;
     // The letters of the rows begin again every 2,000 km; the band tells where.
-    for (double cycle = 0; cycle < UtmGrid::falseNorthing; cycle += rowsInCycle * squareSize) {
-        const UtmGrid::Point centre{zone, match.captured(2).front(), easting, northing + cycle};
+    constexpr double cycleSize = rowsInCycle * squareSize;
+    for (int cycle = 0; cycle * cycleSize < UtmGrid::falseNorthing; ++cycle) {
+        const UtmGrid::Point centre{zone, match.captured(2).front(), easting,
+                                    northing + cycle * cycleSize};
         if (const auto position = UtmGrid::insideOfSquare(centre, size))
             return found(*position, CoordFormat::Mgrs);
     }

@@ -23,7 +23,7 @@ class CfgDocument
 {
 public:
     /// Larger texts are not read, and not written either.
-    static constexpr qsizetype maximumTextSize = 64 * 1024 * 1024;
+    static constexpr qsizetype maximumTextSize = qsizetype{64} * 1024 * 1024;
     /// Levels of sub-configurations; what is nested deeper is neither read nor made.
     static constexpr qsizetype maximumDepth = 200;
 
