@@ -64,6 +64,7 @@ ClosableTabWidget::ClosableTabWidget(QWidget* parent)
     , d(std::make_unique<Private>())
 {
     setTabsClosable(true);
+    tabBar()->setFocusPolicy(Qt::StrongFocus); // The keys are for a tab that was clicked, too.
     connect(this, &QTabWidget::tabCloseRequested, this, &ClosableTabWidget::closeByUser);
     new ContextMenuHandler(tabBar(), [this](QMenu& menu, const ContextMenuRequest& request) {
         addTabEntries(menu, tabBar()->tabAt(request.widget->mapTo(tabBar(), request.position)));

@@ -275,6 +275,7 @@ void ToolBarContainer::showPopup()
 {
     if (d->inPopup.isEmpty())
         return;
+    d->popup->setLayoutDirection(layoutDirection()); // Windows do not inherit it.
     d->popup->adjustSize();
     const QSize size = d->popup->size();
     const QRect button(d->more->mapToGlobal(QPoint()), d->more->size());

@@ -69,6 +69,15 @@ private Q_SLOTS:
         Rows row;
         row("key", press(Qt::Key_W, Qt::ControlModifier), behind);
         row("other key", press(Qt::Key_W, Qt::AltModifier), all);
+        row(
+            "key after a choice by mouse",
+            [](ClosableTabWidget& tabs) {
+                QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {},
+                                  tabs.tabBar()->tabRect(0).center());
+                if (tabs.focusWidget() != nullptr)
+                    QTest::keyClick(tabs.focusWidget(), Qt::Key_W, Qt::ControlModifier);
+            },
+            behind);
         row("click", click(0, 0), behind);
         row("click elsewhere", click(0, 3), all);
         row("click on fixed", click(1, 1), all);
