@@ -117,8 +117,12 @@ void RecentFilesMenu::remove(int index)
     m_entries.erase(found);
     if (!entry)
         return; // Others have deleted it.
-    if (m_menu != nullptr)
-        m_menu->removeAction(entry);
+    // Not by m_menu: a menu that destroys this as its child is no menu any more.
+    const QList<QObject*> shownBy = entry->associatedObjects();
+    for (QObject* each : shownBy) {
+        if (auto* widget = qobject_cast<QWidget*>(each))
+            widget->removeAction(entry);
+    }
     entry->deleteLater(); // It may be the one that is being triggered.
 }
 

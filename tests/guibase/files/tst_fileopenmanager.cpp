@@ -249,7 +249,7 @@ private Q_SLOTS:
     void survivesTheDeathOf_data()
     {
         TestRows<QString> row;
-        for (const char* who : {"opener", "manager", "menu"})
+        for (const char* who : {"opener", "manager", "menu", "its parent, the menu"})
             row(who, who);
     }
     void survivesTheDeathOf()
@@ -262,6 +262,11 @@ private Q_SLOTS:
             std::make_unique<FileOpenManager>(opener.get(), QString(), menu.get(), 4, cfg());
         manager->InitMenu(0);
         QTRY_COMPARE(menu->actions().size(), 2);
+        if (who.contains(QLatin1String("parent"))) {
+            manager.release()->setParent(menu.get());
+            menu.reset();
+            return;
+        }
         DialogScript script({QStringLiteral("/new")});
         QTimer::singleShot(0, this, [&] {
             if (who == QLatin1String("opener"))
