@@ -24,7 +24,7 @@ namespace {
 
 constexpr int frequencyColumn = 0;
 constexpr int levelColumn = 1;
-constexpr int frequencyWidth = 140;
+constexpr int frequencyDigits = 18; // the width of their column
 constexpr int rowPadding = 6;
 /// What the text of a cell was read as; no data when it cannot be read.
 constexpr int valueRole = Qt::UserRole;
@@ -43,7 +43,8 @@ LevelsPanel::LevelsPanel(std::shared_ptr<SessionValues> values, QWidget* parent)
     m_table->setAccessibleName(tr("Reference levels"));
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->setColumnWidth(frequencyColumn, frequencyWidth);
+    m_table->setColumnWidth(frequencyColumn,
+                            frequencyDigits * fontMetrics().horizontalAdvance(QLatin1Char('0')));
     m_table->setWordWrap(false);
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + rowPadding);

@@ -33,25 +33,25 @@ constexpr int iconExtent = 12;
 struct ColumnLayout
 {
     const char* title;
-    int width;
+    int digits; ///< Its width.
     Qt::AlignmentFlag alignment;
     SortListView::CompareFunction compare;
 };
 
 constexpr ColumnLayout columnLayouts[SignalsPanel::ColumnCount] = {
-    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Follow"), 60, Qt::AlignLeft,
+    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Follow"), 8, Qt::AlignLeft,
      SortListView::_compStandardNumeric},
-    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Frequency"), 120, Qt::AlignRight,
+    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Frequency"), 15, Qt::AlignRight,
      SortListView::_compStandardNumeric},
-    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Level"), 80, Qt::AlignRight,
+    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Level"), 10, Qt::AlignRight,
      SortListView::_compNumericWithSuffix},
-    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Bandwidth"), 90, Qt::AlignRight,
+    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Bandwidth"), 11, Qt::AlignRight,
      SortListView::_compStandardNumeric},
-    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Type"), 170, Qt::AlignLeft,
+    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Type"), 21, Qt::AlignLeft,
      SortListView::_compStandardString},
-    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "First seen"), 110, Qt::AlignRight,
+    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "First seen"), 14, Qt::AlignRight,
      SortListView::_compStandardNumeric},
-    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Last seen"), 110, Qt::AlignRight,
+    {QT_TRANSLATE_NOOP("bandmonitor::SignalsPanel", "Last seen"), 14, Qt::AlignRight,
      SortListView::_compStandardNumeric},
 };
 
@@ -106,6 +106,7 @@ SignalsPanel::~SignalsPanel() = default;
 void SignalsPanel::buildColumns()
 {
     m_list->SetCompareFunctionLength(ColumnCount);
+    const int digitWidth = m_list->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (int column = 0; column < ColumnCount; ++column) {
         const ColumnLayout& layout = columnLayouts[column];
         m_list->addColumn(tr(layout.title));
@@ -113,10 +114,10 @@ void SignalsPanel::buildColumns()
                                    layout.alignment | Qt::AlignVCenter);
         m_list->headerItem()->setTextAlignment(column, layout.alignment | Qt::AlignVCenter);
         m_list->SetCompareFunction(column, layout.compare);
-        m_list->setColumnWidth(column, layout.width);
+        m_list->setColumnWidth(column, layout.digits * digitWidth);
     }
     // Names of types differ in length from language to language.
-    int widest = columnLayouts[Type].width;
+    int widest = columnLayouts[Type].digits * digitWidth;
     for (const char type : SignalTracker::types) {
         const QString name = GuiBase::Instance().GetSignalType(type);
         widest = std::max(widest, fontMetrics().horizontalAdvance(name) + 2 * iconExtent);
