@@ -48,6 +48,7 @@ public:
     {
         auto* row = new QHBoxLayout(this);
         auto* slider = new ControllerSlider;
+        slider->setMinimumWidth(160);
         auto* dial = new ControllerDial;
         for (AbstractController* controller : QList<AbstractController*>{slider, dial}) {
             controller->setUnit(QStringLiteral("%"));

@@ -21,7 +21,7 @@ namespace gallery {
 
 namespace {
 
-constexpr QSize pictureSize(1180, 760);
+constexpr QSize pictureSize(1280, 800);
 constexpr int settlingRounds = 3; // docks put work off into the next round
 
 } // namespace
@@ -76,6 +76,8 @@ const QList<Page>& GalleryWindow::pages()
         {QStringLiteral("colors"), tr("Colour pickers"), &makeColorPickers},
         {QStringLiteral("coloreditor"), tr("Colour editor"), &makeColorEditor},
         {QStringLiteral("popups"), tr("Pop-ups"), &makePopUps},
+        {QStringLiteral("dialogs"), tr("Dialogs"), &makeDialogs},
+        {QStringLiteral("recent"), tr("Recent files and texts"), &makeRecent, true},
         {QStringLiteral("tabs"), tr("Tabs and context menus"), &makeTabs},
         {QStringLiteral("signs"), tr("Flashing and busy signs"), &makeSigns, true},
         {QStringLiteral("circles"), tr("Circles"), &makeCircles},

@@ -103,6 +103,11 @@ void addSpecialSpinBoxes(Specimens& all)
                                     return value == 13 ? QStringLiteral("Not 13.") : QString();
                                 });
                             });
+    addStates<Int32SpinBox>(all, QStringLiteral("at its limit; emptied"), QString(), QString(),
+                            [](Int32SpinBox& box) {
+                                setNumber(box);
+                                box.setValue(box.maximum());
+                            });
     addStates<Int32SpinBox>(all, QStringLiteral("right to left"), QStringLiteral("7"),
                             QStringLiteral("seven"), [](Int32SpinBox& box) {
                                 setNumber(box);
@@ -112,15 +117,18 @@ void addSpecialSpinBoxes(Specimens& all)
 
 void addMaskedEdits(Specimens& all)
 {
-    QList<QWidget*> row;
-    for (const char* text : {"192.168.000.001", "19", "10.0.0.1"}) {
-        auto* edit = new MaskedLineEdit;
-        edit->setMask(QStringLiteral("999.999.999.999"));
-        edit->setText(QString::fromLatin1(text));
-        row << edit;
+    QList<MaskedLineEdit*> edits;
+    for (const char* text : {"192.168.000.001", "19", "10.0.0.1", "", "10.0.0.1", "10.0.0.1"}) {
+        edits << new MaskedLineEdit;
+        edits.last()->setMask(QStringLiteral("999.999.999.999"));
+        edits.last()->setText(QString::fromLatin1(text));
     }
-    row.last()->setEnabled(false);
-    all.addRow(QStringLiteral("MaskedLineEdit"), row);
+    edits.at(2)->setEnabled(false);
+    edits.at(4)->setReadOnly(true);
+    edits.at(5)->setLayoutDirection(Qt::RightToLeft);
+    all.addRow(QStringLiteral("MaskedLineEdit"), {edits.at(0), edits.at(1), edits.at(2)});
+    all.addRow(QStringLiteral("empty, read-only, right to left"),
+               {edits.at(3), edits.at(4), edits.at(5)});
 }
 
 } // namespace

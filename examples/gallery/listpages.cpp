@@ -98,6 +98,11 @@ QWidget* makeLists()
     SortListView* const hidden = makeSorted(1, Qt::AscendingOrder);
     hidden->setColumnHidden(0, true);
     grid->addWidget(framed(QStringLiteral("A column hidden by its menu"), hidden), 2, 1);
+
+    grid->addWidget(framed(QStringLiteral("Empty"), makeList()), 3, 0);
+    SortListView* const mirrored = makeSorted(0, Qt::AscendingOrder);
+    mirrored->setLayoutDirection(Qt::RightToLeft);
+    grid->addWidget(framed(QStringLiteral("Right to left"), mirrored), 3, 1);
     return page;
 }
 

@@ -14,7 +14,7 @@ struct Page
     QString name; ///< Also of its pictures.
     QString title;
     QWidget* (*make)();
-    bool isMoving = false; ///< Two pictures of it differ.
+    bool isMoving = false; ///< Two pictures of it differ, and its pictures are not compared.
 };
 
 QWidget* makeSpinBoxes();
@@ -31,6 +31,8 @@ QWidget* makeBearings();
 QWidget* makeColorEditor();
 QWidget* makeColorPickers();
 QWidget* makePopUps();
+QWidget* makeDialogs();
+QWidget* makeRecent();
 QWidget* makeTabs();
 QWidget* makeSigns();
 QWidget* makeCircles();

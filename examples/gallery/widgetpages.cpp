@@ -157,6 +157,10 @@ QWidget* makeSigns()
     tree->setMaximumHeight(120);
     all->addRow(QString(), {flashing(new QCheckBox(QStringLiteral("Muted"))), flashing(tree),
                             flashing(new QComboBox, Qt::darkGreen)});
+    auto* again = new QPushButton(QStringLiteral("Flash again"));
+    QObject::connect(again, &QPushButton::clicked, all,
+                     [again] { flashing(again->parentWidget()); });
+    all->addRow(QString(), {again});
     QList<QWidget*> signs;
     for (const int side : {16, 32, 64}) {
         auto* sign = new AnimationWidget;
@@ -219,6 +223,21 @@ QWidget* makeTrayIcons()
                      onPanel(badged, QColor(0x20, 0x20, 0x24)),
                      onPanel(TrayIcon::stateIcon({}, state), QColor(0x80, 0x80, 0x80))});
     }
+    auto* live = new TrayIcon(all);
+    auto* shown = new QCheckBox(QStringLiteral("Shown"));
+    QObject::connect(shown, &QCheckBox::toggled, live,
+                     [live](bool isShown) { isShown ? live->show() : live->hide(); });
+    auto* states = new QComboBox;
+    for (const TrayState state :
+         {TrayState::Idle, TrayState::Running, TrayState::Warning, TrayState::Fault})
+        states->addItem(TrayIcon::stateName(state));
+    QObject::connect(states, &QComboBox::currentIndexChanged, live,
+                     [live](int index) { live->setState(static_cast<TrayState>(index)); });
+    auto* message = new QPushButton(QStringLiteral("Message"));
+    QObject::connect(message, &QPushButton::clicked, live, [live] {
+        live->showMessage(QStringLiteral("Gallery"), QStringLiteral("A message of the icon."));
+    });
+    all->addRow(QStringLiteral("In the tray of this desktop"), {shown, states, message});
     return all;
 }
 
