@@ -23,7 +23,7 @@ constexpr int popUpTime = 5000; // milliseconds
 template <typename Open>
 QWidget* opener(const char* text, Open open)
 {
-    auto* button = new QPushButton(QString::fromLatin1(text));
+    auto* button = new QPushButton(QString::fromUtf8(text));
     QObject::connect(button, &QPushButton::clicked, button, [button, open] { open(button); });
     return button;
 }
