@@ -74,10 +74,10 @@ QComboBox* makeHistory(const QString& name, const QStringList& texts)
     return box;
 }
 
-/// The menu as it opens.
-QMenu* makeRecentFiles(const QStringList& names)
+QWidget* makeRecentFiles(const QStringList& names)
 {
-    auto* menu = new QMenu;
+    auto* button = new QPushButton(QStringLiteral("&File"));
+    auto* menu = new QMenu(button);
     auto* files = new FileOpenManager(nullptr, {}, menu, 5, nullptr);
     files->setParent(menu);
     menu->addAction(QStringLiteral("&Open…"));
@@ -85,8 +85,8 @@ QMenu* makeRecentFiles(const QStringList& names)
     files->InitMenu(-1);
     for (const QString& name : names)
         files->addRecentFile(name);
-    menu->setWindowFlags(Qt::Widget); // Part of the page.
-    return menu;
+    button->setMenu(menu);
+    return button;
 }
 
 } // namespace
