@@ -28,7 +28,11 @@ LevelRange rangeOfBlocks(std::span<const float> minima, std::span<const float> m
 
 void addLevels(LevelRange& column, std::span<const float> levels)
 {
-    column.add(rangeOf(levels));
+    constexpr std::size_t few = 8; // taken in here in less time than a call takes
+    if (levels.size() >= few)
+        return column.add(rangeOf(levels));
+    for (const float level : levels)
+        column.add(level);
 }
 
 void addLevels(float& column, std::span<const float> levels)
