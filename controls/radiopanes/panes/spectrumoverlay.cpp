@@ -7,6 +7,7 @@
 #include <radiopanes/colors/panecolors.h>
 
 #include <QPainter>
+#include <QTextOption>
 
 #include <algorithm>
 #include <cmath>
@@ -43,6 +44,21 @@ QStringList broken(const QString& line, const QFontMetrics& metrics, int width)
             lines << (lines.isEmpty() ? part : partGap + part);
     }
     return lines;
+}
+
+/// One line, which keeps the places of its glyphs.
+std::unique_ptr<QTextLayout> laidOut(const QString& text, const QFont& font)
+{
+    auto layout = std::make_unique<QTextLayout>(text, font);
+    QTextOption option;
+    option.setTextDirection(Qt::LeftToRight);
+    option.setWrapMode(QTextOption::NoWrap);
+    layout->setTextOption(option);
+    layout->setCacheEnabled(true);
+    layout->beginLayout();
+    layout->createLine().setLineWidth(QWIDGETSIZE_MAX);
+    layout->endLayout();
+    return layout;
 }
 
 } // namespace
@@ -168,30 +184,57 @@ QStringList SpectrumPanePrivate::readOut()
     return lines;
 }
 
-QStringList SpectrumPanePrivate::shownReadOut()
+void SpectrumPanePrivate::layOutTexts()
 {
-    const QFontMetrics metrics = q->fontMetrics();
-    QStringList shown;
-    const QStringList lines = readOut();
-    for (const QString& line : lines)
-        shown << broken(line, metrics, q->width() - 4 * boxMargin);
-    const int least = caption.isEmpty() ? 1 : 2;
-    const int most = std::max(q->height() / 2 / std::max(metrics.height(), 1), least);
-    if (shown.size() > most) {
-        shown.resize(most);
-        shown.last() += QStringLiteral(" …");
+    QStringList lines = readOut();
+    if (lines != texts.lines || q->font() != texts.font || q->size() != texts.paneSize) {
+        texts.lines = std::move(lines);
+        texts.font = q->font();
+        texts.paneSize = q->size();
+        layOutReadOut();
+        stale += texts.readOut;
     }
-    return shown;
+    const QRect readOutPlace = readOutRect();
+    const QRect legendPlace = legendRect(readOutPlace);
+    for (const auto& [place, newPlace] :
+         {std::pair(&texts.readOut, &readOutPlace), std::pair(&texts.legend, &legendPlace)}) {
+        if (*place != *newPlace)
+            stale += QRegion(std::exchange(*place, *newPlace)) + *newPlace;
+    }
 }
 
-QRect SpectrumPanePrivate::readOutRect(const QStringList& lines) const
+/// Long lines are broken between their parts, and what would cover more than the upper half of the
+/// pane is left out, but never the line of the cursor.
+void SpectrumPanePrivate::layOutReadOut()
 {
+    texts.rows.clear();
     const QFontMetrics metrics = q->fontMetrics();
-    int textWidth = 0;
-    for (const QString& line : lines)
-        textWidth = std::max(textWidth, metrics.horizontalAdvance(line));
-    const int boxWidth = textWidth + 2 * boxMargin;
-    const int boxHeight = static_cast<int>(lines.size()) * metrics.height() + boxMargin;
+    const int width = q->width() - 4 * boxMargin;
+    const std::size_t least = caption.isEmpty() ? 1 : 2;
+    const std::size_t most =
+        std::max(static_cast<std::size_t>(q->height() / 2 / std::max(metrics.height(), 1)), least);
+    for (const QString& line : std::as_const(texts.lines)) {
+        texts.rows.push_back(laidOut(line, texts.font));
+        if (texts.rows.back()->lineAt(0).naturalTextWidth() <= width)
+            continue;
+        texts.rows.pop_back();
+        for (const QString& part : broken(line, metrics, width))
+            texts.rows.push_back(laidOut(part, texts.font));
+    }
+    if (texts.rows.size() > most) {
+        texts.rows.resize(most);
+        texts.rows.back() = laidOut(texts.rows.back()->text() + QStringLiteral(" …"), texts.font);
+    }
+}
+
+QRect SpectrumPanePrivate::readOutRect() const
+{
+    double textWidth = 0;
+    for (const auto& row : texts.rows)
+        textWidth = std::max(textWidth, row->lineAt(0).naturalTextWidth());
+    const int boxWidth = qRound(textWidth) + 2 * boxMargin;
+    const int boxHeight =
+        static_cast<int>(texts.rows.size()) * q->fontMetrics().height() + boxMargin;
     // At the right, unless the cursor is there.
     const int right = q->width() - boxWidth - boxMargin;
     const bool cursorAtRight = q->positionOf(q->visibleBand().cursor()) >= right - boxMargin;
@@ -206,53 +249,73 @@ void SpectrumPanePrivate::paintBox(QPainter& painter, const QRect& place) const
     painter.setPen(paneColor(PaneSlot::ReadOut));
 }
 
-void SpectrumPanePrivate::paintTexts(QPainter& painter)
+void SpectrumPanePrivate::paintTexts(QPainter& painter, const QRegion& region)
 {
-    const QStringList lines = shownReadOut();
-    paintedReadOut = readOutRect(lines);
-    if (!lines.isEmpty())
-        paintBox(painter, paintedReadOut);
-    painter.drawText(paintedReadOut.adjusted(boxMargin, boxMargin / 2, 0, 0),
-                     Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip,
-                     lines.join(QLatin1Char('\n')));
-    if (q->isLegendVisible())
-        paintLegend(painter, paintedReadOut);
+    layOutTexts();
+    if (!texts.rows.empty() && region.intersects(texts.readOut)) {
+        paintBox(painter, texts.readOut);
+        QPoint place = texts.readOut.topLeft() + QPoint(boxMargin, boxMargin / 2);
+        for (const auto& row : texts.rows) {
+            row->draw(&painter, place);
+            place.ry() += q->fontMetrics().height();
+        }
+    }
+    if (!texts.legend.isNull() && region.intersects(texts.legend))
+        paintLegend(painter);
 }
 
-void SpectrumPanePrivate::paintLegend(QPainter& painter, const QRect& taken) const
+std::vector<Trace> SpectrumPanePrivate::shownTraces() const
 {
     std::vector<Trace> shown;
-    int textWidth = 0;
-    const QFontMetrics metrics = q->fontMetrics();
     for (int number = 0; number < traceCount; ++number) {
         const auto kind = static_cast<Trace>(number);
-        if (!trace(kind).isShown())
-            continue;
-        shown.push_back(kind);
-        textWidth = std::max(textWidth, metrics.horizontalAdvance(SpectrumPane::traceName(kind)));
+        if (trace(kind).isShown())
+            shown.push_back(kind);
     }
-    if (shown.size() < 2)
-        return;
-    const int lineHeight = metrics.height();
-    const QRect place = legendRect({textWidth + swatchWidth + 3 * boxMargin,
-                                    static_cast<int>(shown.size()) * lineHeight + boxMargin},
-                                   taken);
-    if (place.isNull())
-        return;
+    return shown;
+}
+
+void SpectrumPanePrivate::paintLegend(QPainter& painter) const
+{
+    const QRect& place = texts.legend;
     paintBox(painter, place);
-    QRect line(place.x() + boxMargin, place.y() + boxMargin / 2, place.width(), lineHeight);
-    for (const Trace kind : shown) {
+    QRect line(place.x() + boxMargin, place.y() + boxMargin / 2, place.width(),
+               q->fontMetrics().height());
+    for (const Trace kind : shownTraces()) {
         painter.fillRect(line.x(), line.center().y() - 1, swatchWidth, swatchHeight,
                          paneColor(traceSlot(kind)));
         painter.drawText(line.adjusted(swatchWidth + boxMargin, 0, 0, 0),
                          Qt::AlignLeft | Qt::AlignVCenter, SpectrumPane::traceName(kind));
-        line.translate(0, lineHeight);
+        line.translate(0, line.height());
     }
 }
 
-/// At the left, else below the read-out, else beside it; null where it does not fit in.
-QRect SpectrumPanePrivate::legendRect(const QSize& size, const QRect& taken) const
+QSize SpectrumPanePrivate::legendSize()
 {
+    const std::vector<Trace> shown = shownTraces();
+    if (!q->isLegendVisible() || shown.size() < 2)
+        return {};
+    if (texts.legendTraces != shown || texts.legendFont != q->font()) {
+        texts.legendTraces = shown;
+        texts.legendFont = q->font();
+        const QFontMetrics metrics = q->fontMetrics();
+        int textWidth = 0;
+        for (const Trace kind : shown)
+            textWidth =
+                std::max(textWidth, metrics.horizontalAdvance(SpectrumPane::traceName(kind)));
+        texts.legendSize = {textWidth + swatchWidth + 3 * boxMargin,
+                            static_cast<int>(shown.size()) * metrics.height() + boxMargin};
+        stale += texts.legend;
+    }
+    return texts.legendSize;
+}
+
+/// At the left, else below the read-out, else beside it; null where it does not fit in.
+QRect SpectrumPanePrivate::legendRect(const QRect& taken)
+{
+    const QSize size = legendSize();
+    if (size.isEmpty())
+        return {};
     const QRect inside = q->rect().adjusted(0, 0, -boxMargin, -boxMargin);
     const QPoint places[] = {{boxMargin, boxMargin},
                              {boxMargin, taken.bottom() + boxMargin},

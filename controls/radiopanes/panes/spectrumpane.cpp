@@ -75,7 +75,7 @@ void SpectrumPane::setTrace(Trace trace, const Sweep& sweep,
     if (!state.isVisible)
         return;
     d->invalidate();
-    update();
+    d->showSoon();
 }
 
 void SpectrumPane::setTraceVisible(Trace trace, bool visible)
@@ -255,15 +255,16 @@ double SpectrumPane::snapped(double hertz) const
     return bin ? bin->hertz : hertz;
 }
 
-void SpectrumPane::paintEvent(QPaintEvent*)
+void SpectrumPane::paintEvent(QPaintEvent* event)
 {
     PanePainter painter(this);
-    painter.drawImage(QPointF(), d->picture());
+    d->paintPicture(painter, event->region());
     d->paintReferenceLevels(painter);
     d->paintThreshold(painter);
     paintOverlay(painter);
     d->paintPinNumbers(painter);
-    d->paintTexts(painter);
+    d->paintTexts(painter, event->region());
+    d->updateStale(event->region());
 }
 
 void SpectrumPane::keyPressEvent(QKeyEvent* event)
@@ -300,11 +301,8 @@ void SpectrumPane::wheelEvent(QWheelEvent* event)
 
 void SpectrumPane::updateReadOut()
 {
-    const QRect place = d->readOutRect(d->shownReadOut());
-    // The legend gives way to the read-out.
-    const bool hasMoved =
-        place.left() != d->paintedReadOut.left() || place.bottom() != d->paintedReadOut.bottom();
-    update(hasMoved && isLegendVisible() ? rect() : place.united(d->paintedReadOut));
+    d->layOutTexts();
+    d->updateStale();
 }
 
 } // namespace RadioPanes

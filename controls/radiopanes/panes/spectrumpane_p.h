@@ -8,8 +8,13 @@
 
 #include <QFont>
 #include <QImage>
+#include <QRegion>
+#include <QTextLayout>
 
 #include <array>
+#include <memory>
+#include <utility>
+#include <vector>
 
 class QPainter;
 
@@ -37,23 +42,32 @@ public:
 
     TraceState& trace(Trace kind) { return traces[static_cast<std::size_t>(kind)]; }
     const TraceState& trace(Trace kind) const { return traces[static_cast<std::size_t>(kind)]; }
-    /// The picture, in device pixels, as it is to be now.
-    const QImage& picture();
     void invalidate() { isDrawn = false; }
+    /// Has the pane painted where picture or texts have changed, but for what was painted just now.
+    /// Not before showChanges(), where that is going to be called: what was painted may have been a
+    /// copy of the pane.
+    void updateStale(const QRegion& painted = {})
+    {
+        if (!isShowing && !stale.isEmpty())
+            q->update(std::exchange(stale, {}).subtracted(painted));
+    }
+    /// Draws the picture when the event loop comes to it, once for all changes until then, and has
+    /// the pane painted where the picture has changed.
+    void showSoon();
+    /// Draws the picture before, if it is another one by now.
+    void paintPicture(QPainter& painter, const QRegion& region);
 
     // What is painted over the picture.
     void paintReferenceLevels(QPainter& painter) const;
     void paintThreshold(QPainter& painter) const;
     void paintPinNumbers(QPainter& painter) const;
     /// The read-out and the legend, which gives way to it.
-    void paintTexts(QPainter& painter);
+    void paintTexts(QPainter& painter, const QRegion& region);
 
     double yOf(double level) const;
     QStringList readOut();
-    /// The read-out as it fits into the pane: long lines are broken between their parts, and what
-    /// would cover more than the upper half is left out, but never the line of the cursor.
-    QStringList shownReadOut();
-    QRect readOutRect(const QStringList& lines) const;
+    /// Brings `texts` up to date; where they change is stale.
+    void layOutTexts();
 
     SpectrumPane* q;
     const FrequencyText* text;
@@ -66,7 +80,20 @@ public:
     double lowLevel = -120;
     double highLevel = 0;
     WheelNotches wheel;
-    QRect paintedReadOut;
+    /// The read-out and the legend as they fit into the pane.
+    struct Texts
+    {
+        QStringList lines; ///< What the read-out tells,
+        QFont font;        ///< and what else it was laid out for.
+        QSize paneSize;
+        std::vector<std::unique_ptr<QTextLayout>> rows;
+        QRect readOut;
+        std::vector<Trace> legendTraces;
+        QFont legendFont;
+        QSize legendSize;
+        QRect legend; ///< Null for none.
+    };
+    Texts texts;
     /// The ticks of the level axis: the axis and the picture ask for them with every painting.
     struct LevelTicks
     {
@@ -107,6 +134,9 @@ private:
         void clear(std::size_t width);
     };
 
+    /// Draws the picture, in device pixels, unless it is still as it is to be.
+    void drawPicture();
+    void showChanges();
     PictureKey makeKey() const;
     void draw();
     void reduce(TraceState& state) const;
@@ -121,16 +151,22 @@ private:
     QString readOutLine(const QString& title, double hertz) const;
     QString difference(double hertz, double fromHertz) const;
     QString widths(double hertz);
-    void paintLegend(QPainter& painter, const QRect& taken) const;
-    QRect legendRect(const QSize& size, const QRect& taken) const;
+    void layOutReadOut();
+    QRect readOutRect() const;
+    std::vector<Trace> shownTraces() const;
+    void paintLegend(QPainter& painter) const;
+    QSize legendSize();
+    QRect legendRect(const QRect& taken);
     void paintBox(QPainter& painter, const QRect& place) const;
 
     PictureKey key;
     float lowest = 0; ///< The level at the bottom of the picture.
     float rowsPerDecibel = 1;
     bool isDrawn = false;
+    bool isShowing = false; ///< showChanges() is going to be called.
+    QRegion stale;          ///< Where the pane was not yet told to be painted anew.
     SpectrumRaster raster;
-    QImage* image = nullptr;
+    const QImage* image = nullptr; ///< Of the raster.
     std::array<Pixels, traceCount> pixels;
     std::vector<int> shadowTop;
 };

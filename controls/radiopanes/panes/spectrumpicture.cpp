@@ -5,6 +5,9 @@
 
 #include <radiopanes/colors/panecolors.h>
 
+#include <QPainter>
+#include <QWindow>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -22,6 +25,14 @@ enum Color { BackgroundTop, BackgroundBottom, Grid, Shadow, FirstTrace };
 QRgb rgbOf(IColorBase::ECOLOR slot)
 {
     return paneColor(slot).rgb();
+}
+
+/// The smallest rectangle around what the scaled one covers.
+QRect scaled(const QRect& rect, double factor)
+{
+    return QRectF(rect.x() * factor, rect.y() * factor, rect.width() * factor,
+                  rect.height() * factor)
+        .toAlignedRect();
 }
 
 } // namespace
@@ -48,15 +59,54 @@ SpectrumPanePrivate::PictureKey SpectrumPanePrivate::makeKey() const
     return result;
 }
 
-const QImage& SpectrumPanePrivate::picture()
+void SpectrumPanePrivate::drawPicture()
 {
     PictureKey wanted = makeKey();
-    if (!isDrawn || wanted != key) {
-        key = std::move(wanted);
-        draw();
-        isDrawn = true;
+    if (isDrawn && wanted == key)
+        return;
+    key = std::move(wanted);
+    draw();
+    isDrawn = true;
+    const double ratio = q->devicePixelRatioF();
+    for (const QRect& rect : raster.changes())
+        stale += scaled(rect, 1 / ratio);
+}
+
+void SpectrumPanePrivate::showSoon()
+{
+    if (isShowing || !q->isVisible())
+        return;
+    isShowing = true;
+    QMetaObject::invokeMethod(
+        q, [this] { showChanges(); }, Qt::QueuedConnection);
+}
+
+void SpectrumPanePrivate::showChanges()
+{
+    isShowing = false;
+    const QWindow* window = q->window()->windowHandle();
+    if (q->isVisible() && window != nullptr && window->isExposed()) {
+        drawPicture();
+        layOutTexts();
+        updateStale();
+    } else {
+        stale = {};
+        q->update(); // draws when it comes to be painted
     }
-    return *image;
+}
+
+void SpectrumPanePrivate::paintPicture(QPainter& painter, const QRegion& region)
+{
+    drawPicture();
+    const double ratio = q->devicePixelRatioF();
+    painter.save();
+    painter.scale(1 / ratio, 1 / ratio);
+    for (const QRect& rect : region) {
+        const QRect place = scaled(rect, ratio) & image->rect();
+        painter.setClipRect(place); // one rectangle: the toolkit copies rows
+        painter.drawImage(place.topLeft(), *image, place);
+    }
+    painter.restore();
 }
 
 void SpectrumPanePrivate::draw()
@@ -92,7 +142,6 @@ void SpectrumPanePrivate::draw()
     }
     content.lines = lines;
     image = &raster.draw(key.pixels, content);
-    image->setDevicePixelRatio(q->devicePixelRatioF());
 }
 
 void SpectrumPanePrivate::reduce(TraceState& state) const

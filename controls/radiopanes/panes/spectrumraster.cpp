@@ -9,149 +9,6 @@
 #include <limits>
 #include <utility>
 
-namespace RadioPanes {
-
-namespace {
-
-constexpr int dotDistance = 3;
-
-/// Columns are looked at in tiles: those whose pixels stay as they are cost nothing.
-constexpr int tileWidth = 16;
-
-int tilesOf(int width)
-{
-    return (width + tileWidth - 1) / tileWidth;
-}
-
-using Rows = SpectrumRaster::Rows;
-
-/// Tells the tiles that are used in each row, from the top to the bottom.
-class TileRows
-{
-public:
-    TileRows(std::span<const Rows> tiles, int height)
-        : m_heads(static_cast<std::size_t>(height), none)
-    {
-        m_changes.reserve(2 * tiles.size());
-        for (int tile = 0; tile < std::ssize(tiles); ++tile) {
-            const Rows& rows = tiles[static_cast<std::size_t>(tile)];
-            if (std::max(rows.first, 0) < std::min(rows.end, height)) {
-                add(rows.first, tile, true);
-                add(rows.end, tile, false);
-            }
-        }
-    }
-
-    /// To be called for one row after the other.
-    void at(int row)
-    {
-        for (int next = m_heads[static_cast<std::size_t>(row)]; next != none;) {
-            const Change& change = m_changes[static_cast<std::size_t>(next)];
-            if (change.begins)
-                m_within.push_back(change.tile);
-            else
-                std::erase(m_within, change.tile);
-            next = change.next;
-        }
-    }
-    /// The tiles used in that row, in any order.
-    std::span<const int> within() const { return m_within; }
-
-private:
-    static constexpr int none = -1;
-
-    struct Change
-    {
-        int tile;
-        bool begins;
-        int next; ///< In the same row.
-    };
-
-    void add(int row, int tile, bool begins)
-    {
-        if (row >= static_cast<int>(m_heads.size()))
-            return;
-        int& head = m_heads[static_cast<std::size_t>(std::max(row, 0))];
-        m_changes.push_back({tile, begins, head});
-        head = static_cast<int>(m_changes.size()) - 1;
-    }
-
-    std::vector<int> m_heads; ///< The first change in each row.
-    std::vector<Change> m_changes;
-    std::vector<int> m_within;
-};
-
-/// What a row is made of.
-struct RowContent
-{
-    int y;
-    QRgb plain;
-    QRgb shaded;
-    const int* shadowTop;
-    std::span<const SpectrumRaster::Line> lines;
-
-    QRgb pixel(int x) const
-    {
-        const auto column = static_cast<std::size_t>(x);
-        QRgb color = y >= shadowTop[x] ? shaded : plain;
-        for (const SpectrumRaster::Line& line : lines)
-            color = y >= line.top[column] && y <= line.bottom[column] ? line.color : color;
-        return color;
-    }
-};
-
-#ifdef __GNUC__
-
-/// Four pixels at a time: the compiler does not make such steps of loops with several conditions.
-using Pixels = int __attribute__((vector_size(16)));
-constexpr int pixelsAtOnce = sizeof(Pixels) / sizeof(int);
-
-Pixels load(const int* columns)
-{
-    Pixels result;
-    std::memcpy(&result, columns, sizeof(result));
-    return result;
-}
-
-Pixels all(int value)
-{
-    return Pixels{} + value;
-}
-
-inline void drawTile(QRgb* row, int x, const RowContent& content)
-{
-    // Comparisons give all bits or none, so that a colour is chosen without a branch.
-    std::array<Pixels, tileWidth / pixelsAtOnce> tile{};
-    const Pixels y = all(content.y);
-    const Pixels plain = all(static_cast<int>(content.plain));
-    const Pixels shaded = all(static_cast<int>(content.shaded));
-    const int* shadowTop = content.shadowTop + x;
-    for (std::size_t i = 0; i < tile.size(); ++i)
-        tile[i] = shaded ^ ((shaded ^ plain) & (load(shadowTop + i * pixelsAtOnce) > y));
-    for (const SpectrumRaster::Line& line : content.lines) {
-        const int* top = line.top.data() + x;
-        const int* bottom = line.bottom.data() + x;
-        const Pixels color = all(static_cast<int>(line.color));
-        for (std::size_t i = 0; i < tile.size(); ++i) {
-            const std::size_t at = i * pixelsAtOnce;
-            const Pixels isOutside = (load(top + at) > y) | (y > load(bottom + at));
-            tile[i] ^= ~isOutside & (tile[i] ^ color);
-        }
-    }
-    for (std::size_t i = 0; i < tile.size(); ++i)
-        std::memcpy(row + x + i * pixelsAtOnce, &tile[i], sizeof(Pixels));
-}
-
-#else
-
-inline void drawTile(QRgb* row, int x, const RowContent& content)
-{
-    for (const int end = x + tileWidth; x < end; ++x)
-        row[x] = content.pixel(x);
-}
-
-#endif
-
 // The sanitizers do not know functions in several versions.
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) &&                             \
     !defined(__SANITIZE_ADDRESS__)
@@ -160,119 +17,248 @@ inline void drawTile(QRgb* row, int x, const RowContent& content)
 #define RADIOPANES_VERSIONS
 #endif
 
-RADIOPANES_VERSIONS void drawTiles(QRgb* row, int width, std::span<const int> tiles,
-                                   const RowContent& content)
+namespace RadioPanes {
+
+namespace {
+
+constexpr int dotDistance = 3;
+constexpr int tileWidth = 8;
+
+using Rows = SpectrumRaster::Rows;
+using RowColors = SpectrumRaster::RowColors;
+
+/// What is drawn in the columns of a tile.
+struct Tile
 {
-    for (const int tile : tiles) {
-        int x = tile * tileWidth;
-        if (x + tileWidth <= width) {
-            drawTile(row, x, content);
-            continue;
+    /// A number for each column.
+    using Columns = std::array<int, tileWidth>;
+    struct Line
+    {
+        Columns top;
+        Columns bottom;
+        QRgb color;
+    };
+
+    int x;
+    std::size_t lineCount;
+    std::array<Line, SpectrumRaster::mostLines> lines;
+    Columns shadowTop;
+    Columns rowDots;    ///< All bits where lines of the grid along rows have their dots, or none.
+    Columns columnDots; ///< The same of lines along columns.
+    bool hasColumnDots;
+};
+
+/// What is behind the traces.
+struct Background
+{
+    std::span<const RowColors> rows;
+    QRgb grid;
+    QRgb shadedGrid;
+};
+
+#ifdef __GNUC__
+
+/// All columns of a tile at a time: the compiler does not make such steps of loops with several
+/// conditions. Comparisons give all bits or none, so that a colour is chosen without a branch.
+using Lanes = int __attribute__((vector_size(tileWidth * sizeof(int))));
+
+inline __attribute__((always_inline)) void load(Lanes& lanes, const Tile::Columns& columns)
+{
+    std::memcpy(&lanes, columns.data(), sizeof(lanes));
+}
+
+inline __attribute__((always_inline)) void drawTile(const Tile& tile, const Background& background,
+                                                    Rows rows, uchar* pixels,
+                                                    std::ptrdiff_t bytesPerLine)
+{
+    const auto all = [](Lanes& lanes, QRgb color) { lanes = Lanes{} + static_cast<int>(color); };
+    Lanes shadowTop, grid, shadedGrid;
+    load(shadowTop, tile.shadowTop);
+    all(grid, background.grid);
+    all(shadedGrid, background.shadedGrid);
+    struct LineLanes
+    {
+        Lanes top;
+        Lanes bottom;
+        Lanes color;
+    };
+    std::array<LineLanes, SpectrumRaster::mostLines> lines;
+    for (std::size_t i = 0; i < tile.lineCount; ++i) {
+        load(lines[i].top, tile.lines[i].top);
+        load(lines[i].bottom, tile.lines[i].bottom);
+        all(lines[i].color, tile.lines[i].color);
+    }
+    for (int y = rows.first; y < rows.end; ++y) {
+        const RowColors& colors = background.rows[static_cast<std::size_t>(y)];
+        const Lanes row = Lanes{} + y;
+        Lanes plain, shaded;
+        all(plain, colors.plain);
+        all(shaded, colors.shaded);
+        const bool hasColumnDots = tile.hasColumnDots && y % dotDistance == 0;
+        if (hasColumnDots || colors.isGrid) [[unlikely]] {
+            Lanes rowDots{}, columnDots{};
+            if (colors.isGrid)
+                load(rowDots, tile.rowDots);
+            if (hasColumnDots)
+                load(columnDots, tile.columnDots);
+            plain ^= (plain ^ grid) & (rowDots | columnDots);
+            shaded ^= (shaded ^ shadedGrid) & (rowDots | columnDots);
         }
-        for (; x < width; ++x)
-            row[x] = content.pixel(x);
+        Lanes result = shaded ^ ((shaded ^ plain) & (shadowTop > row));
+        for (std::size_t i = 0; i < tile.lineCount; ++i) {
+            const Lanes isOutside = (lines[i].top > row) | (row > lines[i].bottom);
+            result = lines[i].color ^ ((lines[i].color ^ result) & isOutside);
+        }
+        std::memcpy(pixels + y * bytesPerLine, &result, sizeof(result));
     }
 }
 
-class Drawing
+#else
+
+void drawTile(const Tile& tile, const Background& background, Rows rows, uchar* pixels,
+              std::ptrdiff_t bytesPerLine)
+{
+    for (int y = rows.first; y < rows.end; ++y) {
+        const RowColors& colors = background.rows[static_cast<std::size_t>(y)];
+        auto* pixel = reinterpret_cast<QRgb*>(pixels + y * bytesPerLine);
+        for (std::size_t column = 0; column < tileWidth; ++column) {
+            const bool isShaded = y >= tile.shadowTop[column];
+            const bool isDot = (colors.isGrid && tile.rowDots[column]) ||
+                               (y % dotDistance == 0 && tile.columnDots[column]);
+            QRgb color = isDot      ? isShaded ? background.shadedGrid : background.grid
+                         : isShaded ? colors.shaded
+                                    : colors.plain;
+            for (std::size_t i = 0; i < tile.lineCount; ++i) {
+                const Tile::Line& line = tile.lines[i];
+                color = y >= line.top[column] && y <= line.bottom[column] ? line.color : color;
+            }
+            pixel[column] = color;
+        }
+    }
+}
+
+#endif
+
+/// The tiles of a content, from left to right.
+class Tiles
 {
 public:
-    /// Draws where something is, and where something was before: in the rows `drawn` of the tiles,
-    /// which become those of now.
-    Drawing(QImage& image, const SpectrumRaster::Content& content,
-            std::span<const std::pair<QRgb, QRgb>> rowColors, std::vector<Rows>& drawn)
-        : m_image(image)
-        , m_width(image.width())
-        , m_content(content)
-        , m_rowColors(rowColors)
-        , m_shadowTop(content.shadowTop.begin(), content.shadowTop.end())
-        , m_changed(takeChanges(drawn), image.height())
-    {}
-
-    void draw()
+    explicit Tiles(const SpectrumRaster::Content& content, int width)
+        : m_content(content)
+        , m_width(width)
     {
-        for (int y = m_first; y < m_end; ++y) {
-            auto* row = reinterpret_cast<QRgb*>(m_bits + y * m_bytesPerLine);
-            const auto [plain, shaded] = m_rowColors[static_cast<std::size_t>(y)];
-            const RowContent content{y, plain, shaded, m_shadowTop.data(), m_content.lines};
-            m_changed.at(y);
-            drawTiles(row, m_width, m_changed.within(), content);
-            drawGrid(row, content);
+        m_tile.x = -tileWidth;
+        m_tile.lineCount = content.lines.size();
+        for (std::size_t i = 0; i < m_tile.lineCount; ++i)
+            m_tile.lines[i].color = content.lines[i].color;
+    }
+
+    /// False after the last one.
+    bool next()
+    {
+        m_tile.x += tileWidth;
+        if (m_tile.x >= m_width)
+            return false;
+        take(m_tile.shadowTop, m_content.shadowTop, std::numeric_limits<int>::max());
+        for (std::size_t i = 0; i < m_tile.lineCount; ++i) {
+            take(m_tile.lines[i].top, m_content.lines[i].top, std::numeric_limits<int>::max());
+            take(m_tile.lines[i].bottom, m_content.lines[i].bottom, -1);
         }
+        for (int column = 0; column < tileWidth; ++column)
+            m_tile.rowDots[static_cast<std::size_t>(column)] =
+                (m_tile.x + column) % dotDistance == 0 ? -1 : 0;
+        takeColumnDots();
+        return true;
+    }
+    const Tile& tile() const { return m_tile; }
+    /// The rows that anything is drawn in.
+    Rows rows() const
+    {
+        Rows rows{std::numeric_limits<int>::max(), 0};
+        if (!m_content.shadowTop.empty())
+            rows = {std::ranges::min(m_tile.shadowTop), std::ranges::max(m_tile.shadowTop)};
+        for (std::size_t i = 0; i < m_tile.lineCount; ++i) {
+            const Tile::Line& line = m_tile.lines[i];
+            rows = rows.united({std::ranges::min(line.top), std::ranges::max(line.bottom) + 1});
+        }
+        return rows;
     }
 
 private:
-    /// The rows that must be drawn in each tile.
-    std::vector<Rows> takeChanges(std::vector<Rows>& drawn)
+    void take(Tile::Columns& columns, std::span<const int> all, int nothing) const
     {
-        std::vector<Rows> used(drawn.size(), Rows{m_image.height(), 0});
-        // The shadow also where it begins in one row: it may come to begin in another.
-        if (!m_shadowTop.empty())
-            unite(used, m_shadowTop, m_shadowTop, 0);
-        else
-            m_shadowTop.assign(static_cast<std::size_t>(m_width), m_image.height());
-        for (const SpectrumRaster::Line& line : m_content.lines)
-            unite(used, line.top, line.bottom, 1);
-        std::vector<Rows> changed = std::exchange(drawn, used);
-        for (std::size_t tile = 0; tile < changed.size(); ++tile) {
-            Rows& rows = changed[tile];
-            rows = {std::min(rows.first, used[tile].first), std::max(rows.end, used[tile].end)};
-            m_first = std::min(m_first, std::max(rows.first, 0));
-            m_end = std::max(m_end, std::min(rows.end, m_image.height()));
-        }
-        return changed;
+        const auto x = static_cast<std::size_t>(m_tile.x);
+        const std::size_t count = std::min(all.size() - std::min(x, all.size()), columns.size());
+        if (count < columns.size())
+            columns.fill(nothing);
+        std::copy_n(all.begin() + std::min(m_tile.x, static_cast<int>(all.size())), count,
+                    columns.begin());
     }
-
-    /// Adds the rows from the first of `tops` to the last of `bottoms`, and `more`, to each tile.
-    void unite(std::vector<Rows>& tiles, std::span<const int> tops, std::span<const int> bottoms,
-               int more) const
+    void takeColumnDots()
     {
-        for (std::size_t tile = 0; tile < tiles.size(); ++tile) {
-            const std::size_t x = tile * tileWidth;
-            const std::size_t end = std::min(x + tileWidth, tops.size());
-            Rows rows = tiles[tile];
-            for (std::size_t column = x; column < end; ++column) {
-                rows.first = std::min(rows.first, tops[column]);
-                rows.end = std::max(rows.end, bottoms[column] + more);
-            }
-            tiles[tile] = rows;
+        const std::span<const int> grid = m_content.gridColumns;
+        m_tile.hasColumnDots = false;
+        m_tile.columnDots = {};
+        for (; m_gridColumn < grid.size() && grid[m_gridColumn] < m_tile.x + tileWidth;
+             ++m_gridColumn) {
+            m_tile.columnDots[static_cast<std::size_t>(grid[m_gridColumn] - m_tile.x)] = -1;
+            m_tile.hasColumnDots = true;
         }
     }
 
-    /// Behind the lines. What was drawn before is drawn again alike.
-    void drawGrid(QRgb* row, const RowContent& content)
-    {
-        const auto dot = [&](int x) {
-            const auto isLine = [&, column = static_cast<std::size_t>(x)](const auto& line) {
-                return content.y >= line.top[column] && content.y <= line.bottom[column];
-            };
-            if (std::ranges::none_of(content.lines, isLine))
-                row[x] = content.y >= content.shadowTop[x] ? m_shadedGrid : m_content.grid;
-        };
-        const std::span<const int> rows = m_content.gridRows;
-        while (m_gridRow < rows.size() && rows[m_gridRow] < content.y)
-            ++m_gridRow;
-        if (m_gridRow < rows.size() && rows[m_gridRow] == content.y) {
-            for (int x = 0; x < m_width; x += dotDistance)
-                dot(x);
-        }
-        if (content.y % dotDistance == 0)
-            std::ranges::for_each(m_content.gridColumns, dot);
-    }
-
-    QImage& m_image;
-    uchar* m_bits = m_image.bits();
-    qsizetype m_bytesPerLine = m_image.bytesPerLine();
-    int m_width;
     const SpectrumRaster::Content& m_content;
-    std::span<const std::pair<QRgb, QRgb>> m_rowColors;
-    QRgb m_shadedGrid = mixed(m_content.grid, m_content.shadow, m_content.shadowOpacity);
-    std::vector<int> m_shadowTop;
-    int m_first = std::numeric_limits<int>::max();
-    int m_end = 0;
-    TileRows m_changed;
-    std::size_t m_gridRow = 0;
+    int m_width;
+    std::size_t m_gridColumn = 0;
+    Tile m_tile;
 };
+
+/// Draws where something is, and where something was before: in the rows `drawn` of each tile,
+/// which become those of now. Leaves in `changed` where that was.
+RADIOPANES_VERSIONS void drawTiles(const SpectrumRaster::Content& content,
+                                   const Background& background, int width, uchar* pixels,
+                                   std::ptrdiff_t bytesPerLine, std::span<Rows> drawn,
+                                   std::span<Rows> changed)
+{
+    const int height = static_cast<int>(background.rows.size());
+    Tiles tiles(content, width);
+    for (std::size_t number = 0; tiles.next(); ++number) {
+        const Tile& tile = tiles.tile();
+        const Rows used = tiles.rows();
+        Rows& rows = changed[number];
+        rows = std::exchange(drawn[number], used).united(used);
+        rows = {std::max(rows.first, 0), std::min(rows.end, height)};
+        drawTile(tile, background, rows, pixels + tile.x * static_cast<int>(sizeof(QRgb)),
+                 bytesPerLine);
+    }
+}
+
+qint64 area(const QRect& rect)
+{
+    return qint64(rect.width()) * rect.height();
+}
+
+/// Unites neighbours as long as that adds fewer pixels than a rectangle is worth.
+std::vector<QRect> united(std::vector<QRect> rects)
+{
+    constexpr qint64 worth = 40'000; // what is copied in the time that a rectangle takes
+    while (rects.size() > 1) {
+        std::size_t best = 0;
+        qint64 least = std::numeric_limits<qint64>::max();
+        for (std::size_t i = 0; i + 1 < rects.size(); ++i) {
+            const qint64 added =
+                area(rects[i].united(rects[i + 1])) - area(rects[i]) - area(rects[i + 1]);
+            if (added < least) {
+                least = added;
+                best = i;
+            }
+        }
+        if (least > worth)
+            break;
+        rects[best] = rects[best].united(rects[best + 1]);
+        rects.erase(rects.begin() + static_cast<std::ptrdiff_t>(best) + 1);
+    }
+    return rects;
+}
 
 /// The toolkit's painting can leave the upper halves of the vector registers in use; narrower
 /// vector code is up to twice as slow until they are cleared.
@@ -286,35 +272,76 @@ void clearVectorRegisters()
 
 } // namespace
 
-QImage& SpectrumRaster::draw(QSize size, const Content& content)
+Rows Rows::united(const Rows& other) const
 {
-    const bool hasShadow = !content.shadowTop.empty();
+    return {std::min(first, other.first), std::max(end, other.end)};
+}
+
+void SpectrumRaster::takeGround(const Content& content)
+{
+    const int width = m_ground.size.width();
+    const int height = m_ground.size.height();
+    const std::size_t rowLines =
+        (static_cast<std::size_t>(width) + CacheLine::pixels - 1) / CacheLine::pixels;
+    m_memory.resize(rowLines * static_cast<std::size_t>(height));
+    m_image = QImage(reinterpret_cast<uchar*>(m_memory.data()), width, height,
+                     static_cast<qsizetype>(rowLines * sizeof(CacheLine)), QImage::Format_RGB32);
+    m_rows.clear();
+    for (int y = 0; y < height; ++y) {
+        const QRgb plain =
+            mixed(content.backgroundTop, content.backgroundBottom, (y + 0.5) / height);
+        m_rows.push_back({plain, mixed(plain, content.shadow, content.shadowOpacity), false});
+    }
+    for (const int row : content.gridRows) {
+        if (row >= 0 && row < height)
+            m_rows[static_cast<std::size_t>(row)].isGrid = true;
+    }
+    const auto tiles = static_cast<std::size_t>((width + tileWidth - 1) / tileWidth);
+    m_drawn.assign(tiles, {0, height});
+    m_changed.resize(tiles);
+}
+
+const QImage& SpectrumRaster::draw(QSize size, const Content& content)
+{
     Ground ground{size,
                   content.backgroundTop,
                   content.backgroundBottom,
                   content.grid,
                   {content.gridRows.begin(), content.gridRows.end()},
                   {content.gridColumns.begin(), content.gridColumns.end()},
-                  hasShadow,
+                  !content.shadowTop.empty(),
                   content.shadow,
                   content.shadowOpacity};
-    if (m_image.isNull() || ground != m_ground) {
-        if (m_image.size() != size)
-            m_image = QImage(size, QImage::Format_RGB32);
+    if (size.isEmpty())
+        ground.size = {};
+    if (ground != m_ground) {
         m_ground = std::move(ground);
-        m_rowColors.clear();
-        for (int y = 0; y < size.height(); ++y) {
-            const QRgb plain =
-                mixed(content.backgroundTop, content.backgroundBottom, (y + 0.5) / size.height());
-            m_rowColors.emplace_back(plain, mixed(plain, content.shadow, content.shadowOpacity));
-        }
-        m_drawn.assign(static_cast<std::size_t>(tilesOf(size.width())), {0, size.height()});
+        takeGround(content);
     }
-    if (m_image.isNull())
+    if (m_ground.size.isEmpty())
         return m_image;
     clearVectorRegisters();
-    Drawing(m_image, content, m_rowColors, m_drawn).draw();
+    const Background background{m_rows, content.grid,
+                                mixed(content.grid, content.shadow, content.shadowOpacity)};
+    drawTiles(content, background, size.width(), reinterpret_cast<uchar*>(m_memory.data()),
+              m_image.bytesPerLine(), m_drawn, m_changed);
     return m_image;
+}
+
+std::vector<QRect> SpectrumRaster::changes() const
+{
+    constexpr std::size_t tilesTogether = 8;
+    std::vector<QRect> result;
+    for (std::size_t first = 0; first < m_changed.size(); first += tilesTogether) {
+        const std::size_t count = std::min(tilesTogether, m_changed.size() - first);
+        Rows rows{m_ground.size.height(), 0};
+        for (const Rows& tile : std::span(m_changed).subspan(first, count))
+            rows = rows.united(tile);
+        if (rows.first < rows.end)
+            result.emplace_back(static_cast<int>(first) * tileWidth, rows.first,
+                                static_cast<int>(count) * tileWidth, rows.end - rows.first);
+    }
+    return united(std::move(result));
 }
 
 } // namespace RadioPanes

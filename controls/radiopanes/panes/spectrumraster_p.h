@@ -2,16 +2,17 @@
 #pragma once
 
 #include <QImage>
+#include <QRect>
 
+#include <array>
 #include <span>
-#include <utility>
 #include <vector>
 
 namespace RadioPanes {
 
-/// Draws background, grid and traces of a spectrum, row by row: the pixels of a row are neighbours
-/// in memory, those of a column are not. It keeps the picture, and draws the next one only where
-/// traces or shadow were or come to be.
+/// Draws background, grid and traces of a spectrum. It keeps the picture, and draws the next one
+/// only where traces or shadow were or come to be, in tiles of eight columns: what is drawn in the
+/// columns of a tile stays in vector registers from its first row to its last.
 class SpectrumRaster
 {
 public:
@@ -33,18 +34,31 @@ public:
         std::span<const int> shadowTop;   ///< From there down all is tinted; empty for no shadow.
         QRgb shadow = 0;
         double shadowOpacity = 0;    ///< 0 to 1.
-        std::span<const Line> lines; ///< Later ones cover earlier ones.
+        std::span<const Line> lines; ///< Later ones cover earlier ones; `mostLines` at most.
     };
+    static constexpr int mostLines = 4;
 
     /// The picture of that size, of the format RGB32. The spans of the lines and the shadow have
     /// its width. Valid until the next call.
-    QImage& draw(QSize size, const Content& content);
+    const QImage& draw(QSize size, const Content& content);
+    /// What the last draw() has changed in the picture, with pixels between where that makes fewer
+    /// rectangles. They may reach beyond its right edge.
+    std::vector<QRect> changes() const;
 
     /// From the first row that is used up to, but without, the one after the last.
     struct Rows
     {
         int first = 0;
         int end = 0;
+
+        Rows united(const Rows& other) const;
+    };
+    /// A row of the background, without and with shadow.
+    struct RowColors
+    {
+        QRgb plain;
+        QRgb shaded;
+        bool isGrid; ///< There is a line of the grid in it.
     };
 
 private:
@@ -64,10 +78,21 @@ private:
         bool operator==(const Ground&) const = default;
     };
 
+    /// A line of the processor's cache.
+    struct alignas(64) CacheLine
+    {
+        static constexpr std::size_t pixels = 16;
+        std::array<QRgb, pixels> colors;
+    };
+
+    void takeGround(const Content& content);
+
     Ground m_ground;
+    std::vector<CacheLine> m_memory; ///< Of the image.
     QImage m_image;
-    std::vector<std::pair<QRgb, QRgb>> m_rowColors; ///< Without and with shadow.
-    std::vector<Rows> m_drawn; ///< In each tile: above is no shadow, below is nothing else.
+    std::vector<RowColors> m_rows;
+    std::vector<Rows> m_drawn;   ///< In each tile: above is no shadow, below is nothing else.
+    std::vector<Rows> m_changed; ///< In each tile, by the last call.
 };
 
 } // namespace RadioPanes

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/guardedtest.h"
 #include "support/mouse.h"
+#include "support/randombytes.h"
 
 #include <radiopanes/colors/panecolors.h>
 #include <radiopanes/panes/axes.h>
@@ -16,6 +17,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QScopeGuard>
+#include <QScreen>
 
 #include <algorithm>
 #include <cmath>
@@ -172,6 +174,41 @@ private Q_SLOTS:
         for (int other = 0; other < traceCount; ++other)
             QVERIFY(other == static_cast<int>(trace) ||
                     paneColor(traceSlot(static_cast<Trace>(other))) != color);
+    }
+
+    /// Also run with windows that are scaled.
+    void paintsAllThatHasChanged()
+    {
+        m_panes->resize(700, 500);
+        m_panes->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_panes.get()));
+        const auto shown = [this] {
+            QCoreApplication::sendPostedEvents();
+            return m_panes->screen()->grabWindow(m_panes->winId()).toImage();
+        };
+        RandomBytes random("spectrum");
+        QImage before;
+        for (int round = 0; round < 40; ++round) {
+            std::vector<float> sweep = levels();
+            for (float& level : sweep)
+                level += static_cast<float>(random.below(random.below(2) ? 60 : 5));
+            QVERIFY(add(sweep));
+            if (random.below(4) == 0)
+                band().setCursor(centreOf(random.below(bins)));
+            if (random.below(8) == 0)
+                spectrum().setThreshold(-random.below(100));
+            if (random.below(8) == 0)
+                spectrum().setTraceVisible(Trace::Average, random.below(2) == 0);
+            if (random.below(8) == 0)
+                spectrum().setCaption(QString::number(random.below(1000)));
+            if (random.below(8) == 0)
+                spectrum().grab(); // draws the picture, but not on the screen
+            const QImage image = shown();
+            QVERIFY(!image.isNull() && image != before);
+            before = image;
+            spectrum().update();
+            QCOMPARE(shown(), image);
+        }
     }
 
     void levelsFollowWheelAndKeys()

@@ -3,6 +3,7 @@
 
 #include <radiopanes/panes/spectrumraster_p.h>
 
+#include <QRegion>
 #include <QTest>
 
 using namespace RadioPanes;
@@ -21,6 +22,7 @@ private Q_SLOTS:
         const std::array colors{qRgb(0, 255, 0), qRgb(255, 255, 0)};
         RandomBytes random("raster");
         SpectrumRaster raster; // draws what changes
+        QImage before;
         int width = 0;
         int height = 0;
         for (int round = RandomBytes::rounds(200); round > 0; --round) {
@@ -50,6 +52,10 @@ private Q_SLOTS:
             if (hasShadow)
                 content.shadowTop = shadowTop;
             const QImage image = raster.draw({width, height}, content);
+            QRegion changed;
+            for (const QRect& rect : raster.changes())
+                changed += rect;
+            const bool isSameSize = before.size() == image.size();
             for (int y = 0; y < height; ++y) {
                 for (int x = 0; x < width; ++x) {
                     const auto column = static_cast<size_t>(x);
@@ -63,8 +69,11 @@ private Q_SLOTS:
                             expected = colors[line];
                     }
                     QCOMPARE(image.pixel(x, y), expected);
+                    QVERIFY(changed.contains(QPoint(x, y)) ||
+                            (isSameSize && before.pixel(x, y) == expected));
                 }
             }
+            before = image.copy();
         }
     }
 };
