@@ -108,6 +108,7 @@ RatioRun::Body bodyOf(Benches& benches, int bins, const Step& step)
                 state.PauseTiming();
                 bench.view.setHistory(bench.recording); // no line is kept
                 bench.view.waterfall().setPosition(0, bench.pyramids[0]);
+                QCoreApplication::sendPostedEvents();
                 sweep = 1;
                 state.ResumeTiming();
             }
@@ -143,13 +144,19 @@ void compareImage(RatioRun& run, const std::string& name, double limit, Benches&
                     bodyOf(benches, bins, step), drawReadyImage);
 }
 
-/// Curve, hold, grid and text.
-void showInSpectrum(Bench& bench, int sweep)
+/// Curve and hold.
+void setTraces(Bench& bench, int sweep)
 {
     const auto& pyramid = bench.pyramids[static_cast<size_t>(sweep)];
     bench.view.spectrum().setTrace(Trace::Current, bench.recording->sweep(sweep), pyramid);
     const auto& held = bench.pyramids[static_cast<size_t>(sweep - 1)];
     bench.view.spectrum().setTrace(Trace::Maximum, bench.recording->sweep(sweep - 1), held);
+}
+
+/// With grid and text.
+void showInSpectrum(Bench& bench, int sweep)
+{
+    setTraces(bench, sweep);
     bench.paint(bench.view.spectrum());
 }
 
@@ -179,6 +186,22 @@ void showSweep(Bench& bench, int sweep)
 
 #ifdef BENCH_QCUSTOMPLOT
 
+/// As an application does it: the step, and what it has a shown window paint.
+RatioRun::Body shownBodyOf(Benches& benches, int bins, const Step& step)
+{
+    const Step stepAndPaint = [step](Bench& bench, int sweep) {
+        step(bench, sweep);
+        QCoreApplication::sendPostedEvents();
+    };
+    return [&bench = benches.at(bins),
+            body = bodyOf(benches, bins, stepAndPaint)](benchmark::State& state) {
+        bench.view.show();
+        QCoreApplication::processEvents();
+        body(state);
+        bench.view.hide();
+    };
+}
+
 std::vector<std::vector<float>> levelsOf(const Recording& recording)
 {
     std::vector<std::vector<float>> result;
@@ -195,25 +218,23 @@ void comparePlots(RatioRun& run, Benches& benches)
         const std::string name = ", " + std::to_string(bins) + " bins, against QCustomPlot";
         const Recording& recording = *benches.at(bins).recording;
         run.compare("spectrum: reduce and paint" + name, plotLimit,
-                    bodyOf(benches, bins, showInSpectrum),
+                    shownBodyOf(benches, bins, setTraces),
                     [&recording, bins](benchmark::State& state) {
                         PlottedSpectrum plot(paneSize, 80e6, 30e6 / bins, levelsOf(recording));
-                        QImage canvas(paneSize, QImage::Format_RGB32);
                         std::size_t sweep = 0;
                         for (auto _ : state) {
                             ++sweep;
-                            plot.show(sweep, sweep - 1, canvas);
+                            plot.show(sweep, sweep - 1);
                         }
                     });
         run.compare("waterfall: new line and paint" + name, plotLimit,
-                    bodyOf(benches, bins, addLineAndPaint), [&recording](benchmark::State& state) {
+                    shownBodyOf(benches, bins, addLine), [&recording](benchmark::State& state) {
                         PlottedWaterfall plot(paneSize,
                                               paneSize.height() / WaterfallPane::linePixels);
-                        QImage canvas(paneSize, QImage::Format_RGB32);
                         const auto levels = levelsOf(recording);
                         std::size_t sweep = 0;
                         for (auto _ : state)
-                            plot.addLine(levels[++sweep % levels.size()], canvas);
+                            plot.addLine(levels[++sweep % levels.size()]);
                     });
     }
 }

@@ -12,15 +12,15 @@ std::unique_ptr<QCustomPlot> makePlot(QSize size)
 {
     auto plot = std::make_unique<QCustomPlot>();
     plot->setFixedSize(size);
-    plot->setAttribute(Qt::WA_DontShowOnScreen);
-    plot->show(); // lays it out
+    plot->show();
+    QCoreApplication::processEvents(); // lays it out
     return plot;
 }
 
-void paint(QCustomPlot& plot, QImage& canvas)
+void paint(QCustomPlot& plot)
 {
     plot.replot(QCustomPlot::rpQueuedRefresh);
-    plot.render(&canvas, {}, {}, QWidget::RenderFlags());
+    QCoreApplication::sendPostedEvents();
 }
 
 } // namespace
@@ -47,7 +47,7 @@ PlottedSpectrum::PlottedSpectrum(QSize size, double startHz, double stepHz,
 
 PlottedSpectrum::~PlottedSpectrum() = default;
 
-void PlottedSpectrum::show(std::size_t live, std::size_t held, QImage& canvas)
+void PlottedSpectrum::show(std::size_t live, std::size_t held)
 {
     const auto set = [this](QCPGraph* graph, std::size_t number) {
         const std::vector<QCPGraphData>& points = m_sweeps[number % m_sweeps.size()];
@@ -55,7 +55,7 @@ void PlottedSpectrum::show(std::size_t live, std::size_t held, QImage& canvas)
     };
     set(m_live, live);
     set(m_held, held);
-    paint(*m_plot, canvas);
+    paint(*m_plot);
 }
 
 PlottedWaterfall::PlottedWaterfall(QSize size, int lines)
@@ -74,7 +74,7 @@ PlottedWaterfall::PlottedWaterfall(QSize size, int lines)
 
 PlottedWaterfall::~PlottedWaterfall() = default;
 
-void PlottedWaterfall::addLine(std::span<const float> levels, QImage& canvas)
+void PlottedWaterfall::addLine(std::span<const float> levels)
 {
     QCPColorMapData& data = *m_map->data();
     for (int line = 0; line + 1 < data.valueSize(); ++line) {
@@ -84,5 +84,5 @@ void PlottedWaterfall::addLine(std::span<const float> levels, QImage& canvas)
     for (int column = 0; column < data.keySize(); ++column)
         data.setCell(column, data.valueSize() - 1,
                      static_cast<double>(levels[static_cast<std::size_t>(column)]));
-    paint(*m_plot, canvas);
+    paint(*m_plot);
 }

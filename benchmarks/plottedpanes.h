@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QImage>
 #include <QSize>
 
 #include <memory>
@@ -23,7 +22,7 @@ public:
     ~PlottedSpectrum();
 
     /// Shows two of the sweeps and paints them.
-    void show(std::size_t live, std::size_t held, QImage& canvas);
+    void show(std::size_t live, std::size_t held);
 
 private:
     std::unique_ptr<QCustomPlot> m_plot;
@@ -40,7 +39,7 @@ public:
     ~PlottedWaterfall();
 
     /// Moves all lines down by one, puts this one on top and paints.
-    void addLine(std::span<const float> levels, QImage& canvas);
+    void addLine(std::span<const float> levels);
 
 private:
     std::unique_ptr<QCustomPlot> m_plot;
