@@ -172,6 +172,28 @@ private Q_SLOTS:
         for (const qsizetype index : {recording.first(), recording.count() - 1})
             QCOMPARE(sweepText(recording.sweep(index)), sweepText(segments.sweep(1)));
     }
+    void fullHistoryKeepsItsMemory()
+    {
+        constexpr std::size_t limit = 32 << 20;
+        Recording recording;
+        OwnedSegments segments;
+        segments.add(0, 1, std::vector<float>(25'000, -70));
+        const auto append = [&] {
+            recording.append(1, segments.sweep().segments);
+            recording.dropBefore(recording.firstWithin(limit));
+        };
+        while (recording.count() < 1000)
+            append();
+        const std::size_t reserved = recording.reservedBytes();
+        QVERIFY(reserved <= limit);
+        QVERIFY(recording.levelCount() * sizeof(float) > limit / 3 * 2);
+        while (recording.count() < 1200) {
+            const qsizetype first = recording.first();
+            append();
+            QVERIFY(recording.first() <= first + 2);
+            QVERIFY(recording.reservedBytes() <= reserved + 2 * sizeof(Sweep));
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_Sweeps)

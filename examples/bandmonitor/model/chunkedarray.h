@@ -53,10 +53,12 @@ public:
             return;
         m_size -= run.size();
         chunk->held -= run.size();
-        if (chunk->held > 0 || &*chunk == m_current)
+        if (chunk->held > 0)
+            return;
+        chunk->end = 0;
+        if (&*chunk == m_current)
             return;
         dropSpare();
-        chunk->end = 0;
         m_spare.splice(m_spare.end(), m_chunks, chunk);
     }
 
@@ -64,6 +66,15 @@ public:
     std::size_t size() const { return m_size; }
     /// How many elements there is memory for.
     std::size_t capacity() const { return m_capacity; }
+    /// By how much capacity() may exceed size() when about as many elements are released as come:
+    /// the ends of full chunks, a chunk that empties, and one that fills.
+    std::size_t slack() const
+    {
+        std::size_t result = m_current != nullptr ? 2 * m_current->capacity : 0;
+        for (const Chunk& chunk : m_chunks)
+            result += &chunk != m_current ? chunk.capacity - chunk.end : 0;
+        return result;
+    }
 
 private:
     static constexpr std::size_t firstChunk = std::max<std::size_t>(4096 / sizeof(T), 1);

@@ -58,13 +58,14 @@ qsizetype Recording::firstWithin(std::size_t bytes) const
 {
     const std::size_t held = m_levels.size() * sizeof(float) + m_segments.size() * sizeof(Segment) +
                              m_sweeps.size() * sizeof(Sweep);
-    // What is reserved but unused counts in proportion.
-    const double reserved = static_cast<double>(std::max(reservedBytes(), held));
-    const double allowed =
-        static_cast<double>(bytes) * (static_cast<double>(held) / std::max(reserved, 1.0));
+    // A limit on what is held, instead of what is reserved: chunks go round then, and sweeps go one
+    // by one. Freeing and allocating chunks would leave holes in the memory of the process.
+    const std::size_t slack =
+        m_levels.slack() * sizeof(float) + m_segments.slack() * sizeof(Segment);
+    const std::size_t allowed = bytes - std::min(slack, bytes / 2);
     qsizetype first = m_first;
-    for (auto left = static_cast<double>(held); left > allowed && first < count() - 2; ++first)
-        left -= static_cast<double>(heldBytes(sweep(first)));
+    for (std::size_t left = held; left > allowed && first < count() - 2; ++first)
+        left -= heldBytes(sweep(first));
     return first;
 }
 
