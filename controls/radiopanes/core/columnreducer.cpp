@@ -24,6 +24,18 @@ LevelRange rangeOfBlocks(std::span<const float> minima, std::span<const float> m
     return range;
 }
 
+/// As highestOf(). Most columns touch a few bins or blocks: a call takes longer than these.
+float highestOfFew(std::span<const float> levels)
+{
+    constexpr std::size_t few = 8;
+    if (levels.size() >= few)
+        return highestOf(levels);
+    float highest = noMaximum;
+    for (const float level : levels)
+        highest = level > highest ? level : highest;
+    return highest;
+}
+
 // A column takes in levels as a range, or as their maximum alone.
 
 void addLevels(LevelRange& column, std::span<const float> levels)
@@ -37,7 +49,7 @@ void addLevels(LevelRange& column, std::span<const float> levels)
 
 void addLevels(float& column, std::span<const float> levels)
 {
-    column = std::max(column, highestOf(levels));
+    column = std::max(column, highestOfFew(levels));
 }
 
 void addBlocks(LevelRange& column, std::span<const float> minima, std::span<const float> maxima)
@@ -47,7 +59,7 @@ void addBlocks(LevelRange& column, std::span<const float> minima, std::span<cons
 
 void addBlocks(float& column, std::span<const float>, std::span<const float> maxima)
 {
-    column = std::max(column, highestOf(maxima));
+    column = std::max(column, highestOfFew(maxima));
 }
 
 /// The bins of a segment that each column of a view touches.
@@ -73,24 +85,51 @@ public:
     template <typename Use>
     void forEach(Use use) const
     {
-        // A bin that reaches into a column by less than this share of a bin does so by rounding.
-        constexpr double rounding = 1e-6;
-        for (std::size_t column = m_firstColumn; column < m_endColumn; ++column) {
-            const double low = m_firstBin + static_cast<double>(column) * m_binsPerColumn;
-            const double first = std::clamp(low + rounding, 0.0, m_binCount);
-            const double end = std::clamp(low + m_binsPerColumn - rounding, 0.0, m_binCount);
-            // Cutting off the fraction is much faster than the functions that round.
-            const auto firstBin = static_cast<std::size_t>(first);
-            auto endBin = static_cast<std::size_t>(end);
-            endBin += static_cast<double>(endBin) < end ? 1 : 0;
-            if (low + rounding >= 0 && first < m_binCount)
-                endBin = std::max(endBin, firstBin + 1);
-            if (firstBin < endBin)
-                use(column, firstBin, endBin);
+        std::size_t column = m_firstColumn;
+        for (; column < m_endColumn && edgeOf(column) < 0; ++column)
+            useClamped(column, use);
+        // Both edges are inside: nothing to clamp, and the right edge is the next left one.
+        auto first = static_cast<qint64>(std::min(edgeOf(column) + rounding, m_binCount));
+        for (; column < m_endColumn; ++column) {
+            const double right = edgeOf(column + 1);
+            if (!(right + rounding < m_binCount))
+                break;
+            const auto next = static_cast<qint64>(right + rounding);
+            const qint64 end = next + (right - rounding > static_cast<double>(next) ? 1 : 0);
+            use(column, static_cast<std::size_t>(first),
+                static_cast<std::size_t>(std::max(end, first + 1)));
+            first = next;
         }
+        for (; column < m_endColumn; ++column)
+            useClamped(column, use);
     }
 
 private:
+    // A bin that reaches into a column by less than this share of a bin does so by rounding.
+    static constexpr double rounding = 1e-6;
+
+    /// In bins from the start of the segment.
+    double edgeOf(std::size_t column) const
+    {
+        return m_firstBin + static_cast<double>(static_cast<qint64>(column)) * m_binsPerColumn;
+    }
+
+    template <typename Use>
+    void useClamped(std::size_t column, Use& use) const
+    {
+        const double low = edgeOf(column) + rounding;
+        const double first = std::clamp(low, 0.0, m_binCount);
+        const double end = std::clamp(edgeOf(column + 1) - rounding, 0.0, m_binCount);
+        // Cutting off the fraction is much faster than the functions that round.
+        const auto firstBin = static_cast<std::size_t>(first);
+        auto endBin = static_cast<std::size_t>(end);
+        endBin += static_cast<double>(endBin) < end ? 1 : 0;
+        if (low >= 0 && first < m_binCount)
+            endBin = std::max(endBin, firstBin + 1);
+        if (firstBin < endBin)
+            use(column, firstBin, endBin);
+    }
+
     double m_binCount;
     double m_columnHz;
     double m_binsPerColumn;
