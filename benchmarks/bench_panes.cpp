@@ -18,11 +18,13 @@
 #include <QPainter>
 
 #include <cmath>
+#include <limits>
 #include <map>
 #include <memory>
 #include <numbers>
 
 using namespace bandmonitor;
+using namespace RadioPanes;
 
 namespace {
 
@@ -57,6 +59,21 @@ std::shared_ptr<const Recording> makeRecording(int bins)
     }
     return recording;
 }
+
+/// The sweeps of a recording again and again: a waterfall of them is full.
+class EndlessHistory : public SweepHistory
+{
+public:
+    explicit EndlessHistory(const Recording& recording)
+        : m_recording(recording)
+    {}
+    qsizetype count() const override { return std::numeric_limits<qsizetype>::max(); }
+    Sweep sweep(qsizetype index) const override { return m_recording.sweep(index % sweeps); }
+    std::size_t largestBinCount() const override { return m_recording.largestBinCount(); }
+
+private:
+    const Recording& m_recording;
+};
 
 /// The toolkit's painting can leave the upper halves of the vector registers in use, and scalar
 /// code is several times slower until they are cleared. Repetitions run in random order: without
@@ -95,8 +112,14 @@ struct Bench
     QImage canvas;
 };
 
+void addLine(Bench& bench, int sweep)
+{
+    bench.view.waterfall().setPosition(sweep, bench.pyramids[static_cast<size_t>(sweep % sweeps)]);
+}
+
 using Step = std::function<void(Bench&, int sweep)>;
 using Benches = std::map<int, Bench>;
+using BodyOf = RatioRun::Body (*)(Benches&, int bins, const Step&);
 
 RatioRun::Body bodyOf(Benches& benches, int bins, const Step& step)
 {
@@ -117,6 +140,24 @@ RatioRun::Body bodyOf(Benches& benches, int bins, const Step& step)
     };
 }
 
+/// The waterfall is full of lines from the first step on.
+RatioRun::Body bodyOfWaterfall(Benches& benches, int bins, const Step& step)
+{
+    return [&bench = benches.at(bins), step](benchmark::State& state) {
+        const EndlessHistory history(*bench.recording);
+        WaterfallPane& waterfall = bench.view.waterfall();
+        waterfall.setHistory({std::shared_ptr<void>(), &history});
+        int sweep = 0;
+        while (sweep < paneSize.height() / WaterfallPane::linePixels)
+            addLine(bench, sweep++);
+        bench.paint(waterfall);
+        clearVectorRegisters();
+        for (auto _ : state)
+            step(bench, sweep++);
+        waterfall.setHistory(bench.recording);
+    };
+}
+
 void drawReadyImage(benchmark::State& state)
 {
     QImage image(paneSize, QImage::Format_RGB32);
@@ -130,18 +171,18 @@ void drawReadyImage(benchmark::State& state)
 }
 
 void compareBins(RatioRun& run, const std::string& name, double limit, Benches& benches,
-                 const Step& step)
+                 const Step& step, BodyOf makeBody = bodyOf)
 {
-    run.compare(name + ", 100,000 against 2,000 bins", limit, bodyOf(benches, manyBins, step),
-                bodyOf(benches, fewBins, step));
+    run.compare(name + ", 100,000 against 2,000 bins", limit, makeBody(benches, manyBins, step),
+                makeBody(benches, fewBins, step));
 }
 
 void compareImage(RatioRun& run, const std::string& name, double limit, Benches& benches,
-                  const Step& step)
+                  const Step& step, BodyOf makeBody = bodyOf)
 {
     for (const int bins : {fewBins, manyBins})
         run.compare(name + ", " + std::to_string(bins) + " bins, against a ready image", limit,
-                    bodyOf(benches, bins, step), drawReadyImage);
+                    makeBody(benches, bins, step), drawReadyImage);
 }
 
 /// Curve and hold.
@@ -166,11 +207,6 @@ void moveCursor(Bench& bench, int sweep)
     bench.paint(bench.view.spectrum());
 }
 
-void addLine(Bench& bench, int sweep)
-{
-    bench.view.waterfall().setPosition(sweep, bench.pyramids[static_cast<size_t>(sweep)]);
-}
-
 void addLineAndPaint(Bench& bench, int sweep)
 {
     addLine(bench, sweep);
@@ -187,14 +223,14 @@ void showSweep(Bench& bench, int sweep)
 #ifdef BENCH_QCUSTOMPLOT
 
 /// As an application does it: the step, and what it has a shown window paint.
-RatioRun::Body shownBodyOf(Benches& benches, int bins, const Step& step)
+RatioRun::Body shownBodyOf(Benches& benches, int bins, const Step& step, BodyOf makeBody = bodyOf)
 {
     const Step stepAndPaint = [step](Bench& bench, int sweep) {
         step(bench, sweep);
         QCoreApplication::sendPostedEvents();
     };
     return [&bench = benches.at(bins),
-            body = bodyOf(benches, bins, stepAndPaint)](benchmark::State& state) {
+            body = makeBody(benches, bins, stepAndPaint)](benchmark::State& state) {
         bench.view.show();
         QCoreApplication::processEvents();
         body(state);
@@ -228,7 +264,8 @@ void comparePlots(RatioRun& run, Benches& benches)
                         }
                     });
         run.compare("waterfall: new line and paint" + name, plotLimit,
-                    shownBodyOf(benches, bins, addLine), [&recording](benchmark::State& state) {
+                    shownBodyOf(benches, bins, addLine, bodyOfWaterfall),
+                    [&recording](benchmark::State& state) {
                         PlottedWaterfall plot(paneSize,
                                               paneSize.height() / WaterfallPane::linePixels);
                         const auto levels = levelsOf(recording);
@@ -254,10 +291,13 @@ int main(int argc, char** argv)
     RatioRun run;
     compareImage(run, "spectrum: reduce and paint", spectrumLimit, benches, showInSpectrum);
     compareImage(run, "spectrum: move the cursor and paint", cursorLimit, benches, moveCursor);
-    compareImage(run, "waterfall: new line and paint", waterfallLimit, benches, addLineAndPaint);
+    compareImage(run, "waterfall: new line and paint", waterfallLimit, benches, addLineAndPaint,
+                 bodyOfWaterfall);
     compareBins(run, "spectrum: reduce and paint", pixelLimit, benches, showInSpectrum);
-    compareBins(run, "waterfall: new line without painting", pixelLimit, benches, addLine);
-    compareBins(run, "waterfall: new line and paint", pixelLimit, benches, addLineAndPaint);
+    compareBins(run, "waterfall: new line without painting", pixelLimit, benches, addLine,
+                bodyOfWaterfall);
+    compareBins(run, "waterfall: new line and paint", pixelLimit, benches, addLineAndPaint,
+                bodyOfWaterfall);
     compareBins(run, "whole new sweep, both panes", newSweepLimit, benches, showSweep);
 #ifdef BENCH_QCUSTOMPLOT
     comparePlots(run, benches);

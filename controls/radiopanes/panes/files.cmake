@@ -18,6 +18,7 @@ guibase_room(panes
         namefield.cpp namefield_p.h
         panepainter_p.h
         placebox.cpp placebox_p.h
+        repeatedrows.cpp repeatedrows_p.h
         spectrumoverlay.cpp spectrumpane_p.h spectrumpicture.cpp
         spectrumraster.cpp spectrumraster_p.h
         waterfalllines.cpp waterfalllines_p.h)

@@ -100,8 +100,25 @@ std::pair<qsizetype, qsizetype> WaterfallLines::sweepsOf(qsizetype line) const
 
 bool WaterfallLines::isDrawn(qsizetype line) const
 {
-    const Row& row = m_rows[static_cast<std::size_t>(rowOf(line))];
+    return holds(m_rows[static_cast<std::size_t>(rowOf(line))], line);
+}
+
+bool WaterfallLines::holds(const Row& row, qsizetype line) const
+{
     return row.line == line && row.last == sweepsOf(line).second;
+}
+
+qsizetype WaterfallLines::nextMissing(qsizetype line, qsizetype lowest) const
+{
+    if (line < lowest)
+        return line;
+    // Older lines are in the rows that follow; a division for each would take long.
+    auto row = static_cast<std::size_t>(rowOf(line));
+    while (line >= lowest && holds(m_rows[row], line)) {
+        --line;
+        row = row + 1 < m_rows.size() ? row + 1 : 0;
+    }
+    return line;
 }
 
 std::optional<quint64> WaterfallLines::timeOf(qsizetype line) const
@@ -120,9 +137,8 @@ bool WaterfallLines::draw(qsizetype budget)
     if (!m_history || rowCount() == 0)
         return true;
     const qsizetype lowest = std::max(m_top - rowCount() + 1, oldest());
-    for (qsizetype line = m_top; line >= lowest; --line) {
-        if (isDrawn(line))
-            continue;
+    for (qsizetype line = nextMissing(m_top, lowest); line >= lowest;
+         line = nextMissing(line - 1, lowest)) {
         if (budget <= 0)
             return false;
         Row& row = m_rows[static_cast<std::size_t>(rowOf(line))];

@@ -49,6 +49,8 @@ public:
     int rowOf(qsizetype line) const;
     /// Whether the line is in the image, as it is to be.
     bool isDrawn(qsizetype line) const;
+    /// The first line from `line` back to `lowest` that is not so; lower than `lowest` for none.
+    qsizetype nextMissing(qsizetype line, qsizetype lowest) const;
     /// The first and the last sweep of the line that are to be shown.
     std::pair<qsizetype, qsizetype> sweepsOf(qsizetype line) const;
     /// The time of the last sweep of the line; nothing for a line that is not shown.
@@ -64,6 +66,7 @@ private:
         std::shared_ptr<const LevelPyramid> pyramid;
     };
 
+    bool holds(const Row& row, qsizetype line) const;
     void forgetLines();
     /// Both return how many levels they had to look at.
     qsizetype drawSweep(qsizetype sweep, Row& row);

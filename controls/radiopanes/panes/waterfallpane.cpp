@@ -3,6 +3,7 @@
 
 #include "panepainter_p.h"
 #include "placebox_p.h"
+#include "repeatedrows_p.h"
 #include "visibleband.h"
 #include "waterfalllines_p.h"
 
@@ -344,17 +345,15 @@ void WaterfallPanePrivate::paintLines(QPainter& painter) const
     if (count > 0) {
         const int newest = lines.rowOf(lines.top());
         const int upper = std::min(count, lines.rowCount() - newest);
-        painter.drawImage(QRect(0, 0, q->width(), upper * height), lines.image(),
-                          QRect(0, newest, q->width(), upper));
-        if (upper < count)
-            painter.drawImage(QRect(0, upper * height, q->width(), (count - upper) * height),
-                              lines.image(), QRect(0, 0, q->width(), count - upper));
+        drawRepeatedRows(painter, {}, {lines.image(), newest, upper}, height);
+        drawRepeatedRows(painter, {0, upper * height}, {lines.image(), 0, count - upper}, height);
     }
     painter.fillRect(0, count * height, q->width(), q->height() - count * height, ground);
-    for (int line = 0; line < count; ++line) {
-        if (!lines.isDrawn(lines.top() - line))
-            painter.fillRect(0, line * height, q->width(), height, ground);
-    }
+    const qsizetype lowest = lines.top() - count + 1;
+    for (qsizetype line = lines.nextMissing(lines.top(), lowest); line >= lowest;
+         line = lines.nextMissing(line - 1, lowest))
+        painter.fillRect(0, static_cast<int>(lines.top() - line) * height, q->width(), height,
+                         ground);
 }
 
 void WaterfallPanePrivate::paintLegend(QPainter& painter) const

@@ -16,6 +16,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
+#include <QPainter>
 #include <QScopeGuard>
 #include <QScreen>
 
@@ -96,6 +97,32 @@ private Q_SLOTS:
         QCOMPARE(other.spectrum().highLevel(), -20.0);
         QVERIFY(m_panes->addSweep(6, 1e6, 1e3, levels()));
         QCOMPARE(band().bandLow(), 1e6);
+    }
+
+    void waterfallIsTheSameOnEveryCanvas()
+    {
+        for (int i = 0; i < 500; ++i) // the ring of lines goes round
+            QVERIFY(add(levels(static_cast<float>(i % 50 - 100))));
+        WaterfallPane& pane = m_panes->waterfall();
+        const QRegion part = QRegion(10, 11, 300, 30) + QRegion(50, 60, 20, 80);
+        const QPoint offset(7, 5);
+        for (const int zoom : {0, 1}) {
+            pane.setTimeZoom(zoom);
+            const QImage picture = pane.grab().toImage(); // of a pixmap: the toolkit scales
+            for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied,
+                                      QImage::Format_RGB888}) {
+                QImage wanted(pane.size(), format);
+                wanted.fill(Qt::magenta);
+                QImage canvas = wanted;
+                pane.render(&canvas, offset, part);
+                const QPoint move = offset - part.boundingRect().topLeft();
+                QPainter painter(&wanted);
+                painter.setClipRegion(part.translated(move));
+                painter.drawImage(move, picture);
+                painter.end();
+                QVERIFY(canvas == wanted);
+            }
+        }
     }
 
     void oldSweepsGoAndThePicturesStay()

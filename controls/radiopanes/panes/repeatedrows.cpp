@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "repeatedrows_p.h"
+
+#include <QImage>
+#include <QPaintEngine>
+#include <QPainter>
+
+#include <cstring>
+
+namespace RadioPanes {
+
+namespace {
+
+/// The image that the painter fills pixel by pixel, as it is told; null when there is none, or
+/// when something would change the pixels on their way.
+QImage* canvasOf(const QPainter& painter)
+{
+    const QPaintEngine* engine = painter.paintEngine();
+    if (engine->type() != QPaintEngine::Raster ||
+        engine->paintDevice()->devType() != QInternal::Image || painter.hasClipping() ||
+        painter.opacity() < 1 || painter.compositionMode() != QPainter::CompositionMode_SourceOver)
+        return nullptr;
+    const QTransform& transform = painter.deviceTransform();
+    if (transform != QTransform::fromTranslate(qRound(transform.dx()), qRound(transform.dy())))
+        return nullptr;
+    auto* canvas = static_cast<QImage*>(engine->paintDevice());
+    const bool isPlain = canvas->format() == QImage::Format_RGB32 ||
+                         canvas->format() == QImage::Format_ARGB32_Premultiplied;
+    return isPlain ? canvas : nullptr;
+}
+
+/// Copies what is in the part of the canvas; the first row would come to the canvas at `place`.
+void copyRows(QImage& canvas, const QRect& part, const QPoint& place, const ImageRows& rows,
+              int times)
+{
+    const auto size = static_cast<std::size_t>(part.width()) * sizeof(QRgb);
+    const auto offsetOf = [](qsizetype bytesPerLine, qsizetype x, qsizetype y) {
+        return y * bytesPerLine + x * qsizetype{sizeof(QRgb)};
+    };
+    uchar* const to = canvas.bits();
+    const uchar* const from = rows.image.constBits();
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        const int row = rows.first + (y - place.y()) / times;
+        std::memcpy(to + offsetOf(canvas.bytesPerLine(), part.left(), y),
+                    from + offsetOf(rows.image.bytesPerLine(), part.left() - place.x(), row), size);
+    }
+}
+
+} // namespace
+
+void drawRepeatedRows(QPainter& painter, const QPoint& place, const ImageRows& rows, int times)
+{
+    if (rows.count <= 0)
+        return;
+    const QRect target(place, QSize(rows.image.width(), rows.count * times));
+    QImage* canvas = canvasOf(painter);
+    if (canvas == nullptr) {
+        painter.drawImage(target, rows.image, QRect(0, rows.first, rows.image.width(), rows.count));
+        return;
+    }
+    const QRect placed = painter.deviceTransform().mapRect(target);
+    const QRegion clip = painter.paintEngine()->systemClip();
+    const QRegion visible =
+        (clip.isEmpty() ? QRegion(canvas->rect()) : clip & canvas->rect()) & placed;
+    for (const QRect& part : visible)
+        copyRows(*canvas, part, placed.topLeft(), rows, times);
+}
+
+} // namespace RadioPanes
