@@ -33,16 +33,21 @@ QImage* canvasOf(const QPainter& painter)
 void copyRows(QImage& canvas, const QRect& part, const QPoint& place, const ImageRows& rows,
               int times)
 {
-    const auto size = static_cast<std::size_t>(part.width()) * sizeof(QRgb);
-    const auto offsetOf = [](qsizetype bytesPerLine, qsizetype x, qsizetype y) {
-        return y * bytesPerLine + x * qsizetype{sizeof(QRgb)};
-    };
-    uchar* const to = canvas.bits();
-    const uchar* const from = rows.image.constBits();
-    for (int y = part.top(); y <= part.bottom(); ++y) {
-        const int row = rows.first + (y - place.y()) / times;
-        std::memcpy(to + offsetOf(canvas.bytesPerLine(), part.left(), y),
-                    from + offsetOf(rows.image.bytesPerLine(), part.left() - place.x(), row), size);
+    constexpr auto pixel = qsizetype{sizeof(QRgb)};
+    const auto size = static_cast<std::size_t>(part.width() * pixel);
+    const qsizetype fromStride = rows.image.bytesPerLine();
+    const qsizetype toStride = canvas.bytesPerLine();
+    const int above = part.top() - place.y();
+    const uchar* from = rows.image.constBits() + (rows.first + above / times) * fromStride +
+                        (part.left() - place.x()) * pixel;
+    uchar* to = canvas.bits() + part.top() * toStride + part.left() * pixel;
+    int left = times - above % times; // of the row
+    for (int y = part.top(); y <= part.bottom(); ++y, to += toStride) {
+        std::memcpy(to, from, size);
+        if (--left == 0) {
+            from += fromStride;
+            left = times;
+        }
     }
 }
 
