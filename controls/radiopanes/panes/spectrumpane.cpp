@@ -19,7 +19,7 @@ namespace RadioPanes {
 namespace {
 constexpr double smallestLevelRange = 10;
 constexpr int gapBetweenLevels = 10;
-constexpr double highestReference = 1000; // in dB; beyond it no level is meant
+constexpr double farthestLevel = 1000; // in dB, on either side; beyond it no level is meant
 constexpr std::array divisions{1.0, 2.0, 5.0, 10.0, 20.0, 50.0};
 } // namespace
 
@@ -159,7 +159,8 @@ void SpectrumPane::setLevelRange(double low, double high)
 {
     if (!std::isfinite(low) || !std::isfinite(high))
         return;
-    high = std::max(high, low + smallestLevelRange);
+    low = std::clamp(low, -farthestLevel, farthestLevel - smallestLevelRange);
+    high = std::clamp(high, low + smallestLevelRange, farthestLevel);
     if (low == d->lowLevel && high == d->highLevel)
         return;
     d->lowLevel = low;
@@ -170,8 +171,9 @@ void SpectrumPane::setLevelRange(double low, double high)
 
 void SpectrumPane::setReferenceLevel(double levelDb)
 {
-    levelDb = std::clamp(levelDb, -highestReference, highestReference);
-    setLevelRange(levelDb - (d->highLevel - d->lowLevel), levelDb);
+    const double range = d->highLevel - d->lowLevel;
+    levelDb = std::clamp(levelDb, range - farthestLevel, farthestLevel);
+    setLevelRange(levelDb - range, levelDb);
 }
 
 double SpectrumPane::decibelsPerDivision() const

@@ -78,8 +78,8 @@ public:
     /// The levels at the bottom and the top of the pane, in dB.
     double lowLevel() const;
     double highLevel() const;
-    /// The levels at the bottom and the top of the pane, in dB; 10 dB apart at least. Levels that
-    /// are not finite change nothing.
+    /// The levels at the bottom and the top of the pane, in dB; 10 dB apart at least, and within
+    /// -1,000 to 1,000 dB. Levels that are not finite change nothing.
     void setLevelRange(double low, double high);
     static constexpr int levelDivisions = 10;
     /// The level at the top, in dB; the range moves along.

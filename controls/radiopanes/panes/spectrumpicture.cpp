@@ -54,8 +54,11 @@ SpectrumPanePrivate::PictureKey SpectrumPanePrivate::makeKey() const
         result.gridRows.push_back(
             static_cast<int>((q->height() - 1 - static_cast<int>(tick.position)) * ratio));
     std::ranges::reverse(result.gridRows);
-    for (const AxisTick& tick : frequencyTicks(q->width()))
-        result.gridColumns.push_back(static_cast<int>(tick.position * ratio));
+    for (const AxisTick& tick : frequencyTicks(q->width())) {
+        const double column = tick.position * ratio;
+        if (column >= 0 && column < result.pixels.width())
+            result.gridColumns.push_back(static_cast<int>(column));
+    }
     return result;
 }
 

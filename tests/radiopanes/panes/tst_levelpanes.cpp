@@ -91,6 +91,10 @@ private Q_SLOTS:
         for (int i = 0; i < 20; ++i)
             QVERIFY(add(levels()));
         QCOMPARE(spectrum().lowLevel(), -77.0); // the operator's own
+        spectrum().setLevelRange(-1e308, 1e308);
+        QCOMPARE(std::pair(spectrum().lowLevel(), spectrum().highLevel()),
+                 std::pair(-1000.0, 1000.0));
+        QVERIFY(!spectrum().grab().isNull());
         LevelPanes other;
         other.spectrum().setReferenceLevel(-20); // before the first sweep
         QVERIFY(other.addSweep(1, startHz, stepHz, levels()));
