@@ -16,16 +16,16 @@ namespace {
 QImage* canvasOf(const QPainter& painter)
 {
     const QPaintEngine* engine = painter.paintEngine();
-    if (engine->type() != QPaintEngine::Raster ||
-        engine->paintDevice()->devType() != QInternal::Image || painter.hasClipping() ||
-        painter.opacity() < 1 || painter.compositionMode() != QPainter::CompositionMode_SourceOver)
+    if (engine->type() != QPaintEngine::Raster || painter.hasClipping() || painter.opacity() < 1 ||
+        painter.compositionMode() != QPainter::CompositionMode_SourceOver)
         return nullptr;
     const QTransform& transform = painter.deviceTransform();
     if (transform != QTransform::fromTranslate(qRound(transform.dx()), qRound(transform.dy())))
         return nullptr;
-    auto* canvas = static_cast<QImage*>(engine->paintDevice());
-    const bool isPlain = canvas->format() == QImage::Format_RGB32 ||
-                         canvas->format() == QImage::Format_ARGB32_Premultiplied;
+    auto* canvas = dynamic_cast<QImage*>(engine->paintDevice());
+    const bool isPlain =
+        canvas != nullptr && (canvas->format() == QImage::Format_RGB32 ||
+                              canvas->format() == QImage::Format_ARGB32_Premultiplied);
     return isPlain ? canvas : nullptr;
 }
 
