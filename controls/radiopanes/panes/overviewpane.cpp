@@ -236,8 +236,9 @@ void OverviewPanePrivate::paintTimes(QPainter& painter) const
 {
     if (!history || !timeText)
         return;
-    const QString from = timeText(history->timeOf(firstSweep()));
-    const QString to = timeText(history->timeOf(sweepCount() - 1));
+    const SweepHistory& shown = *history;
+    const QString from = timeText(shown.timeOf(firstSweep()));
+    const QString to = timeText(shown.timeOf(sweepCount() - 1));
     const QSize fromSize = PlaceBox::sizeOf(*q, from);
     const QSize toSize = PlaceBox::sizeOf(*q, to);
     painter.setOpacity(timeOpacity);
