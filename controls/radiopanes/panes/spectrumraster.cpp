@@ -227,7 +227,7 @@ RADIOPANES_VERSIONS void drawTiles(const SpectrumRaster::Content& content,
         Rows& rows = changed[number];
         rows = std::exchange(drawn[number], used).united(used);
         rows = {std::max(rows.first, 0), std::min(rows.end, height)};
-        drawTile(tile, background, rows, pixels + tile.x * static_cast<int>(sizeof(QRgb)),
+        drawTile(tile, background, rows, pixels + tile.x * std::ptrdiff_t{sizeof(QRgb)},
                  bytesPerLine);
     }
 }
