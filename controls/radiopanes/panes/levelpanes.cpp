@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace RadioPanes {
@@ -26,6 +27,7 @@ public:
     std::shared_ptr<LevelHistory> history;
     std::pair<double, double> fitted; ///< The ends of the spectrum as fitLevels() has set them.
     std::unique_ptr<HeldTraces> held;
+    std::vector<Pin> pinsElsewhere; ///< Beyond the band of now.
 };
 
 LevelPanes::LevelPanes(QWidget* parent)
@@ -67,7 +69,7 @@ bool LevelPanes::addSweep(quint64 timeUs, std::span<const Segment> segments)
     const Sweep sweep = d->history->sweep(position);
     const VisibleBand& band = visibleBand();
     if (isFirst || sweep.lowHz != band.bandLow() || sweep.highHz != band.bandHigh())
-        visibleBand().setBand(sweep.lowHz, sweep.highHz, sweep.segments.front().stepHz);
+        setBand(sweep);
     fitLevels();
     const auto pyramid = std::make_shared<const LevelPyramid>(sweep);
     spectrum().setTrace(Trace::Current, sweep, pyramid);
@@ -75,6 +77,20 @@ bool LevelPanes::addSweep(quint64 timeUs, std::span<const Segment> segments)
     d->held->show();
     setPosition(position, pyramid);
     return true;
+}
+
+void LevelPanes::setBand(const Sweep& sweep)
+{
+    VisibleBand& band = visibleBand();
+    std::vector<Pin> pins = std::exchange(d->pinsElsewhere, {});
+    pins.insert(pins.end(), band.pins().begin(), band.pins().end());
+    band.setBand(sweep.lowHz, sweep.highHz, sweep.segments.front().stepHz);
+    for (Pin& pin : pins) {
+        if (sweep.lowHz <= pin.hertz && pin.hertz <= sweep.highHz)
+            band.addPin(pin.hertz, pin.name);
+        else
+            d->pinsElsewhere.push_back(std::move(pin));
+    }
 }
 
 void LevelPanes::fitLevels()

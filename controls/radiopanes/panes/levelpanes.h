@@ -23,8 +23,9 @@ public:
 
     /// Shows one sweep of adjoining bins of `stepHz` from `startHz` on, newest on top: levels in
     /// dB, noLevel where there is none; time in microseconds since 1970-01-01T00:00 UTC. Copies the
-    /// levels. A sweep with other ends than the one before shows all of them, without pins. False,
-    /// and nothing happens, for what LevelHistory::append() refuses.
+    /// levels. A sweep with other ends than the one before makes them the band; pins beyond it come
+    /// back with a band that has room for them. False, and nothing happens, for what
+    /// LevelHistory::append() refuses.
     bool addSweep(quint64 timeUs, double startHz, double stepHz, std::span<const float> levels);
     /// The same for a sweep of several hops.
     bool addSweep(quint64 timeUs, std::span<const Segment> segments);
@@ -36,6 +37,7 @@ public:
     const LevelHistory& history() const;
 
 private:
+    void setBand(const Sweep& sweep);
     void fitLevels();
 
     std::unique_ptr<LevelPanesPrivate> d;

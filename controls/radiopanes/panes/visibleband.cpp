@@ -183,7 +183,9 @@ void VisibleBand::addPin(double hertz, const QString& name)
         return;
     if (d->pins.size() >= maximumPins)
         d->pins.erase(d->pins.begin());
-    d->pins.push_back({std::clamp(hertz, d->bandLow, d->bandHigh), pinName(name)});
+    if (d->hasBand)
+        hertz = std::clamp(hertz, d->bandLow, d->bandHigh);
+    d->pins.push_back({hertz, pinName(name)});
     Q_EMIT pinsChanged();
 }
 

@@ -71,7 +71,7 @@ public:
 
     /// In the order in which they were set.
     const std::vector<Pin>& pins() const;
-    /// Cut to the band. Beyond 16 pins the oldest one goes.
+    /// Cut to the band, as soon as there is one. Beyond 16 pins the oldest one goes.
     void addPin(double hertz);
     void addPin(double hertz, const QString& name);
     /// The number of the pin nearest to `hertz` that is at most `reach` away; nothing for none.

@@ -102,6 +102,23 @@ private Q_SLOTS:
         QVERIFY(m_panes->addSweep(6, 1e6, 1e3, levels()));
         QCOMPARE(band().bandLow(), 1e6);
     }
+    void pinsComeBackWithTheirBand()
+    {
+        LevelPanes panes;
+        VisibleBand& band = panes.visibleBand();
+        band.addPin(startHz + stepHz, QStringLiteral("early")); // before the first sweep
+        band.addPin(startHz - 1e6);
+        const auto shows = [&band](double hertz) {
+            return std::ranges::count(band.pins(), hertz, &Pin::hertz) == 1;
+        };
+        QVERIFY(panes.addSweep(1, startHz, stepHz, levels()));
+        QVERIFY(shows(startHz + stepHz) && band.pins().size() == 1);
+        QVERIFY(panes.addSweep(2, startHz - 2e6, stepHz, levels()));
+        QVERIFY(panes.addSweep(3, startHz, stepHz, levels()));
+        QCOMPARE(band.pins(), (std::vector<Pin>{{startHz + stepHz, QStringLiteral("early")}}));
+        QVERIFY(panes.addSweep(4, startHz - 2e6, 10 * stepHz, levels()));
+        QVERIFY(shows(startHz + stepHz) && shows(startHz - 1e6));
+    }
 
     void waterfallIsTheSameOnEveryCanvas()
     {
