@@ -45,7 +45,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS qt6-translations-l10n)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS "cmake, g++, make, pkg-config")
 # The pages with the examples they lead to: who takes the package needs no source to begin.
 set(guibase_pages "${CMAKE_INSTALL_DATADIR}/doc/libguibase-dev")
-install(FILES README.md CHANGELOG.md DESTINATION "${guibase_pages}" COMPONENT development)
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md LICENSE DESTINATION "${guibase_pages}" COMPONENT development)
 install(DIRECTORY docs/ DESTINATION "${guibase_pages}/docs" COMPONENT development
     PATTERN api EXCLUDE)
 install(DIRECTORY examples/quickstart examples/designer DESTINATION "${guibase_pages}/examples"
