@@ -236,9 +236,9 @@ void OverviewPanePrivate::paintTimes(QPainter& painter) const
 {
     if (!history || !timeText)
         return;
-    const SweepHistory& shown = *history;
-    const QString from = timeText(shown.timeOf(firstSweep()));
-    const QString to = timeText(shown.timeOf(sweepCount() - 1));
+    const SweepHistory& sweeps = *history;
+    const QString from = timeText(sweeps.timeOf(firstSweep()));
+    const QString to = timeText(sweeps.timeOf(sweepCount() - 1));
     const QSize fromSize = PlaceBox::sizeOf(*q, from);
     const QSize toSize = PlaceBox::sizeOf(*q, to);
     painter.setOpacity(timeOpacity);
