@@ -9,6 +9,7 @@
 #include "docks/windowmenu.h"
 #include "exports.h"
 #include "manual.h"
+#include "menukeys.h"
 #include "panels/jobsmenu.h"
 #include "playkey.h"
 #include "receiver/receiverbar.h"
@@ -57,6 +58,7 @@ void MainWindow::buildMenus()
     qsizetype number = 0;
     for (QMenu* menu : menus)
         menuBar()->actions().at(number++)->setMenu(menu);
+    new MenuKeys(this);
 }
 
 QAction* MainWindow::addEntry(QMenu* menu, QAction* action, bool bandKey)

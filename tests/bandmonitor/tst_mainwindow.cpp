@@ -8,6 +8,7 @@
 #include "panels/eventlogpanel.h"
 #include "panels/signalspanel.h"
 #include "support/files.h"
+#include "support/menuvisitor.h"
 #include "support/modaldialogcloser.h"
 
 #include <radiopanes/panes/spectrumpane.h>
@@ -257,6 +258,25 @@ private Q_SLOTS:
         const qsizetype shown = replay.position();
         Q_EMIT panel.placeWanted({m_window->session().recordingNumber(), 0, 0}); // it is gone
         QCOMPARE(replay.position(), shown);
+    }
+
+    void lettersOfAnOpenMenuChooseItsEntries()
+    {
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        m_window->bandView().spectrum().setFocus();
+        const QAction* trace = entry("Current");
+        QMenu* edit = m_window->menuBar()->actions().at(1)->menu();
+        QVERIFY(trace->isChecked());
+        MenuVisitor::announceKeyboardGrab();
+        edit->popup(m_window->pos());
+        MenuVisitor::announceKeyboardGrab();
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_C);
+        QVERIFY(trace->isChecked());
+        QTRY_VERIFY(edit->actions().at(3)->menu()->isVisible());
+        edit->close();
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_C);
+        QVERIFY(!trace->isChecked());
     }
 
     void picturesAndTextsAreCopied()
