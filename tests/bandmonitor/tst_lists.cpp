@@ -166,8 +166,11 @@ private Q_SLOTS:
     {
         CHECKED(show(0, 30));
         QSignalSpy wanted(m_signals.get(), &Panel::frequencyWanted);
-        QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
-        QApplication::sendEvent(&m_signals->list(), &focus); // which alone chooses nothing
+        m_signals->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_signals.get()));
+        m_signals->list().setFocus(Qt::TabFocusReason); // which alone chooses nothing
+        QVERIFY(m_signals->list().currentItem() != nullptr);
+        QVERIFY(m_signals->list().selectedItems().isEmpty());
         QCOMPARE(wanted.size(), 0);
         const SignalTrack drifter = *std::ranges::find(m_watch.tracks(), 'i', &SignalTrack::type);
         const SignalTrack station = m_watch.tracks().front();

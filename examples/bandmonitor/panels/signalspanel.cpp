@@ -300,12 +300,15 @@ QString SignalsPanel::text()
 }
 
 /// The focus alone chooses no signal: the toolkit would select the first one, and the cursor of the
-/// spectrum would go there.
+/// spectrum would go there. The box of the row, which gets the focus at once, does the same.
 bool SignalsPanel::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_list && event->type() == QEvent::FocusIn && m_list->currentItem() == nullptr)
+    if (watched == m_list && event->type() == QEvent::FocusIn && m_list->currentItem() == nullptr) {
+        const QScopedValueRollback updating(m_isUpdating, true);
         m_list->selectionModel()->setCurrentIndex(m_list->model()->index(0, Follow),
                                                   QItemSelectionModel::NoUpdate);
+        m_list->clearSelection();
+    }
     return Panel::eventFilter(watched, event);
 }
 
