@@ -76,6 +76,7 @@ WaterfallPane::WaterfallPane(VisibleBand* view, QWidget* parent)
         d->lines.setBand({view->low(), view->high()});
         d->draw();
         d->placeBox.refresh();
+        Q_EMIT timesChanged(); // of sweeps that are gone only the lines had them
     });
 }
 
@@ -112,6 +113,7 @@ void WaterfallPanePrivate::setColors(double low, double high)
     lines.setColors({colorRamp(map), low, high});
     draw();
     Q_EMIT q->levelColorsChanged();
+    Q_EMIT q->timesChanged();
 }
 
 void WaterfallPane::refreshColors()

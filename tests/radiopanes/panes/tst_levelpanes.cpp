@@ -173,7 +173,9 @@ private Q_SLOTS:
         pane.setPosition(m_panes->history().first()); // as in a pause
         QVERIFY(areTimesTrue());
         pane.setPosition(count - 1);
+        const QSignalSpy times(&pane, &WaterfallPane::timesChanged);
         band().zoom(2, centreOf(300));
+        QCOMPARE(times.count(), 1); // those of lines that are gone
         const int zoomed = placeOf(centreOf(300)).x();
         QCOMPARE(picture().pixel(zoomed, 2), loud);
         QVERIFY(picture().pixel(zoomed, 100) != loud);
