@@ -25,6 +25,16 @@ namespace {
 constexpr double zoomPerWheelStep = 1.25;
 constexpr int fastCursorPixels = 10;
 constexpr double panShare = 0.1; // of the visible range, per key press
+
+/// Of the line at the frequency: what is just outside the pane is shown at its edge.
+std::optional<int> lineColumn(const BandPane& pane, double hertz)
+{
+    const double x = std::floor(pane.positionOf(hertz));
+    if (!(x >= -1 && x <= pane.width()))
+        return std::nullopt;
+    return std::clamp(static_cast<int>(x), 0, std::max(pane.width() - 1, 0));
+}
+
 } // namespace
 
 class BandPanePrivate
@@ -133,23 +143,21 @@ void BandPane::followCursor()
     updateAround(d->paintedCursor);
 }
 
-/// Repaints the columns around the frequency.
+/// Repaints the line and its neighbours: in a scaled window it may reach into them.
 void BandPane::updateAround(double hertz)
 {
-    const double x = positionOf(hertz);
-    if (x > -2 && x < width() + 2)
-        update(static_cast<int>(std::floor(x)) - 1, 0, 3, height());
+    if (const std::optional<int> column = lineColumn(*this, hertz))
+        update(*column - 1, 0, 3, height());
 }
 
 void BandPane::paintOverlay(QPainter& painter)
 {
     const auto verticalLine = [&](double hertz, const QColor& color, Qt::PenStyle style) {
-        const int x = static_cast<int>(std::floor(positionOf(hertz)));
-        if (x < -1 || x > width())
+        const std::optional<int> column = lineColumn(*this, hertz);
+        if (!column)
             return;
-        const int inside = std::clamp(x, 0, width() - 1);
         painter.setPen(QPen(color, 1, style));
-        painter.drawLine(inside, 0, inside, height() - 1);
+        painter.drawLine(*column, 0, *column, height() - 1);
     };
     for (const Pin& pin : d->visibleBand->pins())
         verticalLine(pin.hertz, paneColor(PaneSlot::Pin), Qt::DashLine);

@@ -70,12 +70,13 @@ void SpectrumPane::setTrace(Trace trace, const Sweep& sweep,
     state.sweep = pyramid ? sweep : Sweep();
     state.pyramid = std::move(pyramid);
     state.columns.clear();
-    if (trace == Trace::Current)
+    const bool isRead = trace == Trace::Current; // the read-out tells its levels in any case
+    if (isRead)
         d->occupied.reset();
-    if (!state.isVisible)
-        return;
-    d->invalidate();
-    d->showSoon();
+    if (state.isVisible)
+        d->invalidate();
+    if (state.isVisible || isRead)
+        d->showSoon();
 }
 
 void SpectrumPane::setTraceVisible(Trace trace, bool visible)

@@ -15,10 +15,10 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QBackingStore>
 #include <QLineEdit>
 #include <QPainter>
 #include <QScopeGuard>
-#include <QScreen>
 
 #include <algorithm>
 #include <cmath>
@@ -234,7 +234,9 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(m_panes.get()));
         const auto shown = [this] {
             QCoreApplication::sendPostedEvents();
-            return m_panes->screen()->grabWindow(m_panes->winId()).toImage();
+            // The screen would give less of a scaled window.
+            const auto* pixels = dynamic_cast<QImage*>(m_panes->backingStore()->paintDevice());
+            return pixels != nullptr ? pixels->copy() : QImage();
         };
         RandomBytes random("spectrum");
         QImage before;
@@ -259,6 +261,23 @@ private Q_SLOTS:
             spectrum().update();
             QCOMPARE(shown(), image);
         }
+        for (int trace = 0; trace < traceCount; ++trace)
+            spectrum().setTraceVisible(static_cast<Trace>(trace), false);
+        m_panes->waterfall().setFocus();     // a frame would hide the line at the edge
+        for (const int width : {700, 701}) { // scaled, the edge is between pixels
+            m_panes->resize(width, 500);
+            band().setCursor(band().bandHigh());
+            before = shown();
+            band().setCursor(centreOf(bins / 2));
+            const QImage image = shown();
+            spectrum().update();
+            QCOMPARE(shown(), image);
+        }
+        QVERIFY(add(levels(-77)));
+        before = shown();
+        QVERIFY(add(levels(-55))); // only the read-out tells of it
+        const QRect top(0, 0, before.width(), 100);
+        QVERIFY(shown().copy(top) != before.copy(top));
     }
 
     void levelsFollowWheelAndKeys()
