@@ -1,65 +1,29 @@
 // SPDX-License-Identifier: MIT
-#include "support/guardedtest.h"
+#include "levelpanestest.h"
 #include "support/mouse.h"
-#include "support/randombytes.h"
 
 #include <radiopanes/colors/panecolors.h>
 #include <radiopanes/panes/axes.h>
 #include <radiopanes/panes/bandplanrow.h>
-#include <radiopanes/panes/levelpanes.h>
 #include <radiopanes/panes/overviewpane.h>
-#include <radiopanes/panes/spectrumpane.h>
 #include <radiopanes/panes/waterfallpane.h>
-
-#include <guibase/services/guibase.h>
 
 #include <QAction>
 #include <QApplication>
-#include <QBackingStore>
+#include <QImage>
 #include <QLineEdit>
-#include <QPainter>
 #include <QScopeGuard>
 
 #include <algorithm>
 #include <cmath>
 
 using namespace RadioPanes;
+using namespace LevelPanesTesting;
 
-namespace {
-
-constexpr double startHz = -500e3; // baseband
-constexpr double stepHz = 1e3;
-constexpr int bins = 1000;
-const std::vector<int> carriers{200, 300, 800};
-
-/// Noise of -100 dB and carriers of -40 dB.
-std::vector<float> levels(float noise = -100)
-{
-    std::vector<float> result(bins, noise);
-    for (const int carrier : carriers)
-        result[static_cast<size_t>(carrier)] = -40;
-    return result;
-}
-
-double centreOf(int bin)
-{
-    return startHz + (bin + 0.5) * stepHz;
-}
-
-} // namespace
-
-class tst_LevelPanes : public GuardedTest
+class tst_LevelPanes : public LevelPanesTest
 {
     Q_OBJECT
-    std::unique_ptr<LevelPanes> m_panes;
-    quint64 m_timeUs = 0;
 
-    VisibleBand& band() { return m_panes->visibleBand(); }
-    SpectrumPane& spectrum() { return m_panes->spectrum(); }
-    bool add(const std::vector<float>& sweep)
-    {
-        return m_panes->addSweep(++m_timeUs, startHz, stepHz, sweep);
-    }
     QPoint placeOf(double hertz) { return {static_cast<int>(spectrum().positionOf(hertz)), 90}; }
     void drag(QPoint from, QPoint to, Qt::KeyboardModifiers modifiers)
     {
@@ -67,17 +31,6 @@ class tst_LevelPanes : public GuardedTest
         dragMouse(spectrum(), to, modifiers);
         QTest::mouseRelease(&spectrum(), Qt::LeftButton, modifiers, to);
     }
-
-    void prepare() override
-    {
-        GuiBase::Instance().SetFrequencyUnit(UnitPrefix::Kilo);
-        m_panes = std::make_unique<LevelPanes>();
-        m_panes->resize(1000, 600);
-        m_panes->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_panes.get()));
-        QVERIFY(add(levels()));
-    }
-    void tidy() override { m_panes.reset(); }
 
 private Q_SLOTS:
     void levelsAndBandAreThoseOfTheSweeps()
@@ -118,32 +71,6 @@ private Q_SLOTS:
         QCOMPARE(band.pins(), (std::vector<Pin>{{startHz + stepHz, QStringLiteral("early")}}));
         QVERIFY(panes.addSweep(4, startHz - 2e6, 10 * stepHz, levels()));
         QVERIFY(shows(startHz + stepHz) && shows(startHz - 1e6));
-    }
-
-    void waterfallIsTheSameOnEveryCanvas()
-    {
-        for (int i = 0; i < 500; ++i) // the ring of lines goes round
-            QVERIFY(add(levels(static_cast<float>(i % 50 - 100))));
-        WaterfallPane& pane = m_panes->waterfall();
-        const QRegion part = QRegion(10, 11, 300, 30) + QRegion(50, 60, 20, 80);
-        const QPoint offset(7, 5);
-        for (const int zoom : {0, 1}) {
-            pane.setTimeZoom(zoom);
-            const QImage picture = pane.grab().toImage(); // of a pixmap: the toolkit scales
-            for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied,
-                                      QImage::Format_RGB888}) {
-                QImage wanted(pane.size(), format);
-                wanted.fill(Qt::magenta);
-                QImage canvas = wanted;
-                pane.render(&canvas, offset, part);
-                const QPoint move = offset - part.boundingRect().topLeft();
-                QPainter painter(&wanted);
-                painter.setClipRegion(part.translated(move));
-                painter.drawImage(move, picture);
-                painter.end();
-                QVERIFY(canvas == wanted);
-            }
-        }
     }
 
     void oldSweepsGoAndThePicturesStay()
@@ -224,60 +151,6 @@ private Q_SLOTS:
         for (int other = 0; other < traceCount; ++other)
             QVERIFY(other == static_cast<int>(trace) ||
                     paneColor(traceSlot(static_cast<Trace>(other))) != color);
-    }
-
-    /// Also run with windows that are scaled.
-    void paintsAllThatHasChanged()
-    {
-        m_panes->resize(700, 500);
-        m_panes->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_panes.get()));
-        const auto shown = [this] {
-            QCoreApplication::sendPostedEvents();
-            // The screen would give less of a scaled window.
-            const auto* pixels = dynamic_cast<QImage*>(m_panes->backingStore()->paintDevice());
-            return pixels != nullptr ? pixels->copy() : QImage();
-        };
-        RandomBytes random("spectrum");
-        QImage before;
-        for (int round = 0; round < 40; ++round) {
-            std::vector<float> sweep = levels();
-            for (float& level : sweep)
-                level += static_cast<float>(random.below(random.below(2) ? 60 : 5));
-            QVERIFY(add(sweep));
-            if (random.below(4) == 0)
-                band().setCursor(centreOf(random.below(bins)));
-            if (random.below(8) == 0)
-                spectrum().setThreshold(-random.below(100));
-            if (random.below(8) == 0)
-                spectrum().setTraceVisible(Trace::Average, random.below(2) == 0);
-            if (random.below(8) == 0)
-                spectrum().setCaption(QString::number(random.below(1000)));
-            if (random.below(8) == 0)
-                spectrum().grab(); // draws the picture, but not on the screen
-            const QImage image = shown();
-            QVERIFY(!image.isNull() && image != before);
-            before = image;
-            spectrum().update();
-            QCOMPARE(shown(), image);
-        }
-        for (int trace = 0; trace < traceCount; ++trace)
-            spectrum().setTraceVisible(static_cast<Trace>(trace), false);
-        m_panes->waterfall().setFocus();     // a frame would hide the line at the edge
-        for (const int width : {700, 701}) { // scaled, the edge is between pixels
-            m_panes->resize(width, 500);
-            band().setCursor(band().bandHigh());
-            before = shown();
-            band().setCursor(centreOf(bins / 2));
-            const QImage image = shown();
-            spectrum().update();
-            QCOMPARE(shown(), image);
-        }
-        QVERIFY(add(levels(-77)));
-        before = shown();
-        QVERIFY(add(levels(-55))); // only the read-out tells of it
-        const QRect top(0, 0, before.width(), 100);
-        QVERIFY(shown().copy(top) != before.copy(top));
     }
 
     void levelsFollowWheelAndKeys()
